@@ -1,0 +1,51 @@
+# What every target of the tree shares, and the two ways to add one: a room (a library under src/) and a test.
+
+add_library(cantorama_flags INTERFACE)
+target_include_directories(cantorama_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_definitions(cantorama_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
+                                                     QT_STRICT_ITERATORS)
+if(MSVC)
+  target_compile_options(cantorama_flags INTERFACE /W4 /WX /utf-8)
+else()
+  target_compile_options(cantorama_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
+endif()
+if(CANTORAMA_SANITIZE)
+  target_compile_options(cantorama_flags INTERFACE -fsanitize=${CANTORAMA_SANITIZE} -fno-sanitize-recover=all
+                                                   -fno-omit-frame-pointer)
+  target_link_options(cantorama_flags INTERFACE -fsanitize=${CANTORAMA_SANITIZE})
+endif()
+
+# cantorama_room(NAME QT Core Gui SOURCES a.cpp b.cpp USES other rooms)
+function(cantorama_room name)
+  cmake_parse_arguments(ROOM "" "" "QT;SOURCES;USES" ${ARGN})
+  add_library(${name} STATIC ${ROOM_SOURCES})
+  list(TRANSFORM ROOM_QT PREPEND Qt6::)
+  target_link_libraries(${name} PUBLIC cantorama_flags ${ROOM_QT} ${ROOM_USES})
+  if(CANTORAMA_PCH)
+    if("Qt6::Widgets" IN_LIST ROOM_QT)
+      target_precompile_headers(${name} PRIVATE <QtWidgets> <vector> <optional> <functional>)
+    else()
+      target_precompile_headers(${name} PRIVATE <QtGui> <vector> <optional> <functional>)
+    endif()
+  endif()
+endfunction()
+
+# cantorama_test(FILE_WITHOUT_ENDING DISPLAY USES rooms): one program a concept that can fail. With DISPLAY it runs on
+# a virtual X server with a window manager, else on the offscreen platform.
+function(cantorama_test file)
+  cmake_parse_arguments(TEST "DISPLAY" "" "USES;SOURCES" ${ARGN})
+  get_filename_component(name ${file} NAME)
+  add_executable(${name} ${file}.cpp ${TEST_SOURCES})
+  target_link_libraries(${name} PRIVATE cantorama_flags ${TEST_USES} Qt6::Test)
+  target_compile_definitions(${name} PRIVATE SAMPLE_FOLDER="${CMAKE_SOURCE_DIR}/sample/Cantorama")
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  if(TEST_DISPLAY)
+    add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/with_display $<TARGET_FILE:${name}>)
+  else()
+    add_test(NAME ${name} COMMAND ${name})
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+  endif()
+  set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT
+               "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0")
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+endfunction()
