@@ -1,0 +1,91 @@
+#include "platform/code_page.h"
+
+#include <algorithm>
+#include <array>
+
+namespace platform {
+
+namespace {
+
+/// The letters of the bytes 0x80 to 0x9F; every other byte is the letter of its own value.
+constexpr std::array<char16_t, 32> UpperControls = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,
+};
+
+constexpr int FirstOfTable = 0x80;
+
+constexpr char16_t letterOf(unsigned char byte) {
+  const int place = byte - FirstOfTable;
+  return place >= 0 && place < int(UpperControls.size()) ? UpperControls[std::size_t(place)] : char16_t(byte);
+}
+
+constexpr unsigned char upperByte(unsigned char byte) {
+  if (byte >= 'a' && byte <= 'z') return static_cast<unsigned char>(byte - 0x20);
+  if (byte >= 0xE0 && byte <= 0xFE && byte != 0xF7) return static_cast<unsigned char>(byte - 0x20);
+  if (byte == 0x9A || byte == 0x9C || byte == 0x9E) return static_cast<unsigned char>(byte - 0x10);
+  return byte == 0xFF ? 0x9F : byte;
+}
+
+constexpr auto UpperBytes = [] {
+  std::array<char, 256> table{};
+  for (std::size_t i = 0; i < table.size(); ++i) table[i] = static_cast<char>(upperByte(static_cast<unsigned char>(i)));
+  return table;
+}();
+
+std::optional<unsigned char> byteOf(char16_t letter) {
+  if (letter <= 0xFF && letterOf(static_cast<unsigned char>(letter)) == letter) {
+    return static_cast<unsigned char>(letter);
+  }
+  const auto found = std::find(UpperControls.begin(), UpperControls.end(), letter);
+  if (found == UpperControls.end()) return std::nullopt;
+  return static_cast<unsigned char>(FirstOfTable + (found - UpperControls.begin()));
+}
+
+char16_t upperLetter(QChar letter) {
+  const auto byte = byteOf(letter.unicode());
+  return byte ? letterOf(upperByte(*byte)) : letter.unicode();
+}
+
+}  // namespace
+
+QString FromAnsi(QByteArrayView bytes) {
+  QString text(bytes.size(), Qt::Uninitialized);
+  std::transform(bytes.begin(), bytes.end(), text.begin(),
+                 [](char byte) { return QChar(letterOf(static_cast<unsigned char>(byte))); });
+  return text;
+}
+
+std::optional<QByteArray> ToAnsi(QStringView text) {
+  QByteArray bytes;
+  bytes.reserve(text.size());
+  for (const QChar letter : text) {
+    const auto byte = byteOf(letter.unicode());
+    if (!byte) return std::nullopt;
+    bytes.append(static_cast<char>(*byte));
+  }
+  return bytes;
+}
+
+QString UpperCase(QStringView text) {
+  QString upper(text.size(), Qt::Uninitialized);
+  std::transform(text.begin(), text.end(), upper.begin(), [](QChar letter) { return QChar(upperLetter(letter)); });
+  return upper;
+}
+
+char UpperCaseByte(char byte) {
+  return UpperBytes[static_cast<unsigned char>(byte)];
+}
+
+bool NameLess(QStringView a, QStringView b) {
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                      [](QChar x, QChar y) { return upperLetter(x) < upperLetter(y); });
+}
+
+bool SameName(QStringView a, QStringView b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](QChar x, QChar y) { return upperLetter(x) == upperLetter(y); });
+}
+
+}  // namespace platform

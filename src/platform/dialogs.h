@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+
+#include <QColor>
+#include <QString>
+
+class QWidget;
+
+namespace platform {
+
+enum class BoxKind {
+  Error,           ///< critical icon, OK
+  YesNoDefaultNo,  ///< critical icon, Yes and No, No is the default button
+};
+
+enum class BoxAnswer { Ok, Yes, No };
+
+struct FileRequest {
+  QString title;
+  QString filter;    ///< pairs "description|pattern;pattern", separated by "|"
+  QString fileName;  ///< proposed name, may be empty
+  QString folder;    ///< where the dialog opens, may be empty
+};
+
+/// Everything that asks the user in a window of its own. Tests script the answers. `parent` is the form whose control
+/// was used, or null.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  /// Shows `text` under `title`; an empty title shows the program's name.
+  virtual BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title, BoxKind kind) = 0;
+  /// Asks for one line of text; Cancel gives an empty one.
+  virtual QString InputBox(QWidget* parent, const QString& prompt, const QString& title) = 0;
+  /// Asks for one existing file; gives its path with the program's separators ("\"), Cancel gives an empty path.
+  virtual QString OpenFile(QWidget* parent, const FileRequest& request) = 0;
+  /// Asks for a colour, opening on `present`; Cancel gives none.
+  virtual std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) = 0;
+};
+
+}  // namespace platform

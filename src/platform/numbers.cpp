@@ -1,0 +1,92 @@
+#include "platform/numbers.h"
+
+#include <cmath>
+#include <limits>
+
+namespace platform {
+
+namespace {
+
+constexpr QChar Blank(0x20);
+constexpr int SignificantDigits = 15;
+
+bool isDigit(QChar letter) {
+  return letter >= QChar(u'0') && letter <= QChar(u'9');
+}
+
+template <typename Whole>
+std::optional<Whole> roundTo(double number) {
+  const double rounded = std::nearbyint(number);
+  if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max())) {
+    return std::nullopt;
+  }
+  return static_cast<Whole>(rounded);
+}
+
+}  // namespace
+
+double NumberOf(QStringView text) {
+  qsizetype at = 0;
+  while (at < text.size() && text[at] == Blank) ++at;
+  const bool negative = at < text.size() && text[at] == u'-';
+  if (at < text.size() && (text[at] == u'-' || text[at] == u'+')) ++at;
+
+  QByteArray digits;
+  bool point = false;
+  bool any = false;
+  for (; at < text.size(); ++at) {
+    if (isDigit(text[at])) {
+      any = true;
+    } else if (text[at] == u'.' && !point) {
+      point = true;
+      if (!any) digits += '0';
+    } else {
+      break;
+    }
+    digits += static_cast<char>(text[at].unicode());
+  }
+  if (!any) return 0;
+  const double number = digits.toDouble();  // infinite beyond a double's range
+  return negative ? -number : number;
+}
+
+std::optional<qint16> RoundToInt16(double number) {
+  return roundTo<qint16>(number);
+}
+
+std::optional<quint8> RoundToByte(double number) {
+  return roundTo<quint8>(number);
+}
+
+QString NumberText(double number) {
+  if (!std::isfinite(number)) return QString::number(number);
+  // Digits and exponent first, since the number of decimals that keeps 15 digits depends on the exponent.
+  const QByteArray scientific = QByteArray::number(number, 'e', SignificantDigits - 1);
+  const int exponent = scientific.mid(scientific.indexOf('e') + 1).toInt();
+  QByteArray digits = scientific.left(scientific.indexOf('e'));
+  const bool negative = digits.startsWith('-');
+  digits.replace("-", "").replace(".", "");
+  while (digits.size() > 1 && digits.endsWith('0')) digits.chop(1);
+  if (digits == "0") return QStringLiteral("0");
+
+  if (exponent < 0) {
+    digits = "0." + QByteArray(-exponent - 1, '0') + digits;
+  } else if (digits.size() <= exponent + 1) {
+    digits += QByteArray(exponent + 1 - digits.size(), '0');
+  } else {
+    digits.insert(exponent + 1, '.');
+  }
+  return QString::fromLatin1(negative ? "-" + digits : digits);
+}
+
+QString TrimBlanks(QStringView text) {
+  while (text.startsWith(Blank)) text = text.sliced(1);
+  while (text.endsWith(Blank)) text.chop(1);
+  return text.toString();
+}
+
+QStringList SplitAtBlanks(QStringView text) {
+  return text.toString().split(Blank);
+}
+
+}  // namespace platform

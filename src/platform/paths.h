@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+/// Paths of the program are written with the backslash and may hold doubled separators. They meet the file system here.
+namespace platform {
+
+/// The path as the file system takes it: "/" as separator, doubled separators one. Where the file system tells case
+/// apart, a component that isn't there as written is looked up without regard to case (of several, the first in byte
+/// order); what can't be found stays as written.
+QString NativePath(const QString& path);
+
+/// The two steps of NativePath, for who touches the file at once and needs the second only when it isn't there: the
+/// path with its separators mapped, and the look-up without regard to case.
+QString PlainPath(const QString& path);
+QString FindPath(const QString& plain);
+
+/// The program's form of a native path: "\" as separator.
+QString ProgramPath(const QString& nativePath);
+
+/// True when both name the same existing folder.
+bool SameFolder(const QString& a, const QString& b);
+
+}  // namespace platform

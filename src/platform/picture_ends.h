@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QByteArrayView>
+
+/// Whether a picture's file holds all of its pixels. The decoders fill up what a cut or damaged file lacks and call it
+/// a success; here the structure of the file is walked, and no pixel decoded. The bytes begin with the mark of their
+/// kind.
+namespace platform {
+
+/// A run-length coded one that leaves pixels out counts as cut.
+bool IsWholeBmp(QByteArrayView bytes);
+/// To the end of the first frame.
+bool IsWholeGif(QByteArrayView bytes);
+/// To the end marker of the picture, not of one embedded in it.
+bool IsWholeJpeg(QByteArrayView bytes);
+bool IsWholePng(QByteArrayView bytes);
+
+}  // namespace platform

@@ -1,0 +1,68 @@
+#include "platform/pictures.h"
+
+#include <cstdlib>
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QImageReader>
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/picture_ends.h"
+
+namespace platform {
+
+namespace {
+
+/// The largest picture that is decoded: 256 MB as 32-bit pixels.
+constexpr int LargestMegabytes = 256;
+constexpr qint64 LargestPixels = qint64(LargestMegabytes) * 1024 * 1024 / 4;
+
+struct Kind {
+  const char* mark;  ///< the bytes at the head of such a file
+  const char* format;
+  bool (*isWhole)(QByteArrayView bytes);
+};
+
+constexpr Kind Kinds[] = {
+    {"BM", "bmp", IsWholeBmp},
+    {"GIF8", "gif", IsWholeGif},
+    {"\xFF\xD8\xFF", "jpeg", IsWholeJpeg},
+    {"\x89PNG\r\n\x1A\n", "png", IsWholePng},
+};
+
+const Kind* kindOf(QByteArrayView bytes) {
+  for (const Kind& kind : Kinds) {
+    if (bytes.startsWith(kind.mark)) return &kind;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+QImage DecodePicture(QByteArrayView bytes) {
+  const Kind* const kind = kindOf(bytes);
+  if (!kind || !kind->isWhole(bytes)) return {};
+  QByteArray data = QByteArray::fromRawData(bytes.data(), bytes.size());
+  QBuffer buffer(&data);
+  QImageReader::setAllocationLimit(LargestMegabytes);
+  QImageReader reader(&buffer, kind->format);
+  reader.setAutoDetectImageFormat(false);
+  reader.setAutoTransform(false);
+  const QSize size = reader.size();
+  if (std::abs(qint64(size.width()) * size.height()) > LargestPixels) return {};  // rows from top down: below 0
+  QImage picture = reader.read();
+  if (picture.isNull()) return {};
+  picture.setColorSpace({});
+  return std::move(picture).convertToFormat(QImage::Format_ARGB32);
+}
+
+QImage LoadPicture(const QString& path) {
+  try {
+    return DecodePicture(ReadFile(path));
+  } catch (const Failure&) {
+    return {};
+  }
+}
+
+}  // namespace platform

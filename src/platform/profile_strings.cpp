@@ -1,0 +1,194 @@
+#include "platform/profile_strings.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "platform/code_page.h"
+
+namespace platform {
+
+namespace {
+
+bool isBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+
+bool isLineEnd(char c) {
+  return c == '\n' || c == '\r';
+}
+
+QByteArrayView trimmed(QByteArrayView text) {
+  while (!text.isEmpty() && isBlank(text.front())) text = text.sliced(1);
+  while (!text.isEmpty() && isBlank(text.back())) text.chop(1);
+  return text;
+}
+
+bool sameName(QByteArrayView a, QByteArrayView b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return UpperCaseByte(x) == UpperCaseByte(y); });
+}
+
+/// Where the text of the line at `at` ends.
+const char* lineTextEnd(const char* at, const char* fileEnd) {
+  return std::find_if(at, fileEnd, isLineEnd);
+}
+
+/// Where the next line starts, `textEnd` being the end of a line's text.
+const char* nextLine(const char* textEnd, const char* fileEnd) {
+  if (textEnd == fileEnd) return fileEnd;
+  const bool two = *textEnd == '\r' && textEnd + 1 != fileEnd && textEnd[1] == '\n';
+  return textEnd + (two ? 2 : 1);
+}
+
+bool standsAtHead(const char* place, const char* fileBegin) {
+  while (place != fileBegin && isBlank(place[-1])) --place;
+  return place == fileBegin || isLineEnd(place[-1]);
+}
+
+/// Whether nothing but blanks stands at `at` up to the "]" of a section line, which may be missing.
+bool endsName(const char* at, const char* fileEnd) {
+  while (at != fileEnd && isBlank(*at)) ++at;
+  return at == fileEnd || *at == ']' || isLineEnd(*at);
+}
+
+/// The line behind the line of the first section of that name; null without one. Most sections drop out by the first or
+/// the last letter of the name.
+const char* findSection(QByteArrayView file, QByteArrayView name) {
+  const char* const end = file.end();
+  const qsizetype length = name.size();
+  const char first = length > 0 ? UpperCaseByte(name.front()) : '\0';
+  const char last = length > 0 ? UpperCaseByte(name.back()) : '\0';
+  if (std::any_of(name.begin(), name.end(), [](char c) { return c == ']' || isLineEnd(c); })) return nullptr;
+  for (const char* at = file.begin(); at != end;) {
+    const auto* bracket = static_cast<const char*>(std::memchr(at, '[', std::size_t(end - at)));
+    if (!bracket) return nullptr;
+    at = bracket + 1;
+    while (at != end && isBlank(*at)) ++at;
+    if (end - at < length) return nullptr;
+    if (length > 0 && (UpperCaseByte(at[length - 1]) != last || UpperCaseByte(*at) != first)) continue;
+    if (!endsName(at + length, end) || !sameName({at, length}, name) || !standsAtHead(bracket, file.begin())) continue;
+    return nextLine(lineTextEnd(at + length, end), end);
+  }
+  return nullptr;
+}
+
+struct KeyLine {
+  QByteArrayView key;
+  const char* begin;    ///< of the whole line
+  const char* value;    ///< directly behind the "="
+  const char* textEnd;  ///< in front of the line's end
+  const char* next;     ///< behind the line's end
+};
+
+/// Walks the key lines of the section whose lines begin at `at`.
+class KeyLines {
+ public:
+  KeyLines(const char* at, const char* fileEnd) : at_(at), end_(fileEnd) {}
+
+  std::optional<KeyLine> next() {
+    while (at_ != end_) {
+      const char* const begin = at_;
+      const char* const head = std::find_if_not(begin, end_, isBlank);
+      if (head != end_ && *head == '[') return std::nullopt;
+      const char* const textEnd = lineTextEnd(head, end_);
+      at_ = nextLine(textEnd, end_);
+      if (head == textEnd || *head == ';' || *head == '=') continue;
+      const char* const sign = std::find(head, textEnd, '=');
+      if (sign != textEnd) return KeyLine{trimmed({head, sign}), begin, sign + 1, textEnd, at_};
+    }
+    return std::nullopt;
+  }
+
+  std::optional<KeyLine> find(QByteArrayView key) {
+    auto line = next();
+    while (line && !sameName(line->key, key)) line = next();
+    return line;
+  }
+
+ private:
+  const char* at_;
+  const char* end_;
+};
+
+/// The end of the file's first line, CR LF when it has none.
+QByteArray firstLineEnd(QByteArrayView file) {
+  const char* textEnd = lineTextEnd(file.begin(), file.end());
+  const char* next = nextLine(textEnd, file.end());
+  return textEnd == next ? QByteArray("\r\n") : QByteArray(textEnd, next - textEnd);
+}
+
+QByteArray replaced(QByteArrayView file, const char* from, const char* to, QByteArrayView text) {
+  QByteArray result;
+  result.reserve(file.size() + text.size());
+  return result.append(QByteArrayView(file.begin(), from)).append(text).append(QByteArrayView(to, file.end()));
+}
+
+bool fitsOneLine(QByteArrayView text) {
+  return std::none_of(text.begin(), text.end(), [](char c) { return isLineEnd(c) || c == '\0'; });
+}
+
+/// Whether a line written for these names could be found again.
+bool canBeFound(QByteArrayView section, QByteArrayView key) {
+  return fitsOneLine(section) && !section.contains(']') && fitsOneLine(key) && !key.isEmpty() && !key.contains('=') &&
+         key.front() != ';' && key.front() != '[';
+}
+
+}  // namespace
+
+std::optional<QByteArray> FindProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const char* const lines = findSection(file, trimmed(section));
+  if (!lines) return std::nullopt;
+  const auto line = KeyLines(lines, file.end()).find(trimmed(key));
+  if (!line) return std::nullopt;
+  QByteArrayView value = trimmed({line->value, line->textEnd});
+  const bool quoted =
+      value.size() > 1 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
+  if (quoted) value = value.sliced(1, value.size() - 2);
+  return value.toByteArray();
+}
+
+QByteArray ListProfileKeys(QByteArrayView file, QByteArrayView section) {
+  QByteArray keys;
+  const char* const lines = findSection(file, trimmed(section));
+  if (!lines) return keys;
+  KeyLines walk(lines, file.end());
+  while (const auto line = walk.next()) keys.append(line->key).append('\0');
+  return keys;
+}
+
+std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                          QByteArrayView value) {
+  section = trimmed(section);
+  key = trimmed(key);
+  if (!canBeFound(section, key) || !fitsOneLine(value)) return std::nullopt;
+  const QByteArray lineEnd = firstLineEnd(file);
+  QByteArray added = key.toByteArray() + '=' + value.toByteArray() + lineEnd;
+
+  const char* place = findSection(file, section);
+  if (place) {
+    KeyLines walk(place, file.end());
+    while (const auto line = walk.next()) {
+      if (sameName(line->key, key)) {
+        if (QByteArrayView(line->value, line->textEnd) == value) return std::nullopt;
+        return replaced(file, line->value, line->textEnd, value);
+      }
+      place = line->next;
+    }
+  } else {
+    place = file.end();
+    added.prepend('[' + section.toByteArray() + ']' + lineEnd);
+  }
+  const bool openLine = place != file.begin() && !isLineEnd(place[-1]);
+  if (openLine) added.prepend(lineEnd);
+  return replaced(file, place, place, added);
+}
+
+std::optional<QByteArray> RemoveProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const char* const lines = findSection(file, trimmed(section));
+  if (!lines) return std::nullopt;
+  const auto line = KeyLines(lines, file.end()).find(trimmed(key));
+  if (!line) return std::nullopt;
+  return replaced(file, line->begin, line->next, {});
+}
+
+}  // namespace platform

@@ -1,0 +1,101 @@
+#include "platform/surface.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include "platform/fonts.h"
+
+namespace platform {
+
+namespace {
+
+constexpr int DotsPerMeter = 3780;  // 96 an inch
+constexpr float LargestPoints = 2160;
+constexpr float StartPoints = 8.25F;
+
+QFont fontOf(const QString& face, float points) {
+  QFont font = FaceFont(face);
+  font.setPointSizeF(double(points));
+  return font;
+}
+
+}  // namespace
+
+Surface::Surface() : ForeColor(Qt::black), image_(Width, Height, QImage::Format_RGB32) {
+  image_.setDotsPerMeterX(DotsPerMeter);
+  image_.setDotsPerMeterY(DotsPerMeter);
+  image_.fill(Qt::black);
+  SetFontName(QStringLiteral("MS Sans Serif"));
+  SetFontSize(StartPoints);
+}
+
+void Surface::Wipe(const QColor& color) {
+  image_.fill(color);
+  mark(image_.rect());
+}
+
+void Surface::DrawImageRect(const QImage& picture, int x, int y, int w, int h) {
+  const QRectF target(x, y, w, h);
+  const QRectF shown = target & QRectF(image_.rect());
+  if (picture.isNull() || w <= 0 || h <= 0 || shown.isEmpty()) return;
+  QImage source = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  source.setDevicePixelRatio(1);
+  QPainter painter(&image_);
+  if (source.width() == w && source.height() == h) {
+    painter.drawImage(x, y, source);
+  } else {
+    painter.setClipRect(image_.rect());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, source);
+  }
+  mark(shown.toRect());
+}
+
+void Surface::DrawImage(const QImage& picture, int x, int y) {
+  DrawImageRect(picture, x, y, picture.width(), picture.height());
+}
+
+void Surface::SetFontName(const QString& face) {
+  fontName_ = face;
+}
+
+void Surface::SetFontSize(float points) {
+  if (points > 0) fontSize_ = std::min(points, LargestPoints);
+}
+
+double Surface::TextWidth(const QString& text) const {
+  return QFontMetricsF(fontOf(fontName_, fontSize_), &image_).horizontalAdvance(text);
+}
+
+double Surface::TextHeight(const QString&) const {
+  return QFontMetricsF(fontOf(fontName_, fontSize_), &image_).height();
+}
+
+void Surface::Print(const QString& text) {
+  const QFont font = fontOf(fontName_, fontSize_);
+  const QFontMetricsF metrics(font, &image_);
+  const QPointF baseline(double(CurrentX), double(CurrentY) + metrics.ascent());
+  // A pixel more on each side, for the soft edges.
+  const QRectF ink = metrics.boundingRect(text).translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
+  if (ink.isEmpty()) return;
+  QPainter painter(&image_);
+  painter.setFont(font);
+  painter.setPen(ForeColor);
+  painter.setRenderHint(QPainter::TextAntialiasing);
+  painter.drawText(baseline, text);
+  mark(ink.toAlignedRect());
+}
+
+QRect Surface::TakeDirty() {
+  return std::exchange(dirty_, QRect());
+}
+
+void Surface::mark(const QRect& rectangle) {
+  dirty_ |= rectangle & image_.rect();
+}
+
+}  // namespace platform
