@@ -1,0 +1,74 @@
+#include "controls/combo_box.h"
+
+#include <algorithm>
+
+#include <QAbstractItemView>
+#include <QScreen>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+#include "platform/failure.h"
+
+namespace controls {
+
+namespace {
+
+constexpr int ShownRows = 20;
+
+}  // namespace
+
+ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  setMaxVisibleItems(ShownRows);
+  connect(this, &QComboBox::activated, this, [this] { Q_EMIT Click(Cause::User); });
+}
+
+void ComboBox::Clear() {
+  clear();
+}
+
+void ComboBox::AddItem(const QString& text) {
+  const int selected = currentIndex();
+  addItem(text);
+  setCurrentIndex(selected);
+}
+
+void ComboBox::RemoveItem(int index) {
+  if (index < 0 || index >= count()) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
+  if (index == currentIndex()) setCurrentIndex(-1);
+  removeItem(index);
+}
+
+void ComboBox::SetListIndex(int index) {
+  if (index < -1 || index >= count()) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
+  setCurrentIndex(index);
+  if (index >= 0) Q_EMIT Click(Cause::Code);
+}
+
+void ComboBox::SetText(const QString& text) {
+  const int index = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (index < 0) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
+  SetListIndex(index);
+}
+
+void ComboBox::wheelEvent(QWheelEvent* event) {
+  if (hasFocus()) {
+    QComboBox::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+void ComboBox::showPopup() {
+  const QRect desktop = screen()->availableGeometry();
+  const int frame = 2 * view()->frameWidth() + 2;
+  const int bar = count() > ShownRows ? view()->verticalScrollBar()->sizeHint().width() : 0;
+  const int longest = view()->sizeHintForColumn(0) + frame + bar;
+  view()->setMinimumWidth(std::clamp(longest, width(), std::max(width(), desktop.width())));
+  QComboBox::showPopup();
+  QWidget* popup = view()->window();
+  const int beyond = popup->geometry().right() - desktop.right();
+  if (beyond > 0) popup->move(std::max(desktop.left(), popup->x() - beyond), popup->y());
+}
+
+}  // namespace controls

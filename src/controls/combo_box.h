@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "controls/cause.h"
+
+namespace controls {
+
+/// A drop-down list that takes no free text. Filling, clearing and removing select nothing and fire nothing; a written
+/// ListIndex and the user's own choice fire Click, also when the entry is the one that was selected before.
+class ComboBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  explicit ComboBox(QWidget* parent = nullptr);
+
+  void Clear();
+  void AddItem(const QString& text);
+  /// Removes the entry; nothing is selected afterwards when it was the selected one.
+  void RemoveItem(int index);
+  int ListCount() const { return count(); }
+  QString List(int index) const { return itemText(index); }
+  int ListIndex() const { return currentIndex(); }
+  /// -1 selects nothing and fires no Click. Throws platform::Failure for an index outside the list.
+  void SetListIndex(int index);
+  /// Text of the selected entry, empty without one.
+  QString Text() const { return currentText(); }
+  /// Selects the first entry equal to `text`, case included, as SetListIndex does. Throws platform::Failure without
+  /// one.
+  void SetText(const QString& text);
+
+  /// Twenty rows, as wide as the longest entry.
+  void showPopup() override;
+
+ Q_SIGNALS:
+  void Click(controls::Cause cause);
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+}  // namespace controls

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QListWidget>
+
+#include "controls/cause.h"
+
+namespace controls {
+
+/// A list box of one column and one selected row. A sorted one keeps its rows in the order of platform::NameLess
+/// (equal names in the order in which they came); a selected row stays selected when others come before it.
+/// Click fires for a written ListIndex, a mouse click on a row (also on the selected one) and a change by the keyboard.
+class ListBox : public QListWidget {
+  Q_OBJECT
+
+ public:
+  enum class Order { AsAdded, Sorted };
+  explicit ListBox(Order order, QWidget* parent = nullptr);
+
+  /// Removes all rows; fires nothing.
+  void Clear();
+  void AddItem(const QString& text);
+  int ListCount() const { return count(); }
+  QString List(int index) const;
+  /// Number of the selected row, -1 without one.
+  int ListIndex() const;
+  /// -1 selects nothing and fires no Click. Throws platform::Failure for a row outside the list.
+  void SetListIndex(int index);
+  /// Text of the selected row, empty without one.
+  QString Text() const;
+  /// Plain text tool tip of a row (never taken for rich text); empty removes it.
+  void SetToolTip(int index, const QString& text);
+
+ Q_SIGNALS:
+  void Click(controls::Cause cause);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void select(int row);
+
+  Order order_;
+};
+
+}  // namespace controls

@@ -1,0 +1,75 @@
+#include "controls/native_dialogs.h"
+
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+
+#include "platform/paths.h"
+
+namespace controls {
+
+namespace {
+
+constexpr int InputBoxWidth = 360;
+
+}  // namespace
+
+platform::BoxAnswer NativeDialogs::MessageBox(QWidget* parent, const QString& text, const QString& title,
+                                              platform::BoxKind kind) {
+  const bool question = kind == platform::BoxKind::YesNoDefaultNo;
+  QMessageBox box(parent);
+  box.setIcon(QMessageBox::Critical);
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowTitle(title.isEmpty() ? QGuiApplication::applicationDisplayName() : title);
+  box.setText(text);
+  box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
+  box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
+  const int pressed = box.exec();
+  if (!question) return platform::BoxAnswer::Ok;
+  return pressed == QMessageBox::Yes ? platform::BoxAnswer::Yes : platform::BoxAnswer::No;
+}
+
+QString NativeDialogs::InputBox(QWidget* parent, const QString& prompt, const QString& title) {
+  QInputDialog dialog(parent);
+  dialog.setInputMode(QInputDialog::TextInput);
+  dialog.setWindowTitle(title);
+  dialog.setLabelText(prompt);
+  for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+  dialog.resize(InputBoxWidth, dialog.sizeHint().height());
+  return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
+QString NativeDialogs::OpenFile(QWidget* parent, const platform::FileRequest& request) {
+  QFileDialog dialog(parent, request.title);
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  dialog.setNameFilters(NameFilters(request.filter));
+  if (!request.folder.isEmpty()) dialog.setDirectory(platform::NativePath(request.folder));
+  if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
+  if (dialog.exec() != QDialog::Accepted) return {};
+  const QStringList files = dialog.selectedFiles();
+  return files.isEmpty() ? QString() : platform::ProgramPath(files.first());
+}
+
+std::optional<QColor> NativeDialogs::ChooseColor(QWidget* parent, const QColor& present) {
+  QColorDialog dialog(present, parent);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  return dialog.selectedColor();
+}
+
+QStringList NameFilters(const QString& filter) {
+  QStringList filters;
+  const QStringList parts = filter.split(u'|');
+  for (int i = 0; i + 1 < parts.size(); i += 2) {
+    const QString patterns = parts[i + 1].split(u';', Qt::SkipEmptyParts).join(u' ');
+    filters.append(parts[i] + QStringLiteral(" (") + patterns + u')');
+  }
+  return filters;
+}
+
+}  // namespace controls

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/dialogs.h"
+
+namespace controls {
+
+/// The dialogs of the toolkit and the desktop. Texts are plain, whatever they hold. On the closing of the main window
+/// each dialog gets Cancel (an ordinary reject of the active modal window).
+class NativeDialogs : public platform::Dialogs {
+ public:
+  platform::BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title,
+                                 platform::BoxKind kind) override;
+  QString InputBox(QWidget* parent, const QString& prompt, const QString& title) override;
+  QString OpenFile(QWidget* parent, const platform::FileRequest& request) override;
+  std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) override;
+};
+
+/// The name filters of a file dialog, from pairs "description|*.a;*.b" separated by "|".
+QStringList NameFilters(const QString& filter);
+
+}  // namespace controls

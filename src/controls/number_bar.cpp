@@ -1,0 +1,37 @@
+#include "controls/number_bar.h"
+
+#include <algorithm>
+
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+namespace controls {
+
+NumberBar::NumberBar(int limit, int value, QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
+  setRange(-limit, limit);
+  setSingleStep(1);
+  setPageStep(1);
+  setValue(-value);
+  setFocusPolicy(Qt::StrongFocus);
+  setContextMenuPolicy(Qt::PreventContextMenu);
+  connect(this, &QScrollBar::valueChanged, this, &NumberBar::Change);
+}
+
+void NumberBar::SetValue(int value) {
+  setValue(-std::clamp(value, -Limit(), Limit()));
+}
+
+void NumberBar::SetValueQuietly(int value) {
+  const QSignalBlocker quiet(this);
+  SetValue(value);
+}
+
+void NumberBar::wheelEvent(QWheelEvent* event) {
+  if (hasFocus()) {
+    QScrollBar::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+}  // namespace controls

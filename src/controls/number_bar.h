@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QScrollBar>
+
+namespace controls {
+
+/// A vertical scroll bar for a number: its upper arrow, the Up key and a wheel turned away raise the value. Steps of 1.
+class NumberBar : public QScrollBar {
+  Q_OBJECT
+
+ public:
+  /// Range -limit to limit; stands at `value`.
+  NumberBar(int limit, int value, QWidget* parent = nullptr);
+
+  int Limit() const { return maximum(); }
+  int Value() const { return -value(); }
+  /// Fires Change when the value differs. A value beyond the range goes to its end.
+  void SetValue(int value);
+  /// The same without a Change.
+  void SetValueQuietly(int value);
+
+ Q_SIGNALS:
+  void Change();
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+};
+
+}  // namespace controls

@@ -1,0 +1,28 @@
+#include "controls/row_keys.h"
+
+#include <algorithm>
+
+#include <Qt>
+
+namespace controls {
+
+std::optional<int> RowForKey(int key, int selected, int rows, int page) {
+  const struct {
+    int key;
+    int target;
+  } moves[] = {
+      {Qt::Key_Up, selected - 1},
+      {Qt::Key_Down, selected + 1},
+      {Qt::Key_PageUp, selected - page},
+      {Qt::Key_PageDown, selected + page},
+      {Qt::Key_Home, 0},
+      {Qt::Key_End, rows - 1},
+  };
+  if (rows == 0) return std::nullopt;
+  for (const auto& move : moves) {
+    if (move.key == key) return std::clamp(move.target, 0, rows - 1);
+  }
+  return std::nullopt;
+}
+
+}  // namespace controls

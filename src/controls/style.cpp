@@ -1,0 +1,96 @@
+#include "controls/style.h"
+
+#include <QPainter>
+#include <QPalette>
+#include <QStyleOption>
+
+#include "platform/system_colors.h"
+
+namespace controls {
+
+namespace {
+
+constexpr int ArrowWidth = 16;
+constexpr int TitleIndent = 8;
+constexpr int TitleMargin = 2;
+
+/// What each part of a control takes of the system colours, by index; disabled controls, too.
+constexpr struct {
+  QPalette::ColorRole role;
+  int color;
+  int disabled;
+} Roles[] = {
+    {QPalette::Window, 15, 15},      {QPalette::WindowText, 18, 17},
+    {QPalette::Base, 5, 15},         {QPalette::AlternateBase, 5, 15},
+    {QPalette::Text, 8, 17},         {QPalette::PlaceholderText, 17, 17},
+    {QPalette::Button, 15, 15},      {QPalette::ButtonText, 18, 17},
+    {QPalette::BrightText, 14, 14},  {QPalette::Light, 20, 20},
+    {QPalette::Midlight, 22, 22},    {QPalette::Mid, 16, 16},
+    {QPalette::Dark, 16, 16},        {QPalette::Shadow, 21, 21},
+    {QPalette::Highlight, 13, 16},   {QPalette::HighlightedText, 14, 14},
+    {QPalette::Link, 13, 17},        {QPalette::LinkVisited, 13, 17},
+    {QPalette::ToolTipBase, 24, 24}, {QPalette::ToolTipText, 23, 23},
+};
+
+/// A frame with its title on the upper line.
+void DrawGroupBox(const QStyleOptionGroupBox& box, QPainter& painter, const QStyle& style) {
+  const QSize text = box.fontMetrics.size(Qt::TextShowMnemonic, box.text);
+  const QRect title(box.rect.left() + TitleIndent, box.rect.top(), text.width() + 2 * TitleMargin, text.height());
+  painter.save();
+  if (!box.text.isEmpty()) painter.setClipRegion(QRegion(box.rect) - title);
+  painter.setPen(box.palette.color(QPalette::Light));
+  const QRect frame = box.rect.adjusted(0, text.height() / 2, -2, -2);
+  painter.drawRect(frame.translated(1, 1));
+  painter.setPen(box.palette.color(QPalette::Dark));
+  painter.drawRect(frame);
+  painter.restore();
+  const bool enabled = box.state.testFlag(QStyle::State_Enabled);
+  style.drawItemText(&painter, title, Qt::AlignCenter | Qt::TextShowMnemonic, box.palette, enabled, box.text,
+                     QPalette::WindowText);
+}
+
+}  // namespace
+
+Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+QPalette Style::standardPalette() const {
+  QPalette palette;
+  for (const auto& [role, color, disabled] : Roles) {
+    palette.setColor(QPalette::Active, role, platform::SystemColor(color));
+    palette.setColor(QPalette::Inactive, role, platform::SystemColor(color));
+    palette.setColor(QPalette::Disabled, role, platform::SystemColor(disabled));
+  }
+  return palette;
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* result) const {
+  switch (hint) {
+    case SH_ComboBox_Popup:  // no: a list below the box, of limited height
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_ItemView_ActivateItemOnSingleClick:
+      return 0;
+    default:
+      return QProxyStyle::styleHint(hint, option, widget, result);
+  }
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                            const QWidget* widget) const {
+  const QRect box = option->rect;
+  if (control == CC_ComboBox && part == SC_ComboBoxArrow) return box.adjusted(box.width() - ArrowWidth, 0, -2, 0);
+  if (control == CC_ComboBox && part == SC_ComboBoxEditField) return box.adjusted(3, 1, -ArrowWidth, -1);
+  return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
+                               const QWidget* widget) const {
+  const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+  if (control == CC_GroupBox && box != nullptr) {
+    DrawGroupBox(*box, *painter, *this);
+  } else {
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
+  }
+}
+
+}  // namespace controls

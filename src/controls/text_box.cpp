@@ -1,0 +1,104 @@
+#include "controls/text_box.h"
+
+#include <algorithm>
+
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+#include <QRegularExpression>
+#include <QSignalBlocker>
+
+namespace controls {
+
+TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
+  connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
+}
+
+void TextBox::SetText(const QString& text) {
+  if (text == this->text()) return;
+  // While the user types, what stands behind the caret stays behind it; else the head of the text shows.
+  const auto behind = this->text().size() - cursorPosition();
+  {
+    const QSignalBlocker quiet(this);
+    setText(text);
+    setCursorPosition(hasFocus() ? static_cast<int>(std::max<qsizetype>(0, text.size() - behind)) : 0);
+  }
+  Q_EMIT textChanged(text);
+}
+
+QString TextBox::filtered(QString text) const {
+  static const QRegularExpression lineEnd(QStringLiteral("\r\n|[\n\r\u2028\u2029]"));
+  text.replace(lineEnd, QStringLiteral(" "));
+  if (!letters_.isEmpty()) text.removeIf([this](QChar letter) { return !letters_.contains(letter); });
+  return text;
+}
+
+void TextBox::pasteFiltered(QClipboard::Mode source) {
+  const QString text = filtered(QGuiApplication::clipboard()->text(source));
+  if (!isReadOnly() && !text.isEmpty()) insert(text);
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (!event->isAutoRepeat()) Q_EMIT Enter();
+    return;
+  }
+  if (event == QKeySequence::Paste) return pasteFiltered(QClipboard::Clipboard);
+  const QString typed = event->text();
+  const bool command = typed.isEmpty() || typed.front().category() == QChar::Other_Control;
+  if (command || filtered(typed) == typed) QLineEdit::keyPressEvent(event);
+}
+
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::MiddleButton) return QLineEdit::mouseReleaseEvent(event);
+  if (QGuiApplication::clipboard()->supportsSelection()) {
+    deselect();
+    pasteFiltered(QClipboard::Selection);
+  }
+}
+
+void TextBox::inputMethodEvent(QInputMethodEvent* event) {
+  QInputMethodEvent taken(event->preeditString(), event->attributes());
+  taken.setCommitString(filtered(event->commitString()), event->replacementStart(), event->replacementLength());
+  QLineEdit::inputMethodEvent(&taken);
+  event->setAccepted(taken.isAccepted());
+}
+
+void TextBox::dragEnterEvent(QDragEnterEvent* event) {
+  if (filtered(event->mimeData()->text()).isEmpty()) {
+    event->ignore();
+  } else {
+    QLineEdit::dragEnterEvent(event);
+  }
+}
+
+void TextBox::dropEvent(QDropEvent* event) {
+  QMimeData text;
+  text.setText(filtered(event->mimeData()->text()));
+  QDropEvent taken(event->position(), event->possibleActions(), &text, event->buttons(), event->modifiers());
+  taken.setDropAction(event->dropAction());
+  QLineEdit::dropEvent(&taken);
+  event->setDropAction(taken.dropAction());
+  event->setAccepted(taken.isAccepted());
+}
+
+void TextBox::contextMenuEvent(QContextMenuEvent* event) {
+  const bool writes = !isReadOnly();
+  const bool pastes = writes && !filtered(QGuiApplication::clipboard()->text()).isEmpty();
+  QMenu menu(this);
+  const auto add = [&menu, this](const QString& caption, bool enabled, auto command) {
+    menu.addAction(caption, this, command)->setEnabled(enabled);
+  };
+  add(QStringLiteral("&Undo"), writes && isUndoAvailable(), &QLineEdit::undo);
+  menu.addSeparator();
+  add(QStringLiteral("Cu&t"), writes && hasSelectedText(), &QLineEdit::cut);
+  add(QStringLiteral("&Copy"), hasSelectedText(), &QLineEdit::copy);
+  add(QStringLiteral("&Paste"), pastes, [this] { pasteFiltered(QClipboard::Clipboard); });
+  add(QStringLiteral("&Delete"), writes && hasSelectedText(), &QLineEdit::del);
+  menu.addSeparator();
+  add(QStringLiteral("Select &All"), !text().isEmpty(), &QLineEdit::selectAll);
+  menu.exec(event->globalPos());
+}
+
+}  // namespace controls

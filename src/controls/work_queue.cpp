@@ -1,0 +1,78 @@
+#include "controls/work_queue.h"
+
+#include <utility>
+
+#include <QCoreApplication>
+
+namespace controls {
+
+void WorkQueue::SetWorks(Work choose, Work draw) {
+  choose_ = std::move(choose);
+  draw_ = std::move(draw);
+}
+
+void WorkQueue::Choose() {
+  noted_ = Stage::Choose;
+  work();
+}
+
+void WorkQueue::Draw() {
+  if (noted_ == Stage::None) noted_ = Stage::Draw;
+  work();
+}
+
+void WorkQueue::work() {
+  if (Busy()) return;
+  while (noted_ != Stage::None && !leaving_) {
+    // A choice ends in a draw: a draw noted while the list still fills is that one.
+    running_ = std::exchange(noted_, noted_ == Stage::Choose ? Stage::Draw : Stage::None);
+    try {
+      running_ == Stage::Choose ? choose_() : draw_();
+    } catch (const WorkAbandoned&) {
+      if (leaving_ && noted_ < running_) noted_ = running_;
+    } catch (...) {
+      running_ = Stage::None;
+      throw;
+    }
+    running_ = Stage::None;
+  }
+  if (!commands_.empty()) postCommands();
+}
+
+void WorkQueue::Yield() {
+  const Stage caller = running_;
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  if (leaving_ || noted_ == Stage::Choose || (caller == Stage::Draw && noted_ == Stage::Draw)) throw WorkAbandoned{};
+}
+
+void WorkQueue::RunOutside(Work command, bool leaving) {
+  commands_.push_back(std::move(command));
+  if (Busy() || commanding_) {
+    leaving_ = leaving_ || leaving;
+    return;
+  }
+  runCommands();
+}
+
+void WorkQueue::Forget() {
+  noted_ = Stage::None;
+}
+
+void WorkQueue::postCommands() {
+  QMetaObject::invokeMethod(this, &WorkQueue::runCommands, Qt::QueuedConnection);
+}
+
+void WorkQueue::runCommands() {
+  if (Busy() || commanding_) return;
+  commanding_ = true;
+  while (!commands_.empty()) {
+    const Work command = std::move(commands_.front());
+    commands_.pop_front();
+    leaving_ = false;
+    command();
+  }
+  commanding_ = false;
+  work();
+}
+
+}  // namespace controls
