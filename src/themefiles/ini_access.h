@@ -1,0 +1,38 @@
+#pragma once
+
+#include <optional>
+
+#include <QString>
+#include <QStringList>
+
+/// All keyed access to the ini files: the file on disk is read or changed anew by each call.
+namespace themefiles {
+
+/// Buffer sizes in use: for key lists and long texts, and for every other read.
+inline constexpr qint16 ListBufferSize = 32000;
+inline constexpr qint16 ValueBufferSize = 256;
+
+/// The value of a key, at most BufferSize - 1 characters of it; Default (less the blanks behind it) when file, section
+/// or key is missing. Without a Key: all keys of the section, each ended by a NUL, a list that is too long cut at
+/// BufferSize - 2. Reports nothing.
+QString GetINI(const QString& Section, const std::optional<QString>& Key, const QString& Default,
+               const QString& FileName, qint16 BufferSize = ValueBufferSize);
+
+/// Sets the key's value in place, adds the key or the section; without a Value removes the key. All other bytes of the
+/// file stay. Text that the code page lacks, or with a line end or NUL in it, is not written; nor is anything when the
+/// file can't be written. Gives no result: who must know reads back (see PutINIChecked).
+void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName);
+
+/// PutINI for edits in which a user would believe: throws platform::Failure, with nothing written, for text that an ini
+/// file can't hold, and when the file could not be written or doesn't give the value back.
+void PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
+                   const QString& FileName);
+
+/// Throws platform::Failure for text that an ini file can't hold on one line: a line end or NUL in it, or a letter
+/// outside the code page.
+void CheckLineText(const QString& text);
+
+/// The keys of a section in file order, doubles too, as a key list of ListBufferSize shows them.
+QStringList KeyNames(const QString& Section, const QString& FileName);
+
+}  // namespace themefiles

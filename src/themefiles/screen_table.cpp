@@ -1,0 +1,190 @@
+#include "themefiles/screen_table.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QStringView>
+
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/text_lines.h"
+
+namespace themefiles {
+namespace {
+
+struct Screen {
+  QStringView name;
+  QStringView stem;
+};
+
+constexpr std::array<Screen, 32> Screens{{
+    {u"Loading Screen", u"Loading"},
+    {u"Main Screen", u"Main"},
+    {u"Song Screen (Single)", u"Song"},
+    {u"Song Screen (Party)", u"Song"},
+    {u"Sing Screen (1 Player)", u"Sing"},
+    {u"Sing Screen (2 Player)", u"Sing"},
+    {u"Sing Screen (3 Player)", u"Sing"},
+    {u"Score Screen (1 Player)", u"Score"},
+    {u"Score Screen (2 Player)", u"Score"},
+    {u"Score Screen (3 Player)", u"Score"},
+    {u"Options Screen", u"Options"},
+    {u"Options Game Screen", u"OptionsGame"},
+    {u"Options Graphics Screen", u"OptionsGraphics"},
+    {u"Options Sound Screen", u"OptionsSound"},
+    {u"Options Lyrics Screen", u"OptionsLyrics"},
+    {u"Options Themes Screen", u"OptionsThemes"},
+    {u"Options Record Screen", u"OptionsRecord"},
+    {u"Options Advanced Screen", u"OptionsAdvanced"},
+    {u"Top5 Screen", u"Top5"},
+    {u"Level Screen", u"Level"},
+    {u"Name Screen", u"Name"},
+    {u"Party New Round Screen", u"PartyNewRound"},
+    {u"Party Score Screen", u"PartyScore"},
+    {u"Party Win Screen", u"PartyWin"},
+    {u"Party Options Screen", u"PartyOptions"},
+    {u"Party Player Screen", u"PartyPlayer"},
+    {u"Song Menu", u"SongMenu"},
+    {u"Song Jumpto", u"SongJumpto"},
+    {u"Stats Main", u"StatMain"},
+    {u"Stats Detail", u"StatDetail"},
+    {u"Check Popup", u"CheckPopup"},
+    {u"Error Popup", u"ErrorPopup"},
+}};
+
+/// A screen that shows a filtered view of its run. `otherPlayers` are the digits whose objects the score screens leave
+/// out, written into the two score templates.
+struct ScreenFilter {
+  QStringView screen;
+  QStringView skipTagParts;
+  QStringView onlyTags;
+  QStringView onlyTagParts;
+  QStringView otherPlayers;
+};
+
+constexpr std::array<ScreenFilter, 8> Filters{{
+    {u"Song Screen (Single)", u"SongStaticParty,SongTextParty,SongStaticTeam", {}, {}, {}},
+    {u"Song Screen (Party)", u"SongStaticNonParty,SongTextNonParty", {}, {}, {}},
+    {u"Score Screen (1 Player)", {}, {}, {}, u"23456"},
+    {u"Score Screen (2 Player)", {}, {}, {}, u"1456"},
+    {u"Score Screen (3 Player)", {}, {}, {}, u"123"},
+    {u"Sing Screen (1 Player)",
+     {},
+     u"Sing,SingTimeProgress,SingTimeText,SingP1SingBar",
+     u"SingText,SingStatic,SingP1Static,SingP1Text",
+     {}},
+    {u"Sing Screen (2 Player)",
+     {},
+     u"Sing,SingTimeProgress,SingTimeText,SingP1TwoPSingBar,SingP2RSingBar",
+     u"SingText,SingStatic,SingP1TwoPStatic,SingP1TwoPText,SingP2RStatic,SingP2RText",
+     {}},
+    {u"Sing Screen (3 Player)",
+     {},
+     u"Sing,SingTimeProgress,SingTimeText,SingP1ThreePSingBar,SingP2MSingBar,SingP3SingBar",
+     u"SingText,SingStatic,SingP1ThreePStatic,SingP1ThreePText,SingP2MStatic,SingP2MText,SingP3RStatic,SingP3RText",
+     {}},
+}};
+
+// "#" stands for a player's digit.
+constexpr QStringView ScoreTagList =
+    u"ScoreTextName#,ScoreTextScore#,ScoreTextNotes#,ScoreTextNotesScore#,ScoreTextLineBonus#,ScoreTextLineBonusScore#,"
+    u"ScoreTextGoldenNotes#,ScoreTextGoldenNotesScore#,ScoreTextTotal#,ScoreTextTotalSCore#,ScoreStaticBoxDark#,"
+    u"ScoreStaticBackLevel#,ScoreStaticBackLevelRound#,ScoreStaticLevel#,ScoreStaticLevelRound#,ScoreStaticBoxLight#,"
+    u"ScoreStaticBoxLightest#,";
+constexpr QStringView ScorePlayerParts = u"ScorePlayer#Text,ScorePlayer#Static,";
+
+/// The template once for each digit, in their order.
+QString forDigits(QStringView digits, QStringView pattern) {
+  QString list;
+  for (const QChar digit : digits) list += pattern.toString().replace(u'#', digit);
+  return list;
+}
+
+/// Whether an item of the comma list fits the tag, both in upper case.
+template <typename Fits>
+bool anyItem(const QString& list, const QString& tag, Fits fits) {
+  const QStringList items = platform::UpperCase(list).split(u',');
+  const QString upperTag = platform::UpperCase(tag);
+  return std::any_of(items.begin(), items.end(), [&](const QString& item) { return fits(item, upperTag); });
+}
+
+bool equals(const QString& item, const QString& tag) {
+  return item == tag;
+}
+
+bool occursIn(const QString& item, const QString& tag) {
+  return tag.contains(item);
+}
+
+/// Whether the line is the bare section of another screen than `stem`'s: the end of the run.
+bool endsRun(const ModuleState& state, const QString& stem, const QString& line) {
+  return std::any_of(state.ScreenTable.begin(), state.ScreenTable.end(),
+                     [&](const ScreenRow& row) { return row.Stem != stem && line == u'[' + row.Stem + u']'; });
+}
+
+void listTags(const ModuleState& state, const QString& screenName, TagList& tags,
+              const std::function<void()>& doEvents) {
+  const QString stem = StemOf(state, screenName);
+  const QString head = u'[' + platform::UpperCase(stem);
+  const QByteArray file = platform::ReadFile(state.Paths.ThemeFile);
+  platform::TextLines lines(file);
+  bool found = false;
+  while (const auto bytes = lines.next()) {
+    if (!bytes->startsWith('[')) continue;
+    const QString line = platform::FromAnsi(*bytes);
+    if (found && endsRun(state, stem, line)) break;
+    if (!platform::UpperCase(line).startsWith(head)) continue;
+    const QString tag = line.mid(1, line.size() - 2);
+    if (SplitTags(state.Filter, tag)) continue;
+    tags.AddItem(tag);
+    doEvents();
+    found = true;
+  }
+}
+
+}  // namespace
+
+void InitScreenTable(ModuleState& state) {
+  std::transform(Screens.begin(), Screens.end(), state.ScreenTable.begin(), [](const Screen& screen) {
+    return ScreenRow{screen.name.toString(), screen.stem.toString()};
+  });
+}
+
+QString StemOf(const ModuleState& state, const QString& name) {
+  const auto row = std::find_if(state.ScreenTable.begin(), state.ScreenTable.end(),
+                                [&](const ScreenRow& screen) { return screen.Name == name; });
+  return row == state.ScreenTable.end() ? name : row->Stem;
+}
+
+TagFilter FilterOf(const QString& screenName) {
+  const auto filter =
+      std::find_if(Filters.begin(), Filters.end(), [&](const ScreenFilter& row) { return row.screen == screenName; });
+  if (filter == Filters.end()) return {};
+  TagFilter lists{{}, filter->skipTagParts.toString(), filter->onlyTags.toString(), filter->onlyTagParts.toString()};
+  if (!filter->otherPlayers.isEmpty()) {
+    lists.SkipTags = forDigits(filter->otherPlayers, ScoreTagList);
+    lists.SkipTagParts = forDigits(filter->otherPlayers, ScorePlayerParts).chopped(1);
+  }
+  return lists;
+}
+
+bool SplitTags(const TagFilter& filter, const QString& Tag) {
+  if (!filter.SkipTags.isEmpty() && anyItem(filter.SkipTags, Tag, equals)) return true;
+  if (!filter.SkipTagParts.isEmpty() && anyItem(filter.SkipTagParts, Tag, occursIn)) return true;
+  bool leftOut = false;
+  if (!filter.OnlyTags.isEmpty()) {
+    leftOut = true;
+    if (anyItem(filter.OnlyTags, Tag, equals)) return false;
+  }
+  if (!filter.OnlyTagParts.isEmpty() && anyItem(filter.OnlyTagParts, Tag, occursIn)) return false;
+  return leftOut;
+}
+
+void ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
+              const std::function<void()>& DoEvents) {
+  const bool read = platform::Guarded(status, QStringLiteral("Error while reading Tags"),
+                                      [&] { listTags(state, screenName, tags, DoEvents); });
+  if (read && tags.ListCount() > 0 && tags.ListIndex() < 0) tags.SetListIndex(0);
+}
+
+}  // namespace themefiles

@@ -1,0 +1,73 @@
+#include "themefiles/tag_reader.h"
+
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/numbers.h"
+#include "platform/text_lines.h"
+
+namespace themefiles {
+namespace {
+
+const QString Step = QStringLiteral("Error while reading Tag");
+
+bool isKeyLine(QByteArrayView line) {
+  return !line.isEmpty() && line.front() != '#' && line.front() != ';' && line.contains('=');
+}
+
+/// Where a key's text goes in the record; null for a key that the record lacks.
+QString* textField(CursorRecord& record, const QString& key) {
+  if (key == u"X") return &record.X;
+  if (key == u"Y") return &record.Y;
+  if (key == u"W") return &record.W;
+  if (key == u"H") return &record.H;
+  if (key == u"TEXT") return &record.Text;
+  return nullptr;
+}
+
+/// Stores a number that fits its field; the other is told and left out.
+template <typename Field>
+void storeNumber(Field& field, std::optional<Field> number, const QString& key, const QString& value,
+                 platform::StatusLine& status) {
+  if (number) {
+    field = *number;
+  } else {
+    status.ShowStatus(platform::ReportText(Step, QStringLiteral("%1=%2: the number is out of range").arg(key, value)));
+  }
+}
+
+void updateRecord(CursorRecord& record, const QString& key, const QString& value, platform::StatusLine& status) {
+  if (QString* field = textField(record, key)) {
+    *field = value;
+  } else if (key == u"SIZE") {
+    storeNumber(record.Size, platform::RoundToInt16(platform::NumberOf(value)), key, value, status);
+  } else if (key == u"FONT") {
+    storeNumber(record.Font, platform::RoundToByte(platform::NumberOf(value)), key, value, status);
+  }
+}
+
+}  // namespace
+
+std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platform::StatusLine& status) {
+  const quint8 font = state.CursorRect.Font;
+  state.CursorRect = {};
+  state.CursorRect.Font = font;
+  std::vector<ValueRow> rows;
+  platform::Guarded(status, Step, [&] {
+    const QByteArray file = platform::ReadFile(state.Paths.ThemeFile);
+    platform::TextLines lines(file);
+    const QString header = u'[' + platform::UpperCase(Section) + u']';
+    auto line = lines.next();
+    while (line && platform::UpperCase(platform::FromAnsi(*line)) != header) line = lines.next();
+    if (!line) return;
+    for (line = lines.next(); line && !line->startsWith('['); line = lines.next()) {
+      if (!isKeyLine(*line)) continue;
+      const QStringList parts = platform::FromAnsi(*line).split(u'=');
+      rows.push_back({parts[0], platform::TrimBlanks(parts[1])});
+      updateRecord(state.CursorRect, platform::UpperCase(platform::TrimBlanks(parts[0])), parts[1], status);
+    }
+  });
+  return rows;
+}
+
+}  // namespace themefiles

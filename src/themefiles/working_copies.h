@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/status_line.h"
+#include "themefiles/module_state.h"
+
+/// The working copies that stand in for a theme's three files while it is open.
+namespace themefiles {
+
+/// Behind the whole name of a file: its working copy.
+inline constexpr QStringView WorkingEnding = u".tmp";
+
+/// Copies theme, skin and language file of `chosen` to their working copies, in this order, and opens the theme:
+/// the state's paths name the copies, ThemeOpened is set. An older working copy that differs from its file is kept
+/// beside as ".old", and `status` told so. Throws platform::Failure when a copy fails; the copies behind it aren't made
+/// then, and the state stays as it was.
+void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status);
+
+/// Copies the three working copies over their files, in the order theme, skin, language, and clears Changed. A file
+/// that has changed on disk since it was opened or saved last is kept beside as ".bak", and `status` told so. Throws
+/// platform::Failure when a copy fails; those behind it aren't made then, and Changed stays.
+void SaveWorkingCopies(ModuleState& state, platform::StatusLine& status);
+
+/// Takes the state back to no theme: paths, colours of the theme and screens emptied. The working copies stay on disk.
+void ForgetTheme(ModuleState& state);
+
+}  // namespace themefiles
