@@ -1,0 +1,92 @@
+#include "renderer/highlight_cursor.h"
+
+#include <cmath>
+
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "themefiles/ini_access.h"
+
+namespace renderer {
+namespace {
+
+/// As many letters as "TEXT1" has: what parts a child text's name from its button's.
+constexpr int ChildEnding = 5;
+constexpr double LineHeightFactor = 1.5;
+
+/// The number of a text as the mark can take it: finite, and not below `least`. Throws Failure.
+double measureOf(const QString& text, double least) {
+  const double number = platform::NumberOf(text);
+  if (!std::isfinite(number) || number < least) {
+    throw platform::Failure(QStringLiteral("%1 is no measure").arg(text));
+  }
+  return number;
+}
+
+double placeOf(const QString& text) {
+  return measureOf(text, std::numeric_limits<double>::lowest());
+}
+
+void showMark(CursorMark& mark) {
+  mark.SetBlinking(true);
+  mark.SetVisible(true);
+}
+
+void drawFrame(const themefiles::CursorRecord& record, CursorMark& mark) {
+  mark.SetLeft(placeOf(record.X));
+  mark.SetTop(placeOf(record.Y));
+  mark.SetWidth(measureOf(record.W, 0));
+  mark.SetHeight(measureOf(record.H, 0));
+  showMark(mark);
+}
+
+/// Sets face and size for the measure: not those of the renderer.
+void setMeasuringFont(const themefiles::CursorRecord& record, platform::Surface& workspace) {
+  if (record.Font == 0) workspace.SetFontName(QStringLiteral("Courier New"));
+  if (record.Font == 1) workspace.SetFontName(QStringLiteral("Arial Black"));
+  workspace.SetFontSize(record.Size);
+}
+
+void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagList& tags, platform::Surface& workspace,
+                  CursorMark& mark) {
+  const themefiles::CursorRecord& record = state.CursorRect;
+  double x = placeOf(record.X);
+  double y = placeOf(record.Y);
+  const QString tag = tags.ListIndex() < 0 ? QString() : tags.List(tags.ListIndex());
+  const QString upper = platform::UpperCase(tag);
+  if (upper.contains(u"BUTTON") || upper.contains(u"NAME")) {
+    const QString parent = tag.chopped(std::min<qsizetype>(tag.size(), ChildEnding));
+    const QString& file = state.Paths.ThemeFile;
+    x += placeOf(themefiles::GetINI(parent, QStringLiteral("X"), QString(), file));
+    y += placeOf(themefiles::GetINI(parent, QStringLiteral("Y"), QString(), file));
+  }
+  setMeasuringFont(record, workspace);
+  mark.SetWidth(0);
+  mark.SetHeight(workspace.TextHeight(record.Text) * LineHeightFactor);
+  mark.SetLeft(x);
+  mark.SetTop(y);
+  showMark(mark);
+}
+
+void place(const themefiles::ModuleState& state, const themefiles::TagList& tags, platform::Surface& workspace,
+           CursorMark& mark) {
+  const themefiles::CursorRecord& record = state.CursorRect;
+  if (!record.X.isEmpty() && !record.Y.isEmpty() && !record.W.isEmpty() && !record.H.isEmpty()) {
+    drawFrame(record, mark);
+  } else if (record.X.isEmpty() || record.Y.isEmpty() || !record.W.isEmpty() || !record.H.isEmpty()) {
+    mark.SetBlinking(false);
+    mark.SetVisible(false);
+  } else {
+    drawTextLine(state, tags, workspace, mark);
+  }
+}
+
+}  // namespace
+
+void DrawCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, platform::Surface& workspace,
+                CursorMark& mark, platform::StatusLine& status) {
+  platform::Guarded(status, QStringLiteral("Error while drawing highlighting cursor"),
+                    [&] { place(state, tags, workspace, mark); });
+}
+
+}  // namespace renderer

@@ -1,0 +1,172 @@
+#include "renderer/object_passes.h"
+
+#include <algorithm>
+
+#include "platform/code_page.h"
+#include "platform/numbers.h"
+#include "platform/pictures.h"
+#include "platform/system_colors.h"
+#include "renderer/object_values.h"
+#include "renderer/text_objects.h"
+#include "renderer/texture_pipeline.h"
+#include "themefiles/colour_tables.h"
+
+namespace renderer {
+namespace {
+
+constexpr int MostButtons = 255;
+constexpr int ChildrenBetweenYields = 50;
+
+bool holdsAny(const QString& text, std::initializer_list<QStringView> words) {
+  return std::any_of(words.begin(), words.end(), [&](QStringView word) { return text.contains(word); });
+}
+
+QString staticStep() {
+  return QStringLiteral("Error while drawing Static!");
+}
+
+QString screenStep() {
+  return QStringLiteral("Error while Draw Screen");
+}
+
+/// The keys that hold an object's colour and intensity in its present state.
+struct Look {
+  QString colorKey;
+  QString intensityKey;  ///< empty for an object without one
+};
+
+/// Draws the object's texture and accounts what came of it.
+void drawObject(RenderContext& context, const QString& section, const QString& path, const Box& box, const Look& look) {
+  const QString colorName = ThemeValue(context, section, look.colorKey);
+  const QString color = themefiles::ResolveColor(context.State, colorName, context.Host.SchemeName());
+  const float intensity =
+      look.intensityKey.isEmpty() ? NoIntensity : static_cast<float>(ThemeNumber(context, section, look.intensityKey));
+  const QString type = platform::UpperCase(ThemeValue(context, section, QStringLiteral("TYPE")));
+  const TextureResult result = DrawTexture(context.Workspace, path, type, box.X, box.Y, box.W, box.H, color, intensity,
+                                           context.Graphics, context.Dialogs);
+  switch (result.outcome) {
+    case TextureOutcome::Drawn:
+      context.Account.Objects.push_back({section, result.place});
+      break;
+    case TextureOutcome::NoSession:
+      break;
+    case TextureOutcome::NoPicture:
+      LeaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
+      break;
+    case TextureOutcome::NoColor:
+      LeaveOut(context, section, Reason::UnknownColor, look.colorKey, colorName);
+      break;
+    case TextureOutcome::ColorRange:
+      LeaveOut(context, section, Reason::ColorRange, look.intensityKey.isEmpty() ? look.colorKey : look.intensityKey,
+               look.intensityKey.isEmpty() ? color : platform::NumberText(intensity));
+      break;
+    case TextureOutcome::NoArea:
+      LeaveOut(context, section, Reason::NoArea, QStringLiteral("W x H"),
+               QStringLiteral("%1 x %2").arg(box.W).arg(box.H));
+      break;
+  }
+}
+
+void showObject(RenderContext& context) {
+  UpdateProgress(context, context.State.ProgressStep);
+  context.Host.Refresh();
+  context.Host.Yield();
+}
+
+/// Raises the count; whether this button is the selected one.
+bool countButton(themefiles::ModuleState& state) {
+  if (state.ButtonCount == MostButtons) return false;
+  ++state.ButtonCount;
+  return state.ButtonCount == state.SelectedButton;
+}
+
+/// Child texts 1 to `count`, relative to the button. The first one drawn takes the shift.
+void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, int count, int& textShift) {
+  for (int number = 1; number <= count; ++number) {
+    const QString child = tag + QStringLiteral("TEXT") + QString::number(number);
+    if (!ThemeValue(context, child, QStringLiteral("X")).isEmpty()) {
+      DrawTextObject(context, child, box.X, box.Y + textShift);
+      textShift = 0;
+    }
+    if (number % ChildrenBetweenYields == 0) context.Host.Yield();
+  }
+}
+
+/// `textShift` lives across the buttons of a pass: a grown button hands it to the next child text that is drawn.
+void drawButton(RenderContext& context, const QString& tag, int& textShift) {
+  const QString visible = ThemeValue(context, tag, QStringLiteral("Visible"));
+  if (visible == u"0") {
+    LeaveOut(context, tag, Reason::Hidden, QStringLiteral("Visible"), visible);
+    return;
+  }
+  const bool selected = countButton(context.State);
+  const QString path = TexturePath(context, tag);
+  if (path.isEmpty()) return;
+  auto box = ThemeBox(context, tag, screenStep());
+  if (!box) return;
+  Look look{QStringLiteral("DColor"), QStringLiteral("DINT")};
+  if (selected) {
+    look = {QStringLiteral("Color"), QStringLiteral("INT")};
+    const auto selectedHeight = ThemeInt16(context, tag, QStringLiteral("SelectH"), screenStep());
+    if (!selectedHeight) return;
+    if (*selectedHeight != 0) {
+      if (!platform::UpperCase(tag).contains(u"COLLECTION")) textShift = *selectedHeight - box->H;
+      box->H = *selectedHeight;
+    }
+  }
+  drawObject(context, tag, path, *box, look);
+  const auto texts = ThemeInt16(context, tag, QStringLiteral("TEXTS"), screenStep());
+  if (!texts) return;
+  drawChildTexts(context, tag, *box, *texts, textShift);
+  showObject(context);
+}
+
+}  // namespace
+
+void DrawBackground(RenderContext& context, const QString& stem) {
+  const QString section = stem + QStringLiteral("Background");
+  const QString path = TexturePath(context, section);
+  context.Workspace.Wipe(platform::ColorOf(context.State.BackgroundColor));
+  if (path.isEmpty()) return;
+  const QImage picture = platform::LoadPicture(path);
+  if (picture.isNull()) {
+    LeaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
+    return;
+  }
+  context.Workspace.DrawImageRect(picture, 0, 0, platform::Surface::Width, platform::Surface::Height);
+  UpdateProgress(context, context.State.ProgressStep);
+}
+
+void DrawStatics(RenderContext& context) {
+  for (int row = 0; row < context.List1.ListCount(); ++row) {
+    const QString tag = context.List1.List(row);
+    if (!holdsAny(platform::UpperCase(tag), {u"STATIC", u"SONGVIDEOICON"})) continue;
+    const QString path = TexturePath(context, tag);
+    if (path.isEmpty()) continue;
+    const auto box = ThemeBox(context, tag, staticStep());
+    if (!box) continue;
+    drawObject(context, tag, path, *box, {QStringLiteral("Color"), QString()});
+    showObject(context);
+  }
+}
+
+void DrawTexts(RenderContext& context) {
+  for (int row = 0; row < context.List1.ListCount(); ++row) {
+    const QString tag = context.List1.List(row);
+    const QString upper = platform::UpperCase(tag);
+    if (holdsAny(upper, {u"BUTTON", u"NAME", u"TEXTURES"}) || !upper.contains(u"TEXT")) continue;
+    DrawTextObject(context, tag, 0, 0);
+  }
+}
+
+void DrawButtons(RenderContext& context) {
+  int textShift = 0;
+  for (int row = 0; row < context.List1.ListCount(); ++row) {
+    const QString tag = context.List1.List(row);
+    const QString upper = platform::UpperCase(tag);
+    if (!holdsAny(upper, {u"BUTTON", u"SELECT", u"NAME"}) || upper.contains(u"TEXT")) continue;
+    drawButton(context, tag, textShift);
+  }
+}
+
+}  // namespace renderer

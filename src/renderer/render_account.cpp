@@ -1,0 +1,36 @@
+#include "renderer/render_account.h"
+
+#include <array>
+
+#include <QStringView>
+
+namespace renderer {
+namespace {
+
+struct Wording {
+  Reason reason;
+  QStringView text;  ///< %1 is the value, %2 the key
+};
+
+constexpr std::array<Wording, 9> Wordings{{
+    {Reason::NoTexture, u"texture '%1' has no entry in the skin"},
+    {Reason::NoFile, u"no file '%1'"},
+    {Reason::NoPicture, u"'%1' is no picture"},
+    {Reason::UnknownColor, u"%2: colour '%1' is in no table"},
+    {Reason::ColorRange, u"%2: '%1' brings the colour out of its range"},
+    {Reason::NumberTooLarge, u"%2: '%1' is too large"},
+    {Reason::NoArea, u"%2: '%1' leaves no area"},
+    {Reason::Hidden, u"hidden: %2 is %1"},
+    {Reason::NoSize, u"%2: '%1' is no size of a text"},
+}};
+
+}  // namespace
+
+QString ReasonText(const LeftOut& entry) {
+  for (const Wording& wording : Wordings) {
+    if (wording.reason == entry.Why) return wording.text.toString().arg(entry.Value, entry.Key);
+  }
+  return {};
+}
+
+}  // namespace renderer

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <vector>
+
+#include <QRect>
+#include <QString>
+
+namespace renderer {
+
+/// Why an object isn't drawn, or not seen.
+enum class Reason {
+  NoTexture,       ///< the texture has no entry in the skin
+  NoFile,          ///< the entry names no file
+  NoPicture,       ///< the file can't be decoded
+  UnknownColor,    ///< the colour is in no table
+  ColorRange,      ///< a channel leaves 0 to 255 under the intensity
+  NumberTooLarge,  ///< a number doesn't fit 16 bits
+  NoArea,          ///< width or height is 0 or negative
+  Hidden,          ///< Visible is 0
+  NoSize,          ///< a text whose size is 0 or below
+};
+
+/// One object that the render left out: the section, and the key and value that decided it.
+struct LeftOut {
+  QString Section;
+  Reason Why;
+  QString Key;
+  QString Value;
+};
+
+/// One object that the render drew, and where on the surface.
+struct Drawn {
+  QString Section;
+  QRect Place;
+};
+
+/// The renderer's own account of its last render, in the order of drawing.
+struct RenderAccount {
+  std::vector<Drawn> Objects;
+  std::vector<LeftOut> Missing;
+};
+
+/// The reason in words: "no file 'x.png'".
+QString ReasonText(const LeftOut& entry);
+
+}  // namespace renderer

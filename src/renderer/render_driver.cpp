@@ -1,0 +1,54 @@
+#include "renderer/render_driver.h"
+
+#include "platform/numbers.h"
+#include "renderer/object_passes.h"
+
+namespace renderer {
+namespace {
+
+void drawButtonsWithList(RenderContext& context) {
+  themefiles::ModuleState& state = context.State;
+  state.ButtonCount = 0;
+  if (state.ButtonListFilled) {
+    DrawButtons(context);
+    return;
+  }
+  state.SelectedButton = 1;
+  context.Host.FillButtonList({});
+  DrawButtons(context);
+  if (state.ButtonCount == 0) {
+    context.Host.SetButtonListVisible(false);
+    return;
+  }
+  QStringList rows;
+  for (int button = 1; button <= state.ButtonCount; ++button) rows += QStringLiteral("Select Button %1").arg(button);
+  context.Host.FillButtonList(rows);
+  context.Host.SelectFirstButton();
+  context.Host.SetButtonListVisible(true);
+  state.ButtonListFilled = true;
+}
+
+}  // namespace
+
+void DrawScreen(RenderContext& context) {
+  context.Account = {};
+  context.Host.SetProgressValue(0);
+  context.Host.SetProgressVisible(true);
+  const int tags = context.List1.ListCount();
+  context.State.ProgressStep = tags == 0 ? qint16(0) : platform::RoundToInt16(100.0 / tags).value_or(0);
+  UpdateProgress(context, context.State.ProgressStep);
+  context.Host.Yield();
+  DrawBackground(context, themefiles::StemOf(context.State, context.Host.ScreenName()));
+  DrawStatics(context);
+  DrawTexts(context);
+  drawButtonsWithList(context);
+  context.Host.SetProgressVisible(false);
+}
+
+void UpdateProgress(RenderContext& context, qint16 step) {
+  context.Host.SetProgressValue(context.Host.ProgressValue() + step);
+  context.Host.SetProgressText(QStringLiteral("%1%").arg(context.Host.ProgressValue()));
+  context.Host.Yield();
+}
+
+}  // namespace renderer

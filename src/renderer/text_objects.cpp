@@ -1,0 +1,90 @@
+#include "renderer/text_objects.h"
+
+#include <array>
+#include <cmath>
+
+#include "platform/numbers.h"
+#include "platform/system_colors.h"
+#include "renderer/object_values.h"
+#include "themefiles/colour_tables.h"
+#include "themefiles/ini_access.h"
+
+namespace renderer {
+namespace {
+
+struct Face {
+  double fontNumber;
+  QStringView name;
+  double pointsPerSize;
+};
+
+constexpr std::array<Face, 2> Faces{{
+    {0, u"Eurostar Regular Extended", 1.4},
+    {1, u"Eurostar Black", 2},
+}};
+
+/// A channel given as a fraction, 1 being full.
+int channelOf(double fraction) {
+  const double channel = std::nearbyint(fraction * 255);
+  return channel >= 255 ? 255 : channel > 0 ? static_cast<int>(channel) : 0;
+}
+
+QColor colorOf(const RenderContext& context, const QString& section) {
+  const QString name = ThemeValue(context, section, QStringLiteral("Color"));
+  if (!name.isEmpty()) {
+    const QString color = themefiles::ResolveColor(context.State, name, context.Host.SchemeName());
+    return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
+  }
+  return {channelOf(ThemeNumber(context, section, QStringLiteral("ColR"))),
+          channelOf(ThemeNumber(context, section, QStringLiteral("ColG"))),
+          channelOf(ThemeNumber(context, section, QStringLiteral("ColB")))};
+}
+
+/// Sets face and size; false when the text asks for a size that no text has.
+bool setFont(RenderContext& context, const QString& section) {
+  const double fontNumber = ThemeNumber(context, section, QStringLiteral("Font"));
+  const QString size = ThemeValue(context, section, QStringLiteral("Size"));
+  for (const Face& face : Faces) {
+    if (face.fontNumber != fontNumber) continue;
+    context.Workspace.SetFontName(face.name.toString());
+    const auto points = static_cast<float>(platform::NumberOf(size) * face.pointsPerSize);
+    context.Workspace.SetFontSize(points);
+    if (points > 0) return true;
+    LeaveOut(context, section, Reason::NoSize, QStringLiteral("Size"), size);
+    return false;
+  }
+  return true;
+}
+
+QString wordsOf(const RenderContext& context, const QString& section) {
+  const QString key = themefiles::GetINI(section, QStringLiteral("Text"), section, context.State.Paths.ThemeFile);
+  if (key.isEmpty()) return section;
+  return themefiles::GetINI(QStringLiteral("Text"), key, key, context.State.Paths.LanguageFile);
+}
+
+void printAligned(RenderContext& context, const QString& section, const QString& words) {
+  platform::Surface& surface = context.Workspace;
+  const double align = ThemeNumber(context, section, QStringLiteral("Align"));
+  const double width = surface.TextWidth(words);
+  const double height = surface.TextHeight(words);
+  if (align == 1) surface.CurrentX = static_cast<float>(surface.CurrentX - width / 2);
+  if (align == 2) surface.CurrentX = static_cast<float>(surface.CurrentX - width);
+  surface.CurrentY = static_cast<float>(surface.CurrentY + height / 5);
+  const QRectF place(surface.CurrentX, surface.CurrentY, width, height);
+  surface.Print(words);
+  context.Account.Objects.push_back({section, place.toAlignedRect()});
+}
+
+}  // namespace
+
+void DrawTextObject(RenderContext& context, const QString& section, int baseX, int baseY) {
+  platform::Surface& surface = context.Workspace;
+  surface.CurrentX = static_cast<float>(ThemeNumber(context, section, QStringLiteral("X")) + baseX);
+  surface.CurrentY = static_cast<float>(ThemeNumber(context, section, QStringLiteral("Y")) + baseY);
+  surface.ForeColor = colorOf(context, section);
+  if (setFont(context, section)) printAligned(context, section, wordsOf(context, section));
+  UpdateProgress(context, context.State.ProgressStep);
+  context.Host.Yield();
+}
+
+}  // namespace renderer

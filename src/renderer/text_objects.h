@@ -1,0 +1,12 @@
+#pragma once
+
+#include "renderer/render_driver.h"
+
+namespace renderer {
+
+/// Draws one text of the theme with its anchor at X, Y plus the base (pixels), in the chosen language, its face and
+/// size by Font and Size, aligned by Align, a fifth of its height lower. A Font other than 0 and 1 keeps what the text
+/// before left on the surface.
+void DrawTextObject(RenderContext& context, const QString& section, int baseX, int baseY);
+
+}  // namespace renderer
