@@ -1,0 +1,72 @@
+#include "toolbar/button_values.h"
+
+#include <QImage>
+#include <QPixmap>
+
+namespace toolbar {
+
+namespace {
+
+QIcon ToIcon(const QVariant& value) {
+  if (value.typeId() == QMetaType::QImage) return QIcon(QPixmap::fromImage(value.value<QImage>()));
+  if (value.typeId() == QMetaType::QPixmap) return QIcon(value.value<QPixmap>());
+  return value.value<QIcon>();
+}
+
+}  // namespace
+
+void SetValue(ToolbarButton& button, int propertyID, const QVariant& value) {
+  switch (propertyID) {
+    case ButtonTypeProperty:
+      button.ButtonType = value.toInt();
+      break;
+    case CaptionProperty:
+      button.Caption = value.toString();
+      break;
+    case EnabledProperty:
+      button.Enabled = value.toBool();
+      break;
+    case IconProperty:
+      button.Icon = ToIcon(value);
+      break;
+    case IconAlignmentProperty:
+      button.IconAlignment = value.toInt();
+      break;
+    case PressedProperty:
+      button.Pressed = value.toBool();
+      break;
+    case ToolTipTextProperty:
+      button.ToolTipText = value.toString();
+      break;
+    case ToolTipIconProperty:
+      button.ToolTipIcon = value.toInt();
+      break;
+    default:
+      break;
+  }
+}
+
+QVariant GetValue(const ToolbarButton& button, int propertyID) {
+  switch (propertyID) {
+    case ButtonTypeProperty:
+      return button.ButtonType;
+    case CaptionProperty:
+      return button.Caption;
+    case EnabledProperty:
+      return button.Enabled;
+    case IconProperty:
+      return button.Icon;
+    case IconAlignmentProperty:
+      return button.IconAlignment;
+    case PressedProperty:
+      return button.Pressed;
+    case ToolTipTextProperty:
+      return button.ToolTipText;
+    case ToolTipIconProperty:
+      return button.ToolTipIcon;
+    default:
+      return {};
+  }
+}
+
+}  // namespace toolbar
