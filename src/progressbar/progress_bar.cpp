@@ -1,0 +1,123 @@
+#include "progressbar/progress_bar.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QPainter>
+
+#include "progressbar/painting.h"
+#include "progressbar/stored_form.h"
+
+namespace progressbar {
+
+ProgressBar::ProgressBar(QWidget* parent) : QWidget(parent) {
+  InitProperties();
+}
+
+template <typename T>
+void ProgressBar::write(T& member, const T& value, QStringView key) {
+  member = value;
+  Q_EMIT PropertyChanged(key.toString());
+  update();
+}
+
+void ProgressBar::SetValue(int value) {
+  write(state_.Value, std::max(std::min(value, state_.max), state_.min), u"Value");
+}
+
+void ProgressBar::SetMax(int value) {
+  value = std::max(value, 1);
+  if (value <= state_.min) value = state_.min + 1;
+  state_.max = value;
+  if (state_.Value > value) SetValue(value);
+  write(state_.max, value, u"Max");
+}
+
+void ProgressBar::SetMin(int value) {
+  if (value >= state_.max) value = state_.max - 1;
+  value = std::max(value, 0);
+  state_.min = value;
+  if (state_.Value < value) SetValue(value);
+  write(state_.min, value, u"Min");
+}
+
+void ProgressBar::SetTextFont(const QFont& value) {
+  setFont(value);
+  write(state_.TextFont, value, u"TextFont");
+}
+
+void ProgressBar::SetRoundedValue(int value) {
+  write(state_.RoundedValue, value, u"RoundedValue");
+}
+void ProgressBar::SetEnabled(bool value) {
+  write(state_.Enabled, value, u"Enabled");
+}
+void ProgressBar::SetTheme(int value) {
+  write(state_.Theme, value, u"Theme");
+}
+void ProgressBar::SetTextStyle(int value) {
+  write(state_.TextStyle, value, u"TextStyle");
+}
+void ProgressBar::SetOrientations(int value) {
+  write(state_.Orientations, value, u"Orientations");
+}
+void ProgressBar::SetTextAlignment(int value) {
+  write(state_.TextAlignment, value, u"TextAlignment");
+}
+void ProgressBar::SetText(const QString& value) {
+  write(state_.Text, value, u"Text");
+}
+void ProgressBar::SetTextEffectColor(quint32 value) {
+  write(state_.TextEffectColor, value, u"TextEffectColor");
+}
+void ProgressBar::SetTextEffect(int value) {
+  write(state_.TextEffect, value, u"TextEffect");
+}
+void ProgressBar::SetTextForeColor(quint32 value) {
+  write(state_.TextForeColor, value, u"TextForeColor");
+}
+void ProgressBar::SetPBSCustomeColor1(quint32 value) {
+  write(state_.PBSCustomeColor1, value, u"PBSCustomeColor1");
+}
+void ProgressBar::SetPBSCustomeColor2(quint32 value) {
+  write(state_.PBSCustomeColor2, value, u"PBSCustomeColor2");
+}
+
+void ProgressBar::InitProperties() {
+  SetMax(100);
+  SetMin(0);
+  SetValue(50);
+  SetRoundedValue(5);
+  SetEnabled(true);
+  SetTheme(1);
+  SetTextForeColor(0);
+  SetText(QStringLiteral("Z42K ProgressBar"));
+  SetTextAlignment(5);
+  SetTextEffect(5);
+  SetTextEffectColor(0xFFFFFF);
+  SetTextStyle(3);
+  SetOrientations(1);
+  SetTextFont(ambientFont());
+}
+
+void ProgressBar::ReadProperties(const platform::PropertyBag& bag) {
+  ReadStoredForm(*this, bag, {objectName(), ambientFont()});
+  if (const std::optional<QSize> size = StoredSize(bag)) resize(*size);
+}
+
+void ProgressBar::WriteProperties(platform::PropertyBag& bag) const {
+  WriteStoredForm(*this, bag, {QString(), ambientFont()});
+  StoreSize(bag, size());
+}
+
+void ProgressBar::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  Paint(painter, size(), state_);
+}
+
+QFont ProgressBar::ambientFont() const {
+  const QWidget* container = parentWidget();
+  return container == nullptr ? QApplication::font() : container->font();
+}
+
+}  // namespace progressbar

@@ -1,0 +1,116 @@
+#include "progressbar/stored_form.h"
+
+#include <cmath>
+#include <type_traits>
+#include <utility>
+
+#include "progressbar/progress_bar.h"
+
+namespace progressbar {
+
+namespace {
+
+/// One member as it is stored.
+struct Member {
+  QStringView key;
+  QVariant (*storedDefault)(const Ambient& ambient);
+  QVariant (*read)(const ProgressBar& bar);
+  /// Passes over a value that isn't of the member's type.
+  void (*write)(ProgressBar& bar, const QVariant& value);
+};
+
+template <typename T>
+std::optional<T> As(const QVariant& value) {
+  bool fits = value.typeId() == qMetaTypeId<T>();
+  if (fits) return value.value<T>();
+  if constexpr (std::is_same_v<T, int> || std::is_same_v<T, quint32>) {
+    const qlonglong number = value.toLongLong(&fits);
+    if (fits && std::in_range<T>(number)) return static_cast<T>(number);
+  } else if constexpr (std::is_same_v<T, bool>) {
+    const qlonglong number = value.toLongLong(&fits);
+    if (fits) return number != 0;
+  }
+  return std::nullopt;
+}
+
+template <auto Get, auto Set>
+constexpr Member Stored(QStringView key, QVariant (*storedDefault)(const Ambient&)) {
+  using T = std::remove_cvref_t<std::invoke_result_t<decltype(Get), const ProgressBar&>>;
+  return {key, storedDefault, [](const ProgressBar& bar) { return QVariant::fromValue((bar.*Get)()); },
+          [](ProgressBar& bar, const QVariant& value) {
+            if (const std::optional<T> written = As<T>(value)) (bar.*Set)(*written);
+          }};
+}
+
+template <auto Value>
+QVariant Fixed(const Ambient& /*ambient*/) {
+  return QVariant::fromValue(Value);
+}
+QVariant Name(const Ambient& ambient) {
+  return ambient.DisplayName;
+}
+QVariant Font(const Ambient& ambient) {
+  return ambient.Font;
+}
+
+constexpr quint32 Black = 0;
+constexpr quint32 LightGrey = 0xC8C8C8;
+
+using Bar = ProgressBar;
+constexpr Member Members[] = {
+    Stored<&Bar::max, &Bar::SetMax>(u"Max", Fixed<100>),
+    Stored<&Bar::min, &Bar::SetMin>(u"Min", Fixed<0>),
+    Stored<&Bar::Value, &Bar::SetValue>(u"Value", Fixed<50>),
+    Stored<&Bar::RoundedValue, &Bar::SetRoundedValue>(u"RoundedValue", Fixed<5>),
+    Stored<&Bar::Enabled, &Bar::SetEnabled>(u"Enabled", Fixed<true>),
+    Stored<&Bar::Theme, &Bar::SetTheme>(u"Theme", Fixed<1>),
+    Stored<&Bar::TextStyle, &Bar::SetTextStyle>(u"TextStyle", Fixed<1>),
+    Stored<&Bar::Orientations, &Bar::SetOrientations>(u"Orientations", Fixed<1>),
+    Stored<&Bar::Text, &Bar::SetText>(u"Text", Name),
+    Stored<&Bar::TextEffectColor, &Bar::SetTextEffectColor>(u"TextEffectColor", Fixed<LightGrey>),
+    Stored<&Bar::TextEffect, &Bar::SetTextEffect>(u"TextEffect", Fixed<1>),
+    Stored<&Bar::TextAlignment, &Bar::SetTextAlignment>(u"TextAlignment", Fixed<5>),
+    Stored<&Bar::TextFont, &Bar::SetTextFont>(u"TextFont", Font),
+    Stored<&Bar::TextForeColor, &Bar::SetTextForeColor>(u"TextForeColor", Fixed<Black>),
+    Stored<&Bar::PBSCustomeColor2, &Bar::SetPBSCustomeColor2>(u"PBSCustomeColor2", Fixed<Black>),
+    Stored<&Bar::PBSCustomeColor1, &Bar::SetPBSCustomeColor1>(u"PBSCustomeColor1", Fixed<Black>),
+};
+
+constexpr double ExtentsPerPixel = 2540.0 / 96;
+constexpr QStringView ExtentX = u"_extentx";
+constexpr QStringView ExtentY = u"_extenty";
+
+int ToExtent(int pixels) {
+  return static_cast<int>(std::lround(pixels * ExtentsPerPixel));
+}
+int ToPixels(int extent) {
+  return static_cast<int>(std::lround(extent / ExtentsPerPixel));
+}
+
+}  // namespace
+
+void ReadStoredForm(ProgressBar& bar, const platform::PropertyBag& bag, const Ambient& ambient) {
+  for (const Member& member : Members) {
+    member.write(bar, bag.ReadProperty(member.key.toString(), member.storedDefault(ambient)));
+  }
+}
+
+void WriteStoredForm(const ProgressBar& bar, platform::PropertyBag& bag, const Ambient& ambient) {
+  for (const Member& member : Members) {
+    bag.WriteProperty(member.key.toString(), member.read(bar), member.storedDefault(ambient));
+  }
+}
+
+std::optional<QSize> StoredSize(const platform::PropertyBag& bag) {
+  const std::optional<int> width = As<int>(bag.ReadProperty(ExtentX.toString(), {}));
+  const std::optional<int> height = As<int>(bag.ReadProperty(ExtentY.toString(), {}));
+  if (!width || !height) return std::nullopt;
+  return QSize(ToPixels(*width), ToPixels(*height));
+}
+
+void StoreSize(platform::PropertyBag& bag, const QSize& pixels) {
+  bag.WriteProperty(ExtentX.toString(), ToExtent(pixels.width()), {});
+  bag.WriteProperty(ExtentY.toString(), ToExtent(pixels.height()), {});
+}
+
+}  // namespace progressbar
