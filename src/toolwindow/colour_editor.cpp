@@ -1,0 +1,182 @@
+#include "toolwindow/colour_editor.h"
+
+#include <algorithm>
+
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/system_colors.h"
+#include "themefiles/colour_tables.h"
+#include "themefiles/ini_access.h"
+#include "toolwindow/edit_reports.h"
+#include "toolwindow/tool_window.h"
+
+namespace toolwindow {
+namespace {
+
+using themefiles::NamedColor;
+
+// The entries of Combo4.
+constexpr int ThemeGroup = 0;
+constexpr int ProgramGroup = 1;
+constexpr int PlayerGroup = 2;
+
+QString section() {
+  return QStringLiteral("Colors");
+}
+
+QString newColor() {
+  return QStringLiteral("150 150 150");
+}
+
+QColor shownColor(const QString& color) {
+  return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
+}
+
+void paintSwatch(Form2& form, const QColor& color) {
+  QPalette palette = form.Command2->palette();
+  palette.setColor(QPalette::Button, color);
+  form.Command2->setPalette(palette);
+}
+
+template <typename Table>
+auto rowNamed(Table& table, const QString& name) {
+  return std::find_if(table.begin(), table.end(), [&](const NamedColor& row) { return row.Name == name; });
+}
+
+template <typename Table>
+QStringList namesOf(const Table& table) {
+  QStringList names;
+  for (const NamedColor& row : table) {
+    if (!row.Name.isEmpty()) names += row.Name;
+  }
+  return names;
+}
+
+QStringList namesOfGroup(const themefiles::ModuleState& state, int group) {
+  if (group == ProgramGroup) return themefiles::ProgramColorNames();
+  return group == ThemeGroup ? namesOf(state.ThemeColors) : namesOf(state.PlayerColors);
+}
+
+/// The group that holds the name; -1 for none. An empty name is that of a free row.
+int groupOf(const themefiles::ModuleState& state, const QString& name) {
+  if (rowNamed(state.ThemeColors, name) != state.ThemeColors.end()) return ThemeGroup;
+  if (themefiles::ProgramColorNames().contains(name)) return ProgramGroup;
+  return rowNamed(state.PlayerColors, name) != state.PlayerColors.end() ? PlayerGroup : -1;
+}
+
+void listNames(Form2& form, const QStringList& names) {
+  form.Combo3->Clear();
+  for (const QString& name : names) form.Combo3->AddItem(name);
+}
+
+/// First entry of Combo3 equal to the name but for case; -1 without one.
+int entryLike(const Form2& form, const QString& name) {
+  for (int entry = 0; entry < form.Combo3->ListCount(); ++entry) {
+    if (platform::SameName(form.Combo3->List(entry), name)) return entry;
+  }
+  return -1;
+}
+
+/// Runs a write; one that did not reach the file is reported and throws no further.
+bool written(Form2& form, const QString& step, const QString& name, const std::optional<QString>& value) {
+  return platform::Guarded(form.Services.Status, step, [&] {
+    themefiles::PutINIChecked(section(), name, value, form.Services.State.Paths.ThemeFile);
+  });
+}
+
+QString writeStep() {
+  return QStringLiteral("Error while writing tempfile");
+}
+
+}  // namespace
+
+void FillColorEditor(Form2& form, const QString& Value) {
+  form.Combo3->Clear();
+  paintSwatch(form, shownColor(newColor()));
+  const int group = groupOf(form.Services.State, Value);
+  if (group < 0) return;
+  form.Command3->setEnabled(true);
+  form.Command5->setEnabled(true);
+  listNames(form, namesOfGroup(form.Services.State, group));
+  form.Combo4->SetListIndex(group);
+  const int entry = form.Combo3->findText(Value, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (entry >= 0) form.Combo3->SetListIndex(entry);
+}
+
+void Combo4_Click(Form2& form, controls::Cause cause) {
+  if (cause != controls::Cause::User) return;
+  const int group = form.Combo4->ListIndex();
+  for (QPushButton* button : {form.Command3, form.Command2, form.Command5}) button->setEnabled(group == ThemeGroup);
+  listNames(form, namesOfGroup(form.Services.State, group));
+  if (form.Combo3->ListCount() > 0) form.Combo3->SetListIndex(0);
+}
+
+void Combo3_Click(Form2& form) {
+  const themefiles::ModuleState& state = form.Services.State;
+  const QString name = form.Combo3->Text();
+  const int group = form.Combo4->ListIndex();
+  if (group == ThemeGroup) {
+    const auto row = rowNamed(state.ThemeColors, name);
+    if (!name.isEmpty() && row != state.ThemeColors.end()) paintSwatch(form, shownColor(row->Value));
+  } else if (group == ProgramGroup || group == PlayerGroup) {
+    paintSwatch(form, shownColor(themefiles::ResolveColor(state, name, form.Services.SchemeName())));
+  }
+}
+
+void Command2_Click(Form2& form) {
+  if (form.Combo3->ListIndex() < 0) return;
+  themefiles::ModuleState& state = form.Services.State;
+  const QColor present = form.Command2->palette().color(QPalette::Button);
+  const auto color = form.Services.Dialogs.ChooseColor(&form, present);
+  if (!color) return;
+  const QString name = form.Combo3->Text();
+  const auto row = rowNamed(state.ThemeColors, name);
+  const bool ofTheme = !name.isEmpty() && row != state.ThemeColors.end();
+  const QString text = QStringLiteral("%1 %2 %3").arg(color->red()).arg(color->green()).arg(color->blue());
+  if (ofTheme && !written(form, writeStep(), name, text)) return;
+  paintSwatch(form, *color);
+  if (!ofTheme) return;
+  row->Value = text;
+  TellKeptInWorkingCopy(form);
+}
+
+void Command3_Click(Form2& form) {
+  const QString step = QStringLiteral("Error while adding colors");
+  const QString name =
+      form.Services.Dialogs.InputBox(&form, QStringLiteral("Name of the New Color:"), QStringLiteral("New Color"));
+  if (name.isEmpty()) return;
+  if (entryLike(form, name) >= 0) {
+    ShowErrorBox(form, QStringLiteral("Color already exist!"));
+    return;
+  }
+  if (!AcceptNewName(form, name)) return;
+  auto& table = form.Services.State.ThemeColors;
+  const auto row = rowNamed(table, QString());
+  if (row == table.end()) {
+    form.Services.Status.ShowStatus(platform::ReportText(step, QString()));
+    return;
+  }
+  if (!written(form, step, name, newColor())) return;
+  *row = {name, newColor()};
+  form.Combo3->AddItem(name);
+  form.Combo3->SetListIndex(entryLike(form, name));
+  TellKeptInWorkingCopy(form);
+}
+
+void Command5_Click(Form2& form) {
+  const QString name = form.Combo3->Text();
+  if (name.isEmpty()) return;
+  const auto answer = form.Services.Dialogs.MessageBox(
+      &form, QStringLiteral("Really delete this Color?") + QStringLiteral("\n\n") + name,
+      QStringLiteral("Delete Color"), platform::BoxKind::YesNoDefaultNo);
+  if (answer != platform::BoxAnswer::Yes) return;
+  auto& table = form.Services.State.ThemeColors;
+  const auto row = rowNamed(table, name);
+  if (row == table.end() || !written(form, writeStep(), name, std::nullopt)) return;
+  *row = {};
+  form.Combo3->RemoveItem(form.Combo3->ListIndex());
+  paintSwatch(form, platform::ColorOf(platform::ButtonFaceColor));
+  TellKeptInWorkingCopy(form);
+}
+
+}  // namespace toolwindow

@@ -1,0 +1,35 @@
+#include "toolwindow/edit_reports.h"
+
+#include "platform/code_page.h"
+#include "platform/numbers.h"
+#include "toolwindow/tool_window.h"
+
+namespace toolwindow {
+namespace {
+
+bool usableName(const QString& name) {
+  if (name.isEmpty() || platform::TrimBlanks(name) != name) return false;
+  if (name.startsWith(u';') || name.startsWith(u'[')) return false;
+  for (const QChar letter : {QChar(u'='), QChar(u'\r'), QChar(u'\n'), QChar(u'\0')}) {
+    if (name.contains(letter)) return false;
+  }
+  return !name.startsWith(u'\t') && !name.endsWith(u'\t') && platform::ToAnsi(name).has_value();
+}
+
+}  // namespace
+
+void TellKeptInWorkingCopy(Form2& form) {
+  form.Services.Status.ShowStatus(QStringLiteral("Kept in the working copy; the next Update makes Save available"));
+}
+
+void ShowErrorBox(Form2& form, const QString& text) {
+  form.Services.Dialogs.MessageBox(&form, text, QStringLiteral("Error"), platform::BoxKind::Error);
+}
+
+bool AcceptNewName(Form2& form, const QString& name) {
+  if (usableName(name)) return true;
+  ShowErrorBox(form, QStringLiteral("This name can't be used!"));
+  return false;
+}
+
+}  // namespace toolwindow

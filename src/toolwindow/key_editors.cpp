@@ -1,0 +1,133 @@
+#include "toolwindow/key_editors.h"
+
+#include <array>
+
+#include "platform/code_page.h"
+#include "platform/paths.h"
+#include "themefiles/ini_access.h"
+#include "toolwindow/edit_reports.h"
+#include "toolwindow/tool_window.h"
+
+namespace toolwindow {
+namespace {
+
+/// The names in which the two frames differ.
+struct KeyEditorRow {
+  QStringView section;
+  QString themefiles::ThemePaths::*file;
+  controls::ComboBox* Form2::*list;
+  controls::TextBox* Form2::*box;
+  QStringView newKeyTitle;
+};
+
+// In the order of KeyEditor.
+constexpr std::array<KeyEditorRow, 2> Rows{{
+    {u"Text", &themefiles::ThemePaths::LanguageFile, &Form2::Combo5, &Form2::Text2, u"New TextKey"},
+    {u"Textures", &themefiles::ThemePaths::SkinFile, &Form2::Combo6, &Form2::Text3, u"New TextureKey"},
+}};
+
+/// One of the two frames of a form.
+struct Editor {
+  QString section;
+  QString file;
+  controls::ComboBox& list;
+  controls::TextBox& box;
+  QString newKeyTitle;
+};
+
+Editor editorOf(Form2& form, KeyEditor which) {
+  const KeyEditorRow& row = Rows.at(static_cast<size_t>(which));
+  return {row.section.toString(), form.Services.State.Paths.*row.file, *(form.*row.list), *(form.*row.box),
+          row.newKeyTitle.toString()};
+}
+
+void fill(Form2& form, KeyEditor which, const QString& value) {
+  const Editor editor = editorOf(form, which);
+  editor.list.Clear();
+  editor.box.SetText(QString());
+  for (const QString& key : themefiles::KeyNames(editor.section, editor.file)) editor.list.AddItem(key);
+  const int entry = editor.list.findText(value, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (entry >= 0) editor.list.SetListIndex(entry);
+}
+
+/// Runs a write; one that did not reach the file is reported.
+bool written(Form2& form, const Editor& editor, const QString& key, const std::optional<QString>& value) {
+  return platform::Guarded(form.Services.Status, QStringLiteral("Error while writing tempfile"),
+                           [&] { themefiles::PutINIChecked(editor.section, key, value, editor.file); });
+}
+
+bool listed(const Editor& editor, const QString& key) {
+  for (int entry = 0; entry < editor.list.ListCount(); ++entry) {
+    if (platform::SameName(editor.list.List(entry), key)) return true;
+  }
+  return false;
+}
+
+/// Whether the section has the key, also one that its list was too short for.
+bool keyExists(const Editor& editor, const QString& key) {
+  const QString missing(QChar(1));
+  return listed(editor, key) || themefiles::GetINI(editor.section, key, missing, editor.file) != missing;
+}
+
+}  // namespace
+
+void FillTextKeys(Form2& form, const QString& Value) {
+  fill(form, KeyEditor::Text, Value);
+}
+
+void FillTextureKeys(Form2& form, const QString& Value) {
+  fill(form, KeyEditor::Texture, Value);
+}
+
+void KeyList_Click(Form2& form, KeyEditor which) {
+  const Editor editor = editorOf(form, which);
+  editor.box.SetText(
+      themefiles::GetINI(editor.section, editor.list.Text(), QString(), editor.file, themefiles::ListBufferSize));
+}
+
+void AddKey_Click(Form2& form, KeyEditor which) {
+  const Editor editor = editorOf(form, which);
+  const QString name =
+      form.Services.Dialogs.InputBox(&form, QStringLiteral("Name of the New Key:"), editor.newKeyTitle);
+  if (name.isEmpty() || !AcceptNewName(form, name)) return;
+  if (keyExists(editor, name)) {
+    ShowErrorBox(form, QStringLiteral("Key already exist!"));
+    return;
+  }
+  if (!written(form, editor, name, QString())) return;
+  editor.list.AddItem(name);
+  editor.list.SetListIndex(editor.list.ListCount() - 1);
+  TellKeptInWorkingCopy(form);
+}
+
+void RemoveKey_Click(Form2& form, KeyEditor which) {
+  const Editor editor = editorOf(form, which);
+  const QString key = editor.list.Text();
+  if (key.isEmpty()) return;
+  const auto answer =
+      form.Services.Dialogs.MessageBox(&form, QStringLiteral("Really delete this Key?") + QStringLiteral("\n\n") + key,
+                                       QStringLiteral("Delete Key"), platform::BoxKind::YesNoDefaultNo);
+  if (answer != platform::BoxAnswer::Yes) return;
+  if (!written(form, editor, key, std::nullopt)) return;
+  editor.list.RemoveItem(editor.list.ListIndex());
+  editor.list.SetListIndex(-1);
+  editor.box.SetText(QString());
+  TellKeptInWorkingCopy(form);
+}
+
+void Command4_Click(Form2& form) {
+  const QString& skinFolder = form.Services.State.Paths.SkinDirectory;
+  const QString path = form.Services.Dialogs.OpenFile(
+      &form, {QStringLiteral("Change Filename"),
+              QStringLiteral("All supported image files (*.bmp,*.gif,*.jpg,*.png)|*.bmp;*.gif;*.jpg;*.png"), QString(),
+              skinFolder});
+  if (path.isEmpty()) return;
+  const qsizetype separator = path.lastIndexOf(u'\\');
+  if (!platform::SameFolder(path.left(separator), skinFolder)) {
+    ShowErrorBox(form, QStringLiteral("Image must be in ") + skinFolder);
+    return;
+  }
+  form.Text3->SetText(path.mid(separator + 1));
+}
+
+}  // namespace toolwindow

@@ -1,0 +1,80 @@
+#include "toolwindow/tool_events.h"
+
+#include <QPointer>
+
+#include "toolwindow/colour_editor.h"
+#include "toolwindow/key_editors.h"
+#include "toolwindow/number_editor.h"
+#include "toolwindow/object_selection.h"
+#include "toolwindow/tool_window.h"
+#include "toolwindow/value_commit.h"
+#include "toolwindow/value_grid.h"
+
+namespace toolwindow {
+namespace {
+
+using controls::Cause;
+using controls::ComboBox;
+using controls::TextBox;
+
+/// Ties a button to an operation that asks or changes colours and keys: it waits until no work is running, and is
+/// dropped when the window has been closed by then.
+template <typename Operation>
+void onClick(Form2& form, QPushButton* button, Operation operation) {
+  QObject::connect(button, &QPushButton::clicked, &form, [&form, operation] {
+    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form), operation] {
+      if (open && open->isVisible()) platform::GuardedSilently([&] { operation(*open); });
+    });
+  });
+}
+
+void connectSelection(Form2& form) {
+  QObject::connect(form.Combo1, &ComboBox::Click, &form, [&form] { form.Services.Queue.Choose(); });
+  QObject::connect(form.List1, &controls::ListBox::Click, &form, [&form] { List1_Click(form); });
+  QObject::connect(form.ListView1, &controls::ListView::ItemClick, &form,
+                   [&form](int row) { ListView1_ItemClick(form, row); });
+}
+
+void connectCommit(Form2& form) {
+  const auto update = [&form] { Command1_Click(form); };
+  QObject::connect(form.Command1, &QPushButton::clicked, &form, update);
+  QObject::connect(&form, &Form2::EnterPressed, &form, update);
+  for (TextBox* box : {form.Text1, form.Text4, form.Text2}) QObject::connect(box, &TextBox::Enter, &form, update);
+}
+
+void connectNumbers(Form2& form) {
+  form.Text1->SetKeyFilter(QStringLiteral("0123456789"));
+  form.Text4->SetKeyFilter(QStringLiteral("0123456789."));
+  QObject::connect(form.Text1, &TextBox::Change, &form, [&form] { Text1_Change(form); });
+  QObject::connect(form.VScroll1, &controls::NumberBar::Change, &form, [&form] { VScroll1_Change(form); });
+}
+
+void connectColors(Form2& form) {
+  QObject::connect(form.Combo4, &ComboBox::Click, &form, [&form](Cause cause) { Combo4_Click(form, cause); });
+  QObject::connect(form.Combo3, &ComboBox::Click, &form, [&form] { Combo3_Click(form); });
+  onClick(form, form.Command2, Command2_Click);
+  onClick(form, form.Command3, Command3_Click);
+  onClick(form, form.Command5, Command5_Click);
+}
+
+void connectKeys(Form2& form) {
+  QObject::connect(form.Combo5, &ComboBox::Click, &form, [&form] { KeyList_Click(form, KeyEditor::Text); });
+  QObject::connect(form.Combo6, &ComboBox::Click, &form, [&form] { KeyList_Click(form, KeyEditor::Texture); });
+  onClick(form, form.Command6, [](Form2& f) { AddKey_Click(f, KeyEditor::Text); });
+  onClick(form, form.Command7, [](Form2& f) { RemoveKey_Click(f, KeyEditor::Text); });
+  onClick(form, form.Command8, [](Form2& f) { AddKey_Click(f, KeyEditor::Texture); });
+  onClick(form, form.Command9, [](Form2& f) { RemoveKey_Click(f, KeyEditor::Texture); });
+  onClick(form, form.Command4, Command4_Click);
+}
+
+}  // namespace
+
+void ConnectEvents(Form2& form) {
+  connectSelection(form);
+  connectCommit(form);
+  connectNumbers(form);
+  connectColors(form);
+  connectKeys(form);
+}
+
+}  // namespace toolwindow

@@ -1,0 +1,204 @@
+#include "toolwindow/tool_window.h"
+
+#include <array>
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+
+#include "platform/system_colors.h"
+
+namespace toolwindow {
+namespace {
+
+constexpr int NumberLimit = 10000;
+constexpr int NumberAtLoad = -1000;
+
+struct FrameRow {
+  EditorFrame frame;
+  QWidget* Form2::*widget;
+  controls::TwipsRect ToolLayout::*place;
+};
+
+constexpr std::array<FrameRow, 6> Frames{{
+    {EditorFrame::Numbers, &Form2::Numbers, &ToolLayout::Numbers},
+    {EditorFrame::FloatNumbers, &Form2::FloatNumbers, &ToolLayout::FloatNumbers},
+    {EditorFrame::Selection, &Form2::Selection, &ToolLayout::Selection},
+    {EditorFrame::Color, &Form2::Color, &ToolLayout::Color},
+    {EditorFrame::Texture, &Form2::Texture, &ToolLayout::Texture},
+    {EditorFrame::Texts, &Form2::Texts, &ToolLayout::Texts},
+}};
+
+const FrameRow& rowOf(EditorFrame frame) {
+  return Frames.at(static_cast<size_t>(frame));
+}
+
+/// Client size of a window, in pixels, from its outer size in twips.
+QSize clientSize(const ToolLayout& layout) {
+  return {controls::ToPixels(layout.Width - controls::FrameWidth),
+          controls::ToPixels(layout.Height - controls::FrameHeight)};
+}
+
+}  // namespace
+
+Form2::Form2(ToolServices services, QWidget* owner)
+    : QWidget(owner, Qt::Tool),
+      Services(std::move(services)),
+      Combo1(new controls::ComboBox(this)),
+      List1(new controls::ListBox(controls::ListBox::Order::Sorted, this)),
+      ListView1(new controls::ListView(this)),
+      Frame1(new QGroupBox(QStringLiteral("Edit Value"), this)),
+      Command1(new QPushButton(QStringLiteral("&Update"), this)),
+      Numbers(new QWidget(Frame1)),
+      Text1(new controls::TextBox(Numbers)),
+      VScroll1(new controls::NumberBar(NumberLimit, NumberAtLoad, Numbers)),
+      FloatNumbers(new QWidget(Frame1)),
+      Text4(new controls::TextBox(FloatNumbers)),
+      Selection(new QWidget(Frame1)),
+      Combo2(new controls::ComboBox(Selection)),
+      Color(new QWidget(Frame1)),
+      Combo4(new controls::ComboBox(Color)),
+      Command3(iconButton(Color, QStringLiteral("plus"), QStringLiteral("Add a new Color"))),
+      Command5(iconButton(Color, QStringLiteral("minus"), QStringLiteral("Remove Color"))),
+      Combo3(new controls::ComboBox(Color)),
+      Command2(iconButton(Color, QString(), QStringLiteral("Change Color"))),
+      Texture(new QWidget(Frame1)),
+      Combo6(new controls::ComboBox(Texture)),
+      Command8(iconButton(Texture, QStringLiteral("plus"), QString())),
+      Command9(iconButton(Texture, QStringLiteral("minus"), QString())),
+      Text3(new controls::TextBox(Texture)),
+      Command4(iconButton(Texture, QStringLiteral("folder"), QStringLiteral("Change Filename"))),
+      Texts(new QWidget(Frame1)),
+      Combo5(new controls::ComboBox(Texts)),
+      Command6(iconButton(Texts, QStringLiteral("plus"), QStringLiteral("Add New Key"))),
+      Command7(iconButton(Texts, QStringLiteral("minus"), QStringLiteral("Remove Key"))),
+      Text2(new controls::TextBox(Texts)),
+      Tags(*List1) {
+  using TL = ToolLayout;
+  placed_ = {
+      {Combo1, &TL::Combo1, "Combo1"},
+      {List1, &TL::List1, "List1"},
+      {ListView1, &TL::ListView1, "ListView1"},
+      {Frame1, &TL::Frame1, "Frame1"},
+      {Command1, &TL::Command1, "Command1"},
+      {Numbers, &TL::Numbers, "Numbers"},
+      {Text1, &TL::Text1, "Text1"},
+      {VScroll1, &TL::VScroll1, "VScroll1"},
+      {FloatNumbers, &TL::FloatNumbers, "FloatNumbers"},
+      {Text4, &TL::Text4, "Text4"},
+      {Selection, &TL::Selection, "Selection"},
+      {Combo2, &TL::Combo2, "Combo2"},
+      {Color, &TL::Color, "Color"},
+      {Combo4, &TL::Combo4, "Combo4"},
+      {Command3, &TL::Command3, "Command3"},
+      {Command5, &TL::Command5, "Command5"},
+      {Combo3, &TL::Combo3, "Combo3"},
+      {Command2, &TL::Command2, "Command2"},
+      {Texture, &TL::Texture, "Texture"},
+      {Combo6, &TL::Combo6, "Combo6"},
+      {Command8, &TL::Command8, "Command8"},
+      {Command9, &TL::Command9, "Command9"},
+      {Text3, &TL::Text3, "Text3"},
+      {Command4, &TL::Command4, "Command4"},
+      {Texts, &TL::Texts, "Texts"},
+      {Combo5, &TL::Combo5, "Combo5"},
+      {Command6, &TL::Command6, "Command6"},
+      {Command7, &TL::Command7, "Command7"},
+      {Text2, &TL::Text2, "Text2"},
+  };
+  setObjectName(QStringLiteral("Form2"));
+  for (const PlacedControl& control : placed_) control.widget->setObjectName(QLatin1StringView(control.name));
+  setWindowTitle(QStringLiteral("Tool"));
+  setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+  ListView1->SetColumns({QStringLiteral("Item"), QStringLiteral("Value")},
+                        {controls::ToPixels(950), controls::ToPixels(1300)});
+  for (QWidget* control : std::initializer_list<QWidget*>{Combo1, List1, ListView1, Text3}) control->setEnabled(false);
+  HideEditorFrames();
+  Frame1->hide();
+  Command1->hide();
+  themefiles::InitScreenTable(Services.State);
+  for (const themefiles::ScreenRow& row : Services.State.ScreenTable) {
+    if (!row.Name.isEmpty()) Combo1->AddItem(row.Name);
+  }
+  for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
+  Services.State.EditorShown = false;
+  fitWindow();
+}
+
+QPushButton* Form2::iconButton(QWidget* frame, const QString& icon, const QString& toolTip) {
+  auto* button = new QPushButton(frame);
+  if (!icon.isEmpty()) button->setIcon(QIcon(QStringLiteral(":/assets/%1.png").arg(icon)));
+  button->setToolTip(toolTip);
+  return button;
+}
+
+QWidget* Form2::frameOf(EditorFrame frame) const {
+  return this->*rowOf(frame).widget;
+}
+
+void Form2::ShowEditorFrame(EditorFrame frame) {
+  frameOf(frame)->show();
+  Services.State.EditorShown = true;
+  LayOutOpening(layout_, layout_.*rowOf(frame).place);
+  Frame1->show();
+  Command1->show();
+  fitWindow();
+}
+
+void Form2::CloseEditorFrame() {
+  Services.State.EditorShown = false;
+  LayOutClosing(layout_);
+  HideEditorFrames();
+  Frame1->hide();
+  Command1->hide();
+  fitWindow();
+}
+
+void Form2::HideEditorFrames() {
+  for (const FrameRow& row : Frames) (this->*row.widget)->hide();
+}
+
+void Form2::applyLayout() {
+  for (const PlacedControl& control : placed_) controls::Place(*control.widget, layout_.*control.place);
+}
+
+/// Gives the window the layout's size, and the controls their places.
+void Form2::fitWindow() {
+  fitted_ = layout_;
+  resize(clientSize(layout_));
+  applyLayout();
+}
+
+void Form2::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  Combo1->setFocus();
+}
+
+void Form2::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  // The window system tells of sizes that were asked for, too, and late: such a size has its layout already.
+  if (event->size() == clientSize(fitted_)) {
+    layout_ = fitted_;
+  } else {
+    LayOut(layout_, event->size().width() * controls::TwipsPerPixel + controls::FrameWidth,
+           event->size().height() * controls::TwipsPerPixel + controls::FrameHeight, Services.State.EditorShown, false);
+  }
+  applyLayout();
+}
+
+void Form2::closeEvent(QCloseEvent* event) {
+  event->setAccepted(!event->spontaneous());
+}
+
+void Form2::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const QWidget* focus = focusWidget();
+  const bool inEditor =
+      focus != nullptr && Frame1->isAncestorOf(focus) && qobject_cast<const QPushButton*>(focus) == nullptr;
+  if (enter && inEditor) {
+    Q_EMIT EnterPressed();
+    return;
+  }
+  QWidget::keyPressEvent(event);
+}
+
+}  // namespace toolwindow

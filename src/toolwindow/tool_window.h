@@ -1,0 +1,138 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QGroupBox>
+#include <QIcon>
+#include <QPushButton>
+
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/number_bar.h"
+#include "controls/text_box.h"
+#include "controls/work_queue.h"
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+#include "platform/surface.h"
+#include "renderer/highlight_cursor.h"
+#include "themefiles/module_state.h"
+#include "themefiles/screen_table.h"
+#include "toolwindow/key_table.h"
+#include "toolwindow/tool_layout.h"
+
+namespace toolwindow {
+
+/// What the tool window uses of the rest of the program.
+struct ToolServices {
+  themefiles::ModuleState& State;
+  platform::StatusLine& Status;
+  platform::Dialogs& Dialogs;
+  platform::Surface& Workspace;
+  renderer::CursorMark& Mark;
+  controls::WorkQueue& Queue;
+  std::function<void()> EnableSave;
+  std::function<QString()> SchemeName;  ///< the colour scheme in force
+};
+
+/// The window's own list of tags, as the readers and the renderer see it.
+class ListedTags : public themefiles::TagList {
+ public:
+  explicit ListedTags(controls::ListBox& list) : list_(list) {}
+  void Clear() override { list_.Clear(); }
+  void AddItem(const QString& tag) override { list_.AddItem(tag); }
+  int ListCount() const override { return list_.ListCount(); }
+  QString List(int row) const override { return list_.List(row); }
+  int ListIndex() const override { return list_.ListIndex(); }
+  void SetListIndex(int row) override { list_.SetListIndex(row); }
+
+ private:
+  controls::ListBox& list_;
+};
+
+/// The tool window: the choice of screen and object, the values of the object, and the editor of one value. It floats
+/// over the main window while a theme is open; its user can't close it by itself.
+class Form2 : public QWidget {
+  Q_OBJECT
+
+ public:
+  Form2(ToolServices services, QWidget* owner);
+
+  ToolServices Services;
+
+  controls::ComboBox* Combo1;     ///< the screen
+  controls::ListBox* List1;       ///< the screen's objects
+  controls::ListView* ListView1;  ///< the object's keys and values
+  QGroupBox* Frame1;              ///< the editor area
+  QPushButton* Command1;          ///< Update
+
+  QWidget* Numbers;
+  controls::TextBox* Text1;
+  controls::NumberBar* VScroll1;
+
+  QWidget* FloatNumbers;
+  controls::TextBox* Text4;
+
+  QWidget* Selection;
+  controls::ComboBox* Combo2;  ///< the values of a key with a fixed list
+
+  QWidget* Color;
+  controls::ComboBox* Combo4;  ///< the group of colours
+  QPushButton* Command3;       ///< add a colour
+  QPushButton* Command5;       ///< remove the colour
+  controls::ComboBox* Combo3;  ///< the colour's name
+  QPushButton* Command2;       ///< the swatch: change the colour
+
+  QWidget* Texture;
+  controls::ComboBox* Combo6;  ///< the texture key
+  QPushButton* Command8;       ///< add a texture key
+  QPushButton* Command9;       ///< remove the texture key
+  controls::TextBox* Text3;    ///< the image's file name
+  QPushButton* Command4;       ///< choose the image
+
+  QWidget* Texts;
+  controls::ComboBox* Combo5;  ///< the text key
+  QPushButton* Command6;       ///< add a text key
+  QPushButton* Command7;       ///< remove the text key
+  controls::TextBox* Text2;    ///< the words
+
+  ListedTags Tags;
+
+  /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
+  void ShowEditorFrame(EditorFrame frame);
+  /// Closes the editor area: the window shrinks to the lists.
+  void CloseEditorFrame();
+  /// Hides the six frames and changes nothing else.
+  void HideEditorFrames();
+
+  const ToolLayout& Layout() const { return layout_; }
+
+ Q_SIGNALS:
+  /// Enter was pressed in an editor that has no use of its own for it.
+  void EnterPressed();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  struct PlacedControl {
+    QWidget* widget;
+    controls::TwipsRect ToolLayout::*place;
+    const char* name;
+  };
+
+  QPushButton* iconButton(QWidget* frame, const QString& icon, const QString& toolTip);
+  QWidget* frameOf(EditorFrame frame) const;
+  void applyLayout();
+  void fitWindow();
+
+  ToolLayout layout_ = LoadedLayout();
+  std::vector<PlacedControl> placed_;
+  ToolLayout fitted_;  ///< the layout of the size that the window last gave itself
+};
+
+}  // namespace toolwindow

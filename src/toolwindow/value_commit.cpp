@@ -1,0 +1,117 @@
+#include "toolwindow/value_commit.h"
+
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "renderer/highlight_cursor.h"
+#include "themefiles/ini_access.h"
+#include "toolwindow/tool_window.h"
+
+namespace toolwindow {
+namespace {
+
+/// What a commit is about.
+struct Commit {
+  QString section;
+  QString key;  ///< identity of the row's key
+};
+
+Commit commitOf(const Form2& form) {
+  const int row = form.ListView1->SelectedRow();
+  if (row < 0) throw platform::Failure(QStringLiteral("no row is selected"));
+  const Commit commit{platform::TrimBlanks(form.List1->Text()), KeyIdentity(form.ListView1->RowText(row))};
+  if (commit.section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
+  if (commit.section.contains(u']')) {
+    throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(commit.section));
+  }
+  return commit;
+}
+
+void SetSelectedRowValue(Form2& form, const QString& Value) {
+  form.ListView1->SetSubItem(form.ListView1->SelectedRow(), Value);
+}
+
+/// The value that an entry of Combo2 stands for: what stands in front of its "=".
+QString selectedValue(const Form2& form) {
+  if (form.Combo2->ListIndex() < 0) throw platform::Failure(QStringLiteral("nothing is selected"));
+  return platform::TrimBlanks(form.Combo2->Text().section(u'=', 0, 0));
+}
+
+/// The name that a list of names has selected.
+QString selectedName(const controls::ComboBox& list) {
+  if (list.Text().isEmpty()) throw platform::Failure(QStringLiteral("nothing is selected"));
+  return list.Text();
+}
+
+void writeTheme(Form2& form, const Commit& commit, const QString& value) {
+  themefiles::PutINIChecked(commit.section, commit.key, value, form.Services.State.Paths.ThemeFile);
+}
+
+void commitValue(Form2& form, const Commit& commit, const QString& value) {
+  writeTheme(form, commit, value);
+  SetSelectedRowValue(form, value);
+}
+
+/// Writes a reference into the theme, and what it refers to into the file that owns that.
+void commitReference(Form2& form, const Commit& commit, const QString& name, const QString& section,
+                     const QString& content, const QString& file) {
+  themefiles::CheckLineText(content);
+  writeTheme(form, commit, name);
+  themefiles::PutINIChecked(section, name, content, file);
+  SetSelectedRowValue(form, name);
+}
+
+/// Keeps the record that the mark is drawn from in step with five keys.
+void updateCursorRect(themefiles::CursorRecord& record, const QString& key, const QString& value) {
+  const double number = platform::NumberOf(value);
+  if (key == u"X") record.X = platform::NumberText(number);
+  if (key == u"Y") record.Y = platform::NumberText(number);
+  if (key == u"W") record.W = platform::NumberText(number);
+  if (key == u"H") record.H = platform::NumberText(number);
+  if (key == u"SIZE") record.Size = platform::RoundToInt16(number).value_or(record.Size);
+}
+
+/// Reads the editor of the group and writes its value.
+void writeEditor(Form2& form, const Commit& commit, KeyGroup group) {
+  themefiles::ModuleState& state = form.Services.State;
+  switch (RowOf(group).frame) {
+    case EditorFrame::Numbers:
+      commitValue(form, commit, form.Text1->Text());
+      updateCursorRect(state.CursorRect, commit.key, form.Text1->Text());
+      break;
+    case EditorFrame::FloatNumbers:
+      commitValue(form, commit, form.Text4->Text());
+      break;
+    case EditorFrame::Selection:
+      commitValue(form, commit, selectedValue(form));
+      break;
+    case EditorFrame::Color:
+      commitValue(form, commit, selectedName(*form.Combo3));
+      break;
+    case EditorFrame::Texts:
+      commitReference(form, commit, selectedName(*form.Combo5), QStringLiteral("Text"), form.Text2->Text(),
+                      state.Paths.LanguageFile);
+      break;
+    case EditorFrame::Texture:
+      commitReference(form, commit, selectedName(*form.Combo6), QStringLiteral("Textures"), form.Text3->Text(),
+                      state.Paths.SkinFile);
+      break;
+  }
+}
+
+}  // namespace
+
+void Command1_Click(Form2& form) {
+  ToolServices& services = form.Services;
+  platform::Guarded(services.Status, QStringLiteral("Error while writing tempfile"), [&] {
+    const Commit commit = commitOf(form);
+    const auto group = GroupOf(commit.key);
+    if (group) writeEditor(form, commit, *group);
+    services.State.Changed = true;
+    services.EnableSave();
+    services.Queue.Draw();
+    renderer::DrawCursor(services.State, form.Tags, services.Workspace, services.Mark, services.Status);
+    form.ListView1->setFocus();
+  });
+}
+
+}  // namespace toolwindow

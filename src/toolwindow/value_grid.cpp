@@ -1,0 +1,69 @@
+#include "toolwindow/value_grid.h"
+
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "toolwindow/colour_editor.h"
+#include "toolwindow/key_editors.h"
+#include "toolwindow/tool_window.h"
+
+namespace toolwindow {
+namespace {
+
+void fillSelection(Form2& form, const GroupRow& group) {
+  form.Combo2->Clear();
+  for (const QStringView entry : group.entries) form.Combo2->AddItem(entry.toString());
+}
+
+/// Selects the entry whose number is the value.
+void selectNumbered(Form2& form, const QString& value) {
+  const auto index = platform::RoundToInt16(platform::NumberOf(value));
+  if (!index) throw platform::Failure(QStringLiteral("%1 is outside the list").arg(value));
+  form.Combo2->SetListIndex(*index);
+}
+
+/// Selects the entry that equals the value; without one nothing is selected.
+void selectWord(Form2& form, const QString& value) {
+  const int entry = form.Combo2->findText(value, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (entry >= 0) form.Combo2->SetListIndex(entry);
+}
+
+void loadEditor(Form2& form, const GroupRow& group, const QString& value) {
+  switch (group.frame) {
+    case EditorFrame::Numbers:
+      form.Text1->SetText(value);
+      break;
+    case EditorFrame::FloatNumbers:
+      form.Text4->SetText(value);
+      break;
+    case EditorFrame::Selection:
+      fillSelection(form, group);
+      group.group == KeyGroup::Type ? selectWord(form, value) : selectNumbered(form, value);
+      break;
+    case EditorFrame::Color:
+      FillColorEditor(form, value);
+      break;
+    case EditorFrame::Texture:
+      FillTextureKeys(form, value);
+      break;
+    case EditorFrame::Texts:
+      FillTextKeys(form, value);
+      break;
+  }
+}
+
+}  // namespace
+
+void ListView1_ItemClick(Form2& form, int row) {
+  platform::Guarded(form.Services.Status, QStringLiteral("Error while reading Value"), [&] {
+    form.HideEditorFrames();
+    const auto group = GroupOf(KeyIdentity(form.ListView1->RowText(row)));
+    if (group) {
+      loadEditor(form, RowOf(*group), form.ListView1->SubItem(row));
+      form.ShowEditorFrame(RowOf(*group).frame);
+    } else if (form.Services.State.EditorShown) {
+      form.CloseEditorFrame();
+    }
+  });
+}
+
+}  // namespace toolwindow
