@@ -1,0 +1,77 @@
+#include "mainwindows/config_file.h"
+
+#include <algorithm>
+#include <array>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "themefiles/ini_access.h"
+
+namespace mainwindows {
+namespace {
+
+constexpr QByteArrayView FirstContent = "[Setup]\r\nEXEDirectory=\r\n";
+
+/// Folders that hold a system's programs: no place for a user's settings, even where they can be written.
+bool isSystemFolder(const QString& folder) {
+  constexpr std::array<QStringView, 6> Heads{u"/usr/", u"/bin/",          u"/sbin/",
+                                             u"/opt/", u"/Applications/", u"C:/Program Files"};
+  const QString native = platform::NativePath(folder) + u'/';
+  return std::any_of(Heads.begin(), Heads.end(),
+                     [&](QStringView head) { return native.startsWith(head, Qt::CaseInsensitive); });
+}
+
+/// A folder's path as UTF-8 bytes, each byte one letter of the code page.
+QString asBytes(const QString& folder) {
+  return platform::FromAnsi(folder.toUtf8());
+}
+
+}  // namespace
+
+ConfigFile::ConfigFile(const QStringList& folders) {
+  for (const QString& folder : folders) {
+    const QString path = folder + QStringLiteral("\\config.ini");
+    if (!platform::FileExists(path)) {
+      if (isSystemFolder(folder)) continue;
+      try {
+        platform::WriteFile(path, FirstContent);
+      } catch (const platform::Failure& failure) {
+        problem_ = failure.description();
+        continue;
+      }
+    }
+    path_ = path;
+    problem_.clear();
+    return;
+  }
+}
+
+QString ConfigFile::GameFolder() const {
+  if (path_.isEmpty()) return {};
+  const QString stored = themefiles::GetINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), QString(), path_);
+  if (stored.isEmpty() || platform::FolderHoldsFiles(stored)) return stored;
+  const auto bytes = platform::ToAnsi(stored);
+  const QString fromUtf8 = bytes ? QString::fromUtf8(*bytes) : stored;
+  return platform::FolderHoldsFiles(fromUtf8) ? fromUtf8 : stored;
+}
+
+void ConfigFile::SetGameFolder(const QString& folder) const {
+  if (path_.isEmpty()) return;
+  const QString text = platform::ToAnsi(folder) ? folder : asBytes(folder);
+  themefiles::PutINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), text, path_);
+}
+
+QStringList ConfigFolders() {
+  QStringList folders{platform::ProgramPath(QCoreApplication::applicationDirPath())};
+  const QString user = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
+  if (QDir().mkpath(user)) folders += platform::ProgramPath(user);
+  return folders;
+}
+
+}  // namespace mainwindows

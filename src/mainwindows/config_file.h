@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace mainwindows {
+
+/// The program's own settings: config.ini with the one key EXEDirectory in the section Setup. It lies in the program's
+/// folder where it is there or can be made there, else in the user's own configuration folder.
+class ConfigFile {
+ public:
+  /// Looks for the file in the folders, first to last, and makes it in the first that takes it: the two lines
+  /// "[Setup]" and "EXEDirectory=". Folders of a system's programs are passed over.
+  explicit ConfigFile(const QStringList& folders);
+
+  /// Path of the file; empty when no folder took it.
+  const QString& Path() const { return path_; }
+  /// What kept the file from being made; empty when it stands.
+  const QString& Problem() const { return problem_; }
+
+  /// The stored game folder; empty until one was stored.
+  QString GameFolder() const;
+  /// Stores the game folder. One whose letters the code page lacks is stored as its UTF-8 bytes.
+  void SetGameFolder(const QString& folder) const;
+
+ private:
+  QString path_;
+  QString problem_;
+};
+
+/// The program's folder, then the user's configuration folder.
+QStringList ConfigFolders();
+
+}  // namespace mainwindows

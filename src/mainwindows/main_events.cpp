@@ -1,0 +1,94 @@
+#include "mainwindows/main_events.h"
+
+#include <array>
+
+#include <QApplication>
+#include <QDialog>
+#include <QShortcut>
+
+#include "mainwindows/main_window.h"
+#include "mainwindows/theme_session.h"
+#include "platform/numbers.h"
+#include "toolbar/button_values.h"
+#include "toolwindow/object_selection.h"
+
+namespace mainwindows {
+namespace {
+
+/// A command of the toolbar.
+struct CommandRow {
+  void (*run)(Form1& form);
+  bool atOnce;           ///< runs in the middle of a render, too
+  QStringView shortcut;  ///< empty for none
+};
+
+// Buttons 1 to 4.
+constexpr std::array<CommandRow, 4> Commands{{
+    {OpenTheme, false, u"Ctrl+O"},
+    {SaveTheme, true, u"Ctrl+S"},
+    {CloseTheme, false, u"Ctrl+W"},
+    {ChooseBackgroundColor, false, {}},
+}};
+
+/// A theme without changes closes without a question: a running render is given up for it.
+bool leavesAtOnce(const Form1& form, const CommandRow& command) {
+  return command.run == CloseTheme && !form.Services.State.Changed;
+}
+
+void run(Form1& form, int button) {
+  const CommandRow& command = Commands.at(button - 1);
+  if (command.atOnce) {
+    command.run(form);
+    return;
+  }
+  const auto ifStillEnabled = [&form, button, &command] {
+    if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) command.run(form);
+  };
+  form.Queue.RunOutside(ifStillEnabled, leavesAtOnce(form, command));
+}
+
+/// The window's end waits for a running pass and takes the place of an open dialog, which gets Cancel.
+void end(Form1& form) {
+  auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+  form.Queue.RunOutside([&form] { Form_Unload(form); }, true);
+  if (dialog != nullptr) dialog->reject();
+}
+
+void connectToolBar(Form1& form) {
+  QObject::connect(form.ToolBar, &toolbar::McToolBar::Click, &form, [&form](int button) { run(form, button); });
+  for (size_t i = 0; i < Commands.size(); ++i) {
+    if (Commands.at(i).shortcut.isEmpty()) continue;
+    const int button = static_cast<int>(i) + 1;
+    auto* shortcut = new QShortcut(QKeySequence(Commands.at(i).shortcut.toString()), &form);
+    shortcut->setContext(Qt::ApplicationShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &form, [&form, button] {
+      if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) run(form, button);
+    });
+  }
+}
+
+}  // namespace
+
+void ConnectEvents(Form1& form) {
+  form.Queue.SetWorks(
+      [&form] {
+        if (form.ToolWindow != nullptr) toolwindow::ListScreen(*form.ToolWindow);
+      },
+      [&form] { form.DrawScreen(); });
+  connectToolBar(form);
+  QObject::connect(&form, &Form1::CloseAsked, &form, [&form] { end(form); });
+  QObject::connect(form.Combo1, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
+    if (cause == controls::Cause::User) form.Queue.Draw();
+  });
+  QObject::connect(form.Combo2, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
+    if (cause != controls::Cause::User) return;
+    form.Services.State.SelectedButton = static_cast<quint8>(form.Combo2->ListIndex() + 1);
+    form.Queue.Draw();
+  });
+  QObject::connect(form.Workspace, &Workspace::MouseMove, &form, [&form](float X, float Y) {
+    form.ShowMousePosition(platform::RoundToInt16(std::floor(X)).value_or(0),
+                           platform::RoundToInt16(std::floor(Y)).value_or(0));
+  });
+}
+
+}  // namespace mainwindows

@@ -1,0 +1,192 @@
+#include "mainwindows/main_window.h"
+
+#include <array>
+
+#include <QCloseEvent>
+#include <QIcon>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTime>
+
+#include "controls/twips.h"
+#include "platform/fonts.h"
+#include "platform/pictures.h"
+#include "platform/system_colors.h"
+#include "progressbar/main_window_bar.h"
+#include "renderer/render_driver.h"
+#include "toolbar/button_values.h"
+
+namespace mainwindows {
+namespace {
+
+constexpr QSize ClientSize(800, 650);
+constexpr int ToolBarHeight = 32;
+constexpr QSize ProgressBarSize(801, 20);
+constexpr QStringView Version = u"0.3a";
+constexpr quint32 FormColor = 0xC0C0C0;
+constexpr quint32 StartBackColor = 0x808080;
+
+/// The toolbar's four commands, buttons 1 to 4.
+struct CommandRow {
+  QStringView icon;
+  QStringView toolTip;
+  bool enabledAtStart;
+};
+constexpr std::array<CommandRow, 4> Commands{{
+    {u"open", u"Open", true},
+    {u"save", u"Save", false},
+    {u"close", u"Close", false},
+    {u"background", u"Background Color", false},
+}};
+
+void setBackground(QWidget& widget, quint32 color) {
+  QPalette palette = widget.palette();
+  palette.setColor(QPalette::Window, platform::ColorOf(color));
+  widget.setPalette(palette);
+  widget.setAutoFillBackground(true);
+}
+
+/// The toolbar as this window wants it, but for its tool tips.
+void setUpToolBar(toolbar::McToolBar& bar) {
+  bar.SetButton_Count(static_cast<int>(Commands.size()));
+  for (size_t i = 0; i < Commands.size(); ++i) {
+    const int button = static_cast<int>(i) + 1;
+    const QIcon icon(QStringLiteral(":/assets/%1.png").arg(Commands.at(i).icon));
+    bar.SetButtonValue(button, toolbar::CaptionProperty, QString());
+    bar.SetButtonValue(button, toolbar::IconProperty, icon);
+    bar.SetButtonValue(button, toolbar::EnabledProperty, Commands.at(i).enabledAtStart);
+  }
+}
+
+}  // namespace
+
+Form1::Form1(const MainServices& services)
+    : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
+      Services(services),
+      Config(services.ConfigFolders),
+      Client(new QWidget),
+      Workspace(new mainwindows::Workspace(Client)),
+      ToolBar(new toolbar::McToolBar(Client)),
+      StatusBar(new mainwindows::StatusBar(Client)),
+      Combo1(new controls::ComboBox(Client)),
+      Combo2(new controls::ComboBox(Client)),
+      Label1(startLabel(19, 10800, 7800)),
+      Label2(startLabel(11, 8160, 8160)),
+      ProgressBar1(new progressbar::ProgressBar(Client)),
+      host_(*this) {
+  setObjectName(QStringLiteral("Form1"));
+  setWindowIcon(QIcon(QStringLiteral(":/assets/app.png")));
+  setUpToolBar(*ToolBar);
+  ProgressBar1->ReadProperties(progressbar::MainWindowBar());
+  ProgressBar1->resize(ProgressBarSize);
+  placeControls();
+  Form_Load();
+}
+
+Form1::~Form1() {
+  delete ToolWindow;
+}
+
+QLabel* Form1::startLabel(int pixels, double left, double top) {
+  auto* label = new QLabel(Workspace);
+  label->setTextFormat(Qt::PlainText);
+  label->setFont(platform::ControlFont(QStringLiteral("Arial"), pixels));
+  label->move(controls::ToPixels(left), controls::ToPixels(top));
+  label->setAttribute(Qt::WA_TransparentForMouseEvents);
+  return label;
+}
+
+void Form1::placeControls() {
+  Client->setFixedSize(ClientSize);
+  setBackground(*Client, FormColor);
+  ToolBar->setGeometry(0, 0, ClientSize.width(), ToolBarHeight);
+  Workspace->move(0, ToolBarHeight);
+  const int statusTop = ToolBarHeight + platform::Surface::Height;
+  StatusBar->setGeometry(0, statusTop, ClientSize.width(), ClientSize.height() - statusTop);
+  setBackground(*StatusBar, platform::ButtonFaceColor);
+  controls::Place(*Combo1, {10560, 90, 1335, 315});
+  controls::Place(*Combo2, {8760, 90, 1695, 315});
+  for (QWidget* hidden : std::initializer_list<QWidget*>{Combo1, Combo2, ProgressBar1}) {
+    hidden->hide();
+    hidden->raise();
+  }
+  const std::pair<QWidget*, const char*> names[] = {{Workspace, "Workspace"}, {ToolBar, "ToolBar"},
+                                                    {StatusBar, "StatusBar"}, {Combo1, "Combo1"},
+                                                    {Combo2, "Combo2"},       {ProgressBar1, "ProgressBar1"}};
+  for (const auto& [control, name] : names) control->setObjectName(QLatin1StringView(name));
+  centreOnScreen();
+}
+
+/// A window of fixed size; on a screen that is too small for it, smaller, with scroll bars.
+void Form1::centreOnScreen() {
+  auto* area = new QScrollArea(this);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidget(Client);
+  const QRect screen = QWidget::screen()->availableGeometry();
+  const int caption = controls::ToPixels(controls::FrameHeight);
+  const int bar = area->verticalScrollBar()->sizeHint().width();
+  QSize size = ClientSize;
+  if (size.height() > screen.height() - caption) size = {size.width() + bar, screen.height() - caption};
+  if (size.width() > screen.width()) size.setWidth(screen.width());
+  setFixedSize(size);
+  area->setGeometry(QRect(QPoint(0, 0), size));
+  move(screen.center() - QPoint(size.width() / 2, (size.height() + caption) / 2));
+}
+
+void Form1::Form_Load() {
+  setWindowTitle(QStringLiteral("Cantorama Theme Edit") + QStringLiteral(" v.") + Version.toString());
+  ShowMousePosition(0, 0);
+  ShowStartPicture(StartBackColor);
+  Label1->setText(QStringLiteral("v.") + Version.toString());
+  Label2->setText(QStringLiteral("by Bricolo"));
+  Label1->adjustSize();
+  Label2->adjustSize();
+  ProgressBar1->move(0, ToolBar->Height());
+  for (size_t i = 0; i < Commands.size(); ++i) {
+    ToolBar->SetButtonValue(static_cast<int>(i) + 1, toolbar::ToolTipTextProperty, Commands.at(i).toolTip.toString());
+  }
+  Services.State.BackgroundColor = 0xFFFFFF;
+  if (Config.Path().isEmpty()) {
+    ShowStatus(platform::ReportText(QStringLiteral("The game folder can't be kept in config.ini"), Config.Problem()));
+  }
+}
+
+void Form1::ShowStartPicture(quint32 backColor) {
+  const QImage picture(QStringLiteral(":/assets/start.jpg"));
+  Workspace->Surface().Wipe(platform::ColorOf(backColor));
+  Workspace->Surface().DrawImageRect(picture, 0, 0, platform::Surface::Width, platform::Surface::Height);
+  Workspace->Invalidate();
+  Label1->show();
+  Label2->show();
+}
+
+void Form1::ShowStatus(const QString& text) {
+  StatusBar->SetPanel(1,
+                      u'[' + QTime::currentTime().toString(QStringLiteral("HH:mm:ss")) + QStringLiteral("] ") + text);
+}
+
+void Form1::ShowMousePosition(qint16 X, qint16 Y) {
+  StatusBar->SetPanel(2, QStringLiteral("x: %1  y: %2").arg(X + 1).arg(Y + 1));
+}
+
+void Form1::DrawScreen() {
+  if (ToolWindow == nullptr) return;
+  renderer::RenderContext context{Services.State, ToolWindow->Tags, Workspace->Surface(), host_,
+                                  *this,          Services.Dialogs, Services.Graphics,    Account};
+  platform::Guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
+  ProgressBar1->hide();
+  Workspace->Invalidate();
+}
+
+void Form1::EnableButton(int button, bool enabled) {
+  ToolBar->SetButtonValue(button, toolbar::EnabledProperty, enabled);
+}
+
+void Form1::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  Q_EMIT CloseAsked();
+}
+
+}  // namespace mainwindows

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <memory>
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QWidget>
+
+#include "controls/combo_box.h"
+#include "controls/work_queue.h"
+#include "mainwindows/config_file.h"
+#include "mainwindows/preview_host.h"
+#include "mainwindows/status_bar.h"
+#include "mainwindows/workspace.h"
+#include "platform/dialogs.h"
+#include "platform/graphics.h"
+#include "platform/status_line.h"
+#include "progressbar/progress_bar.h"
+#include "renderer/render_account.h"
+#include "themefiles/module_state.h"
+#include "toolbar/mc_toolbar.h"
+#include "toolwindow/tool_window.h"
+
+namespace mainwindows {
+
+/// What the main window gets from its surroundings; tests give their own.
+struct MainServices {
+  themefiles::ModuleState& State;
+  platform::Dialogs& Dialogs;
+  platform::Graphics& Graphics;
+  QStringList ConfigFolders;  ///< where config.ini may lie
+};
+
+/// The main window: the preview with its toolbar, status bar and the choices of colour scheme and button. It is there
+/// from the program's start to its end.
+class Form1 : public QWidget, public platform::StatusLine {
+  Q_OBJECT
+
+ public:
+  explicit Form1(const MainServices& services);
+  ~Form1() override;
+
+  MainServices Services;
+  ConfigFile Config;
+  controls::WorkQueue Queue;
+
+  QWidget* Client;  ///< the client area, 800 x 650
+  mainwindows::Workspace* Workspace;
+  toolbar::McToolBar* ToolBar;
+  mainwindows::StatusBar* StatusBar;
+  controls::ComboBox* Combo1;  ///< the colour scheme
+  controls::ComboBox* Combo2;  ///< which button is shown selected
+  QLabel* Label1;              ///< version
+  QLabel* Label2;              ///< credit
+  progressbar::ProgressBar* ProgressBar1;
+  toolwindow::Form2* ToolWindow = nullptr;  ///< Form2 while a theme is open
+  renderer::RenderAccount Account;          ///< what the last render drew and left out
+
+  void ShowStatus(const QString& text) override;
+  /// Shows the mouse's place in the status bar, counted from 1.
+  void ShowMousePosition(qint16 X, qint16 Y);
+  /// Shows the start picture with the two labels, on a back colour value.
+  void ShowStartPicture(quint32 backColor);
+  /// Draws the chosen screen; called by the work queue.
+  void DrawScreen();
+  void EnableButton(int button, bool enabled);
+
+ Q_SIGNALS:
+  /// The user, or the session's end, wants the window closed.
+  void CloseAsked();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  QLabel* startLabel(int pixels, double left, double top);
+  void placeControls();
+  void centreOnScreen();
+  void Form_Load();
+
+  PreviewHost host_;
+};
+
+}  // namespace mainwindows

@@ -1,0 +1,113 @@
+#include "mainwindows/open_theme.h"
+
+#include "controls/twips.h"
+#include "platform/files.h"
+#include "themefiles/ini_access.h"
+
+namespace mainwindows {
+namespace {
+
+const QString IniEnding = QStringLiteral(".ini");
+
+QString iniValue(const QString& section, const QString& key, const QString& file) {
+  return themefiles::GetINI(section, key, QString(), file);
+}
+
+}  // namespace
+
+Form3::Form3(const themefiles::ThemePaths& folders, const QStringList& themes,
+             std::function<bool(const themefiles::ThemePaths&)> open, QWidget* owner)
+    : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
+                         Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      List1(new controls::ListBox(controls::ListBox::Order::AsAdded, this)),
+      List2(new controls::ListBox(controls::ListBox::Order::AsAdded, this)),
+      Label4(label(QString(), 840, 2880, 1695)),
+      Label5(label(QString(), 840, 3120, 1695)),
+      Label9(label(QString(), 3480, 2880, 1695)),
+      Label10(label(QString(), 3480, 3120, 1695)),
+      Combo1(new controls::ComboBox(this)),
+      Command1(new QPushButton(QStringLiteral("&Open"), this)),
+      Command2(new QPushButton(QStringLiteral("&Cancel"), this)),
+      paths_(folders),
+      open_(std::move(open)) {
+  setObjectName(QStringLiteral("Form3"));
+  label(QStringLiteral("Choose your Theme:"), 120, 120, 2295);
+  label(QStringLiteral("Name:"), 120, 2880, 615);
+  label(QStringLiteral("Creator:"), 120, 3120, 615);
+  label(QStringLiteral("Choose your Skin:"), 2760, 120, 2415);
+  label(QStringLiteral("Name:"), 2760, 2880, 615);
+  label(QStringLiteral("Autor:"), 2760, 3120, 615);
+  controls::Place(*List1, {120, 360, 2415, 2400});
+  controls::Place(*List2, {2760, 360, 2415, 2400});
+  controls::Place(*Combo1, {120, 3480, 2535, 315});
+  controls::Place(*Command1, {2880, 3480, 1095, 375});
+  controls::Place(*Command2, {4080, 3480, 1095, 375});
+  setFixedSize(controls::ToPixels(5325), controls::ToPixels(3990));
+  Command1->setDefault(true);
+  connect(List1, &controls::ListBox::Click, this, &Form3::List1_Click);
+  connect(List2, &controls::ListBox::Click, this, &Form3::List2_Click);
+  connect(Command1, &QPushButton::clicked, this, &Form3::Command1_Click);
+  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+  Form_Load();
+  for (const QString& theme : themes) List1->AddItem(theme);
+}
+
+QLabel* Form3::label(const QString& text, double left, double top, double width) {
+  auto* label = new QLabel(text, this);
+  label->setTextFormat(Qt::PlainText);
+  label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  controls::Place(*label, {left, top, width, 255});
+  return label;
+}
+
+void Form3::Form_Load() {
+  for (QString& name : platform::ListFiles(paths_.ExeDirectory + QStringLiteral("Languages"), IniEnding)) {
+    name.chop(IniEnding.size());
+    Combo1->AddItem(name);
+  }
+  const int english = Combo1->findText(QStringLiteral("English"), Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (Combo1->ListCount() > 0) Combo1->SetListIndex(std::max(english, 0));
+}
+
+void Form3::Form_Activate() {
+  List1->SetListIndex(0);
+  setWindowTitle(QStringLiteral("Open Theme [") + paths_.ExeDirectory + u']');
+}
+
+void Form3::showEvent(QShowEvent* event) {
+  QDialog::showEvent(event);
+  if (!event->spontaneous()) Form_Activate();
+}
+
+void Form3::List1_Click() {
+  const QString theme = List1->Text();
+  paths_.ThemeFile = paths_.ExeDirectory + QStringLiteral("Themes\\") + theme + IniEnding;
+  Label4->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Name"), paths_.ThemeFile));
+  Label5->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Creator"), paths_.ThemeFile));
+  List2->Clear();
+  for (QString& name : platform::ListFiles(paths_.ExeDirectory + QStringLiteral("Skins\\") + theme, IniEnding)) {
+    name.chop(IniEnding.size());
+    List2->AddItem(name);
+  }
+  Command1->setEnabled(List2->ListCount() > 0);
+  if (List2->ListCount() > 0) {
+    List2->SetListIndex(0);
+  } else {
+    Label9->clear();
+    Label10->clear();
+  }
+}
+
+void Form3::List2_Click() {
+  paths_.SkinDirectory = paths_.ExeDirectory + QStringLiteral("Skins\\") + List1->Text();
+  paths_.SkinFile = paths_.SkinDirectory + u'\\' + List2->Text() + IniEnding;
+  Label9->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Name"), paths_.SkinFile));
+  Label10->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Autor"), paths_.SkinFile));
+}
+
+void Form3::Command1_Click() {
+  paths_.LanguageFile = paths_.LanguagesDirectory + u'\\' + Combo1->Text() + IniEnding;
+  if (open_(paths_)) accept();
+}
+
+}  // namespace mainwindows

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <functional>
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "themefiles/module_state.h"
+
+namespace mainwindows {
+
+/// The Open Theme dialog: one theme, one of its skins, one language. It works on paths of its own; the open theme isn't
+/// touched until its caller takes them.
+class Form3 : public QDialog {
+  Q_OBJECT
+
+ public:
+  /// `folders` names the game folder and its languages. `open` makes the working copies of the choice; false keeps the
+  /// dialog up.
+  Form3(const themefiles::ThemePaths& folders, const QStringList& themes,
+        std::function<bool(const themefiles::ThemePaths&)> open, QWidget* owner);
+
+  controls::ListBox* List1;    ///< themes
+  controls::ListBox* List2;    ///< skins of the theme
+  QLabel* Label4;              ///< name of the theme
+  QLabel* Label5;              ///< creator of the theme
+  QLabel* Label9;              ///< name of the skin
+  QLabel* Label10;             ///< author of the skin
+  controls::ComboBox* Combo1;  ///< languages
+  QPushButton* Command1;       ///< Open
+  QPushButton* Command2;       ///< Cancel
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  QLabel* label(const QString& text, double left, double top, double width);
+  void Form_Load();
+  void Form_Activate();
+  void List1_Click();
+  void List2_Click();
+  void Command1_Click();
+
+  themefiles::ThemePaths paths_;
+  std::function<bool(const themefiles::ThemePaths&)> open_;
+};
+
+}  // namespace mainwindows

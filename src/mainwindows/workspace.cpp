@@ -1,0 +1,116 @@
+#include "mainwindows/workspace.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "platform/system_colors.h"
+
+namespace mainwindows {
+namespace {
+
+constexpr int BlinkInterval = 100;        // ms
+constexpr quint32 MarkBorder = 0xFFFFFF;  // until the first blink
+constexpr quint32 MarkDark = 0x0000C0;    // fill colour
+constexpr quint32 MarkLight = 0x8080FF;   // back colour
+constexpr double FarAway = 1 << 20;       // pixels: beyond any screen, and safe to reckon with
+
+int pixel(double length) {
+  return static_cast<int>(std::floor(std::clamp(length, -FarAway, FarAway) + 0.5));
+}
+
+}  // namespace
+
+Workspace::Workspace(QWidget* parent) : QWidget(parent), borderColor_(platform::ColorOf(MarkBorder)) {
+  setFixedSize(platform::Surface::Width, platform::Surface::Height);
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  timer1_.setInterval(BlinkInterval);
+  connect(&timer1_, &QTimer::timeout, this, &Workspace::Timer1_Timer);
+}
+
+void Workspace::Refresh() {
+  const QRect dirty = surface_.TakeDirty();
+  if (!dirty.isEmpty()) repaint(dirty);
+}
+
+void Workspace::Invalidate() {
+  const QRect dirty = surface_.TakeDirty();
+  if (!dirty.isEmpty()) update(dirty);
+}
+
+void Workspace::SetLeft(double left) {
+  updateMark();
+  mark_.moveLeft(left);
+  updateMark();
+}
+
+void Workspace::SetTop(double top) {
+  updateMark();
+  mark_.moveTop(top);
+  updateMark();
+}
+
+void Workspace::SetWidth(double width) {
+  updateMark();
+  mark_.setWidth(width);
+  updateMark();
+}
+
+void Workspace::SetHeight(double height) {
+  updateMark();
+  mark_.setHeight(height);
+  updateMark();
+}
+
+void Workspace::SetVisible(bool visible) {
+  markVisible_ = visible;
+  updateMark();
+}
+
+void Workspace::SetBlinking(bool blinking) {
+  blinking ? timer1_.start() : timer1_.stop();
+}
+
+void Workspace::Timer1_Timer() {
+  borderColor_ = platform::ColorOf(blinkPhase_ ? MarkLight : MarkDark);
+  blinkPhase_ = !blinkPhase_;
+  updateMark();
+}
+
+/// The mark's outer pixels: at least one each way.
+QRect Workspace::markRect() const {
+  const int left = pixel(mark_.left());
+  const int top = pixel(mark_.top());
+  return {left, top, std::max(pixel(mark_.width()), 1), std::max(pixel(mark_.height()), 1)};
+}
+
+void Workspace::updateMark() {
+  update(markRect().adjusted(-1, -1, 1, 1));
+}
+
+void Workspace::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  const double scale = devicePixelRatioF();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
+  painter.setClipRegion(event->region());
+  painter.drawImage(QRect(0, 0, platform::Surface::Width, platform::Surface::Height), surface_.image());
+  if (!markVisible_) return;
+  const QRect outer = markRect();
+  const std::array<QRect, 4> edges{{{outer.left(), outer.top(), outer.width(), 1},
+                                    {outer.left(), outer.bottom(), outer.width(), 1},
+                                    {outer.left(), outer.top(), 1, outer.height()},
+                                    {outer.right(), outer.top(), 1, outer.height()}}};
+  for (const QRect& edge : edges) painter.fillRect(edge, borderColor_);
+}
+
+void Workspace::mouseMoveEvent(QMouseEvent* event) {
+  Q_EMIT MouseMove(static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
+  event->ignore();
+}
+
+}  // namespace mainwindows

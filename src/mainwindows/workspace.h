@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+#include "platform/surface.h"
+#include "renderer/highlight_cursor.h"
+
+namespace mainwindows {
+
+/// The preview: shows the surface, one theme unit a pixel, and the mark HL over it. The mark is painted over the
+/// picture and not into it; moving and blinking it costs no render.
+class Workspace : public QWidget, public renderer::CursorMark {
+  Q_OBJECT
+
+ public:
+  explicit Workspace(QWidget* parent);
+
+  platform::Surface& Surface() { return surface_; }
+  /// Repaints what has been drawn on the surface since the last call, at once.
+  void Refresh();
+  /// The same with the next paint event.
+  void Invalidate();
+
+  void SetLeft(double left) override;
+  void SetTop(double top) override;
+  void SetWidth(double width) override;
+  void SetHeight(double height) override;
+  void SetVisible(bool visible) override;
+  void SetBlinking(bool blinking) override;
+
+  /// The mark as it stands, in pixels of the surface.
+  const QRectF& Mark() const { return mark_; }
+  bool MarkVisible() const { return markVisible_; }
+  bool Blinking() const { return timer1_.isActive(); }
+
+ Q_SIGNALS:
+  /// The mouse has moved: its place in pixels of the surface.
+  void MouseMove(float X, float Y);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  void Timer1_Timer();
+  void updateMark();
+  QRect markRect() const;
+
+  platform::Surface surface_;
+  QTimer timer1_;
+  QRectF mark_;
+  bool markVisible_ = false;
+  bool blinkPhase_ = false;
+  QColor borderColor_;
+};
+
+}  // namespace mainwindows
