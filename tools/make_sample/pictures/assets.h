@@ -1,0 +1,14 @@
+#pragma once
+
+#include "output.h"
+
+namespace sample {
+
+/// The editor's own pictures: the start picture, the program's icon and the icons of the buttons.
+void writeAssets(const Output& output);
+
+void writeIcons(const Output& output);
+
+QImage startPicture();
+
+}  // namespace sample
