@@ -86,6 +86,8 @@ void ListBox::keyPressEvent(QKeyEvent* event) {
   if (const std::optional<int> row = RowForKey(event->key(), before, count(), page)) {
     select(*row);
   } else {
+    // The focus alone makes the first row the current one: a search by letters would begin behind it.
+    if (before < 0) selectionModel()->clearCurrentIndex();
     QListWidget::keyPressEvent(event);
   }
   const int now = ListIndex();

@@ -95,6 +95,8 @@ void ListView::keyPressEvent(QKeyEvent* event) {
   if (const std::optional<int> row = RowForKey(event->key(), before, RowCount(), page)) {
     SelectRow(*row);
   } else {
+    // The focus alone makes the first row the current one: a search by letters would begin behind it.
+    if (before < 0) selectionModel()->clearCurrentIndex();
     QTreeWidget::keyPressEvent(event);
   }
   const int now = SelectedRow();

@@ -46,7 +46,8 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
   }
   if (event == QKeySequence::Paste) return pasteFiltered(QClipboard::Clipboard);
   const QString typed = event->text();
-  const bool command = typed.isEmpty() || typed.front().category() == QChar::Other_Control;
+  const bool command = typed.isEmpty() || typed.front().category() == QChar::Other_Control ||
+                       (event->modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
   if (command || filtered(typed) == typed) QLineEdit::keyPressEvent(event);
 }
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 
 namespace controls {
 
@@ -36,6 +37,7 @@ void WorkQueue::work() {
     }
     running_ = Stage::None;
   }
+  if (afterwork_ && noted_ == Stage::None) std::exchange(afterwork_, {})();
   if (!commands_.empty()) postCommands();
 }
 
@@ -54,8 +56,13 @@ void WorkQueue::RunOutside(Work command, bool leaving) {
   runCommands();
 }
 
+void WorkQueue::SetAfterwork(Work afterwork) {
+  afterwork_ = std::move(afterwork);
+}
+
 void WorkQueue::Forget() {
   noted_ = Stage::None;
+  afterwork_ = {};
 }
 
 void WorkQueue::postCommands() {
@@ -65,13 +72,13 @@ void WorkQueue::postCommands() {
 void WorkQueue::runCommands() {
   if (Busy() || commanding_) return;
   commanding_ = true;
+  const auto done = qScopeGuard([this] { commanding_ = false; });
   while (!commands_.empty()) {
     const Work command = std::move(commands_.front());
     commands_.pop_front();
     leaving_ = false;
     command();
   }
-  commanding_ = false;
   work();
 }
 

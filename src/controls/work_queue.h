@@ -35,7 +35,9 @@ class WorkQueue : public QObject {
   /// With `leaving` the running work is given up at its next yield; it is taken up anew after the command unless the
   /// command called Forget.
   void RunOutside(Work command, bool leaving = false);
-  /// Drops noted work: what it was for is gone.
+  /// Runs once behind the work that is running now and all that follows it without a pause.
+  void SetAfterwork(Work afterwork);
+  /// Drops noted work and afterwork: what they were for is gone.
   void Forget();
 
  private:
@@ -52,6 +54,7 @@ class WorkQueue : public QObject {
   bool leaving_ = false;
   bool commanding_ = false;
   std::deque<Work> commands_;
+  Work afterwork_;
 };
 
 }  // namespace controls

@@ -1,5 +1,6 @@
 #include "platform/numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -12,6 +13,12 @@ constexpr int SignificantDigits = 15;
 
 bool isDigit(QChar letter) {
   return letter >= QChar(u'0') && letter <= QChar(u'9');
+}
+
+/// What digits stand for that a double can't hold: too many before the point, or nothing but zeros for a long way.
+double beyondRange(const QByteArray& digits) {
+  const qsizetype first = std::find_if(digits.begin(), digits.end(), [](char c) { return c != '0'; }) - digits.begin();
+  return first < digits.size() && digits[first] != '.' ? std::numeric_limits<double>::infinity() : 0;
 }
 
 template <typename Whole>
@@ -46,7 +53,9 @@ double NumberOf(QStringView text) {
     digits += static_cast<char>(text[at].unicode());
   }
   if (!any) return 0;
-  const double number = digits.toDouble();  // infinite beyond a double's range
+  bool fits = false;
+  double number = digits.toDouble(&fits);
+  if (!fits) number = beyondRange(digits);
   return negative ? -number : number;
 }
 

@@ -28,7 +28,8 @@ constexpr std::array<Wording, 9> Wordings{{
 
 QString ReasonText(const LeftOut& entry) {
   for (const Wording& wording : Wordings) {
-    if (wording.reason == entry.Why) return wording.text.toString().arg(entry.Value, entry.Key);
+    if (wording.reason != entry.Why) continue;
+    return wording.text.toString().replace(QLatin1String("%2"), entry.Key).replace(QLatin1String("%1"), entry.Value);
   }
   return {};
 }

@@ -180,11 +180,14 @@ bool SplitTags(const TagFilter& filter, const QString& Tag) {
   return leftOut;
 }
 
-void ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
-              const std::function<void()>& DoEvents) {
+int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
+             const std::function<void()>& DoEvents) {
   const bool read = platform::Guarded(status, QStringLiteral("Error while reading Tags"),
                                       [&] { listTags(state, screenName, tags, DoEvents); });
-  if (read && tags.ListCount() > 0 && tags.ListIndex() < 0) tags.SetListIndex(0);
+  if (!read || tags.ListCount() == 0) return -1;
+  const int picked = tags.ListIndex();
+  tags.SetListIndex(0);
+  return picked;
 }
 
 }  // namespace themefiles

@@ -33,10 +33,10 @@ QString StemOf(const ModuleState& state, const QString& name);
 TagFilter FilterOf(const QString& screenName);
 
 /// Fills `tags` with the section names of the screen's run in the theme's working copy that the state's filter lets
-/// through, and selects the first row unless the user has picked one. `DoEvents` is called behind each tag. Failures
-/// are reported, what was listed by then stays.
-void ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
-              const std::function<void()>& DoEvents);
+/// through, and selects the first row. `DoEvents` is called behind each tag; gives the row that was selected by what
+/// happened in it, -1 without one. Failures are reported, what was listed by then stays.
+int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
+             const std::function<void()>& DoEvents);
 
 /// Whether the filter leaves the tag out.
 bool SplitTags(const TagFilter& filter, const QString& Tag);

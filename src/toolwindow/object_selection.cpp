@@ -1,13 +1,27 @@
 #include "toolwindow/object_selection.h"
 
 #include <QScopeGuard>
+#include <QSignalBlocker>
 
-#include "renderer/highlight_cursor.h"
 #include "themefiles/screen_table.h"
 #include "themefiles/tag_reader.h"
+#include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"
 
 namespace toolwindow {
+namespace {
+
+void showTag(Form2& form, MarkPen pen) {
+  ToolServices& services = form.Services;
+  form.ListView1->ClearRows();
+  for (const themefiles::ValueRow& row : themefiles::ReadTag(services.State, form.List1->Text(), services.Status)) {
+    form.ListView1->AddRow(row.Item, row.Value);
+  }
+  if (services.State.EditorShown) form.CloseEditorFrame();
+  PlaceMark(form, pen);
+}
+
+}  // namespace
 
 void ListScreen(Form2& form) {
   ToolServices& services = form.Services;
@@ -17,17 +31,18 @@ void ListScreen(Form2& form) {
   const QString screen = form.Combo1->Text();
   state.Filter = themefiles::FilterOf(screen);
   const auto clearFilter = qScopeGuard([&] { state.Filter = {}; });
-  themefiles::ReadTags(state, screen, form.Tags, services.Status, [&] { services.Queue.Yield(); });
+  const int picked = themefiles::ReadTags(state, screen, form.Tags, services.Status, [&] { services.Queue.Yield(); });
+  if (picked < 0) return;
+  // A tag that the user has picked while the list was filling stays picked.
+  {
+    const QSignalBlocker quiet(form.List1);
+    form.List1->SetListIndex(picked);
+  }
+  showTag(form, MarkPen::Kept);
 }
 
-void List1_Click(Form2& form) {
-  ToolServices& services = form.Services;
-  form.ListView1->ClearRows();
-  for (const themefiles::ValueRow& row : themefiles::ReadTag(services.State, form.List1->Text(), services.Status)) {
-    form.ListView1->AddRow(row.Item, row.Value);
-  }
-  if (services.State.EditorShown) form.CloseEditorFrame();
-  renderer::DrawCursor(services.State, form.Tags, services.Workspace, services.Mark, services.Status);
+void List1_Click(Form2& form, controls::Cause cause) {
+  showTag(form, cause == controls::Cause::User ? MarkPen::Kept : MarkPen::Left);
 }
 
 }  // namespace toolwindow

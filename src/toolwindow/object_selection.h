@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controls/cause.h"
+
 namespace toolwindow {
 
 class Form2;
@@ -9,6 +11,6 @@ class Form2;
 void ListScreen(Form2& form);
 
 /// An object has been chosen: shows its keys, closes an open editor and places the mark. Draws nothing.
-void List1_Click(Form2& form);
+void List1_Click(Form2& form, controls::Cause cause);
 
 }  // namespace toolwindow

@@ -30,7 +30,7 @@ void onClick(Form2& form, QPushButton* button, Operation operation) {
 
 void connectSelection(Form2& form) {
   QObject::connect(form.Combo1, &ComboBox::Click, &form, [&form] { form.Services.Queue.Choose(); });
-  QObject::connect(form.List1, &controls::ListBox::Click, &form, [&form] { List1_Click(form); });
+  QObject::connect(form.List1, &controls::ListBox::Click, &form, [&form](Cause cause) { List1_Click(form, cause); });
   QObject::connect(form.ListView1, &controls::ListView::ItemClick, &form,
                    [&form](int row) { ListView1_ItemClick(form, row); });
 }

@@ -2,8 +2,8 @@
 
 #include "platform/failure.h"
 #include "platform/numbers.h"
-#include "renderer/highlight_cursor.h"
 #include "themefiles/ini_access.h"
+#include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"
 
 namespace toolwindow {
@@ -109,7 +109,7 @@ void Command1_Click(Form2& form) {
     services.State.Changed = true;
     services.EnableSave();
     services.Queue.Draw();
-    renderer::DrawCursor(services.State, form.Tags, services.Workspace, services.Mark, services.Status);
+    PlaceMark(form, MarkPen::Kept);
     form.ListView1->setFocus();
   });
 }
