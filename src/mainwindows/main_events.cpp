@@ -85,6 +85,11 @@ void ConnectEvents(Form1& form) {
     form.Services.State.SelectedButton = static_cast<quint8>(form.Combo2->ListIndex() + 1);
     form.Queue.Draw();
   });
+  QObject::connect(form.Workspace, &Workspace::Pressed, &form, [&form](const QPoint& place) {
+    if (form.ToolWindow == nullptr) return;
+    const int row = form.Picking.RowAt(place, form.Account, form.ToolWindow->Tags);
+    if (row >= 0) toolwindow::PickTag(*form.ToolWindow, row);
+  });
   QObject::connect(form.Workspace, &Workspace::MouseMove, &form, [&form](float X, float Y) {
     form.ShowMousePosition(platform::RoundToInt16(std::floor(X)).value_or(0),
                            platform::RoundToInt16(std::floor(Y)).value_or(0));

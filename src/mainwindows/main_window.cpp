@@ -15,6 +15,7 @@
 #include "progressbar/main_window_bar.h"
 #include "renderer/render_driver.h"
 #include "toolbar/button_values.h"
+#include "toolwindow/object_selection.h"
 
 namespace mainwindows {
 namespace {
@@ -178,6 +179,7 @@ void Form1::DrawScreen() {
   platform::Guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
   ProgressBar1->hide();
   Workspace->Invalidate();
+  toolwindow::ShowReasons(*ToolWindow, Account);
 }
 
 void Form1::EnableButton(int button, bool enabled) {

@@ -10,6 +10,7 @@
 #include "controls/work_queue.h"
 #include "mainwindows/config_file.h"
 #include "mainwindows/preview_host.h"
+#include "mainwindows/preview_picking.h"
 #include "mainwindows/status_bar.h"
 #include "mainwindows/workspace.h"
 #include "platform/dialogs.h"
@@ -55,6 +56,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   progressbar::ProgressBar* ProgressBar1;
   toolwindow::Form2* ToolWindow = nullptr;  ///< Form2 while a theme is open
   renderer::RenderAccount Account;          ///< what the last render drew and left out
+  PreviewPicking Picking;
 
   void ShowStatus(const QString& text) override;
   /// Shows the mouse's place in the status bar, counted from 1.

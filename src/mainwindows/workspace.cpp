@@ -113,4 +113,10 @@ void Workspace::mouseMoveEvent(QMouseEvent* event) {
   event->ignore();
 }
 
+void Workspace::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  const QPointF place = event->position();
+  Q_EMIT Pressed({static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))});
+}
+
 }  // namespace mainwindows

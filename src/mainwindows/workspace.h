@@ -37,10 +37,13 @@ class Workspace : public QWidget, public renderer::CursorMark {
  Q_SIGNALS:
   /// The mouse has moved: its place in pixels of the surface.
   void MouseMove(float X, float Y);
+  /// The left mouse button was pressed on this pixel of the surface.
+  void Pressed(const QPoint& place);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   void Timer1_Timer();

@@ -1,6 +1,8 @@
 #include "renderer/highlight_cursor.h"
 
+#include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "platform/code_page.h"
 #include "platform/failure.h"

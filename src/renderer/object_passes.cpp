@@ -46,7 +46,7 @@ void drawObject(RenderContext& context, const QString& section, const QString& p
                                            context.Graphics, context.Dialogs);
   switch (result.outcome) {
     case TextureOutcome::Drawn:
-      context.Account.Objects.push_back({section, result.place});
+      context.Account.Objects.push_back({section, result.place, {}});
       break;
     case TextureOutcome::NoSession:
       break;
@@ -85,7 +85,7 @@ void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, 
   for (int number = 1; number <= count; ++number) {
     const QString child = tag + QStringLiteral("TEXT") + QString::number(number);
     if (!ThemeValue(context, child, QStringLiteral("X")).isEmpty()) {
-      DrawTextObject(context, child, box.X, box.Y + textShift);
+      DrawTextObject(context, child, box.X, box.Y + textShift, tag);
       textShift = 0;
     }
     if (number % ChildrenBetweenYields == 0) context.Host.Yield();
@@ -155,7 +155,7 @@ void DrawTexts(RenderContext& context) {
     const QString tag = context.List1.List(row);
     const QString upper = platform::UpperCase(tag);
     if (holdsAny(upper, {u"BUTTON", u"NAME", u"TEXTURES"}) || !upper.contains(u"TEXT")) continue;
-    DrawTextObject(context, tag, 0, 0);
+    DrawTextObject(context, tag, 0, 0, {});
   }
 }
 

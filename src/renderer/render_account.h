@@ -32,6 +32,7 @@ struct LeftOut {
 struct Drawn {
   QString Section;
   QRect Place;
+  QString Owner;  ///< of a child text: its button
 };
 
 /// The renderer's own account of its last render, in the order of drawing.

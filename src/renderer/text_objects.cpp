@@ -62,7 +62,7 @@ QString wordsOf(const RenderContext& context, const QString& section) {
   return themefiles::GetINI(QStringLiteral("Text"), key, key, context.State.Paths.LanguageFile);
 }
 
-void printAligned(RenderContext& context, const QString& section, const QString& words) {
+void printAligned(RenderContext& context, const QString& section, const QString& words, const QString& owner) {
   platform::Surface& surface = context.Workspace;
   const double align = ThemeNumber(context, section, QStringLiteral("Align"));
   const double width = surface.TextWidth(words);
@@ -70,19 +70,19 @@ void printAligned(RenderContext& context, const QString& section, const QString&
   if (align == 1) surface.CurrentX = static_cast<float>(surface.CurrentX - width / 2);
   if (align == 2) surface.CurrentX = static_cast<float>(surface.CurrentX - width);
   surface.CurrentY = static_cast<float>(surface.CurrentY + height / 5);
-  const QRectF place(surface.CurrentX, surface.CurrentY, width, height);
+  const QRectF place = QRectF(surface.CurrentX, surface.CurrentY, width, height) & QRectF(surface.image().rect());
   surface.Print(words);
-  context.Account.Objects.push_back({section, place.toAlignedRect()});
+  context.Account.Objects.push_back({section, place.toAlignedRect(), owner});
 }
 
 }  // namespace
 
-void DrawTextObject(RenderContext& context, const QString& section, int baseX, int baseY) {
+void DrawTextObject(RenderContext& context, const QString& section, int baseX, int baseY, const QString& owner) {
   platform::Surface& surface = context.Workspace;
   surface.CurrentX = static_cast<float>(ThemeNumber(context, section, QStringLiteral("X")) + baseX);
   surface.CurrentY = static_cast<float>(ThemeNumber(context, section, QStringLiteral("Y")) + baseY);
   surface.ForeColor = colorOf(context, section);
-  if (setFont(context, section)) printAligned(context, section, wordsOf(context, section));
+  if (setFont(context, section)) printAligned(context, section, wordsOf(context, section), owner);
   UpdateProgress(context, context.State.ProgressStep);
   context.Host.Yield();
 }

@@ -1,8 +1,11 @@
 #include "toolwindow/object_selection.h"
 
+#include <map>
+
 #include <QScopeGuard>
 #include <QSignalBlocker>
 
+#include "platform/code_page.h"
 #include "themefiles/screen_table.h"
 #include "themefiles/tag_reader.h"
 #include "toolwindow/mark_placing.h"
@@ -34,15 +37,30 @@ void ListScreen(Form2& form) {
   const int picked = themefiles::ReadTags(state, screen, form.Tags, services.Status, [&] { services.Queue.Yield(); });
   if (picked < 0) return;
   // A tag that the user has picked while the list was filling stays picked.
-  {
-    const QSignalBlocker quiet(form.List1);
-    form.List1->SetListIndex(picked);
-  }
-  showTag(form, MarkPen::Kept);
+  PickTag(form, picked);
 }
 
 void List1_Click(Form2& form, controls::Cause cause) {
   showTag(form, cause == controls::Cause::User ? MarkPen::Kept : MarkPen::Left);
+}
+
+void PickTag(Form2& form, int row) {
+  {
+    const QSignalBlocker quiet(form.List1);
+    form.List1->SetListIndex(row);
+  }
+  List1_Click(form, controls::Cause::User);
+}
+
+void ShowReasons(Form2& form, const renderer::RenderAccount& account) {
+  std::map<QString, QStringList> reasons;
+  for (const renderer::LeftOut& entry : account.Missing) {
+    reasons[platform::UpperCase(entry.Section)] += renderer::ReasonText(entry);
+  }
+  for (int row = 0; row < form.List1->ListCount(); ++row) {
+    const auto found = reasons.find(platform::UpperCase(form.List1->List(row)));
+    form.List1->SetToolTip(row, found == reasons.end() ? QString() : found->second.join(u'\n'));
+  }
 }
 
 }  // namespace toolwindow

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controls/cause.h"
+#include "renderer/render_account.h"
 
 namespace toolwindow {
 
@@ -12,5 +13,11 @@ void ListScreen(Form2& form);
 
 /// An object has been chosen: shows its keys, closes an open editor and places the mark. Draws nothing.
 void List1_Click(Form2& form, controls::Cause cause);
+
+/// Chooses the object of the row as the user's click in the list would.
+void PickTag(Form2& form, int row);
+
+/// Tells on each row why its object isn't drawn, as a tool tip.
+void ShowReasons(Form2& form, const renderer::RenderAccount& account);
 
 }  // namespace toolwindow

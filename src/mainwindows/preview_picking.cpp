@@ -1,0 +1,49 @@
+#include "mainwindows/preview_picking.h"
+
+#include <algorithm>
+
+#include "platform/code_page.h"
+
+namespace mainwindows {
+namespace {
+
+/// As far as a hand at rest moves the mouse, in pixels.
+constexpr int SamePlace = 2;
+
+int rowNamed(const themefiles::TagList& tags, const QString& name) {
+  for (int row = 0; row < tags.ListCount(); ++row) {
+    if (platform::SameName(tags.List(row), name)) return row;
+  }
+  return -1;
+}
+
+/// Rows of the objects at the place, topmost first, each once.
+std::vector<int> rowsAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags) {
+  std::vector<int> rows;
+  for (auto object = account.Objects.rbegin(); object != account.Objects.rend(); ++object) {
+    if (!object->Place.contains(place)) continue;
+    int row = rowNamed(tags, object->Section);
+    if (row < 0) row = rowNamed(tags, object->Owner);
+    if (row >= 0 && std::find(rows.begin(), rows.end(), row) == rows.end()) rows.push_back(row);
+  }
+  return rows;
+}
+
+}  // namespace
+
+int PreviewPicking::RowAt(const QPoint& place, const renderer::RenderAccount& account,
+                          const themefiles::TagList& tags) {
+  const bool further = (place - place_).manhattanLength() <= SamePlace;
+  std::vector<int> rows = rowsAt(further ? place_ : place, account, tags);
+  if (!further || rows != rows_) {
+    place_ = place;
+    rows_ = rowsAt(place, account, tags);
+    next_ = 0;
+  }
+  if (rows_.empty()) return -1;
+  const int row = rows_[next_];
+  next_ = (next_ + 1) % rows_.size();
+  return row;
+}
+
+}  // namespace mainwindows
