@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#include "controls/thumbnail.h"
 #include "platform/paths.h"
 
 namespace controls {
@@ -51,6 +52,7 @@ QString NativeDialogs::OpenFile(QWidget* parent, const platform::FileRequest& re
   dialog.setNameFilters(NameFilters(request.filter));
   if (!request.folder.isEmpty()) dialog.setDirectory(platform::NativePath(request.folder));
   if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
+  if (request.pictures) AddThumbnail(dialog);
   if (dialog.exec() != QDialog::Accepted) return {};
   const QStringList files = dialog.selectedFiles();
   return files.isEmpty() ? QString() : platform::ProgramPath(files.first());

@@ -43,6 +43,7 @@ void WorkQueue::work() {
 
 void WorkQueue::Yield() {
   const Stage caller = running_;
+  Q_EMIT Yielding();
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   if (leaving_ || noted_ == Stage::Choose || (caller == Stage::Draw && noted_ == Stage::Draw)) throw WorkAbandoned{};
 }

@@ -40,6 +40,10 @@ class WorkQueue : public QObject {
   /// Drops noted work and afterwork: what they were for is gone.
   void Forget();
 
+ Q_SIGNALS:
+  /// A yield begins: pending events are about to be served.
+  void Yielding();
+
  private:
   enum class Stage { None, Draw, Choose };
 

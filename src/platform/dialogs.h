@@ -18,9 +18,10 @@ enum class BoxAnswer { Ok, Yes, No };
 
 struct FileRequest {
   QString title;
-  QString filter;    ///< pairs "description|pattern;pattern", separated by "|"
-  QString fileName;  ///< proposed name, may be empty
-  QString folder;    ///< where the dialog opens, may be empty
+  QString filter;         ///< pairs "description|pattern;pattern", separated by "|"
+  QString fileName;       ///< proposed name, may be empty
+  QString folder;         ///< where the dialog opens, may be empty
+  bool pictures = false;  ///< whether to show a thumbnail of the chosen file, where the toolkit can
 };
 
 /// Everything that asks the user in a window of its own. Tests script the answers. `parent` is the form whose control

@@ -32,12 +32,6 @@ QColor shownColor(const QString& color) {
   return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
 }
 
-void paintSwatch(Form2& form, const QColor& color) {
-  QPalette palette = form.Command2->palette();
-  palette.setColor(QPalette::Button, color);
-  form.Command2->setPalette(palette);
-}
-
 template <typename Table>
 auto rowNamed(Table& table, const QString& name) {
   return std::find_if(table.begin(), table.end(), [&](const NamedColor& row) { return row.Name == name; });
@@ -92,7 +86,7 @@ QString writeStep() {
 
 void FillColorEditor(Form2& form, const QString& Value) {
   form.Combo3->Clear();
-  paintSwatch(form, shownColor(newColor()));
+  form.Command2->SetBackColor(shownColor(newColor()));
   const int group = groupOf(form.Services.State, Value);
   if (group < 0) return;
   form.Command3->setEnabled(true);
@@ -106,7 +100,8 @@ void FillColorEditor(Form2& form, const QString& Value) {
 void Combo4_Click(Form2& form, controls::Cause cause) {
   if (cause != controls::Cause::User) return;
   const int group = form.Combo4->ListIndex();
-  for (QPushButton* button : {form.Command3, form.Command2, form.Command5}) button->setEnabled(group == ThemeGroup);
+  for (QPushButton* button : std::initializer_list<QPushButton*>{form.Command3, form.Command2, form.Command5})
+    button->setEnabled(group == ThemeGroup);
   listNames(form, namesOfGroup(form.Services.State, group));
   if (form.Combo3->ListCount() > 0) form.Combo3->SetListIndex(0);
 }
@@ -117,24 +112,23 @@ void Combo3_Click(Form2& form) {
   const int group = form.Combo4->ListIndex();
   if (group == ThemeGroup) {
     const auto row = rowNamed(state.ThemeColors, name);
-    if (!name.isEmpty() && row != state.ThemeColors.end()) paintSwatch(form, shownColor(row->Value));
+    if (!name.isEmpty() && row != state.ThemeColors.end()) form.Command2->SetBackColor(shownColor(row->Value));
   } else if (group == ProgramGroup || group == PlayerGroup) {
-    paintSwatch(form, shownColor(themefiles::ResolveColor(state, name, form.Services.SchemeName())));
+    form.Command2->SetBackColor(shownColor(themefiles::ResolveColor(state, name, form.Services.SchemeName())));
   }
 }
 
 void Command2_Click(Form2& form) {
   if (form.Combo3->ListIndex() < 0) return;
   themefiles::ModuleState& state = form.Services.State;
-  const QColor present = form.Command2->palette().color(QPalette::Button);
-  const auto color = form.Services.Dialogs.ChooseColor(&form, present);
+  const auto color = form.Services.Dialogs.ChooseColor(&form, form.Command2->BackColor());
   if (!color) return;
   const QString name = form.Combo3->Text();
   const auto row = rowNamed(state.ThemeColors, name);
   const bool ofTheme = !name.isEmpty() && row != state.ThemeColors.end();
   const QString text = QStringLiteral("%1 %2 %3").arg(color->red()).arg(color->green()).arg(color->blue());
   if (ofTheme && !written(form, writeStep(), name, text)) return;
-  paintSwatch(form, *color);
+  form.Command2->SetBackColor(*color);
   if (!ofTheme) return;
   row->Value = text;
   TellKeptInWorkingCopy(form);
@@ -175,7 +169,7 @@ void Command5_Click(Form2& form) {
   if (row == table.end() || !written(form, writeStep(), name, std::nullopt)) return;
   *row = {};
   form.Combo3->RemoveItem(form.Combo3->ListIndex());
-  paintSwatch(form, platform::ColorOf(platform::ButtonFaceColor));
+  form.Command2->SetBackColor(platform::ColorOf(platform::ButtonFaceColor));
   TellKeptInWorkingCopy(form);
 }
 

@@ -120,7 +120,7 @@ void Command4_Click(Form2& form) {
   const QString path = form.Services.Dialogs.OpenFile(
       &form, {QStringLiteral("Change Filename"),
               QStringLiteral("All supported image files (*.bmp,*.gif,*.jpg,*.png)|*.bmp;*.gif;*.jpg;*.png"), QString(),
-              skinFolder});
+              skinFolder, true});
   if (path.isEmpty()) return;
   const qsizetype separator = path.lastIndexOf(u'\\');
   if (!platform::SameFolder(path.left(separator), skinFolder)) {

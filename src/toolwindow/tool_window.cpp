@@ -60,7 +60,7 @@ Form2::Form2(ToolServices services, QWidget* owner)
       Command3(iconButton(Color, QStringLiteral("plus"), QStringLiteral("Add a new Color"))),
       Command5(iconButton(Color, QStringLiteral("minus"), QStringLiteral("Remove Color"))),
       Combo3(new controls::ComboBox(Color)),
-      Command2(iconButton(Color, QString(), QStringLiteral("Change Color"))),
+      Command2(new controls::SwatchButton(Color)),
       Texture(new QWidget(Frame1)),
       Combo6(new controls::ComboBox(Texture)),
       Command8(iconButton(Texture, QStringLiteral("plus"), QString())),
@@ -112,6 +112,7 @@ Form2::Form2(ToolServices services, QWidget* owner)
   ListView1->SetColumns({QStringLiteral("Item"), QStringLiteral("Value")},
                         {controls::ToPixels(950), controls::ToPixels(1300)});
   for (QWidget* control : std::initializer_list<QWidget*>{Combo1, List1, ListView1, Text3}) control->setEnabled(false);
+  Command2->setToolTip(QStringLiteral("Change Color"));
   HideEditorFrames();
   Frame1->hide();
   Command1->hide();

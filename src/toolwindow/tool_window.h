@@ -11,6 +11,7 @@
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "controls/number_bar.h"
+#include "controls/swatch_button.h"
 #include "controls/text_box.h"
 #include "controls/work_queue.h"
 #include "platform/dialogs.h"
@@ -78,11 +79,11 @@ class Form2 : public QWidget {
   controls::ComboBox* Combo2;  ///< the values of a key with a fixed list
 
   QWidget* Color;
-  controls::ComboBox* Combo4;  ///< the group of colours
-  QPushButton* Command3;       ///< add a colour
-  QPushButton* Command5;       ///< remove the colour
-  controls::ComboBox* Combo3;  ///< the colour's name
-  QPushButton* Command2;       ///< the swatch: change the colour
+  controls::ComboBox* Combo4;        ///< the group of colours
+  QPushButton* Command3;             ///< add a colour
+  QPushButton* Command5;             ///< remove the colour
+  controls::ComboBox* Combo3;        ///< the colour's name
+  controls::SwatchButton* Command2;  ///< shows the colour, and changes it
 
   QWidget* Texture;
   controls::ComboBox* Combo6;  ///< the texture key
