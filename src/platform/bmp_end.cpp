@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cstdlib>
+#include <iterator>
 
 #include "platform/byte_cursor.h"
 #include "platform/picture_ends.h"
@@ -8,7 +10,9 @@ namespace platform {
 namespace {
 
 constexpr qint64 PlaceOfOffset = 10;
+constexpr qint64 FileHeaderSize = 14;
 constexpr quint32 OldHeaderSize = 12;
+constexpr quint32 HeaderSizes[] = {OldHeaderSize, 40, 64, 108, 124};
 enum Compression : quint32 { Plain = 0, Runs8 = 1, Runs4 = 2 };
 
 /// Whether the runs fill every row of the picture and close with their end mark.
@@ -41,18 +45,26 @@ bool runsFill(ByteCursor cursor, bool fourBits, qint64 width, qint64 height) {
 bool IsWholeBmp(QByteArrayView bytes) {
   ByteCursor cursor(bytes, PlaceOfOffset);
   const qint64 offset = cursor.little32();
-  const bool old = cursor.little32() == OldHeaderSize;
-  const qint64 width = old ? cursor.little16() : qint32(cursor.little32());
-  const qint64 height = old ? cursor.little16() : std::abs(qint64(qint32(cursor.little32())));
+  const quint32 header = cursor.little32();
+  if (std::find(std::begin(HeaderSizes), std::end(HeaderSizes), header) == std::end(HeaderSizes)) return false;
+  const bool old = header == OldHeaderSize;
+  const qint64 width = old ? qint16(cursor.little16()) : qint32(cursor.little32());
+  const qint64 height = std::abs(old ? qint64(qint16(cursor.little16())) : qint64(qint32(cursor.little32())));
   cursor.skip(2);
   const qint64 bits = cursor.little16();
   const quint32 compression = old ? quint32(Plain) : cursor.little32();
+  cursor.skip(old ? 0 : 12);
+  const quint32 listed = old ? 0 : cursor.little32();
   if (!cursor.inside() || width <= 0 || height <= 0) return false;
+
+  // A wrong offset can't reach back into the header and its colours.
+  const qint64 colors = bits > 8 ? 0 : listed > 0 ? listed : 1 << bits;
+  const qint64 pixels = std::max<qint64>(offset, FileHeaderSize + header + colors * (old ? 3 : 4));
   if (compression == Runs8 || compression == Runs4) {
-    return runsFill(ByteCursor(bytes, offset), compression == Runs4, width, height);
+    return runsFill(ByteCursor(bytes, pixels), compression == Runs4, width, height);
   }
   const qint64 rowBytes = (width * bits + 31) / 32 * 4;
-  return bytes.size() >= offset && (bytes.size() - offset) / height >= rowBytes;
+  return bytes.size() >= pixels && (bytes.size() - pixels) / height >= rowBytes;
 }
 
 }  // namespace platform

@@ -133,13 +133,13 @@ QString ResolveColor(const ModuleState& state, const QString& Name, const QStrin
 qint32 ColorToRGB(const QString& Color) {
   const QStringList fields = platform::SplitAtBlanks(Color);
   if (fields.size() < 3) return 0;
-  qint32 sum = 0;
+  quint32 sum = 0;
   for (int channel = 2; channel >= 0; --channel) {
     const auto number = platform::RoundToInt16(platform::NumberOf(fields[channel]));
     if (!number || *number < 0) return 0;
-    sum = sum * 256 + *number;
+    sum = sum * 256 + static_cast<quint32>(*number);
   }
-  return sum & 0xFFFFFF;
+  return static_cast<qint32>(sum & 0xFFFFFF);
 }
 
 }  // namespace themefiles

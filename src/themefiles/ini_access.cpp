@@ -27,8 +27,8 @@ QByteArray lineBytes(const QString& text) {
   return *bytes;
 }
 
-/// Reads, changes and writes the file. Throws Failure.
-void put(const QString& section, const QString& key, const std::optional<QString>& value, const QString& fileName) {
+/// Reads, changes and writes the file; gives what it holds then. Throws Failure.
+QByteArray put(const QString& section, const QString& key, const std::optional<QString>& value, const QString& fileName) {
   const QByteArray sectionBytes = lineBytes(section);
   const QByteArray keyBytes = lineBytes(key);
   const QByteArray valueBytes = lineBytes(value.value_or(QString()));
@@ -36,6 +36,13 @@ void put(const QString& section, const QString& key, const std::optional<QString
   const auto changed = value ? platform::SetProfileValue(old, sectionBytes, keyBytes, valueBytes)
                              : platform::RemoveProfileKey(old, sectionBytes, keyBytes);
   if (changed) platform::WriteFile(fileName, *changed);
+  return changed.value_or(old);
+}
+
+/// The key list of a section as a buffer of that size takes it: a longer one loses what the two NULs at its end need.
+QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 bufferSize) {
+  const QByteArray keys = platform::ListProfileKeys(file, section);
+  return keys.size() < bufferSize ? keys : keys.left(bufferSize - 2);
 }
 
 /// What an ini file gives back for a written value: one line `k=value`.
@@ -54,7 +61,7 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
   const auto key = platform::ToAnsi(Key.value_or(QString()));
   try {
     const QByteArray file = platform::ReadFile(FileName);
-    if (!Key && section) return platform::FromAnsi(platform::ListProfileKeys(file, *section).left(BufferSize - 2));
+    if (!Key) return section ? platform::FromAnsi(keyList(file, *section, BufferSize)) : QString();
     if (section && key && !key->isEmpty()) found = platform::FindProfileValue(file, *section, *key);
   } catch (const platform::Failure&) {
     // A file that can't be read holds no key.
@@ -73,10 +80,17 @@ void PutINI(const QString& Section, const QString& Key, const std::optional<QStr
 
 void PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
                    const QString& FileName) {
-  put(Section, Key, Value, FileName);
+  const QByteArray held = put(Section, Key, Value, FileName);
   const QString missing(QChar(1));
   const QString now = GetINI(Section, Key, missing, FileName, ListBufferSize);
-  const QString wanted = Value ? givenBack(*Value).left(ListBufferSize - 1) : missing;
+  QString wanted = missing;
+  if (Value) {
+    wanted = givenBack(*Value);
+  } else if (const auto second = platform::FindProfileValue(held, lineBytes(Section), lineBytes(Key))) {
+    // Of a doubled key the first goes, and the second shows.
+    wanted = platform::FromAnsi(*second);
+  }
+  wanted.truncate(ListBufferSize - 1);
   if (now != wanted) throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(Key, Section));
 }
 
