@@ -1,0 +1,37 @@
+#include <cstdio>
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "controls/look.h"
+#include "controls/native_dialogs.h"
+#include "mainwindows/main_events.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "session.h"
+
+/// cantorama-screenshots GAME_FOLDER OUTPUT_FOLDER: opens the first theme of the folder and saves the pictures.
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  const QStringList arguments = QApplication::arguments();
+  if (arguments.size() != 3 || !QDir().mkpath(arguments[2])) {
+    std::fputs("usage: cantorama-screenshots GAME_FOLDER OUTPUT_FOLDER\n", stderr);
+    return 2;
+  }
+  controls::ApplyLook(application);
+  const QTemporaryDir configFolder;
+  themefiles::ModuleState state;
+  controls::NativeDialogs dialogs;
+  platform::Graphics graphics;
+  mainwindows::Form1 form({state, dialogs, graphics, {platform::ProgramPath(configFolder.path())}});
+  form.Config.SetGameFolder(platform::ProgramPath(QDir(arguments[1]).absolutePath() + u'/'));
+  mainwindows::ConnectEvents(form);
+  try {
+    screenshots::Session(form, arguments[2]).Run();
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "cantorama-screenshots: %s\n", failure.what());
+    return 2;
+  }
+  return 0;
+}

@@ -1,0 +1,177 @@
+#include "session.h"
+
+#include <array>
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QScreen>
+#include <QTimer>
+
+#include "mainwindows/open_theme.h"
+#include "platform/failure.h"
+#include "toolwindow/value_grid.h"
+
+namespace screenshots {
+namespace {
+
+constexpr int OpenButton = 1;
+constexpr int CloseButton = 3;
+constexpr int SettleTime = 300;  // ms
+
+/// An object of the main screen and one of its keys.
+struct Row {
+  QStringView tag;
+  QStringView key;
+};
+
+constexpr Row ColorRow{u"MainStaticStar", u"Color"};
+constexpr Row ThemeColorRow{u"MainTextTitle", u"Color"};
+constexpr Row TextRow{u"MainTextTitle", u"Text"};
+constexpr Row TextureRow{u"MainStaticStar", u"Tex"};
+constexpr Row NumberRow{u"MainStaticStar", u"X"};
+
+/// One editor frame: what brings it up, and its picture.
+struct EditorRow {
+  Row row;
+  QStringView picture;
+};
+
+constexpr std::array<EditorRow, 6> Editors{{
+    {NumberRow, u"tool-numbers"},
+    {{u"MainStaticStar", u"Z"}, u"tool-floatnumbers"},
+    {{u"MainStaticStar", u"Type"}, u"tool-selection"},
+    {ColorRow, u"tool-color"},
+    {TextureRow, u"tool-texture"},
+    {TextRow, u"tool-texts"},
+}};
+
+/// Lets the windows come to rest.
+void settle() {
+  QEventLoop loop;
+  QTimer::singleShot(SettleTime, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+template <typename List>
+int rowOf(const List& list, const QString& text) {
+  for (int row = 0; row < list.ListCount(); ++row) {
+    if (list.List(row) == text) return row;
+  }
+  throw platform::Failure(QStringLiteral("no row '%1'").arg(text));
+}
+
+/// Picks the object and clicks the key's row in the grid.
+void openEditor(toolwindow::Form2& tools, const Row& wanted) {
+  tools.List1->SetListIndex(rowOf(*tools.List1, wanted.tag.toString()));
+  for (int row = 0; row < tools.ListView1->RowCount(); ++row) {
+    if (tools.ListView1->RowText(row) != wanted.key) continue;
+    tools.ListView1->SelectRow(row);
+    toolwindow::ListView1_ItemClick(tools, row);
+    settle();
+    return;
+  }
+  throw platform::Failure(QStringLiteral("no key '%1'").arg(wanted.key));
+}
+
+void cancel(QDialog& dialog) {
+  dialog.reject();
+}
+
+void accept(QDialog& dialog) {
+  dialog.accept();
+}
+
+/// Answers an input box.
+std::function<void(QDialog&)> entering(const QString& text) {
+  return [text](QDialog& dialog) {
+    dynamic_cast<QInputDialog&>(dialog).setTextValue(text);
+    dialog.accept();
+  };
+}
+
+}  // namespace
+
+Session::Session(mainwindows::Form1& form, QString outputFolder)
+    : form_(form),
+      folder_(std::move(outputFolder)),
+      dialogs_([this](QWidget& window, const QString& name) { save(window, name); }) {}
+
+void Session::Run() {
+  form_.show();
+  settle();
+  save(form_, QStringLiteral("start"));
+  openTheme();
+  showScreen(QStringLiteral("Main Screen"));
+  save(form_, QStringLiteral("main-window"));
+  showEditors();
+  saveScreen(QStringLiteral("editor"));
+  showColorBoxes();
+  showKeyBoxes();
+  showCloseQuestion();
+}
+
+void Session::openTheme() {
+  const auto open = [](QDialog& dialog) { dynamic_cast<mainwindows::Form3&>(dialog).Command1->click(); };
+  dialogs_.Run({{QStringLiteral("open-theme"), open}}, [this] { Q_EMIT form_.ToolBar->Click(OpenButton); });
+  if (form_.ToolWindow == nullptr) throw platform::Failure(QStringLiteral("no theme was opened"));
+}
+
+void Session::showScreen(const QString& name) {
+  controls::ComboBox& screens = *form_.ToolWindow->Combo1;
+  screens.SetListIndex(rowOf(screens, name));
+  settle();
+}
+
+void Session::showEditors() {
+  for (const EditorRow& editor : Editors) {
+    openEditor(*form_.ToolWindow, editor.row);
+    save(*form_.ToolWindow, editor.picture.toString());
+  }
+}
+
+void Session::showColorBoxes() {
+  toolwindow::Form2& tools = *form_.ToolWindow;
+  openEditor(tools, ThemeColorRow);
+  const QString present = tools.Combo3->Text();
+  const auto add = [&tools] { tools.Command3->click(); };
+  dialogs_.Run({{QStringLiteral("box-color-dialog"), cancel}}, [&tools] { tools.Command2->click(); });
+  dialogs_.Run({{QStringLiteral("box-new-color"), entering(present)}, {QStringLiteral("box-color-exists"), accept}},
+               add);
+  dialogs_.Run({{QString(), entering(QStringLiteral("a=b"))}, {QStringLiteral("box-name-unusable"), accept}}, add);
+  dialogs_.Run({{QStringLiteral("box-delete-color"), cancel}}, [&tools] { tools.Command5->click(); });
+}
+
+void Session::showKeyBoxes() {
+  toolwindow::Form2& tools = *form_.ToolWindow;
+  openEditor(tools, TextRow);
+  const QString present = tools.Combo5->Text();
+  dialogs_.Run({{QStringLiteral("box-new-textkey"), entering(present)}, {QStringLiteral("box-key-exists"), accept}},
+               [&tools] { tools.Command6->click(); });
+  dialogs_.Run({{QStringLiteral("box-delete-key"), cancel}}, [&tools] { tools.Command7->click(); });
+  openEditor(tools, TextureRow);
+  dialogs_.Run({{QStringLiteral("box-new-texturekey"), cancel}}, [&tools] { tools.Command8->click(); });
+  dialogs_.Run({{QStringLiteral("box-image-dialog"), cancel}}, [&tools] { tools.Command4->click(); });
+}
+
+void Session::showCloseQuestion() {
+  openEditor(*form_.ToolWindow, NumberRow);
+  form_.ToolWindow->Command1->click();
+  settle();
+  dialogs_.Run({{QStringLiteral("box-close"), cancel}}, [this] { Q_EMIT form_.ToolBar->Click(CloseButton); });
+}
+
+void Session::save(QWidget& window, const QString& name) const {
+  if (!window.grab().save(folder_ + u'/' + name + QStringLiteral(".png"))) {
+    throw platform::Failure(QStringLiteral("can't write %1").arg(name));
+  }
+}
+
+/// The main window with what lies over it, as the screen shows them.
+void Session::saveScreen(const QString& name) const {
+  const QRect place = form_.frameGeometry().united(form_.ToolWindow->frameGeometry());
+  const QPixmap picture = form_.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height());
+  picture.save(folder_ + u'/' + name + QStringLiteral(".png"));
+}
+
+}  // namespace screenshots

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include "mainwindows/main_window.h"
+#include "modal_script.h"
+
+namespace screenshots {
+
+/// Goes through the program as a user would, on a theme of the game folder, and saves a picture of each window on the
+/// way. Throws platform::Failure when something that it needs isn't there.
+class Session {
+ public:
+  Session(mainwindows::Form1& form, QString outputFolder);
+
+  void Run();
+
+ private:
+  void openTheme();
+  void showScreen(const QString& name);
+  void showEditors();
+  void showColorBoxes();
+  void showKeyBoxes();
+  void showCloseQuestion();
+  void save(QWidget& window, const QString& name) const;
+  void saveScreen(const QString& name) const;
+
+  mainwindows::Form1& form_;
+  QString folder_;
+  ModalScript dialogs_;
+};
+
+}  // namespace screenshots
