@@ -9,6 +9,7 @@
 #include "themefiles/module_state.h"
 
 int main(int argc, char** argv) {
+  QApplication::setDesktopSettingsAware(false);
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Cantorama Theme Edit"));
   controls::ApplyLook(application);

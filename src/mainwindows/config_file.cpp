@@ -62,9 +62,9 @@ QString ConfigFile::GameFolder() const {
 }
 
 void ConfigFile::SetGameFolder(const QString& folder) const {
-  if (path_.isEmpty()) return;
+  if (path_.isEmpty()) throw platform::Failure(problem_);
   const QString text = platform::ToAnsi(folder) ? folder : asBytes(folder);
-  themefiles::PutINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), text, path_);
+  themefiles::PutINIChecked(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), text, path_);
 }
 
 QStringList ConfigFolders() {

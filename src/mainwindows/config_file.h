@@ -21,6 +21,7 @@ class ConfigFile {
   /// The stored game folder; empty until one was stored.
   QString GameFolder() const;
   /// Stores the game folder. One whose letters the code page lacks is stored as its UTF-8 bytes.
+  /// Throws platform::Failure when it can't be stored.
   void SetGameFolder(const QString& folder) const;
 
  private:

@@ -37,7 +37,8 @@ QString findGameFolder(Form1& form) {
                                              QStringLiteral("Cantorama (Vocora.exe)|Vocora.exe"), program, QString()});
   if (chosen.isEmpty()) return {};
   const QString folder = chosen.left(chosen.lastIndexOf(u'\\') + 1);
-  form.Config.SetGameFolder(folder);
+  platform::Guarded(form, QStringLiteral("The game folder can't be kept in config.ini"),
+                    [&] { form.Config.SetGameFolder(folder); });
   return folder;
 }
 
@@ -63,10 +64,16 @@ void unloadToolWindow(Form1& form) {
   form.Services.State.EditorShown = false;
 }
 
+void hideMark(Form1& form) {
+  form.Workspace->SetBlinking(false);
+  form.Workspace->SetVisible(false);
+}
+
 /// What an earlier theme has left when another one takes its place.
 void dropEarlierTheme(Form1& form) {
   themefiles::ModuleState& state = form.Services.State;
   form.Queue.Forget();
+  hideMark(form);
   unloadToolWindow(form);
   state.ThemeColors = {};
   state.ScreenTable = {};
@@ -146,8 +153,7 @@ void CloseTheme(Form1& form) {
   if (!mayDropChanges(form)) return;
   form.Queue.Forget();
   themefiles::ForgetTheme(form.Services.State);
-  form.Workspace->SetBlinking(false);
-  form.Workspace->SetVisible(false);
+  hideMark(form);
   for (QWidget* control : std::initializer_list<QWidget*>{form.Combo1, form.Combo2, form.ProgressBar1}) {
     control->hide();
   }

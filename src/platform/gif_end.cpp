@@ -1,4 +1,5 @@
 #include <array>
+#include <optional>
 
 #include <QByteArray>
 
@@ -23,39 +24,59 @@ void skipColors(ByteCursor& cursor, quint8 flags) {
   if (flags & HasTable) cursor.skip(3 << ((flags & 7) + 1));
 }
 
-/// Whether the compressed codes stand for as many pixels as wanted. Only the length of each code's string is kept.
+/// The code table of a compressed picture, of which only the length of each code's string is kept.
+class CodeTable {
+ public:
+  explicit CodeTable(int rootBits) : rootBits_(rootBits), clear_(1 << rootBits) { clear(); }
+
+  int bits() const { return bits_; }
+  /// The pixels that the code stands for; none at the end code or a wrong one.
+  std::optional<qint64> pixelsOf(int code) {
+    if (code == clear_) {
+      clear();
+      return 0;
+    }
+    if (previous_ >= 0 && next_ < int(lengths_.size())) lengths_[std::size_t(next_++)] = lengthOf(previous_) + 1;
+    if (code == clear_ + 1 || code >= next_) return std::nullopt;
+    if (next_ == 1 << bits_ && bits_ < LargestCodeBits) ++bits_;
+    previous_ = code;
+    return lengthOf(code);
+  }
+
+ private:
+  void clear() {
+    bits_ = rootBits_ + 1;
+    next_ = clear_ + 2;
+    previous_ = -1;
+  }
+  qint64 lengthOf(int code) const { return code < clear_ ? 1 : lengths_[std::size_t(code)]; }
+
+  int rootBits_;
+  int clear_;
+  int bits_ = 0;
+  int next_ = 0;
+  int previous_ = -1;
+  std::array<qint64, 1 << LargestCodeBits> lengths_{};
+};
+
+/// Whether the codes stand for as many pixels as wanted.
 bool codesFill(const QByteArray& data, int rootBits, qint64 wanted) {
   if (rootBits < 1 || rootBits >= LargestCodeBits) return false;
-  std::array<qint64, 1 << LargestCodeBits> lengths;
-  const int clear = 1 << rootBits;
-  int bits = rootBits + 1;
-  int next = clear + 2;
-  int previous = -1;
-  qint64 pixels = 0;
+  CodeTable table(rootBits);
   quint32 buffer = 0;
   int buffered = 0;
   for (const char byte : data) {
     buffer |= quint32(quint8(byte)) << buffered;
     buffered += 8;
-    while (buffered >= bits) {
-      const int code = int(buffer & ((1U << bits) - 1));
+    while (buffered >= table.bits()) {
+      const int bits = table.bits();
+      const auto pixels = table.pixelsOf(int(buffer & ((1U << bits) - 1)));
+      if (!pixels) return false;
       buffer >>= bits;
       buffered -= bits;
-      if (code == clear) {
-        bits = rootBits + 1;
-        next = clear + 2;
-        previous = -1;
-        continue;
-      }
-      if (code == clear + 1) return false;
-      const auto lengthOf = [&](int c) { return c < clear ? 1 : lengths[std::size_t(c)]; };
-      if (previous >= 0 && next < int(lengths.size())) lengths[std::size_t(next++)] = lengthOf(previous) + 1;
-      if (code >= next) return false;
-      pixels += lengthOf(code);
-      if (pixels >= wanted) return true;
-      if (next == 1 << bits && bits < LargestCodeBits) ++bits;
-      previous = code;
+      wanted -= *pixels;
     }
+    if (wanted <= 0) return true;
   }
   return false;
 }

@@ -1,8 +1,10 @@
 #include "renderer/recolouring.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <vector>
+#include <optional>
+#include <utility>
 
 #include "platform/numbers.h"
 #include "renderer/texture_pipeline.h"
@@ -13,16 +15,29 @@ namespace {
 constexpr quint32 ColorBits = 0x00FFFFFF;
 constexpr quint32 AlphaBits = 0xFF000000;
 
-double hueToChannel(double m1, double m2, double h) {
+/// How far a channel of hue `h` lies from the smallest channel (0) to the largest (1). The two ramps give the numerator
+/// only, to be divided by 60.
+struct Reach {
+  double part = 0;
+  bool ramp = false;
+};
+
+Reach reachOf(double h) {
   if (h > 360) {
     h -= 360;
   } else if (h < 0) {
     h += 360;
   }
-  if (h < 60) return m1 + (m2 - m1) * h / 60;
-  if (h < 180) return m2;
-  if (h < 240) return m1 + (m2 - m1) * (240 - h) / 60;
-  return m1;
+  if (h < 60) return {h, true};
+  if (h < 180) return {1, false};
+  if (h < 240) return {240 - h, true};
+  return {0, false};
+}
+
+double hueToChannel(double m1, double m2, double h) {
+  const Reach reach = reachOf(h);
+  if (reach.ramp) return m1 + (m2 - m1) * reach.part / 60;
+  return reach.part == 0 ? m1 : m2;
 }
 
 quint32 byteOf(double channel) {
@@ -31,10 +46,60 @@ quint32 byteOf(double channel) {
 
 /// The recoloured pixel, without alpha, of one whose largest and smallest channel are these: lightness and saturation
 /// depend on nothing else.
-quint32 recoloured(double hue, int largest, int smallest) {
+quint32 recoloured(double hue, quint32 largest, quint32 smallest) {
   const HSL shade = RGBToHSL(largest / 255.0, smallest / 255.0, smallest / 255.0);
   const RGB channels = HSLToRGB(hue, shade.L, shade.S);
   return byteOf(channels.R) << 16U | byteOf(channels.G) << 8U | byteOf(channels.B);
+}
+
+/// What the channels of a recoloured pixel have above its smallest one, packed as the pixel is. Where `halves` has a
+/// bit the sum lies half way between two bytes, and the even one of the two is the channel.
+struct Step {
+  quint32 above = 0;
+  quint32 halves = 0;
+};
+
+constexpr int Spreads = 256;
+using Steps = std::array<Step, Spreads>;
+
+/// The steps of a hue by the spread, which is the largest channel less the smallest. In whole bytes the formulas come
+/// to smallest + spread * reach, so that only the spread needs working out; they stay within `Exact` of that, and their
+/// passage through a 32-bit float moves a value by less than `Grain`. None when a sum comes so near to a half that
+/// these two would decide; the hue of a colour in whole bytes has none such.
+std::optional<Steps> stepsOf(double hue) {
+  constexpr double Exact = 1e-10;
+  constexpr double Grain = 1e-5;
+  Steps steps;
+  for (const auto& [h, shift] : {std::pair{hue + 120, 16U}, {hue, 8U}, {hue - 120, 0U}}) {
+    const Reach reach = reachOf(h);
+    const double share = reach.ramp ? reach.part / 60 : reach.part;
+    for (int spread = 0; spread < Spreads; ++spread) {
+      const double above = spread * share;
+      const double whole = std::floor(above);
+      const double overHalf = above - whole - 0.5;
+      const bool half = std::abs(overHalf) < Exact;
+      if (!half && std::abs(overHalf) < Grain) return std::nullopt;
+      const auto bytes = static_cast<quint32>(whole) + (!half && overHalf > 0 ? 1 : 0);
+      steps[spread].above |= bytes << shift;
+      steps[spread].halves |= (half ? 1U : 0U) << shift;
+    }
+  }
+  return steps;
+}
+
+/// Puts `recolour` of its largest and its smallest channel into every pixel; alpha stays.
+template <typename Recolour>
+void recolourEach(QImage& picture, Recolour recolour) {
+  for (int y = 0; y < picture.height(); ++y) {
+    auto* const line = reinterpret_cast<quint32*>(picture.scanLine(y));
+    auto* const end = line + picture.width();
+    for (quint32* pixel = line; pixel != end; ++pixel) {
+      const quint32 r = *pixel >> 16U & 0xFFU;
+      const quint32 g = *pixel >> 8U & 0xFFU;
+      const quint32 b = *pixel & 0xFFU;
+      *pixel = (*pixel & AlphaBits) | recolour(std::max({r, g, b}), std::min({r, g, b}));
+    }
+  }
 }
 
 }  // namespace
@@ -72,21 +137,14 @@ RGB HSLToRGB(double H, double L, double S) {
 
 void Colorize(QImage& picture, const ColorNumbers& color) {
   const double hue = RGBToHSL(color.R, color.G, color.B).H;
-  // Each pair of largest and smallest channel is worked out once, when the first pixel asks for it.
-  constexpr quint32 Unknown = AlphaBits;
-  std::vector<quint32> known(256 * 256, Unknown);
-  for (int y = 0; y < picture.height(); ++y) {
-    auto* const line = reinterpret_cast<quint32*>(picture.scanLine(y));
-    for (quint32* pixel = line; pixel != line + picture.width(); ++pixel) {
-      const quint32 r = *pixel >> 16U & 0xFFU;
-      const quint32 g = *pixel >> 8U & 0xFFU;
-      const quint32 b = *pixel & 0xFFU;
-      const quint32 largest = std::max({r, g, b});
-      const quint32 smallest = std::min({r, g, b});
-      quint32& shade = known[largest << 8U | smallest];
-      if (shade == Unknown) shade = recoloured(hue, static_cast<int>(largest), static_cast<int>(smallest));
-      *pixel = (*pixel & AlphaBits) | shade;
-    }
+  if (const auto steps = stepsOf(hue)) {
+    recolourEach(picture, [&steps = *steps](quint32 largest, quint32 smallest) {
+      const Step& step = steps[largest - smallest];
+      const quint32 sum = smallest * 0x010101U + step.above;
+      return sum + (sum & step.halves);
+    });
+  } else {
+    recolourEach(picture, [hue](quint32 largest, quint32 smallest) { return recoloured(hue, largest, smallest); });
   }
 }
 

@@ -28,7 +28,8 @@ QByteArray lineBytes(const QString& text) {
 }
 
 /// Reads, changes and writes the file; gives what it holds then. Throws Failure.
-QByteArray put(const QString& section, const QString& key, const std::optional<QString>& value, const QString& fileName) {
+QByteArray put(const QString& section, const QString& key, const std::optional<QString>& value,
+               const QString& fileName) {
   const QByteArray sectionBytes = lineBytes(section);
   const QByteArray keyBytes = lineBytes(key);
   const QByteArray valueBytes = lineBytes(value.value_or(QString()));

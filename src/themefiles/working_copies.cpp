@@ -1,9 +1,11 @@
 #include "themefiles/working_copies.h"
 
 #include <array>
+#include <vector>
 
 #include <QCryptographicHash>
 
+#include "platform/failure.h"
 #include "platform/files.h"
 
 namespace themefiles {
@@ -47,14 +49,45 @@ QByteArray saveCopy(const QString& copy, const QByteArray& knownDigest, platform
   return digest(bytes);
 }
 
+/// A file and what stood in it.
+struct KeptFile {
+  QString path;
+  QByteArray bytes;
+};
+
+/// The working copies of the theme that is open, as they are now; none without one.
+std::vector<KeptFile> openCopies(const ModuleState& state) {
+  std::vector<KeptFile> copies;
+  if (!state.ThemeOpened) return copies;
+  for (const auto file : CopiedFiles) {
+    const QString& path = state.Paths.*file;
+    if (platform::FileExists(path)) copies.push_back({path, platform::ReadFile(path)});
+  }
+  return copies;
+}
+
+void putBack(const std::vector<KeptFile>& files) {
+  for (const KeptFile& file : files) {
+    if (!platform::FileExists(file.path) || platform::ReadFile(file.path) != file.bytes) {
+      platform::WriteFile(file.path, file.bytes);
+    }
+  }
+}
+
 }  // namespace
 
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status) {
   std::array<QByteArray, CopiedFiles.size()> digests;
   ThemePaths opened = chosen;
-  for (size_t i = 0; i < CopiedFiles.size(); ++i) {
-    digests.at(i) = makeCopy(chosen.*CopiedFiles.at(i), status);
-    opened.*CopiedFiles.at(i) += WorkingEnding.toString();
+  const std::vector<KeptFile> before = openCopies(state);
+  try {
+    for (size_t i = 0; i < CopiedFiles.size(); ++i) {
+      digests.at(i) = makeCopy(chosen.*CopiedFiles.at(i), status);
+      opened.*CopiedFiles.at(i) += WorkingEnding.toString();
+    }
+  } catch (const platform::Failure&) {
+    putBack(before);
+    throw;
   }
   state.Paths = opened;
   state.FileDigests = digests;

@@ -12,7 +12,7 @@ inline constexpr QStringView WorkingEnding = u".tmp";
 /// Copies theme, skin and language file of `chosen` to their working copies, in this order, and opens the theme:
 /// the state's paths name the copies, ThemeOpened is set. An older working copy that differs from its file is kept
 /// beside as ".old", and `status` told so. Throws platform::Failure when a copy fails; the copies behind it aren't made
-/// then, and the state stays as it was.
+/// then, the state stays as it was, and so do the working copies of a theme that is open.
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status);
 
 /// Copies the three working copies over their files, in the order theme, skin, language, and clears Changed. A file
