@@ -9,12 +9,12 @@
 
 namespace {
 
-constexpr const char* kPlaceholder =
+constexpr const char* Placeholder =
     "This file is a placeholder and not a program.\n"
     "It marks the folder of the sample game, so that the theme editor can be pointed at it.\n";
 
 void writeGame(const sample::Output& output) {
-  output.writeLines("Vocora.exe", kPlaceholder);
+  output.writeLines("Vocora.exe", Placeholder);
   sample::writeLanguages(output);
   sample::writeStagelight(output);
   sample::writeWorkbench(output);

@@ -12,19 +12,19 @@ namespace sample {
 
 namespace {
 
-constexpr int kDotsPerMetre = 3780;
+constexpr int DotsPerMetre = 3780;
 
 QImage prepared(const QImage& image, const QByteArray& format) {
   QImage copy = format == "png" ? image : image.convertToFormat(QImage::Format_RGB32);
-  copy.setDotsPerMeterX(kDotsPerMetre);
-  copy.setDotsPerMeterY(kDotsPerMetre);
+  copy.setDotsPerMeterX(DotsPerMetre);
+  copy.setDotsPerMeterY(DotsPerMetre);
   return copy;
 }
 
 }  // namespace
 
 void Output::write(const std::string& path, const QByteArray& bytes) const {
-  const QString target = folder + u'/' + QString::fromStdString(path);
+  const QString target = folder_ + u'/' + QString::fromStdString(path);
   QFile file(target);
   if (!QDir().mkpath(QFileInfo(target).path()) || !file.open(QIODevice::WriteOnly) ||
       file.write(bytes) != bytes.size() || !file.flush()) {

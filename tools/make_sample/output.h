@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include <QByteArray>
 #include <QImage>
@@ -11,7 +12,7 @@ namespace sample {
 /// Writes files below one folder, which it makes as needed. Any failure is a std::runtime_error.
 class Output {
  public:
-  explicit Output(const QString& folder) : folder(folder) {}
+  explicit Output(QString folder) : folder_(std::move(folder)) {}
 
   void write(const std::string& path, const QByteArray& bytes) const;
 
@@ -22,7 +23,7 @@ class Output {
   void writePicture(const std::string& path, const QImage& image, int quality = -1) const;
 
  private:
-  QString folder;
+  QString folder_;
 };
 
 /// The picture as a file of the format, such as "png".

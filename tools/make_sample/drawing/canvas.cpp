@@ -14,7 +14,7 @@ double corner(int x, int y, unsigned seed) {
 }
 
 int toByte(double channel) {
-  return static_cast<int>(std::clamp(channel, 0.0, 1.0) * 255 + 0.5);
+  return static_cast<int>(std::lround(std::clamp(channel, 0.0, 1.0) * 255));
 }
 
 }  // namespace
@@ -31,10 +31,10 @@ double smooth(double from, double to, double value) {
 }
 
 double Dice::next(double from, double to) {
-  state ^= state << 13;
-  state ^= state >> 17;
-  state ^= state << 5;
-  return from + (to - from) * (state >> 8) / 16777216.0;
+  state_ ^= state_ << 13;
+  state_ ^= state_ >> 17;
+  state_ ^= state_ << 5;
+  return from + (to - from) * (state_ >> 8) / 16777216.0;
 }
 
 QPointF Dice::point(const QRectF& within) {
@@ -62,14 +62,14 @@ double cloud(double x, double y, unsigned seed) {
 }
 
 Canvas::Canvas(int pixelWidth, int pixelHeight, double unitsWide, double unitsHigh)
-    : pixelWidth(pixelWidth),
-      pixelHeight(pixelHeight),
-      unitsWide(unitsWide),
-      unitsHigh(unitsHigh),
-      dots(static_cast<size_t>(pixelWidth) * static_cast<size_t>(pixelHeight)) {}
+    : pixelWidth_(pixelWidth),
+      pixelHeight_(pixelHeight),
+      unitsWide_(unitsWide),
+      unitsHigh_(unitsHigh),
+      dots_(static_cast<size_t>(pixelWidth) * static_cast<size_t>(pixelHeight)) {}
 
 void Canvas::shade(const Paint& paint) {
-  fill(roundBox(QRectF(0, 0, unitsWide, unitsHigh), 0), paint);
+  fill(roundBox(QRectF(0, 0, unitsWide_, unitsHigh_), 0), paint);
 }
 
 void Canvas::fill(const Shape& shape, const Paint& paint, double soft) {
@@ -96,31 +96,31 @@ void Canvas::blend(Dot& dot, const Colour& colour, double cover) {
 
 void Canvas::walk(const Shape& shape, double soft,
                   const std::function<void(Dot&, double x, double y, double cover)>& visit) {
-  const double across = pixelWidth / unitsWide;
-  const double down = pixelHeight / unitsHigh;
+  const double across = pixelWidth_ / unitsWide_;
+  const double down = pixelHeight_ / unitsHigh_;
   const double edge = std::max(soft, 1 / across);
   const QRectF reach = shape.bounds.adjusted(-edge, -edge, edge, edge);
   const int left = std::max(0, static_cast<int>(reach.left() * across));
   const int top = std::max(0, static_cast<int>(reach.top() * down));
-  const int right = std::min(pixelWidth, static_cast<int>(std::ceil(reach.right() * across)));
-  const int bottom = std::min(pixelHeight, static_cast<int>(std::ceil(reach.bottom() * down)));
+  const int right = std::min(pixelWidth_, static_cast<int>(std::ceil(reach.right() * across)));
+  const int bottom = std::min(pixelHeight_, static_cast<int>(std::ceil(reach.bottom() * down)));
   for (int row = top; row < bottom; ++row) {
     for (int column = left; column < right; ++column) {
       const double x = (column + 0.5) / across;
       const double y = (row + 0.5) / down;
       const double cover = std::clamp(0.5 - shape.distance(x, y) / edge, 0.0, 1.0);
       if (cover > 0)
-        visit(dots[static_cast<size_t>(row) * pixelWidth + column], x, y, soft > 0 ? smooth(0, 1, cover) : cover);
+        visit(dots_[static_cast<size_t>(row) * pixelWidth_ + column], x, y, soft > 0 ? smooth(0, 1, cover) : cover);
     }
   }
 }
 
 QImage Canvas::image() const {
-  QImage image(pixelWidth, pixelHeight, QImage::Format_ARGB32);
-  for (int row = 0; row < pixelHeight; ++row) {
+  QImage image(pixelWidth_, pixelHeight_, QImage::Format_ARGB32);
+  for (int row = 0; row < pixelHeight_; ++row) {
     auto* line = reinterpret_cast<QRgb*>(image.scanLine(row));
-    for (int column = 0; column < pixelWidth; ++column) {
-      const Dot& dot = dots[static_cast<size_t>(row) * pixelWidth + column];
+    for (int column = 0; column < pixelWidth_; ++column) {
+      const Dot& dot = dots_[static_cast<size_t>(row) * pixelWidth_ + column];
       const int alpha = toByte(dot.a);
       line[column] =
           alpha == 0 ? 0U : qRgba(toByte(dot.r / dot.a), toByte(dot.g / dot.a), toByte(dot.b / dot.a), alpha);

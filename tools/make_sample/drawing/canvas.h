@@ -27,12 +27,12 @@ double smooth(double from, double to, double value);
 /// Numbers that look like chance and are the same at every run.
 class Dice {
  public:
-  explicit Dice(unsigned seed) : state(seed * 2654435761U + 88675123U) {}
+  explicit Dice(unsigned seed) : state_(seed * 2654435761U + 88675123U) {}
   double next(double from = 0, double to = 1);
   QPointF point(const QRectF& within);
 
  private:
-  unsigned state;
+  unsigned state_;
 };
 
 /// Noise from 0 to 1 that changes smoothly over a distance of 1.
@@ -50,8 +50,8 @@ class Canvas {
   Canvas(int pixelWidth, int pixelHeight, double unitsWide, double unitsHigh);
   Canvas(int width, int height) : Canvas(width, height, width, height) {}
 
-  double width() const { return unitsWide; }
-  double height() const { return unitsHigh; }
+  double width() const { return unitsWide_; }
+  double height() const { return unitsHigh_; }
 
   void shade(const Paint& paint);
 
@@ -70,9 +70,11 @@ class Canvas {
   void blend(Dot& dot, const Colour& colour, double cover);
   void walk(const Shape& shape, double soft, const std::function<void(Dot&, double x, double y, double cover)>& visit);
 
-  int pixelWidth, pixelHeight;
-  double unitsWide, unitsHigh;
-  std::vector<Dot> dots;
+  int pixelWidth_;
+  int pixelHeight_;
+  double unitsWide_;
+  double unitsHigh_;
+  std::vector<Dot> dots_;
 };
 
 }  // namespace sample

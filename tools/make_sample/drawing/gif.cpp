@@ -8,7 +8,7 @@ namespace sample {
 
 namespace {
 
-constexpr int kCodeLimit = 4096;
+constexpr int CodeLimit = 4096;
 
 void putWord(QByteArray& bytes, int value) {
   bytes.append(static_cast<char>(value & 255));
@@ -19,18 +19,18 @@ void putWord(QByteArray& bytes, int value) {
 class BitWriter {
  public:
   void put(int code, int width) {
-    pending |= static_cast<unsigned>(code) << count;
-    for (count += width; count >= 8; count -= 8, pending >>= 8) bytes.append(static_cast<char>(pending & 255U));
+    pending_ |= static_cast<unsigned>(code) << count_;
+    for (count_ += width; count_ >= 8; count_ -= 8, pending_ >>= 8) bytes_.append(static_cast<char>(pending_ & 255U));
   }
   QByteArray finish() {
-    if (count > 0) bytes.append(static_cast<char>(pending & 255U));
-    return bytes;
+    if (count_ > 0) bytes_.append(static_cast<char>(pending_ & 255U));
+    return bytes_;
   }
 
  private:
-  QByteArray bytes;
-  unsigned pending = 0;
-  int count = 0;
+  QByteArray bytes_;
+  unsigned pending_ = 0;
+  int count_ = 0;
 };
 
 QByteArray compress(const std::vector<unsigned char>& dots, int depth) {
@@ -49,7 +49,7 @@ QByteArray compress(const std::vector<unsigned char>& dots, int depth) {
       continue;
     }
     bits.put(prefix, width);
-    if (next < kCodeLimit) {
+    if (next < CodeLimit) {
       if (next == 1 << width) ++width;
       known[{prefix, dots[i]}] = next++;
     } else {
@@ -61,7 +61,7 @@ QByteArray compress(const std::vector<unsigned char>& dots, int depth) {
     prefix = dots[i];
   }
   bits.put(prefix, width);
-  if (next == 1 << width && next < kCodeLimit) ++width;
+  if (next == 1 << width && next < CodeLimit) ++width;
   bits.put(end, width);
   return bits.finish();
 }

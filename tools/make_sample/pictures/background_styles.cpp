@@ -8,7 +8,7 @@ namespace sample {
 
 namespace {
 
-constexpr double kPi = std::numbers::pi;
+constexpr double Pi = std::numbers::pi;
 
 Colour faded(Colour colour, double alpha) {
   colour.a = alpha;
@@ -134,8 +134,8 @@ void paintRays(Canvas& canvas, const Palette& palette, unsigned seed) {
   const double turn = dice.next(0, 1);
   paintSky(canvas, palette);
   canvas.shade([&](double x, double y) {
-    const double angle = std::atan2(y - centre.y(), x - centre.x()) / kPi;
-    const double band = std::sin((angle + turn) * 12 * kPi);
+    const double angle = std::atan2(y - centre.y(), x - centre.x()) / Pi;
+    const double band = std::sin((angle + turn) * 12 * Pi);
     return faded(palette.light, 0.13 * smooth(-0.25, 0.25, band));
   });
   glow(canvas, centre, 380, palette.light, 0.45);

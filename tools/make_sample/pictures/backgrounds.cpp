@@ -13,19 +13,19 @@ namespace sample {
 
 namespace {
 
-constexpr int kQuality = 85;
+constexpr int Quality = 85;
 
-constexpr Palette kEvening = {rgb(0x241a4a), rgb(0x7a3a78), rgb(0xd8785c), rgb(0xffc890), rgb(0x120a26)};
-constexpr Palette kPlum = {rgb(0x1a1038), rgb(0x4a2470), rgb(0x8a3c7c), rgb(0xf0a0c8), rgb(0x0e0820)};
-constexpr Palette kEmber = {rgb(0x2c0f24), rgb(0x8a2c3c), rgb(0xc8683c), rgb(0xffd890), rgb(0x180812)};
-constexpr Palette kLagoon = {rgb(0x0c1c3c), rgb(0x1c5070), rgb(0x2c8a84), rgb(0xa8f0dc), rgb(0x060e20)};
-constexpr Palette kForest = {rgb(0x0e2430), rgb(0x20584c), rgb(0x5c8844), rgb(0xe0f0a0), rgb(0x081418)};
-constexpr Palette kSlate = {rgb(0x1c2238), rgb(0x3a4a6c), rgb(0x647894), rgb(0xd0e0f4), rgb(0x0c1020)};
+constexpr Palette Evening = {rgb(0x241a4a), rgb(0x7a3a78), rgb(0xd8785c), rgb(0xffc890), rgb(0x120a26)};
+constexpr Palette Plum = {rgb(0x1a1038), rgb(0x4a2470), rgb(0x8a3c7c), rgb(0xf0a0c8), rgb(0x0e0820)};
+constexpr Palette Ember = {rgb(0x2c0f24), rgb(0x8a2c3c), rgb(0xc8683c), rgb(0xffd890), rgb(0x180812)};
+constexpr Palette Lagoon = {rgb(0x0c1c3c), rgb(0x1c5070), rgb(0x2c8a84), rgb(0xa8f0dc), rgb(0x060e20)};
+constexpr Palette Forest = {rgb(0x0e2430), rgb(0x20584c), rgb(0x5c8844), rgb(0xe0f0a0), rgb(0x081418)};
+constexpr Palette Slate = {rgb(0x1c2238), rgb(0x3a4a6c), rgb(0x647894), rgb(0xd0e0f4), rgb(0x0c1020)};
 
-constexpr Palette kMagenta = {rgb(0x0a0618), rgb(0x3a0a4a), rgb(0x70106c), rgb(0xff5cd8), rgb(0x04020c)};
-constexpr Palette kCyan = {rgb(0x04081c), rgb(0x083058), rgb(0x0a5c7c), rgb(0x5cf0ff), rgb(0x02040e)};
-constexpr Palette kLime = {rgb(0x040e14), rgb(0x0c3c34), rgb(0x246c30), rgb(0xb4ff5c), rgb(0x02080a)};
-constexpr Palette kUltra = {rgb(0x080420), rgb(0x24108c), rgb(0x5420c0), rgb(0xa88cff), rgb(0x040212)};
+constexpr Palette Magenta = {rgb(0x0a0618), rgb(0x3a0a4a), rgb(0x70106c), rgb(0xff5cd8), rgb(0x04020c)};
+constexpr Palette Cyan = {rgb(0x04081c), rgb(0x083058), rgb(0x0a5c7c), rgb(0x5cf0ff), rgb(0x02040e)};
+constexpr Palette Lime = {rgb(0x040e14), rgb(0x0c3c34), rgb(0x246c30), rgb(0xb4ff5c), rgb(0x02080a)};
+constexpr Palette Ultra = {rgb(0x080420), rgb(0x24108c), rgb(0x5420c0), rgb(0xa88cff), rgb(0x040212)};
 
 struct File {
   const char* name;
@@ -35,44 +35,44 @@ struct File {
   unsigned seed;
 };
 
-const File kFiles[] = {
-    {"dusk_loading.jpg", 800, 600, paintRays, kEvening, 1},
-    {"dusk_main.jpg", 1024, 768, paintHills, kEvening, 2},
-    {"dusk_song.jpg", 800, 600, paintStaff, kPlum, 3},
-    {"dusk_sing.jpg", 1024, 768, paintSpots, kPlum, 4},
-    {"dusk_score.jpg", 800, 600, paintSpots, kEmber, 5},
-    {"dusk_options.jpg", 800, 600, paintTiles, kPlum, 6},
-    {"dusk_game.jpg", 640, 480, paintWaves, kForest, 7},
-    {"dusk_graphics.jpg", 400, 300, paintLights, kLagoon, 8},
-    {"dusk_sound.jpg", 800, 600, paintSkyline, kSlate, 9},
-    {"dusk_lyrics.jpg", 800, 600, paintStaff, kForest, 10},
-    {"dusk_record.bmp", 400, 300, paintRays, kEmber, 11},
-    {"dusk_advanced.jpg", 640, 480, paintTiles, kSlate, 12},
-    {"dusk_themes.jpg", 800, 600, paintHills, kLagoon, 13},
-    {"dusk_top5.jpg", 800, 600, paintCurtain, kEmber, 14},
-    {"dusk_level.jpg", 800, 600, paintHills, kForest, 15},
-    {"dusk_name.jpg", 800, 600, paintLights, kPlum, 16},
-    {"dusk_round.jpg", 800, 600, paintRays, kPlum, 17},
-    {"dusk_party_score.jpg", 800, 600, paintWaves, kEvening, 18},
-    {"dusk_win.jpg", 1024, 768, paintCurtain, kPlum, 19},
-    {"dusk_party_options.gif", 400, 300, paintWaves, kPlum, 20},
-    {"dusk_players.jpg", 800, 600, paintTiles, kEmber, 21},
-    {"dusk_menu.jpg", 400, 300, paintLights, kEmber, 22},
-    {"dusk_jumpto.jpg", 640, 480, paintWaves, kSlate, 23},
-    {"dusk_stats.jpg", 800, 600, paintSkyline, kEvening, 24},
-    {"dusk_detail.jpg", 800, 600, paintSkyline, kLagoon, 25},
-    {"dusk_check.png", 200, 150, paintRays, kSlate, 26},
-    {"dusk_error.jpg", 400, 300, paintCurtain, kSlate, 27},
-    {"neon_grid.jpg", 800, 600, paintTiles, kUltra, 31},
-    {"neon_city.jpg", 1024, 768, paintSkyline, kMagenta, 32},
-    {"neon_lights.jpg", 800, 600, paintLights, kCyan, 33},
-    {"neon_stage.jpg", 800, 600, paintSpots, kUltra, 34},
-    {"neon_waves.jpg", 800, 600, paintWaves, kCyan, 35},
-    {"neon_rays.jpg", 800, 600, paintRays, kMagenta, 36},
-    {"neon_hills.jpg", 800, 600, paintHills, kUltra, 37},
-    {"neon_staff.jpg", 800, 600, paintStaff, kLime, 38},
-    {"neon_curtain.jpg", 640, 480, paintCurtain, kMagenta, 39},
-    {"neon_bars.gif", 400, 300, paintSkyline, kCyan, 40},
+const File Files[] = {
+    {"dusk_loading.jpg", 800, 600, paintRays, Evening, 1},
+    {"dusk_main.jpg", 1024, 768, paintHills, Evening, 2},
+    {"dusk_song.jpg", 800, 600, paintStaff, Plum, 3},
+    {"dusk_sing.jpg", 1024, 768, paintSpots, Plum, 4},
+    {"dusk_score.jpg", 800, 600, paintSpots, Ember, 5},
+    {"dusk_options.jpg", 800, 600, paintTiles, Plum, 6},
+    {"dusk_game.jpg", 640, 480, paintWaves, Forest, 7},
+    {"dusk_graphics.jpg", 400, 300, paintLights, Lagoon, 8},
+    {"dusk_sound.jpg", 800, 600, paintSkyline, Slate, 9},
+    {"dusk_lyrics.jpg", 800, 600, paintStaff, Forest, 10},
+    {"dusk_record.bmp", 400, 300, paintRays, Ember, 11},
+    {"dusk_advanced.jpg", 640, 480, paintTiles, Slate, 12},
+    {"dusk_themes.jpg", 800, 600, paintHills, Lagoon, 13},
+    {"dusk_top5.jpg", 800, 600, paintCurtain, Ember, 14},
+    {"dusk_level.jpg", 800, 600, paintHills, Forest, 15},
+    {"dusk_name.jpg", 800, 600, paintLights, Plum, 16},
+    {"dusk_round.jpg", 800, 600, paintRays, Plum, 17},
+    {"dusk_party_score.jpg", 800, 600, paintWaves, Evening, 18},
+    {"dusk_win.jpg", 1024, 768, paintCurtain, Plum, 19},
+    {"dusk_party_options.gif", 400, 300, paintWaves, Plum, 20},
+    {"dusk_players.jpg", 800, 600, paintTiles, Ember, 21},
+    {"dusk_menu.jpg", 400, 300, paintLights, Ember, 22},
+    {"dusk_jumpto.jpg", 640, 480, paintWaves, Slate, 23},
+    {"dusk_stats.jpg", 800, 600, paintSkyline, Evening, 24},
+    {"dusk_detail.jpg", 800, 600, paintSkyline, Lagoon, 25},
+    {"dusk_check.png", 200, 150, paintRays, Slate, 26},
+    {"dusk_error.jpg", 400, 300, paintCurtain, Slate, 27},
+    {"neon_grid.jpg", 800, 600, paintTiles, Ultra, 31},
+    {"neon_city.jpg", 1024, 768, paintSkyline, Magenta, 32},
+    {"neon_lights.jpg", 800, 600, paintLights, Cyan, 33},
+    {"neon_stage.jpg", 800, 600, paintSpots, Ultra, 34},
+    {"neon_waves.jpg", 800, 600, paintWaves, Cyan, 35},
+    {"neon_rays.jpg", 800, 600, paintRays, Magenta, 36},
+    {"neon_hills.jpg", 800, 600, paintHills, Ultra, 37},
+    {"neon_staff.jpg", 800, 600, paintStaff, Lime, 38},
+    {"neon_curtain.jpg", 640, 480, paintCurtain, Magenta, 39},
+    {"neon_bars.gif", 400, 300, paintSkyline, Cyan, 40},
 };
 
 using Group = std::vector<int>;  // places of dots in a picture, row by row
@@ -173,14 +173,14 @@ const std::vector<BackgroundKey>& backgroundKeys() {
 }
 
 void writeBackgrounds(const Output& output, const std::string& folder) {
-  for (const File& file : kFiles) {
+  for (const File& file : Files) {
     Canvas canvas(file.width, file.height, 800, 600);
     file.style(canvas, file.palette, file.seed);
     const std::string path = folder + file.name;
     if (path.ends_with(".gif")) {
       output.write(path, encodeGif(reduced(canvas.image())));
     } else {
-      output.writePicture(path, canvas.image(), path.ends_with(".jpg") ? kQuality : -1);
+      output.writePicture(path, canvas.image(), path.ends_with(".jpg") ? Quality : -1);
     }
   }
 }

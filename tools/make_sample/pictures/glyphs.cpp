@@ -15,7 +15,7 @@ Part dot(double x, double y, double radius) {
 Part box(double x, double y, double w, double h, double radius) {
   return {roundBox(QRectF(x, y, w, h), radius)};
 }
-Part without(Part part) {
+Part without(const Part& part) {
   return {part.shape, true};
 }
 

@@ -5,11 +5,11 @@ namespace sample {
 
 namespace {
 
-constexpr int kSize = 16;
+constexpr int Size = 16;
 
 struct Icon {
   const char* file;
-  const char* rows[kSize];
+  const char* rows[Size];
 };
 
 struct Ink {
@@ -17,14 +17,14 @@ struct Ink {
   QRgb colour;
 };
 
-constexpr Ink kInks[] = {
+constexpr Ink Inks[] = {
     {'k', 0xff000000}, {'d', 0xff404040}, {'g', 0xff808080}, {'s', 0xffc0c0c0}, {'w', 0xffffffff},
     {'y', 0xffffd75e}, {'o', 0xffe0a020}, {'n', 0xff8a5a10}, {'l', 0xfffff0b0}, {'b', 0xff2858b8},
     {'c', 0xff6c9cf0}, {'i', 0xff10306c}, {'r', 0xffd83030}, {'v', 0xff8c1414}, {'e', 0xff3ca03c},
     {'p', 0xffc87c40}, {'q', 0xff7c4818}, {'t', 0xffe8b078}, {'m', 0xffa040b8},
 };
 
-constexpr Icon kIcons[] = {
+constexpr Icon Icons[] = {
     {"open.png",
      {"................", "..........kkk...", ".........k...k.k", "..............kk", ".nnnn........kkk",
       "nyyyyn..........", "nylylynnnnnnn...", "nlylylylylyyn...", "nylylylylylyn...", "nlylynnnnnnnnnnn",
@@ -63,14 +63,14 @@ constexpr Icon kIcons[] = {
 };
 
 QImage iconImage(const Icon& icon) {
-  QImage image(kSize, kSize, QImage::Format_Indexed8);
+  QImage image(Size, Size, QImage::Format_Indexed8);
   image.setColorTable({0});
-  for (const Ink& ink : kInks) image.setColorTable(image.colorTable() + QList<QRgb>{ink.colour});
-  for (int y = 0; y < kSize; ++y) {
-    for (int x = 0; x < kSize; ++x) {
+  for (const Ink& ink : Inks) image.setColorTable(image.colorTable() + QList<QRgb>{ink.colour});
+  for (int y = 0; y < Size; ++y) {
+    for (int x = 0; x < Size; ++x) {
       unsigned index = 0;
-      for (unsigned i = 0; i < std::size(kInks); ++i) {
-        if (kInks[i].letter == icon.rows[y][x]) index = i + 1;
+      for (unsigned i = 0; i < std::size(Inks); ++i) {
+        if (Inks[i].letter == icon.rows[y][x]) index = i + 1;
       }
       image.setPixel(x, y, index);
     }
@@ -93,16 +93,16 @@ QImage programIcon() {
     return wire ? mix(ball, rgb(0x504868), 0.45) : ball;
   });
   canvas.fill(line({24.5, 26}, {38, 39.5}, 2.4), rgb(0xffc04c));
-  constexpr unsigned kSwatches[] = {0x47aff7, 0xf74747, 0x3fbf3f, 0xffdd00};
+  constexpr unsigned Swatches[] = {0x47aff7, 0xf74747, 0x3fbf3f, 0xffdd00};
   int place = 0;
-  for (const unsigned swatch : kSwatches) canvas.fill(disc({31.0 + 8 * place++, 54}, 3.2), rgb(swatch));
+  for (const unsigned swatch : Swatches) canvas.fill(disc({31.0 + 8 * place++, 54}, 3.2), rgb(swatch));
   return canvas.image();
 }
 
 }  // namespace
 
 void writeIcons(const Output& output) {
-  for (const Icon& icon : kIcons) output.writePicture(icon.file, iconImage(icon));
+  for (const Icon& icon : Icons) output.writePicture(icon.file, iconImage(icon));
   output.writePicture("app.png", programIcon());
 }
 

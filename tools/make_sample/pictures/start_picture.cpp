@@ -29,8 +29,8 @@ void paintBeams(Canvas& canvas) {
   struct Beam {
     double from, to, spread;
   };
-  constexpr Beam kBeams[] = {{90, 250, 90}, {300, 190, 70}, {520, 640, 80}, {720, 480, 100}};
-  for (const Beam& beam : kBeams) {
+  constexpr Beam Beams[] = {{90, 250, 90}, {300, 190, 70}, {520, 640, 80}, {720, 480, 100}};
+  for (const Beam& beam : Beams) {
     canvas.shade([&](double x, double y) {
       const double part = y / 480;
       const double away = std::abs(x - beam.from - (beam.to - beam.from) * part) / (6 + beam.spread * part);
@@ -61,12 +61,13 @@ void paintBoard(Canvas& canvas) {
   canvas.fill(roundBox(QRectF(330, 120, 380, 44), 14), rgb(0x22163f));
   canvas.fill(roundBox(QRectF(390, 136, 150, 12), 6), rgb(0xfff0dc));
   canvas.fill(star({358, 143}, 14), rgb(0xffd05c));
-  constexpr unsigned kButtons[] = {0x47aff7, 0x3fbf3f, 0xf76a6a, 0xffb030};
+  constexpr unsigned Buttons[] = {0x47aff7, 0x3fbf3f, 0xf76a6a, 0xffb030};
   for (int button = 0; button < 4; ++button) {
-    const QRectF box(356 + button % 2 * 172, 188 + button / 2 * 88, 156, 62);
+    const int row = button / 2;
+    const QRectF box(356 + button % 2 * 172, 188 + row * 88, 156, 62);
     canvas.fill(moved(roundBox(box, 16), 0, 3), rgb(0x0c0618, 0.5), 8);
     canvas.fill(roundBox(box, 16), [&](double, double y) {
-      return mix(rgb(kButtons[button]), rgb(0x241444), 0.1 + 0.45 * (y - box.top()) / box.height());
+      return mix(rgb(Buttons[button]), rgb(0x241444), 0.1 + 0.45 * (y - box.top()) / box.height());
     });
     canvas.fill(roundBox(QRectF(box.left() + 24, box.top() + 20, 84, 10), 5), rgb(0xffffff, 0.92));
     canvas.fill(roundBox(QRectF(box.left() + 24, box.top() + 38, 54, 7), 3), rgb(0xffffff, 0.5));
@@ -83,9 +84,9 @@ void paintBoard(Canvas& canvas) {
 }
 
 void paintSwatches(Canvas& canvas) {
-  constexpr unsigned kColours[] = {0x47aff7, 0xf74747, 0x3fbf3f, 0xe63fe6, 0xff9000, 0xe6e65f};
+  constexpr unsigned Colours[] = {0x47aff7, 0xf74747, 0x3fbf3f, 0xe63fe6, 0xff9000, 0xe6e65f};
   int place = 0;
-  for (const unsigned colour : kColours) {
+  for (const unsigned colour : Colours) {
     const QPointF centre(352 + 66 * place++, 424);
     canvas.fill(moved(disc(centre, 21), 0, 3), rgb(0x1c1030, 0.45), 8);
     canvas.fill(disc(centre, 21), rgb(0xfff8ec));
@@ -114,9 +115,9 @@ void paintNotes(Canvas& canvas) {
     double x, y, size;
     unsigned colour;
   };
-  constexpr Note kNotes[] = {{66, 250, 1.2, 0xfff0c8},  {112, 120, 0.9, 0xffd0e0}, {746, 150, 1.1, 0xffe8b0},
-                             {752, 320, 0.8, 0xffffff}, {300, 70, 0.8, 0xffe0f0},  {40, 400, 0.8, 0xffffff}};
-  for (const Note& note : kNotes) {
+  constexpr Note Notes[] = {{66, 250, 1.2, 0xfff0c8},  {112, 120, 0.9, 0xffd0e0}, {746, 150, 1.1, 0xffe8b0},
+                            {752, 320, 0.8, 0xffffff}, {300, 70, 0.8, 0xffe0f0},  {40, 400, 0.8, 0xffffff}};
+  for (const Note& note : Notes) {
     const auto at = [&](double dx, double dy) { return QPointF(note.x + dx * note.size, note.y + dy * note.size); };
     const Colour colour = rgb(note.colour, 0.9);
     canvas.fill(line(at(-4, 2), at(4, -2), 7 * note.size), colour);

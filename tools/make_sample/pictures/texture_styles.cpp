@@ -7,8 +7,8 @@ namespace sample {
 
 namespace {
 
-constexpr Colour kWhite = rgb(0xffffff);
-constexpr Colour kBlack = rgb(0x000000);
+constexpr Colour White = rgb(0xffffff);
+constexpr Colour Black = rgb(0x000000);
 
 Colour faded(Colour colour, double alpha) {
   colour.a = alpha;
@@ -20,7 +20,7 @@ QRectF inner(const Canvas& canvas, double margin) {
 }
 
 void dropShadow(Canvas& canvas, const Shape& shape) {
-  canvas.fill(moved(shape, 0, 2), faded(kBlack, 0.5), 7);
+  canvas.fill(moved(shape, 0, 2), faded(Black, 0.5), 7);
 }
 
 }  // namespace
@@ -29,14 +29,14 @@ void paintTitleBar(Canvas& canvas, const Look& look) {
   const double edge = canvas.height() - 8;
   canvas.shade([&](double, double y) {
     Colour colour = mix(look.buttonTop, look.buttonBottom, y / edge);
-    colour = mix(colour, kBlack, 0.35);
+    colour = mix(colour, Black, 0.35);
     return faded(colour, y < edge ? 0.92 : 0.5 * (1 - smooth(edge, canvas.height(), y)));
   });
   canvas.shade([&](double, double y) { return faded(look.buttonEdge, std::abs(y - edge) < 1.2 ? 0.9 : 0); });
 }
 
 void paintFootBar(Canvas& canvas, const Look& look) {
-  canvas.shade([&](double, double y) { return faded(mix(look.panel, kBlack, 0.3), 0.85 * smooth(0, 8, y)); });
+  canvas.shade([&](double, double y) { return faded(mix(look.panel, Black, 0.3), 0.85 * smooth(0, 8, y)); });
 }
 
 void paintPanel(Canvas& canvas, const Look& look) {
@@ -44,7 +44,7 @@ void paintPanel(Canvas& canvas, const Look& look) {
   dropShadow(canvas, roundBox(inner(canvas, 5), 16));
   canvas.cut(body);
   canvas.fill(body,
-              [&](double, double y) { return mix(mix(look.panel, kWhite, 0.1), look.panel, y / canvas.height()); });
+              [&](double, double y) { return mix(mix(look.panel, White, 0.1), look.panel, y / canvas.height()); });
   canvas.fill(outline(roundBox(inner(canvas, 5), 15), 1.6), look.panelEdge);
 }
 
@@ -55,7 +55,7 @@ void paintButton(Canvas& canvas, const Look& look) {
   canvas.fill(body, [&](double, double y) { return mix(look.buttonTop, look.buttonBottom, y / canvas.height()); });
   canvas.fill(outline(roundBox(inner(canvas, 5), radius - 1), 1.6), look.buttonEdge);
   const QRectF shine = inner(canvas, 8).adjusted(0, 0, 0, 16 - canvas.height() * 0.55);
-  canvas.fill(roundBox(shine, std::min(radius, shine.height() / 2)), faded(kWhite, 0.1), 2);
+  canvas.fill(roundBox(shine, std::min(radius, shine.height() / 2)), faded(White, 0.1), 2);
 }
 
 void paintSelect(Canvas& canvas, const Look& look) {
@@ -76,7 +76,7 @@ void paintField(Canvas& canvas, const Look& look) {
 }
 
 void paintRow(Canvas& canvas, const Look& look) {
-  canvas.fill(roundBox(inner(canvas, 1), 8), faded(mix(look.panel, kWhite, 0.08), 0.62));
+  canvas.fill(roundBox(inner(canvas, 1), 8), faded(mix(look.panel, White, 0.08), 0.62));
   canvas.fill(outline(roundBox(inner(canvas, 1.5), 8), 1), faded(look.panelEdge, 0.22));
 }
 
@@ -91,33 +91,33 @@ void paintLane(Canvas& canvas, const Look& look) {
   canvas.fill(roundBox(inner(canvas, 1), 10), faded(look.panel, 0.55));
   for (int string = 1; string <= 5; ++string) {
     const double y = canvas.height() * string / 6;
-    canvas.fill(line({10, y}, {canvas.width() - 10, y}, 0.7), faded(kWhite, 0.35));
+    canvas.fill(line({10, y}, {canvas.width() - 10, y}, 0.7), faded(White, 0.35));
   }
 }
 
 void paintPill(Canvas& canvas, const Look& look) {
   const Shape body = roundBox(inner(canvas, 3), canvas.height() / 2 - 3);
-  canvas.fill(moved(body, 0, 1), faded(kBlack, 0.4), 4);
+  canvas.fill(moved(body, 0, 1), faded(Black, 0.4), 4);
   canvas.fill(body, [&](double, double y) {
-    return mix(mix(look.buttonTop, kWhite, 0.25), look.buttonTop, y / canvas.height());
+    return mix(mix(look.buttonTop, White, 0.25), look.buttonTop, y / canvas.height());
   });
 }
 
 void paintTrack(Canvas& canvas, const Look& look) {
-  canvas.fill(roundBox(inner(canvas, 1), canvas.height() / 2 - 1), faded(mix(look.panel, kBlack, 0.5), 0.8));
+  canvas.fill(roundBox(inner(canvas, 1), canvas.height() / 2 - 1), faded(mix(look.panel, Black, 0.5), 0.8));
   canvas.fill(outline(roundBox(inner(canvas, 1.5), canvas.height() / 2 - 1.5), 1.2), faded(look.panelEdge, 0.5));
 }
 
 void paintLevel(Canvas& canvas, const Look& look) {
   canvas.shade([&](double x, double y) {
-    const Colour colour = mix(mix(look.buttonTop, kWhite, 0.2), look.buttonBottom, y / canvas.height());
-    return std::fmod(x + y, 24) < 12 ? colour : mix(colour, kWhite, 0.08);
+    const Colour colour = mix(mix(look.buttonTop, White, 0.2), look.buttonBottom, y / canvas.height());
+    return std::fmod(x + y, 24) < 12 ? colour : mix(colour, White, 0.08);
   });
 }
 
 void paintCap(Canvas& canvas, const Look& look) {
   canvas.fill(disc({0, canvas.height() / 2}, canvas.height() / 2), [&](double, double y) {
-    return mix(mix(look.buttonTop, kWhite, 0.2), look.buttonBottom, y / canvas.height());
+    return mix(mix(look.buttonTop, White, 0.2), look.buttonBottom, y / canvas.height());
   });
 }
 
@@ -128,10 +128,10 @@ void paintRecord(Canvas& canvas, const Look& look) {
     const double away = std::hypot(x - centre.x(), y - centre.y());
     const double angle = std::atan2(y - centre.y(), x - centre.x());
     const double gleam = std::pow(std::abs(std::cos(angle - 0.7)), 12) * 0.28;
-    return mix(rgb(0x17131f), kWhite, gleam + (std::fmod(away, 5) < 2 ? 0.06 : 0));
+    return mix(rgb(0x17131f), White, gleam + (std::fmod(away, 5) < 2 ? 0.06 : 0));
   });
   canvas.fill(disc(centre, radius * 0.36), look.buttonTop);
-  canvas.fill(outline(disc(centre, radius * 0.3), 2), faded(kWhite, 0.4));
+  canvas.fill(outline(disc(centre, radius * 0.3), 2), faded(White, 0.4));
   canvas.cut(disc(centre, radius * 0.07));
 }
 
@@ -145,7 +145,7 @@ void paintCorner(Canvas& canvas, const Look& look) {
 void paintCover(Canvas& canvas, const Look& look) {
   canvas.shade([&](double x, double y) {
     const double wave = cloud(x / 40, y / 40, 77);
-    return mix(mix(look.photoDark, look.photoLight, y / canvas.height()), kWhite, 0.25 * wave);
+    return mix(mix(look.photoDark, look.photoLight, y / canvas.height()), White, 0.25 * wave);
   });
   const QPointF centre(canvas.width() * 0.5, canvas.height() * 0.44);
   canvas.fill(disc(centre, canvas.width() * 0.26), faded(rgb(0xfff0c8), 0.95), 2);
@@ -170,12 +170,12 @@ void paintPhoto(Canvas& canvas, const Look& look) {
   for (int lamp = 0; lamp < 16; ++lamp) {
     const QPointF centre = grain.point(QRectF(0, 0, 512, 300));
     const double radius = grain.next(14, 52);
-    canvas.fill(disc(centre, radius), faded(mix(look.photoLight, kWhite, grain.next()), 0.3), 12);
+    canvas.fill(disc(centre, radius), faded(mix(look.photoLight, White, grain.next()), 0.3), 12);
   }
   for (int head = 0; head < 26; ++head) {
     const double x = grain.next(0, 512);
     const double y = 440 + grain.next(-40, 40);
-    const Colour shade = faded(mix(look.photoDark, kBlack, 0.55), 0.85);
+    const Colour shade = faded(mix(look.photoDark, Black, 0.55), 0.85);
     canvas.fill(disc({x, y}, 24), shade, 5);
     canvas.fill(roundBox(QRectF(x - 36, y + 20, 72, 150), 30), shade, 5);
     if (head % 3 == 0) canvas.fill(line({x + 26, y + 40}, {x + 34, y - 50}, 8), shade, 4);

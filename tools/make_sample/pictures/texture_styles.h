@@ -9,7 +9,7 @@ struct Look {
   Colour panel, panelEdge;
   Colour buttonTop, buttonBottom, buttonEdge;
   Colour photoDark, photoLight;
-  double roundness;  // of a button's corners, as a part of half its height
+  double roundness = 0;  // of a button's corners, as a part of half its height
 };
 
 using TextureStyle = void (*)(Canvas& canvas, const Look& look);

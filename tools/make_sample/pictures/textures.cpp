@@ -9,9 +9,9 @@ namespace sample {
 
 namespace {
 
-constexpr int kGlyphSize = 64;
-constexpr int kPhotoQuality = 92;
-constexpr const char* kEqualizerFile = "equalizer.gif";
+constexpr int GlyphSize = 64;
+constexpr int PhotoQuality = 92;
+constexpr const char* EqualizerFile = "equalizer.gif";
 
 struct Texture {
   const char* key;
@@ -20,7 +20,7 @@ struct Texture {
   TextureStyle style;
 };
 
-constexpr Texture kTextures[] = {
+constexpr Texture Textures[] = {
     {"TitleBar", "title.png", 400, 72, paintTitleBar},
     {"FootBar", "foot.png", 200, 44, paintFootBar},
     {"Panel", "panel.png", 320, 240, paintPanel},
@@ -50,20 +50,20 @@ unsigned char towards(int from, int to, int step, int steps) {
 
 /// Columns of blocks on a transparent ground, in a ramp of the look's button colours.
 IndexedPicture equalizer(const Look& look) {
-  constexpr int kColumns = 20, kBlocks = 10, kBlockWidth = 16, kBlockHeight = 12;
-  const auto byte = [](double channel) { return static_cast<int>(channel * 255 + 0.5); };
-  IndexedPicture picture{kColumns * kBlockWidth, kBlocks * kBlockHeight, {qRgb(0, 0, 0)}, {}, 0};
-  for (int block = 1; block <= kBlocks; ++block) {
-    picture.colours.push_back(qRgb(towards(byte(look.buttonEdge.r), byte(look.buttonBottom.r), block, kBlocks),
-                                   towards(byte(look.buttonEdge.g), byte(look.buttonBottom.g), block, kBlocks),
-                                   towards(byte(look.buttonEdge.b), byte(look.buttonBottom.b), block, kBlocks)));
+  constexpr int Columns = 20, Blocks = 10, BlockWidth = 16, BlockHeight = 12;
+  const auto byte = [](double channel) { return static_cast<int>(std::lround(channel * 255)); };
+  IndexedPicture picture{Columns * BlockWidth, Blocks * BlockHeight, {qRgb(0, 0, 0)}, {}, 0};
+  for (int block = 1; block <= Blocks; ++block) {
+    picture.colours.push_back(qRgb(towards(byte(look.buttonEdge.r), byte(look.buttonBottom.r), block, Blocks),
+                                   towards(byte(look.buttonEdge.g), byte(look.buttonBottom.g), block, Blocks),
+                                   towards(byte(look.buttonEdge.b), byte(look.buttonBottom.b), block, Blocks)));
   }
-  constexpr int kHeights[kColumns] = {3, 5, 8, 6, 9, 10, 7, 4, 6, 8, 9, 5, 3, 4, 7, 9, 8, 6, 4, 2};
+  constexpr int Heights[Columns] = {3, 5, 8, 6, 9, 10, 7, 4, 6, 8, 9, 5, 3, 4, 7, 9, 8, 6, 4, 2};
   for (int y = 0; y < picture.height; ++y) {
     for (int x = 0; x < picture.width; ++x) {
-      const int block = y / kBlockHeight;
-      const bool gap = x % kBlockWidth >= 13 || y % kBlockHeight >= 9;
-      const bool lit = !gap && kBlocks - block <= kHeights[x / kBlockWidth];
+      const int block = y / BlockHeight;
+      const bool gap = x % BlockWidth >= 13 || y % BlockHeight >= 9;
+      const bool lit = !gap && Blocks - block <= Heights[x / BlockWidth];
       picture.dots.push_back(static_cast<unsigned char>(lit ? block + 1 : 0));
     }
   }
@@ -72,30 +72,30 @@ IndexedPicture equalizer(const Look& look) {
 
 }  // namespace
 
-const Look kDuskLook = {rgb(0x1e1438, 0.8), rgb(0xe8c8f0, 0.5), rgb(0x6848b8), rgb(0x40247c),
-                        rgb(0xb898f0),      rgb(0x2a1650),      rgb(0xe07a70), 0.55};
-const Look kNeonLook = {rgb(0x080a1e, 0.84), rgb(0x50e0ff, 0.8), rgb(0x1c4a98), rgb(0x0c2050),
-                        rgb(0x48c0ff),       rgb(0x0a0c38),      rgb(0x28a8e0), 0.2};
+const Look DuskLook = {rgb(0x1e1438, 0.8), rgb(0xe8c8f0, 0.5), rgb(0x6848b8), rgb(0x40247c),
+                       rgb(0xb898f0),      rgb(0x2a1650),      rgb(0xe07a70), 0.55};
+const Look NeonLook = {rgb(0x080a1e, 0.84), rgb(0x50e0ff, 0.8), rgb(0x1c4a98), rgb(0x0c2050),
+                       rgb(0x48c0ff),       rgb(0x0a0c38),      rgb(0x28a8e0), 0.2};
 
 std::vector<TextureKey> textureKeys() {
   std::vector<TextureKey> keys;
-  for (const Texture& texture : kTextures) keys.push_back({texture.key, texture.file});
-  keys.push_back({"Equalizer", kEqualizerFile});
+  for (const Texture& texture : Textures) keys.push_back({texture.key, texture.file});
+  keys.push_back({"Equalizer", EqualizerFile});
   return keys;
 }
 
 void writeTextures(const Output& output, const std::string& folder, const std::string& prefix, const Look& look) {
-  for (const Texture& texture : kTextures) {
+  for (const Texture& texture : Textures) {
     Canvas canvas(texture.width, texture.height);
     texture.style(canvas, look);
     output.writePicture(folder + prefix + texture.file, canvas.image(),
-                        texture.style == paintPhoto ? kPhotoQuality : -1);
+                        texture.style == paintPhoto ? PhotoQuality : -1);
   }
-  output.write(folder + prefix + kEqualizerFile, encodeGif(equalizer(look)));
+  output.write(folder + prefix + EqualizerFile, encodeGif(equalizer(look)));
 }
 
 void writeGlyphs(const Output& output, const std::string& folder) {
-  for (const Glyph& glyph : glyphs()) output.writePicture(folder + glyph.file, drawGlyph(glyph, kGlyphSize, rgb(0)));
+  for (const Glyph& glyph : glyphs()) output.writePicture(folder + glyph.file, drawGlyph(glyph, GlyphSize, rgb(0)));
 }
 
 }  // namespace sample

@@ -14,8 +14,8 @@ struct TextureKey {
   std::string file;
 };
 
-extern const Look kDuskLook;
-extern const Look kNeonLook;
+extern const Look DuskLook;
+extern const Look NeonLook;
 
 std::vector<TextureKey> textureKeys();
 

@@ -10,13 +10,13 @@ ButtonRow bigButton(const std::string& name, const Place& at, const std::string&
   return {name,
           "ButtonBig",
           at,
-          kHue,
+          HueLook,
           {{"1", 30, 10, 1, 9, 0, "White", key}, {"3", 30, at.h - 44, 0, 7, 0, "Body", key + "_HELP"}},
           numbered("SelectH=", selectedHeight) + (more.empty() ? "" : "|" + more)};
 }
 
 ButtonRow smallButton(const std::string& name, const Place& at, const std::string& key, const std::string& more = {}) {
-  return {name, "ButtonSmall", at, kHue, {caption(at, key, 0, 9)}, more};
+  return {name, "ButtonSmall", at, HueLook, {caption(at, key, 0, 9)}, more};
 }
 
 }  // namespace
@@ -43,7 +43,7 @@ Screen loadingScreen() {
 Screen mainScreen() {
   return {
       .stem = "Main",
-      .chrome = {Side::left, "MAIN", "MAIN_HELP", "GlyphMic"},
+      .chrome = {Side::Left, "MAIN", "MAIN_HELP", "GlyphMic"},
       .statics =
           {
               {"StaticEqualizer",
@@ -83,7 +83,7 @@ Screen levelScreen() {
   };
   Screen screen{
       .stem = "Level",
-      .chrome = {Side::middle, "LEVEL", "LEVEL_HELP", "GlyphChart", "Teal"},
+      .chrome = {Side::Middle, "LEVEL", "LEVEL_HELP", "GlyphChart", "Teal"},
       .statics =
           {
               {"StaticRow", "RowBright", {40, 470, 720, 50}, "Teal", "Colorized"},
@@ -121,7 +121,7 @@ Screen nameScreen() {
   };
   return {
       .stem = "Name",
-      .chrome = {Side::right, "NAME", "NAME_HELP", "GlyphPeople", "Plum"},
+      .chrome = {Side::Right, "NAME", "NAME_HELP", "GlyphPeople", "Plum"},
       .statics =
           {
               {"StaticBoard", "Panel", {70, 96, 660, 340}, "White"},
@@ -146,7 +146,7 @@ Screen nameScreen() {
 Screen top5Screen() {
   Screen screen{
       .stem = "Top5",
-      .chrome = {Side::middle, "TOP5", "TOP5_HELP", "GlyphCup", "Gold"},
+      .chrome = {Side::Middle, "TOP5", "TOP5_HELP", "GlyphCup", "Gold"},
       .statics = {{"StaticPanel", "Panel", {50, 84, 700, 420}, "White"}},
       .texts =
           {
@@ -157,7 +157,7 @@ Screen top5Screen() {
       .buttons = {smallButton("ButtonAgain", {200, 506, 190, 46}, "AGAIN"),
                   smallButton("ButtonContinue", {410, 506, 190, 46}, "CONTINUE")},
   };
-  constexpr const char* kScores[] = {"9 840", "9 310", "8 770", "7 950", "6 420"};
+  constexpr const char* Scores[] = {"9 840", "9 310", "8 770", "7 950", "6 420"};
   for (int place = 1; place <= 5; ++place) {
     const std::string digit = std::to_string(place);
     const int y = 150 + (place - 1) * 66;
@@ -169,7 +169,7 @@ Screen top5Screen() {
                               first ? "Colorized" : "Transparent"});
     screen.texts.push_back({"TextNumber" + digit, 130, middleOf(58, 1, 11) + y, 1, 11, 1, "Gold", digit});
     screen.texts.push_back({"TextSinger" + digit, 190, middleOf(58, 0, 11) + y, 0, 11, 0, "White", "SINGER_" + digit});
-    screen.texts.push_back({"TextScore" + digit, 700, middleOf(58, 0, 11) + y, 0, 11, 2, "Body", kScores[place - 1]});
+    screen.texts.push_back({"TextScore" + digit, 700, middleOf(58, 0, 11) + y, 0, 11, 2, "Body", Scores[place - 1]});
   }
   return screen;
 }
@@ -177,7 +177,7 @@ Screen top5Screen() {
 Screen statMainScreen() {
   return {
       .stem = "StatMain",
-      .chrome = {Side::left, "STAT", "STAT_HELP", "GlyphChart", "Rose"},
+      .chrome = {Side::Left, "STAT", "STAT_HELP", "GlyphChart", "Rose"},
       .statics =
           {
               {"StaticPanel", "PanelTall", {40, 96, 330, 440}, "White"},
@@ -204,7 +204,7 @@ Screen statMainScreen() {
 Screen statDetailScreen() {
   Screen screen{
       .stem = "StatDetail",
-      .chrome = {Side::right, "STAT_DETAIL", "STAT_HELP", "GlyphList", "Teal"},
+      .chrome = {Side::Right, "STAT_DETAIL", "STAT_HELP", "GlyphList", "Teal"},
       .statics = {{"StaticChart", "Equalizer", {560, 320, 200, 160}, "White"},
                   {"StaticPanel", "Panel", {536, 92, 236, 210}, "White"}},
       .texts =

@@ -36,7 +36,7 @@ Screen pageScreen(const Page& page) {
     screen.statics.push_back({"StaticRow" + digit, "Row", {x, y, page.first.w, page.first.h}, "White"});
     screen.texts.push_back({"TextLabel" + digit, x + 16, textTop, 0, size, 0, "Body", choice.label});
     screen.texts.push_back({"TextValue" + digit, frame.x + frame.w / 2, textTop, 0, size, 1, "White", choice.value});
-    screen.buttons.push_back({"Select" + digit, "Select", frame, kFrame, {}, "SkipX=8|TColor=White|TDColor=Muted"});
+    screen.buttons.push_back({"Select" + digit, "Select", frame, FrameLook, {}, "SkipX=8|TColor=White|TDColor=Muted"});
     ++number;
   }
   Place place = page.save;
@@ -44,7 +44,7 @@ Screen pageScreen(const Page& page) {
     screen.buttons.push_back({word == std::string("SAVE") ? "ButtonSave" : "ButtonExit",
                               "ButtonSmall",
                               place,
-                              kHue,
+                              HueLook,
                               {caption(place, word, 0, 9)},
                               numbered("SelectH=", place.h + 4)});
     place.x += place.w + 14;
@@ -59,20 +59,20 @@ Screen optionsScreen() {
     const char* name;
     const char* key;
   };
-  constexpr Entry kEntries[] = {{"ButtonAdvanced", "OPT_ADVANCED"}, {"ButtonGame", "OPT_GAME"},
-                                {"ButtonGraphics", "OPT_GRAPHICS"}, {"ButtonLyrics", "OPT_LYRICS"},
-                                {"ButtonRecord", "OPT_RECORD"},     {"ButtonSound", "OPT_SOUND"},
-                                {"ButtonThemes", "OPT_THEMES"},     {"ButtonZExit", "BACK"}};
+  constexpr Entry Entries[] = {{"ButtonAdvanced", "OPT_ADVANCED"}, {"ButtonGame", "OPT_GAME"},
+                               {"ButtonGraphics", "OPT_GRAPHICS"}, {"ButtonLyrics", "OPT_LYRICS"},
+                               {"ButtonRecord", "OPT_RECORD"},     {"ButtonSound", "OPT_SOUND"},
+                               {"ButtonThemes", "OPT_THEMES"},     {"ButtonZExit", "BACK"}};
   Screen screen{
       .stem = "Options",
-      .chrome = {Side::middle, "OPTIONS", "OPTIONS_HELP", "GlyphGear", "Plum"},
+      .chrome = {Side::Middle, "OPTIONS", "OPTIONS_HELP", "GlyphGear", "Plum"},
       .statics = {{"StaticPanel", "Panel", {60, 88, 680, 456}, "White"}},
       .texts = {{"TextDescription", 400, 500, 0, 9, 1, "Gold", "OPTIONS_CHOOSE"}},
   };
   int number = 0;
-  for (const Entry& entry : kEntries) {
+  for (const Entry& entry : Entries) {
     const Place at{92 + number % 2 * 316, 110 + number / 2 * 96, 300, 82};
-    screen.buttons.push_back({entry.name, "Button", at, kHue, {caption(at, entry.key, 1, 8)}, "SelectH=86|Fade=0"});
+    screen.buttons.push_back({entry.name, "Button", at, HueLook, {caption(at, entry.key, 1, 8)}, "SelectH=86|Fade=0"});
     ++number;
   }
   return screen;
@@ -81,7 +81,7 @@ Screen optionsScreen() {
 std::vector<Screen> optionPages() {
   const Page pages[] = {
       {"OptionsGame",
-       {Side::left, "OPT_GAME", "PAGE_HELP", "GlyphPlay", "Good"},
+       {Side::Left, "OPT_GAME", "PAGE_HELP", "GlyphPlay", "Good"},
        {60, 96, 680, 52},
        320,
        62,
@@ -96,7 +96,7 @@ std::vector<Screen> optionPages() {
        {},
        {}},
       {"OptionsGraphics",
-       {Side::right, "OPT_GRAPHICS", "PAGE_HELP", "GlyphScreen", "Teal"},
+       {Side::Right, "OPT_GRAPHICS", "PAGE_HELP", "GlyphScreen", "Teal"},
        {40, 100, 450, 58},
        190,
        72,
@@ -112,7 +112,7 @@ std::vector<Screen> optionPages() {
         {"StaticPicture3", "GlyphScreen", {696, 290, 48, 48}, "Teal", "Font Black"}},
        {{"TextPreview", 536, 296, 0, 9, 0, "Muted", "GRAPH_PREVIEW"}}},
       {"OptionsSound",
-       {Side::left, "OPT_SOUND", "PAGE_HELP", "GlyphSpeaker", "Accent"},
+       {Side::Left, "OPT_SOUND", "PAGE_HELP", "GlyphSpeaker", "Accent"},
        {30, 300, 362, 50},
        160,
        60,
@@ -129,7 +129,7 @@ std::vector<Screen> optionPages() {
         {"StaticMeter3", "GlyphSpeaker", {590, 120, 130, 130}, "ColorLight", "Font Black"}},
        {}},
       {"OptionsLyrics",
-       {Side::middle, "OPT_LYRICS", "PAGE_HELP", "GlyphNote", "Good"},
+       {Side::Middle, "OPT_LYRICS", "PAGE_HELP", "GlyphNote", "Good"},
        {120, 250, 560, 56},
        230,
        68,
@@ -141,7 +141,7 @@ std::vector<Screen> optionPages() {
        {{"TextSample1", 430, 96, 1, 12, 1, "Title", "LYRICS_NOW"},
         {"TextSample2", 430, 168, 0, 11, 1, "Muted", "LYRICS_NEXT"}}},
       {"OptionsThemes",
-       {Side::left, "OPT_THEMES", "PAGE_HELP", "GlyphPalette", "Teal"},
+       {Side::Left, "OPT_THEMES", "PAGE_HELP", "GlyphPalette", "Teal"},
        {30, 420, 362, 50},
        130,
        60,
@@ -159,7 +159,7 @@ std::vector<Screen> optionPages() {
         {"StaticSwatch9", "Pill", {480, 272, 120, 40}, "P4Light", "Colorized"}},
        {{"TextAbout", 400, 340 + middleOf(56, 0, 9), 0, 9, 1, "Gold", "THEMES_ABOUT"}}},
       {"OptionsRecord",
-       {Side::right, "OPT_RECORD", "PAGE_HELP", "GlyphMic", "Rose"},
+       {Side::Right, "OPT_RECORD", "PAGE_HELP", "GlyphMic", "Rose"},
        {300, 100, 470, 52},
        200,
        64,
@@ -177,7 +177,7 @@ std::vector<Screen> optionPages() {
         {"StaticMeter", "Equalizer", {330, 370, 400, 100}, "White"}},
        {{"TextInput", 155, 420, 0, 9, 1, "Body", "RECORD_LEVEL"}}},
       {"OptionsAdvanced",
-       {Side::middle, "OPT_ADVANCED", "PAGE_HELP", "GlyphTools", "Bad"},
+       {Side::Middle, "OPT_ADVANCED", "PAGE_HELP", "GlyphTools", "Bad"},
        {20, 110, 372, 56},
        180,
        74,

@@ -13,13 +13,13 @@ std::string digit(int number) {
 }
 
 ButtonRow smallButton(const std::string& name, const Place& at, const std::string& key) {
-  return {name, "ButtonSmall", at, kHue, {caption(at, key, 0, 9)}, numbered("SelectH=", at.h + 4)};
+  return {name, "ButtonSmall", at, HueLook, {caption(at, key, 0, 9)}, numbered("SelectH=", at.h + 4)};
 }
 
 Screen newRoundScreen() {
   Screen screen{
       .stem = "PartyNewRound",
-      .chrome = {Side::left, "ROUND", "PARTY_HELP", "GlyphPlay", "Rose"},
+      .chrome = {Side::Left, "ROUND", "PARTY_HELP", "GlyphPlay", "Rose"},
       .statics = {{"StaticRound", "PanelWide", {250, 84, 300, 90}, "White"},
                   {"StaticNext", "Row", {240, 434, 320, 62}, "White"},
                   {"StaticVersus", "GlyphMic", {340, 230, 120, 120}, "Gold", "Font Black"}},
@@ -47,16 +47,16 @@ Screen newRoundScreen() {
 Screen scoreTableScreen() {
   Screen screen{
       .stem = "PartyScore",
-      .chrome = {Side::middle, "PARTY_SCORE", "PARTY_HELP", "GlyphCup", "Teal"},
+      .chrome = {Side::Middle, "PARTY_SCORE", "PARTY_HELP", "GlyphCup", "Teal"},
       .statics = {{"StaticLead", "Row", {60, 462, 680, 42}, "White"}},
       .texts = {{"TextWinner", 400, 462 + middleOf(42, 1, 8), 1, 8, 1, "Gold", "PARTY_LEADS"}},
       .buttons = {smallButton("ButtonDetails", {190, 508, 200, 46}, "STAT_DETAIL"),
                   smallButton("ButtonNext", {410, 508, 200, 46}, "CONTINUE")},
   };
-  constexpr int kPoints[] = {11, 9, 6};
+  constexpr int Points[] = {11, 9, 6};
   for (int team = 1; team <= 3; ++team) {
     const int y = 92 + (team - 1) * 124;
-    const int points = kPoints[team - 1];
+    const int points = Points[team - 1];
     screen.statics.push_back({numbered("StaticTeam", team), "PanelWide", {60, y, 680, 116}, "White"});
     screen.statics.push_back({numbered("StaticTeam", team) + "Bar1", "Track", {250, y + 66, 380, 28}, "White"});
     screen.statics.push_back({numbered("StaticTeam", team) + "Bar2",
@@ -79,7 +79,7 @@ Screen scoreTableScreen() {
 Screen winScreen() {
   Screen screen{
       .stem = "PartyWin",
-      .chrome = {Side::right, "PARTY_WIN", "PARTY_HELP", "GlyphCrown", "Gold"},
+      .chrome = {Side::Right, "PARTY_WIN", "PARTY_HELP", "GlyphCrown", "Gold"},
       .statics = {{"StaticCrown", "GlyphCrown", {335, 96, 130, 130}, "Gold", "Font Black"}},
       .texts = {{"TextCongratulation", 400, 86, 0, 11, 1, "Title", "PARTY_CHEER"}},
       .buttons = {smallButton("ButtonAgain", {30, 96, 190, 50}, "AGAIN"),
@@ -88,8 +88,8 @@ Screen winScreen() {
   struct Step {
     int team, x, top;
   };
-  constexpr Step kSteps[] = {{1, 300, 240}, {2, 90, 320}, {3, 510, 370}};
-  for (const Step& step : kSteps) {
+  constexpr Step Steps[] = {{1, 300, 240}, {2, 90, 320}, {3, 510, 370}};
+  for (const Step& step : Steps) {
     const int height = 540 - step.top;
     screen.statics.push_back(
         {numbered("StaticStep", step.team), "PanelTall", {step.x, step.top, 200, height}, "White"});
@@ -109,7 +109,7 @@ Screen winScreen() {
 Screen optionsOfPartyScreen() {
   Screen screen{
       .stem = "PartyOptions",
-      .chrome = {Side::left, "PARTY_OPTIONS", "PARTY_HELP", "GlyphGear", "Rose"},
+      .chrome = {Side::Left, "PARTY_OPTIONS", "PARTY_HELP", "GlyphGear", "Rose"},
       .statics = {{"StaticPanel", "Panel", {120, 90, 560, 410}, "White"}},
       .texts = {{"TextAbout", 400, 450, 0, 9, 1, "Gold", "PARTY_ABOUT"}},
       .buttons = {smallButton("ButtonExit", {410, 506, 190, 46}, "BACK"),
@@ -127,7 +127,7 @@ Screen optionsOfPartyScreen() {
     screen.texts.push_back({numbered("TextLabel", row), 150, y + middleOf(50, 0, 10), 0, 10, 0, "Body", label});
     screen.texts.push_back({numbered("TextValue", row), 525, y + middleOf(50, 0, 10), 0, 10, 1, "White", value});
     screen.statics.push_back({numbered("StaticRow", row), "Row", {136, y - 2, 528, 54}, "White"});
-    screen.buttons.push_back({numbered("Select", row), "Select", {390, y, 270, 50}, kFrame});
+    screen.buttons.push_back({numbered("Select", row), "Select", {390, y, 270, 50}, FrameLook});
   }
   return screen;
 }
@@ -135,7 +135,7 @@ Screen optionsOfPartyScreen() {
 Screen playersScreen() {
   Screen screen{
       .stem = "PartyPlayer",
-      .chrome = {Side::right, "PARTY_PLAYERS", "PARTY_HELP", "GlyphPeople", "Accent"},
+      .chrome = {Side::Right, "PARTY_PLAYERS", "PARTY_HELP", "GlyphPeople", "Accent"},
       .texts = {{"TextMembers", 400, 76, 0, 9, 1, "Body", "PARTY_WHO"}},
       .buttons = {smallButton("ButtonZNext", {300, 504, 200, 48}, "CONTINUE")},
   };

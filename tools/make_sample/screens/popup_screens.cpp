@@ -20,8 +20,8 @@ Screen checkPopupScreen() {
           },
       .buttons =
           {
-              {"Button1", "Button", yes, kHue, {caption(yes, "YES")}, "SelectH=60"},
-              {"Button2", "Button", no, kHue, {caption(no, "NO")}, "SelectH=60"},
+              {"Button1", "Button", yes, HueLook, {caption(yes, "YES")}, "SelectH=60"},
+              {"Button2", "Button", no, HueLook, {caption(no, "NO")}, "SelectH=60"},
           },
   };
 }
@@ -45,8 +45,8 @@ Screen errorPopupScreen() {
           },
       .buttons =
           {
-              {"Button1", "Button", okay, kHue, {caption(okay, "OKAY")}, "SelectH=60"},
-              {"Button2Sign", "GlyphQuestion", {620, 372, 54, 54}, kInk, {}, "Reflection=0"},
+              {"Button1", "Button", okay, HueLook, {caption(okay, "OKAY")}, "SelectH=60"},
+              {"Button2Sign", "GlyphQuestion", {620, 372, 54, 54}, InkLook, {}, "Reflection=0"},
           },
   };
 }

@@ -54,11 +54,11 @@ struct OtherRow {
   std::string lines;
 };
 
-enum class Side { none, left, middle, right };
+enum class Side { None, Left, Middle, Right };
 
 /// The bar at the top with title and sign, and the line of help at the bottom.
 struct Chrome {
-  Side side = Side::none;
+  Side side = Side::None;
   std::string title = {};
   std::string help = {};
   std::string glyph = {};
@@ -76,9 +76,9 @@ struct Screen {
   std::string backgroundMore = {};  // of its background
 };
 
-inline const ButtonLook kHue = {"Colorized", "Accent", "1", "ColorDark", "0.7"};
-inline const ButtonLook kInk = {"Font Black", "Accent", "1", "White", "0.6"};
-inline const ButtonLook kFrame = {"Colorized", "Accent", "1", "ColorLight", "0.7"};
+inline const ButtonLook HueLook = {"Colorized", "Accent", "1", "ColorDark", "0.7"};
+inline const ButtonLook InkLook = {"Font Black", "Accent", "1", "White", "0.6"};
+inline const ButtonLook FrameLook = {"Colorized", "Accent", "1", "ColorLight", "0.7"};
 
 /// The head with the number behind it, such as "Team2".
 std::string numbered(const std::string& head, int number);

@@ -11,7 +11,7 @@ struct Seat {
   int level;  // of a hundred
 };
 
-constexpr Seat kSeats[] = {
+constexpr Seat Seats[] = {
     {1, 1, 150, 500, 84}, {2, 1, 30, 360, 84},  {3, 2, 410, 360, 71},
     {4, 1, 20, 244, 84},  {5, 2, 278, 244, 71}, {6, 3, 536, 244, 55},
 };
@@ -26,7 +26,7 @@ struct ScoreLine {
   int share;  // of a hundred of the level
 };
 
-constexpr ScoreLine kLines[] = {
+constexpr ScoreLine Lines[] = {
     {"StaticBoxDark", "TextNotes", "TextNotesScore", "SCORE_NOTES", "Dark", 222, 70},
     {"StaticBoxLight", "TextLineBonus", "TextLineBonusScore", "SCORE_LINES", "Light", 262, 10},
     {"StaticBoxLightest", "TextGoldenNotes", "TextGoldenNotesScore", "SCORE_GOLD", "Lightest", 302, 20},
@@ -44,7 +44,7 @@ void addSeat(Screen& screen, const Seat& seat) {
   screen.statics.push_back(
       {person + "Static2Photo", "Photo", {left, 94, right - left, 84}, colour + "Dark", "Colorized"});
   screen.texts.push_back({person + "Text1", middle, 178, 1, 9, 1, colour + "Light", numbered("PLAYER_", seat.player)});
-  for (const ScoreLine& line : kLines) {
+  for (const ScoreLine& line : Lines) {
     const int textTop = line.top + middleOf(36, 0, 8);
     const int points = seat.level * line.share;
     screen.statics.push_back(
@@ -70,7 +70,7 @@ Screen scoreScreen() {
   const Place next{410, 504, 190, 46};
   Screen screen{
       .stem = "Score",
-      .chrome = {Side::left, "SCORE", "SCORE_HELP", "GlyphCrown", "Gold"},
+      .chrome = {Side::Left, "SCORE", "SCORE_HELP", "GlyphCrown", "Gold"},
       .statics =
           {
               {"StaticJewel1", "GlyphStar", {640, 12, 40, 40}, "Gold", "Font Black"},
@@ -80,11 +80,11 @@ Screen scoreScreen() {
       .texts = {{"TextSong", 624, middleOf(64, 0, 9), 0, 9, 2, "White", "SONG_TITLE_3"}},
       .buttons =
           {
-              {"ButtonAgain", "ButtonSmall", again, kHue, {caption(again, "AGAIN", 0, 9)}, "SelectH=48"},
-              {"ButtonContinue", "ButtonSmall", next, kHue, {caption(next, "CONTINUE", 0, 9)}, "SelectH=48"},
+              {"ButtonAgain", "ButtonSmall", again, HueLook, {caption(again, "AGAIN", 0, 9)}, "SelectH=48"},
+              {"ButtonContinue", "ButtonSmall", next, HueLook, {caption(next, "CONTINUE", 0, 9)}, "SelectH=48"},
           },
   };
-  for (const Seat& seat : kSeats) addSeat(screen, seat);
+  for (const Seat& seat : Seats) addSeat(screen, seat);
   return screen;
 }
 

@@ -12,7 +12,7 @@ struct Voice {
   int top, height;
 };
 
-constexpr Voice kVoices[] = {
+constexpr Voice Voices[] = {
     {"P1", "P1SingBar", 1, 190, 220},   {"P1TwoP", "P1TwoPSingBar", 1, 110, 140},
     {"P2R", "P2RSingBar", 2, 300, 140}, {"P1ThreeP", "P1ThreePSingBar", 1, 104, 92},
     {"P2M", "P2MSingBar", 2, 230, 92},  {"P3R", "P3SingBar", 3, 356, 92},
@@ -23,7 +23,7 @@ struct Note {
   int step;  // eighths of the lane's height from its top
 };
 
-constexpr Note kNotes[] = {{150, 80, 5}, {240, 60, 4}, {310, 110, 3}, {440, 70, 4}, {530, 50, 2}, {600, 140, 3}};
+constexpr Note Notes[] = {{150, 80, 5}, {240, 60, 4}, {310, 110, 3}, {440, 70, 4}, {530, 50, 2}, {600, 140, 3}};
 
 void addVoice(Screen& screen, const Voice& voice) {
   const std::string prefix = voice.prefix;
@@ -35,7 +35,7 @@ void addVoice(Screen& screen, const Voice& voice) {
   screen.statics.push_back(
       {prefix + "Static3Score", "RowBright", {640, voice.top - 20, 136, 32}, player + "Light", "Colorized"});
   int number = 0;
-  for (const Note& note : kNotes) {
+  for (const Note& note : Notes) {
     screen.statics.push_back({prefix + numbered("Static4Note", ++number),
                               "Pill",
                               {note.x, voice.top + note.step * voice.height / 8, note.width, noteHeight},
@@ -69,7 +69,7 @@ Screen singScreen() {
           },
       .others = {{"TimeProgress", "X=563|Y=25|W=120|H=14|Color=ColorLight|Z=0.5"}},
   };
-  for (const Voice& voice : kVoices) addVoice(screen, voice);
+  for (const Voice& voice : Voices) addVoice(screen, voice);
   return screen;
 }
 

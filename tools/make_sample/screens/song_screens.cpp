@@ -5,7 +5,7 @@ namespace sample {
 namespace {
 
 ButtonRow plainButton(const std::string& name, const Place& at, const std::string& key, int size = 10) {
-  return {name, "Button", at, kHue, {caption(at, key, 0, size)}, numbered("SelectH=", at.h + 4)};
+  return {name, "Button", at, HueLook, {caption(at, key, 0, size)}, numbered("SelectH=", at.h + 4)};
 }
 
 }  // namespace
@@ -13,7 +13,7 @@ ButtonRow plainButton(const std::string& name, const Place& at, const std::strin
 Screen songScreen() {
   Screen screen{
       .stem = "Song",
-      .chrome = {Side::left, "SONG", "SONG_HELP", "GlyphNote", "Plum"},
+      .chrome = {Side::Left, "SONG", "SONG_HELP", "GlyphNote", "Plum"},
       .statics =
           {
               {"StaticBox", "Panel", {456, 84, 324, 300}, "White"},
@@ -41,7 +41,7 @@ Screen songScreen() {
           {
               plainButton("ButtonMenu", {624, 494, 150, 52}, "MENU"),
               plainButton("ButtonSing", {456, 494, 160, 52}, "SING"),
-              {"SelectSorting", "Select", {130, 496, 300, 44}, kFrame, {}, "SkipX=10|SBGColor=White"},
+              {"SelectSorting", "Select", {130, 496, 300, 44}, FrameLook, {}, "SkipX=10|SBGColor=White"},
           },
       .others =
           {
@@ -96,7 +96,7 @@ Screen songMenuScreen() {
               plainButton("Button2", {226, 208, 348, 62}, "MENU_PLAYERS"),
               plainButton("Button3", {226, 276, 348, 62}, "MENU_REFRESH"),
               plainButton("Button4", {226, 344, 348, 62}, "BACK"),
-              {"SelectCategory", "Select", {230, 484, 340, 44}, kFrame},
+              {"SelectCategory", "Select", {230, 484, 340, 44}, FrameLook},
           },
   };
 }
@@ -120,13 +120,13 @@ Screen songJumptoScreen() {
           },
       .buttons =
           {
-              {"ButtonGo", "ButtonSmall", {320, 422, 160, 46}, kHue, {caption({0, 0, 160, 46}, "JUMP_GO", 0, 9)}},
+              {"ButtonGo", "ButtonSmall", {320, 422, 160, 46}, HueLook, {caption({0, 0, 160, 46}, "JUMP_GO", 0, 9)}},
               {"ButtonSearch",
                "Field",
                {150, 208, 500, 54},
                {"Transparent", "White", "1", "White", "0.8"},
                {{"1", 24, middleOf(54, 0, 11), 0, 11, 0, "Ink", "JUMP_TYPED"}}},
-              {"SelectType", "Select", {320, 270, 340, 44}, kFrame},
+              {"SelectType", "Select", {320, 270, 340, 44}, FrameLook},
           },
       .others = {{"ButtonSearchText", "X=174|Y=210|Font=0|Size=11|Align=0|Color=Ink|Text=JUMP_TYPED"}},
   };

@@ -11,10 +11,10 @@ struct ChromePlaces {
   int glyphX, titleX, align;
 };
 
-constexpr ChromePlaces kChromePlaces[] = {
-    {Side::left, 18, 78, 0},
-    {Side::middle, 18, 400, 1},
-    {Side::right, 734, 720, 2},
+constexpr ChromePlaces Places[] = {
+    {Side::Left, 18, 78, 0},
+    {Side::Middle, 18, 400, 1},
+    {Side::Right, 734, 720, 2},
 };
 
 std::string header(const std::string& name) {
@@ -64,7 +64,7 @@ std::string buttonText(const std::string& stem, const ButtonRow& row) {
 
 Screen withChrome(Screen screen) {
   const Chrome& chrome = screen.chrome;
-  for (const ChromePlaces& places : kChromePlaces) {
+  for (const ChromePlaces& places : Places) {
     if (places.side != chrome.side) continue;
     const std::vector<StaticRow> statics = {
         {"StaticBar", "TitleBar", {0, 0, 800, 72}, chrome.tint, "Colorized", "Z=0.1"},
@@ -87,16 +87,16 @@ std::string numbered(const std::string& head, int number) {
   return head + std::to_string(number);
 }
 
-std::string screenText(const Screen& plain) {
-  const Screen screen = withChrome(plain);
-  std::string text = header(screen.stem) + line("Statics", static_cast<int>(screen.statics.size())) +
-                     line("Texts", static_cast<int>(screen.texts.size())) + moreLines(screen.more) + "\n" +
-                     header(screen.stem + "Background") + line("Tex", screen.stem + "BG") +
-                     moreLines(screen.backgroundMore) + "\n";
-  for (const StaticRow& row : screen.statics) text += staticText(screen.stem, row);
-  for (const TextRow& row : screen.texts) text += textText(screen.stem + row.name, row);
-  for (const ButtonRow& row : screen.buttons) text += buttonText(screen.stem, row);
-  for (const OtherRow& row : screen.others) text += header(screen.stem + row.name) + moreLines(row.lines) + "\n";
+std::string screenText(const Screen& screen) {
+  const Screen whole = withChrome(screen);
+  std::string text = header(whole.stem) + line("Statics", static_cast<int>(whole.statics.size())) +
+                     line("Texts", static_cast<int>(whole.texts.size())) + moreLines(whole.more) + "\n" +
+                     header(whole.stem + "Background") + line("Tex", whole.stem + "BG") +
+                     moreLines(whole.backgroundMore) + "\n";
+  for (const StaticRow& row : whole.statics) text += staticText(whole.stem, row);
+  for (const TextRow& row : whole.texts) text += textText(whole.stem + row.name, row);
+  for (const ButtonRow& row : whole.buttons) text += buttonText(whole.stem, row);
+  for (const OtherRow& row : whole.others) text += header(whole.stem + row.name) + moreLines(row.lines) + "\n";
   return text;
 }
 

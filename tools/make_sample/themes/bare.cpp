@@ -4,7 +4,7 @@ namespace sample {
 
 namespace {
 
-constexpr const char* kTheme =
+constexpr const char* Theme =
     "[Theme]\n"
     "Name=Without Skin\n"
     "Creator=Nobody in particular\n"
@@ -27,7 +27,7 @@ constexpr const char* kTheme =
 }  // namespace
 
 void writeBare(const Output& output) {
-  output.writeLines("Themes/Without Skin.ini", kTheme);
+  output.writeLines("Themes/Without Skin.ini", Theme);
 }
 
 }  // namespace sample

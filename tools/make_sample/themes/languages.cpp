@@ -12,7 +12,7 @@ struct Words {
   const char16_t* german;
 };
 
-constexpr Words kWords[] = {
+constexpr Words AllWords[] = {
     {"LOADING", u"Loading…", u"Lädt …"},
     {"LOADING_TIP", u"Warm up your voice while you wait", u"Sing dich ein, während du wartest"},
     {"MAIN", u"Cantorama", u"Cantorama"},
@@ -225,14 +225,14 @@ struct Letter {
 };
 
 /// Letters of the code page that have another place in it than in Unicode.
-constexpr Letter kLetters[] = {{u'…', '\x85'}, {u'–', '\x96'}};
+constexpr Letter Letters[] = {{u'…', '\x85'}, {u'–', '\x96'}};
 
 std::string toAnsi(const char16_t* text) {
   std::string bytes;
   for (; *text != 0; ++text) {
     char byte = static_cast<char>(*text);
     bool known = *text < 0x80 || (*text >= 0xa0 && *text <= 0xff);
-    for (const Letter& letter : kLetters) {
+    for (const Letter& letter : Letters) {
       if (letter.unicode != *text) continue;
       byte = letter.ansi;
       known = true;
@@ -245,7 +245,7 @@ std::string toAnsi(const char16_t* text) {
 
 void writeLanguage(const Output& output, const std::string& name, const char16_t* Words::*column) {
   std::string text = "[Text]\n";
-  for (const Words& words : kWords) text += std::string(words.key) + "=" + toAnsi(words.*column) + "\n";
+  for (const Words& words : AllWords) text += std::string(words.key) + "=" + toAnsi(words.*column) + "\n";
   output.writeLines("Languages/" + name + ".ini", text);
 }
 

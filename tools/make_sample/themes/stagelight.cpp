@@ -9,9 +9,9 @@ namespace sample {
 
 namespace {
 
-constexpr const char* kFolder = "Skins/Stagelight/";
+constexpr const char* Folder = "Skins/Stagelight/";
 
-constexpr const char* kHead =
+constexpr const char* Head =
     "; Stagelight, the sample theme with every screen\n"
     "\n"
     "[Theme]\n"
@@ -55,9 +55,9 @@ struct Skin {
   std::string BackgroundKey::*background;
 };
 
-const Skin kSkins[] = {
-    {"Dusk", "Dusk over the stage", "dusk_", kDuskLook, &BackgroundKey::dusk},
-    {"Neon", "Neon at night", "neon_", kNeonLook, &BackgroundKey::neon},
+const Skin Skins[] = {
+    {"Dusk", "Dusk over the stage", "dusk_", DuskLook, &BackgroundKey::dusk},
+    {"Neon", "Neon at night", "neon_", NeonLook, &BackgroundKey::neon},
 };
 
 std::string skinText(const Skin& skin) {
@@ -71,15 +71,15 @@ std::string skinText(const Skin& skin) {
 }  // namespace
 
 void writeStagelight(const Output& output) {
-  std::string theme = kHead;
+  std::string theme = Head;
   for (const Screen& screen : screensInOrder()) theme += screenText(screen);
   output.writeLines("Themes/Stagelight.ini", theme);
-  for (const Skin& skin : kSkins) {
-    output.writeLines(kFolder + std::string(skin.name) + ".ini", skinText(skin));
-    writeTextures(output, kFolder, skin.prefix, skin.look);
+  for (const Skin& skin : Skins) {
+    output.writeLines(Folder + std::string(skin.name) + ".ini", skinText(skin));
+    writeTextures(output, Folder, skin.prefix, skin.look);
   }
-  writeGlyphs(output, kFolder);
-  writeBackgrounds(output, kFolder);
+  writeGlyphs(output, Folder);
+  writeBackgrounds(output, Folder);
 }
 
 }  // namespace sample

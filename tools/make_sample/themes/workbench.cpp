@@ -10,15 +10,15 @@ namespace sample {
 
 namespace {
 
-constexpr const char* kFolder = "Skins/Workbench/";
+constexpr const char* Folder = "Skins/Workbench/";
 
-constexpr Palette kGrey = {rgb(0xb8bcc4), rgb(0xd4d6da), rgb(0xa4a8b0), rgb(0xffffff), rgb(0x70747c)};
-constexpr Look kPlain = {rgb(0xe4e6ea, 0.9), rgb(0x50545c), rgb(0x7088b0), rgb(0x405880),
-                         rgb(0x203040),      rgb(0x303840), rgb(0xd0d8e0), 0.3};
+constexpr Palette Grey = {rgb(0xb8bcc4), rgb(0xd4d6da), rgb(0xa4a8b0), rgb(0xffffff), rgb(0x70747c)};
+constexpr Look Plain = {rgb(0xe4e6ea, 0.9), rgb(0x50545c), rgb(0x7088b0), rgb(0x405880),
+                        rgb(0x203040),      rgb(0x303840), rgb(0xd0d8e0), 0.3};
 
 QImage styled(int width, int height, TextureStyle style) {
   Canvas canvas(width, height);
-  style(canvas, kPlain);
+  style(canvas, Plain);
   return canvas.image();
 }
 
@@ -31,14 +31,14 @@ QImage glass() {
 
 /// A disc of sixteen steps on a transparent ground.
 IndexedPicture dot() {
-  constexpr int kSize = 48;
-  IndexedPicture picture{kSize, kSize, {qRgb(255, 0, 255)}, {}, 0};
+  constexpr int Size = 48;
+  IndexedPicture picture{Size, Size, {qRgb(255, 0, 255)}, {}, 0};
   for (int step = 0; step < 16; ++step) picture.colours.push_back(qRgb(40 + step * 8, 90 + step * 10, 200 + step * 3));
-  for (int y = 0; y < kSize; ++y) {
-    for (int x = 0; x < kSize; ++x) {
-      const int across = 2 * x - kSize + 1;
-      const int down = 2 * y - kSize + 1;
-      const int away = (across * across + down * down) * 16 / (kSize * kSize);
+  for (int y = 0; y < Size; ++y) {
+    for (int x = 0; x < Size; ++x) {
+      const int across = 2 * x - Size + 1;
+      const int down = 2 * y - Size + 1;
+      const int away = (across * across + down * down) * 16 / (Size * Size);
       picture.dots.push_back(static_cast<unsigned char>(away < 16 ? 16 - away : 0));
     }
   }
@@ -59,13 +59,13 @@ QImage onWhite(const QImage& image) {
 }  // namespace
 
 void writeWorkbench(const Output& output) {
-  output.writeLines("Themes/Workbench.ini", std::string(kWorkbenchPictures) + kWorkbenchWords + kWorkbenchScreens);
-  output.writeLines(kFolder + std::string("Grey.ini"), kWorkbenchGreySkin);
-  output.write(kFolder + std::string("Spare.ini"), kWorkbenchSpareSkin);
+  output.writeLines("Themes/Workbench.ini", std::string(WorkbenchPictures) + WorkbenchWords + WorkbenchScreens);
+  output.writeLines(Folder + std::string("Grey.ini"), WorkbenchGreySkin);
+  output.write(Folder + std::string("Spare.ini"), WorkbenchSpareSkin);
 
-  const auto file = [](const char* name) { return kFolder + std::string(name); };
+  const auto file = [](const char* name) { return Folder + std::string(name); };
   Canvas bench(320, 240, 800, 600);
-  paintTiles(bench, kGrey, 50);
+  paintTiles(bench, Grey, 50);
   output.writePicture(file("bench.jpg"), bench.image(), 80);
   output.writePicture(file("glass.png"), glass());
   output.writePicture(file("plate.png"), styled(240, 120, paintPanel));

@@ -2,11 +2,11 @@
 
 namespace sample {
 
-const char* const kWorkbenchPictures = R"(; Workbench: what can be wrong in a theme is wrong here
+const char* const WorkbenchPictures = R"(; Workbench: what can be wrong in a theme is wrong here
 # a comment of the other kind
 ; bytes that the code page leaves open: )"
-                                       "\x81\x8d\x8f\x90\x9d"
-                                       R"(
+                                      "\x81\x8d\x8f\x90\x9d"
+                                      R"(
 
 [Theme]
 Name="Workbench"

@@ -2,7 +2,7 @@
 
 namespace sample {
 
-const char* const kWorkbenchScreens = R"([Song]
+const char* const WorkbenchScreens = R"([Song]
 
 [SongBackground]
 Tex=CutBG

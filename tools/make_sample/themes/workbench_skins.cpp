@@ -2,7 +2,7 @@
 
 namespace sample {
 
-const char* const kWorkbenchGreySkin = R"([Skin]
+const char* const WorkbenchGreySkin = R"([Skin]
 Name=Grey "as" it comes
 Autor=
 
@@ -23,7 +23,7 @@ Empty=
 Unused = plate.png
 )";
 
-const char* const kWorkbenchSpareSkin = R"([Skin]
+const char* const WorkbenchSpareSkin = R"([Skin]
 Name=Spare parts
 Autor=Odd & Sons
 

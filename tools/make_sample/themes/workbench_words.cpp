@@ -2,7 +2,7 @@
 
 namespace sample {
 
-const char* const kWorkbenchWords = R"([MainTextDoubled]
+const char* const WorkbenchWords = R"([MainTextDoubled]
 X=80
 X=90
 Y=290

@@ -1,0 +1,74 @@
+#include "arguments.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+
+#include "platform/failure.h"
+
+namespace contactsheet {
+namespace {
+
+constexpr int Names = 5;
+
+quint8 buttonNumber(const QString& text) {
+  bool isNumber = false;
+  const uint number = text.toUInt(&isNumber);
+  if (!isNumber || number < 1 || number > 255) {
+    throw platform::Failure(QStringLiteral("--selected takes a number from 1 to 255, not '%1'").arg(text));
+  }
+  return static_cast<quint8>(number);
+}
+
+/// A path without links and dots, for a folder that is there.
+QString plainFolder(const QString& folder) {
+  const QString canonical = QDir(folder).canonicalPath();
+  return canonical.isEmpty() ? QDir::cleanPath(QDir(folder).absolutePath()) : canonical;
+}
+
+void refuseOutputInGame(const Arguments& arguments) {
+  const QString output = plainFolder(arguments.outputFolder) + u'/';
+  if (output.startsWith(plainFolder(arguments.gameFolder) + u'/')) {
+    throw platform::Failure(QStringLiteral("the output folder '%1' lies in the game folder, where nothing is written")
+                                .arg(arguments.outputFolder));
+  }
+}
+
+}  // namespace
+
+Arguments ParseArguments(const QStringList& words) {
+  const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+  const QCommandLineOption scheme(QStringLiteral("scheme"), QString(), QStringLiteral("NAME"));
+  const QCommandLineOption selected(QStringLiteral("selected"), QString(), QStringLiteral("N"));
+  QCommandLineParser parser;
+  parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+  parser.addOptions({help, scheme, selected});
+  if (!parser.parse(words)) throw platform::Failure(parser.errorText());
+  Arguments arguments;
+  arguments.help = parser.isSet(help);
+  if (arguments.help) return arguments;
+  const QStringList names = parser.positionalArguments();
+  if (names.size() != Names) {
+    throw platform::Failure(QStringLiteral("%1 names given where %2 are wanted\n").arg(names.size()).arg(Names) +
+                            Usage());
+  }
+  arguments.gameFolder = names[0];
+  arguments.theme = names[1];
+  arguments.skin = names[2];
+  arguments.language = names[3];
+  arguments.outputFolder = names[4];
+  arguments.scheme = parser.value(scheme);
+  if (parser.isSet(selected)) arguments.selected = buttonNumber(parser.value(selected));
+  refuseOutputInGame(arguments);
+  return arguments;
+}
+
+QString Usage() {
+  return QStringLiteral(
+      "Usage: cantorama-contact-sheet GAME_FOLDER THEME SKIN LANGUAGE OUTPUT_FOLDER [--scheme NAME] [--selected N]\n"
+      "Draws the 32 screens of a theme into OUTPUT_FOLDER: 01.png to 32.png, overview.png with all of them, and\n"
+      "report.tsv, which tells of every section whether it was drawn, and if not why.\n"
+      "  --scheme NAME   colour scheme in force (else the first one)\n"
+      "  --selected N    draw button N of every screen as the selected one (else the first)\n");
+}
+
+}  // namespace contactsheet

@@ -1,0 +1,76 @@
+#include <algorithm>
+#include <cstdio>
+
+#include <QDir>
+#include <QGuiApplication>
+
+#include "arguments.h"
+#include "plain_host.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "sheet.h"
+
+namespace {
+
+constexpr int WrongInput = 2;
+
+void print(std::FILE* stream, const QString& text) {
+  std::fprintf(stream, "%s\n", text.toLocal8Bit().constData());
+}
+
+/// The path of a file of the output folder, which is made when it isn't there.
+QString outputPath(const QString& folder, const QString& name) {
+  if (!QDir().mkpath(folder)) throw platform::Failure(QStringLiteral("can't make the folder ") + folder);
+  return platform::ProgramPath(QDir(folder).absoluteFilePath(name));
+}
+
+void drawSheet(const contactsheet::Arguments& arguments) {
+  contactsheet::ErrorOutput status;
+  const contactsheet::Theme theme(arguments.gameFolder, arguments.theme, arguments.skin, arguments.language, status);
+  const QString scheme = theme.SchemeNamed(arguments.scheme);
+  std::vector<contactsheet::Screen> screens;
+  std::vector<std::vector<contactsheet::ReportRow>> report;
+  for (const themefiles::ScreenRow& row : theme.State().ScreenTable) {
+    const contactsheet::Screen& screen =
+        screens.emplace_back(contactsheet::DrawScreen(theme, row, scheme, arguments.selected, status));
+    report.push_back(screen.rows);
+    const QString number = QStringLiteral("%1").arg(screens.size(), 2, 10, QChar(u'0'));
+    contactsheet::WritePng(screen.picture, outputPath(arguments.outputFolder, number + QStringLiteral(".png")));
+    const auto drawn =
+        std::count_if(screen.rows.begin(), screen.rows.end(), [](const auto& line) { return line.drawn; });
+    print(stderr, QStringLiteral("%1/%2 %3: %4 drawn, %5 left out")
+                      .arg(number)
+                      .arg(theme.State().ScreenTable.size())
+                      .arg(screen.name)
+                      .arg(drawn)
+                      .arg(static_cast<qsizetype>(screen.rows.size()) - drawn));
+  }
+  contactsheet::WritePng(contactsheet::Overview(screens),
+                         outputPath(arguments.outputFolder, QStringLiteral("overview.png")));
+  platform::WriteFile(outputPath(arguments.outputFolder, QStringLiteral("report.tsv")),
+                      contactsheet::ReportText(report));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  // No display is needed, and no setting of a desktop may change the pictures.
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  int programOnly = 1;  // its own options stay away from the command line, the choice of a platform among them
+  const QGuiApplication application(programOnly, argv);
+  QStringList words;
+  for (int word = 0; word < argc; ++word) words += QString::fromLocal8Bit(argv[word]);
+  try {
+    const contactsheet::Arguments arguments = contactsheet::ParseArguments(words);
+    if (arguments.help) {
+      print(stdout, contactsheet::Usage());
+    } else {
+      drawSheet(arguments);
+    }
+  } catch (const platform::Failure& failure) {
+    print(stderr, QStringLiteral("cantorama-contact-sheet: ") + failure.description());
+    return WrongInput;
+  }
+  return 0;
+}

@@ -1,0 +1,48 @@
+#include "plain_host.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <utility>
+
+#include "platform/code_page.h"
+
+namespace contactsheet {
+
+void ErrorOutput::ShowStatus(const QString& text) {
+  std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
+}
+
+platform::BoxAnswer NoDialogs::MessageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
+                                          platform::BoxKind kind) {
+  status_.ShowStatus(text);
+  return kind == platform::BoxKind::Error ? platform::BoxAnswer::Ok : platform::BoxAnswer::No;
+}
+
+QString NoDialogs::InputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) {
+  return {};
+}
+
+QString NoDialogs::OpenFile(QWidget* /*parent*/, const platform::FileRequest& /*request*/) {
+  return {};
+}
+
+std::optional<QColor> NoDialogs::ChooseColor(QWidget* /*parent*/, const QColor& /*present*/) {
+  return std::nullopt;
+}
+
+void PlainTagList::Clear() {
+  tags_.clear();
+  index_ = -1;
+}
+
+void PlainTagList::AddItem(const QString& tag) {
+  tags_.insert(std::upper_bound(tags_.begin(), tags_.end(), tag, platform::NameLess), tag);
+}
+
+PlainHost::PlainHost(QString screen, QString scheme) : screen_(std::move(screen)), scheme_(std::move(scheme)) {}
+
+void PlainHost::SetProgressValue(int value) {
+  progress_ = std::clamp(value, 0, 100);
+}
+
+}  // namespace contactsheet

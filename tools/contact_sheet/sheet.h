@@ -1,0 +1,18 @@
+#pragma once
+
+#include <vector>
+
+#include <QImage>
+#include <QString>
+
+#include "screens.h"
+
+namespace contactsheet {
+
+/// All screens in small, each over its name.
+QImage Overview(const std::vector<Screen>& screens);
+
+/// Throws platform::Failure when the file can't be written.
+void WritePng(const QImage& picture, const QString& path);
+
+}  // namespace contactsheet

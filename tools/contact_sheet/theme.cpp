@@ -1,0 +1,56 @@
+#include "theme.h"
+
+#include <QDir>
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "themefiles/colour_tables.h"
+#include "themefiles/screen_table.h"
+
+namespace contactsheet {
+namespace {
+
+const QString Ending = QStringLiteral(".ini");
+
+void copyFile(const QString& from, const QString& to) {
+  QByteArray bytes;
+  try {
+    bytes = platform::ReadFile(from);
+  } catch (const platform::Failure& failure) {
+    throw platform::Failure(
+        QStringLiteral("can't read %1 [%2]").arg(platform::NativePath(from), failure.description()));
+  }
+  platform::WriteFile(to, bytes);
+}
+
+}  // namespace
+
+Theme::Theme(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language,
+             platform::StatusLine& status) {
+  if (!folder_.isValid()) throw platform::Failure(QStringLiteral("no temporary folder: ") + folder_.errorString());
+  const QString copies = platform::ProgramPath(folder_.path());
+  themefiles::ThemePaths& paths = state_.Paths;
+  paths.ExeDirectory = platform::ProgramPath(QDir(gameFolder).absolutePath()) + u'\\';
+  paths.LanguagesDirectory = paths.ExeDirectory + QStringLiteral("\\Languages");
+  paths.SkinDirectory = paths.ExeDirectory + QStringLiteral("Skins\\") + theme;
+  paths.ThemeFile = copies + QStringLiteral("\\theme.ini");
+  paths.SkinFile = copies + QStringLiteral("\\skin.ini");
+  paths.LanguageFile = copies + QStringLiteral("\\language.ini");
+  copyFile(paths.ExeDirectory + QStringLiteral("Themes\\") + theme + Ending, paths.ThemeFile);
+  copyFile(paths.SkinDirectory + u'\\' + skin + Ending, paths.SkinFile);
+  copyFile(paths.LanguagesDirectory + u'\\' + language + Ending, paths.LanguageFile);
+  state_.ThemeOpened = true;
+  themefiles::InitScreenTable(state_);
+  themefiles::ReadColors(state_, status);
+}
+
+QString Theme::SchemeNamed(const QString& name) const {
+  const QStringList schemes = themefiles::SchemeNames(state_);
+  if (name.isEmpty()) return schemes.value(0);
+  if (schemes.contains(name)) return name;
+  throw platform::Failure(
+      QStringLiteral("no colour scheme '%1'; there are: %2").arg(name, schemes.join(QStringLiteral(", "))));
+}
+
+}  // namespace contactsheet
