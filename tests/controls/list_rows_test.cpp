@@ -1,0 +1,173 @@
+#include <QHelpEvent>
+#include <QSignalSpy>
+#include <QToolTip>
+
+#include "controls/active_window.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "platform/failure.h"
+
+using controls::Cause;
+using controls::ListBox;
+using controls::ListView;
+
+namespace {
+
+constexpr int Rows = 30;
+
+/// Both lists with the same thirty rows.
+struct Window : ActiveWindow {
+  Window() {
+    box.setGeometry(0, 0, 150, 100);
+    view.setGeometry(150, 0, 150, 100);
+    view.SetColumns({QStringLiteral("Item"), QStringLiteral("Value")}, {63, 87});
+    for (int i = 0; i < Rows; ++i) {
+      box.AddItem(QStringLiteral("%1 row").arg(QChar(u'A' + i / 2)));
+      view.AddRow(box.List(i), QStringLiteral("<b>a long value</b> %1").arg(i));
+    }
+    open();
+  }
+  ListBox box{ListBox::Order::AsAdded, this};
+  ListView view{this};
+  QSignalSpy clicks{&box, &ListBox::Click};
+  QSignalSpy itemClicks{&view, &ListView::ItemClick};
+
+  QPoint boxPlace(int row) const { return box.visualItemRect(box.item(row)).center(); }
+  QPoint viewPlace(int row) const { return view.visualItemRect(view.topLevelItem(row)).center(); }
+};
+
+void drag(QWidget* viewport, const QPoint& from, const QPoint& to) {
+  QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+  QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(viewport, &move);
+  QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
+}
+
+void askForTip(QWidget* viewport, const QPoint& place) {
+  QHelpEvent event(QEvent::ToolTip, place, viewport->mapToGlobal(place));
+  QApplication::sendEvent(viewport, &event);
+}
+
+}  // namespace
+
+class ListRowsTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void sortedRowsKeepTheirSelection() {
+    ListBox box(ListBox::Order::Sorted);
+    const QSignalSpy clicks(&box, &ListBox::Click);
+    for (const char* name : {"b", "Static2", "static1", "_x", "B"}) box.AddItem(QString::fromLatin1(name));
+    box.SetListIndex(0);
+    for (const char* name : {"A", "a", "Static10"}) box.AddItem(QString::fromLatin1(name));
+    QStringList rows;
+    for (int i = 0; i < box.ListCount(); ++i) rows += box.List(i);
+    QCOMPARE(rows.join(u' '), QStringLiteral("A a b B static1 Static10 Static2 _x"));
+    QCOMPARE(box.ListIndex(), 2);
+    box.Clear();
+    QCOMPARE(box.ListIndex(), -1);
+    QCOMPARE(clicks.size(), 1);
+  }
+
+  void writtenIndexFiresEachTime() {
+    Window window;
+    window.box.SetListIndex(3);
+    window.box.SetListIndex(3);
+    window.box.SetListIndex(-1);
+    QCOMPARE(window.box.Text(), QString());
+    QCOMPARE(window.clicks.size(), 2);
+    QCOMPARE(window.clicks.first().first().value<Cause>(), Cause::Code);
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, window.box.SetListIndex(Rows));
+    window.view.SelectRow(3);
+    QCOMPARE(window.view.SelectedRow(), 3);
+    QCOMPARE(window.itemClicks.size(), 0);
+  }
+
+  void focusSelectsNothing() {
+    Window window;
+    window.box.setFocus(Qt::TabFocusReason);
+    window.view.setFocus(Qt::TabFocusReason);
+    QCOMPARE(window.box.ListIndex(), -1);
+    QCOMPARE(window.view.SelectedRow(), -1);
+    QCOMPARE(window.clicks.size() + window.itemClicks.size(), 0);
+  }
+
+  void mousePicksOneRow() {
+    Window window;
+    QWidget* box = window.box.viewport();
+    QWidget* view = window.view.viewport();
+    for (int i = 0; i < 2; ++i) {
+      QTest::mouseClick(box, Qt::LeftButton, {}, window.boxPlace(2));
+      QTest::mouseClick(view, Qt::LeftButton, Qt::ControlModifier, window.viewPlace(2));
+      QTest::qWait(QApplication::doubleClickInterval() + 1);
+    }
+    QCOMPARE(window.clicks.size(), 2);
+    QCOMPARE(window.itemClicks.size(), 2);
+    drag(box, window.boxPlace(1), window.boxPlace(4));
+    drag(view, window.viewPlace(1), window.viewPlace(4));
+    QCOMPARE(window.box.ListIndex(), 1);
+    QCOMPARE(window.view.SelectedRow(), 1);
+    QCOMPARE(window.clicks.size(), 3);
+    QCOMPARE(window.clicks.last().first().value<Cause>(), Cause::User);
+    QCOMPARE(window.itemClicks.size(), 3);
+  }
+
+  void secondPressOfADoubleClick() {
+    Window window;
+    for (const int row : {0, 1}) {  // the second press may come on a neighbour of the first one's row
+      QTest::mouseClick(window.box.viewport(), Qt::LeftButton, {}, window.boxPlace(0));
+      QTest::mouseDClick(window.box.viewport(), Qt::LeftButton, {}, window.boxPlace(row));
+      QTest::mouseClick(window.view.viewport(), Qt::LeftButton, {}, window.viewPlace(0));
+      QTest::mouseDClick(window.view.viewport(), Qt::LeftButton, {}, window.viewPlace(row));
+      QCOMPARE(window.box.ListIndex(), row);
+      QCOMPARE(window.view.SelectedRow(), row);
+    }
+    QCOMPARE(window.clicks.size(), 3);
+    QCOMPARE(window.itemClicks.size(), 3);
+  }
+
+  void keysPickARow_data() {
+    QTest::addColumn<int>("before");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("after");
+    QTest::addColumn<int>("clicks");
+    QTest::newRow("down from none") << -1 << int(Qt::Key_Down) << 0 << 1;
+    QTest::newRow("down") << 3 << int(Qt::Key_Down) << 4 << 1;
+    QTest::newRow("up at the head") << 0 << int(Qt::Key_Up) << 0 << 0;
+    QTest::newRow("end") << 3 << int(Qt::Key_End) << Rows - 1 << 1;
+    QTest::newRow("page down near the end") << Rows - 2 << int(Qt::Key_PageDown) << Rows - 1 << 1;
+    QTest::newRow("letter") << 3 << int(Qt::Key_D) << 6 << 1;
+    QTest::newRow("letter of the first row, from none") << -1 << int(Qt::Key_A) << 0 << 1;
+    QTest::newRow("letter of none") << 3 << int(Qt::Key_Z) << 3 << 0;
+  }
+  void keysPickARow() {
+    QFETCH(int, before);
+    QFETCH(int, key);
+    Window window;
+    window.box.setFocus();
+    window.view.setFocus();
+    if (before >= 0) window.box.setCurrentRow(before);
+    window.view.SelectRow(before);
+    const QKeyCombination pressed = QKeyCombination::fromCombined(key);
+    QTest::keyClick(&window.box, pressed.key(), pressed.keyboardModifiers());
+    QTest::keyClick(&window.view, pressed.key(), pressed.keyboardModifiers());
+    QTEST(window.box.ListIndex(), "after");
+    QTEST(int(window.clicks.size()), "clicks");
+    QTEST(window.view.SelectedRow(), "after");
+    QTEST(int(window.itemClicks.size()), "clicks");
+  }
+
+  void cutValueShowsWholeAsPlainText() {
+    Window window;
+    const QPoint value = window.view.visualRect(window.view.model()->index(0, 1)).center();
+    askForTip(window.view.viewport(), value);
+    QVERIFY(QToolTip::text().contains(QStringLiteral("&lt;b&gt;a long value&lt;/b&gt; 0")));
+    window.view.SetSubItem(0, QStringLiteral("short"));
+    QCOMPARE(window.view.SubItem(0), QStringLiteral("short"));
+    askForTip(window.view.viewport(), value);
+    QTRY_COMPARE(QToolTip::text(), QString());
+  }
+};
+
+QTEST_MAIN(ListRowsTest)
+#include "list_rows_test.moc"

@@ -1,0 +1,245 @@
+#include <QAbstractItemView>
+#include <QDirIterator>
+#include <QTest>
+#include <QTimer>
+
+#include "support/windows.h"
+
+using support::Program;
+
+namespace {
+
+using Edit = void (*)(Program& program);
+
+/// An edit as a user makes it, and what it has to become in the three files.
+struct EditRow {
+  const char* object;
+  const char* key;
+  Edit edit;
+  const char* value;
+  const char* file;  ///< below the game folder
+  const char* section;
+  const char* line;  ///< the key as it is written there
+  const char* content;
+};
+
+/// A click of the mouse on the window at a place of one of its widgets: the window finds out what lies there.
+void clickAt(QWidget& widget, const QPoint& place) {
+  const QPoint inWindow = widget.mapTo(widget.window(), place);
+  QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow);
+}
+
+void press(QWidget& widget) {
+  clickAt(widget, widget.rect().center());
+}
+
+void key(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+  QTest::keyClick(widget.window()->windowHandle(), key, modifiers);
+}
+
+void pickRow(QAbstractItemView& list, int row) {
+  const QModelIndex index = list.model()->index(row, 0);
+  list.scrollTo(index);
+  clickAt(*list.viewport(), list.visualRect(index).center());
+}
+
+void pickNamed(QAbstractItemView& list, const char* name) {
+  for (int row = 0; row < list.model()->rowCount(); ++row) {
+    if (list.model()->index(row, 0).data().toString() == QLatin1StringView(name)) return pickRow(list, row);
+  }
+  qFatal("no row %s", name);
+}
+
+/// Opens the drop-down list and takes an entry of it.
+void pickEntry(QComboBox& box, int entry) {
+  press(box);
+  QWidget* const popup = box.view()->window();
+  if (!QTest::qWaitForWindowExposed(popup)) qFatal("no drop-down list");
+  key(*popup, Qt::Key_Home);
+  for (int i = 0; i < entry; ++i) key(*popup, Qt::Key_Down);
+  key(*popup, Qt::Key_Return);
+}
+
+void type(QLineEdit& box, const char* text) {
+  press(box);
+  key(box, Qt::Key_A, Qt::ControlModifier);
+  for (const char letter : QByteArrayView(text)) QTest::keyClick(box.window()->windowHandle(), letter);
+}
+
+void toolBar(Program& program, int button) {
+  clickAt(*program.form.ToolBar, QPoint(32 * button - 16, 16));
+}
+
+/// Opens a theme with the mouse and the keyboard.
+void open(Program& program, const char* theme, const char* skin, Qt::Key language) {
+  QTimer::singleShot(0, &program.form, [=] {
+    auto* dialog = qobject_cast<mainwindows::Form3*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !QTest::qWaitForWindowExposed(dialog)) qFatal("no dialog");
+    pickNamed(*dialog->List1, theme);
+    pickNamed(*dialog->List2, skin);
+    dialog->Combo1->setFocus();
+    key(*dialog, language);
+    press(*dialog->Command1);
+  });
+  toolBar(program, 1);
+  if (program.form.ToolWindow == nullptr || !QTest::qWaitForWindowExposed(program.form.ToolWindow)) qFatal("not open");
+}
+
+/// The file with the value of one key replaced, found without regard to case in the first section of the name.
+QByteArray replaced(const QByteArray& file, const QByteArray& section, const QByteArray& key, const QByteArray& value) {
+  const QByteArray lower = file.toLower();
+  const qsizetype head = lower.indexOf("\n[" + section.toLower() + "]");
+  const qsizetype line = lower.indexOf("\n" + key.toLower() + "=", head + 1);
+  const qsizetype start = line + 1 + key.size() + 1;
+  qsizetype end = start;
+  while (file[end] != '\r' && file[end] != '\n') ++end;
+  return file.left(start) + value + file.mid(end);
+}
+
+const char* const Theme = "Themes/Stagelight.ini";
+const char* const Skin = "Skins/Stagelight/Neon.ini";
+const char* const Language = "Languages/Deutsch.ini";
+
+// One key of each group, all of the main screen.
+const EditRow Edits[] = {
+    {"MainStaticBar", "X", [](Program& p) { type(*p.tools().Text1, "12"); }, "12", Theme, "MainStaticBar", "X", "12"},
+    {"MainTextMotto", "Align", [](Program& p) { pickEntry(*p.tools().Combo2, 1); }, "1", Theme, "MainTextMotto",
+     "Align", "1"},
+    {"MainTextTitle", "Font", [](Program& p) { pickEntry(*p.tools().Combo2, 3); }, "3", Theme, "MainTextTitle", "Font",
+     "3"},
+    {"MainButtonSolo", "Visible", [](Program& p) { pickEntry(*p.tools().Combo2, 0); }, "0", Theme, "MainButtonSolo",
+     "Visible", "0"},
+    {"MainStaticEqualizer", "Direction", [](Program& p) { pickEntry(*p.tools().Combo2, 0); }, "0", Theme,
+     "MainStaticEqualizer", "Direction", "0"},
+    {"MainStaticFoot", "Type", [](Program& p) { pickEntry(*p.tools().Combo2, 3); }, "Font Black", Theme,
+     "MainStaticFoot", "Type", "Font Black"},
+    {"MainStaticIcon", "Color", [](Program& p) { pickEntry(*p.tools().Combo4, 2); }, "P1Dark", Theme, "MainStaticIcon",
+     "Color", "P1Dark"},
+    {"MainTextHelp", "Text", [](Program& p) { type(*p.tools().Text2, "Los! = [Enter];"); }, "MAIN_HELP", Language,
+     "Text", "MAIN_HELP", "Los! = [Enter];"},
+    {"MainStaticStar", "Tex",
+     [](Program& p) { pickEntry(*p.tools().Combo6, p.tools().Combo6->findText(QStringLiteral("GlyphGear"))); },
+     "GlyphGear", Theme, "MainStaticStar", "Tex", "GlyphGear"},
+    {"MainStaticBar", "Z", [](Program& p) { type(*p.tools().Text4, "0.75"); }, "0.75", Theme, "MainStaticBar", "Z",
+     "0.75"},
+};
+
+void copyFolder(const QString& from, const QString& to) {
+  QDirIterator walk(from, QDir::Files, QDirIterator::Subdirectories);
+  while (walk.hasNext()) {
+    const QString source = walk.next();
+    const QString target = QDir(to).filePath(QDir(from).relativeFilePath(source));
+    QDir().mkpath(QFileInfo(target).path());
+    if (!QFile::copy(source, target)) qFatal("%s", qPrintable(target));
+    QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
+  }
+}
+
+void chooseScreen(Program& program, int row) {
+  program.tools().Combo1->setFocus();
+  key(program.tools(), Qt::Key_Home);
+  for (int i = 0; i < row; ++i) key(program.tools(), Qt::Key_Down);
+}
+
+}  // namespace
+
+class WholeSessionTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void initTestCase() {
+    copyFolder(QStringLiteral(SAMPLE_FOLDER), game.native(QString()));
+    program = std::make_unique<Program>(game);
+    QVERIFY(QTest::qWaitForWindowExposed(&program->form));
+  }
+  void cleanupTestCase() { program.reset(); }
+
+  void everyScreen() {
+    open(*program, "Stagelight", "Neon", Qt::Key_Home);
+    QCOMPARE(program->state.Paths.LanguageFile.section(u'\\', -1), QStringLiteral("Deutsch.ini.tmp"));
+    QCOMPARE(program->state.Paths.SkinFile.section(u'\\', -1), QStringLiteral("Neon.ini.tmp"));
+    toolwindow::Form2& tools = program->tools();
+    QHash<QString, QStringList> objects;
+    QImage before;
+    for (int screen = 0; screen < 32; ++screen) {
+      const QString name = tools.Combo1->Text();
+      QCOMPARE(tools.Combo1->ListIndex(), screen);
+      for (int row = 0; row < tools.List1->ListCount(); ++row) objects[name] += tools.List1->List(row);
+      QVERIFY2(!objects[name].isEmpty(), qPrintable(name));
+      QVERIFY2(!program->status().startsWith(u"Error"), qPrintable(name + program->status()));
+      QCOMPARE(program->form.Combo2->isVisible(), program->state.ButtonCount > 0);
+      QVERIFY(program->form.ProgressBar1->isHidden());
+      const QImage picture = program->form.Workspace->Surface().image();
+      QVERIFY2(picture != before, qPrintable(name));
+      before = picture;
+      key(tools, Qt::Key_Down);
+    }
+    // The views of the Sing and the Score screens: whose objects they show.
+    const auto shows = [&](const char* screen, const char* object) {
+      return objects[QLatin1StringView(screen)].contains(QLatin1StringView(object), Qt::CaseInsensitive);
+    };
+    const QList<QByteArray> players{"1 Player", "2 Player", "3 Player"};
+    const QByteArray bars[] = {"SingP1SingBar", "SingP1TwoPSingBar", "SingP1ThreePSingBar"};
+    const QByteArray names[] = {"ScoreTextName1", "ScoreTextName2", "ScoreTextName4"};
+    for (int view = 0; view < 3; ++view) {
+      for (int of = 0; of < 3; ++of) {
+        QCOMPARE(shows("Sing Screen (" + players[view] + ")", bars[of]), view == of);
+        QCOMPARE(shows("Score Screen (" + players[view] + ")", names[of]), view == of);
+      }
+    }
+    QVERIFY(program->state.ThemeOpened && !program->state.Changed);
+  }
+
+  void editSaveReopen() {
+    auto expected = game.files();
+    chooseScreen(*program, 1);
+    toolwindow::Form2& tools = program->tools();
+    QCOMPARE(tools.Combo1->Text(), QStringLiteral("Main Screen"));
+    for (const EditRow& row : Edits) {
+      pickNamed(*tools.List1, row.object);
+      pickNamed(*tools.ListView1, row.key);
+      QVERIFY2(program->state.EditorShown && tools.Command1->isVisible(), row.key);
+      QTest::qWait(20);
+      row.edit(*program);
+      press(*tools.Command1);
+      QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
+      QVERIFY2(!program->status().startsWith(u"Error"), qPrintable(program->status()));
+      QVERIFY(program->enabled(2));
+      QByteArray& file = expected[QLatin1StringView(row.file)];
+      file = replaced(file, row.section, row.line, row.content);
+    }
+    for (const char* file : {Theme, Skin, Language}) {
+      const QString name = QLatin1StringView(file);
+      expected[name + QStringLiteral(".tmp")] = expected[name];
+    }
+    toolBar(*program, 2);
+    QVERIFY(!program->enabled(2));
+    const auto files = game.files();
+    QCOMPARE(files.keys(), expected.keys());
+    for (const auto& [name, bytes] : files.asKeyValueRange()) QVERIFY2(bytes == expected[name], qPrintable(name));
+
+    toolBar(*program, 3);
+    support::settle();
+    QVERIFY(program->form.ToolWindow == nullptr && program->form.Label1->isVisible());
+    QVERIFY(program->dialogs.asked.isEmpty());
+    open(*program, "Workbench", "Grey", Qt::Key_End);
+    QCOMPARE(program->state.Paths.ThemeFile.section(u'\\', -1), QStringLiteral("Workbench.ini.tmp"));
+    QVERIFY(program->form.Label1->isHidden());
+    open(*program, "Stagelight", "Neon", Qt::Key_Home);
+    chooseScreen(*program, 1);
+    for (const EditRow& row : Edits) {
+      pickNamed(*program->tools().List1, row.object);
+      QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
+    }
+    pickNamed(*program->tools().List1, "MainTextHelp");
+    pickNamed(*program->tools().ListView1, "Text");
+    QCOMPARE(program->tools().Text2->Text(), QStringLiteral("Los! = [Enter];"));
+  }
+
+ private:
+  support::GameFolder game;
+  std::unique_ptr<Program> program;
+};
+
+QTEST_MAIN(WholeSessionTest)
+#include "whole_session_test.moc"

@@ -1,0 +1,183 @@
+#include "renderer/texture_pipeline.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include <QTest>
+
+#include "renderer/recolouring.h"
+#include "support/stage.h"
+
+using namespace support;
+using namespace renderer;
+
+namespace {
+
+// The formulas of hue, lightness and saturation, pixel by pixel.
+
+struct Shade {
+  double h = 0, l = 0, s = 0;
+};
+
+Shade shadeOf(double r, double g, double b) {
+  const double max = std::max({r, g, b});
+  const double min = std::min({r, g, b});
+  const double delta = max - min;
+  Shade shade{0, (max + min) / 2, 0};
+  if (std::abs(delta) < 0.00001) return shade;
+  shade.s = shade.l <= 0.5 ? delta / (max + min) : delta / (2 - max - min);
+  const double rc = (max - r) / delta, gc = (max - g) / delta, bc = (max - b) / delta;
+  shade.h = (r == max ? bc - gc : g == max ? 2 + rc - bc : 4 + gc - rc) * 60;
+  if (shade.h < 0) shade.h += 360;
+  return shade;
+}
+
+double channel(double m1, double m2, double h) {
+  if (h > 360) {
+    h -= 360;
+  } else if (h < 0) {
+    h += 360;
+  }
+  return h < 60 ? m1 + (m2 - m1) * h / 60 : h < 180 ? m2 : h < 240 ? m1 + (m2 - m1) * (240 - h) / 60 : m1;
+}
+
+int byteOf(double value) {
+  return static_cast<int>(std::nearbyint(static_cast<float>(std::max(value, 0.0) * 255.0)));
+}
+
+QRgb colorizedPlainly(QRgb pixel, double hue) {
+  const Shade shade = shadeOf(qRed(pixel) / 255.0, qGreen(pixel) / 255.0, qBlue(pixel) / 255.0);
+  const double l = shade.l, s = shade.s;
+  if (s == 0) return qRgba(byteOf(l), byteOf(l), byteOf(l), qAlpha(pixel));
+  const double m2 = l <= 0.5 ? l * (1 + s) : l + s - l * s;
+  const double m1 = 2 * l - m2;
+  return qRgba(byteOf(channel(m1, m2, hue + 120)), byteOf(channel(m1, m2, hue)), byteOf(channel(m1, m2, hue - 120)),
+               qAlpha(pixel));
+}
+
+/// A session of which one step fails.
+class FailingGraphics : public platform::Graphics {
+ public:
+  explicit FailingGraphics(QString step) : failing_(std::move(step)) {}
+  int Startup() override { return fails(QStringLiteral("Startup")) ? 1 : Graphics::Startup(); }
+  int CreateFrom(platform::Surface& surface) override {
+    return fails(QStringLiteral("CreateFrom")) ? 1 : Graphics::CreateFrom(surface);
+  }
+  int Delete() override { return fails(QStringLiteral("Delete")) ? 1 : Graphics::Delete(); }
+  void Shutdown() override {
+    fails(QStringLiteral("Shutdown"));
+    Graphics::Shutdown();
+  }
+  QStringList steps;
+
+ private:
+  bool fails(const QString& step) {
+    steps += step;
+    return step == failing_;
+  }
+  QString failing_;
+};
+
+}  // namespace
+
+class TexturePipelineTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void colorizedAsTheFormulasTell_data() {
+    QTest::addColumn<QString>("color");
+    for (const char* color : {"255 0 0", "0 255 0", "0 0 255", "71 175 247", "230 230 95", "1 0 2", "128 128 128",
+                              "300 -20 1000.5", "250 3 4", "0 0 0", "100000 50000.1 0", "255 127.5 0", "3 9 18",
+                              "0 255 255", "255 255 0", "255 0 255", "220 9 99"}) {
+      QTest::newRow(color) << QString::fromLatin1(color);
+    }
+  }
+
+  void colorizedAsTheFormulasTell() {
+    QFETCH(QString, color);
+    const QStringList fields = color.split(u' ');
+    const ColorNumbers numbers{fields[0].toFloat(), fields[1].toFloat(), fields[2].toFloat()};
+    const double hue = shadeOf(double(numbers.R), double(numbers.G), double(numbers.B)).h;
+    // Each pair of largest and smallest channel, the channels in turn the largest.
+    QImage picture(256 * 3, 256, QImage::Format_ARGB32);
+    for (int max = 0; max < 256; ++max) {
+      for (int min = 0; min < 256; ++min) {
+        const int middle = (max + min) / 2;
+        picture.setPixel(max, min, qRgba(max, min, middle, 255));
+        picture.setPixel(max + 256, min, qRgba(min, middle, max, 255 - min));
+        picture.setPixel(max + 512, min, qRgba(middle, max, min, 1));
+      }
+    }
+    const QImage before = picture.copy();
+    Colorize(picture, numbers);
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixel(x, y) != colorizedPlainly(before.pixel(x, y), hue)) QFAIL(qPrintable(QString::number(x)));
+      }
+    }
+  }
+
+  void fontPixels() {
+    struct Case {
+      QRgb pixel;
+      float intensity;
+      std::optional<QRgb> recoloured;
+    };
+    const QRgb white = qRgba(255, 255, 255, 9);
+    const QRgb black = qRgba(0, 0, 0, 255);
+    for (const Case& each : {Case{black, -1, qRgb(200, 100, 50)},
+                             {white, -1, white},
+                             {white, 9, white},
+                             {qRgba(128, 128, 128, 3), -1, qRgba(200, 228, 178, 3)},
+                             {black, 0.25F, qRgb(50, 25, 12)},
+                             {black, -0.002F, black},
+                             {black, 1.28F, {}},
+                             {black, -0.5F, {}}}) {
+      QImage picture = plainPicture(2, 2, white);
+      picture.setPixel(1, 1, each.pixel);
+      QCOMPARE(RecolourFont(picture, {200, 100, 50}, each.intensity), each.recoloured.has_value());
+      QCOMPARE(picture.pixel(1, 1), each.recoloured.value_or(each.pixel));
+      QCOMPARE(picture.pixel(0, 0), white);
+    }
+  }
+
+  void failingSessions_data() {
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("draws");
+    QTest::newRow("none") << QStringLiteral("Startup CreateFrom Delete Shutdown") << QString() << true;
+    QTest::newRow("Startup") << QStringLiteral("Startup Shutdown") << QStringLiteral("GDI+ could not be initialized")
+                             << false;
+    QTest::newRow("CreateFrom") << QStringLiteral("Startup CreateFrom Shutdown")
+                                << QStringLiteral("Graphics object could not be created") << false;
+    QTest::newRow("Delete") << QStringLiteral("Startup CreateFrom Delete Shutdown")
+                            << QStringLiteral("Graphics object could not be deleted") << true;
+  }
+
+  void failingSessions() {
+    QFETCH(QString, steps);
+    QFETCH(QString, message);
+    QFETCH(bool, draws);
+    Stage stage;
+    stage.surface.Wipe(Qt::white);
+    FailingGraphics graphics(QString::fromLatin1(QTest::currentDataTag()));
+    const auto drawn = [&](const QString& file) {
+      graphics.steps.clear();
+      const auto result = DrawTexture(stage.surface, file, QString(), 3, 4, -1, 0, QStringLiteral("0 0 0"), NoIntensity,
+                                      graphics, stage.boxes);
+      return result.outcome == TextureOutcome::Drawn;
+    };
+    QVERIFY(!drawn(QString()));
+    QVERIFY(graphics.steps.isEmpty() && stage.boxes.texts.isEmpty());
+    QCOMPARE(drawn(stage.folder.path(QStringLiteral("Red.png"))), draws);
+    QCOMPARE(graphics.steps.join(u' '), steps);
+    QCOMPARE(stage.boxes.texts, message.isEmpty() ? QStringList() : QStringList(message));
+    QCOMPARE(inkOf(stage.surface.image()), draws ? QRect(3, 4, 8, 4) : QRect());
+    QVERIFY(!drawn(stage.folder.path(QStringLiteral("Torn.png"))));
+    QCOMPARE(graphics.steps.join(u' '), steps);
+  }
+};
+
+QTEST_MAIN(TexturePipelineTest)
+#include "texture_pipeline_test.moc"

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <QImage>
+
+#include "platform/graphics.h"
+#include "platform/surface.h"
+#include "renderer/render_driver.h"
+#include "renderer/render_host.h"
+#include "support/theme_doubles.h"
+#include "themefiles/colour_tables.h"
+
+namespace support {
+
+/// A window that a render shows itself in: keeps what it is told, and runs `yielded` at each yield.
+class Host : public renderer::RenderHost {
+ public:
+  int ProgressValue() const override { return progress; }
+  void SetProgressValue(int value) override { progress = qBound(0, value, 100); }
+  void SetProgressText(const QString& text) override { percents += text; }
+  void SetProgressVisible(bool visible) override { barVisible = visible; }
+  void Refresh() override { ++refreshes; }
+  void Yield() override {
+    ++yields;
+    if (yielded) yielded();
+  }
+  void FillButtonList(const QStringList& rows) override { buttons = rows; }
+  void SelectFirstButton() override { ++selections; }
+  void SetButtonListVisible(bool visible) override { buttonsVisible = visible; }
+  QString ScreenName() const override { return screen; }
+  QString SchemeName() const override { return QStringLiteral("Blue"); }
+
+  QString screen = QStringLiteral("Main Screen");
+  std::function<void()> yielded;
+  QStringList percents, buttons;
+  int progress = 50, refreshes = 0, yields = 0, selections = 0;
+  bool barVisible = false, buttonsVisible = true;
+};
+
+inline QImage plainPicture(int width, int height, QRgb color) {
+  QImage image(width, height, QImage::Format_ARGB32);
+  image.fill(color);
+  return image;
+}
+
+/// The rectangle round all pixels that differ from the colour.
+inline QRect inkOf(const QImage& image, QRgb ground = qRgb(255, 255, 255)) {
+  QRect rectangle;
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int x = 0; x < image.width(); ++x) {
+      if (line[x] != ground) rectangle |= QRect(x, y, 1, 1);
+    }
+  }
+  return rectangle;
+}
+
+/// A theme that a test writes, with a skin of textures of 8 x 4 pixels, and all that a render of it needs.
+class Stage {
+ public:
+  Stage() {
+    themefiles::InitScreenTable(state);
+    state.Paths.ThemeFile = folder.path(QStringLiteral("theme.ini"));
+    state.Paths.SkinFile = folder.path(QStringLiteral("skin.ini"));
+    state.Paths.LanguageFile = folder.path(QStringLiteral("language.ini"));
+    state.Paths.SkinDirectory = folder.path({});
+    for (const auto& [name, color] : {std::pair{"Red", 0xFFFF0000U},
+                                      {"Black", 0xFF000000U},
+                                      {"Blue", 0xFF0000FFU},
+                                      {"Half", 0x80000000U},
+                                      {"Faint", 0x02000000U}}) {
+      addTexture(name, plainPicture(8, 4, color));
+    }
+    folder.put(QStringLiteral("Torn.png"), "no picture");
+    skin += "Torn=torn.PNG|NoFile=none.png|";
+  }
+
+  void addTexture(const char* name, const QImage& picture) {
+    const QString file = QString::fromLatin1(name) + QStringLiteral(".png");
+    if (!picture.save(folder.native(file))) qFatal("can't write a texture");
+    skin += QByteArray(name) + '=' + name + ".png|";
+  }
+
+  /// Writes the theme ("|" ends a line) and lists all of its sections but the one of colours and the background's.
+  void setTheme(const QByteArray& theme) {
+    folder.put(QStringLiteral("skin.ini"), linesOf("[Textures]|" + skin));
+    folder.put(QStringLiteral("theme.ini"), linesOf(theme));
+    themefiles::ReadColors(state, panel);
+    tags.Clear();
+    for (const QByteArray& line : theme.split('|')) {
+      if (!line.startsWith('[') || line == "[Colors]" || line.endsWith("Background]")) continue;
+      tags.AddItem(platform::FromAnsi(line.mid(1, line.size() - 2)));
+    }
+  }
+
+  void draw() {
+    renderer::RenderContext context{state, tags, surface, host, panel, boxes, graphics, account};
+    renderer::DrawScreen(context);
+  }
+
+  QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
+  /// Objects drawn or not that came to their progress step, the first call of the driver left out.
+  int steps() const { return static_cast<int>(host.percents.size()) - 1; }
+
+  Folder folder;
+  QByteArray skin;
+  themefiles::ModuleState state;
+  Tags tags;
+  platform::Surface surface;
+  Host host;
+  Panel panel;
+  Boxes boxes;
+  platform::Graphics graphics;
+  renderer::RenderAccount account;
+};
+
+}  // namespace support

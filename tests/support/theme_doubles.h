@@ -1,0 +1,87 @@
+#pragma once
+
+#include <algorithm>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include "platform/code_page.h"
+#include "platform/dialogs.h"
+#include "platform/paths.h"
+#include "platform/status_line.h"
+#include "themefiles/screen_table.h"
+
+// What the rooms without windows work with in tests.
+
+namespace support {
+
+/// Keeps the reports.
+class Panel : public platform::StatusLine {
+ public:
+  void ShowStatus(const QString& text) override { texts += text; }
+  QStringList texts;
+};
+
+/// Keeps the texts of message boxes and cancels everything else.
+class Boxes : public platform::Dialogs {
+ public:
+  platform::BoxAnswer MessageBox(QWidget*, const QString& text, const QString& title, platform::BoxKind) override {
+    texts += title + text;
+    return platform::BoxAnswer::Ok;
+  }
+  QString InputBox(QWidget*, const QString&, const QString&) override { return {}; }
+  QString OpenFile(QWidget*, const platform::FileRequest&) override { return {}; }
+  std::optional<QColor> ChooseColor(QWidget*, const QColor&) override { return {}; }
+  QStringList texts;
+};
+
+/// A sorted list with no window.
+class Tags : public themefiles::TagList {
+ public:
+  void Clear() override {
+    rows.clear();
+    index = -1;
+  }
+  void AddItem(const QString& tag) override {
+    rows.insert(std::upper_bound(rows.begin(), rows.end(), tag, platform::NameLess), tag);
+  }
+  int ListCount() const override { return static_cast<int>(rows.size()); }
+  QString List(int row) const override { return rows[row]; }
+  int ListIndex() const override { return index; }
+  void SetListIndex(int row) override { index = row; }
+  QStringList rows;
+  int index = -1;
+};
+
+/// A folder that goes with the test. Names of files are relative to it; tables write "|" for a line end.
+class Folder {
+ public:
+  QString native(const QString& name) const { return folder_.filePath(name); }
+  /// The program's path of a file.
+  QString path(const QString& name) const { return platform::ProgramPath(native(name)); }
+  void put(const QString& name, const QByteArray& bytes) const {
+    QFile file(native(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("can't write a test file");
+  }
+  QByteArray get(const QString& name) const {
+    QFile file(native(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
+  }
+  bool has(const QString& name) const { return QFileInfo::exists(native(name)); }
+  void protect(const QString& name, bool on = true) const {
+    QFile::setPermissions(native(name),
+                          QFileDevice::ReadOwner | (on ? QFileDevice::Permission() : QFileDevice::WriteOwner));
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+/// The bytes of a table row, "|" being `lineEnd`.
+inline QByteArray linesOf(QByteArray table, const char* lineEnd = "\r\n") {
+  return table.replace('|', lineEnd);
+}
+
+}  // namespace support

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+
+#include <QTemporaryDir>
+
+#include "mainwindows/main_window.h"
+#include "mainwindows/open_theme.h"
+
+/// What the tests of the windows share: dialogs that answer by script, a game folder, and the program on it.
+namespace support {
+
+/// Answers in the order given; without one, as a user who only wants out: No, Cancel.
+class ScriptedDialogs : public platform::Dialogs {
+ public:
+  std::deque<platform::BoxAnswer> boxes;
+  std::deque<QString> inputs;
+  std::deque<QString> files;
+  std::deque<std::optional<QColor>> colors;
+  QStringList asked;  ///< "title: text" of each dialog
+
+  platform::BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title,
+                                 platform::BoxKind kind) override;
+  QString InputBox(QWidget* parent, const QString& prompt, const QString& title) override;
+  QString OpenFile(QWidget* parent, const platform::FileRequest& request) override;
+  std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) override;
+};
+
+/// A game folder of its own in a temporary place; relative paths are written with "/".
+class GameFolder {
+ public:
+  /// Vocora.exe, the languages Deutsch and English, and the theme Alpha with the skins One and Two.
+  GameFolder();
+
+  QString native(const QString& relative) const { return dir_.filePath(relative); }
+  /// The program's form of it, with the separator behind it.
+  QString path() const;
+  void write(const QString& relative, const QByteArray& bytes) const;
+  QByteArray read(const QString& relative) const;
+  bool has(const QString& relative) const;
+  void setWritable(const QString& relative, bool writable) const;
+  /// All files with their bytes.
+  QMap<QString, QByteArray> files() const;
+
+ private:
+  QTemporaryDir dir_;
+};
+
+inline const QString ThemeCopy = QStringLiteral("Themes/Alpha.ini.tmp");
+inline const QString SkinCopy = QStringLiteral("Skins/Alpha/One.ini.tmp");
+inline const QString LanguageCopy = QStringLiteral("Languages/English.ini.tmp");
+
+/// The program's windows with their events connected.
+class Program {
+ public:
+  /// config.ini in a folder of its own; the game folder is stored in it unless that is asked away.
+  explicit Program(const GameFolder& game, bool storeFolder = true);
+  ~Program();
+
+  themefiles::ModuleState state;
+  ScriptedDialogs dialogs;
+  platform::Graphics graphics;
+  QTemporaryDir settings;
+  mainwindows::Form1 form;
+
+  toolwindow::Form2& tools() { return *form.ToolWindow; }
+  QString status() const { return form.StatusBar->Panel(1).mid(11); }  ///< without the time
+  bool enabled(int button) const;
+
+  /// A click of the mouse on a button of the toolbar.
+  void click(int button);
+  /// Clicks Open and runs `act` on the Open Theme dialog; gives whether it came up. `act` has to end it.
+  bool openDialog(const std::function<void(mainwindows::Form3&)>& act);
+  /// Opens the theme by name, with its first skin and English.
+  void open(const QString& theme = QStringLiteral("Alpha"));
+  /// Chooses a screen, or an object, by name.
+  void screen(const QString& name);
+  void tag(const QString& name);
+  /// A click on the row of the grid that shows the key.
+  void row(const QString& key);
+  /// A grid of this one row, and a click on it.
+  void soleRow(const QString& key, const QString& value);
+  /// The value that the grid shows for the key.
+  QString value(const QString& key);
+};
+
+/// Serves what is pending, deletions too.
+void settle();
+
+}  // namespace support

@@ -1,0 +1,132 @@
+#include "themefiles/working_copies.h"
+
+#include <numeric>
+
+#include <QTest>
+
+#include "platform/failure.h"
+#include "support/theme_doubles.h"
+
+using namespace themefiles;
+using namespace support;
+
+namespace {
+
+const QString Theme = QStringLiteral("t.ini");
+const QString Skin = QStringLiteral("s.ini");
+const QString Language = QStringLiteral("l.ini");
+const QString Copy = QStringLiteral(".tmp");
+const QString Older = QStringLiteral(".tmp.old");
+const QString Backup = QStringLiteral(".bak");
+
+QByteArray everyByte() {
+  QByteArray bytes(256, '\0');
+  std::iota(bytes.begin(), bytes.end(), '\0');
+  return bytes + "\r\n\n\r";
+}
+
+/// A game with one theme, and what the copies work on.
+struct Game {
+  Game() {
+    folder.put(Theme, everyByte());
+    folder.put(Skin, "[Skin]\n");
+    folder.put(Language, "");
+    chosen.ThemeFile = folder.path(Theme);
+    chosen.SkinFile = folder.path(Skin);
+    chosen.LanguageFile = folder.path(Language);
+  }
+  bool open() {
+    return platform::Guarded(panel, QString(), [&] { MakeWorkingCopies(state, chosen, panel); });
+  }
+  bool save() {
+    return platform::Guarded(panel, QString(), [&] { SaveWorkingCopies(state, panel); });
+  }
+
+  Folder folder;
+  ThemePaths chosen;
+  ModuleState state;
+  Panel panel;
+};
+
+}  // namespace
+
+class WorkingCopiesTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void copiesByteForByteThereAndBack() {
+    Game game;
+    game.folder.protect(Theme);  // the copy of a protected file is writable all the same
+    QVERIFY(game.open());
+    QVERIFY(game.state.ThemeOpened && game.state.Paths.SkinFile == game.chosen.SkinFile + Copy);
+    QCOMPARE(game.folder.get(Theme + Copy), everyByte());
+    QCOMPARE(game.folder.get(Language + Copy), QByteArray());
+    game.folder.protect(Theme, false);
+    game.folder.put(Theme + Copy, "edited" + everyByte());
+    game.state.Changed = true;
+    QVERIFY(game.save());
+    QCOMPARE(game.folder.get(Theme), "edited" + everyByte());
+    QVERIFY(!game.state.Changed && game.state.ThemeOpened);
+    QVERIFY(game.panel.texts.isEmpty());
+    QVERIFY(!game.folder.has(Theme + Backup) && !game.folder.has(Theme + Older));
+  }
+
+  void keepsAnOlderCopyThatDiffers() {
+    Game game;
+    game.folder.put(Theme + Copy, everyByte());
+    game.folder.put(Skin + Copy, "lost edits");
+    game.folder.put(Skin + Older, "still older");
+    QVERIFY(game.open());
+    QCOMPARE(game.folder.get(Skin + Older), QByteArray("lost edits"));
+    QCOMPARE(game.folder.get(Skin + Copy), QByteArray("[Skin]\n"));
+    QVERIFY(!game.folder.has(Theme + Older));
+    QCOMPARE(game.panel.texts.size(), 1);
+    QVERIFY(game.panel.texts[0].contains(Skin + Older));
+  }
+
+  void openFailsMidway() {
+    Game game;
+    QVERIFY(QFile::remove(game.folder.native(Skin)));
+    game.state.Paths.ThemeFile = QStringLiteral("before");
+    QVERIFY(!game.open());
+    QVERIFY(game.folder.has(Theme + Copy) && !game.folder.has(Language + Copy));
+    QVERIFY(!game.state.ThemeOpened && game.state.Paths.ThemeFile == u"before" && game.state.Paths.SkinFile.isEmpty());
+    QVERIFY(game.panel.texts.value(0).contains(Skin));
+  }
+
+  void keepsAFileThatChangedSinceOpen() {
+    Game game;
+    QVERIFY(game.open());
+    game.folder.put(Skin, "by another hand");
+    game.folder.put(Language, "the same");
+    game.folder.put(Language + Copy, "the same");
+    QVERIFY(game.save());
+    QCOMPARE(game.folder.get(Skin + Backup), QByteArray("by another hand"));
+    QCOMPARE(game.folder.get(Skin), QByteArray("[Skin]\n"));
+    QVERIFY(!game.folder.has(Theme + Backup) && !game.folder.has(Language + Backup));
+    QCOMPARE(game.panel.texts.size(), 1);
+    QVERIFY(game.panel.texts[0].contains(Skin + Backup));
+  }
+
+  void saveFailsMidway() {
+    Game game;
+    QVERIFY(game.open());
+    for (const QString& name : {Theme, Skin, Language}) game.folder.put(name + Copy, "edited");
+    game.state.Changed = true;
+    game.folder.protect(Skin);
+    QVERIFY(!game.save());
+    QCOMPARE(game.folder.get(Theme), QByteArray("edited"));
+    QCOMPARE(game.folder.get(Skin), QByteArray("[Skin]\n"));
+    QCOMPARE(game.folder.get(Language), QByteArray());
+    QVERIFY(game.state.Changed && game.state.ThemeOpened);
+
+    // A second try finds its own writes of the first, no others.
+    game.folder.protect(Skin, false);
+    QVERIFY(game.save());
+    QCOMPARE(game.folder.get(Language), QByteArray("edited"));
+    QCOMPARE(game.panel.texts.size(), 1);
+  }
+};
+
+QTEST_MAIN(WorkingCopiesTest)
+#include "working_copies_test.moc"
