@@ -1,0 +1,65 @@
+#include <optional>
+
+#include "input.h"
+#include "platform/code_page.h"
+#include "platform/profile_strings.h"
+#include "platform/text_lines.h"
+
+using namespace platform;
+
+namespace {
+
+QByteArrayView trimmed(QByteArrayView text) {
+  while (text.startsWith(' ') || text.startsWith('\t')) text = text.sliced(1);
+  while (text.endsWith(' ') || text.endsWith('\t')) text.chop(1);
+  return text;
+}
+
+bool same(QByteArrayView a, QByteArrayView b) {
+  return SameName(FromAnsi(a), FromAnsi(b));
+}
+
+/// The same rules told line by line, slow and plain.
+std::optional<QByteArray> plainValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  TextLines walk(file);
+  bool inside = false;
+  while (const auto line = walk.next()) {
+    QByteArrayView text = trimmed(*line);
+    if (text.startsWith('[')) {
+      if (inside) return std::nullopt;
+      const qsizetype end = text.indexOf(']');
+      inside = same(trimmed(text.first(end < 0 ? text.size() : end).sliced(1)), trimmed(section));
+    } else if (inside && !text.startsWith(';') && text.indexOf('=') > 0) {
+      if (!same(trimmed(text.first(text.indexOf('='))), trimmed(key))) continue;
+      text = trimmed(text.sliced(text.indexOf('=') + 1));
+      for (const char mark : {'"', '\''}) {
+        if (text.size() > 1 && text.startsWith(mark) && text.endsWith(mark))
+          return text.sliced(1).chopped(1).toByteArray();
+      }
+      return text.toByteArray();
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+/// Section, key, then the file.
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  fuzz::Input input(data, size);
+  const QByteArrayView section = input.line();
+  const QByteArrayView key = input.line();
+  const QByteArrayView file = input.rest();
+  fuzz::Require(FindProfileValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
+
+  const QByteArray keys = ListProfileKeys(file, section);
+  fuzz::Require(keys.isEmpty() || keys.endsWith('\0'), "every key is ended");
+  if (QByteArrayView(file).contains('\0')) return 0;
+  QByteArrayView rest = keys;
+  while (!rest.isEmpty()) {
+    const qsizetype end = rest.indexOf('\0');
+    fuzz::Require(FindProfileValue(file, section, rest.first(end)).has_value(), "a listed key has a value");
+    rest = rest.sliced(end + 1);
+  }
+  return 0;
+}

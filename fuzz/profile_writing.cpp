@@ -1,0 +1,50 @@
+#include <algorithm>
+
+#include "input.h"
+#include "platform/profile_strings.h"
+
+using namespace platform;
+
+namespace {
+
+bool hasLineEnd(QByteArrayView text) {
+  return text.contains('\n') || text.contains('\r');
+}
+
+/// What reading makes of a value: it is read from a file of its own.
+QByteArray readForm(QByteArrayView value) {
+  return FindProfileValue("[S]\nk=" + value.toByteArray(), "S", "k").value_or(QByteArray());
+}
+
+/// All bytes outside one place stay, and a place that held something lies inside one line.
+void requireOnePlace(QByteArrayView before, QByteArrayView after, bool replaced) {
+  const auto head = std::mismatch(before.begin(), before.end(), after.begin(), after.end()).first - before.begin();
+  qsizetype tail = 0;
+  const qsizetype most = std::min(before.size(), after.size()) - head;
+  while (tail < most && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
+  const QByteArrayView gone = before.sliced(head, before.size() - head - tail);
+  fuzz::Require(replaced ? !hasLineEnd(gone) : gone.isEmpty(), "all other bytes stay");
+}
+
+}  // namespace
+
+/// Section, key, value, then the file.
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  fuzz::Input input(data, size);
+  const QByteArrayView section = input.line();
+  const QByteArrayView key = input.line();
+  const QByteArrayView value = input.line();
+  const QByteArrayView file = input.rest();
+  const auto old = FindProfileValue(file, section, key);
+
+  if (const auto changed = SetProfileValue(file, section, key, value)) {
+    fuzz::Require(FindProfileValue(*changed, section, key) == readForm(value), "a written value is read back");
+    requireOnePlace(file, *changed, old.has_value());
+    fuzz::Require(!SetProfileValue(*changed, section, key, value), "the second write has nothing to do");
+    const auto removed = RemoveProfileKey(*changed, section, key);
+    fuzz::Require(removed.has_value(), "a written key can be removed");
+    requireOnePlace(*removed, *changed, false);
+  }
+  fuzz::Require(RemoveProfileKey(file, section, key).has_value() == old.has_value(), "what is found can be removed");
+  return 0;
+}
