@@ -1,0 +1,35 @@
+#pragma once
+
+#include <benchmark/benchmark.h>
+#include <functional>
+#include <string>
+
+namespace bench {
+
+/// How a figure is held against its floor.
+enum class Held {
+  AtMost,        ///< the work takes at most so many times the floor's time
+  FasterAtLeast  ///< the work is at least so many times as fast as the floor
+};
+
+struct Figure {
+  std::string name;
+  double reach;
+  Held held;
+};
+
+using Body = std::function<void(benchmark::State&)>;
+
+/// Registers both sides of a figure as "name/work" and "name/floor".
+void Register(const Figure& figure, const Body& work, const Body& floor);
+
+void RegisterIniAccess();
+void RegisterRecolouring();
+void RegisterScreen();
+
+/// The longest time between two yields of a render so far, in milliseconds.
+double LongestGap();
+/// The screen of that render.
+std::string ScreenInWords();
+
+}  // namespace bench

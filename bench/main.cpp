@@ -1,0 +1,100 @@
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <vector>
+
+#include <QGuiApplication>
+
+#include "figures.h"
+
+namespace bench {
+namespace {
+
+std::vector<Figure>& figures() {
+  static std::vector<Figure> all;
+  return all;
+}
+
+/// Gathers the time of each repetition beside the usual output.
+class Medians : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+      failed_ = failed_ || run.error_occurred;
+      if (run.run_type == Run::RT_Iteration) times_[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
+    }
+  }
+
+  bool failed() const { return failed_; }
+
+  /// The median in microseconds; 0 for what did not run.
+  double of(const std::string& name) const {
+    const auto found = times_.find(name);
+    if (found == times_.end()) return 0;
+    std::vector<double> times = found->second;
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::nth_element(times.begin(), middle, times.end());
+    return *middle;
+  }
+
+ private:
+  std::map<std::string, std::vector<double>> times_;
+  bool failed_ = false;
+};
+
+/// Prints the table; whether every figure that ran has its reach.
+bool printTable(const Medians& medians) {
+  bool reached = true;
+  std::printf("\n%-12s %14s %14s %9s   %s\n", "", "work (us)", "floor (us)", "ratio", "reach");
+  for (const Figure& figure : figures()) {
+    const double work = medians.of(figure.name + "/work");
+    const double floor = medians.of(figure.name + "/floor");
+    if (work <= 0 || floor <= 0) continue;
+    const bool atMost = figure.held == Held::AtMost;
+    const double ratio = atMost ? work / floor : floor / work;
+    const bool holds = atMost ? ratio <= figure.reach : ratio >= figure.reach;
+    reached = reached && holds;
+    std::printf("%-12s %14.1f %14.1f %9.2f   %s %.2f%s\n", figure.name.c_str(), work, floor, ratio,
+                atMost ? "at most" : "faster by", figure.reach, holds ? "" : "  MISSED");
+  }
+  constexpr double LongestGapReach = 100;
+  if (LongestGap() > 0) {
+    std::printf("longest gap between two yields of %s: %.1f ms (reach: under %.0f)\n", ScreenInWords().c_str(),
+                LongestGap(), LongestGapReach);
+  }
+  return reached && LongestGap() < LongestGapReach;
+}
+
+}  // namespace
+
+void Register(const Figure& figure, const Body& work, const Body& floor) {
+  figures().push_back(figure);
+  for (const auto& [side, body] : {std::pair{"/work", work}, {"/floor", floor}}) {
+    benchmark::RegisterBenchmark((figure.name + side).c_str(), body)->Unit(benchmark::kMicrosecond)->UseRealTime();
+  }
+}
+
+}  // namespace bench
+
+/// Takes the options of every Google Benchmark program. Gives 1 when a figure misses its reach.
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QGuiApplication application(argc, argv);
+  char interleave[] = "--benchmark_enable_random_interleaving=true";
+  char repeat[] = "--benchmark_repetitions=15";
+  char time[] = "--benchmark_min_time=0.1";
+  std::vector<char*> options{argv[0], interleave, repeat, time};
+  options.insert(options.end(), argv + 1, argv + argc);
+  int count = static_cast<int>(options.size());
+  benchmark::Initialize(&count, options.data());
+  if (benchmark::ReportUnrecognizedArguments(count, options.data())) return 2;
+
+  bench::RegisterIniAccess();
+  bench::RegisterRecolouring();
+  bench::RegisterScreen();
+  bench::Medians medians;
+  benchmark::RunSpecifiedBenchmarks(&medians);
+  const bool reached = bench::printTable(medians);
+  return reached && !medians.failed() ? 0 : 1;
+}
