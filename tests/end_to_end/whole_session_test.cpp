@@ -130,6 +130,7 @@ void copyFolder(const QString& from, const QString& to) {
     const QString source = walk.next();
     const QString target = QDir(to).filePath(QDir(from).relativeFilePath(source));
     QDir().mkpath(QFileInfo(target).path());
+    QFile::remove(target);
     if (!QFile::copy(source, target)) qFatal("%s", qPrintable(target));
     QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
   }

@@ -3,6 +3,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "platform/failure.h"
 #include "platform/paths.h"
 
 using mainwindows::ConfigFile;
@@ -60,7 +61,7 @@ class ConfigFileTest : public QObject {
     const ConfigFile none({QStringLiteral("\\nowhere\\at all")});
     QVERIFY(none.Path().isEmpty());
     QVERIFY(!none.Problem().isEmpty());
-    none.SetGameFolder(QStringLiteral("C:\\Games\\"));
+    QVERIFY_EXCEPTION_THROWN(none.SetGameFolder(QStringLiteral("C:\\Games\\")), platform::Failure);
     QCOMPARE(none.GameFolder(), QString());
   }
 
