@@ -13,6 +13,7 @@
 #include "platform/pictures.h"
 #include "platform/system_colors.h"
 #include "progressbar/main_window_bar.h"
+#include "progressbar/stored_form.h"
 #include "renderer/render_driver.h"
 #include "toolbar/button_values.h"
 #include "toolwindow/object_selection.h"
@@ -75,11 +76,11 @@ Form1::Form1(const MainServices& services)
       Label1(startLabel(19, 10800, 7800)),
       Label2(startLabel(11, 8160, 8160)),
       ProgressBar1(new progressbar::ProgressBar(Client)),
-      host_(*this) {
+      host_({*Workspace, *ProgressBar1, *Combo1, *Combo2, Queue, [this] { return ToolWindow->Combo1->Text(); }}) {
   setObjectName(QStringLiteral("Form1"));
   setWindowIcon(QIcon(QStringLiteral(":/assets/app.png")));
   setUpToolBar(*ToolBar);
-  ProgressBar1->ReadProperties(progressbar::MainWindowBar());
+  progressbar::ReadProperties(*ProgressBar1, progressbar::MainWindowBar());
   ProgressBar1->resize(ProgressBarSize);
   placeControls();
   Form_Load();

@@ -1,15 +1,29 @@
 #pragma once
 
+#include <functional>
+
+#include "controls/combo_box.h"
+#include "controls/work_queue.h"
+#include "mainwindows/workspace.h"
+#include "progressbar/progress_bar.h"
 #include "renderer/render_host.h"
 
 namespace mainwindows {
 
-class Form1;
+/// What a render uses of the main window.
+struct PreviewControls {
+  mainwindows::Workspace& Workspace;
+  progressbar::ProgressBar& ProgressBar1;
+  controls::ComboBox& Schemes;
+  controls::ComboBox& Buttons;
+  controls::WorkQueue& Queue;
+  std::function<QString()> ScreenName;
+};
 
 /// The main window as a render sees it.
 class PreviewHost : public renderer::RenderHost {
  public:
-  explicit PreviewHost(Form1& form) : form_(form) {}
+  explicit PreviewHost(PreviewControls controls) : controls_(std::move(controls)) {}
 
   int ProgressValue() const override;
   void SetProgressValue(int value) override;
@@ -24,7 +38,7 @@ class PreviewHost : public renderer::RenderHost {
   QString SchemeName() const override;
 
  private:
-  Form1& form_;
+  PreviewControls controls_;
 };
 
 }  // namespace mainwindows

@@ -6,7 +6,6 @@
 #include <QPainter>
 
 #include "progressbar/painting.h"
-#include "progressbar/stored_form.h"
 
 namespace progressbar {
 
@@ -97,17 +96,7 @@ void ProgressBar::InitProperties() {
   SetTextEffectColor(0xFFFFFF);
   SetTextStyle(3);
   SetOrientations(1);
-  SetTextFont(ambientFont());
-}
-
-void ProgressBar::ReadProperties(const platform::PropertyBag& bag) {
-  ReadStoredForm(*this, bag, {objectName(), ambientFont()});
-  if (const std::optional<QSize> size = StoredSize(bag)) resize(*size);
-}
-
-void ProgressBar::WriteProperties(platform::PropertyBag& bag) const {
-  WriteStoredForm(*this, bag, {QString(), ambientFont()});
-  StoreSize(bag, size());
+  SetTextFont(AmbientFont());
 }
 
 void ProgressBar::paintEvent(QPaintEvent* /*event*/) {
@@ -115,7 +104,7 @@ void ProgressBar::paintEvent(QPaintEvent* /*event*/) {
   Paint(painter, size(), state_);
 }
 
-QFont ProgressBar::ambientFont() const {
+QFont ProgressBar::AmbientFont() const {
   const QWidget* container = parentWidget();
   return container == nullptr ? QApplication::font() : container->font();
 }

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-#include "platform/property_bag.h"
 #include "progressbar/properties.h"
 
 namespace progressbar {
@@ -56,11 +55,8 @@ class ProgressBar : public QWidget {
 
   /// The values of a bar newly placed on a form. A new object has them.
   void InitProperties();
-  /// Writes every member from its stored value or its stored default, and the size when it is stored. A value that
-  /// can't be read is passed over. The defaults of Text and TextFont are the object's name and the parent's font.
-  void ReadProperties(const platform::PropertyBag& bag);
-  /// Stores the members that differ from their stored defaults, and the size.
-  void WriteProperties(platform::PropertyBag& bag) const;
+  /// The font that the place of the bar gives it: the parent's.
+  QFont AmbientFont() const;
 
   void About() {}
 
@@ -73,7 +69,6 @@ class ProgressBar : public QWidget {
  private:
   template <typename T>
   void write(T& member, const T& value, QStringView key);
-  QFont ambientFont() const;
 
   Properties state_;
 };

@@ -1,6 +1,7 @@
 #include "progressbar/stored_form.h"
 
 #include <cmath>
+#include <optional>
 #include <type_traits>
 #include <utility>
 
@@ -9,6 +10,12 @@
 namespace progressbar {
 
 namespace {
+
+/// What the place of a bar gives to members that aren't stored.
+struct Ambient {
+  QString DisplayName;
+  QFont Font;
+};
 
 /// One member as it is stored.
 struct Member {
@@ -87,25 +94,30 @@ int ToPixels(int extent) {
   return static_cast<int>(std::lround(extent / ExtentsPerPixel));
 }
 
-}  // namespace
-
-void ReadStoredForm(ProgressBar& bar, const platform::PropertyBag& bag, const Ambient& ambient) {
-  for (const Member& member : Members) {
-    member.write(bar, bag.ReadProperty(member.key.toString(), member.storedDefault(ambient)));
-  }
-}
-
-void WriteStoredForm(const ProgressBar& bar, platform::PropertyBag& bag, const Ambient& ambient) {
-  for (const Member& member : Members) {
-    bag.WriteProperty(member.key.toString(), member.read(bar), member.storedDefault(ambient));
-  }
-}
-
+/// The size in pixels; none when it isn't stored.
 std::optional<QSize> StoredSize(const platform::PropertyBag& bag) {
   const std::optional<int> width = As<int>(bag.ReadProperty(ExtentX.toString(), {}));
   const std::optional<int> height = As<int>(bag.ReadProperty(ExtentY.toString(), {}));
   if (!width || !height) return std::nullopt;
   return QSize(ToPixels(*width), ToPixels(*height));
+}
+
+}  // namespace
+
+void ReadProperties(ProgressBar& bar, const platform::PropertyBag& bag) {
+  const Ambient ambient{bar.objectName(), bar.AmbientFont()};
+  for (const Member& member : Members) {
+    member.write(bar, bag.ReadProperty(member.key.toString(), member.storedDefault(ambient)));
+  }
+  if (const std::optional<QSize> size = StoredSize(bag)) bar.resize(*size);
+}
+
+void WriteProperties(const ProgressBar& bar, platform::PropertyBag& bag) {
+  const Ambient ambient{QString(), bar.AmbientFont()};
+  for (const Member& member : Members) {
+    bag.WriteProperty(member.key.toString(), member.read(bar), member.storedDefault(ambient));
+  }
+  StoreSize(bag, bar.size());
 }
 
 void StoreSize(platform::PropertyBag& bag, const QSize& pixels) {

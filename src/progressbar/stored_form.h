@@ -1,10 +1,6 @@
 #pragma once
 
-#include <optional>
-
-#include <QFont>
 #include <QSize>
-#include <QString>
 
 #include "platform/property_bag.h"
 
@@ -12,19 +8,14 @@ namespace progressbar {
 
 class ProgressBar;
 
-/// What the place of a control gives to members that aren't stored.
-struct Ambient {
-  QString DisplayName;
-  QFont Font;
-};
+/// Writes every member from its stored value or its stored default, in the order of their keys, and the size when it is
+/// stored. A value that can't be read is passed over. The defaults of Text and TextFont are the bar's name and font of
+/// its place.
+void ReadProperties(ProgressBar& bar, const platform::PropertyBag& bag);
+/// Stores the members that differ from their stored defaults, in the same order, and the size.
+void WriteProperties(const ProgressBar& bar, platform::PropertyBag& bag);
 
-/// Writes all members of the bar from the bag, in the order of their keys; a value of a wrong type is passed over.
-void ReadStoredForm(ProgressBar& bar, const platform::PropertyBag& bag, const Ambient& ambient);
-/// Stores the members in the same order.
-void WriteStoredForm(const ProgressBar& bar, platform::PropertyBag& bag, const Ambient& ambient);
-
-/// The size in pixels, kept in hundredths of a millimetre at 96 pixels an inch; none when it isn't stored.
-std::optional<QSize> StoredSize(const platform::PropertyBag& bag);
+/// Stores the size in pixels, kept in hundredths of a millimetre at 96 pixels an inch.
 void StoreSize(platform::PropertyBag& bag, const QSize& pixels);
 
 }  // namespace progressbar

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/render_driver.h"
+#include "renderer/render_context.h"
 
 /// The passes of a render. Which pass a tag belongs to is told by the words in its name, in upper case at any place.
 namespace renderer {

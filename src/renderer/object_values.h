@@ -4,7 +4,7 @@
 
 #include <QString>
 
-#include "renderer/render_driver.h"
+#include "renderer/render_context.h"
 
 /// How the passes read an object's keys, and how they tell that one is left out.
 namespace renderer {

@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "platform/numbers.h"
-#include "renderer/texture_pipeline.h"
 
 namespace renderer {
 namespace {

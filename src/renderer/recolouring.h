@@ -6,6 +6,9 @@
 /// The two ways to put a colour into a picture (Format_ARGB32, alpha is kept). Colour numbers are 0 to 255.
 namespace renderer {
 
+/// The intensity of an object that has none.
+inline constexpr float NoIntensity = -1.0F;
+
 struct ColorNumbers {
   float R = 0;
   float G = 0;

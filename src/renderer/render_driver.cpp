@@ -45,10 +45,4 @@ void DrawScreen(RenderContext& context) {
   context.Host.SetProgressVisible(false);
 }
 
-void UpdateProgress(RenderContext& context, qint16 step) {
-  context.Host.SetProgressValue(context.Host.ProgressValue() + step);
-  context.Host.SetProgressText(QStringLiteral("%1%").arg(context.Host.ProgressValue()));
-  context.Host.Yield();
-}
-
 }  // namespace renderer

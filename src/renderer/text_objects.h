@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/render_driver.h"
+#include "renderer/render_context.h"
 
 namespace renderer {
 

@@ -6,11 +6,9 @@
 #include "platform/dialogs.h"
 #include "platform/graphics.h"
 #include "platform/surface.h"
+#include "renderer/recolouring.h"
 
 namespace renderer {
-
-/// The intensity of an object that has none.
-inline constexpr float NoIntensity = -1.0F;
 
 enum class TextureOutcome { Drawn, NoSession, NoPicture, NoColor, ColorRange, NoArea };
 

@@ -46,17 +46,17 @@ class StoredFormTest : public QObject {
     bar.setObjectName(QStringLiteral("ProgressBar1"));
     bar.SetValue(3);
     const QSignalSpy spy(&bar, &ProgressBar::PropertyChanged);
-    bar.ReadProperties(PropertyBag());
+    progressbar::ReadProperties(bar, PropertyBag());
     QCOMPARE(told(spy), KeysInOrder);
     QCOMPARE(bar.Value(), 50);
     QCOMPARE(bar.TextEffectColor(), 0xC8C8C8U);
     QCOMPARE(bar.Text(), QStringLiteral("ProgressBar1"));
     QCOMPARE(bar.TextFont().pixelSize(), 17);
     PropertyBag bag;
-    bar.WriteProperties(bag);
+    progressbar::WriteProperties(bar, bag);
     QCOMPARE(storedKeys(bag), QStringList(QStringLiteral("Text")));
     bar.InitProperties();
-    bar.WriteProperties(bag);
+    progressbar::WriteProperties(bar, bag);
     QCOMPARE(storedKeys(bag).join(u' '), QStringLiteral("TextStyle Text TextEffectColor TextEffect"));
   }
 
@@ -66,7 +66,7 @@ class StoredFormTest : public QObject {
     bag.WriteProperty(QStringLiteral("MIN"), 300, {});
     bag.WriteProperty(QStringLiteral("max"), 900, {});
     ProgressBar bar;
-    bar.ReadProperties(bag);
+    progressbar::ReadProperties(bar, bag);
     QCOMPARE((QList<int>{bar.min(), bar.max(), bar.Value()}), (QList<int>{300, 900, 700}));
   }
 
@@ -85,7 +85,7 @@ class StoredFormTest : public QObject {
     bag.WriteProperty(key, value, {});
     ProgressBar bar;
     const QSignalSpy spy(&bar, &ProgressBar::PropertyChanged);
-    bar.ReadProperties(bag);
+    progressbar::ReadProperties(bar, bag);
     QStringList others = KeysInOrder;
     others.removeOne(key);
     QCOMPARE(told(spy), others);
@@ -93,17 +93,17 @@ class StoredFormTest : public QObject {
 
   void mainWindowBarGoesRound() {
     ProgressBar bar;
-    bar.ReadProperties(progressbar::MainWindowBar());
+    progressbar::ReadProperties(bar, progressbar::MainWindowBar());
     QCOMPARE(bar.size(), QSize(801, 20));
     QCOMPARE(bar.RoundedValue(), 0);
     QCOMPARE(bar.PBSCustomeColor2(), 0xC0C0C0U);
     PropertyBag bag;
-    bar.WriteProperties(bag);
+    progressbar::WriteProperties(bar, bag);
     ProgressBar copy;
-    copy.ReadProperties(bag);
+    progressbar::ReadProperties(copy, bag);
     QCOMPARE(copy.size(), bar.size());
     PropertyBag again;
-    copy.WriteProperties(again);
+    progressbar::WriteProperties(copy, again);
     for (const QString& key : KeysInOrder) QCOMPARE(again.ReadProperty(key, {}), bag.ReadProperty(key, {}));
     QCOMPARE(storedKeys(again), storedKeys(progressbar::MainWindowBar()));
   }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/dialogs.h"
+#include "platform/graphics.h"
+#include "platform/status_line.h"
+#include "platform/surface.h"
+#include "renderer/render_account.h"
+#include "renderer/render_host.h"
+#include "themefiles/module_state.h"
+#include "themefiles/screen_table.h"
+
+namespace renderer {
+
+/// All that a render works on.
+struct RenderContext {
+  themefiles::ModuleState& State;
+  const themefiles::TagList& List1;  ///< the screen's tags in the order of painting
+  platform::Surface& Workspace;
+  RenderHost& Host;
+  platform::StatusLine& Status;
+  platform::Dialogs& Dialogs;
+  platform::Graphics& Graphics;
+  RenderAccount& Account;
+};
+
+/// Advances the progress bar by `step` percent and lets events through.
+void UpdateProgress(RenderContext& context, qint16 step);
+
+}  // namespace renderer
