@@ -1,5 +1,9 @@
 #include "mainwindows/open_theme.h"
 
+#include <utility>
+
+#include <QShowEvent>
+
 #include "controls/twips.h"
 #include "platform/files.h"
 #include "themefiles/ini_access.h"
@@ -15,7 +19,7 @@ QString iniValue(const QString& section, const QString& key, const QString& file
 
 }  // namespace
 
-Form3::Form3(const themefiles::ThemePaths& folders, const QStringList& themes,
+Form3::Form3(themefiles::ThemePaths folders, const QStringList& themes,
              std::function<bool(const themefiles::ThemePaths&)> open, QWidget* owner)
     : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
@@ -28,7 +32,7 @@ Form3::Form3(const themefiles::ThemePaths& folders, const QStringList& themes,
       Combo1(new controls::ComboBox(this)),
       Command1(new QPushButton(QStringLiteral("&Open"), this)),
       Command2(new QPushButton(QStringLiteral("&Cancel"), this)),
-      paths_(folders),
+      paths_(std::move(folders)),
       open_(std::move(open)) {
   setObjectName(QStringLiteral("Form3"));
   label(QStringLiteral("Choose your Theme:"), 120, 120, 2295);

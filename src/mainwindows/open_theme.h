@@ -20,7 +20,7 @@ class Form3 : public QDialog {
  public:
   /// `folders` names the game folder and its languages. `open` makes the working copies of the choice; false keeps the
   /// dialog up.
-  Form3(const themefiles::ThemePaths& folders, const QStringList& themes,
+  Form3(themefiles::ThemePaths folders, const QStringList& themes,
         std::function<bool(const themefiles::ThemePaths&)> open, QWidget* owner);
 
   controls::ListBox* List1;    ///< themes

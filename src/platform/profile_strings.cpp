@@ -136,9 +136,18 @@ bool canBeFound(QByteArrayView section, QByteArrayView key) {
 }  // namespace
 
 std::optional<QByteArray> FindProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const auto lines = FindProfileSection(file, section);
+  return lines ? FindProfileValue(*lines, key) : std::nullopt;
+}
+
+std::optional<QByteArrayView> FindProfileSection(QByteArrayView file, QByteArrayView section) {
   const char* const lines = findSection(file, trimmed(section));
   if (!lines) return std::nullopt;
-  const auto line = KeyLines(lines, file.end()).find(trimmed(key));
+  return QByteArrayView(lines, file.end());
+}
+
+std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView key) {
+  const auto line = KeyLines(lines.begin(), lines.end()).find(trimmed(key));
   if (!line) return std::nullopt;
   QByteArrayView value = trimmed({line->value, line->textEnd});
   const bool quoted =

@@ -15,6 +15,11 @@ namespace platform {
 /// it. None without the section or key.
 std::optional<QByteArray> FindProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key);
 
+/// The same in two steps, for who asks for several keys of a section: the file from behind the section's line on, and
+/// the value of a key there.
+std::optional<QByteArrayView> FindProfileSection(QByteArrayView file, QByteArrayView section);
+std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView key);
+
 /// All keys of the section in file order, doubles too, each ended by one NUL; empty without the section.
 QByteArray ListProfileKeys(QByteArrayView file, QByteArrayView section);
 

@@ -10,6 +10,7 @@
 #include "renderer/text_objects.h"
 #include "renderer/texture_pipeline.h"
 #include "themefiles/colour_tables.h"
+#include "themefiles/ini_access.h"
 
 namespace renderer {
 namespace {
@@ -36,32 +37,34 @@ struct Look {
 };
 
 /// Draws the object's texture and accounts what came of it.
-void drawObject(RenderContext& context, const QString& section, const QString& path, const Box& box, const Look& look) {
-  const QString colorName = ThemeValue(context, section, look.colorKey);
+void drawObject(RenderContext& context, const ObjectSection& section, const QString& path, const Box& box,
+                const Look& look) {
+  const QString colorName = section.Value(look.colorKey);
   const QString color = themefiles::ResolveColor(context.State, colorName, context.Host.SchemeName());
   const float intensity =
-      look.intensityKey.isEmpty() ? NoIntensity : static_cast<float>(ThemeNumber(context, section, look.intensityKey));
-  const QString type = platform::UpperCase(ThemeValue(context, section, QStringLiteral("TYPE")));
+      look.intensityKey.isEmpty() ? NoIntensity : static_cast<float>(section.Number(look.intensityKey));
+  const QString type = platform::UpperCase(section.Value(QStringLiteral("TYPE")));
   const TextureResult result = DrawTexture(context.Workspace, path, type, box.X, box.Y, box.W, box.H, color, intensity,
                                            context.Graphics, context.Dialogs);
   switch (result.outcome) {
     case TextureOutcome::Drawn:
-      context.Account.Objects.push_back({section, result.place, {}});
+      context.Account.Objects.push_back({section.Name(), result.place, {}});
       break;
     case TextureOutcome::NoSession:
       break;
     case TextureOutcome::NoPicture:
-      LeaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
+      LeaveOut(context, section.Name(), Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
       break;
     case TextureOutcome::NoColor:
-      LeaveOut(context, section, Reason::UnknownColor, look.colorKey, colorName);
+      LeaveOut(context, section.Name(), Reason::UnknownColor, look.colorKey, colorName);
       break;
     case TextureOutcome::ColorRange:
-      LeaveOut(context, section, Reason::ColorRange, look.intensityKey.isEmpty() ? look.colorKey : look.intensityKey,
+      LeaveOut(context, section.Name(), Reason::ColorRange,
+               look.intensityKey.isEmpty() ? look.colorKey : look.intensityKey,
                look.intensityKey.isEmpty() ? color : platform::NumberText(intensity));
       break;
     case TextureOutcome::NoArea:
-      LeaveOut(context, section, Reason::NoArea, QStringLiteral("W x H"),
+      LeaveOut(context, section.Name(), Reason::NoArea, QStringLiteral("W x H"),
                QStringLiteral("%1 x %2").arg(box.W).arg(box.H));
       break;
   }
@@ -84,7 +87,7 @@ bool countButton(themefiles::ModuleState& state) {
 void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, int count, int& textShift) {
   for (int number = 1; number <= count; ++number) {
     const QString child = tag + QStringLiteral("TEXT") + QString::number(number);
-    if (!ThemeValue(context, child, QStringLiteral("X")).isEmpty()) {
+    if (!themefiles::GetINI(child, QStringLiteral("X"), QString(), context.State.Paths.ThemeFile).isEmpty()) {
       DrawTextObject(context, child, box.X, box.Y + textShift, tag);
       textShift = 0;
     }
@@ -94,28 +97,29 @@ void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, 
 
 /// `textShift` lives across the buttons of a pass: a grown button hands it to the next child text that is drawn.
 void drawButton(RenderContext& context, const QString& tag, int& textShift) {
-  const QString visible = ThemeValue(context, tag, QStringLiteral("Visible"));
+  const ObjectSection section(context, tag);
+  const QString visible = section.Value(QStringLiteral("Visible"));
   if (visible == u"0") {
     LeaveOut(context, tag, Reason::Hidden, QStringLiteral("Visible"), visible);
     return;
   }
   const bool selected = countButton(context.State);
-  const QString path = TexturePath(context, tag);
+  const QString path = TexturePath(context, section);
   if (path.isEmpty()) return;
-  auto box = ThemeBox(context, tag, screenStep());
+  auto box = ThemeBox(context, section, screenStep());
   if (!box) return;
   Look look{QStringLiteral("DColor"), QStringLiteral("DINT")};
   if (selected) {
     look = {QStringLiteral("Color"), QStringLiteral("INT")};
-    const auto selectedHeight = ThemeInt16(context, tag, QStringLiteral("SelectH"), screenStep());
+    const auto selectedHeight = ThemeInt16(context, section, QStringLiteral("SelectH"), screenStep());
     if (!selectedHeight) return;
     if (*selectedHeight != 0) {
       if (!platform::UpperCase(tag).contains(u"COLLECTION")) textShift = *selectedHeight - box->H;
       box->H = *selectedHeight;
     }
   }
-  drawObject(context, tag, path, *box, look);
-  const auto texts = ThemeInt16(context, tag, QStringLiteral("TEXTS"), screenStep());
+  drawObject(context, section, path, *box, look);
+  const auto texts = ThemeInt16(context, section, QStringLiteral("TEXTS"), screenStep());
   if (!texts) return;
   drawChildTexts(context, tag, *box, *texts, textShift);
   showObject(context);
@@ -125,7 +129,7 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
 
 void DrawBackground(RenderContext& context, const QString& stem) {
   const QString section = stem + QStringLiteral("Background");
-  const QString path = TexturePath(context, section);
+  const QString path = TexturePath(context, ObjectSection(context, section));
   context.Workspace.Wipe(platform::ColorOf(context.State.BackgroundColor));
   if (path.isEmpty()) return;
   const QImage picture = platform::LoadPicture(path);
@@ -141,11 +145,12 @@ void DrawStatics(RenderContext& context) {
   for (int row = 0; row < context.List1.ListCount(); ++row) {
     const QString tag = context.List1.List(row);
     if (!holdsAny(platform::UpperCase(tag), {u"STATIC", u"SONGVIDEOICON"})) continue;
-    const QString path = TexturePath(context, tag);
+    const ObjectSection section(context, tag);
+    const QString path = TexturePath(context, section);
     if (path.isEmpty()) continue;
-    const auto box = ThemeBox(context, tag, staticStep());
+    const auto box = ThemeBox(context, section, staticStep());
     if (!box) continue;
-    drawObject(context, tag, path, *box, {QStringLiteral("Color"), QString()});
+    drawObject(context, section, path, *box, {QStringLiteral("Color"), QString()});
     showObject(context);
   }
 }

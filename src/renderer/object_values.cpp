@@ -8,31 +8,34 @@
 
 namespace renderer {
 
-QString ThemeValue(const RenderContext& context, const QString& section, const QString& key) {
-  return themefiles::GetINI(section, key, QString(), context.State.Paths.ThemeFile);
+ObjectSection::ObjectSection(const RenderContext& context, const QString& name)
+    : name_(name), reader_(name, context.State.Paths.ThemeFile) {}
+
+QString ObjectSection::Value(const QString& key, const QString& defaultValue) const {
+  return reader_.Value(key, defaultValue);
 }
 
-double ThemeNumber(const RenderContext& context, const QString& section, const QString& key) {
-  return platform::NumberOf(ThemeValue(context, section, key));
+double ObjectSection::Number(const QString& key) const {
+  return platform::NumberOf(Value(key));
 }
 
 void LeaveOut(RenderContext& context, const QString& section, Reason why, const QString& key, const QString& value) {
   context.Account.Missing.push_back({section, why, key, value});
 }
 
-std::optional<qint16> ThemeInt16(RenderContext& context, const QString& section, const QString& key,
+std::optional<qint16> ThemeInt16(RenderContext& context, const ObjectSection& section, const QString& key,
                                  const QString& step) {
-  const QString value = ThemeValue(context, section, key);
+  const QString value = section.Value(key);
   const auto number = platform::RoundToInt16(platform::NumberOf(value));
   if (!number) {
-    LeaveOut(context, section, Reason::NumberTooLarge, key, value);
+    LeaveOut(context, section.Name(), Reason::NumberTooLarge, key, value);
     context.Status.ShowStatus(
-        platform::ReportText(step, QStringLiteral("%1: %2=%3 is too large").arg(section, key, value)));
+        platform::ReportText(step, QStringLiteral("%1: %2=%3 is too large").arg(section.Name(), key, value)));
   }
   return number;
 }
 
-std::optional<Box> ThemeBox(RenderContext& context, const QString& section, const QString& step) {
+std::optional<Box> ThemeBox(RenderContext& context, const ObjectSection& section, const QString& step) {
   constexpr std::array<std::pair<QStringView, qint16 Box::*>, 4> Sides{
       {{u"X", &Box::X}, {u"Y", &Box::Y}, {u"W", &Box::W}, {u"H", &Box::H}}};
   Box box;
@@ -44,16 +47,16 @@ std::optional<Box> ThemeBox(RenderContext& context, const QString& section, cons
   return box;
 }
 
-QString TexturePath(RenderContext& context, const QString& section) {
-  const QString name = ThemeValue(context, section, QStringLiteral("Tex"));
+QString TexturePath(RenderContext& context, const ObjectSection& section) {
+  const QString name = section.Value(QStringLiteral("Tex"));
   const QString file = themefiles::GetINI(QStringLiteral("Textures"), name, QString(), context.State.Paths.SkinFile);
   if (file.isEmpty()) {
-    LeaveOut(context, section, Reason::NoTexture, QStringLiteral("Tex"), name);
+    LeaveOut(context, section.Name(), Reason::NoTexture, QStringLiteral("Tex"), name);
     return {};
   }
   const QString path = context.State.Paths.SkinDirectory + u'\\' + file;
   if (!platform::FileExists(path)) {
-    LeaveOut(context, section, Reason::NoFile, QStringLiteral("Tex"), file);
+    LeaveOut(context, section.Name(), Reason::NoFile, QStringLiteral("Tex"), file);
     return {};
   }
   return path;

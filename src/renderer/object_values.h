@@ -5,20 +5,30 @@
 #include <QString>
 
 #include "renderer/render_context.h"
+#include "themefiles/ini_access.h"
 
 /// How the passes read an object's keys, and how they tell that one is left out.
 namespace renderer {
 
-/// The value of a key of the theme, at most 255 letters, empty without one.
-QString ThemeValue(const RenderContext& context, const QString& section, const QString& key);
+/// The section of an object, read from the theme when the object's turn comes.
+class ObjectSection {
+ public:
+  ObjectSection(const RenderContext& context, const QString& name);
+  const QString& Name() const { return name_; }
+  /// The value of a key, at most 255 letters; empty, or the default, without one.
+  QString Value(const QString& key, const QString& defaultValue = QString()) const;
+  /// The number of such a value, 0 without one.
+  double Number(const QString& key) const;
 
-/// The number of such a value, 0 without one.
-double ThemeNumber(const RenderContext& context, const QString& section, const QString& key);
+ private:
+  QString name_;
+  themefiles::SectionReader reader_;
+};
 
 void LeaveOut(RenderContext& context, const QString& section, Reason why, const QString& key, const QString& value);
 
 /// The number rounded to 16 bits. One that doesn't fit is accounted and reported as `step` + [section, key, value].
-std::optional<qint16> ThemeInt16(RenderContext& context, const QString& section, const QString& key,
+std::optional<qint16> ThemeInt16(RenderContext& context, const ObjectSection& section, const QString& key,
                                  const QString& step);
 
 /// X, Y, W and H of an object.
@@ -30,10 +40,10 @@ struct Box {
 };
 
 /// None when one of the four doesn't fit 16 bits; the first such is reported.
-std::optional<Box> ThemeBox(RenderContext& context, const QString& section, const QString& step);
+std::optional<Box> ThemeBox(RenderContext& context, const ObjectSection& section, const QString& step);
 
 /// The path of the picture behind a section's Tex, by way of the skin's entry; empty, and accounted, when the skin has
 /// no entry or no file stands there.
-QString TexturePath(RenderContext& context, const QString& section);
+QString TexturePath(RenderContext& context, const ObjectSection& section);
 
 }  // namespace renderer

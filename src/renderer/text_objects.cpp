@@ -29,42 +29,41 @@ int channelOf(double fraction) {
   return channel >= 255 ? 255 : channel > 0 ? static_cast<int>(channel) : 0;
 }
 
-QColor colorOf(const RenderContext& context, const QString& section) {
-  const QString name = ThemeValue(context, section, QStringLiteral("Color"));
+QColor colorOf(const RenderContext& context, const ObjectSection& section) {
+  const QString name = section.Value(QStringLiteral("Color"));
   if (!name.isEmpty()) {
     const QString color = themefiles::ResolveColor(context.State, name, context.Host.SchemeName());
     return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
   }
-  return {channelOf(ThemeNumber(context, section, QStringLiteral("ColR"))),
-          channelOf(ThemeNumber(context, section, QStringLiteral("ColG"))),
-          channelOf(ThemeNumber(context, section, QStringLiteral("ColB")))};
+  return {channelOf(section.Number(QStringLiteral("ColR"))), channelOf(section.Number(QStringLiteral("ColG"))),
+          channelOf(section.Number(QStringLiteral("ColB")))};
 }
 
 /// Sets face and size; false when the text asks for a size that no text has.
-bool setFont(RenderContext& context, const QString& section) {
-  const double fontNumber = ThemeNumber(context, section, QStringLiteral("Font"));
-  const QString size = ThemeValue(context, section, QStringLiteral("Size"));
+bool setFont(RenderContext& context, const ObjectSection& section) {
+  const double fontNumber = section.Number(QStringLiteral("Font"));
+  const QString size = section.Value(QStringLiteral("Size"));
   for (const Face& face : Faces) {
     if (face.fontNumber != fontNumber) continue;
     context.Workspace.SetFontName(face.name.toString());
     const auto points = static_cast<float>(platform::NumberOf(size) * face.pointsPerSize);
     context.Workspace.SetFontSize(points);
     if (points > 0) return true;
-    LeaveOut(context, section, Reason::NoSize, QStringLiteral("Size"), size);
+    LeaveOut(context, section.Name(), Reason::NoSize, QStringLiteral("Size"), size);
     return false;
   }
   return true;
 }
 
-QString wordsOf(const RenderContext& context, const QString& section) {
-  const QString key = themefiles::GetINI(section, QStringLiteral("Text"), section, context.State.Paths.ThemeFile);
-  if (key.isEmpty()) return section;
+QString wordsOf(const RenderContext& context, const ObjectSection& section) {
+  const QString key = section.Value(QStringLiteral("Text"), section.Name());
+  if (key.isEmpty()) return section.Name();
   return themefiles::GetINI(QStringLiteral("Text"), key, key, context.State.Paths.LanguageFile);
 }
 
-void printAligned(RenderContext& context, const QString& section, const QString& words, const QString& owner) {
+void printAligned(RenderContext& context, const ObjectSection& section, const QString& words, const QString& owner) {
   platform::Surface& surface = context.Workspace;
-  const double align = ThemeNumber(context, section, QStringLiteral("Align"));
+  const double align = section.Number(QStringLiteral("Align"));
   const double width = surface.TextWidth(words);
   const double height = surface.TextHeight(words);
   if (align == 1) surface.CurrentX = static_cast<float>(surface.CurrentX - width / 2);
@@ -72,15 +71,16 @@ void printAligned(RenderContext& context, const QString& section, const QString&
   surface.CurrentY = static_cast<float>(surface.CurrentY + height / 5);
   const QRectF place = QRectF(surface.CurrentX, surface.CurrentY, width, height) & QRectF(surface.image().rect());
   surface.Print(words);
-  context.Account.Objects.push_back({section, place.toAlignedRect(), owner});
+  context.Account.Objects.push_back({section.Name(), place.toAlignedRect(), owner});
 }
 
 }  // namespace
 
-void DrawTextObject(RenderContext& context, const QString& section, int baseX, int baseY, const QString& owner) {
+void DrawTextObject(RenderContext& context, const QString& name, int baseX, int baseY, const QString& owner) {
+  const ObjectSection section(context, name);
   platform::Surface& surface = context.Workspace;
-  surface.CurrentX = static_cast<float>(ThemeNumber(context, section, QStringLiteral("X")) + baseX);
-  surface.CurrentY = static_cast<float>(ThemeNumber(context, section, QStringLiteral("Y")) + baseY);
+  surface.CurrentX = static_cast<float>(section.Number(QStringLiteral("X")) + baseX);
+  surface.CurrentY = static_cast<float>(section.Number(QStringLiteral("Y")) + baseY);
   surface.ForeColor = colorOf(context, section);
   if (setFont(context, section)) printAligned(context, section, wordsOf(context, section), owner);
   UpdateProgress(context, context.State.ProgressStep);

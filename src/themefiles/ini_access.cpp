@@ -15,6 +15,11 @@ QByteArray defaultBytes(const QString& text) {
   return bytes;
 }
 
+/// What a buffer of that size takes of a value, or of the Default without one.
+QString shown(const std::optional<QByteArray>& value, const QString& text, qint16 bufferSize) {
+  return platform::FromAnsi((value ? *value : defaultBytes(text)).left(bufferSize - 1));
+}
+
 bool holdsLineEnd(const QString& text) {
   return text.contains(u'\r') || text.contains(u'\n') || text.contains(QChar(0));
 }
@@ -68,7 +73,23 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
     // A file that can't be read holds no key.
     if (!Key) return {};
   }
-  return platform::FromAnsi(found.value_or(defaultBytes(Default)).left(BufferSize - 1));
+  return shown(found, Default, BufferSize);
+}
+
+SectionReader::SectionReader(const QString& Section, const QString& FileName) {
+  const auto section = platform::ToAnsi(Section);
+  try {
+    file_ = platform::ReadFile(FileName);
+    if (section) lines_ = platform::FindProfileSection(file_, *section);
+  } catch (const platform::Failure&) {
+    // A file that can't be read holds no section.
+  }
+}
+
+QString SectionReader::Value(const QString& Key, const QString& Default) const {
+  const auto key = platform::ToAnsi(Key);
+  const bool asked = lines_ && key && !key->isEmpty();
+  return shown(asked ? platform::FindProfileValue(*lines_, *key) : std::nullopt, Default, ValueBufferSize);
 }
 
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName) {

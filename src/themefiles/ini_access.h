@@ -2,6 +2,8 @@
 
 #include <optional>
 
+#include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 #include <QStringList>
 
@@ -17,6 +19,18 @@ inline constexpr qint16 ValueBufferSize = 256;
 /// BufferSize - 2. Reports nothing.
 QString GetINI(const QString& Section, const std::optional<QString>& Key, const QString& Default,
                const QString& FileName, qint16 BufferSize = ValueBufferSize);
+
+/// One section as it stands in the file at this moment, for who asks for several of its keys: each as GetINI gives it,
+/// from one reading of the file. Lives no longer than the work on that section.
+class SectionReader {
+ public:
+  SectionReader(const QString& Section, const QString& FileName);
+  QString Value(const QString& Key, const QString& Default = QString()) const;
+
+ private:
+  QByteArray file_;
+  std::optional<QByteArrayView> lines_;  ///< of file_; none without the section
+};
 
 /// Sets the key's value in place, adds the key or the section; without a Value removes the key. All other bytes of the
 /// file stay. Text that the code page lacks, or with a line end or NUL in it, is not written; nor is anything when the

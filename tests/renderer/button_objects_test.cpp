@@ -32,6 +32,7 @@ class ButtonObjectsTest : public QObject {
     row("no colour", "Color=|", {});
     row("hidden", "Visible=0|", {}, 2, 2);
     row("False is visible", "Visible=False|", place);
+    row("0.0 is visible", "Visible=0.0|", place);
     row("no texture", "Tex=|", {}, 3, 2);
     row("number too large", "H=40000|", {}, 3, 2);
     row("SelectH too large", "SelectH=40000|", {}, 3, 2);
