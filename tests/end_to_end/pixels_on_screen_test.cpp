@@ -3,6 +3,7 @@
 
 #include "support/windows.h"
 
+using namespace Qt::StringLiterals;
 using support::Program;
 
 namespace {
@@ -112,12 +113,9 @@ class PixelsOnScreenTest : public QObject {
     const Pixel actual = pixelOf(screen.pixel(place));
     for (size_t i = 0; i < 3; ++i) {
       QVERIFY2(std::abs(actual[i] - expected[i]) <= tolerance,
-               qPrintable(QStringLiteral("%1, %2: channel %3 is %4 instead of %5")
-                              .arg(place.x())
-                              .arg(place.y())
-                              .arg(i)
-                              .arg(actual[i])
-                              .arg(expected[i])));
+               qPrintable(
+                   u"%1, %2: channel %3 is %4 instead of %5"_s.arg(place.x()).arg(place.y()).arg(i).arg(actual[i]).arg(
+                       expected[i])));
     }
   }
 
@@ -129,11 +127,11 @@ class PixelsOnScreenTest : public QObject {
       theme += "[LoadingStatic" + QByteArray::number(int(10 + i)) + "]\n" + Cases[i].keys + "\n";
     }
     theme += "[LoadingStaticScaled]\nTex=Blocks\nX=100\nY=300\nW=40\nH=20\nColor=Any\n";
-    game.write(QStringLiteral("Themes/Alpha.ini"), theme);
-    game.write(QStringLiteral("Skins/Alpha/One.ini"),
+    game.write(u"Themes/Alpha.ini"_s, theme);
+    game.write(u"Skins/Alpha/One.ini"_s,
                "[Textures]\nPatch=patch.png\nFaint=faint.png\nStrip=strip.png\nBlocks=blocks.bmp\n");
     const auto save = [&](const char* name, const QImage& picture) {
-      QVERIFY(picture.save(game.native(QStringLiteral("Skins/Alpha/") + QLatin1StringView(name))));
+      QVERIFY(picture.save(game.native(u"Skins/Alpha/"_s + QLatin1StringView(name))));
     };
     save("patch.png", pictureOf(patch, 16, 12));
     save("faint.png", pictureOf(faint, 16, 12));

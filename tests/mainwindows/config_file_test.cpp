@@ -6,6 +6,7 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 
+using namespace Qt::StringLiterals;
 using mainwindows::ConfigFile;
 
 class ConfigFileTest : public QObject {
@@ -14,7 +15,7 @@ class ConfigFileTest : public QObject {
  private:
   struct Folder {
     QTemporaryDir dir;
-    QString file = dir.filePath(QStringLiteral("config.ini"));
+    QString file = dir.filePath(u"config.ini"_s);
     QString path = platform::ProgramPath(dir.path());
 
     QByteArray bytes() const {
@@ -34,49 +35,49 @@ class ConfigFileTest : public QObject {
     const ConfigFile made({first.path, second.path});
     QCOMPARE(first.bytes(), QByteArray("[Setup]\r\nEXEDirectory=\r\n"));
     QCOMPARE(made.GameFolder(), QString());
-    made.SetGameFolder(QStringLiteral("C:\\Games\\"));
+    made.SetGameFolder(u"C:\\Games\\"_s);
     QCOMPARE(first.bytes(), QByteArray("[Setup]\r\nEXEDirectory=C:\\Games\\\r\n"));
 
     const QByteArray foreign = "; mine\n[setup]\nexedirectory = \"D:\\x\\\"\nOther=1";
     first.write(foreign);
     const ConfigFile kept({first.path, second.path});
     QCOMPARE(first.bytes(), foreign);
-    QCOMPARE(kept.GameFolder(), QStringLiteral("D:\\x\\"));
+    QCOMPARE(kept.GameFolder(), u"D:\\x\\"_s);
     QCOMPARE(second.bytes(), QByteArray("none"));
   }
 
   void theNextFolderTakesIt_data() {
     QTest::addColumn<QString>("first");
-    QTest::newRow("a folder that isn't there") << QStringLiteral("\\nowhere\\at all");
-    QTest::newRow("a file") << QStringLiteral("\\dev\\null");
-    QTest::newRow("a system folder") << QStringLiteral("\\usr\\local");
-    QTest::newRow("a folder of system programs, otherwise written") << QStringLiteral("\\usr\\\\local\\bin");
+    QTest::newRow("a folder that isn't there") << u"\\nowhere\\at all"_s;
+    QTest::newRow("a file") << u"\\dev\\null"_s;
+    QTest::newRow("a system folder") << u"\\usr\\local"_s;
+    QTest::newRow("a folder of system programs, otherwise written") << u"\\usr\\\\local\\bin"_s;
   }
   void theNextFolderTakesIt() {
     QFETCH(QString, first);
     const Folder second;
     const ConfigFile config({first, second.path});
-    QCOMPARE(config.Path(), second.path + QStringLiteral("\\config.ini"));
+    QCOMPARE(config.Path(), second.path + u"\\config.ini"_s);
     QVERIFY(config.Problem().isEmpty());
-    const ConfigFile none({QStringLiteral("\\nowhere\\at all")});
+    const ConfigFile none({u"\\nowhere\\at all"_s});
     QVERIFY(none.Path().isEmpty());
     QVERIFY(!none.Problem().isEmpty());
-    QVERIFY_EXCEPTION_THROWN(none.SetGameFolder(QStringLiteral("C:\\Games\\")), platform::Failure);
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, none.SetGameFolder(u"C:\\Games\\"_s));
     QCOMPARE(none.GameFolder(), QString());
   }
 
   void folderOutsideTheCodePage_data() {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QByteArray>("stored");
-    QTest::newRow("in the code page") << QStringLiteral("M\u00fcller") << QByteArray("M\xfcller");
-    QTest::newRow("beyond it") << QStringLiteral("\u6b4c \u00fc") << QByteArray("\xe6\xad\x8c \xc3\xbc");
+    QTest::newRow("in the code page") << u"M\u00fcller"_s << QByteArray("M\xfcller");
+    QTest::newRow("beyond it") << u"\u6b4c \u00fc"_s << QByteArray("\xe6\xad\x8c \xc3\xbc");
   }
   void folderOutsideTheCodePage() {
     QFETCH(QString, name);
     QFETCH(QByteArray, stored);
     const Folder place;
     QVERIFY(QDir(place.dir.path()).mkdir(name));
-    QFile game(place.dir.filePath(name + QStringLiteral("/Vocora.exe")));
+    QFile game(place.dir.filePath(name + u"/Vocora.exe"_s));
     QVERIFY(game.open(QIODevice::WriteOnly));
     const QString folder = place.path + u'\\' + name + u'\\';
     ConfigFile({place.path}).SetGameFolder(folder);

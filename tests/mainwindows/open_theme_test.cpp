@@ -3,6 +3,7 @@
 #include "platform/paths.h"
 #include "support/windows.h"
 
+using namespace Qt::StringLiterals;
 using mainwindows::Form3;
 using platform::BoxAnswer;
 using support::GameFolder;
@@ -12,29 +13,29 @@ using Spoil = void (*)(const GameFolder& game);
 
 namespace {
 
-const QString ThemeFile = QStringLiteral("Themes/Alpha.ini");
-const QString SkinFile = QStringLiteral("Skins/Alpha/One.ini");
-const QString LanguageFile = QStringLiteral("Languages/English.ini");
+const QString ThemeFile = u"Themes/Alpha.ini"_s;
+const QString SkinFile = u"Skins/Alpha/One.ini"_s;
+const QString LanguageFile = u"Languages/English.ini"_s;
 
 /// Everything of the program that Open may change.
 QVariantMap whole(const Program& program) {
   const auto& state = program.state;
-  QVariantMap all{{QStringLiteral("opened"), state.ThemeOpened},
-                  {QStringLiteral("changed"), state.Changed},
-                  {QStringLiteral("scheme"), program.form.Combo1->isVisible()},
-                  {QStringLiteral("tools"), program.form.ToolWindow != nullptr},
-                  {QStringLiteral("picture"), program.form.Workspace->Surface().image()},
-                  {QStringLiteral("colours"), state.ThemeColors[0].Name + state.ThemeColors[1].Name}};
+  QVariantMap all{{u"opened"_s, state.ThemeOpened},
+                  {u"changed"_s, state.Changed},
+                  {u"scheme"_s, program.form.Combo1->isVisible()},
+                  {u"tools"_s, program.form.ToolWindow != nullptr},
+                  {u"picture"_s, program.form.Workspace->Surface().image()},
+                  {u"colours"_s, state.ThemeColors[0].Name + state.ThemeColors[1].Name}};
   const themefiles::ThemePaths& paths = state.Paths;
-  all[QStringLiteral("paths")] = QStringList{paths.ExeDirectory,  paths.LanguagesDirectory, paths.ThemeFile,
-                                             paths.SkinDirectory, paths.SkinFile,           paths.LanguageFile};
+  all[u"paths"_s] = QStringList{paths.ExeDirectory,  paths.LanguagesDirectory, paths.ThemeFile,
+                                paths.SkinDirectory, paths.SkinFile,           paths.LanguageFile};
   for (int button = 1; button <= 4; ++button) all[QString::number(button)] = program.enabled(button);
   return all;
 }
 
 void commitX(Program& program, const char* value) {
-  program.tag(QStringLiteral("LoadingStaticA"));
-  program.row(QStringLiteral("X"));
+  program.tag(u"LoadingStaticA"_s);
+  program.row(u"X"_s);
   program.tools().Text1->SetText(QLatin1StringView(value));
   program.tools().Command1->click();
 }
@@ -54,10 +55,10 @@ class OpenThemeTest : public QObject {
     QTest::addColumn<bool>("asks");
     QTest::addColumn<bool>("dialogComes");
     QTest::newRow("stored") << QString() << QString() << false << true;
-    QTest::newRow("none, chosen") << QStringLiteral("-") << QStringLiteral("Vocora.exe") << true << true;
-    QTest::newRow("none, Cancel") << QStringLiteral("-") << QString() << true << false;
-    QTest::newRow("without files") << QStringLiteral("Skins\\") << QStringLiteral("Vocora.exe") << true << true;
-    QTest::newRow("gone, Cancel") << QStringLiteral("gone\\") << QString() << true << false;
+    QTest::newRow("none, chosen") << u"-"_s << u"Vocora.exe"_s << true << true;
+    QTest::newRow("none, Cancel") << u"-"_s << QString() << true << false;
+    QTest::newRow("without files") << u"Skins\\"_s << u"Vocora.exe"_s << true << true;
+    QTest::newRow("gone, Cancel") << u"gone\\"_s << QString() << true << false;
   }
   void gameFolder() {
     QFETCH(QString, stored);
@@ -75,21 +76,21 @@ class OpenThemeTest : public QObject {
     });
     QCOMPARE(came, dialogComes);
     QCOMPARE(program.dialogs.asked.size(), asks ? 1 : 0);
-    if (dialogComes) QCOMPARE(caption, QStringLiteral("Open Theme [") + game->path() + u']');
+    if (dialogComes) QCOMPARE(caption, u"Open Theme ["_s + game->path() + u']');
     QCOMPARE(program.form.Config.GameFolder(), dialogComes ? game->path() : before);
     QVERIFY(program.form.ToolWindow == nullptr && !program.enabled(3));
   }
 
   void noThemes() {
-    QVERIFY(QFile::rename(game->native(ThemeFile), game->native(QStringLiteral("Themes/Alpha.txt"))));
+    QVERIFY(QFile::rename(game->native(ThemeFile), game->native(u"Themes/Alpha.txt"_s)));
     Program program(*game);
     QVERIFY(!program.openDialog([](Form3& dialog) { dialog.reject(); }));
-    QCOMPARE(program.dialogs.asked, QStringList{QStringLiteral("Error: No Themes Found")});
+    QCOMPARE(program.dialogs.asked, QStringList{u"Error: No Themes Found"_s});
   }
 
   void listsAndLabels() {
-    game->write(QStringLiteral("Themes/beta.1.INI"), "[Theme]\nName=<b>Beta</b>\n");
-    game->write(QStringLiteral("Themes/readme.txt"), "");
+    game->write(u"Themes/beta.1.INI"_s, "[Theme]\nName=<b>Beta</b>\n");
+    game->write(u"Themes/readme.txt"_s, "");
     Program program(*game);
     QVERIFY(program.openDialog([](Form3& dialog) {
       const auto labels = [&] {
@@ -97,15 +98,15 @@ class OpenThemeTest : public QObject {
             .join(u'|');
       };
       QCOMPARE(dialog.List1->ListCount(), 2);
-      QCOMPARE(dialog.List1->Text(), QStringLiteral("Alpha"));
-      QCOMPARE(dialog.List2->Text(), QStringLiteral("One"));
-      QCOMPARE(labels(), QStringLiteral("The Alpha theme|Ann|First|Bob"));
-      QCOMPARE(dialog.Combo1->Text(), QStringLiteral("English"));
+      QCOMPARE(dialog.List1->Text(), u"Alpha"_s);
+      QCOMPARE(dialog.List2->Text(), u"One"_s);
+      QCOMPARE(labels(), u"The Alpha theme|Ann|First|Bob"_s);
+      QCOMPARE(dialog.Combo1->Text(), u"English"_s);
       dialog.List2->SetListIndex(1);
-      QCOMPARE(labels(), QStringLiteral("The Alpha theme|Ann|Second|Cid"));
+      QCOMPARE(labels(), u"The Alpha theme|Ann|Second|Cid"_s);
       dialog.List1->SetListIndex(1);
-      QCOMPARE(dialog.List1->Text(), QStringLiteral("beta.1"));
-      QCOMPARE(labels(), QStringLiteral("<b>Beta</b>|||"));
+      QCOMPARE(dialog.List1->Text(), u"beta.1"_s);
+      QCOMPARE(labels(), u"<b>Beta</b>|||"_s);
       QVERIFY(dialog.Label4->textFormat() == Qt::PlainText);
       QVERIFY(!dialog.Command1->isEnabled() && dialog.List2->ListCount() == 0);
       QTest::keyClick(&dialog, Qt::Key_Return);
@@ -123,20 +124,20 @@ class OpenThemeTest : public QObject {
     program.open();
     const QString folder = game->path();
     const themefiles::ThemePaths& paths = program.state.Paths;
-    QCOMPARE(paths.ThemeFile, folder + QStringLiteral("Themes\\Alpha.ini.tmp"));
-    QCOMPARE(paths.SkinDirectory, folder + QStringLiteral("Skins\\Alpha"));
-    QCOMPARE(paths.SkinFile, folder + QStringLiteral("Skins\\Alpha\\One.ini.tmp"));
-    QCOMPARE(paths.LanguageFile, folder + QStringLiteral("\\Languages\\English.ini.tmp"));
+    QCOMPARE(paths.ThemeFile, folder + u"Themes\\Alpha.ini.tmp"_s);
+    QCOMPARE(paths.SkinDirectory, folder + u"Skins\\Alpha"_s);
+    QCOMPARE(paths.SkinFile, folder + u"Skins\\Alpha\\One.ini.tmp"_s);
+    QCOMPARE(paths.LanguageFile, folder + u"\\Languages\\English.ini.tmp"_s);
     QVERIFY(program.state.ThemeOpened && !program.state.Changed);
     QVERIFY(program.enabled(1) && !program.enabled(2) && program.enabled(3) && program.enabled(4));
     QVERIFY(program.form.Combo1->isVisible() && program.form.Combo2->isVisible());
     QCOMPARE(program.form.Combo1->ListCount(), 9);
-    QCOMPARE(program.form.Combo1->Text(), QStringLiteral("Blue"));
+    QCOMPARE(program.form.Combo1->Text(), u"Blue"_s);
     QVERIFY(program.form.Label1->isHidden() && program.form.ProgressBar1->isHidden());
     const toolwindow::Form2& tools = program.tools();
     QVERIFY(tools.isVisible() && tools.List1->isEnabled() && tools.focusWidget() == tools.Combo1);
     QCOMPARE(tools.Combo1->ListCount(), 32);
-    QCOMPARE(tools.Combo1->Text(), QStringLiteral("Loading Screen"));
+    QCOMPARE(tools.Combo1->Text(), u"Loading Screen"_s);
     QCOMPARE(tools.List1->ListCount(), 8);
     QCOMPARE(tools.List1->ListIndex(), 0);
     auto after = game->files();
@@ -175,7 +176,7 @@ class OpenThemeTest : public QObject {
       g.setWritable(support::LanguageCopy, false);
     });
     QTest::newRow("no languages") << Spoil(
-        [](const GameFolder& g) { QDir(g.native(QStringLiteral("Languages"))).removeRecursively(); });
+        [](const GameFolder& g) { QDir(g.native(u"Languages"_s)).removeRecursively(); });
   }
   /// The files are spoilt while the dialog is up: with no theme open, and with one open that has changes.
   void failedCopies() {
@@ -193,7 +194,7 @@ class OpenThemeTest : public QObject {
       QVERIFY(program.openDialog([&](Form3& dialog) {
         spoil(*game);
         edited = game->read(support::ThemeCopy);
-        if (!QFileInfo::exists(game->native(QStringLiteral("Languages")))) dialog.Combo1->Clear();
+        if (!QFileInfo::exists(game->native(u"Languages"_s))) dialog.Combo1->Clear();
         dialog.Command1->click();
         QVERIFY(dialog.isVisible());
         QVERIFY2(program.status().startsWith(u"Error while saving temporary files ["), qPrintable(program.status()));
@@ -216,20 +217,16 @@ class OpenThemeTest : public QObject {
   void languages_data() {
     QTest::addColumn<QStringList>("names");
     QTest::addColumn<QString>("selected");
-    QTest::newRow("English among them") << QStringList{QStringLiteral("A"), QStringLiteral("English"),
-                                                       QStringLiteral("F")}
-                                        << QStringLiteral("English");
-    QTest::newRow("without English") << QStringList{QStringLiteral("Zulu"), QStringLiteral("Deutsch"),
-                                                    QStringLiteral("english")}
-                                     << QStringLiteral("Deutsch");
+    QTest::newRow("English among them") << QStringList{u"A"_s, u"English"_s, u"F"_s} << u"English"_s;
+    QTest::newRow("without English") << QStringList{u"Zulu"_s, u"Deutsch"_s, u"english"_s} << u"Deutsch"_s;
     QTest::newRow("none") << QStringList() << QString();
   }
   void languages() {
     QFETCH(QStringList, names);
-    QDir folder(game->native(QStringLiteral("Languages")));
+    QDir folder(game->native(u"Languages"_s));
     folder.removeRecursively();
     QVERIFY(folder.mkpath(folder.path()));
-    for (const QString& name : names) game->write(QStringLiteral("Languages/%1.ini").arg(name), "");
+    for (const QString& name : names) game->write(u"Languages/%1.ini"_s.arg(name), "");
     Program program(*game);
     QVERIFY(program.openDialog([&](Form3& dialog) {
       QTEST(dialog.Combo1->Text(), "selected");
@@ -254,9 +251,9 @@ class OpenThemeTest : public QObject {
     QFETCH(bool, dirty);
     QFETCH(bool, yes);
     QFETCH(bool, cancel);
-    game->write(QStringLiteral("Themes/Beta.ini"), "[Colors]\nGreen=0 255 0\n[Main]\n");
-    QVERIFY(QDir().mkdir(game->native(QStringLiteral("Skins/Beta"))));
-    game->write(QStringLiteral("Skins/Beta/Sole.ini"), "");
+    game->write(u"Themes/Beta.ini"_s, "[Colors]\nGreen=0 255 0\n[Main]\n");
+    QVERIFY(QDir().mkdir(game->native(u"Skins/Beta"_s)));
+    game->write(u"Skins/Beta/Sole.ini"_s, "");
     Program program(*game);
     program.open();
     commitX(program, "77");
@@ -277,7 +274,7 @@ class OpenThemeTest : public QObject {
     }
     QVERIFY(program.state.Paths.ThemeFile.endsWith(u"Beta.ini.tmp"));
     QVERIFY(!program.state.Changed && !program.enabled(2) && program.enabled(3));
-    QCOMPARE(program.state.ThemeColors[0].Name, QStringLiteral("Green"));
+    QCOMPARE(program.state.ThemeColors[0].Name, u"Green"_s);
     QCOMPARE(program.state.ThemeColors[1].Name, QString());
     QCOMPARE(program.tools().List1->ListCount(), 0);
     QVERIFY2(!program.form.Workspace->MarkVisible(), "the mark of the theme before");

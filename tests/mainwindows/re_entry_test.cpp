@@ -2,6 +2,7 @@
 
 #include "support/windows.h"
 
+using namespace Qt::StringLiterals;
 using controls::Cause;
 using platform::BoxAnswer;
 using support::GameFolder;
@@ -13,67 +14,7 @@ using Wishes = void (*)(Program& program, QString& tag);
 
 namespace {
 
-const QString Dropped = QStringLiteral("dropped");
-
-constexpr const char* Theme = R"([Colors]
-Red=200 40 40
-[Loading]
-[LoadingButtonA]
-Tex=Plate
-X=300
-Y=200
-W=80
-H=40
-Color=ColorDark
-DColor=Red
-Type=Colorized
-Texts=1
-SelectH=60
-[LoadingButtonAText1]
-X=10
-Y=5
-Font=1
-Size=9
-[LoadingButtonB]
-Tex=Plate
-X=500
-Y=200
-W=80
-H=40
-Color=ColorDark
-DColor=Red
-Type=Colorized
-[LoadingStaticB]
-Tex=Plate
-X=40
-Y=50
-W=100
-H=60
-Color=Red
-[LoadingTextC]
-X=400
-Y=100
-Font=0
-Size=12
-[LoadingTextD]
-X=400
-Y=150
-Font=2
-Size=18
-[Main]
-[MainStaticA]
-Tex=Plate
-X=10
-Y=20
-W=30
-H=40
-Color=ColorLight
-[MainTextB]
-X=200
-Y=300
-Font=1
-Size=30
-)";
+const QString Dropped = u"dropped"_s;
 
 void pick(Program& program, QString& tag) {
   controls::ListBox& list = *program.tools().List1;
@@ -151,14 +92,13 @@ class ReEntryTest : public QObject {
   /// Draws the screen, or chooses it anew, and has the wishes come at the k-th yield of that, or behind it (k = 0).
   Run run(Wishes wishes, bool saved, bool choice, int k, const QString& tag) {
     const GameFolder game;
-    game.write(QStringLiteral("Themes/Alpha.ini"), Theme);
     Program program(game);
     program.open();
-    program.tag(QStringLiteral("LoadingStaticB"));
-    program.row(QStringLiteral("X"));
+    program.tag(u"LoadingStaticA"_s);
+    program.row(u"X"_s);
     update(program, "77");
     if (saved) program.click(2);
-    program.row(QStringLiteral("Y"));
+    program.row(u"Y"_s);
     program.dialogs.boxes = {BoxAnswer::Yes};
     Run result{{}, tag, k == 0};
     QObject life;
@@ -169,7 +109,7 @@ class ReEntryTest : public QObject {
       QMetaObject::invokeMethod(
           &life, [&] { wishes(program, result.tag); }, Qt::QueuedConnection);
     });
-    choice ? program.screen(QStringLiteral("Loading Screen")) : program.form.Queue.Draw();
+    choice ? program.screen(u"Loading Screen"_s) : program.form.Queue.Draw();
     if (k == 0) wishes(program, result.tag);
     support::settle();
     result.outcome = outcome(program, game);
@@ -183,10 +123,10 @@ class ReEntryTest : public QObject {
     const auto add = [](const char* name, Wishes wishes, bool saved = false) {
       QTest::newRow(name) << wishes << saved;
     };
-    add("another screen", [](Program& p, QString&) { p.screen(QStringLiteral("Main Screen")); });
+    add("another screen", [](Program& p, QString&) { p.screen(u"Main Screen"_s); });
     add("another screen and back", [](Program& p, QString&) {
-      p.screen(QStringLiteral("Main Screen"));
-      p.screen(QStringLiteral("Loading Screen"));
+      p.screen(u"Main Screen"_s);
+      p.screen(u"Loading Screen"_s);
     });
     add("another tag", pick);
     add("Update", [](Program& p, QString&) { update(p, "88"); });
@@ -196,13 +136,13 @@ class ReEntryTest : public QObject {
         return;
       }
       pick(p, tag);
-      if (p.value(QStringLiteral("X")) == u"no row") return;
-      p.row(QStringLiteral("X"));
+      if (p.value(u"X"_s) == u"no row") return;
+      p.row(u"X"_s);
       update(p, "99");
     });
     add("Update, another screen", [](Program& p, QString&) {
       update(p, "88");
-      p.screen(QStringLiteral("Main Screen"));
+      p.screen(u"Main Screen"_s);
     });
     add("Save", [](Program& p, QString&) { p.click(2); });
     add("another button", [](Program& p, QString& tag) {
@@ -241,7 +181,7 @@ class ReEntryTest : public QObject {
         for (const auto& [name, value] : between.outcome.asKeyValueRange()) {
           if (value == expected[name]) continue;
           qWarning() << value << "instead of" << expected[name];
-          QFAIL(qPrintable(QStringLiteral("%1 at yield %2, choice %3").arg(name).arg(k).arg(choice)));
+          QFAIL(qPrintable(u"%1 at yield %2, choice %3"_s.arg(name).arg(k).arg(choice)));
         }
       }
       QVERIFY(k > (choice ? 15 : 10));

@@ -4,6 +4,7 @@
 
 #include "support/windows.h"
 
+using namespace Qt::StringLiterals;
 using platform::BoxAnswer;
 using support::Program;
 
@@ -13,9 +14,9 @@ const QColor DarkRed(0xC0, 0, 0);
 const QColor LightRed(0xFF, 0x80, 0x80);
 
 void edit(Program& program) {
-  program.tag(QStringLiteral("LoadingStaticA"));
-  program.row(QStringLiteral("X"));
-  program.tools().Text1->SetText(QStringLiteral("77"));
+  program.tag(u"LoadingStaticA"_s);
+  program.row(u"X"_s);
+  program.tools().Text1->SetText(u"77"_s);
   program.tools().Command1->click();
 }
 
@@ -49,12 +50,12 @@ class SessionTest : public QObject {
       QVERIFY(!program->state.ThemeOpened && !program->state.Changed && program->state.Paths.ThemeFile.isEmpty());
       QImage expected(800, 600, QImage::Format_RGB32);
       expected.fill(back);
-      QPainter(&expected).drawImage(0, 0, QImage(QStringLiteral(":/assets/start.jpg")));
+      QPainter(&expected).drawImage(0, 0, QImage(u":/assets/start.jpg"_s));
       QCOMPARE(form.Workspace->Surface().image().convertToFormat(QImage::Format_RGB32), expected);
     };
-    QCOMPARE(program->form.windowTitle(), QStringLiteral("Cantorama Theme Edit v.0.3a"));
-    QCOMPARE(program->form.StatusBar->Panel(2), QStringLiteral("x: 1  y: 1"));
-    QCOMPARE(program->form.Label1->text(), QStringLiteral("v.0.3a"));
+    QCOMPARE(program->form.windowTitle(), u"Cantorama Theme Edit v.0.3a"_s);
+    QCOMPARE(program->form.StatusBar->Panel(2), u"x: 1  y: 1"_s);
+    QCOMPARE(program->form.Label1->text(), u"v.0.3a"_s);
     QCOMPARE(program->form.Client->size(), QSize(800, 650));
     check(QColor(0x80, 0x80, 0x80));
     program->open();
@@ -71,25 +72,25 @@ class SessionTest : public QObject {
     edit(*program);
     const QImage picture = program->form.Workspace->Surface().image();
     program->click(3);
-    QCOMPARE(program->dialogs.asked, QStringList{QStringLiteral("Save: Something changed. Close without saving?")});
+    QCOMPARE(program->dialogs.asked, QStringList{u"Save: Something changed. Close without saving?"_s});
     QVERIFY(program->state.ThemeOpened && program->state.Changed && program->enabled(2));
     QCOMPARE(program->form.Workspace->Surface().image(), picture);
     program->dialogs.boxes = {BoxAnswer::Yes};
     program->click(3);
     QVERIFY(!program->state.ThemeOpened);
     QVERIFY(game->read(support::ThemeCopy).contains("X=77"));
-    QVERIFY(!game->read(QStringLiteral("Themes/Alpha.ini")).contains("X=77"));
+    QVERIFY(!game->read(u"Themes/Alpha.ini"_s).contains("X=77"));
     program->open();
-    program->tag(QStringLiteral("LoadingStaticA"));
-    QCOMPARE(program->value(QStringLiteral("X")), QStringLiteral("40"));
+    program->tag(u"LoadingStaticA"_s);
+    QCOMPARE(program->value(u"X"_s), u"40"_s);
   }
 
   void save_data() {
     QTest::addColumn<QString>("readOnly");
     QTest::addColumn<bool>("themeSaved");
     QTest::newRow("all written") << QString() << true;
-    QTest::newRow("the theme can't be written") << QStringLiteral("Themes/Alpha.ini") << false;
-    QTest::newRow("the language can't be written") << QStringLiteral("Languages/English.ini") << true;
+    QTest::newRow("the theme can't be written") << u"Themes/Alpha.ini"_s << false;
+    QTest::newRow("the language can't be written") << u"Languages/English.ini"_s << true;
   }
   void save() {
     QFETCH(QString, readOnly);
@@ -100,7 +101,7 @@ class SessionTest : public QObject {
     program->click(2);
     const bool failed = !readOnly.isEmpty();
     QCOMPARE(program->status().startsWith(u"Error while saving files ["), failed);
-    QCOMPARE(game->read(QStringLiteral("Themes/Alpha.ini")).contains("X=77"), themeSaved);
+    QCOMPARE(game->read(u"Themes/Alpha.ini"_s).contains("X=77"), themeSaved);
     QVERIFY(program->state.ThemeOpened && game->has(support::ThemeCopy));
     QCOMPARE(program->state.Changed, failed);
     QCOMPARE(program->enabled(2), failed);
@@ -115,8 +116,8 @@ class SessionTest : public QObject {
 
   void screenWithoutObjectsAndBackgroundColour() {
     program->open();
-    program->tag(QStringLiteral("LoadingStaticA"));
-    program->screen(QStringLiteral("Top5 Screen"));
+    program->tag(u"LoadingStaticA"_s);
+    program->screen(u"Top5 Screen"_s);
     const mainwindows::Form1& form = program->form;
     const auto middle = [&] { return form.Workspace->Surface().image().pixelColor(60, 70); };
     QCOMPARE(program->tools().List1->ListCount(), 0);
@@ -124,10 +125,10 @@ class SessionTest : public QObject {
     QVERIFY(form.ProgressBar1->isHidden() && form.Combo2->isHidden());
     QCOMPARE(middle(), QColor(Qt::white));
     QVERIFY2(form.Workspace->MarkVisible(), "it stays until an object is chosen");
-    QCOMPARE(program->value(QStringLiteral("X")), QStringLiteral("40"));
+    QCOMPARE(program->value(u"X"_s), u"40"_s);
     program->dialogs.colors = {QColor(10, 20, 30)};
     program->click(4);
-    QCOMPARE(program->dialogs.asked.last(), QStringLiteral("colour: #ffffff"));
+    QCOMPARE(program->dialogs.asked.last(), u"colour: #ffffff"_s);
     QCOMPARE(middle(), QColor(10, 20, 30));
     program->click(4);  // Cancel
     QCOMPARE(program->state.BackgroundColor, quint32(0x1E140A));
@@ -148,8 +149,8 @@ class SessionTest : public QObject {
     QCOMPARE(program->state.SelectedButton, quint8(2));
     QCOMPARE(pixel(310, 250), pixel(310, 270));
     edit(*program);
-    QCOMPARE(form.Combo2->Text(), QStringLiteral("Select Button 2"));
-    program->screen(QStringLiteral("Main Screen"));
+    QCOMPARE(form.Combo2->Text(), u"Select Button 2"_s);
+    program->screen(u"Main Screen"_s);
     QVERIFY(form.Combo2->isHidden());
     QVERIFY(form.Combo2->ListCount() == 0 && program->state.SelectedButton == 1);
     program->state.ProgressStep = 77;
@@ -163,7 +164,7 @@ class SessionTest : public QObject {
   void theMark() {
     program->open();
     mainwindows::Workspace& preview = *program->form.Workspace;
-    program->tag(QStringLiteral("LoadingStaticA"));
+    program->tag(u"LoadingStaticA"_s);
     const QImage picture = preview.Surface().image();
     const QList<QPoint> edge{{40, 50}, {139, 50}, {40, 109}, {139, 109}, {90, 50}, {139, 80}};
     const QList<QPoint> outside{{39, 50}, {140, 50}, {41, 51}, {40, 110}, {90, 80}};
@@ -173,15 +174,15 @@ class SessionTest : public QObject {
     for (const QPoint& place : outside) QCOMPARE(shownAt(*program, place.x(), place.y()), picture.pixelColor(place));
     QTRY_COMPARE(shownAt(*program, 40, 50), LightRed);
     QTRY_COMPARE(shownAt(*program, 40, 50), DarkRed);
-    program->tag(QStringLiteral("LoadingTextFree"));
+    program->tag(u"LoadingTextFree"_s);
     QCOMPARE(preview.Mark().width(), 0.0);
     QVERIFY(preview.Mark().height() > 5);
     const QColor line = shownAt(*program, 400, 103);
     QVERIFY(line == DarkRed || line == LightRed);
     for (const int beside : {399, 401}) QCOMPARE(shownAt(*program, beside, 103), picture.pixelColor(beside, 103));
-    program->tag(QStringLiteral("LoadingButtonGoText1"));
+    program->tag(u"LoadingButtonGoText1"_s);
     QCOMPARE(preview.Mark().topLeft(), QPointF(310, 205));
-    program->tag(QStringLiteral("LoadingBackground"));
+    program->tag(u"LoadingBackground"_s);
     QVERIFY(!preview.MarkVisible() && !preview.Blinking());
     QCOMPARE(preview.Surface().image(), picture);
     QCOMPARE(program->state.ProgressStep, qint16(77));
@@ -189,7 +190,7 @@ class SessionTest : public QObject {
 
   void theMarkBlinksWhileARenderRuns() {
     program->open();
-    program->tag(QStringLiteral("LoadingStaticA"));
+    program->tag(u"LoadingStaticA"_s);
     mainwindows::Workspace& preview = *program->form.Workspace;
     QSet<QRgb> seen;
     QObject life;
@@ -204,7 +205,7 @@ class SessionTest : public QObject {
 
   void mousePlace() {
     program->open();
-    program->tag(QStringLiteral("LoadingStaticA"));
+    program->tag(u"LoadingStaticA"_s);
     const std::pair<QPointF, const char*> places[] = {
         {{0, 0}, "x: 1  y: 1"}, {{40, 50}, "x: 41  y: 51"}, {{799.6, 599.4}, "x: 800  y: 600"}};
     for (const auto& [place, text] : places) {  // the second lies on the mark

@@ -26,127 +26,59 @@ QImage plain(int width, int height, QRgb color) {
   return picture;
 }
 
-constexpr const char* Alpha = R"([Theme]
-Name=The Alpha theme
-Creator=Ann
-[Colors]
-Red=200 40 40
-Blue=30 60 200
+/// One section a line, "|" for the line ends in it.
+constexpr const char* Alpha = R"([Theme]|Name=The Alpha theme|Creator=Ann
+[Colors]|Red=200 40 40|Blue=30 60 200
 [Loading]
-[LoadingBackground]
-Tex=Back
-[LoadingButtonGo]
-Tex=Plate
-X=300
-Y=200
-W=80
-H=40
-Color=Red
-DColor=Blue
-INT=1
-DINT=0.5
-Type=Font Black
-Texts=1
-SelectH=60
-Visible=1
-[LoadingButtonGoText1]
-X=10
-Y=5
-Font=1
-Size=9
-Text=GO
-[LoadingButtonLast]
-Tex=Plate
-X=300
-Y=300
-W=80
-H=40
-Color=Blue
-DColor=Red
-INT=1
-DINT=1
-Type=Colorized
-[LoadingStaticA]
-Tex=Plate
-X=40
-Y=50
-W=100
-H=60
-Color=Red
-Type=Plain
-Direction=0
-ColR=0.5
-Z=0.25
-[LoadingTextFree]
-X=400
-Y=100
-Font=0
-Size=12
-Align=1
-Text=HELLO
-Color=Blue
-[LoadingTextLater]
-X=400
-Y=150
-Font=2
-Size=12
-Text=GO
+[LoadingBackground]|Tex=Back
+[LoadingButtonGo]|Tex=Plate|X=300|Y=200|W=80|H=40|Color=Red|DColor=Blue|INT=1|DINT=0.5|Type=Font Black|Texts=1|SelectH=60|Visible=1
+[LoadingButtonGoText1]|X=10|Y=5|Font=1|Size=9|Text=GO
+[LoadingButtonLast]|Tex=Plate|X=300|Y=300|W=80|H=40|Color=Blue|DColor=Red|INT=1|DINT=1|Type=Colorized
+[LoadingStaticA]|Tex=Plate|X=40|Y=50|W=100|H=60|Color=Red|Type=Plain|Direction=0|ColR=0.5|Z=0.25
+[LoadingTextFree]|X=400|Y=100|Font=0|Size=12|Align=1|Text=HELLO|Color=Blue
+[LoadingTextLater]|X=400|Y=150|Font=2|Size=18|Text=GO
 [Main]
-[MainStaticA]
-Tex=Plate
-X=10
-Y=20
-W=30
-H=40
-Color=Blue
-[MainTextFree]
-X=500
-Y=400
-Font=1
-Size=10
-Text=HELLO
-[Odd]
+[MainStaticA]|Tex=Plate|X=10|Y=20|W=30|H=40|Color=Blue
+[MainTextFree]|X=500|Y=400|Font=1|Size=30|Text=HELLO
 [Level]
-[LevelStatic]x]
-X=1
-Y=2
+[LevelStatic]x]|X=1|Y=2
 )";
 
 }  // namespace
 
 platform::BoxAnswer ScriptedDialogs::MessageBox(QWidget* /*parent*/, const QString& text, const QString& title,
                                                 platform::BoxKind kind) {
-  asked += title + QStringLiteral(": ") + text;
+  asked += title + u": "_s + text;
   const bool question = kind == platform::BoxKind::YesNoDefaultNo;
   return question ? next(boxes, platform::BoxAnswer::No) : platform::BoxAnswer::Ok;
 }
 
 QString ScriptedDialogs::InputBox(QWidget* /*parent*/, const QString& prompt, const QString& title) {
-  asked += title + QStringLiteral(": ") + prompt;
+  asked += title + u": "_s + prompt;
   return next(inputs, QString());
 }
 
 QString ScriptedDialogs::OpenFile(QWidget* /*parent*/, const platform::FileRequest& request) {
-  asked += request.title + QStringLiteral(": ") + request.folder;
+  asked += request.title + u": "_s + request.folder;
   return next(files, QString());
 }
 
 std::optional<QColor> ScriptedDialogs::ChooseColor(QWidget* /*parent*/, const QColor& present) {
-  asked += QStringLiteral("colour: ") + present.name();
+  asked += u"colour: "_s + present.name();
   return next(colors, std::optional<QColor>());
 }
 
 GameFolder::GameFolder() {
   for (const char* folder : {"Themes", "Skins/Alpha", "Languages"}) QDir(dir_.path()).mkpath(QLatin1StringView(folder));
-  write(QStringLiteral("Vocora.exe"), "program");
-  write(QStringLiteral("Themes/Alpha.ini"), QByteArray(Alpha).replace("\n", "\r\n"));
-  write(QStringLiteral("Skins/Alpha/One.ini"),
+  write(u"Vocora.exe"_s, "program");
+  write(u"Themes/Alpha.ini"_s, QByteArray(Alpha).replace("|", "\n").replace("\n", "\r\n"));
+  write(u"Skins/Alpha/One.ini"_s,
         "[Skin]\r\nName=First\r\nAutor=Bob\r\n[Textures]\r\nBack=back.png\r\nPlate=plate.png\r\nOther=other.png\r\n");
-  write(QStringLiteral("Skins/Alpha/Two.ini"), "[Skin]\r\nName=Second\r\nAutor=Cid\r\n[Textures]\r\n");
-  write(QStringLiteral("Languages/Deutsch.ini"), "[Text]\r\nHELLO=Hallo\r\n");
-  write(QStringLiteral("Languages/English.ini"), "[Text]\r\nHELLO=Hello there\r\nGO=Go\r\nEMPTY=\r\n");
-  plain(8, 6, qRgb(230, 220, 210)).save(native(QStringLiteral("Skins/Alpha/back.png")));
-  plain(10, 8, qRgba(0, 40, 120, 200)).save(native(QStringLiteral("Skins/Alpha/plate.png")));
+  write(u"Skins/Alpha/Two.ini"_s, "[Skin]\r\nName=Second\r\nAutor=Cid\r\n[Textures]\r\n");
+  write(u"Languages/Deutsch.ini"_s, "[Text]\r\nHELLO=Hallo\r\n");
+  write(u"Languages/English.ini"_s, "[Text]\r\nHELLO=Hello there\r\nGO=Go\r\nEMPTY=\r\n");
+  plain(8, 6, qRgb(230, 220, 210)).save(native(u"Skins/Alpha/back.png"_s));
+  plain(10, 8, qRgba(0, 40, 120, 200)).save(native(u"Skins/Alpha/plate.png"_s));
 }
 
 QString GameFolder::path() const {
@@ -259,7 +191,7 @@ QString Program::value(const QString& key) {
   for (int i = 0; i < tools().ListView1->RowCount(); ++i) {
     if (tools().ListView1->RowText(i) == key) return tools().ListView1->SubItem(i);
   }
-  return QStringLiteral("no row");
+  return u"no row"_s;
 }
 
 void settle() {

@@ -11,6 +11,8 @@
 /// What the tests of the windows share: dialogs that answer by script, a game folder, and the program on it.
 namespace support {
 
+using namespace Qt::StringLiterals;
+
 /// Answers in the order given; without one, as a user who only wants out: No, Cancel.
 class ScriptedDialogs : public platform::Dialogs {
  public:
@@ -47,9 +49,9 @@ class GameFolder {
   QTemporaryDir dir_;
 };
 
-inline const QString ThemeCopy = QStringLiteral("Themes/Alpha.ini.tmp");
-inline const QString SkinCopy = QStringLiteral("Skins/Alpha/One.ini.tmp");
-inline const QString LanguageCopy = QStringLiteral("Languages/English.ini.tmp");
+inline const QString ThemeCopy = u"Themes/Alpha.ini.tmp"_s;
+inline const QString SkinCopy = u"Skins/Alpha/One.ini.tmp"_s;
+inline const QString LanguageCopy = u"Languages/English.ini.tmp"_s;
 
 /// The program's windows with their events connected.
 class Program {
@@ -73,7 +75,7 @@ class Program {
   /// Clicks Open and runs `act` on the Open Theme dialog; gives whether it came up. `act` has to end it.
   bool openDialog(const std::function<void(mainwindows::Form3&)>& act);
   /// Opens the theme by name, with its first skin and English.
-  void open(const QString& theme = QStringLiteral("Alpha"));
+  void open(const QString& theme = u"Alpha"_s);
   /// Chooses a screen, or an object, by name.
   void screen(const QString& name);
   void tag(const QString& name);

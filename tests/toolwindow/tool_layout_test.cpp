@@ -2,6 +2,7 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
 using controls::TwipsRect;
 using toolwindow::ToolLayout;
 
@@ -29,7 +30,7 @@ struct Side {
 void compare(const ToolLayout& layout, const std::vector<Side>& sides) {
   for (const auto& [name, control, side, twips] : sides) {
     const double actual = layout.*control.*side;
-    QVERIFY2(actual == twips, qPrintable(QStringLiteral("%1 is %2").arg(QLatin1StringView(name)).arg(actual)));
+    QVERIFY2(actual == twips, qPrintable(u"%1 is %2"_s.arg(QLatin1StringView(name)).arg(actual)));
   }
 }
 

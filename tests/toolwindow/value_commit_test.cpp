@@ -1,7 +1,9 @@
 #include <QTest>
 
+#include "platform/paths.h"
 #include "support/windows.h"
 
+using namespace Qt::StringLiterals;
 using support::Program;
 using toolwindow::Form2;
 
@@ -10,9 +12,21 @@ using Change = std::pair<QByteArray, QByteArray>;  ///< what becomes what in a f
 
 namespace {
 
-const QString Static = QStringLiteral("LoadingStaticA");
-const QString Text = QStringLiteral("LoadingTextFree");
+const QString Static = u"LoadingStaticA"_s;
+const QString Text = u"LoadingTextFree"_s;
 constexpr int SaveButton = 2;
+
+/// Enters a text into the editor that is open; a colour's name is one of the players'.
+void enter(Form2& form, const QString& text) {
+  for (controls::TextBox* box : {form.Text1, form.Text4, form.Text2, form.Text3}) {
+    if (box->isVisible()) box->SetText(text);
+  }
+  if (form.Combo2->isVisible()) form.Combo2->SetText(text);
+  if (!form.Combo4->isVisible()) return;
+  form.Combo4->setCurrentIndex(2);
+  Q_EMIT form.Combo4->Click(controls::Cause::User);
+  form.Combo3->SetText(text);
+}
 
 }  // namespace
 
@@ -33,121 +47,94 @@ class ValueCommitTest : public QObject {
 
   void groups_data() {
     QTest::addColumn<QString>("object");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<Act>("edit");
+    QTest::addColumn<QString>("text");  // entered into the editor
     QTest::addColumn<QString>("value");
-    QTest::addColumn<Change>("theme");
-    QTest::addColumn<Change>("skin");
-    QTest::addColumn<Change>("language");
-    const auto add = [](const QString& object, const char* key, Act edit, const char* value, const char* before,
-                        const char* after, const Change& skin = {}, const Change& language = {}) {
-      QTest::addRow("%s", key) << object << QString::fromLatin1(key) << edit << QString::fromLatin1(value)
-                               << Change{before, after} << skin << language;
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<Change>("change");
+    const auto add = [](const QString& object, const char* key, const char* text, const char* value,
+                        const QString& file = {}, const char* before = "", const char* after = "") {
+      QTest::newRow(key) << object << QString::fromLatin1(text) << QString::fromLatin1(value) << file
+                         << Change{before, after};
     };
-    add(
-        Static, "X", [](Program& p) { p.tools().Text1->SetText(QStringLiteral("77")); }, "77", "X=40", "X=77");
-    add(
-        Text, "Align", [](Program& p) { p.tools().Combo2->SetListIndex(2); }, "2", "Align=1", "Align=2");
-    add(
-        Text, "Font", [](Program& p) { p.tools().Combo2->SetListIndex(3); }, "3", "Font=0", "Font=3");
-    add(
-        QStringLiteral("LoadingButtonGo"), "Visible", [](Program& p) { p.tools().Combo2->SetListIndex(0); }, "0",
-        "Visible=1", "Visible=0");
-    add(
-        Static, "Direction", [](Program& p) { p.tools().Combo2->SetListIndex(1); }, "1", "Direction=0", "Direction=1");
-    add(
-        Static, "Type", [](Program& p) { p.tools().Combo2->SetText(QStringLiteral("Font Black")); }, "Font Black",
-        "Type=Plain", "Type=Font Black");
-    add(
-        Static, "Color",
-        [](Program& p) {
-          p.tools().Combo4->setCurrentIndex(2);
-          Q_EMIT p.tools().Combo4->Click(controls::Cause::User);
-        },
-        "P1Dark", "H=60\r\nColor=Red", "H=60\r\nColor=P1Dark");
-    add(
-        Static, "Z", [](Program& p) { p.tools().Text4->SetText(QStringLiteral("1.5.")); }, "1.5.", "Z=0.25", "Z=1.5.");
-    add(Text, "Text", [](Program& p) { p.tools().Text2->SetText(QStringLiteral("Gr\u00fc\u00df = \u201cGott\u201d")); },
-        "HELLO", "", "", {}, {"Hello there", "Gr\xfc\xdf = \x93Gott\x94"});
-    add(Static, "Tex",
-        [](Program& p) {
-          p.tools().Combo6->SetText(QStringLiteral("Other"));
-          p.tools().Text3->SetText(QStringLiteral("new.png"));
-        },
-        "Other", "StaticA]\r\nTex=Plate", "StaticA]\r\nTex=Other", {"other.png", "new.png"});
-    add(
-        Static, "ColR", [](Program&) {}, "0.5", "", "");
+    const QString theme = support::ThemeCopy;
+    add(Static, "X", "77", "77", theme, "X=40", "X=77");
+    add(Text, "Align", "2 = Right", "2", theme, "Align=1", "Align=2");
+    add(Text, "Font", "3 = Bold with dark Outline", "3", theme, "Font=0", "Font=3");
+    add(u"LoadingButtonGo"_s, "Visible", "0 = False", "0", theme, "Visible=1", "Visible=0");
+    add(Static, "Direction", "1 = Bottom to Top", "1", theme, "Direction=0", "Direction=1");
+    add(Static, "Type", "Font Black", "Font Black", theme, "Type=Plain", "Type=Font Black");
+    add(Static, "Color", "P1Dark", "P1Dark", theme, "H=60\r\nColor=Red", "H=60\r\nColor=P1Dark");
+    add(Static, "Z", "1.5.", "1.5.", theme, "Z=0.25", "Z=1.5.");
+    add(Text, "Text", "Gr\xfc\xdf = [1];", "HELLO", support::LanguageCopy, "Hello there", "Gr\xfc\xdf = [1];");
+    add(Static, "Tex", "new.png", "Plate", support::SkinCopy, "plate.png", "new.png");
+    add(Static, "ColR", "", "0.5");  // no editor: nothing is written, the rest happens
   }
   void groups() {
-    QFETCH(QString, object);
-    QFETCH(QString, key);
-    QFETCH(Act, edit);
-    program->tag(object);
+    QFETCH(QString, file);
+    QFETCH(Change, change);
+    const QString key = QString::fromLatin1(QTest::currentDataTag());
+    program->tag(*static_cast<QString*>(QTest::qData("object", QMetaType::QString)));
     program->row(key);
     const bool hasEditor = program->state.EditorShown;
-    edit(*program);
+    enter(program->tools(), *static_cast<QString*>(QTest::qData("text", QMetaType::QString)));
+    auto files = game->files();
+    if (!file.isEmpty()) files[file].replace(files[file].indexOf(change.first), change.first.size(), change.second);
     program->state.ProgressStep = 77;
     program->tools().Command1->click();
     QTEST(program->value(key), "value");
-    const std::pair<QString, const char*> files[] = {
-        {support::ThemeCopy, "theme"}, {support::SkinCopy, "skin"}, {support::LanguageCopy, "language"}};
-    for (const auto& [copy, column] : files) {
-      const auto change = *static_cast<Change*>(QTest::qData(column, qMetaTypeId<Change>()));
-      QByteArray expected = game->read(copy.chopped(4));
-      if (!change.first.isEmpty()) expected.replace(expected.indexOf(change.first), change.first.size(), change.second);
-      QCOMPARE(game->read(copy), expected);
-    }
-    QVERIFY(program->state.Changed);
-    QVERIFY(program->enabled(SaveButton));
+    for (const auto& [name, bytes] : game->files().asKeyValueRange()) QCOMPARE(bytes, files[name]);
+    QVERIFY(program->state.Changed && program->enabled(SaveButton));
     QVERIFY2(program->state.ProgressStep != 77, "not drawn");
     QCOMPARE(program->state.EditorShown, hasEditor);
     QCOMPARE(program->tools().focusWidget(), program->tools().ListView1);
   }
 
+  void aReferenceAndWhatItStandsForAreBothWritten() {
+    program->tag(Static);
+    program->row(u"Tex"_s);
+    program->tools().Combo6->SetText(u"Other"_s);
+    program->tools().Text3->SetText(u"new.png"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->value(u"Tex"_s), u"Other"_s);
+    QVERIFY(game->read(support::ThemeCopy).contains("LoadingStaticA]\r\nTex=Other\r\n"));
+    QVERIFY(game->read(support::SkinCopy).endsWith("Plate=plate.png\r\nOther=new.png\r\n"));
+  }
+
   void refusals_data() {
     QTest::addColumn<Act>("edit");
-    QTest::addColumn<bool>("themeWritten");
-    QTest::newRow("no row") << Act([](Program& p) { p.tools().ListView1->SelectRow(-1); }) << false;
-    QTest::newRow("no object") << Act([](Program& p) {
-      p.row(QStringLiteral("X"));
+    const auto add = [](const char* name, Act edit) { QTest::newRow(name) << edit; };
+    add("no row", [](Program& p) { p.tools().ListView1->SelectRow(-1); });
+    add("nothing in Combo2", [](Program& p) { p.soleRow(u"TYPE"_s, u"plain"_s); });
+    add("nothing in Combo3", [](Program& p) { p.soleRow(u"COLOR"_s, u"Lost"_s); });
+    add("nothing in Combo5", [](Program& p) { p.soleRow(u"TEXT"_s, u"LOST"_s); });
+    add("nothing in Combo6", [](Program& p) { p.soleRow(u"TEX"_s, u"Lost"_s); });
+    add("no object", [](Program& p) {
+      p.row(u"X"_s);
       p.tools().List1->SetListIndex(-1);
-    }) << false;
-    QTest::newRow("nothing in Combo2") << Act([](Program& p) {
-      p.soleRow(QStringLiteral("TYPE"), QStringLiteral("plain"));
-    }) << false;
-    QTest::newRow("nothing in Combo3") << Act([](Program& p) {
-      p.soleRow(QStringLiteral("COLOR"), QStringLiteral("Lost"));
-    }) << false;
-    QTest::newRow("nothing in Combo5") << Act([](Program& p) {
-      p.soleRow(QStringLiteral("TEXT"), QStringLiteral("LOST"));
-    }) << false;
-    QTest::newRow("nothing in Combo6") << Act([](Program& p) {
-      p.soleRow(QStringLiteral("TEX"), QStringLiteral("Lost"));
-    }) << false;
-    QTest::newRow("a section with a bracket") << Act([](Program& p) {
-      p.screen(QStringLiteral("Level Screen"));
-      p.tag(QStringLiteral("LevelStatic]x"));
-      p.soleRow(QStringLiteral("X"), QStringLiteral("9"));
-    }) << false;
-    QTest::newRow("outside the code page") << Act([](Program& p) {
-      p.soleRow(QStringLiteral("TEXT"), QStringLiteral("GO"));
-      p.tools().Text2->SetText(QStringLiteral("\u4e2d"));
-    }) << false;
-    QTest::newRow("a read-only theme") << Act([](Program& p) {
-      QFile::setPermissions(themeFile(p), QFileDevice::ReadOwner);
-      p.row(QStringLiteral("X"));
-      p.tools().Text1->SetText(QStringLiteral("9"));
-    }) << false;
-    QTest::newRow("a read-only skin") << Act([](Program& p) {
-      QFile::setPermissions(skinFile(p), QFileDevice::ReadOwner);
-      p.row(QStringLiteral("Tex"));
-      p.tools().Combo6->SetText(QStringLiteral("Other"));
-      p.tools().Text3->SetText(QStringLiteral("new.png"));
-    }) << true;
+    });
+    add("a section with a bracket", [](Program& p) {
+      p.screen(u"Level Screen"_s);
+      p.tag(u"LevelStatic]x"_s);
+      p.row(u"X"_s);
+    });
+    add("outside the code page", [](Program& p) {
+      p.soleRow(u"TEXT"_s, u"GO"_s);
+      p.tools().Text2->SetText(u"\u4e2d"_s);
+    });
+    add("a read-only theme", [](Program& p) {
+      QFile::setPermissions(platform::NativePath(p.state.Paths.ThemeFile), QFileDevice::ReadOwner);
+      p.row(u"X"_s);
+      p.tools().Text1->SetText(u"9"_s);
+    });
+    add("a read-only skin, the theme is written", [](Program& p) {
+      QFile::setPermissions(platform::NativePath(p.state.Paths.SkinFile), QFileDevice::ReadOwner);
+      p.row(u"Tex"_s);
+      p.tools().Combo6->SetText(u"Other"_s);
+      p.tools().Text3->SetText(u"new.png"_s);
+    });
   }
   void refusals() {
     QFETCH(Act, edit);
-    QFETCH(bool, themeWritten);
     program->tag(Static);
     auto files = game->files();
     edit(*program);
@@ -155,7 +142,8 @@ class ValueCommitTest : public QObject {
     program->state.ProgressStep = 77;
     program->tools().Command1->click();
     QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
-    if (themeWritten) files[support::ThemeCopy].replace("LoadingStaticA]\r\nTex=Plate", "LoadingStaticA]\r\nTex=Other");
+    if (QByteArray(QTest::currentDataTag()).endsWith("is written"))
+      files[support::ThemeCopy].replace("LoadingStaticA]\r\nTex=Plate", "LoadingStaticA]\r\nTex=Other");
     const auto filesNow = game->files();
     for (const QString& name : files.keys()) QCOMPARE(filesNow[name], files[name]);
     QCOMPARE(program->tools().ListView1->SubItem(0), row);
@@ -177,8 +165,8 @@ class ValueCommitTest : public QObject {
     commit("H", "060");  // the bar stands at 60 already: the text stays
     commit("W", "120");
     QCOMPARE(preview.Mark(), QRectF(45, 50, 120, 60));
-    QCOMPARE(program->state.CursorRect.H, QStringLiteral("60"));
-    QCOMPARE(program->value(QStringLiteral("H")), QStringLiteral("060"));
+    QCOMPARE(program->state.CursorRect.H, u"60"_s);
+    QCOMPARE(program->value(u"H"_s), u"060"_s);
 
     program->tag(Text);
     const double line = preview.Mark().height();
@@ -187,17 +175,14 @@ class ValueCommitTest : public QObject {
     QVERIFY(qAbs(preview.Mark().height() - 2 * line) < 6);
     commit("Size", "70000");
     QCOMPARE(program->state.CursorRect.Size, qint16(24));
-    QCOMPARE(program->value(QStringLiteral("Size")), QStringLiteral("70000"));
-    program->row(QStringLiteral("Font"));
+    QCOMPARE(program->value(u"Size"_s), u"70000"_s);
+    program->row(u"Font"_s);
     program->tools().Combo2->SetListIndex(1);
     program->tools().Command1->click();
     QCOMPARE(program->state.CursorRect.Font, quint8(0));
   }
 
  private:
-  static QString themeFile(Program& p) { return QString(p.state.Paths.ThemeFile).replace(u'\\', u'/'); }
-  static QString skinFile(Program& p) { return QString(p.state.Paths.SkinFile).replace(u'\\', u'/'); }
-
   std::unique_ptr<support::GameFolder> game;
   std::unique_ptr<Program> program;
 };

@@ -2,6 +2,7 @@
 
 #include "support/windows.h"
 
+using namespace Qt::StringLiterals;
 using support::Program;
 using toolwindow::Form2;
 
@@ -13,7 +14,7 @@ QString shownFrame(const Form2& form) {
   for (const QWidget* frame : {form.Numbers, form.FloatNumbers, form.Selection, form.Color, form.Texture, form.Texts}) {
     if (!frame->isHidden()) shown += frame->objectName();
   }
-  return shown.isEmpty() ? QStringLiteral("none") : shown.join(u'+');
+  return shown.isEmpty() ? u"none"_s : shown.join(u'+');
 }
 
 /// What an editor shows: the parts of its frame.
@@ -41,18 +42,18 @@ class ValueGridTest : public QObject {
 
   void frames() {
     const std::pair<QString, const char*> frames[] = {
-        {QStringLiteral("Numbers"),
+        {u"Numbers"_s,
          "X Y SIZE W H PIECEW PIECEH SPACE BANDS LENGTH REFLECTIONSPACING DESELECTREFLECTIONSPACING SELECTH SELECTW "
          "FADETEXPOS FIRSTCHILD TEXTS PARENT STYLE STATICS SKIPX"},
-        {QStringLiteral("Selection"), "ALIGN FONT VISIBLE REFLECTION FADE FADETEXT REFLECTIONS DIRECTION TYPE"},
-        {QStringLiteral("Texts"), "TEXT"},
-        {QStringLiteral("Color"), "COLOR DCOLOR TCOLOR TDCOLOR SBGCOLOR SBGDCOLOR STCOLOR STDCOLOR"},
-        {QStringLiteral("Texture"), "TEX FADETEX SBGTEX TEXSBG"},
-        {QStringLiteral("FloatNumbers"), "Z TEXX1 TEXY1 TEXX2 TEXY2 INT DINT"},
-        {QStringLiteral("none"), "COLR COLG COLB TEXT1 TEXX STATIC S"}};
+        {u"Selection"_s, "ALIGN FONT VISIBLE REFLECTION FADE FADETEXT REFLECTIONS DIRECTION TYPE"},
+        {u"Texts"_s, "TEXT"},
+        {u"Color"_s, "COLOR DCOLOR TCOLOR TDCOLOR SBGCOLOR SBGDCOLOR STCOLOR STDCOLOR"},
+        {u"Texture"_s, "TEX FADETEX SBGTEX TEXSBG"},
+        {u"FloatNumbers"_s, "Z TEXX1 TEXY1 TEXX2 TEXY2 INT DINT"},
+        {u"none"_s, "COLR COLG COLB TEXT1 TEXX STATIC S"}};
     for (const auto& [frame, keys] : frames) {
       for (const QString& key : QString::fromLatin1(keys).split(u' ')) {
-        program->soleRow(u' ' + key.toLower() + QStringLiteral("  "), QStringLiteral("0"));
+        program->soleRow(u' ' + key.toLower() + u"  "_s, u"0"_s);
         QVERIFY2(shownFrame(program->tools()) == frame, qPrintable(key + shownFrame(program->tools())));
       }
     }
@@ -104,7 +105,7 @@ class ValueGridTest : public QObject {
     QFETCH(QString, value);
     QFETCH(QString, frame);
     Form2& tools = program->tools();
-    program->soleRow(QStringLiteral("TYPE"), QStringLiteral("Plain"));  // what Combo2 held before
+    program->soleRow(u"TYPE"_s, u"Plain"_s);  // what Combo2 held before
     const bool failed = frame == u"none";
     program->soleRow(key, value);
     QCOMPARE(shownFrame(tools), frame);
@@ -122,7 +123,7 @@ class ValueGridTest : public QObject {
     Form2& tools = program->tools();
     const QRect lists = tools.List1->geometry();
     const auto heightAfter = [&](const char* key) {
-      program->soleRow(QLatin1StringView(key), QStringLiteral("1"));
+      program->soleRow(QLatin1StringView(key), u"1"_s);
       support::settle();
       return tools.height();
     };
@@ -136,11 +137,11 @@ class ValueGridTest : public QObject {
     QVERIFY(!tools.Command1->isVisible());
     QCOMPARE(heightAfter("ColG"), 183);
     QCOMPARE(heightAfter("Z"), 232);
-    program->tag(QStringLiteral("LoadingTextFree"));
+    program->tag(u"LoadingTextFree"_s);
     QCOMPARE(tools.height(), 183);
-    QCOMPARE(shownFrame(tools), QStringLiteral("none"));
+    QCOMPARE(shownFrame(tools), u"none"_s);
     heightAfter("X");
-    program->screen(QStringLiteral("Main Screen"));
+    program->screen(u"Main Screen"_s);
     QCOMPARE(tools.height(), 183);
     QVERIFY(!program->state.EditorShown);
     tools.resize(600, 400);  // outer 9120 x 6360 twips
@@ -174,25 +175,25 @@ class ValueGridTest : public QObject {
     QFETCH(int, bar);
     QFETCH(QString, text);
     Form2& tools = program->tools();
-    tools.Text1->SetText(QStringLiteral("before"));
+    tools.Text1->SetText(u"before"_s);
     tools.VScroll1->SetValueQuietly(bar);
-    program->soleRow(QStringLiteral("X"), text);
+    program->soleRow(u"X"_s, text);
     QTEST(tools.Text1->Text(), "shown");
     QTEST(tools.VScroll1->Value(), "barAfter");
   }
 
   void barAndTypedLetters() {
     Form2& tools = program->tools();
-    program->soleRow(QStringLiteral("X"), QStringLiteral("12345"));
+    program->soleRow(u"X"_s, u"12345"_s);
     tools.VScroll1->SetValue(9999);
-    QCOMPARE(tools.Text1->Text(), QStringLiteral("9999"));
+    QCOMPARE(tools.Text1->Text(), u"9999"_s);
     tools.Text1->selectAll();
-    QTest::keyClicks(tools.Text1, QStringLiteral("1a-2.3"));
-    QCOMPARE(tools.Text1->Text(), QStringLiteral("123"));
+    QTest::keyClicks(tools.Text1, u"1a-2.3"_s);
+    QCOMPARE(tools.Text1->Text(), u"123"_s);
     QCOMPARE(tools.VScroll1->Value(), 123);
-    program->soleRow(QStringLiteral("Z"), QString());
-    QTest::keyClicks(tools.Text4, QStringLiteral("-1.2,.3e"));
-    QCOMPARE(tools.Text4->Text(), QStringLiteral("1.2.3"));
+    program->soleRow(u"Z"_s, QString());
+    QTest::keyClicks(tools.Text4, u"-1.2,.3e"_s);
+    QCOMPARE(tools.Text4->Text(), u"1.2.3"_s);
   }
 
  private:
