@@ -26,6 +26,7 @@ void Register(const Figure& figure, const Body& work, const Body& floor);
 void RegisterIniAccess();
 void RegisterRecolouring();
 void RegisterScreen();
+void RegisterShownScreen();
 
 /// The longest time between two yields of a render so far, in milliseconds.
 double LongestGap();

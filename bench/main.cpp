@@ -3,8 +3,9 @@
 #include <map>
 #include <vector>
 
-#include <QGuiApplication>
+#include <QApplication>
 
+#include "controls/look.h"
 #include "figures.h"
 
 namespace bench {
@@ -79,8 +80,9 @@ void Register(const Figure& figure, const Body& work, const Body& floor) {
 
 /// Takes the options of every Google Benchmark program. Gives 1 when a figure misses its reach.
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QGuiApplication application(argc, argv);
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  controls::ApplyLook(application);
   char interleave[] = "--benchmark_enable_random_interleaving=true";
   char repeat[] = "--benchmark_repetitions=15";
   char time[] = "--benchmark_min_time=0.1";
@@ -93,6 +95,7 @@ int main(int argc, char** argv) {
   bench::RegisterIniAccess();
   bench::RegisterRecolouring();
   bench::RegisterScreen();
+  bench::RegisterShownScreen();
   bench::Medians medians;
   benchmark::RunSpecifiedBenchmarks(&medians);
   const bool reached = bench::printTable(medians);

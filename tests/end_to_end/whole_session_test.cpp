@@ -1,12 +1,9 @@
-#include <QAbstractItemView>
-#include <QDirIterator>
 #include <QTest>
-#include <QTimer>
 
-#include "support/windows.h"
+#include "support/real_input.h"
 
 using namespace Qt::StringLiterals;
-using support::Program;
+using namespace support;
 
 namespace {
 
@@ -14,68 +11,6 @@ namespace {
 struct EditRow {
   const char *object, *key, *text, *value, *file, *section, *line;
 };
-
-/// A click of the mouse on the window at a place of one of its widgets: the window finds out what lies there.
-void clickAt(QWidget& widget, const QPoint& place) {
-  const QPoint inWindow = widget.mapTo(widget.window(), place);
-  QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow);
-}
-
-void press(QWidget& widget) {
-  clickAt(widget, widget.rect().center());
-}
-
-void key(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-  QTest::keyClick(widget.window()->windowHandle(), key, modifiers);
-}
-
-void pickRow(QAbstractItemView& list, int row) {
-  const QModelIndex index = list.model()->index(row, 0);
-  list.scrollTo(index);
-  clickAt(*list.viewport(), list.visualRect(index).center());
-}
-
-void pickNamed(QAbstractItemView& list, const char* name) {
-  for (int row = 0; row < list.model()->rowCount(); ++row) {
-    if (list.model()->index(row, 0).data().toString() == QLatin1StringView(name)) return pickRow(list, row);
-  }
-  qFatal("no row %s", name);
-}
-
-/// Opens the drop-down list and takes an entry of it.
-void pickEntry(QComboBox& box, int entry) {
-  press(box);
-  QWidget* const popup = box.view()->window();
-  if (!QTest::qWaitForWindowExposed(popup)) qFatal("no drop-down list");
-  key(*popup, Qt::Key_Home);
-  for (int i = 0; i < entry; ++i) key(*popup, Qt::Key_Down);
-  key(*popup, Qt::Key_Return);
-}
-
-void type(QLineEdit& box, const char* text) {
-  press(box);
-  key(box, Qt::Key_A, Qt::ControlModifier);
-  for (const char letter : QByteArrayView(text)) QTest::keyClick(box.window()->windowHandle(), letter);
-}
-
-void toolBar(Program& program, int button) {
-  clickAt(*program.form.ToolBar, QPoint(32 * button - 16, 16));
-}
-
-/// Opens a theme with the mouse and the keyboard.
-void open(Program& program, const char* theme, const char* skin, Qt::Key language) {
-  QTimer::singleShot(0, &program.form, [=] {
-    auto* dialog = qobject_cast<mainwindows::Form3*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !QTest::qWaitForWindowExposed(dialog)) qFatal("no dialog");
-    pickNamed(*dialog->List1, theme);
-    pickNamed(*dialog->List2, skin);
-    dialog->Combo1->setFocus();
-    key(*dialog, language);
-    press(*dialog->Command1);
-  });
-  toolBar(program, 1);
-  if (program.form.ToolWindow == nullptr || !QTest::qWaitForWindowExposed(program.form.ToolWindow)) qFatal("not open");
-}
 
 /// The file with the value of one key replaced, found without regard to case in the first section of the name.
 QByteArray replaced(const QByteArray& file, const QByteArray& section, const QByteArray& key, const QByteArray& value) {
@@ -114,18 +49,6 @@ void enter(toolwindow::Form2& tools, const char* text) {
   if (tools.Combo4->isVisible()) pickEntry(*tools.Combo4, 2);
   for (QComboBox* box : {tools.Combo2, tools.Combo3, tools.Combo6}) {
     if (box->isVisible()) pickEntry(*box, box->findText(QLatin1StringView(text)));
-  }
-}
-
-void copyFolder(const QString& from, const QString& to) {
-  QDirIterator walk(from, QDir::Files, QDirIterator::Subdirectories);
-  while (walk.hasNext()) {
-    const QString source = walk.next();
-    const QString target = QDir(to).filePath(QDir(from).relativeFilePath(source));
-    QDir().mkpath(QFileInfo(target).path());
-    QFile::remove(target);
-    if (!QFile::copy(source, target)) qFatal("%s", qPrintable(target));
-    QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
   }
 }
 

@@ -1,0 +1,120 @@
+#include "sample_screens.h"
+
+#include <algorithm>
+#include <chrono>
+
+#include <QDir>
+#include <QDirIterator>
+
+#include "platform/files.h"
+#include "platform/numbers.h"
+#include "platform/pictures.h"
+#include "renderer/texture_pipeline.h"
+#include "themefiles/ini_access.h"
+
+namespace bench {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+}  // namespace
+
+SampleScreen::SampleScreen(const QString& theme, const QString& screen) : theme_(theme) {
+  const QString game = platform::ProgramPath(QDir(QStringLiteral(SAMPLE_FOLDER)).absolutePath()) + u'\\';
+  themefiles::ThemePaths& paths = state_.Paths;
+  paths.SkinDirectory = game + QStringLiteral("Skins\\") + theme;
+  const QString ending = QStringLiteral(".ini");
+  const QStringList skins = platform::ListFiles(paths.SkinDirectory, ending);
+  paths.ThemeFile = game + QStringLiteral("Themes\\") + theme + ending;
+  paths.SkinFile = paths.SkinDirectory + u'\\' + skins.value(0);
+  paths.LanguageFile = game + QStringLiteral("Languages\\English.ini");
+  themefiles::InitScreenTable(state_);
+  themefiles::ReadColors(state_, panel_);
+  host_.screen = screen;
+  state_.Filter = themefiles::FilterOf(screen);
+  themefiles::ReadTags(state_, screen, tags_, panel_, [] {});
+  draw();
+}
+
+void SampleScreen::draw() {
+  host_.percents.clear();
+  renderer::RenderContext context{state_, tags_, surface_, host_, panel_, boxes_, graphics_, account_};
+  renderer::DrawScreen(context);
+}
+
+double SampleScreen::drawForGap() {
+  double longest = 0;
+  Clock::time_point last = Clock::now();
+  const auto note = [&] {
+    const Clock::time_point now = Clock::now();
+    longest = std::max(longest, std::chrono::duration<double, std::milli>(now - last).count());
+    last = now;
+  };
+  host_.yielded = note;
+  draw();
+  note();
+  host_.yielded = nullptr;
+  return longest;
+}
+
+std::vector<Picture> SampleScreen::pictures() const {
+  std::vector<Picture> drawn;
+  const QString stem = themefiles::StemOf(state_, host_.screen);
+  add(drawn, stem + QStringLiteral("Background"), QRect(0, 0, platform::Surface::Width, platform::Surface::Height));
+  for (const renderer::Drawn& object : account_.Objects) add(drawn, object.Section, object.Place);
+  return drawn;
+}
+
+QString SampleScreen::valueOf(const QString& section, const char* key) const {
+  return themefiles::GetINI(section, QString::fromLatin1(key), QString(), state_.Paths.ThemeFile);
+}
+
+void SampleScreen::add(std::vector<Picture>& drawn, const QString& section, const QRect& place) const {
+  const QString file =
+      themefiles::GetINI(QStringLiteral("Textures"), valueOf(section, "Tex"), QString(), state_.Paths.SkinFile);
+  if (file.isEmpty()) return;  // a text
+  const QString name = valueOf(section, "Color").isEmpty() ? valueOf(section, "DColor") : valueOf(section, "Color");
+  const QStringList fields =
+      platform::SplitAtBlanks(themefiles::ResolveColor(state_, name, host_.SchemeName()) + QStringLiteral("   "));
+  const auto channel = [&](int i) { return static_cast<float>(platform::NumberOf(fields[i])); };
+  drawn.push_back({state_.Paths.SkinDirectory + u'\\' + file,
+                   platform::UpperCase(valueOf(section, "TYPE")),
+                   {channel(0), channel(1), channel(2)},
+                   place});
+}
+
+std::shared_ptr<SampleScreen> FullestScreen() {
+  std::shared_ptr<SampleScreen> fullest;
+  themefiles::ModuleState state;
+  themefiles::InitScreenTable(state);
+  const QDir themes(QStringLiteral(SAMPLE_FOLDER "/Themes"));
+  for (const QString& file : themes.entryList({QStringLiteral("*.ini")}, QDir::Files)) {
+    for (const themefiles::ScreenRow& row : state.ScreenTable) {
+      const QString theme = file.chopped(4);
+      auto screen = std::make_shared<SampleScreen>(theme, row.Name);
+      if (fullest && fullest->objects() >= screen->objects()) continue;
+      fullest = screen;
+    }
+  }
+  return fullest;
+}
+
+void DrawPlainly(const Picture& picture, platform::Surface& surface) {
+  QImage image = platform::LoadPicture(picture.path);
+  if (picture.type == u"COLORIZED") renderer::Colorize(image, picture.color);
+  if (picture.type == u"FONT BLACK") renderer::RecolourFont(image, picture.color, renderer::NoIntensity);
+  surface.DrawImageRect(image, picture.place.x(), picture.place.y(), picture.place.width(), picture.place.height());
+}
+
+CopiedSample::CopiedSample() {
+  const QDir from(QStringLiteral(SAMPLE_FOLDER));
+  QDirIterator walk(from.path(), QDir::Files, QDirIterator::Subdirectories);
+  while (walk.hasNext()) {
+    const QString source = walk.next();
+    const QString target = folder_.filePath(from.relativeFilePath(source));
+    QDir().mkpath(QFileInfo(target).path());
+    QFile::copy(source, target);
+  }
+}
+
+}  // namespace bench

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QTemporaryDir>
+
+#include "renderer/recolouring.h"
+#include "support/stage.h"
+
+namespace bench {
+
+/// A picture of the screen as the render draws it.
+struct Picture {
+  QString path;
+  QString type;
+  renderer::ColorNumbers color;
+  QRect place;
+};
+
+/// One screen of a sample theme, drawn on a surface without a window.
+class SampleScreen {
+ public:
+  SampleScreen(const QString& theme, const QString& screen);
+
+  const QString& theme() const { return theme_; }
+  const QString& name() const { return host_.screen; }
+
+  void draw();
+  /// Draws once more and gives the longest time between two yields in milliseconds.
+  double drawForGap();
+
+  std::size_t objects() const { return account_.Objects.size(); }
+
+  /// The pictures that the last render drew.
+  std::vector<Picture> pictures() const;
+
+ private:
+  QString valueOf(const QString& section, const char* key) const;
+  void add(std::vector<Picture>& drawn, const QString& section, const QRect& place) const;
+
+  QString theme_;
+  themefiles::ModuleState state_;
+  support::Tags tags_;
+  platform::Surface surface_;
+  support::Host host_;
+  support::Panel panel_;
+  support::Boxes boxes_;
+  platform::Graphics graphics_;
+  renderer::RenderAccount account_;
+};
+
+/// The screen on which most objects are drawn, of all sample themes; null without any.
+std::shared_ptr<SampleScreen> FullestScreen();
+
+/// Decodes, recolours and draws scaled; nothing else.
+void DrawPlainly(const Picture& picture, platform::Surface& surface);
+
+/// A copy of the sample game in a folder of its own, where working copies may be made.
+class CopiedSample {
+ public:
+  CopiedSample();
+  QString path() const { return folder_.path(); }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+}  // namespace bench

@@ -1,0 +1,84 @@
+#include <memory>
+
+#include <QApplication>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QTimer>
+
+#include "figures.h"
+#include "mainwindows/main_events.h"
+#include "mainwindows/main_window.h"
+#include "mainwindows/open_theme.h"
+#include "platform/paths.h"
+#include "sample_screens.h"
+
+namespace bench {
+namespace {
+
+/// The program's main window with a theme of the sample open in it.
+struct OpenEditor {
+  explicit OpenEditor(const SampleScreen& screen)
+      : form({state, boxes, graphics, {platform::ProgramPath(settings.path())}}) {
+    form.Config.SetGameFolder(platform::ProgramPath(game.path()) + u'\\');
+    mainwindows::ConnectEvents(form);
+    form.show();
+    QTimer::singleShot(0, &form, [&screen] {
+      auto& dialog = dynamic_cast<mainwindows::Form3&>(*QApplication::activeModalWidget());
+      dialog.List1->SetListIndex(dialog.List1->row(dialog.List1->findItems(screen.theme(), Qt::MatchExactly).first()));
+      dialog.Command1->click();
+    });
+    Q_EMIT form.ToolBar->Click(1);
+    form.ToolWindow->Combo1->SetText(screen.name());
+    QApplication::processEvents();
+  }
+
+  CopiedSample game;
+  QTemporaryDir settings;
+  themefiles::ModuleState state;
+  support::Boxes boxes;
+  platform::Graphics graphics;
+  mainwindows::Form1 form;
+};
+
+/// Shows a surface, and does nothing else.
+class PlainPreview : public QWidget {
+ public:
+  PlainPreview() {
+    setFixedSize(platform::Surface::Width, platform::Surface::Height);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+  }
+  platform::Surface Surface;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawImage(0, 0, Surface.image());
+  }
+};
+
+}  // namespace
+
+void RegisterShownScreen() {
+  const auto screen = FullestScreen();
+  if (!screen) return;
+  const auto editor = std::make_shared<OpenEditor>(*screen);
+  const auto preview = std::make_shared<PlainPreview>();
+  preview->show();
+  QApplication::processEvents();
+  Register(
+      {"ShownScreen", 1.25, Held::AtMost},
+      [editor](benchmark::State& state) {
+        for ([[maybe_unused]] auto turn : state) editor->form.Queue.Draw();
+      },
+      [preview, pictures = screen->pictures()](benchmark::State& state) {
+        for ([[maybe_unused]] auto turn : state) {
+          for (const Picture& picture : pictures) {
+            DrawPlainly(picture, preview->Surface);
+            preview->repaint(preview->Surface.TakeDirty());
+          }
+        }
+      });
+}
+
+}  // namespace bench

@@ -1,0 +1,88 @@
+#pragma once
+
+#include <QAbstractItemView>
+#include <QDirIterator>
+#include <QTest>
+#include <QTimer>
+
+#include "support/windows.h"
+
+// Mouse and keyboard on the program's real windows, as a user has them.
+
+namespace support {
+
+/// A click of the mouse on the window at a place of one of its widgets: the window finds out what lies there.
+inline void clickAt(QWidget& widget, const QPoint& place) {
+  const QPoint inWindow = widget.mapTo(widget.window(), place);
+  QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow);
+}
+
+inline void press(QWidget& widget) {
+  clickAt(widget, widget.rect().center());
+}
+
+inline void key(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+  QTest::keyClick(widget.window()->windowHandle(), key, modifiers);
+}
+
+inline void pickRow(QAbstractItemView& list, int row) {
+  const QModelIndex index = list.model()->index(row, 0);
+  list.scrollTo(index);
+  clickAt(*list.viewport(), list.visualRect(index).center());
+}
+
+inline void pickNamed(QAbstractItemView& list, const char* name) {
+  for (int row = 0; row < list.model()->rowCount(); ++row) {
+    if (list.model()->index(row, 0).data().toString() == QLatin1StringView(name)) return pickRow(list, row);
+  }
+  qFatal("no row %s", name);
+}
+
+/// Opens the drop-down list and takes an entry of it.
+inline void pickEntry(QComboBox& box, int entry) {
+  press(box);
+  QWidget* const popup = box.view()->window();
+  if (!QTest::qWaitForWindowExposed(popup)) qFatal("no drop-down list");
+  key(*popup, Qt::Key_Home);
+  for (int i = 0; i < entry; ++i) key(*popup, Qt::Key_Down);
+  key(*popup, Qt::Key_Return);
+}
+
+inline void type(QLineEdit& box, const char* text) {
+  press(box);
+  key(box, Qt::Key_A, Qt::ControlModifier);
+  for (const char letter : QByteArrayView(text)) QTest::keyClick(box.window()->windowHandle(), letter);
+}
+
+inline void toolBar(Program& program, int button) {
+  clickAt(*program.form.ToolBar, QPoint(32 * button - 16, 16));
+}
+
+/// Opens a theme with the mouse and the keyboard.
+inline void open(Program& program, const char* theme, const char* skin, Qt::Key language) {
+  QTimer::singleShot(0, &program.form, [=] {
+    auto* dialog = qobject_cast<mainwindows::Form3*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !QTest::qWaitForWindowExposed(dialog)) qFatal("no dialog");
+    pickNamed(*dialog->List1, theme);
+    pickNamed(*dialog->List2, skin);
+    dialog->Combo1->setFocus();
+    key(*dialog, language);
+    press(*dialog->Command1);
+  });
+  toolBar(program, 1);
+  if (program.form.ToolWindow == nullptr || !QTest::qWaitForWindowExposed(program.form.ToolWindow)) qFatal("not open");
+}
+
+inline void copyFolder(const QString& from, const QString& to) {
+  QDirIterator walk(from, QDir::Files, QDirIterator::Subdirectories);
+  while (walk.hasNext()) {
+    const QString source = walk.next();
+    const QString target = QDir(to).filePath(QDir(from).relativeFilePath(source));
+    QDir().mkpath(QFileInfo(target).path());
+    QFile::remove(target);
+    if (!QFile::copy(source, target)) qFatal("%s", qPrintable(target));
+    QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
+  }
+}
+
+}  // namespace support
