@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QTime>
 
+#include "controls/assets.h"
 #include "controls/twips.h"
 #include "platform/fonts.h"
 #include "platform/pictures.h"
@@ -53,7 +54,7 @@ void setUpToolBar(toolbar::McToolBar& bar) {
   bar.SetButton_Count(static_cast<int>(Commands.size()));
   for (size_t i = 0; i < Commands.size(); ++i) {
     const int button = static_cast<int>(i) + 1;
-    const QIcon icon(QStringLiteral(":/assets/%1.png").arg(Commands.at(i).icon));
+    const QIcon icon = controls::AssetIcon(Commands.at(i).icon.toString());
     bar.SetButtonValue(button, toolbar::CaptionProperty, QString());
     bar.SetButtonValue(button, toolbar::IconProperty, icon);
     bar.SetButtonValue(button, toolbar::EnabledProperty, Commands.at(i).enabledAtStart);
@@ -78,7 +79,7 @@ Form1::Form1(const MainServices& services)
       ProgressBar1(new progressbar::ProgressBar(Client)),
       host_({*Workspace, *ProgressBar1, *Combo1, *Combo2, Queue, [this] { return ToolWindow->Combo1->Text(); }}) {
   setObjectName(QStringLiteral("Form1"));
-  setWindowIcon(QIcon(QStringLiteral(":/assets/app.png")));
+  setWindowIcon(controls::AssetIcon(QStringLiteral("app")));
   setUpToolBar(*ToolBar);
   progressbar::ReadProperties(*ProgressBar1, progressbar::MainWindowBar());
   ProgressBar1->resize(ProgressBarSize);
@@ -156,7 +157,7 @@ void Form1::Form_Load() {
 }
 
 void Form1::ShowStartPicture(quint32 backColor) {
-  const QImage picture(QStringLiteral(":/assets/start.jpg"));
+  const QImage picture = controls::AssetPicture(QStringLiteral("start.jpg"));
   Workspace->Surface().Wipe(platform::ColorOf(backColor));
   Workspace->Surface().DrawImageRect(picture, 0, 0, platform::Surface::Width, platform::Surface::Height);
   Workspace->Invalidate();

@@ -5,7 +5,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 
-#include "platform/system_colors.h"
+#include "controls/assets.h"
 
 namespace toolwindow {
 namespace {
@@ -127,7 +127,7 @@ Form2::Form2(ToolServices services, QWidget* owner)
 
 QPushButton* Form2::iconButton(QWidget* frame, const QString& icon, const QString& toolTip) {
   auto* button = new QPushButton(frame);
-  if (!icon.isEmpty()) button->setIcon(QIcon(QStringLiteral(":/assets/%1.png").arg(icon)));
+  if (!icon.isEmpty()) button->setIcon(controls::AssetIcon(icon));
   button->setToolTip(toolTip);
   return button;
 }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QIcon>
+#include <QImage>
+#include <QString>
+
+/// The pictures compiled into the program. They are decoded by name of their format: the toolkit's own way would load
+/// every image plug-in of the machine at the start.
+namespace controls {
+
+/// The picture of that file name ("start.jpg"); null without one.
+QImage AssetPicture(const QString& name);
+
+/// The icon of that name, without ending.
+QIcon AssetIcon(const QString& name);
+
+}  // namespace controls
