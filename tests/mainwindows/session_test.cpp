@@ -1,4 +1,4 @@
-#include <QSignalSpy>
+#include <QPainter>
 #include <QTest>
 #include <QTimer>
 
