@@ -1,39 +1,86 @@
 #include "progressbar/painting.h"
 
 #include <cmath>
+#include <exception>
 
-#include "platform/numbers.h"
 #include "platform/system_colors.h"
+#include "progressbar/caption.h"
+#include "progressbar/gradients.h"
 
 namespace progressbar {
 
 namespace {
 
-enum TextStyles { ShowsValue = 1, ShowsPercent = 2, ShowsText = 3 };
+enum Orientation { Horizontal = 1, Vertical = 2 };
 
-QString Caption(const Properties& bar, double percent) {
-  switch (bar.TextStyle) {
-    case ShowsValue:
-      return QString::number(bar.Value);
-    case ShowsPercent:
-      return platform::NumberText(percent) + u'%';
-    case ShowsText:
-      return bar.Text;
-    default:
-      return {};
-  }
+/// What the steps of a repaint work on.
+struct Sheet {
+  platform::Raster& raster;
+  const Properties& bar;
+  Palette palette;
+  double percent;
+};
+
+int rounded(double number) {
+  return int(std::lrint(number));
 }
+
+void clear(const Sheet& sheet) {
+  sheet.raster.Wipe(platform::ColorOf(platform::ButtonFaceColor).rgb());
+}
+
+/// Two bands above each other, from the left edge to `length`.
+void bandsAcross(const Sheet& sheet, int length, const Band& upper, const Band& lower) {
+  const int height = sheet.raster.Height();
+  const int middle = rounded(height / 2.0);
+  GradientTwoColour(sheet.raster, 1, upper.Start, upper.End, 0, 0, length, middle);
+  GradientTwoColour(sheet.raster, 1, lower.Start, lower.End, 0, middle, length, height);
+}
+
+/// Two bands side by side, from the top edge to `length`.
+void bandsDown(const Sheet& sheet, int length, const Band& left, const Band& right) {
+  const int width = sheet.raster.Width();
+  const int middle = rounded(width / 2.0);
+  GradientTwoColour(sheet.raster, 0, left.Start, left.End, 0, 0, middle, length);
+  GradientTwoColour(sheet.raster, 0, right.Start, right.End, middle, 0, width, length);
+}
+
+void fill(const Sheet& sheet) {
+  const bool across = sheet.bar.Orientations == Horizontal;
+  if (!across && sheet.bar.Orientations != Vertical) return;
+  const auto bands = across ? bandsAcross : bandsDown;
+  const int length = across ? sheet.raster.Width() : sheet.raster.Height();
+  bands(sheet, length, sheet.palette.TrackFirst, sheet.palette.TrackSecond);
+  if (sheet.bar.Value < 1) return;
+  bands(sheet, rounded(sheet.percent * length / 100), sheet.palette.FilledFirst, sheet.palette.FilledSecond);
+}
+
+void outline(const Sheet& sheet) {
+  sheet.raster.RoundRect(0, 0, sheet.raster.Width() - 1, sheet.raster.Height() - 1, sheet.bar.RoundedValue,
+                         platform::ColorOf(sheet.palette.Outline).rgb());
+}
+
+void caption(const Sheet& sheet) {
+  PaintCaption(sheet.raster, sheet.bar, CaptionText(sheet.bar, sheet.percent));
+}
+
+void clip(const Sheet& sheet) {
+  sheet.raster.ClipToRoundRect(0, 0, sheet.raster.Width(), sheet.raster.Height(), sheet.bar.RoundedValue);
+}
+
+constexpr void (*Steps[])(const Sheet&) = {clear, fill, outline, caption, clip};
 
 }  // namespace
 
-void Paint(QPainter& painter, const QSize& size, const Properties& bar) {
-  const double percent = bar.Value * 100.0 / bar.max;
-  const int filled = static_cast<int>(std::lrint(percent * size.width() / 100));
-  painter.fillRect(QRect(QPoint(), size), platform::ColorOf(bar.PBSCustomeColor2));
-  painter.fillRect(0, 0, filled, size.height(), platform::ColorOf(bar.PBSCustomeColor1));
-  painter.setFont(bar.TextFont);
-  painter.setPen(platform::ColorOf(bar.TextForeColor));
-  painter.drawText(QRect(QPoint(), size), Qt::AlignCenter | Qt::TextSingleLine, Caption(bar, percent));
+void Paint(platform::Raster& raster, const Properties& bar, const Palette& palette) {
+  const Sheet sheet{raster, bar, bar.Enabled ? palette : GreyOf(palette), bar.Value * 100.0 / bar.max};
+  for (const auto step : Steps) {
+    try {
+      step(sheet);
+    } catch (const std::exception&) {
+      continue;  // the steps behind it still show
+    }
+  }
 }
 
 }  // namespace progressbar

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QPainter>
-#include <QSize>
-
+#include "platform/raster.h"
+#include "progressbar/palettes.h"
 #include "progressbar/properties.h"
 
 namespace progressbar {
 
-/// Draws the whole bar.
-void Paint(QPainter& painter, const QSize& size, const Properties& bar);
+/// Draws the whole bar over the whole raster: two bands of track, two bands of the filled part, outline and caption.
+/// What lies outside the rounded bar becomes transparent. A step that fails is left out.
+void Paint(platform::Raster& raster, const Properties& bar, const Palette& palette);
 
 }  // namespace progressbar

@@ -17,6 +17,7 @@ template <typename T>
 void ProgressBar::write(T& member, const T& value, QStringView key) {
   member = value;
   Q_EMIT PropertyChanged(key.toString());
+  LoadPalette(palette_, state_);
   update();
 }
 
@@ -100,8 +101,10 @@ void ProgressBar::InitProperties() {
 }
 
 void ProgressBar::paintEvent(QPaintEvent* /*event*/) {
+  platform::Raster raster(size());
+  Paint(raster, state_, palette_);
   QPainter painter(this);
-  Paint(painter, size(), state_);
+  platform::Show(painter, raster);
 }
 
 QFont ProgressBar::AmbientFont() const {

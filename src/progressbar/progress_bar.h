@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+#include "progressbar/palettes.h"
 #include "progressbar/properties.h"
 
 namespace progressbar {
@@ -71,6 +72,7 @@ class ProgressBar : public QWidget {
   void write(T& member, const T& value, QStringView key);
 
   Properties state_;
+  Palette palette_;
 };
 
 }  // namespace progressbar

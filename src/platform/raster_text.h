@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QString>
+
+#include "platform/raster.h"
+
+namespace platform {
+
+// Sizes are whole pixels; points count 96 an inch. A text is one line, shown as it stands.
+
+int TextWidth(const QFont& font, const QString& text);
+/// The height of one line.
+int TextHeight(const QFont& font);
+
+/// Prints the text with the top left of its first glyph cell at this place, in grey steps of its colour.
+void Print(Raster& raster, const QFont& font, const QString& text, int x, int y, QRgb color);
+
+/// Several printings in one font, for the price of little more than one. Nothing else draws on the raster meanwhile.
+class TextPen {
+ public:
+  TextPen(Raster& raster, const QFont& font);
+
+  QSize SizeOf(const QString& text) const;
+  void Print(const QString& text, int x, int y, QRgb color);
+  void ClipTo(const QRect& area);
+
+ private:
+  QFont font_;
+  QFontMetrics metrics_;
+  QPainter painter_;
+};
+
+enum class TextAlign { Left, Center, Right };
+
+/// Prints the text at the top of a rectangle, cut off at its edges.
+void DrawText(Raster& raster, const QFont& font, const QString& text, const QRect& area, QRgb color,
+              TextAlign align = TextAlign::Center);
+
+}  // namespace platform

@@ -1,0 +1,78 @@
+#include "progressbar/caption.h"
+
+#include <array>
+#include <cmath>
+#include <iterator>
+
+#include "platform/numbers.h"
+#include "platform/raster_text.h"
+#include "platform/system_colors.h"
+#include "progressbar/palettes.h"
+
+namespace progressbar {
+
+namespace {
+
+enum TextStyles { ShowsValue = 1, ShowsPercent = 2, ShowsText = 3 };
+
+constexpr quint32 Shade = 0x808080;
+
+/// A printing that an effect puts under the caption.
+struct Copy {
+  enum Colors { None, Effect, Grey } color = None;
+  int dx = 0;
+  int dy = 0;
+};
+
+/// The effects, from 1 on, with their copies in the order of printing.
+constexpr std::array<Copy, 4> Effects[] = {
+    {},
+    {{{Copy::Effect, -1, -1}, {Copy::Grey, 1, 1}}},
+    {{{Copy::Effect, 1, 1}, {Copy::Grey, -1, 0}}},
+    {{{Copy::Effect, 1, 0}, {Copy::Effect, -1, 0}, {Copy::Effect, 0, -1}, {Copy::Effect, 0, 1}}},
+    {{{Copy::Effect, 1, 1}}},
+};
+
+constexpr int Rows = 3;
+constexpr int LastAlignment = 9;
+
+}  // namespace
+
+QString CaptionText(const Properties& bar, double percent) {
+  switch (bar.TextStyle) {
+    case ShowsValue:
+      return QString::number(bar.Value);
+    case ShowsPercent:
+      return platform::NumberText(percent) + u'%';
+    case ShowsText:
+      return bar.Text;
+    default:
+      return {};
+  }
+}
+
+std::optional<QPoint> CaptionPlace(int alignment, const QSize& bar, const QSize& caption) {
+  if (alignment < 1 || alignment > LastAlignment) return std::nullopt;
+  const auto centred = [](int outer, int inner) { return outer / 2.0 - inner / 2.0 - 1; };
+  const double columns[] = {1, centred(bar.width(), caption.width()), double(bar.width()) - caption.width() - 3};
+  const double rows[] = {0, centred(bar.height(), caption.height()), double(bar.height()) - caption.height() - 1};
+  return QPoint(int(std::lrint(columns[(alignment - 1) / Rows])), int(std::lrint(rows[(alignment - 1) % Rows])));
+}
+
+void PaintCaption(platform::Raster& raster, const Properties& bar, const QString& text) {
+  if (text.isEmpty() || bar.TextEffect < 1 || bar.TextEffect > int(std::size(Effects))) return;
+  platform::TextPen pen(raster, bar.TextFont);
+  const std::optional<QPoint> place = CaptionPlace(bar.TextAlignment, raster.rect().size(), pen.SizeOf(text));
+  if (!place) return;
+  const auto shown = [&](quint32 color) { return bar.Enabled ? color : GreyOf(color); };
+  const auto print = [&](int dx, int dy, quint32 color) {
+    pen.Print(text, place->x() + dx, place->y() + dy, platform::ColorOf(color).rgb());
+  };
+  for (const Copy& copy : Effects[bar.TextEffect - 1]) {
+    if (copy.color != Copy::None)
+      print(copy.dx, copy.dy, copy.color == Copy::Grey ? Shade : shown(bar.TextEffectColor));
+  }
+  print(0, 0, shown(bar.TextForeColor));
+}
+
+}  // namespace progressbar

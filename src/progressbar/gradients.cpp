@@ -1,0 +1,44 @@
+#include "progressbar/gradients.h"
+
+#include <cmath>
+
+#include "platform/ramps.h"
+
+namespace progressbar {
+
+namespace {
+
+/// The colour of a colour value's three channels; no system colours here.
+QRgb pixelOf(quint32 color) {
+  return qRgb(int(color & 0xFF), int(color >> 8 & 0xFF), int(color >> 16 & 0xFF));
+}
+
+/// Step i of n from the first colour to the last.
+QRgb stepOf(QRgb first, QRgb last, int i, int n) {
+  const auto channel = [&](int from, int to) { return int(std::lrint(from + i * (double(to - from) / n))); };
+  return qRgb(channel(qRed(first), qRed(last)), channel(qGreen(first), qGreen(last)),
+              channel(qBlue(first), qBlue(last)));
+}
+
+}  // namespace
+
+void GradientTwoColour(platform::Raster& surface, int Direction, quint32 StartColor, quint32 EndColor, int Left,
+                       int Top, int Width, int Height) {
+  if (Direction != 0 && Direction != 1) return;
+  platform::GradientFill(surface, Left, Top, Width, Height, pixelOf(StartColor), pixelOf(EndColor),
+                         platform::Direction(Direction));
+}
+
+void DrawGradientFourColour(platform::Raster& surface, int Left, int Top, int Width, int Height, quint32 TopLeftColour,
+                            quint32 TopRightColour, quint32 BottomLeftColour, quint32 BottomRightColour) {
+  if (Width < 1 || Height < 1) return;
+  const QRect shown = QRect(Left, Top, Width, Height) & surface.rect();
+  for (int y = shown.top(); y <= shown.bottom(); ++y) {
+    const QRgb first = stepOf(pixelOf(TopLeftColour), pixelOf(BottomLeftColour), y - Top, Height);
+    const QRgb last = stepOf(pixelOf(TopRightColour), pixelOf(BottomRightColour), y - Top, Height);
+    QRgb* const row = surface.Row(y);
+    for (int x = shown.left(); x <= shown.right(); ++x) row[x] = stepOf(first, last, x - Left, Width);
+  }
+}
+
+}  // namespace progressbar

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include "progressbar/properties.h"
+
+namespace progressbar {
+
+/// The two ends of a ramp.
+struct Band {
+  quint32 Start;
+  quint32 End;
+};
+
+/// The colours of a bar: each of its two parts has two bands, above each other or side by side.
+struct Palette {
+  Band TrackFirst{};
+  Band TrackSecond{};
+  Band FilledFirst{};
+  Band FilledSecond{};
+  quint32 Outline = 0;
+};
+
+/// Takes the colours of the bar's theme; a theme that doesn't exist changes nothing.
+void LoadPalette(Palette& palette, const Properties& bar);
+
+/// The grey that a colour has on a disabled bar.
+quint32 GreyOf(quint32 color);
+Palette GreyOf(const Palette& palette);
+
+}  // namespace progressbar
