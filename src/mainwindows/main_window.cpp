@@ -17,6 +17,7 @@
 #include "progressbar/stored_form.h"
 #include "renderer/render_driver.h"
 #include "toolbar/button_values.h"
+#include "toolbar/main_window_tool_bar.h"
 #include "toolwindow/object_selection.h"
 
 namespace mainwindows {
@@ -29,36 +30,14 @@ constexpr QStringView Version = u"0.3a";
 constexpr quint32 FormColor = 0xC0C0C0;
 constexpr quint32 StartBackColor = 0x808080;
 
-/// The toolbar's four commands, buttons 1 to 4.
-struct CommandRow {
-  QStringView icon;
-  QStringView toolTip;
-  bool enabledAtStart;
-};
-constexpr std::array<CommandRow, 4> Commands{{
-    {u"open", u"Open", true},
-    {u"save", u"Save", false},
-    {u"close", u"Close", false},
-    {u"background", u"Background Color", false},
-}};
+/// Tool tips of the toolbar's four commands, buttons 1 to 4.
+constexpr std::array<QStringView, 4> CommandTips{u"Open", u"Save", u"Close", u"Background Color"};
 
 void setBackground(QWidget& widget, quint32 color) {
   QPalette palette = widget.palette();
   palette.setColor(QPalette::Window, platform::ColorOf(color));
   widget.setPalette(palette);
   widget.setAutoFillBackground(true);
-}
-
-/// The toolbar as this window wants it, but for its tool tips.
-void setUpToolBar(toolbar::McToolBar& bar) {
-  bar.SetButton_Count(static_cast<int>(Commands.size()));
-  for (size_t i = 0; i < Commands.size(); ++i) {
-    const int button = static_cast<int>(i) + 1;
-    const QIcon icon = controls::AssetIcon(Commands.at(i).icon.toString());
-    bar.SetButtonValue(button, toolbar::CaptionProperty, QString());
-    bar.SetButtonValue(button, toolbar::IconProperty, icon);
-    bar.SetButtonValue(button, toolbar::EnabledProperty, Commands.at(i).enabledAtStart);
-  }
 }
 
 }  // namespace
@@ -80,7 +59,7 @@ Form1::Form1(const MainServices& services)
       host_({*Workspace, *ProgressBar1, *Combo1, *Combo2, Queue, [this] { return ToolWindow->Combo1->Text(); }}) {
   setObjectName(QStringLiteral("Form1"));
   setWindowIcon(controls::AssetIcon(QStringLiteral("app")));
-  setUpToolBar(*ToolBar);
+  ToolBar->UserControl_ReadProperties(toolbar::MainWindowToolBar());
   progressbar::ReadProperties(*ProgressBar1, progressbar::MainWindowBar());
   ProgressBar1->resize(ProgressBarSize);
   placeControls();
@@ -147,8 +126,8 @@ void Form1::Form_Load() {
   Label1->adjustSize();
   Label2->adjustSize();
   ProgressBar1->move(0, ToolBar->Height());
-  for (size_t i = 0; i < Commands.size(); ++i) {
-    ToolBar->SetButtonValue(static_cast<int>(i) + 1, toolbar::ToolTipTextProperty, Commands.at(i).toolTip.toString());
+  for (size_t i = 0; i < CommandTips.size(); ++i) {
+    ToolBar->SetButtonValue(static_cast<int>(i) + 1, toolbar::ToolTipTextProperty, CommandTips.at(i).toString());
   }
   Services.State.BackgroundColor = 0xFFFFFF;
   if (Config.Path().isEmpty()) {

@@ -121,6 +121,7 @@ std::optional<IconBitmaps> ReadIcon(QByteArrayView file) {
   const std::optional<Head> head = readHead(cursor);
   if (!head) return std::nullopt;
   std::vector<QRgb> palette;
+  palette.reserve(size_t(head->colors));
   for (int i = 0; i < head->colors; ++i) palette.push_back(Black | (cursor.little32() & RGB_MASK));
   const int colorSize = rowSize(head->width, head->bits);
   const int maskSize = rowSize(head->width, 1);

@@ -1,19 +1,6 @@
 #include "toolbar/button_values.h"
 
-#include <QImage>
-#include <QPixmap>
-
 namespace toolbar {
-
-namespace {
-
-QIcon ToIcon(const QVariant& value) {
-  if (value.typeId() == QMetaType::QImage) return QIcon(QPixmap::fromImage(value.value<QImage>()));
-  if (value.typeId() == QMetaType::QPixmap) return QIcon(value.value<QPixmap>());
-  return value.value<QIcon>();
-}
-
-}  // namespace
 
 void SetValue(ToolbarButton& button, int propertyID, const QVariant& value) {
   switch (propertyID) {
@@ -27,7 +14,7 @@ void SetValue(ToolbarButton& button, int propertyID, const QVariant& value) {
       button.Enabled = value.toBool();
       break;
     case IconProperty:
-      button.Icon = ToIcon(value);
+      button.Icon = PictureOf(value);
       break;
     case IconAlignmentProperty:
       button.IconAlignment = value.toInt();
@@ -55,7 +42,7 @@ QVariant GetValue(const ToolbarButton& button, int propertyID) {
     case EnabledProperty:
       return button.Enabled;
     case IconProperty:
-      return button.Icon;
+      return QVariant::fromValue(button.Icon);
     case IconAlignmentProperty:
       return button.IconAlignment;
     case PressedProperty:

@@ -18,10 +18,10 @@ enum PropertyID {
   ToolTipIconProperty = 7,
 };
 
-/// Converts the value to the field's type and stores it; another number stores nothing. An icon is a QIcon, a QPixmap
-/// or a QImage.
+/// Converts the value to the field's type and stores it; another number stores nothing. An icon is a
+/// PictureReference, a QIcon, a QPixmap or a QImage.
 void SetValue(ToolbarButton& button, int propertyID, const QVariant& value);
-/// The field's value (an icon as QIcon), none for another number.
+/// The field's value (an icon as PictureReference), none for another number.
 QVariant GetValue(const ToolbarButton& button, int propertyID);
 
 }  // namespace toolbar

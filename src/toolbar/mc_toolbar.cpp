@@ -1,100 +1,182 @@
 #include "toolbar/mc_toolbar.h"
 
-#include <cmath>
+#include <QAccessible>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
 
-#include <QHelpEvent>
-#include <QMouseEvent>
-#include <QToolTip>
-
-#include "controls/look.h"
-#include "toolbar/button_values.h"
+#include "platform/property_bag_bytes.h"
+#include "toolbar/stored_form.h"
 
 namespace toolbar {
 
 namespace {
 
-constexpr int StripWidth = 800;
+/// Tells the control's events as signals.
+class Signals : public Events {
+ public:
+  explicit Signals(McToolBar& bar) : bar_(bar) {}
+
+  void PropertyChanged(const QString& name) override { Q_EMIT bar_.PropertyChanged(name); }
+  void MouseEnter() override { Q_EMIT bar_.MouseEnter(); }
+  void MouseLeave() override { Q_EMIT bar_.MouseLeave(); }
+  void Hover(int ButtonIndex) override { Q_EMIT bar_.Hover(ButtonIndex); }
+  void Click(int ButtonIndex) override { Q_EMIT bar_.Click(ButtonIndex); }
+  void DblClick(int ButtonIndex) override { Q_EMIT bar_.DblClick(ButtonIndex); }
+  void MouseUp(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) override {
+    Q_EMIT bar_.MouseUp(ButtonIndex, Button, Shift, X, Y);
+  }
+  void MouseDown(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) override {
+    Q_EMIT bar_.MouseDown(ButtonIndex, Button, Shift, X, Y);
+  }
+  void MouseMove(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) override {
+    Q_EMIT bar_.MouseMove(ButtonIndex, Button, Shift, X, Y);
+  }
+
+ private:
+  McToolBar& bar_;
+};
+
+void present(QWidget& window, const Surface& surface) {
+  QPainter painter(&window);
+  platform::Show(painter, surface.Image());
+}
 
 }  // namespace
 
-McToolBar::McToolBar(QWidget* parent) : QWidget(parent), buttons_(1) {
-  setFocusPolicy(Qt::NoFocus);
+Ambient AmbientOf(const QWidget* parent) {
+  return {true, parent == nullptr ? QApplication::font() : parent->font()};
+}
+
+McToolBar::McToolBar(QWidget* parent) : McToolBar(AmbientOf(parent), parent) {}
+
+McToolBar::McToolBar(const Ambient& ambient, QWidget* parent)
+    : QWidget(parent),
+      events_(std::make_unique<Signals>(*this)),
+      windows_(*this),
+      control_(windows_, *events_, ambient),
+      mouse_(control_, windows_) {
+  setFocusPolicy(ambient.UserMode ? Qt::TabFocus : Qt::NoFocus);
   setMouseTracking(true);
-  resize(sizeHint());
+  setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  InstallAccessibility();
+  connect(&windows_.TimerObject(), &QTimer::timeout, this, [this] { control_.zSubclass_Proc(Control::Timer); });
+  control_.Resize(size());
 }
 
-void McToolBar::SetButton_Count(int count) {
-  if (count < 1) return;
-  buttons_.resize(static_cast<size_t>(count));
-  update();
+McToolBar::~McToolBar() {
+  // The popup's end is no more an event for the control.
+  if (QWidget* const popup = windows_.Popup()) popup->removeEventFilter(this);
 }
 
-void McToolBar::SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& Value) {
-  SetValue(buttons_.at(static_cast<size_t>(ButtonIndex) - 1), PropertyID, Value);
-  update();
+bool McToolBar::UserControl_ReadProperties(QByteArrayView bytes) {
+  const std::optional<platform::PropertyBag> bag = platform::BagOfBytes(bytes);
+  const bool isSound = control_.UserControl_ReadProperties(bag.value_or(platform::PropertyBag()));
+  if (bag && isSound) resize(StoredSize(*bag).value_or(size()));
+  // A hidden window hears of its size late.
+  control_.Resize(size());
+  watchForm();
+  return bag && isSound;
 }
 
-QVariant McToolBar::GetButtonValue(int ButtonIndex, int PropertyID) const {
-  return GetValue(buttons_.at(static_cast<size_t>(ButtonIndex) - 1), PropertyID);
+QByteArray McToolBar::UserControl_WriteProperties() const {
+  platform::PropertyBag bag;
+  StoreSize(bag, size());
+  control_.UserControl_WriteProperties(bag);
+  return platform::StoredBytes(bag);
 }
 
-QSize McToolBar::sizeHint() const {
-  return {StripWidth, ButtonSize};
-}
-
-void McToolBar::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  Paint(painter, rect(), buttons_, pointer_);
-}
-
-void McToolBar::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const int number = buttonAt(event->position());
-  point({number, number});
-}
-
-void McToolBar::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const int number = buttonAt(event->position());
-  const bool clicked = number == pointer_.Held && clickable(number);
-  point({number, 0});
-  if (clicked) Q_EMIT Click(number);
-}
-
-void McToolBar::mouseDoubleClickEvent(QMouseEvent* /*event*/) {
-  // Down, up, Click, double click, up: without a second Click.
-}
-
-void McToolBar::mouseMoveEvent(QMouseEvent* event) {
-  point({buttonAt(event->position()), pointer_.Held});
-}
-
-void McToolBar::leaveEvent(QEvent* /*event*/) {
-  point({});
+void McToolBar::watchForm() {
+  if (form_ == window()) return;
+  if (form_) form_->removeEventFilter(this);
+  form_ = window();
+  form_->installEventFilter(this);
 }
 
 bool McToolBar::event(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QWidget::event(event);
-  const auto* help = static_cast<QHelpEvent*>(event);
-  const int number = buttonAt(help->pos());
-  const QString text = number == 0 ? QString() : buttons_[static_cast<size_t>(number) - 1].ToolTipText;
-  QToolTip::showText(help->globalPos(), controls::PlainToolTip(text), this);
-  return true;
+  // A designer keeps the mouse to itself.
+  if (control_.UserMode() && mouse_.Deliver(SurfaceName::Main, rect(), event)) return true;
+  if (event->type() == QEvent::Show) watchForm();
+  return QWidget::event(event);
 }
 
-int McToolBar::buttonAt(const QPointF& place) const {
-  if (place.x() < 0 || place.y() < 0 || place.y() >= ButtonSize) return 0;
-  const int number = static_cast<int>(std::floor(place.x() / ButtonSize)) + 1;
-  return number <= Button_Count() ? number : 0;
+bool McToolBar::eventFilter(QObject* object, QEvent* event) {
+  QWidget* const popup = windows_.Popup();
+  if (object == popup && event->type() == QEvent::Paint) {
+    present(*popup, control_.SurfaceOf(SurfaceName::Chevron));
+    return true;
+  }
+  if (object == popup) return mouse_.Deliver(SurfaceName::Chevron, popup->rect(), event);
+  if (object == form_ && event->type() == QEvent::Move) control_.zSubclass_Proc(Control::Move);
+  if (object == form_ && event->type() == QEvent::Resize) control_.zSubclass_Proc(Control::Size);
+  return QWidget::eventFilter(object, event);
 }
 
-bool McToolBar::clickable(int number) const {
-  return number > 0 && buttons_[static_cast<size_t>(number) - 1].Enabled;
+void McToolBar::paintEvent(QPaintEvent* /*event*/) {
+  present(*this, control_.SurfaceOf(SurfaceName::Main));
 }
 
-void McToolBar::point(const Pointer& pointer) {
-  pointer_ = pointer;
-  update();
+void McToolBar::resizeEvent(QResizeEvent* /*event*/) {
+  control_.Resize(size());
+}
+
+void McToolBar::hideEvent(QHideEvent* /*event*/) {
+  control_.zSubclass_Proc(Control::KillFocus);
+  windows_.DestroyToolTip();
+}
+
+void McToolBar::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+      control_.StepByKey(-1);
+      break;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+      control_.StepByKey(1);
+      break;
+    case Qt::Key_Home:
+      control_.EndByKey(false);
+      break;
+    case Qt::Key_End:
+      control_.EndByKey(true);
+      break;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (event->isAutoRepeat()) return;
+      control_.PressByKey();
+      break;
+    case Qt::Key_Escape:
+      if (control_.EscapeByKey()) break;
+      [[fallthrough]];
+    default:
+      QWidget::keyPressEvent(event);
+      return;
+  }
+  tellKeyPlace();
+}
+
+void McToolBar::focusInEvent(QFocusEvent* event) {
+  const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+  if (byKey) control_.EnterByKey();
+  tellKeyPlace();
+}
+
+void McToolBar::focusOutEvent(QFocusEvent* /*event*/) {
+  control_.LeaveByKey();
+  control_.zSubclass_Proc(Control::KillFocus);
+}
+
+void McToolBar::tellKeyPlace() {
+  QAccessibleEvent event(this, QAccessible::Focus);
+  event.setChild(AccessibleChildOf(control_));
+  QAccessible::updateAccessibility(&event);
+}
+
+void McToolBar::Press(int ButtonIndex) {
+  control_.PointByKey(ButtonIndex);
+  control_.PressByKey();
 }
 
 }  // namespace toolbar

@@ -1,55 +1,89 @@
 #pragma once
 
-#include <vector>
-
-#include <QVariant>
+#include <QByteArrayView>
+#include <QPointer>
 #include <QWidget>
 
-#include "toolbar/painting.h"
-#include "toolbar/toolbar_button.h"
+#include "toolbar/accessible_tool_bar.h"
+#include "toolbar/control.h"
+#include "toolbar/mouse_delivery.h"
+#include "toolbar/tool_bar_windows.h"
 
 namespace toolbar {
 
-/// A strip of icon buttons, numbered from 1 from the left. They never take the focus.
-class McToolBar : public QWidget {
+/// A strip of icon and text buttons in rows, numbered from 1, with separators, and a popup for what has no room. Its
+/// height follows from its buttons. By keyboard: Tab, arrows, Home, End, Enter and Space, Esc for the popup.
+class McToolBar : public QWidget, public AccessibleSource {
   Q_OBJECT
 
  public:
+  /// A toolbar at run time, with the font of its parent.
   explicit McToolBar(QWidget* parent = nullptr);
+  /// A new toolbar: without popup and leave, until its properties have been read.
+  explicit McToolBar(const Ambient& ambient, QWidget* parent = nullptr);
+  ~McToolBar() override;
 
-  int Button_Count() const { return static_cast<int>(buttons_.size()); }
-  /// Keeps the buttons that remain and adds new ones at the end; a count below 1 does nothing.
-  void SetButton_Count(int count);
-  /// A field of a button by its number (see button_values.h). Throw std::out_of_range for an index outside 1 to
-  /// Button_Count.
-  void SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& Value);
-  QVariant GetButtonValue(int ButtonIndex, int PropertyID) const;
+  /// Reads the stored bytes of a toolbar and takes their size; damaged ones count as an empty bag and give false.
+  bool UserControl_ReadProperties(QByteArrayView bytes);
+  /// The stored bytes, with the size.
+  QByteArray UserControl_WriteProperties() const;
+
+  /// Properties, list of buttons and the operations on it.
+  Model& Buttons() { return control_.Buttons(); }
+  const Model& Buttons() const { return control_.Buttons(); }
+
+  int Button_Count() const { return Buttons().Button_Count(); }
+  void SetButton_Count(int count) { Buttons().SetButton_Count(count); }
+  /// A field of a button by its number (see button_values.h). Throw std::out_of_range for a button that isn't there.
+  void SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& Value) {
+    Buttons().SetButtonValue(ButtonIndex, PropertyID, Value);
+  }
+  QVariant GetButtonValue(int ButtonIndex, int PropertyID) const {
+    return Buttons().GetButtonValue(ButtonIndex, PropertyID);
+  }
   /// In pixels.
   int Height() const { return height(); }
 
-  QSize sizeHint() const override;
+  const Control& Inner() const override { return control_; }
+  QWidget* PopupWindow() const override { return windows_.Popup(); }
+  QSize sizeHint() const override { return control_.SurfaceOf(SurfaceName::Main).Image().image().size(); }
+  void Press(int ButtonIndex) override;
 
  Q_SIGNALS:
-  /// The left mouse button was pressed and released on this enabled button.
+  void PropertyChanged(const QString& name);
+  void MouseEnter();
+  void MouseLeave();
+  void Hover(int ButtonIndex);
   void Click(int ButtonIndex);
+  void DblClick(int ButtonIndex);
+  // Button: 1 left, 2 right, 4 middle; Shift: 1 Shift, 2 Control, 4 Alt; X, Y: pixels of the surface. The Button of a
+  // move in the popup is 999.
+  void MouseUp(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
+  void MouseDown(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
+  void MouseMove(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void leaveEvent(QEvent* event) override;
   bool event(QEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
 
  private:
-  /// Number of the button at the place, 0 without one.
-  int buttonAt(const QPointF& place) const;
-  bool clickable(int number) const;
-  void point(const Pointer& pointer);
+  void watchForm();
+  void tellKeyPlace();
 
-  std::vector<ToolbarButton> buttons_;
-  Pointer pointer_;
+  std::unique_ptr<Events> events_;
+  ToolBarWindows windows_;
+  Control control_;
+  MouseDelivery mouse_;
+  QPointer<QWidget> form_;  ///< whose moves and sizes close the popup
 };
+
+/// What the place of a control on this parent gives it.
+Ambient AmbientOf(const QWidget* parent);
 
 }  // namespace toolbar

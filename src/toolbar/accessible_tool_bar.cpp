@@ -1,0 +1,152 @@
+#include "toolbar/accessible_tool_bar.h"
+
+#include <vector>
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QPointer>
+
+namespace toolbar {
+
+namespace {
+
+bool hasChevron(const Control& control) {
+  return !control.HiddenButtons().empty();
+}
+
+/// A button of the bar, or its chevron.
+class AccessibleButton : public QAccessibleInterface, public QAccessibleActionInterface {
+ public:
+  AccessibleButton(QWidget& bar, AccessibleSource& source, int place) : bar_(&bar), source_(source), place_(place) {}
+
+  bool isValid() const override { return bar_ && (button() || isChevron()); }
+  QObject* object() const override { return nullptr; }
+  QWindow* window() const override { return bar_ ? bar_->window()->windowHandle() : nullptr; }
+  QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+  QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(bar_); }
+  QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+
+  QString text(QAccessible::Text kind) const override {
+    const ToolbarButton* const of = button();
+    if (of == nullptr) return kind == QAccessible::Name ? QObject::tr("More buttons") : QString();
+    const bool isNamed = !of->Caption.isEmpty();
+    if (kind == QAccessible::Name) return isNamed ? of->Caption : of->ToolTipText;
+    return kind == QAccessible::Description && isNamed ? of->ToolTipText : QString();
+  }
+  void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+
+  QRect rect() const override {
+    if (!isValid()) return {};
+    const Properties& values = model().Values();
+    const ToolbarButton* const of = button();
+    if (of == nullptr) {
+      const QRect zone(bar_->width() - ChevronZone, bar_->height() - values.ButtonsHeight, ChevronWidth,
+                       values.ButtonsHeight);
+      return {bar_->mapToGlobal(zone.topLeft()), zone.size()};
+    }
+    const QWidget* const surface = of->InChevron ? source_.PopupWindow() : bar_.data();
+    const int width = of->ButtonType == 0 ? values.ButtonsWidth : values.ButtonsSeperatorWidth;
+    return {surface->mapToGlobal(QPoint(of->PosX, of->PosY)), QSize(width, values.ButtonsHeight)};
+  }
+  QAccessible::Role role() const override {
+    const ToolbarButton* const of = button();
+    if (of == nullptr) return QAccessible::ButtonMenu;
+    return of->ButtonType == 0 ? QAccessible::Button : QAccessible::Separator;
+  }
+  QAccessible::State state() const override {
+    QAccessible::State state;
+    const ToolbarButton* const of = button();
+    state.invalid = !isValid();
+    state.disabled = of != nullptr && !of->Enabled;
+    state.pressed = of != nullptr && of->Pressed;
+    state.invisible = of != nullptr && of->InChevron && !source_.PopupWindow()->isVisible();
+    state.focusable = !state.disabled;
+    state.focused = bar_ && bar_->hasFocus() && model().Button_Index() == number();
+    return state;
+  }
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+  }
+  QStringList actionNames() const override {
+    return isValid() && !state().disabled ? QStringList{pressAction()} : QStringList();
+  }
+  void doAction(const QString& name) override {
+    if (name == pressAction() && isValid() && !state().disabled) source_.Press(number());
+  }
+  QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
+
+ private:
+  const Model& model() const { return source_.Inner().Buttons(); }
+  bool isChevron() const { return place_ == model().Button_Count() && hasChevron(source_.Inner()); }
+  const ToolbarButton* button() const {
+    return bar_ && place_ < model().Button_Count() ? &model().Button(place_ + 1) : nullptr;
+  }
+  int number() const { return isChevron() ? 0 : place_ + 1; }
+
+  QPointer<QWidget> bar_;
+  AccessibleSource& source_;
+  int place_;
+};
+
+class AccessibleBar : public QAccessibleWidget {
+ public:
+  AccessibleBar(QWidget& bar, AccessibleSource& source)
+      : QAccessibleWidget(&bar, QAccessible::ToolBar), bar_(bar), source_(source) {}
+  ~AccessibleBar() override {
+    for (const QAccessible::Id id : ids_) QAccessible::deleteAccessibleInterface(id);
+  }
+
+  int childCount() const override {
+    return source_.Inner().Buttons().Button_Count() + (hasChevron(source_.Inner()) ? 1 : 0);
+  }
+  QAccessibleInterface* child(int index) const override {
+    if (index < 0 || index >= childCount()) return nullptr;
+    while (int(ids_.size()) <= index) {
+      ids_.push_back(QAccessible::registerAccessibleInterface(new AccessibleButton(bar_, source_, int(ids_.size()))));
+    }
+    return QAccessible::accessibleInterface(ids_[size_t(index)]);
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    const QAccessible::Id id = QAccessible::uniqueId(const_cast<QAccessibleInterface*>(child));
+    const auto found = std::find(ids_.begin(), ids_.end(), id);
+    return found == ids_.end() ? -1 : int(found - ids_.begin());
+  }
+  QAccessibleInterface* focusChild() const override {
+    return bar_.hasFocus() ? child(AccessibleChildOf(source_.Inner())) : nullptr;
+  }
+  QAccessibleInterface* childAt(int x, int y) const override {
+    for (int i = 0; i < childCount(); ++i) {
+      QAccessibleInterface* const button = child(i);
+      if (!button->state().invisible && button->rect().contains(x, y)) return button;
+    }
+    return nullptr;
+  }
+
+ private:
+  QWidget& bar_;
+  AccessibleSource& source_;
+  mutable std::vector<QAccessible::Id> ids_;
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+  auto* const source = dynamic_cast<AccessibleSource*>(object);
+  auto* const bar = qobject_cast<QWidget*>(object);
+  return source == nullptr || bar == nullptr ? nullptr : new AccessibleBar(*bar, *source);
+}
+
+}  // namespace
+
+void InstallAccessibility() {
+  QAccessible::installFactory(makeInterface);
+}
+
+int AccessibleChildOf(const Control& control) {
+  const int index = control.Buttons().Button_Index();
+  if (index == 0) return hasChevron(control) ? control.Buttons().Button_Count() : -1;
+  return index < 0 ? -1 : index - 1;
+}
+
+}  // namespace toolbar

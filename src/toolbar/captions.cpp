@@ -1,0 +1,91 @@
+#include "toolbar/captions.h"
+
+#include <algorithm>
+
+#include "platform/fonts.h"
+#include "platform/raster_text.h"
+#include "toolbar/whole.h"
+
+namespace toolbar {
+
+namespace {
+
+constexpr QChar Blank = u' ';
+constexpr int SideMargin = 5;
+
+bool isBreakChar(QChar letter) {
+  return !((letter >= u'A' && letter <= u'Z') || (letter >= u'a' && letter <= u'z') || letter == u'_');
+}
+
+QString trimmed(const QString& text) {
+  qsizetype from = 0;
+  qsizetype to = text.size();
+  while (from < to && text[from] == Blank) ++from;
+  while (from < to && text[to - 1] == Blank) --to;
+  return text.sliced(from, to - from);
+}
+
+/// The blanks at the end, which stand between the line and letters that follow.
+QString blanksBehind(const QString& text) {
+  const auto letter = std::find_if(text.rbegin(), text.rend(), [](QChar letter) { return letter != Blank; });
+  return text.last(std::distance(text.rbegin(), letter));
+}
+
+}  // namespace
+
+QFont DrawnFont(const QFont& font) {
+  constexpr double LargestPoints = 2160;
+  QFont drawn = platform::FaceFont(font.family());
+  if (drawn.weight() == QFont::Normal) drawn.setWeight(font.weight());
+  drawn.setItalic(font.italic());
+  drawn.setUnderline(font.underline());
+  if (font.pointSizeF() > 0) drawn.setPointSizeF(std::min(font.pointSizeF(), LargestPoints));
+  if (font.pixelSize() > 0) drawn.setPixelSize(font.pixelSize());
+  return drawn;
+}
+
+QStringList WrapCaption(const QString& caption, int maxWidth, const std::function<int(const QString&)>& textWidth) {
+  const QString text = QString(caption).remove(QStringLiteral("\r\n"));
+  if (text.isEmpty()) return {};
+  if (textWidth(text) < maxWidth) return {text};
+  QStringList lines;
+  QString buffer;
+  QString cutOff;  // the last line as it was before it lost its blanks
+  qsizetype consumed = 0;
+  qsizetype cut = 0;
+  for (qsizetype place = 1; place <= text.size(); ++place) {
+    const QChar letter = text[place - 1];
+    if (isBreakChar(letter)) cut = place - consumed - 1;
+    if (textWidth(buffer + letter) >= maxWidth || place == text.size()) {
+      if (cut == 0) cut = place - consumed - 1;
+      cutOff = buffer.first(cut);
+      lines += trimmed(cutOff);
+      buffer.remove(0, cut);
+      consumed += cut;
+      cut = 0;
+    }
+    buffer += letter;
+  }
+  // The last letter still has to go out.
+  if (lines.size() == 1 && buffer.size() > 1) {
+    lines += trimmed(buffer);
+  } else {
+    lines.last() = trimmed(cutOff) + blanksBehind(cutOff) + buffer;
+  }
+  return lines;
+}
+
+void DrawCaption(platform::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
+                 int shift) {
+  const QFont drawn = DrawnFont(font);
+  const int lineHeight = platform::TextHeight(drawn);
+  const QStringList lines = WrapCaption(caption, box.width() - SideMargin,
+                                        [&drawn](const QString& text) { return platform::TextWidth(drawn, text); });
+  int top = Nearest((box.height() - double(lines.size() + shift) * lineHeight) / 2 + box.y());
+  for (const QString& line : lines) {
+    platform::DrawText(raster, drawn, line, QRect(box.x(), top, box.width(), raster.Height() - top), color);
+    top += lineHeight;
+  }
+}
+
+}  // namespace toolbar

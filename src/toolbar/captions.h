@@ -1,0 +1,24 @@
+#pragma once
+
+#include <functional>
+
+#include <QFont>
+#include <QRect>
+#include <QStringList>
+
+#include "platform/raster.h"
+
+namespace toolbar {
+
+/// The caption in lines narrower than `maxWidth`, as measured by `textWidth`; a line breaks before anything but a
+/// letter or "_". Nothing of the caption is lost but blanks at the ends of lines.
+QStringList WrapCaption(const QString& caption, int maxWidth, const std::function<int(const QString&)>& textWidth);
+
+/// Draws the caption centred in the box, in lines; `shift` 1 lifts them by half a line, -1 lowers them as much.
+void DrawCaption(platform::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
+                 int shift);
+
+/// The font as it is drawn: the face or what stands in for it.
+QFont DrawnFont(const QFont& font);
+
+}  // namespace toolbar

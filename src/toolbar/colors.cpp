@@ -1,0 +1,27 @@
+#include "toolbar/colors.h"
+
+#include "platform/system_colors.h"
+#include "toolbar/whole.h"
+
+namespace toolbar {
+
+namespace {
+
+int blend(int channel, int other, int weight) {
+  constexpr double All = 255;
+  return Nearest((All - weight) * other / All + double(weight) * channel / All);
+}
+
+}  // namespace
+
+QRgb TranslateColor(quint32 color) {
+  return platform::ColorOf(color).rgb();
+}
+
+QRgb BlendColors(quint32 color, quint32 other, int weight) {
+  const QRgb a = TranslateColor(color);
+  const QRgb b = TranslateColor(other);
+  return qRgb(blend(qRed(a), qRed(b), weight), blend(qGreen(a), qGreen(b), weight), blend(qBlue(a), qBlue(b), weight));
+}
+
+}  // namespace toolbar

@@ -1,0 +1,59 @@
+#include "toolbar/icon_painting.h"
+
+#include <algorithm>
+
+#include "platform/raster_pictures.h"
+#include "toolbar/whole.h"
+
+namespace toolbar {
+
+namespace {
+
+constexpr QRgb ShadowColor = qRgb(128, 128, 128);
+
+/// Three bytes at a time become their mean, whatever row or pixel they belong to; none begin in the last three places.
+void turnGrey(QByteArray& bytes) {
+  constexpr int Triple = 3;
+  char* const data = bytes.data();
+  for (qsizetype i = 0; i <= bytes.size() - 4; i += Triple) {
+    const int mean = (uchar(data[i]) + uchar(data[i + 1]) + uchar(data[i + 2])) / Triple;
+    std::fill_n(data + i, Triple, char(mean));
+  }
+}
+
+}  // namespace
+
+bool PaintGrayScale(platform::Raster& raster, const Picture& picture, int left, int top, int width, int height) {
+  if (picture.Pixels.isNull()) return false;
+  if (width == -1) width = picture.Width();
+  if (height == -1) height = picture.Height();
+  platform::PixelRows grey = platform::GetDIBits(picture.Pixels);
+  turnGrey(grey.Bytes);
+  if (picture.Type != Picture::Icon) {
+    StretchDIBits(raster, left, top, width, height, grey);
+    return true;
+  }
+  StretchDIBits(raster, left, top, width, height, platform::GetDIBits(picture.Mask), platform::RasterOperation::And);
+  StretchDIBits(raster, left, top, width, height, grey, platform::RasterOperation::Or);
+  return true;
+}
+
+void DrawIcon(platform::Raster& raster, const Picture& picture, const QRect& area, bool enabled, bool shadow) {
+  const int x = Nearest((double(area.width()) - picture.Width()) / 2 + area.x());
+  const int y = Nearest((double(area.height()) - picture.Height()) / 2 + area.y());
+  if (!enabled) {
+    PaintGrayScale(raster, picture, x, y, picture.Width(), picture.Height());
+  } else if (shadow) {
+    platform::PaintSilhouette(raster, picture.Pixels, x + 1, y + 1, ShadowColor);
+    platform::PaintPicture(raster, picture.Pixels, x - 1, y - 1);
+  } else {
+    platform::PaintPicture(raster, picture.Pixels, x, y);
+  }
+}
+
+void TilePicture(platform::Raster& raster, const Picture& picture) {
+  if (picture.Type != Picture::Bitmap) return;
+  platform::TileRect(raster, 0, 0, raster.Width(), raster.Height(), picture.Pixels);
+}
+
+}  // namespace toolbar

@@ -1,0 +1,106 @@
+#include "toolbar/layout.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "toolbar/whole.h"
+
+namespace toolbar {
+
+namespace {
+
+constexpr int FrameX = 2;
+constexpr int FrameY = 5;
+constexpr int FramedExtraHeight = 7;
+constexpr int PopupExtraWidth = 4;
+constexpr int PopupExtraHeight = 7;
+
+int rowLength(const Model& model, bool inPopup) {
+  return inPopup ? model.Values().ButtonsPerRow_Chev : model.Values().ButtonsPerRow;
+}
+
+void check(int length) {
+  if (length == 0) throw std::domain_error("a row without items");
+}
+
+bool isMultiple(int number, int length) {
+  check(length);
+  return number % length == 0;
+}
+
+bool isFramed(const Model& model) {
+  return model.Values().BorderStyle != 0;
+}
+
+int itemWidth(const Model& model, int number, bool inPopup) {
+  const bool isSeparator = model.Button(number).ButtonType != 0 && !inPopup;
+  return isSeparator ? model.Values().ButtonsSeperatorWidth : model.Values().ButtonsWidth;
+}
+
+qint64 rows(int items, int length) {
+  check(length);
+  return (items - 1) / length + 1;
+}
+
+}  // namespace
+
+QPoint PlaceButton(const Model& model, int n, bool inPopup) {
+  const int length = rowLength(model, inPopup);
+  const bool isInset = isFramed(model) || inPopup;
+  qint64 x = isInset ? FrameX : 0;
+  qint64 y = isInset ? FrameY : 0;
+  for (int k = 1; k < n; ++k) {
+    x += itemWidth(model, k, inPopup);
+    if (!isMultiple(k, length)) continue;
+    y += model.Values().ButtonsHeight;
+    x = isInset ? FrameX : 0;
+  }
+  return {Whole(x), Whole(y)};
+}
+
+int HitTest(const Model& model, int x, int y, bool inPopup) {
+  const int length = rowLength(model, inPopup);
+  qint64 top = 0;
+  qint64 bottom = isFramed(model) && !inPopup ? FrameY : 0;
+  qint64 right = 0;
+  for (int i = 0; i < model.Button_Count(); ++i) {
+    if (isMultiple(i, length)) {
+      top = bottom;
+      bottom += model.Values().ButtonsHeight;
+      right = 0;
+    }
+    const qint64 left = right;
+    right += itemWidth(model, i + 1, inPopup);
+    if (left < x && x < right && top < y && y < bottom) return i + 1;
+  }
+  return -1;
+}
+
+int LaidOutHeight(const Model& model) {
+  const qint64 height = rows(model.Button_Count(), rowLength(model, false)) * model.Values().ButtonsHeight;
+  return Whole(height + (isFramed(model) ? FramedExtraHeight : 0));
+}
+
+void LayOut(Model& model, int innerWidth, bool mayHide, Layout& layout) {
+  for (int i = 1; i <= model.Button_Count(); ++i) {
+    ToolbarButton& button = model.Place(i);
+    QPoint place = PlaceButton(model, i, false);
+    const bool overflows = innerWidth - ChevronZone < qint64(model.Values().ButtonsWidth) + place.x();
+    const bool hides = button.ButtonType == 0 && model.Values().ShowChevron && overflows && mayHide;
+    if (hides) {
+      layout.HiddenButtons.push_back(i);
+      place = PlaceButton(model, int(layout.HiddenButtons.size()), true);
+    }
+    button.InChevron = hides;
+    button.PosX = place.x();
+    button.PosY = place.y();
+  }
+  const int hidden = int(layout.HiddenButtons.size());
+  if (hidden == 0) return;
+  const int length = rowLength(model, true);
+  const qint64 columns = std::min(hidden, length);
+  layout.Popup.setWidth(Whole(columns * model.Values().ButtonsWidth + PopupExtraWidth));
+  layout.Popup.setHeight(Whole(rows(hidden, length) * model.Values().ButtonsHeight + PopupExtraHeight));
+}
+
+}  // namespace toolbar

@@ -1,0 +1,131 @@
+#include "toolbar/model.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace toolbar {
+
+namespace {
+
+ToolbarButton blank() {
+  return {QString(), nullptr, false, 0, QString(), 0, false, 0};
+}
+
+/// A field of the current button as a property of the control.
+struct FieldRow {
+  QStringView name;
+  Effect onWrite;
+};
+constexpr FieldRow Fields[] = {
+    {u"Button_Type", Effect::LayOut}, {u"ButtonCaption", Effect::Repaint},        {u"ButtonEnabled", Effect::Repaint},
+    {u"ButtonIcon", Effect::Repaint}, {u"ButtonIconAllignment", Effect::Repaint}, {u"ButtonPressed", Effect::Repaint},
+    {u"ButtonToolTip", Effect::None}, {u"ButtonToolTipIcon", Effect::None},
+};
+
+}  // namespace
+
+Model::Model(ModelView& view, const QFont& ambientFont) : view_(view), buttons_(1) {
+  values_.Font = ambientFont;
+}
+
+void Model::Take(const Properties& values, std::vector<ToolbarButton> buttons) {
+  values_ = values;
+  buttons_ = std::move(buttons);
+  count_ = int(buttons_.size());
+}
+
+void Model::written(const Property& property) {
+  const PropertyRow& row = RowOf(property);
+  view_.PropertyChanged(row.name);
+  if (property == Property(&Properties::ButtonsMode)) ApplyButtonsMode(values_, values_.ButtonsMode);
+  view_.React(row.onWrite);
+}
+
+void Model::check(int index) const {
+  if (index < 1 || index > count_) throw RangeError();
+}
+
+void Model::SetButton_Count(int count) {
+  if (count == count_ || count < 1) return;
+  buttons_.resize(size_t(std::min(count, count_)));
+  buttons_.resize(size_t(count));
+  count_ = count;
+  index_ = count;
+  view_.PropertyChanged(u"Button_Count");
+  view_.React(Effect::LayOut);
+}
+
+void Model::SetButton_Index(int index) {
+  check(index);
+  if (index == index_) return;
+  index_ = index;
+  view_.PropertyChanged(u"Button_Index");
+  view_.React(Effect::Repaint);
+}
+
+QVariant Model::CurrentValue(PropertyID field) const {
+  return index_ < 1 ? GetValue(blank(), field) : GetValue(Button(index_), field);
+}
+
+void Model::SetCurrentValue(PropertyID field, const QVariant& value) {
+  if (index_ < 1) return;
+  SetValue(Place(index_), field, value);
+  view_.PropertyChanged(Fields[field].name);
+  view_.React(Fields[field].onWrite);
+}
+
+QVariant Model::GetButtonValue(int ButtonIndex, int PropertyID) const {
+  return GetValue(Button(ButtonIndex), PropertyID);
+}
+
+void Model::SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& newValue) {
+  SetValue(Place(ButtonIndex), PropertyID, newValue);
+  view_.React(Effect::Repaint);
+}
+
+void Model::RemoveButton(int ButtonIndex) {
+  check(ButtonIndex);
+  if (count_ == 1) return;
+  std::move(buttons_.begin() + ButtonIndex, buttons_.begin() + count_, buttons_.begin() + ButtonIndex - 1);
+  buttons_[size_t(count_) - 1] = blank();
+  --count_;
+  view_.React(Effect::LayOut);
+}
+
+void Model::InsertButtonTo(int ButtonIndex, int NewIndex) {
+  check(ButtonIndex);
+  check(NewIndex);
+  const auto from = buttons_.begin() + ButtonIndex - 1;
+  const auto to = buttons_.begin() + NewIndex - 1;
+  if (from < to) std::rotate(from, from + 1, to + 1);
+  if (to < from) std::rotate(to, from, from + 1);
+  view_.React(Effect::LayOut);
+}
+
+void Model::MoveButtonTo(int ButtonIndex, int NewIndex) {
+  check(ButtonIndex);
+  check(NewIndex);
+  std::swap(Place(ButtonIndex), Place(NewIndex));
+  view_.React(Effect::LayOut);
+}
+
+void Model::SetButtonRemove(int value) {
+  if (value != 1) return;
+  RemoveButton(index_);
+  index_ = std::min(index_, count_);
+  view_.React(Effect::LayOut);
+}
+
+void Model::SetButtonMoveTo(int index) {
+  MoveButtonTo(index_, index);
+  index_ = index;
+  view_.React(Effect::Repaint);
+}
+
+void Model::SetButtonInsertTo(int index) {
+  InsertButtonTo(index_, index);
+  index_ = index;
+  view_.React(Effect::Repaint);
+}
+
+}  // namespace toolbar

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QMouseEvent>
+
+#include "toolbar/control.h"
+#include "toolbar/tool_bar_windows.h"
+
+namespace toolbar {
+
+/// Turns the events of the mouse on the two surfaces into what the control expects: a move goes before each press, a
+/// click after its release, and a leave comes once, also while a button is held.
+class MouseDelivery {
+ public:
+  MouseDelivery(Control& control, ToolBarWindows& windows) : control_(control), windows_(windows) {}
+
+  /// Whether it was an event of the mouse.
+  bool Deliver(SurfaceName surface, const QRect& area, QEvent* event);
+
+ private:
+  void move(SurfaceName surface, const QMouseEvent& event, QPoint place, int buttons);
+  void movedTo(SurfaceName surface, const QRect& area, const QMouseEvent& event);
+  void pressed(SurfaceName surface, const QMouseEvent& event);
+  void released(SurfaceName surface, const QRect& area, const QMouseEvent& event);
+  void leave(SurfaceName surface);
+
+  struct Place {
+    SurfaceName surface;
+    QPoint point;
+    bool operator==(const Place&) const = default;
+  };
+  Control& control_;
+  ToolBarWindows& windows_;
+  std::optional<Place> lastMove_;
+  std::optional<SurfaceName> clickBegan_;
+};
+
+}  // namespace toolbar

@@ -1,0 +1,207 @@
+#include "toolbar/repaint.h"
+
+#include "platform/raster_text.h"
+#include "toolbar/captions.h"
+#include "toolbar/colors.h"
+#include "toolbar/faces.h"
+#include "toolbar/icon_painting.h"
+#include "toolbar/layout.h"
+#include "toolbar/whole.h"
+
+namespace toolbar {
+
+namespace {
+
+constexpr quint32 GreyText = 0x80000011;
+constexpr int IconMargin = 10;
+constexpr QChar ChevronSign = u'\u00BB';
+
+/// A button as it is to be drawn.
+struct Drawn {
+  int index = 0;  ///< 0 for the chevron
+  PictureReference icon;
+  QString caption;
+  bool pressed = false;
+  bool enabled = true;
+  QRect box;
+  int alignment = 0;
+};
+
+/// Where a button's icon and caption go.
+struct Areas {
+  QRect icon;
+  QRect caption;
+  int shift = 0;
+  QString text;
+};
+
+/// No icon and no caption for an unknown alignment.
+std::optional<Areas> areasOf(const Drawn& button, int offset) {
+  const int x = button.box.x();
+  const int y = button.box.y();
+  const int w = button.box.width();
+  const int h = button.box.height();
+  const int iconW = button.icon ? button.icon->Width() + IconMargin : 0;
+  const int iconH = button.icon ? button.icon->Height() + IconMargin : 0;
+  const int iconX = x + offset;
+  const int iconY = y + offset;
+  switch (button.alignment) {
+    case 0:
+      return Areas{{iconX, iconY, w, iconH}, {x, y + iconH, w, h - iconH}, 1, button.caption};
+    case 1:
+      return Areas{{iconX, iconY + h - iconH, w, iconH}, {x, y, w, h - iconH}, -1, button.caption};
+    case 2:
+      return Areas{{iconX, iconY, iconW, h}, {x + iconW, y, w - iconW, h}, 0, button.caption + u' '};
+    case 3:
+      return Areas{{iconX + w - iconW, iconY, iconW, h}, {x, y, w - iconW, h}, 0, u' ' + button.caption};
+    case 4:
+      return Areas{{iconX, iconY, w, h}, {x, y, w, h}, 0, button.caption};
+    default:
+      return std::nullopt;
+  }
+}
+
+/// Measures beyond any surface would leave the range of an int.
+void checkRange(const QRect& box) {
+  constexpr int Limit = 1 << 24;
+  for (const int measure : {box.x(), box.y(), box.width(), box.height()}) {
+    if (measure < -Limit || measure > Limit) throw std::overflow_error("a measure beyond any surface");
+  }
+}
+
+class Painter {
+ public:
+  Painter(Surface& surface, const Scene& scene)
+      : surface_(surface), raster_(surface.Image()), scene_(scene), values_(scene.Buttons.Values()) {}
+
+  void background() {
+    surface_.ClearPicture();
+    if (values_.BackGradient != 0) {
+      FillGradient(raster_, raster_.rect(), values_.BackColor, values_.BackGradientCol, values_.BackGradient);
+    } else if (values_.Background) {
+      TilePicture(raster_, *values_.Background);
+    }
+    surface_.KeepPicture();
+  }
+
+  void frame() {
+    constexpr int Raised = 1;
+    constexpr int Sunken = 2;
+    const bool raised = values_.BorderStyle == Raised || !scene_.IsMain;
+    if (!raised && values_.BorderStyle != Sunken) return;
+    Draw3DBox(raster_, values_, values_.BackColor, raster_.rect(), !raised, 0);
+  }
+
+  void listButton(int number) {
+    const ToolbarButton& button = scene_.Buttons.Button(number);
+    const bool isHeld = number == scene_.Buttons.Button_Index() && scene_.ButtonHeld;
+    draw({number, button.Icon, button.Caption, button.Pressed || isHeld, button.Enabled,
+          QRect(button.PosX, button.PosY, values_.ButtonsWidth, values_.ButtonsHeight), button.IconAlignment});
+  }
+
+  void item(int number) {
+    const ToolbarButton& button = scene_.Buttons.Button(number);
+    if (button.InChevron) return;
+    if (button.ButtonType != 0) {
+      separator(number);
+    } else {
+      listButton(number);
+    }
+  }
+
+  /// Whether it is pressed.
+  bool chevron() {
+    const bool pressed = scene_.Buttons.Button_Index() == 0 && scene_.ButtonHeld;
+    const int frame = values_.BorderStyle == 0 ? 0 : 2;
+    const QRect box(scene_.InnerSize.width() - ChevronZone,
+                    Whole(qint64(scene_.InnerSize.height()) - values_.ButtonsHeight - frame), ChevronWidth,
+                    values_.ButtonsHeight);
+    draw({0, nullptr, ChevronSign, pressed, true, box, 0});
+    return pressed;
+  }
+
+ private:
+  void draw(Drawn button) {
+    checkRange(button.box);
+    const bool enabled = button.enabled && values_.Enabled;
+    const bool hover = button.index == scene_.Buttons.Button_Index();
+    const Face face = DrawFace(raster_, values_, button.box, hover, button.pressed);
+    const QPoint corner = button.box.topLeft();
+    button.box.adjust(0, 0, -face.Shrink, -face.Shrink);
+    if (const auto areas = areasOf(button, face.Offset)) {
+      if (button.icon) DrawIcon(raster_, *button.icon, areas->icon, enabled, face.Shadow);
+      const QRgb color = TranslateColor(enabled ? values_.ForeColor : GreyText);
+      if (!button.caption.isEmpty()) {
+        DrawCaption(raster_, values_.Font, color, areas->text, areas->caption, areas->shift);
+      }
+    }
+    designMark(button.index, corner, values_.ButtonsWidth);
+  }
+
+  void separator(int number) {
+    const ToolbarButton& button = scene_.Buttons.Button(number);
+    const int width = values_.ButtonsSeperatorWidth;
+    const int height = values_.ButtonsHeight;
+    checkRange(QRect(button.PosX, button.PosY, width, height));
+    if (values_.ShowSeperator) {
+      const int x = Nearest(button.PosX + width / 2.0);
+      const int y = button.PosY + 2;
+      raster_.Line(x, y, x, y + height - 6, BlendColors(values_.BackColor, 0));
+      raster_.Line(x + 1, y, x + 1, y + height - 6, BlendColors(values_.BackColor, 0xFFFFFF));
+    }
+    designMark(number, QPoint(button.PosX, button.PosY), width);
+  }
+
+  /// In a designer each button shows its number, and the current one a bar.
+  void designMark(int number, const QPoint& corner, int width) {
+    if (scene_.UserMode) return;
+    const QRgb color = TranslateColor(values_.ForeColor);
+    const int x = corner.x();
+    const int y = corner.y();
+    platform::Print(raster_, DrawnFont(values_.Font), QString::number(number), x, y + 2, color);
+    const int mode = values_.ButtonsMode;
+    if (number != scene_.Buttons.Button_Index() || (mode != 0 && mode != 2 && mode != 3)) return;
+    raster_.Rectangle(x + 1, y + 1, x + width - 2, y + 4, color, TranslateColor(values_.ButtonsBackColor));
+  }
+
+  Surface& surface_;
+  platform::Raster& raster_;
+  const Scene& scene_;
+  const Properties& values_;
+};
+
+/// A part of the drawing; what it drew before a failure stays.
+template <typename Part>
+void guarded(Part part) {
+  try {
+    part();
+  } catch (const std::exception&) {
+    return;
+  }
+}
+
+}  // namespace
+
+bool Paint(Surface& surface, const Scene& scene, bool& backgroundDrawn) {
+  if (surface.Image().rect().isEmpty()) return false;
+  Painter painter(surface, scene);
+  bool opens = false;
+  guarded([&] {
+    surface.Cls();
+    surface.SetBackColor(TranslateColor(scene.Buttons.Values().BackColor));
+    if (!backgroundDrawn) {
+      painter.background();
+      backgroundDrawn = true;
+    }
+    painter.frame();
+    if (!scene.IsMain) {
+      for (const int number : scene.HiddenButtons) guarded([&] { painter.listButton(number); });
+      return;
+    }
+    for (int i = 1; i <= scene.Buttons.Button_Count(); ++i) guarded([&] { painter.item(i); });
+    if (!scene.HiddenButtons.empty()) guarded([&] { opens = painter.chevron(); });
+  });
+  return opens;
+}
+
+}  // namespace toolbar

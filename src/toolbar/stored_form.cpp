@@ -1,0 +1,196 @@
+#include "toolbar/stored_form.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace toolbar {
+
+namespace {
+
+using platform::PropertyBag;
+using platform::StoredPicture;
+
+constexpr QStringView CountKey = u"Button_Count";
+constexpr QStringView IndexKey = u"Button_Index";
+
+/// The keys in their order; two of them belong to the list of buttons.
+constexpr QStringView Keys[] = {
+    u"Appearance",
+    u"BackColor",
+    u"BorderStyle",
+    u"Enabled",
+    u"Font",
+    u"ForeColor",
+    CountKey,
+    IndexKey,
+    u"BackGround",
+    u"ButtonsWidth",
+    u"ButtonsHeight",
+    u"ButtonsPerRow",
+    u"HoverColor",
+    u"TooTipStyle",
+    u"ToolTipBackCol",
+    u"ToolTipForeCol",
+    u"BackGradient",
+    u"BackGradientCol",
+    u"ButtonsMode",
+    u"ButtonsSeperatorWidth",
+    u"ShowSeperator",
+    u"ButtonsBackColor",
+    u"ButtonsGradientCol",
+    u"ButtonsGradient",
+    u"ButtonsPerRow_Chev",
+    u"ShowChevron",
+    u"RectBorderColor",
+    u"RectBorderColorAutoBlend",
+};
+
+using Field = std::variant<QString ToolbarButton::*, PictureReference ToolbarButton::*, int ToolbarButton::*,
+                           bool ToolbarButton::*>;
+struct FieldRow {
+  QStringView stem;  ///< the button's number follows
+  Field field;
+};
+constexpr FieldRow Fields[] = {
+    {u"ButtonCaption", &ToolbarButton::Caption},
+    {u"ButtonIcon", &ToolbarButton::Icon},
+    {u"ButtonToolTipText", &ToolbarButton::ToolTipText},
+    {u"ButtonToolTipIcon", &ToolbarButton::ToolTipIcon},
+    {u"ButtonEnabled", &ToolbarButton::Enabled},
+    {u"ButtonPressed", &ToolbarButton::Pressed},
+    {u"ButtonIconAllignment", &ToolbarButton::IconAlignment},
+    {u"Button_Type", &ToolbarButton::ButtonType},
+};
+
+/// The defaults of the keys are those of a new toolbar but for these.
+Properties storedDefaults(const QFont& ambientFont) {
+  Properties values;
+  values.Font = ambientFont;
+  values.TooTipStyle = 2;
+  values.Background = nullptr;
+  return values;
+}
+ToolbarButton storedButton() {
+  ToolbarButton button;
+  button.ToolTipIcon = 0;
+  return button;
+}
+
+QVariant toStored(const auto& value) {
+  return QVariant::fromValue(value);
+}
+QVariant toStored(const PictureReference& picture) {
+  const QByteArray file = picture ? FileOf(*picture) : QByteArray();
+  return file.isEmpty() ? QVariant() : QVariant::fromValue(StoredPicture{file});
+}
+
+bool isNumber(const QVariant& value) {
+  return value.typeId() == QMetaType::Short || value.typeId() == QMetaType::Int || value.typeId() == QMetaType::UInt;
+}
+
+// Whether the value is of the member's type.
+template <typename T>
+bool fromStored(const QVariant& value, T& member) {
+  if constexpr (std::is_same_v<T, quint32>) {
+    member = quint32(value.toLongLong());
+    return isNumber(value);
+  } else if constexpr (std::is_same_v<T, int> || std::is_same_v<T, qint16>) {
+    const qint64 number = value.toLongLong();
+    member = T(number);
+    return isNumber(value) && std::in_range<T>(number);
+  } else {
+    member = value.value<T>();
+    return value.typeId() == qMetaTypeId<T>();
+  }
+}
+bool fromStored(const QVariant& value, PictureReference& member) {
+  if (value.typeId() == qMetaTypeId<StoredPicture>()) member = PictureOfFile(value.value<StoredPicture>().File);
+  return member != nullptr;
+}
+
+/// Whether the bag holds no value of the key, or one of the member's type, which the member then has.
+bool read(const PropertyBag& bag, const QString& key, auto& member) {
+  return !bag.contains(key) || fromStored(bag.ReadProperty(key, {}), member);
+}
+
+void write(PropertyBag& bag, const QString& key, const auto& value, const auto& defaultValue) {
+  bag.WriteProperty(key, toStored(value), toStored(defaultValue));
+}
+
+const Property& propertyOf(QStringView key) {
+  const auto rows = PropertyRows();
+  return std::find_if(rows.begin(), rows.end(),
+                      [key](const PropertyRow& row) { return key.compare(row.name, Qt::CaseInsensitive) == 0; })
+      ->property;
+}
+
+bool readButton(const PropertyBag& bag, const QString& number, ToolbarButton& button) {
+  return std::all_of(std::begin(Fields), std::end(Fields), [&](const FieldRow& row) {
+    return std::visit([&](const auto field) { return read(bag, row.stem.toString() + number, button.*field); },
+                      row.field);
+  });
+}
+
+bool readControl(const PropertyBag& bag, Properties& values, int& count) {
+  return std::all_of(std::begin(Keys), std::end(Keys), [&](QStringView key) {
+    if (key == IndexKey) return true;
+    if (key == CountKey) return read(bag, key.toString(), count);
+    return std::visit([&](const auto member) { return read(bag, key.toString(), values.*member); }, propertyOf(key));
+  });
+}
+
+constexpr double ExtentsPerPixel = 2540.0 / 96;
+constexpr QStringView ExtentX = u"_extentx";
+constexpr QStringView ExtentY = u"_extenty";
+
+}  // namespace
+
+std::optional<StoredToolBar> ReadStoredForm(const PropertyBag& bag, const QFont& ambientFont) {
+  StoredToolBar toolBar{storedDefaults(ambientFont), {}};
+  int count = 1;
+  if (!readControl(bag, toolBar.Values, count) || count < 1 || count > MostButtons) return std::nullopt;
+  toolBar.Buttons.resize(size_t(count), storedButton());
+  for (int number = 1; number <= count; ++number) {
+    if (!readButton(bag, QString::number(number), toolBar.Buttons[size_t(number) - 1])) return std::nullopt;
+  }
+  return toolBar;
+}
+
+void WriteStoredForm(PropertyBag& bag, const StoredToolBar& toolBar, const QFont& ambientFont) {
+  const Properties defaults = storedDefaults(ambientFont);
+  for (const QStringView key : Keys) {
+    if (key == CountKey) {
+      write(bag, key.toString(), int(toolBar.Buttons.size()), 1);
+    } else if (key == IndexKey) {
+      write(bag, key.toString(), toolBar.Button_Index, 1);
+    } else {
+      std::visit([&](const auto member) { write(bag, key.toString(), toolBar.Values.*member, defaults.*member); },
+                 propertyOf(key));
+    }
+  }
+  const ToolbarButton plain = storedButton();
+  int number = 0;
+  for (const ToolbarButton& button : toolBar.Buttons) {
+    const QString suffix = QString::number(++number);
+    for (const FieldRow& row : Fields) {
+      std::visit([&](const auto field) { write(bag, row.stem.toString() + suffix, button.*field, plain.*field); },
+                 row.field);
+    }
+  }
+}
+
+std::optional<QSize> StoredSize(const PropertyBag& bag) {
+  int width = 0;
+  int height = 0;
+  if (!bag.contains(ExtentX.toString()) || !read(bag, ExtentX.toString(), width)) return std::nullopt;
+  if (!bag.contains(ExtentY.toString()) || !read(bag, ExtentY.toString(), height)) return std::nullopt;
+  return QSize(int(std::lround(width / ExtentsPerPixel)), int(std::lround(height / ExtentsPerPixel)));
+}
+
+void StoreSize(PropertyBag& bag, const QSize& pixels) {
+  bag.WriteProperty(ExtentX.toString(), int(std::lround(pixels.width() * ExtentsPerPixel)), {});
+  bag.WriteProperty(ExtentY.toString(), int(std::lround(pixels.height() * ExtentsPerPixel)), {});
+}
+
+}  // namespace toolbar

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <vector>
+
+#include <QSize>
+
+#include "platform/property_bag.h"
+#include "toolbar/properties.h"
+#include "toolbar/toolbar_button.h"
+
+namespace toolbar {
+
+/// What a bag keeps of a toolbar.
+struct StoredToolBar {
+  Properties Values;
+  std::vector<ToolbarButton> Buttons;  ///< one at least
+  int Button_Index = 1;                ///< written, but never read
+};
+
+/// The values of the bag; none when one of them is of a wrong type, or the count of buttons is below 1 or beyond
+/// MostButtons.
+std::optional<StoredToolBar> ReadStoredForm(const platform::PropertyBag& bag, const QFont& ambientFont);
+inline constexpr int MostButtons = 9999;
+
+/// Stores all keys in their order; what equals its default is left out.
+void WriteStoredForm(platform::PropertyBag& bag, const StoredToolBar& toolBar, const QFont& ambientFont);
+
+/// The size in pixels, kept in hundredths of a millimetre at 96 pixels an inch; none when it isn't stored.
+std::optional<QSize> StoredSize(const platform::PropertyBag& bag);
+/// Written in front of the toolbar's own keys.
+void StoreSize(platform::PropertyBag& bag, const QSize& pixels);
+
+}  // namespace toolbar

@@ -1,0 +1,67 @@
+#include "toolbar/tool_bar_windows.h"
+
+#include <QCursor>
+
+namespace toolbar {
+
+namespace {
+
+constexpr int TimerPeriod = 100;  // milliseconds
+
+}  // namespace
+
+void ToolBarWindows::SetHeight(int pixels) {
+  if (pixels == bar_.height()) return;
+  bar_.resize(bar_.width(), pixels);
+  bar_.updateGeometry();
+}
+
+void ToolBarWindows::Present(SurfaceName surface) {
+  if (surface == SurfaceName::Main) {
+    bar_.update();
+  } else if (popup_) {
+    popup_->update();
+  }
+}
+
+QRect ToolBarWindows::ControlOnScreen() const {
+  return {bar_.mapToGlobal(QPoint(0, 0)), bar_.size()};
+}
+
+void ToolBarWindows::CreateChevronWindow() {
+  if (popup_) return;
+  popup_ = std::make_unique<QWidget>(&bar_, Qt::ToolTip | Qt::FramelessWindowHint);
+  popup_->setObjectName(QStringLiteral("picChevron"));
+  popup_->setAttribute(Qt::WA_ShowWithoutActivating);
+  popup_->setAttribute(Qt::WA_OpaquePaintEvent);
+  popup_->setFocusPolicy(Qt::NoFocus);
+  popup_->setMouseTracking(true);
+  popup_->installEventFilter(&bar_);
+}
+
+void ToolBarWindows::MovePopup(const QRect& onScreen) {
+  if (popup_) popup_->setGeometry(onScreen);
+}
+
+void ToolBarWindows::SetPopupVisible(bool visible) {
+  if (!popup_) return;
+  popup_->setVisible(visible);
+  // So that the loss of the focus can close it.
+  if (visible) bar_.setFocus(Qt::OtherFocusReason);
+}
+
+void ToolBarWindows::SetHand(SurfaceName surface, bool hand) {
+  QWidget* const window = surface == SurfaceName::Main ? &bar_ : popup_.get();
+  if (window) window->setCursor(hand ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void ToolBarWindows::SetTimer() {
+  timer_.start(TimerPeriod);
+}
+
+void ToolBarWindows::ShowToolTip(const ToolTip& tip) {
+  tip_ = std::make_unique<TipWindow>(tip, &bar_);
+  tip_->ShowAt(QCursor::pos());
+}
+
+}  // namespace toolbar

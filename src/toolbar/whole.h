@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cmath>
+#include <limits>
+#include <stdexcept>
+
+#include <QtGlobal>
+
+namespace toolbar {
+
+/// The number as an int; throws std::overflow_error when it doesn't fit.
+inline int Whole(qint64 number) {
+  if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max()) {
+    throw std::overflow_error("a measure beyond its range");
+  }
+  return int(number);
+}
+
+/// The nearest whole number, a half to the even neighbour.
+inline int Nearest(double number) {
+  constexpr double Limit = 1e15;
+  if (!(std::abs(number) < Limit)) throw std::overflow_error("a measure beyond its range");
+  return Whole(qint64(std::nearbyint(number)));
+}
+
+}  // namespace toolbar

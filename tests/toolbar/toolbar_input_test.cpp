@@ -1,0 +1,276 @@
+#include <QTest>
+
+#include "toolbar/captions.h"
+#include "toolbar/control.h"
+
+using toolbar::Control;
+using toolbar::MouseArguments;
+using toolbar::Properties;
+using toolbar::SurfaceName;
+
+namespace {
+
+/// Writes down what a control tells its client and asks of its windows.
+struct Record : toolbar::Events, toolbar::Windows {
+  void note(const char* word) { words += QString::fromLatin1(word); }
+  void note(const char* word, int number) { words += QString::fromLatin1(word) + QString::number(number); }
+
+  void PropertyChanged(const QString& name) override { words += name; }
+  void MouseEnter() override { note("Enter"); }
+  void MouseLeave() override { note("Leave"); }
+  void Hover(int index) override { note("Hover", index); }
+  void Click(int index) override { note("Click", index); }
+  void DblClick(int index) override { note("DblClick", index); }
+  void MouseUp(int index, qint16& /*Button*/, qint16& /*Shift*/, float& /*X*/, float& /*Y*/) override {
+    note("Up", index);
+  }
+  void MouseDown(int index, qint16& /*Button*/, qint16& /*Shift*/, float& /*X*/, float& /*Y*/) override {
+    note("Down", index);
+  }
+  void MouseMove(int index, qint16& button, qint16& /*Shift*/, float& /*X*/, float& /*Y*/) override {
+    note("Move", index);
+    lastButton = button;
+  }
+
+  void SetHeight(int pixels) override { height = pixels; }
+  void Present(SurfaceName /*surface*/) override {}
+  QRect ControlOnScreen() const override { return {100, 200, width, height}; }
+  void CreateChevronWindow() override {}
+  void MovePopup(const QRect& onScreen) override { popup = onScreen; }
+  void SetPopupVisible(bool visible) override {
+    if (visible != popupVisible) note(visible ? "open" : "close");
+    popupVisible = visible;
+  }
+  bool IsPopupVisible() const override { return popupVisible; }
+  void SetHand(SurfaceName /*surface*/, bool isHand) override { hand = isHand; }
+  void SetTimer() override { timer = true; }
+  void KillTimer() override { timer = false; }
+  void StartLeaveTracking(SurfaceName /*surface*/) override {}
+  void ShowToolTip(const toolbar::ToolTip& shown) override {
+    note("tip");
+    tip = shown;
+  }
+  void DestroyToolTip() override { tip.reset(); }
+
+  QStringList words;
+  std::optional<toolbar::ToolTip> tip;
+  QRect popup;
+  int width = 0;
+  int height = 0;
+  qint16 lastButton = 0;
+  bool popupVisible = false;
+  bool hand = false;
+  bool timer = false;
+};
+
+/// Six buttons of 32 pixels in one row, the second disabled, the third a separator. In 149 pixels the last two hide.
+struct Strip {
+  explicit Strip(int width = 800) {
+    record.width = width;
+    control.UserControl_ReadProperties({});
+    control.Resize(QSize(width, 32));
+    toolbar::Model& model = control.Buttons();
+    model.Set(&Properties::ButtonsPerRow, 10);
+    model.Set(&Properties::ShowChevron, true);
+    model.SetButton_Count(6);
+    model.SetButtonValue(2, toolbar::EnabledProperty, false);
+    model.SetButtonValue(3, toolbar::ButtonTypeProperty, 1);
+    model.PointAt(-1);
+    control.UserControl_Resize();
+    record.words.clear();
+  }
+
+  /// Words: mX,Y a move over the strip, pX,Y one over the popup; d, u, c, 2 press, release, click and double click on
+  /// the strip, D, U, C on the popup; l, f leave and loss of focus; t a message of the timer.
+  QString run(const QString& steps) {
+    for (const QString& step : steps.split(u' ', Qt::SkipEmptyParts)) take(step[0].toLatin1(), step.mid(1).split(u','));
+    return record.words.join(u' ');
+  }
+  void take(char kind, const QStringList& numbers) {
+    constexpr auto Main = SurfaceName::Main;
+    constexpr auto Chevron = SurfaceName::Chevron;
+    const int x = numbers.first().toInt();
+    const int y = numbers.last().toInt();
+    const MouseArguments place{0, 0, float(x), float(y)};
+    if (kind == 'm') control.picMain_MouseMove(place);
+    if (kind == 'p') control.picChevron_MouseMove(place);
+    const auto surface = kind == 'p' ? Chevron : Main;
+    if (kind == 'm' || kind == 'p') control.zSubclass_Proc(512, surface, quint32(x) | quint32(y) << 16);
+    if (kind == 'd') control.picDraw_MouseDown(Main, place);
+    if (kind == 'u') control.picDraw_MouseUp(Main, place);
+    if (kind == 'c') control.picDraw_Click(Main);
+    if (kind == '2') control.picDraw_DblClick(Main);
+    if (kind == 'D') control.picDraw_MouseDown(Chevron, place);
+    if (kind == 'U') control.picDraw_MouseUp(Chevron, place);
+    if (kind == 'C') control.picDraw_Click(Chevron);
+    if (kind == 'l') control.zSubclass_Proc(675);
+    if (kind == 'f') control.zSubclass_Proc(8);
+    if (kind == 't') control.zSubclass_Proc(275);
+  }
+
+  Record record;
+  Control control{record, record, {}};
+};
+
+}  // namespace
+
+class InputTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void eventsInOrder_data() {
+    QTest::addColumn<QString>("steps");
+    QTest::addColumn<QString>("told");
+    const auto row = [](const char* name, const char* steps, const char* told) {
+      QTest::newRow(name) << QString::fromLatin1(steps) << QString::fromLatin1(told);
+    };
+    row("hover before enter", "m5,5 m6,5", "Hover1 Move1 Enter Move1");
+    row("the same place twice", "m5,5 m5,5", "Hover1 Move1 Enter Move1");
+    row("click", "m5,5 d u c", "Hover1 Move1 Enter Down1 Up1 Click1");
+    row("double click", "m5,5 d u c 2 u", "Hover1 Move1 Enter Down1 Up1 Click1 DblClick1 Up1");
+    row("disabled", "m40,5 d u c", "Enter");
+    row("separator", "m70,5 d u c", "Enter");
+    row("straight to another", "m5,5 m80,5", "Hover1 Move1 Enter Hover4 Move4");
+    row("leave in a press", "m5,5 d l u c", "Hover1 Move1 Enter Down1 Leave");
+    row("enter again", "m5,5 l m6,5", "Hover1 Move1 Enter Leave Hover1 Move1 Enter");
+    row("chevron", "m145,5 d", "Enter open");
+    row("release on the strip isn't seen", "m145,5 d u p5,5", "Enter open Hover5 Move5");
+    row("press on the chevron opens anew", "m145,5 d m146,5 d", "Enter open");
+    row("popup", "m145,5 d p40,10 D U C", "Enter open Hover6 Move6 Down6 Up6 Click6");
+    row("popup, behind the last", "m145,5 d p40,10 p70,10", "Enter open Hover6 Move6 Move6");
+    row("shown button closes the popup", "m145,5 d m5,5", "Enter open close Hover1 Move1");
+    row("focus closes the popup", "m145,5 d f", "Enter open close");
+    row("tip after five ticks", "m5,5 t t t t t t", "Hover1 Move1 Enter tip");
+    row("a move begins anew", "m5,5 t t t t m6,5 t t t t", "Hover1 Move1 Enter Move1");
+    row("no tip outside", "m5,5 l t t t t t", "Hover1 Move1 Enter Leave");
+    row("no tip on the chevron", "m145,5 t t t t t", "Enter");
+  }
+  void eventsInOrder() {
+    QFETCH(QString, steps);
+    Strip strip(149);
+    strip.control.Buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
+    QTEST(strip.run(steps), "told");
+  }
+
+  void popupHangsBelowTheControl() {
+    Strip strip(149);
+    strip.run(QStringLiteral("m145,5 d"));
+    QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 68, 39));
+    strip.run(QStringLiteral("p5,5"));
+    QCOMPARE(strip.record.lastButton, qint16(999));
+    // The press on the chevron is still held: the popup's button is drawn pressed.
+    QVERIFY(strip.control.PicDraw() == SurfaceName::Chevron);
+    // A layout moves the surface that is drawn on, and that one only.
+    strip.control.UserControl_Resize();
+    QCOMPARE(strip.record.popup, QRect(0, 0, 149, 32));
+  }
+
+  // One note for two surfaces says whether the background is drawn.
+  void backgroundOfTheOtherSurfaceStays() {
+    Strip strip(149);
+    strip.control.Buttons().Set(&Properties::ButtonsMode, 4);
+    strip.run(QStringLiteral("m145,5 d"));
+    strip.control.Buttons().Set(&Properties::BackColor, 0x112233U);
+    strip.run(QStringLiteral("m144,5 l"));
+    const auto& popup = strip.control.SurfaceOf(SurfaceName::Chevron).Image().image();
+    const auto& main = strip.control.SurfaceOf(SurfaceName::Main).Image().image();
+    QCOMPARE(popup.pixel(40, 2), qRgb(0x33, 0x22, 0x11));
+    QCOMPARE(main.pixel(69, 30), qRgb(212, 208, 200));
+  }
+
+  void handOnlyOverWhatCanBeClicked() {
+    Strip strip(149);
+    for (const auto& [steps, hand] :
+         {std::pair(u"m5,5", true), {u"m145,5", true}, {u"m40,5", false}, {u"m145,5", false}}) {
+      strip.run(QString::fromUtf16(steps));
+      QCOMPARE(strip.record.hand, hand);
+    }
+  }
+
+  void buttonsEndAtTheRowsWidth() {
+    Strip strip;
+    strip.control.Buttons().Set(&Properties::ButtonsPerRow, 6);
+    strip.control.Buttons().Set(&Properties::ButtonsSeperatorWidth, 100);
+    strip.record.words.clear();
+    QCOMPARE(strip.run(QStringLiteral("m191,5 m193,5")), QStringLiteral("Hover4 Move4 Enter"));
+    strip.control.Buttons().Set(&Properties::ButtonsWidth, 0);
+    strip.control.Buttons().PointAt(1);
+    strip.record.words.clear();
+    QCOMPARE(strip.run(QStringLiteral("m20,5")), QStringLiteral("Move1"));
+  }
+
+  void tip() {
+    Strip strip;
+    toolbar::Model& model = strip.control.Buttons();
+    model.SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
+    model.Set(&Properties::TooTipStyle, 1);
+    strip.run(QStringLiteral("m5,5 t t t t t"));
+    QVERIFY(strip.record.tip && !strip.record.timer);
+    QCOMPARE(strip.record.tip->Title + u' ' + strip.record.tip->Text, QStringLiteral("B first"));
+    QCOMPARE(strip.record.tip->Icon, 0);
+    QVERIFY(!strip.record.tip->IsBalloon);
+    model.SetButtonValue(1, toolbar::ToolTipIconProperty, 2);
+    strip.run(QStringLiteral("m6,5 t t t t t"));
+    QCOMPARE(strip.record.tip->Icon, 2);
+    model.SetButtonValue(1, toolbar::CaptionProperty, QString());
+    strip.run(QStringLiteral("m7,5 t t t t t"));
+    QCOMPARE(strip.record.tip->Icon, 0);
+    strip.run(QStringLiteral("m8,5"));
+    QVERIFY(!strip.record.tip);
+  }
+
+  void designerIsNotHooked() {
+    Record record;
+    Control control(record, record, {false, QFont()});
+    control.UserControl_ReadProperties({});
+    QCOMPARE(control.Buttons().Button_Index(), 1);
+    control.zSubclass_Proc(512, SurfaceName::Main, 5);
+    control.zSubclass_Proc(675);
+    QVERIFY(record.words.isEmpty() && !record.timer);
+  }
+
+  void keys() {
+    Strip strip(149);
+    Control& control = strip.control;
+    control.EnterByKey();
+    control.StepByKey(1);
+    control.StepByKey(1);
+    control.PressByKey();
+    control.StepByKey(1);
+    control.PressByKey();
+    QVERIFY(control.EscapeByKey() && !control.EscapeByKey());
+    QCOMPARE(strip.record.words.join(u' '), QStringLiteral("Hover1 Hover4 open Hover5 Hover6 Click6 close"));
+    QCOMPARE(control.Buttons().Button_Index(), 0);
+    control.LeaveByKey();
+    QCOMPARE(control.Buttons().Button_Index(), -1);
+  }
+
+  // Each letter is ten wide.
+  void captionWrap_data() {
+    QTest::addColumn<QString>("caption");
+    QTest::addColumn<int>("width");
+    QTest::addColumn<QString>("lines");
+    const auto row = [](const char* name, const char* caption, int width, const char* lines) {
+      QTest::newRow(name) << QString::fromLatin1(caption) << width << QString::fromLatin1(lines);
+    };
+    row("empty", "", 50, "");
+    row("fits with its blanks", " a b ", 60, " a b ");
+    row("line ends go", "ab\r\ncd", 60, "abcd");
+    row("at a blank", "open file now", 80, "open|file|now");
+    row("before a digit", "part12 x", 50, "part|12 x");
+    row("inside a word", "abcdefg", 40, "abc|defg");
+    row("only the last crosses", "abcd", 40, "abcd");
+    row("only the last crosses, with a break", "a bc", 40, "a|bc");
+    row("blank before the joined piece", "abcd ef -g", 60, "abcd|ef -g");
+    row("narrower than a letter", "ab", 5, "|ab");
+  }
+  void captionWrap() {
+    QFETCH(QString, caption);
+    QFETCH(int, width);
+    const auto tens = [](const QString& text) { return int(text.size()) * 10; };
+    QTEST(toolbar::WrapCaption(caption, width, tens).join(u'|'), "lines");
+  }
+};
+
+QTEST_MAIN(InputTest)
+#include "toolbar_input_test.moc"

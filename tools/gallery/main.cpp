@@ -1,0 +1,42 @@
+#include <cstdio>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QScrollArea>
+
+#include "controls/look.h"
+#include "progress_page.h"
+#include "toolbar_page.h"
+
+namespace {
+
+std::unique_ptr<QWidget> makeGallery() {
+  auto gallery = std::make_unique<QWidget>();
+  auto* const columns = new QHBoxLayout(gallery.get());
+  columns->addWidget(gallery::MakeToolBarPage().release(), 0, Qt::AlignTop);
+  columns->addWidget(gallery::MakeProgressPage().release(), 0, Qt::AlignTop);
+  return gallery;
+}
+
+int save(QWidget& gallery, const QString& path) {
+  gallery.resize(gallery.sizeHint());
+  if (gallery.grab().save(path, "PNG")) return 0;
+  std::fprintf(stderr, "cantorama-gallery: can't write %s\n", path.toLocal8Bit().constData());
+  return 1;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc > 1) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  controls::ApplyLook(application);
+  std::unique_ptr<QWidget> gallery = makeGallery();
+  if (argc > 1) return save(*gallery, application.arguments().at(1));
+  QScrollArea window;
+  window.setWindowTitle(QStringLiteral("Gallery of the controls"));
+  window.resize(gallery->sizeHint());
+  window.setWidget(gallery.release());
+  window.show();
+  return QApplication::exec();
+}

@@ -1,0 +1,121 @@
+#include "progress_page.h"
+
+#include <functional>
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "platform/fonts.h"
+#include "progressbar/main_window_bar.h"
+#include "progressbar/progress_bar.h"
+#include "progressbar/stored_form.h"
+
+namespace gallery {
+
+namespace {
+
+using progressbar::ProgressBar;
+
+/// A row of bars that differ in one member.
+struct Row {
+  QStringView title;
+  void (ProgressBar::*set)(int);
+  QList<int> values;
+  QSize size;
+  std::function<void(ProgressBar&)> rest = nullptr;
+};
+
+constexpr QSize Wide(100, 22);
+constexpr QSize Broad(190, 40);
+constexpr QSize Tall(24, 90);
+
+void vertical(ProgressBar& bar) {
+  bar.SetOrientations(2);
+  bar.SetTextStyle(1);
+}
+
+void disabled(ProgressBar& bar) {
+  bar.SetEnabled(false);
+}
+
+void verticalDisabled(ProgressBar& bar) {
+  vertical(bar);
+  disabled(bar);
+}
+
+void large(ProgressBar& bar) {
+  bar.SetText(QStringLiteral("Effect"));
+  bar.SetTextFont(platform::ControlFont(QStringLiteral("Arial"), 24));
+  bar.SetTextForeColor(0x0000C0);
+  bar.SetTextEffectColor(0xFFC000);
+}
+
+void largeDisabled(ProgressBar& bar) {
+  large(bar);
+  disabled(bar);
+}
+
+void third(ProgressBar& bar) {
+  bar.SetMax(3);
+  bar.SetValue(1);
+}
+
+const QList<Row>& rows() {
+  static const QList<int> themes = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+  static const QList<int> effects = {1, 2, 3, 4, 5, 6};
+  static const QList<Row> all = {
+      {u"Theme", &ProgressBar::SetTheme, themes, Wide},
+      {u"Theme, disabled", &ProgressBar::SetTheme, themes, Wide, disabled},
+      {u"Theme, vertical", &ProgressBar::SetTheme, themes, Tall, vertical},
+      {u"Theme, vertical, disabled", &ProgressBar::SetTheme, themes, Tall, verticalDisabled},
+      {u"TextEffect", &ProgressBar::SetTextEffect, effects, Broad, large},
+      {u"TextEffect, disabled", &ProgressBar::SetTextEffect, effects, Broad, largeDisabled},
+      {u"TextAlignment", &ProgressBar::SetTextAlignment, {1, 2, 3, 4, 5, 6, 7, 8, 9}, QSize(120, 34)},
+      {u"TextStyle", &ProgressBar::SetTextStyle, {1, 2, 3, 4}, Broad, third},
+      {u"Value", &ProgressBar::SetValue, {0, 1, 33, 50, 99, 100}, Broad},
+      {u"RoundedValue", &ProgressBar::SetRoundedValue, {0, 2, 3, 6, 10, 20, 40, 100}, QSize(140, 40)},
+      {u"Orientations", &ProgressBar::SetOrientations, {1, 2, 3}, Broad},
+  };
+  return all;
+}
+
+std::unique_ptr<ProgressBar> barOf(const Row& row, int value) {
+  auto bar = std::make_unique<ProgressBar>();
+  bar->setFixedSize(row.size);
+  bar->SetText(QStringLiteral("Text"));
+  bar->SetTextFont(platform::ControlFont(QStringLiteral("Arial"), 11));
+  bar->SetPBSCustomeColor1(0x404040);
+  bar->SetPBSCustomeColor2(0xC0C0C0);
+  if (row.rest) row.rest(*bar);
+  (*bar.*row.set)(value);
+  bar->setToolTip(QString::number(value));
+  return bar;
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> MakeProgressPage() {
+  auto page = std::make_unique<QWidget>();
+  auto* const column = new QVBoxLayout(page.get());
+  auto* const grid = new QGridLayout;
+  column->addLayout(grid);
+  for (const Row& row : rows()) {
+    const int line = grid->rowCount();
+    auto* const title = new QLabel(row.title.toString());
+    title->setTextFormat(Qt::PlainText);
+    grid->addWidget(title, line, 0);
+    auto* const bars = new QHBoxLayout;
+    for (const int value : row.values) bars->addWidget(barOf(row, value).release());
+    bars->addStretch();
+    grid->addLayout(bars, line, 1);
+  }
+  auto* const own = new ProgressBar;
+  progressbar::ReadProperties(*own, progressbar::MainWindowBar());
+  own->setFixedSize(own->size());
+  column->addWidget(own);
+  column->addStretch();
+  return page;
+}
+
+}  // namespace gallery

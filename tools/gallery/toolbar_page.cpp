@@ -1,0 +1,133 @@
+#include "toolbar_page.h"
+
+#include <functional>
+#include <utility>
+
+#include <QGridLayout>
+#include <QLabel>
+
+#include "controls/assets.h"
+#include "platform/fonts.h"
+#include "toolbar/main_window_tool_bar.h"
+#include "toolbar/mc_toolbar.h"
+
+namespace gallery {
+
+namespace {
+
+using toolbar::McToolBar;
+using toolbar::Model;
+using toolbar::Properties;
+
+constexpr int Hovered = 2;
+constexpr int ButtonWidth = 84;
+constexpr int ButtonHeight = 44;
+
+/// Five buttons and a separator: as they are, hovered, pressed, disabled, and without a caption.
+void fill(Model& model) {
+  model.Set(&Properties::ButtonsPerRow, 10);
+  model.Set(&Properties::ButtonsWidth, ButtonWidth);
+  model.Set(&Properties::ButtonsHeight, ButtonHeight);
+  model.SetButton_Count(6);
+  const std::pair<const char*, const char*> faces[] = {{"Open", "open"},      {"Hover", "save"}, {"Pressed", "close"},
+                                                       {"Off", "background"}, {"", ""},          {"", "open"}};
+  int number = 0;
+  for (const auto& [caption, icon] : faces) {
+    ++number;
+    model.SetButtonValue(number, toolbar::CaptionProperty, QString::fromLatin1(caption));
+    model.SetButtonValue(number, toolbar::ToolTipTextProperty, QStringLiteral("Button %1").arg(number));
+    model.SetButtonValue(number, toolbar::IconAlignmentProperty, 2);
+    model.SetButtonValue(number, toolbar::IconProperty,
+                         controls::AssetPicture(QString::fromLatin1(icon) + QStringLiteral(".png")));
+  }
+  model.SetButtonValue(3, toolbar::PressedProperty, true);
+  model.SetButtonValue(4, toolbar::EnabledProperty, false);
+  model.SetButtonValue(5, toolbar::ButtonTypeProperty, 1);
+}
+
+QImage checks() {
+  QImage bitmap(8, 8, QImage::Format_RGB32);
+  for (int i = 0; i < 64; ++i) bitmap.setPixel(i % 8, i / 8, (i % 8 < 4) == (i < 32) ? 0xFFE8E0D0 : 0xFFC8D8E8);
+  return bitmap;
+}
+
+/// The rows of the page.
+class Rows {
+ public:
+  explicit Rows(QWidget& page) : page_(page), grid_(new QGridLayout(&page)) { grid_->setColumnStretch(2, 1); }
+
+  void add(const QString& title, const std::function<void(Model&)>& change, int width = 460, bool userMode = true) {
+    auto* const bar = new McToolBar({userMode, platform::ControlFont(QStringLiteral("MS Sans Serif"), 11)}, &page_);
+    bar->UserControl_ReadProperties({});
+    fill(bar->Buttons());
+    change(bar->Buttons());
+    bar->resize(width, bar->height());
+    bar->setFixedWidth(width);
+    bar->Buttons().PointAt(Hovered);
+    bar->Buttons().Set(&Properties::ButtonsWidth, ButtonWidth);
+    put(title, bar);
+  }
+  void put(const QString& title, QWidget* bar) {
+    auto* const label = new QLabel(title);
+    label->setTextFormat(Qt::PlainText);
+    grid_->addWidget(label, row_, 0);
+    grid_->addWidget(bar, row_++, 1, Qt::AlignLeft);
+  }
+
+ private:
+  QWidget& page_;
+  QGridLayout* grid_;
+  int row_ = 0;
+};
+
+void addGradients(Rows& rows) {
+  for (int kind = 1; kind <= 6; ++kind) {
+    rows.add(QStringLiteral("BackGradient, ButtonsGradient %1").arg(kind), [kind](Model& model) {
+      model.Set(&Properties::ButtonsMode, 5);
+      model.Set(&Properties::BackColor, 0x808080U);
+      model.Set(&Properties::BackGradient, kind);
+      model.Set(&Properties::ButtonsBackColor, 0xC08040U);
+      model.Set(&Properties::ButtonsGradient, kind);
+    });
+  }
+}
+
+void addAlignments(Rows& rows) {
+  for (int alignment = 0; alignment <= 4; ++alignment) {
+    rows.add(QStringLiteral("IconAlignment %1").arg(alignment), [alignment](Model& model) {
+      for (int i = 1; i <= model.Button_Count(); ++i) {
+        model.SetButtonValue(i, toolbar::IconAlignmentProperty, alignment);
+      }
+      model.SetButtonValue(1, toolbar::CaptionProperty, QStringLiteral("A longer caption"));
+    });
+  }
+}
+
+}  // namespace
+
+std::unique_ptr<QWidget> MakeToolBarPage() {
+  auto page = std::make_unique<QWidget>();
+  Rows rows(*page);
+  auto* const own = new McToolBar(toolbar::AmbientOf(page.get()), page.get());
+  own->UserControl_ReadProperties(toolbar::MainWindowToolBar());
+  own->setFixedWidth(460);
+  rows.put(QStringLiteral("Main window"), own);
+  for (int mode = 0; mode <= 6; ++mode) {
+    rows.add(QStringLiteral("ButtonsMode %1").arg(mode),
+             [mode](Model& model) { model.Set(&Properties::ButtonsMode, mode); });
+  }
+  addGradients(rows);
+  addAlignments(rows);
+  rows.add(QStringLiteral("Disabled"), [](Model& model) { model.Set(&Properties::Enabled, false); });
+  rows.add(QStringLiteral("Sunken frame, tiled background"), [](Model& model) {
+    model.Set(&Properties::BorderStyle, 2);
+    model.Set(&Properties::Background, toolbar::PictureOfImage(checks()));
+  });
+  rows.add(
+      QStringLiteral("Chevron"), [](Model& model) { model.Set(&Properties::ShowChevron, true); }, 300);
+  rows.add(
+      QStringLiteral("In a designer"), [](Model& model) { model.Set(&Properties::ShowSeperator, false); }, 460, false);
+  return page;
+}
+
+}  // namespace gallery
