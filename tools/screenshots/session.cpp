@@ -4,12 +4,14 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
 
 #include "mainwindows/open_theme.h"
 #include "platform/failure.h"
+#include "platform/paths.h"
 #include "toolwindow/value_grid.h"
 
 namespace screenshots {
@@ -90,6 +92,14 @@ std::function<void(QDialog&)> entering(const QString& text) {
   };
 }
 
+/// Answers a file dialog.
+std::function<void(QDialog&)> choosing(const QString& path) {
+  return [path](QDialog& dialog) {
+    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(path);
+    dialog.accept();
+  };
+}
+
 }  // namespace
 
 Session::Session(mainwindows::Form1& form, QString outputFolder)
@@ -151,7 +161,11 @@ void Session::showKeyBoxes() {
   dialogs_.Run({{QStringLiteral("box-delete-key"), cancel}}, [&tools] { tools.Command7->click(); });
   openEditor(tools, TextureRow);
   dialogs_.Run({{QStringLiteral("box-new-texturekey"), cancel}}, [&tools] { tools.Command8->click(); });
-  dialogs_.Run({{QStringLiteral("box-image-dialog"), cancel}}, [&tools] { tools.Command4->click(); });
+  const auto changeImage = [&tools] { tools.Command4->click(); };
+  dialogs_.Run({{QStringLiteral("box-image-dialog"), cancel}}, changeImage);
+  const QString elsewhere =
+      platform::NativePath(form_.Services.State.Paths.SkinDirectory + QStringLiteral("\\..\\Workbench\\plate.png"));
+  dialogs_.Run({{QString(), choosing(elsewhere)}, {QStringLiteral("box-image-elsewhere"), accept}}, changeImage);
 }
 
 void Session::showCloseQuestion() {
