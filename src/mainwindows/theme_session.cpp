@@ -49,10 +49,22 @@ QStringList themesOf(const QString& gameFolder) {
   return themes;
 }
 
+/// Keeps a report for a later moment.
+class Note : public platform::StatusLine {
+ public:
+  void ShowStatus(const QString& text) override { text_ = text; }
+  void tell(platform::StatusLine& status) const {
+    if (!text_.isEmpty()) status.ShowStatus(text_);
+  }
+
+ private:
+  QString text_;
+};
+
 /// Makes the working copies of the choice and opens them; a failure is reported.
-bool openCopies(Form1& form, const themefiles::ThemePaths& chosen) {
+bool openCopies(Form1& form, const themefiles::ThemePaths& chosen, Note& note) {
   return platform::Guarded(form, QStringLiteral("Error while saving temporary files"),
-                           [&] { themefiles::MakeWorkingCopies(form.Services.State, chosen, form); });
+                           [&] { themefiles::MakeWorkingCopies(form.Services.State, chosen, note); });
 }
 
 /// The tool window goes when control is back in the event loop: one of its own events may be on the way.
@@ -130,8 +142,9 @@ void OpenTheme(Form1& form) {
                                        platform::BoxKind::Error);
       return;
     }
+    Note note;
     Form3 dialog(
-        folders, themes, [&form](const themefiles::ThemePaths& chosen) { return openCopies(form, chosen); }, &form);
+        folders, themes, [&](const themefiles::ThemePaths& chosen) { return openCopies(form, chosen, note); }, &form);
     if (dialog.exec() != QDialog::Accepted) return;
     dropEarlierTheme(form);
     showToolWindow(form);
@@ -139,6 +152,8 @@ void OpenTheme(Form1& form) {
     form.EnableButton(CloseButton, true);
     form.EnableButton(BackgroundButton, true);
     form.Combo1->show();
+    // Behind what the drawing of the first screen had to report.
+    note.tell(form);
   });
 }
 

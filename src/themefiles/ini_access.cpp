@@ -100,9 +100,9 @@ void PutINI(const QString& Section, const QString& Key, const std::optional<QStr
   }
 }
 
-void PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
-                   const QString& FileName) {
-  const QByteArray held = put(Section, Key, Value, FileName);
+QByteArray PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
+                         const QString& FileName) {
+  QByteArray held = put(Section, Key, Value, FileName);
   const QString missing(QChar(1));
   const QString now = GetINI(Section, Key, missing, FileName, ListBufferSize);
   QString wanted = missing;
@@ -114,6 +114,7 @@ void PutINIChecked(const QString& Section, const QString& Key, const std::option
   }
   wanted.truncate(ListBufferSize - 1);
   if (now != wanted) throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(Key, Section));
+  return held;
 }
 
 void CheckLineText(const QString& text) {

@@ -38,9 +38,10 @@ class SectionReader {
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName);
 
 /// PutINI for edits in which a user would believe: throws platform::Failure, with nothing written, for text that an ini
-/// file can't hold, and when the file could not be written or doesn't give the value back.
-void PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
-                   const QString& FileName);
+/// file can't hold, and when the file could not be written or doesn't give the value back. Gives what the file holds
+/// then.
+QByteArray PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
+                         const QString& FileName);
 
 /// Throws platform::Failure for text that an ini file can't hold on one line: a line end or NUL in it, or a letter
 /// outside the code page.

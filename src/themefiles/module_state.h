@@ -50,6 +50,8 @@ struct ModuleState {
   bool Changed = false;      ///< a value has been committed since the last Save
   /// Digests of theme, skin and language file as they were at Open or the last Save.
   std::array<QByteArray, 3> FileDigests;
+  /// The working copies of the three as this program wrote them last: by them it sees that another one has, too.
+  std::array<QByteArray, 3> OwnCopies;
 
   quint32 BackgroundColor = 0xFFFFFF;  ///< red in the low byte
 

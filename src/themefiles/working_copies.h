@@ -1,5 +1,9 @@
 #pragma once
 
+#include <optional>
+
+#include <QString>
+
 #include "platform/status_line.h"
 #include "themefiles/module_state.h"
 
@@ -15,9 +19,16 @@ inline constexpr QStringView WorkingEnding = u".tmp";
 /// then, the state stays as it was, and so do the working copies of a theme that is open.
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status);
 
+/// PutINIChecked on a working copy of the open theme. One that is gone is made anew first. Of one that another program
+/// has written since this one did (a second editor of the theme), this program's own text is kept beside as ".old"; the
+/// edit goes into what stands there. Gives what the user has to know of that, mostly nothing.
+QString PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
+                  const std::optional<QString>& Value);
+
 /// Copies the three working copies over their files, in the order theme, skin, language, and clears Changed. A file
-/// that has changed on disk since it was opened or saved last is kept beside as ".bak", and `status` told so. Throws
-/// platform::Failure when a copy fails; those behind it aren't made then, and Changed stays.
+/// that has changed on disk since it was opened or saved last is kept beside as ".bak", a working copy that another
+/// program has changed or removed is minded as by PutInCopy, and `status` told so. Throws platform::Failure when a copy
+/// fails; those behind it aren't made then, and Changed stays.
 void SaveWorkingCopies(ModuleState& state, platform::StatusLine& status);
 
 /// Takes the state back to no theme: paths, colours of the theme and screens emptied. The working copies stay on disk.

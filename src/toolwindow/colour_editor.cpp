@@ -7,6 +7,7 @@
 #include "platform/system_colors.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/working_copies.h"
 #include "toolwindow/edit_reports.h"
 #include "toolwindow/tool_window.h"
 
@@ -71,10 +72,25 @@ int entryLike(const Form2& form, const QString& name) {
   return -1;
 }
 
-/// Runs a write; one that did not reach the file is reported and throws no further.
-bool written(Form2& form, const QString& step, const QString& name, const std::optional<QString>& value) {
+/// First row of the name as an ini file tells names apart: not by case.
+auto rowLike(themefiles::ModuleState& state, const QString& name) {
+  return std::find_if(state.ThemeColors.begin(), state.ThemeColors.end(),
+                      [&](const NamedColor& row) { return platform::SameName(row.Name, name); });
+}
+
+/// Gives all rows of the name a value: of equal keys an ini file shows the first.
+void setRowsLike(themefiles::ModuleState& state, const QString& name, const QString& value) {
+  for (NamedColor& row : state.ThemeColors) {
+    if (platform::SameName(row.Name, name)) row.Value = value;
+  }
+}
+
+/// Runs a write, with a note of what came of it besides; one that did not reach the file is reported and throws no
+/// further.
+bool written(Form2& form, const QString& step, const QString& name, const std::optional<QString>& value,
+             QString& note) {
   return platform::Guarded(form.Services.Status, step, [&] {
-    themefiles::PutINIChecked(section(), name, value, form.Services.State.Paths.ThemeFile);
+    note = themefiles::PutInCopy(form.Services.State, &themefiles::ThemePaths::ThemeFile, section(), name, value);
   });
 }
 
@@ -127,11 +143,12 @@ void Command2_Click(Form2& form) {
   const auto row = rowNamed(state.ThemeColors, name);
   const bool ofTheme = !name.isEmpty() && row != state.ThemeColors.end();
   const QString text = QStringLiteral("%1 %2 %3").arg(color->red()).arg(color->green()).arg(color->blue());
-  if (ofTheme && !written(form, writeStep(), name, text)) return;
+  QString note;
+  if (ofTheme && !written(form, writeStep(), name, text, note)) return;
   form.Command2->SetBackColor(*color);
   if (!ofTheme) return;
-  row->Value = text;
-  TellKeptInWorkingCopy(form);
+  setRowsLike(state, name, text);
+  TellKeptInWorkingCopy(form, note);
 }
 
 void Command3_Click(Form2& form) {
@@ -144,17 +161,23 @@ void Command3_Click(Form2& form) {
     return;
   }
   if (!AcceptNewName(form, name)) return;
-  auto& table = form.Services.State.ThemeColors;
-  const auto row = rowNamed(table, QString());
-  if (row == table.end()) {
+  themefiles::ModuleState& state = form.Services.State;
+  // Another group is on show, and the theme has the name: the one line of the file gets one row.
+  auto row = rowLike(state, name);
+  const QString replaced = row == state.ThemeColors.end() ? QString() : row->Value;
+  if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
+  if (row == state.ThemeColors.end()) {
     form.Services.Status.ShowStatus(platform::ReportText(step, QString()));
     return;
   }
-  if (!written(form, step, name, newColor())) return;
-  *row = {name, newColor()};
-  form.Combo3->AddItem(name);
+  QString note;
+  if (!written(form, step, name, newColor(), note)) return;
+  if (row->Name.isEmpty()) row->Name = name;
+  setRowsLike(state, name, newColor());
+  form.Combo3->AddItem(row->Name);
   form.Combo3->SetListIndex(entryLike(form, name));
-  TellKeptInWorkingCopy(form);
+  if (!replaced.isEmpty()) note += QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced);
+  TellKeptInWorkingCopy(form, note);
 }
 
 void Command5_Click(Form2& form) {
@@ -164,13 +187,15 @@ void Command5_Click(Form2& form) {
       &form, QStringLiteral("Really delete this Color?") + QStringLiteral("\n\n") + name,
       QStringLiteral("Delete Color"), platform::BoxKind::YesNoDefaultNo);
   if (answer != platform::BoxAnswer::Yes) return;
-  auto& table = form.Services.State.ThemeColors;
-  const auto row = rowNamed(table, name);
-  if (row == table.end() || !written(form, writeStep(), name, std::nullopt)) return;
-  *row = {};
+  themefiles::ModuleState& state = form.Services.State;
+  QString note;
+  if (rowNamed(state.ThemeColors, name) == state.ThemeColors.end()) return;
+  if (!written(form, writeStep(), name, std::nullopt, note)) return;
+  *rowLike(state, name) = {};
+  setRowsLike(state, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.Paths.ThemeFile));
   form.Combo3->RemoveItem(form.Combo3->ListIndex());
   form.Command2->SetBackColor(platform::ColorOf(platform::ButtonFaceColor));
-  TellKeptInWorkingCopy(form);
+  TellKeptInWorkingCopy(form, note);
 }
 
 }  // namespace toolwindow

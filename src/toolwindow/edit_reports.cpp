@@ -18,8 +18,9 @@ bool usableName(const QString& name) {
 
 }  // namespace
 
-void TellKeptInWorkingCopy(Form2& form) {
-  form.Services.Status.ShowStatus(QStringLiteral("Kept in the working copy; the next Update makes Save available"));
+void TellKeptInWorkingCopy(Form2& form, const QString& note) {
+  const QString kept = QStringLiteral("Kept in the working copy; the next Update makes Save available");
+  form.Services.Status.ShowStatus(note.isEmpty() ? kept : note + QStringLiteral(". ") + kept);
 }
 
 void ShowErrorBox(Form2& form, const QString& text) {

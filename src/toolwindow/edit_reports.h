@@ -6,8 +6,8 @@ namespace toolwindow {
 
 class Form2;
 
-/// What the user is told after a colour or key was written at once.
-void TellKeptInWorkingCopy(Form2& form);
+/// What the user is told after a colour or key was written at once, behind a `note` of what came of it besides.
+void TellKeptInWorkingCopy(Form2& form, const QString& note);
 
 /// An error box over the tool window.
 void ShowErrorBox(Form2& form, const QString& text);

@@ -5,6 +5,7 @@
 #include "platform/code_page.h"
 #include "platform/paths.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/working_copies.h"
 #include "toolwindow/edit_reports.h"
 #include "toolwindow/tool_window.h"
 
@@ -29,6 +30,7 @@ constexpr std::array<KeyEditorRow, 2> Rows{{
 /// One of the two frames of a form.
 struct Editor {
   QString section;
+  QString themefiles::ThemePaths::*copy;
   QString file;
   controls::ComboBox& list;
   controls::TextBox& box;
@@ -37,8 +39,8 @@ struct Editor {
 
 Editor editorOf(Form2& form, KeyEditor which) {
   const KeyEditorRow& row = Rows.at(static_cast<size_t>(which));
-  return {row.section.toString(), form.Services.State.Paths.*row.file, *(form.*row.list), *(form.*row.box),
-          row.newKeyTitle.toString()};
+  return {row.section.toString(), row.file,         form.Services.State.Paths.*row.file,
+          *(form.*row.list),      *(form.*row.box), row.newKeyTitle.toString()};
 }
 
 void fill(Form2& form, KeyEditor which, const QString& value) {
@@ -50,10 +52,12 @@ void fill(Form2& form, KeyEditor which, const QString& value) {
   if (entry >= 0) editor.list.SetListIndex(entry);
 }
 
-/// Runs a write; one that did not reach the file is reported.
-bool written(Form2& form, const Editor& editor, const QString& key, const std::optional<QString>& value) {
-  return platform::Guarded(form.Services.Status, QStringLiteral("Error while writing tempfile"),
-                           [&] { themefiles::PutINIChecked(editor.section, key, value, editor.file); });
+/// Runs a write, with a note of what came of it besides; one that did not reach the file is reported.
+bool written(Form2& form, const Editor& editor, const QString& key, const std::optional<QString>& value,
+             QString& note) {
+  return platform::Guarded(form.Services.Status, QStringLiteral("Error while writing tempfile"), [&] {
+    note = themefiles::PutInCopy(form.Services.State, editor.copy, editor.section, key, value);
+  });
 }
 
 bool listed(const Editor& editor, const QString& key) {
@@ -94,10 +98,11 @@ void AddKey_Click(Form2& form, KeyEditor which) {
     ShowErrorBox(form, QStringLiteral("Key already exist!"));
     return;
   }
-  if (!written(form, editor, name, QString())) return;
+  QString note;
+  if (!written(form, editor, name, QString(), note)) return;
   editor.list.AddItem(name);
   editor.list.SetListIndex(editor.list.ListCount() - 1);
-  TellKeptInWorkingCopy(form);
+  TellKeptInWorkingCopy(form, note);
 }
 
 void RemoveKey_Click(Form2& form, KeyEditor which) {
@@ -108,11 +113,12 @@ void RemoveKey_Click(Form2& form, KeyEditor which) {
       form.Services.Dialogs.MessageBox(&form, QStringLiteral("Really delete this Key?") + QStringLiteral("\n\n") + key,
                                        QStringLiteral("Delete Key"), platform::BoxKind::YesNoDefaultNo);
   if (answer != platform::BoxAnswer::Yes) return;
-  if (!written(form, editor, key, std::nullopt)) return;
+  QString note;
+  if (!written(form, editor, key, std::nullopt, note)) return;
   editor.list.RemoveItem(editor.list.ListIndex());
   editor.list.SetListIndex(-1);
   editor.box.SetText(QString());
-  TellKeptInWorkingCopy(form);
+  TellKeptInWorkingCopy(form, note);
 }
 
 void Command4_Click(Form2& form) {

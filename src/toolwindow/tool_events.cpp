@@ -17,13 +17,15 @@ using controls::Cause;
 using controls::ComboBox;
 using controls::TextBox;
 
-/// Ties a button to an operation that asks or changes colours and keys: it waits until no work is running, and is
-/// dropped when the window has been closed by then.
+/// Ties a button to an operation that asks or changes colours and keys: it waits until no work is running. It is
+/// dropped when by then the window has been closed or the `shown` list, whose entry it is about, has another one.
 template <typename Operation>
-void onClick(Form2& form, QPushButton* button, Operation operation) {
-  QObject::connect(button, &QPushButton::clicked, &form, [&form, operation] {
-    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form), operation] {
-      if (open && open->isVisible()) platform::GuardedSilently([&] { operation(*open); });
+void onClick(Form2& form, QPushButton* button, Operation operation, const ComboBox* shown = nullptr) {
+  QObject::connect(button, &QPushButton::clicked, &form, [&form, operation, shown] {
+    const QString entry = shown == nullptr ? QString() : shown->Text();
+    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form), operation, shown, entry] {
+      if (!open || !open->isVisible() || (shown != nullptr && shown->Text() != entry)) return;
+      platform::GuardedSilently([&] { operation(*open); });
     });
   });
 }
@@ -52,19 +54,21 @@ void connectNumbers(Form2& form) {
 void connectColors(Form2& form) {
   QObject::connect(form.Combo4, &ComboBox::Click, &form, [&form](Cause cause) { Combo4_Click(form, cause); });
   QObject::connect(form.Combo3, &ComboBox::Click, &form, [&form] { Combo3_Click(form); });
-  onClick(form, form.Command2, Command2_Click);
+  onClick(form, form.Command2, Command2_Click, form.Combo3);
   onClick(form, form.Command3, Command3_Click);
-  onClick(form, form.Command5, Command5_Click);
+  onClick(form, form.Command5, Command5_Click, form.Combo3);
 }
 
 void connectKeys(Form2& form) {
   QObject::connect(form.Combo5, &ComboBox::Click, &form, [&form] { KeyList_Click(form, KeyEditor::Text); });
   QObject::connect(form.Combo6, &ComboBox::Click, &form, [&form] { KeyList_Click(form, KeyEditor::Texture); });
   onClick(form, form.Command6, [](Form2& f) { AddKey_Click(f, KeyEditor::Text); });
-  onClick(form, form.Command7, [](Form2& f) { RemoveKey_Click(f, KeyEditor::Text); });
+  onClick(
+      form, form.Command7, [](Form2& f) { RemoveKey_Click(f, KeyEditor::Text); }, form.Combo5);
   onClick(form, form.Command8, [](Form2& f) { AddKey_Click(f, KeyEditor::Texture); });
-  onClick(form, form.Command9, [](Form2& f) { RemoveKey_Click(f, KeyEditor::Texture); });
-  onClick(form, form.Command4, Command4_Click);
+  onClick(
+      form, form.Command9, [](Form2& f) { RemoveKey_Click(f, KeyEditor::Texture); }, form.Combo6);
+  onClick(form, form.Command4, Command4_Click, form.Combo6);
 }
 
 }  // namespace

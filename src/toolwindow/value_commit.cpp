@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/working_copies.h"
 #include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"
 
@@ -12,13 +13,14 @@ namespace {
 /// What a commit is about.
 struct Commit {
   QString section;
-  QString key;  ///< identity of the row's key
+  QString key;        ///< identity of the row's key
+  QStringList notes;  ///< what came of the writes besides
 };
 
 Commit commitOf(const Form2& form) {
   const int row = form.ListView1->SelectedRow();
   if (row < 0) throw platform::Failure(QStringLiteral("no row is selected"));
-  const Commit commit{platform::TrimBlanks(form.List1->Text()), KeyIdentity(form.ListView1->RowText(row))};
+  Commit commit{platform::TrimBlanks(form.List1->Text()), KeyIdentity(form.ListView1->RowText(row)), {}};
   if (commit.section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
   if (commit.section.contains(u']')) {
     throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(commit.section));
@@ -42,21 +44,24 @@ QString selectedName(const controls::ComboBox& list) {
   return list.Text();
 }
 
-void writeTheme(Form2& form, const Commit& commit, const QString& value) {
-  themefiles::PutINIChecked(commit.section, commit.key, value, form.Services.State.Paths.ThemeFile);
+using Copy = QString themefiles::ThemePaths::*;
+
+void put(Form2& form, Commit& commit, Copy copy, const QString& section, const QString& key, const QString& value) {
+  const QString note = themefiles::PutInCopy(form.Services.State, copy, section, key, value);
+  if (!note.isEmpty()) commit.notes += note;
 }
 
-void commitValue(Form2& form, const Commit& commit, const QString& value) {
-  writeTheme(form, commit, value);
+void commitValue(Form2& form, Commit& commit, const QString& value) {
+  put(form, commit, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, value);
   SetSelectedRowValue(form, value);
 }
 
 /// Writes a reference into the theme, and what it refers to into the file that owns that.
-void commitReference(Form2& form, const Commit& commit, const QString& name, const QString& section,
-                     const QString& content, const QString& file) {
+void commitReference(Form2& form, Commit& commit, const QString& name, const QString& section, const QString& content,
+                     Copy copy) {
   themefiles::CheckLineText(content);
-  writeTheme(form, commit, name);
-  themefiles::PutINIChecked(section, name, content, file);
+  put(form, commit, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, name);
+  put(form, commit, copy, section, name, content);
   SetSelectedRowValue(form, name);
 }
 
@@ -71,12 +76,11 @@ void updateCursorRect(themefiles::CursorRecord& record, const QString& key, cons
 }
 
 /// Reads the editor of the group and writes its value.
-void writeEditor(Form2& form, const Commit& commit, KeyGroup group) {
-  themefiles::ModuleState& state = form.Services.State;
+void writeEditor(Form2& form, Commit& commit, KeyGroup group) {
   switch (RowOf(group).frame) {
     case EditorFrame::Numbers:
       commitValue(form, commit, form.Text1->Text());
-      updateCursorRect(state.CursorRect, commit.key, form.Text1->Text());
+      updateCursorRect(form.Services.State.CursorRect, commit.key, form.Text1->Text());
       break;
     case EditorFrame::FloatNumbers:
       commitValue(form, commit, form.Text4->Text());
@@ -89,11 +93,11 @@ void writeEditor(Form2& form, const Commit& commit, KeyGroup group) {
       break;
     case EditorFrame::Texts:
       commitReference(form, commit, selectedName(*form.Combo5), QStringLiteral("Text"), form.Text2->Text(),
-                      state.Paths.LanguageFile);
+                      &themefiles::ThemePaths::LanguageFile);
       break;
     case EditorFrame::Texture:
       commitReference(form, commit, selectedName(*form.Combo6), QStringLiteral("Textures"), form.Text3->Text(),
-                      state.Paths.SkinFile);
+                      &themefiles::ThemePaths::SkinFile);
       break;
   }
 }
@@ -103,7 +107,7 @@ void writeEditor(Form2& form, const Commit& commit, KeyGroup group) {
 void Command1_Click(Form2& form) {
   ToolServices& services = form.Services;
   platform::Guarded(services.Status, QStringLiteral("Error while writing tempfile"), [&] {
-    const Commit commit = commitOf(form);
+    Commit commit = commitOf(form);
     const auto group = GroupOf(commit.key);
     if (group) writeEditor(form, commit, *group);
     services.State.Changed = true;
@@ -111,6 +115,8 @@ void Command1_Click(Form2& form) {
     services.Queue.Draw();
     PlaceMark(form, MarkPen::Kept);
     form.ListView1->setFocus();
+    // Behind what the drawing had to report.
+    if (!commit.notes.isEmpty()) services.Status.ShowStatus(commit.notes.join(QStringLiteral("; ")));
   });
 }
 

@@ -1,0 +1,153 @@
+#include <QTest>
+
+#include "support/windows.h"
+
+using namespace Qt::StringLiterals;
+using platform::BoxAnswer;
+using support::GameFolder;
+using support::Program;
+using support::ThemeCopy;
+
+/// What the first program does behind the edit of the second.
+using Act = void (*)(Program& program);
+
+namespace {
+
+const QString ThemeFile = u"Themes/Alpha.ini"_s;
+const QString Kept = ThemeCopy + u".old"_s;
+
+void edit(Program& program, const char* key, const char* value) {
+  program.tag(u"LoadingStaticA"_s);
+  program.row(QLatin1StringView(key));
+  program.tools().Text1->SetText(QLatin1StringView(value));
+  program.tools().Command1->click();
+}
+
+/// A theme whose first screen has something to report when it is drawn, which must not hide a word about kept files.
+void spoil(const GameFolder& game) {
+  const QByteArray beyond = "[LoadingStaticBeyond]\r\nTex=Plate\r\nColor=Red\r\nX=40000\r\n[Main]\r\n";
+  game.write(ThemeFile, game.read(ThemeFile).replace("[Main]\r\n", beyond));
+}
+
+}  // namespace
+
+/// Two programs on one theme, or one whose working copies are meddled with: no edit goes without a word.
+class SecondEditorTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void theSecondOpens() {
+    const GameFolder game;
+    spoil(game);
+    Program a(game);
+    Program b(game);
+    a.open();
+    edit(a, "X", "77");
+    const QByteArray edited = game.read(ThemeCopy);
+    b.open();
+    QCOMPARE(game.read(Kept), edited);
+    QVERIFY2(b.status().contains(u".tmp.old"), qPrintable(b.status()));
+    // A second Open of the other one takes the place of what the first one kept.
+    edit(b, "W", "55");
+    b.dialogs.boxes = {BoxAnswer::Yes};
+    b.open();
+    QVERIFY(game.read(Kept) != edited);
+
+    edit(a, "Y", "88");
+    QVERIFY2(a.status().contains(u"another program") && a.status().contains(u".tmp.old"), qPrintable(a.status()));
+    QCOMPARE(game.read(Kept), edited);
+    QVERIFY(game.read(ThemeCopy).contains("Y=88") && !game.read(ThemeCopy).contains("X=77"));
+    edit(a, "Y", "89");
+    QVERIFY2(!a.status().contains(u"another program"), qPrintable(a.status()));
+  }
+
+  void bothEditInTurn_data() {
+    QTest::addColumn<Act>("act");
+    QTest::newRow("Save") << +[](Program& p) { p.click(2); };
+    QTest::newRow("a commit") << +[](Program& p) { edit(p, "H", "33"); };
+    QTest::newRow("a colour") << +[](Program& p) {
+      p.row(u"Color"_s);
+      p.dialogs.inputs = {u"Fresh"_s};
+      p.tools().Command3->click();
+    };
+  }
+  void bothEditInTurn() {
+    QFETCH(Act, act);
+    const GameFolder game;
+    Program a(game);
+    Program b(game);
+    a.open();
+    b.open();
+    edit(a, "X", "77");
+    const QByteArray edited = game.read(ThemeCopy);
+    edit(b, "W", "55");
+    QVERIFY2(!b.status().contains(u"another program"), "it had no edits of its own");
+    act(a);
+    QVERIFY2(a.status().contains(u"another program"), qPrintable(a.status()));
+    QCOMPARE(game.read(Kept), edited);
+    a.click(2);
+    QVERIFY(game.read(ThemeFile).contains("X=77") && game.read(ThemeFile).contains("W=55"));
+    b.click(2);
+    QVERIFY(game.read(ThemeFile).contains("X=77") && game.read(ThemeFile).contains("W=55"));
+  }
+
+  void bothSaveDifferentEdits() {
+    const GameFolder game;
+    Program a(game);
+    a.open();
+    edit(a, "X", "77");
+    const QByteArray edited = game.read(ThemeCopy);
+    game.write(ThemeFile, "[By]\r\nanother=editor\r\n");
+    a.click(2);
+    QCOMPARE(game.read(ThemeFile), edited);
+    QCOMPARE(game.read(ThemeFile + u".bak"_s), "[By]\r\nanother=editor\r\n");
+    QVERIFY2(a.status().contains(u".bak"), qPrintable(a.status()));
+  }
+
+  void theWorkingCopiesAreSweptAway() {
+    const GameFolder game;
+    Program program(game);
+    program.open();
+    edit(program, "X", "77");
+    const QByteArray edited = game.read(ThemeCopy);
+    program.row(u"Y"_s);
+    QVERIFY(QFile::remove(game.native(ThemeCopy)));
+    program.tools().Text1->SetText(u"88"_s);
+    program.tools().Command1->click();
+    QVERIFY2(program.status().contains(u"made anew"), qPrintable(program.status()));
+    QCOMPARE(game.read(ThemeCopy).size(), edited.size());
+    for (const QString& copy : {ThemeCopy, support::SkinCopy, support::LanguageCopy}) QFile::remove(game.native(copy));
+    program.click(2);
+    QVERIFY(program.status().contains(u"made anew") && !program.state.Changed);
+    QVERIFY(game.read(ThemeFile).contains("X=77") && game.read(ThemeFile).contains("Y=88"));
+  }
+
+  void oneRowForOneLineOfColour() {
+    const GameFolder game;
+    game.write(ThemeFile, game.read(ThemeFile).replace("Red=200 40 40", "Red=200 40 40\r\nRed=9 9 9"));
+    Program program(game);
+    program.open();
+    program.tag(u"LoadingStaticA"_s);
+    program.row(u"Color"_s);
+    const auto table = [&] {
+      QStringList rows;
+      for (const themefiles::NamedColor& row : program.state.ThemeColors) {
+        if (!row.Name.isEmpty()) rows += row.Name + u'=' + row.Value;
+      }
+      return rows;
+    };
+    QCOMPARE(table(), (QStringList{u"Red=200 40 40"_s, u"Red=200 40 40"_s, u"Blue=30 60 200"_s}));
+    program.dialogs.boxes = {BoxAnswer::Yes};
+    program.tools().Command5->click();
+    QCOMPARE(table(), (QStringList{u"Red=9 9 9"_s, u"Blue=30 60 200"_s}));
+    // A group on show that lacks a name that the theme has.
+    program.soleRow(u"Color"_s, u"P1Dark"_s);
+    program.dialogs.inputs = {u"blue"_s};
+    program.tools().Command3->click();
+    QCOMPARE(table(), (QStringList{u"Red=9 9 9"_s, u"Blue=150 150 150"_s}));
+    QVERIFY2(program.status().contains(u"Blue was 30 60 200"), qPrintable(program.status()));
+  }
+};
+
+QTEST_MAIN(SecondEditorTest)
+#include "second_editor_test.moc"
