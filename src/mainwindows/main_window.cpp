@@ -139,7 +139,7 @@ void Form1::ShowStartPicture(quint32 backColor) {
   const QImage picture = controls::AssetPicture(QStringLiteral("start.jpg"));
   Workspace->Surface().Wipe(platform::ColorOf(backColor));
   Workspace->Surface().DrawImageRect(picture, 0, 0, platform::Surface::Width, platform::Surface::Height);
-  Workspace->Invalidate();
+  Workspace->Refresh();
   Label1->show();
   Label2->show();
 }
@@ -159,7 +159,7 @@ void Form1::DrawScreen() {
                                   *this,          Services.Dialogs, Services.Graphics,    Account};
   platform::Guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
   ProgressBar1->hide();
-  Workspace->Invalidate();
+  Workspace->Refresh();
   toolwindow::ShowReasons(*ToolWindow, Account);
 }
 

@@ -19,11 +19,11 @@ void PreviewHost::SetProgressVisible(bool visible) {
 }
 
 void PreviewHost::Refresh() {
-  controls_.Workspace.Refresh();
+  controls_.Workspace.RefreshPaced();
 }
 
 void PreviewHost::Yield() {
-  controls_.Workspace.Invalidate();
+  controls_.Workspace.RefreshPaced();
   controls_.Queue.Yield();
 }
 

@@ -25,7 +25,8 @@ int pixel(double length) {
 
 }  // namespace
 
-Workspace::Workspace(QWidget* parent) : QWidget(parent), borderColor_(platform::ColorOf(MarkBorder)) {
+Workspace::Workspace(QWidget* parent)
+    : QWidget(parent), pacer_([this] { Refresh(); }), borderColor_(platform::ColorOf(MarkBorder)) {
   setFixedSize(platform::Surface::Width, platform::Surface::Height);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -34,11 +35,6 @@ Workspace::Workspace(QWidget* parent) : QWidget(parent), borderColor_(platform::
 }
 
 void Workspace::Refresh() {
-  const QRect dirty = surface_.TakeDirty();
-  if (!dirty.isEmpty()) repaint(dirty);
-}
-
-void Workspace::Invalidate() {
   const QRect dirty = surface_.TakeDirty();
   if (!dirty.isEmpty()) update(dirty);
 }

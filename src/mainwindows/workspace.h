@@ -3,6 +3,7 @@
 #include <QTimer>
 #include <QWidget>
 
+#include "controls/frame_pacer.h"
 #include "platform/surface.h"
 #include "renderer/highlight_cursor.h"
 
@@ -17,10 +18,10 @@ class Workspace : public QWidget, public renderer::CursorMark {
   explicit Workspace(QWidget* parent);
 
   platform::Surface& Surface() { return surface_; }
-  /// Repaints what has been drawn on the surface since the last call, at once.
+  /// Shows what has been drawn on the surface since the last call, with the next paint event.
   void Refresh();
-  /// The same with the next paint event.
-  void Invalidate();
+  /// The same in the next frame of the screen; for long work that draws on the surface bit by bit.
+  void RefreshPaced() { pacer_.Request(); }
 
   void SetLeft(double left) override;
   void SetTop(double top) override;
@@ -51,6 +52,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
   QRect markRect() const;
 
   platform::Surface surface_;
+  controls::FramePacer pacer_;
   QTimer timer1_;
   QRectF mark_;
   bool markVisible_ = false;

@@ -9,7 +9,7 @@
 
 namespace progressbar {
 
-ProgressBar::ProgressBar(QWidget* parent) : QWidget(parent) {
+ProgressBar::ProgressBar(QWidget* parent) : QWidget(parent), pacer_([this] { update(); }) {
   InitProperties();
 }
 
@@ -18,7 +18,7 @@ void ProgressBar::write(T& member, const T& value, QStringView key) {
   member = value;
   Q_EMIT PropertyChanged(key.toString());
   LoadPalette(palette_, state_);
-  update();
+  pacer_.Request();
 }
 
 void ProgressBar::SetValue(int value) {

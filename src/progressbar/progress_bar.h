@@ -2,13 +2,14 @@
 
 #include <QWidget>
 
+#include "controls/frame_pacer.h"
 #include "progressbar/palettes.h"
 #include "progressbar/properties.h"
 
 namespace progressbar {
 
 /// A bar that shows how far a piece of work has come, with a caption. Every write of a member tells so by
-/// PropertyChanged, with the key under which the member is stored, and repaints the bar.
+/// PropertyChanged, with the key under which the member is stored, and repaints the bar in the next frame of the screen.
 class ProgressBar : public QWidget {
   Q_OBJECT
 
@@ -73,6 +74,7 @@ class ProgressBar : public QWidget {
 
   Properties state_;
   Palette palette_;
+  controls::FramePacer pacer_;
 };
 
 }  // namespace progressbar
