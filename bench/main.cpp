@@ -84,7 +84,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   controls::ApplyLook(application);
   char interleave[] = "--benchmark_enable_random_interleaving=true";
-  char repeat[] = "--benchmark_repetitions=15";
+  char repeat[] = "--benchmark_repetitions=30";
   char time[] = "--benchmark_min_time=0.1";
   std::vector<char*> options{argv[0], interleave, repeat, time};
   options.insert(options.end(), argv + 1, argv + argc);

@@ -66,19 +66,24 @@ void RegisterShownScreen() {
   const auto preview = std::make_shared<PlainPreview>();
   preview->show();
   QApplication::processEvents();
-  Register(
-      {"ShownScreen", 1.25, Held::AtMost},
-      [editor](benchmark::State& state) {
-        for ([[maybe_unused]] auto turn : state) editor->form.Queue.Draw();
-      },
-      [preview, pictures = screen->pictures()](benchmark::State& state) {
-        for ([[maybe_unused]] auto turn : state) {
-          for (const Picture& picture : pictures) {
-            DrawPlainly(picture, preview->Surface);
-            preview->repaint(preview->Surface.TakeDirty());
-          }
-        }
-      });
+  const auto draw = [editor](const QSize& bar) {
+    return [editor, bar](benchmark::State& state) {
+      editor->form.ProgressBar1->resize(bar);
+      for ([[maybe_unused]] auto turn : state) {
+        editor->form.Queue.Draw();
+        QApplication::processEvents();
+      }
+    };
+  };
+  const QSize shown = editor->form.ProgressBar1->size();
+  Register({"ProgressBar", 1.02, Held::AtMost}, draw(shown), draw(QSize(0, 0)));
+  Register({"ShownScreen", 1.25, Held::AtMost}, draw(shown),
+           [preview, pictures = screen->pictures()](benchmark::State& state) {
+             for ([[maybe_unused]] auto turn : state) {
+               for (const Picture& picture : pictures) DrawPlainly(picture, preview->Surface);
+               preview->repaint(preview->Surface.TakeDirty());
+             }
+           });
 }
 
 }  // namespace bench
