@@ -12,8 +12,8 @@ using system_calls::Fault;
 /// An operation that reads and writes files. `act` lets the calls be counted, and faulty, from `armed` on.
 struct Operation {
   const char* failure;  ///< how the report of its failure begins
-  void (*prepare)(Program& program, const GameFolder& game);
-  void (*act)(Program& program, const std::function<void()>& armed);
+  std::function<void(Program& program, const GameFolder& game)> prepare;
+  std::function<void(Program& program, const std::function<void()>& armed)> act;
 };
 
 namespace {
@@ -24,15 +24,32 @@ struct Standing {
   QVariantMap shown;
 };
 
-void editNumber(Program& program, const char* text) {
-  program.tag(u"LoadingStaticA"_s);
-  program.row(u"X"_s);
-  program.tools().Text1->SetText(QLatin1StringView(text));
+/// Opens the theme and the editor of an object's key, all of its boxes filled.
+auto editor(const char* tag, const char* key) {
+  return [=](Program& program, const GameFolder&) {
+    program.open();
+    program.tag(QLatin1StringView(tag));
+    program.row(QLatin1StringView(key));
+    program.tools().Text1->SetText(u"77"_s);
+    program.tools().Text2->SetText(u"Off we go"_s);
+  };
 }
 
-void update(Program& program, const std::function<void()>& armed) {
-  armed();
+/// A click on a button of the tool window, and answers for all that it may ask.
+auto press(const char* button) {
+  return [=](Program& program, const std::function<void()>& armed) {
+    program.dialogs.inputs = {u"Fresh"_s};
+    program.dialogs.colors = {QColor(1, 2, 3)};
+    program.dialogs.boxes = {BoxAnswer::Yes};
+    armed();
+    program.tools().findChild<QPushButton*>(QLatin1StringView(button))->click();
+  };
+}
+
+void edited(Program& program, const GameFolder& game) {
+  editor("LoadingStaticA", "X")(program, game);
   program.tools().Command1->click();
+  program.dialogs.boxes = {BoxAnswer::Yes, BoxAnswer::Yes};
 }
 
 void save(Program& program, const std::function<void()>& armed) {
@@ -130,77 +147,28 @@ class FileFailuresTest : public QObject {
  private Q_SLOTS:
   void everyCall_data() {
     QTest::addColumn<Operation>("operation");
+    const auto add = [](const char* name, const char* failure, auto prepare, auto act) {
+      QTest::newRow(name) << Operation{failure, prepare, act};
+    };
     const char* const writing = "Error while writing tempfile [";
-    QTest::newRow("number") << Operation{writing, [](Program& p, const GameFolder&) { p.open(), editNumber(p, "77"); },
-                                         update};
-    QTest::newRow("text") << Operation{writing,
-                                       [](Program& p, const GameFolder&) {
-                                         p.open();
-                                         p.tag(u"LoadingTextFree"_s);
-                                         p.row(u"Text"_s);
-                                         p.tools().Combo5->SetText(u"GO"_s);
-                                         p.tools().Text2->SetText(u"Off we go"_s);
-                                       },
-                                       update};
-    const auto colours = [](Program& p, const GameFolder&) {
-      p.open();
-      p.tag(u"LoadingStaticA"_s);
-      p.row(u"Color"_s);
+    const char* const copying = "Error while saving temporary files [";
+    add("number", writing, editor("LoadingStaticA", "X"), press("Command1"));
+    add("text", writing, editor("LoadingTextFree", "Text"), press("Command1"));
+    add("add a colour", "Error while adding colors [", editor("LoadingStaticA", "Color"), press("Command3"));
+    add("change a colour", writing, editor("LoadingStaticA", "Color"), press("Command2"));
+    add("remove a colour", writing, editor("LoadingStaticA", "Color"), press("Command5"));
+    add("add a key", writing, editor("LoadingStaticA", "Tex"), press("Command8"));
+    add("remove a key", writing, editor("LoadingStaticA", "Tex"), press("Command9"));
+    const auto meddled = [](Program& program, const GameFolder& game) {
+      edited(program, game);
+      game.write(u"Themes/Alpha.ini"_s, "[By]\r\nanother=hand\r\n");
     };
-    QTest::newRow("add a colour") << Operation{"Error while adding colors [", colours,
-                                               [](Program& p, const std::function<void()>& armed) {
-                                                 p.dialogs.inputs = {u"Fresh"_s};
-                                                 armed();
-                                                 p.tools().Command3->click();
-                                               }};
-    QTest::newRow("change a colour") << Operation{writing, colours, [](Program& p, const std::function<void()>& armed) {
-                                                    p.dialogs.colors = {QColor(1, 2, 3)};
-                                                    armed();
-                                                    p.tools().Command2->click();
-                                                  }};
-    QTest::newRow("remove a colour") << Operation{writing, colours, [](Program& p, const std::function<void()>& armed) {
-                                                    p.dialogs.boxes = {BoxAnswer::Yes};
-                                                    armed();
-                                                    p.tools().Command5->click();
-                                                  }};
-    const auto textures = [](Program& p, const GameFolder&) {
-      p.open();
-      p.tag(u"LoadingStaticA"_s);
-      p.row(u"Tex"_s);
+    add("save", "Error while saving files [", meddled, save);
+    const auto crashed = [](Program&, const GameFolder& game) {
+      for (const QString& copy : {support::ThemeCopy, support::LanguageCopy}) game.write(copy, "[Left]\r\nby=a crash");
     };
-    QTest::newRow("add a key") << Operation{writing, textures, [](Program& p, const std::function<void()>& armed) {
-                                              p.dialogs.inputs = {u"Fresh"_s};
-                                              armed();
-                                              p.tools().Command8->click();
-                                            }};
-    QTest::newRow("remove a key") << Operation{writing, textures, [](Program& p, const std::function<void()>& armed) {
-                                                 p.dialogs.boxes = {BoxAnswer::Yes};
-                                                 armed();
-                                                 p.tools().Command9->click();
-                                               }};
-    QTest::newRow("save") << Operation{"Error while saving files [",
-                                       [](Program& p, const GameFolder& game) {
-                                         p.open();
-                                         editNumber(p, "77");
-                                         p.tools().Command1->click();
-                                         game.write(u"Themes/Alpha.ini"_s, "[By]\r\nanother=hand\r\n");
-                                       },
-                                       save};
-    QTest::newRow("open") << Operation{"Error while saving temporary files [",
-                                       [](Program&, const GameFolder& game) {
-                                         for (const QString& copy : {support::ThemeCopy, support::LanguageCopy}) {
-                                           game.write(copy, "[Left]\r\nby=a crash\r\n");
-                                         }
-                                       },
-                                       open};
-    QTest::newRow("open again") << Operation{"Error while saving temporary files [",
-                                             [](Program& p, const GameFolder&) {
-                                               p.open();
-                                               editNumber(p, "77");
-                                               p.tools().Command1->click();
-                                               p.dialogs.boxes = {BoxAnswer::Yes, BoxAnswer::Yes};
-                                             },
-                                             open};
+    add("open", copying, crashed, open);
+    add("open again", copying, edited, open);
   }
   void everyCall() {
     QFETCH(Operation, operation);

@@ -74,7 +74,6 @@ int disarm() {
 using namespace system_calls;
 
 // The names are the linker's.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
 extern "C" {
 
 int __real_open(const char* path, int flags, ...);
@@ -138,4 +137,3 @@ ssize_t __wrap_write(int file, const void* bytes, size_t size) {
 }
 
 }  // extern "C"
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,readability-identifier-naming)
