@@ -3,11 +3,9 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
-#include "platform/failure.h"
 #include "platform/system_colors.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
-#include "themefiles/working_copies.h"
 #include "toolwindow/edit_reports.h"
 #include "toolwindow/tool_window.h"
 
@@ -85,17 +83,9 @@ void setRowsLike(themefiles::ModuleState& state, const QString& name, const QStr
   }
 }
 
-/// Runs a write, with a note of what came of it besides; one that did not reach the file is reported and throws no
-/// further.
-bool written(Form2& form, const QString& step, const QString& name, const std::optional<QString>& value,
-             QString& note) {
-  return platform::Guarded(form.Services.Status, step, [&] {
-    note = themefiles::PutInCopy(form.Services.State, &themefiles::ThemePaths::ThemeFile, section(), name, value);
-  });
-}
-
-QString writeStep() {
-  return QStringLiteral("Error while writing tempfile");
+std::optional<QString> writeColor(Form2& form, QStringView step, const QString& name,
+                                  const std::optional<QString>& value) {
+  return WriteAtOnce(form, step, &themefiles::ThemePaths::ThemeFile, section(), name, value);
 }
 
 }  // namespace
@@ -143,16 +133,19 @@ void Command2_Click(Form2& form) {
   const auto row = rowNamed(state.ThemeColors, name);
   const bool ofTheme = !name.isEmpty() && row != state.ThemeColors.end();
   const QString text = QStringLiteral("%1 %2 %3").arg(color->red()).arg(color->green()).arg(color->blue());
-  QString note;
-  if (ofTheme && !written(form, writeStep(), name, text, note)) return;
+  if (!ofTheme) {
+    form.Command2->SetBackColor(*color);
+    return;
+  }
+  const auto note = writeColor(form, WriteStep, name, text);
+  if (!note) return;
   form.Command2->SetBackColor(*color);
-  if (!ofTheme) return;
   setRowsLike(state, name, text);
-  TellKeptInWorkingCopy(form, note);
+  TellKeptInWorkingCopy(form, *note);
 }
 
 void Command3_Click(Form2& form) {
-  const QString step = QStringLiteral("Error while adding colors");
+  const QStringView step = u"Error while adding colors";
   const QString name =
       form.Services.Dialogs.InputBox(&form, QStringLiteral("Name of the New Color:"), QStringLiteral("New Color"));
   if (name.isEmpty()) return;
@@ -167,17 +160,19 @@ void Command3_Click(Form2& form) {
   const QString replaced = row == state.ThemeColors.end() ? QString() : row->Value;
   if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
   if (row == state.ThemeColors.end()) {
-    form.Services.Status.ShowStatus(platform::ReportText(step, QString()));
+    form.Services.Status.ShowStatus(platform::ReportText(step.toString(), QString()));
     return;
   }
-  QString note;
-  if (!written(form, step, name, newColor(), note)) return;
+  const auto note = writeColor(form, step, name, newColor());
+  if (!note) return;
   if (row->Name.isEmpty()) row->Name = name;
   setRowsLike(state, name, newColor());
   form.Combo3->AddItem(row->Name);
   form.Combo3->SetListIndex(entryLike(form, name));
-  if (!replaced.isEmpty()) note += QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced);
-  TellKeptInWorkingCopy(form, note);
+  QStringList notes{*note};
+  if (!replaced.isEmpty()) notes += QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced);
+  notes.removeAll(QString());
+  TellKeptInWorkingCopy(form, notes.join(QStringLiteral("; ")));
 }
 
 void Command5_Click(Form2& form) {
@@ -188,14 +183,14 @@ void Command5_Click(Form2& form) {
       QStringLiteral("Delete Color"), platform::BoxKind::YesNoDefaultNo);
   if (answer != platform::BoxAnswer::Yes) return;
   themefiles::ModuleState& state = form.Services.State;
-  QString note;
   if (rowNamed(state.ThemeColors, name) == state.ThemeColors.end()) return;
-  if (!written(form, writeStep(), name, std::nullopt, note)) return;
+  const auto note = writeColor(form, WriteStep, name, std::nullopt);
+  if (!note) return;
   *rowLike(state, name) = {};
   setRowsLike(state, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.Paths.ThemeFile));
   form.Combo3->RemoveItem(form.Combo3->ListIndex());
   form.Command2->SetBackColor(platform::ColorOf(platform::ButtonFaceColor));
-  TellKeptInWorkingCopy(form, note);
+  TellKeptInWorkingCopy(form, *note);
 }
 
 }  // namespace toolwindow

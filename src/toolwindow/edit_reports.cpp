@@ -1,7 +1,9 @@
 #include "toolwindow/edit_reports.h"
 
 #include "platform/code_page.h"
+#include "platform/failure.h"
 #include "platform/numbers.h"
+#include "themefiles/working_copies.h"
 #include "toolwindow/tool_window.h"
 
 namespace toolwindow {
@@ -17,6 +19,14 @@ bool usableName(const QString& name) {
 }
 
 }  // namespace
+
+std::optional<QString> WriteAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy,
+                                   const QString& section, const QString& key, const std::optional<QString>& value) {
+  std::optional<QString> note;
+  platform::Guarded(form.Services.Status, step.toString(),
+                    [&] { note = themefiles::PutInCopy(form.Services.State, copy, section, key, value); });
+  return note;
+}
 
 void TellKeptInWorkingCopy(Form2& form, const QString& note) {
   const QString kept = QStringLiteral("Kept in the working copy; the next Update makes Save available");

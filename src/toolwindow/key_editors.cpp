@@ -5,7 +5,6 @@
 #include "platform/code_page.h"
 #include "platform/paths.h"
 #include "themefiles/ini_access.h"
-#include "themefiles/working_copies.h"
 #include "toolwindow/edit_reports.h"
 #include "toolwindow/tool_window.h"
 
@@ -52,12 +51,9 @@ void fill(Form2& form, KeyEditor which, const QString& value) {
   if (entry >= 0) editor.list.SetListIndex(entry);
 }
 
-/// Runs a write, with a note of what came of it besides; one that did not reach the file is reported.
-bool written(Form2& form, const Editor& editor, const QString& key, const std::optional<QString>& value,
-             QString& note) {
-  return platform::Guarded(form.Services.Status, QStringLiteral("Error while writing tempfile"), [&] {
-    note = themefiles::PutInCopy(form.Services.State, editor.copy, editor.section, key, value);
-  });
+std::optional<QString> writeKey(Form2& form, const Editor& editor, const QString& key,
+                                const std::optional<QString>& value) {
+  return WriteAtOnce(form, WriteStep, editor.copy, editor.section, key, value);
 }
 
 bool listed(const Editor& editor, const QString& key) {
@@ -98,11 +94,11 @@ void AddKey_Click(Form2& form, KeyEditor which) {
     ShowErrorBox(form, QStringLiteral("Key already exist!"));
     return;
   }
-  QString note;
-  if (!written(form, editor, name, QString(), note)) return;
+  const auto note = writeKey(form, editor, name, QString());
+  if (!note) return;
   editor.list.AddItem(name);
   editor.list.SetListIndex(editor.list.ListCount() - 1);
-  TellKeptInWorkingCopy(form, note);
+  TellKeptInWorkingCopy(form, *note);
 }
 
 void RemoveKey_Click(Form2& form, KeyEditor which) {
@@ -113,12 +109,12 @@ void RemoveKey_Click(Form2& form, KeyEditor which) {
       form.Services.Dialogs.MessageBox(&form, QStringLiteral("Really delete this Key?") + QStringLiteral("\n\n") + key,
                                        QStringLiteral("Delete Key"), platform::BoxKind::YesNoDefaultNo);
   if (answer != platform::BoxAnswer::Yes) return;
-  QString note;
-  if (!written(form, editor, key, std::nullopt, note)) return;
+  const auto note = writeKey(form, editor, key, std::nullopt);
+  if (!note) return;
   editor.list.RemoveItem(editor.list.ListIndex());
   editor.list.SetListIndex(-1);
   editor.box.SetText(QString());
-  TellKeptInWorkingCopy(form, note);
+  TellKeptInWorkingCopy(form, *note);
 }
 
 void Command4_Click(Form2& form) {

@@ -4,6 +4,7 @@
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/working_copies.h"
+#include "toolwindow/edit_reports.h"
 #include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"
 
@@ -106,7 +107,7 @@ void writeEditor(Form2& form, Commit& commit, KeyGroup group) {
 
 void Command1_Click(Form2& form) {
   ToolServices& services = form.Services;
-  platform::Guarded(services.Status, QStringLiteral("Error while writing tempfile"), [&] {
+  platform::Guarded(services.Status, WriteStep.toString(), [&] {
     Commit commit = commitOf(form);
     const auto group = GroupOf(commit.key);
     if (group) writeEditor(form, commit, *group);
