@@ -1,6 +1,7 @@
 #include "mainwindows/main_events.h"
 
 #include <array>
+#include <functional>
 
 #include <QApplication>
 #include <QDialog>
@@ -54,17 +55,28 @@ void end(Form1& form) {
   if (dialog != nullptr) dialog->reject();
 }
 
+void onShortcut(Form1& form, const QKeySequence& keys, const std::function<void()>& act) {
+  auto* shortcut = new QShortcut(keys, &form);
+  shortcut->setContext(Qt::ApplicationShortcut);
+  QObject::connect(shortcut, &QShortcut::activated, &form, act);
+}
+
 void connectToolBar(Form1& form) {
   QObject::connect(form.ToolBar, &toolbar::McToolBar::Click, &form, [&form](int button) { run(form, button); });
   for (size_t i = 0; i < Commands.size(); ++i) {
     if (Commands.at(i).shortcut.isEmpty()) continue;
     const int button = static_cast<int>(i) + 1;
-    auto* shortcut = new QShortcut(QKeySequence(Commands.at(i).shortcut.toString()), &form);
-    shortcut->setContext(Qt::ApplicationShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, &form, [&form, button] {
+    onShortcut(form, QKeySequence(Commands.at(i).shortcut.toString()), [&form, button] {
       if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) run(form, button);
     });
   }
+}
+
+/// The keyboard's way from one window to the other.
+void goToOtherWindow(Form1& form) {
+  QWidget* other = form.ToolWindow != nullptr && form.isActiveWindow() ? form.ToolWindow : static_cast<QWidget*>(&form);
+  other->activateWindow();
+  other->raise();
 }
 
 }  // namespace
@@ -76,6 +88,7 @@ void ConnectEvents(Form1& form) {
       },
       [&form] { form.DrawScreen(); });
   connectToolBar(form);
+  onShortcut(form, QKeySequence(Qt::Key_F6), [&form] { goToOtherWindow(form); });
   QObject::connect(&form, &Form1::CloseAsked, &form, [&form] { end(form); });
   QObject::connect(form.Combo1, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
     if (cause == controls::Cause::User) form.Queue.Draw();

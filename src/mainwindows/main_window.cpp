@@ -93,10 +93,18 @@ void Form1::placeControls() {
     hidden->hide();
     hidden->raise();
   }
-  const std::pair<QWidget*, const char*> names[] = {{Workspace, "Workspace"}, {ToolBar, "ToolBar"},
-                                                    {StatusBar, "StatusBar"}, {Combo1, "Combo1"},
-                                                    {Combo2, "Combo2"},       {ProgressBar1, "ProgressBar1"}};
-  for (const auto& [control, name] : names) control->setObjectName(QLatin1StringView(name));
+  const struct {
+    QWidget* control;
+    const char* name;
+    const char* spoken;  // what a screen reader calls it
+  } names[] = {{Workspace, "Workspace", "Preview"},   {ToolBar, "ToolBar", "Commands"},
+               {StatusBar, "StatusBar", "Status"},    {Combo1, "Combo1", "Color scheme"},
+               {Combo2, "Combo2", "Selected button"}, {ProgressBar1, "ProgressBar1", "Progress of the drawing"}};
+  for (const auto& [control, name, spoken] : names) {
+    control->setObjectName(QLatin1StringView(name));
+    control->setAccessibleName(QLatin1StringView(spoken));
+  }
+  setTabOrder(Combo2, Combo1);  // from left to right
   centreOnScreen();
 }
 

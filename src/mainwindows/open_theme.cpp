@@ -39,6 +39,9 @@ Form3::Form3(themefiles::ThemePaths folders, const QStringList& themes,
   label(QStringLiteral("Name:"), 120, 2880, 615);
   label(QStringLiteral("Creator:"), 120, 3120, 615);
   label(QStringLiteral("Choose your Skin:"), 2760, 120, 2415);
+  List1->setAccessibleName(QStringLiteral("Theme"));
+  List2->setAccessibleName(QStringLiteral("Skin"));
+  Combo1->setAccessibleName(QStringLiteral("Language"));
   label(QStringLiteral("Name:"), 2760, 2880, 615);
   label(QStringLiteral("Autor:"), 2760, 3120, 615);
   controls::Place(*List1, {120, 360, 2415, 2400});

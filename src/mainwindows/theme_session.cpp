@@ -122,6 +122,7 @@ void ReadTheme(Form1& form) {
     for (QWidget* control : std::initializer_list<QWidget*>{tools.Combo1, tools.List1, tools.ListView1}) {
       control->setEnabled(true);
     }
+    tools.activateWindow();
     tools.Combo1->setFocus();
     tools.Combo1->SetListIndex(0);
   });

@@ -75,38 +75,42 @@ Form2::Form2(ToolServices services, QWidget* owner)
       Tags(*List1) {
   using TL = ToolLayout;
   placed_ = {
-      {Combo1, &TL::Combo1, "Combo1"},
-      {List1, &TL::List1, "List1"},
-      {ListView1, &TL::ListView1, "ListView1"},
+      {Combo1, &TL::Combo1, "Combo1", "Screen"},
+      {List1, &TL::List1, "List1", "Objects of the screen"},
+      {ListView1, &TL::ListView1, "ListView1", "Keys of the object"},
       {Frame1, &TL::Frame1, "Frame1"},
       {Command1, &TL::Command1, "Command1"},
       {Numbers, &TL::Numbers, "Numbers"},
-      {Text1, &TL::Text1, "Text1"},
-      {VScroll1, &TL::VScroll1, "VScroll1"},
+      {Text1, &TL::Text1, "Text1", "Number"},
+      {VScroll1, &TL::VScroll1, "VScroll1", "Raise or lower the number"},
       {FloatNumbers, &TL::FloatNumbers, "FloatNumbers"},
-      {Text4, &TL::Text4, "Text4"},
+      {Text4, &TL::Text4, "Text4", "Number with a fraction"},
       {Selection, &TL::Selection, "Selection"},
-      {Combo2, &TL::Combo2, "Combo2"},
+      {Combo2, &TL::Combo2, "Combo2", "Value"},
       {Color, &TL::Color, "Color"},
-      {Combo4, &TL::Combo4, "Combo4"},
-      {Command3, &TL::Command3, "Command3"},
-      {Command5, &TL::Command5, "Command5"},
-      {Combo3, &TL::Combo3, "Combo3"},
-      {Command2, &TL::Command2, "Command2"},
+      {Combo4, &TL::Combo4, "Combo4", "Group of colors"},
+      {Command3, &TL::Command3, "Command3", "Add a new Color"},
+      {Command5, &TL::Command5, "Command5", "Remove Color"},
+      {Combo3, &TL::Combo3, "Combo3", "Color"},
+      {Command2, &TL::Command2, "Command2", "Change Color"},
       {Texture, &TL::Texture, "Texture"},
-      {Combo6, &TL::Combo6, "Combo6"},
-      {Command8, &TL::Command8, "Command8"},
-      {Command9, &TL::Command9, "Command9"},
-      {Text3, &TL::Text3, "Text3"},
-      {Command4, &TL::Command4, "Command4"},
+      {Combo6, &TL::Combo6, "Combo6", "Texture key"},
+      {Command8, &TL::Command8, "Command8", "Add New Key"},
+      {Command9, &TL::Command9, "Command9", "Remove Key"},
+      {Text3, &TL::Text3, "Text3", "Image file"},
+      {Command4, &TL::Command4, "Command4", "Change Filename"},
       {Texts, &TL::Texts, "Texts"},
-      {Combo5, &TL::Combo5, "Combo5"},
-      {Command6, &TL::Command6, "Command6"},
-      {Command7, &TL::Command7, "Command7"},
-      {Text2, &TL::Text2, "Text2"},
+      {Combo5, &TL::Combo5, "Combo5", "Text key"},
+      {Command6, &TL::Command6, "Command6", "Add New Key"},
+      {Command7, &TL::Command7, "Command7", "Remove Key"},
+      {Text2, &TL::Text2, "Text2", "Words"},
   };
   setObjectName(QStringLiteral("Form2"));
-  for (const PlacedControl& control : placed_) control.widget->setObjectName(QLatin1StringView(control.name));
+  for (const PlacedControl& control : placed_) {
+    control.widget->setObjectName(QLatin1StringView(control.name));
+    control.widget->setAccessibleName(QLatin1StringView(control.spoken));
+  }
+  setTabOrder(Text2, Command1);  // Update behind every editor
   setWindowTitle(QStringLiteral("Tool"));
   setAttribute(Qt::WA_MacAlwaysShowToolWindow);
   ListView1->SetColumns({QStringLiteral("Item"), QStringLiteral("Value")},

@@ -124,6 +124,7 @@ class Form2 : public QWidget {
     QWidget* widget;
     controls::TwipsRect ToolLayout::*place;
     const char* name;
+    const char* spoken = "";  ///< what a screen reader calls a control that shows no name of its own
   };
 
   QPushButton* iconButton(QWidget* frame, const QString& icon, const QString& toolTip);
