@@ -12,6 +12,7 @@ int main(int argc, char** argv) {
   QApplication::setDesktopSettingsAware(false);
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Cantorama Theme Edit"));
+  QApplication::setDesktopFileName(QStringLiteral("cantorama-theme-edit"));
   controls::ApplyLook(application);
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;

@@ -27,6 +27,11 @@ bool isSystemFolder(const QString& folder) {
                      [&](QStringView head) { return native.startsWith(head, Qt::CaseInsensitive); });
 }
 
+/// An installed program shares its folder with others, wherever it was installed: its data lies beside that folder.
+bool isInstalled(const QString& programFolder) {
+  return QDir(programFolder + QStringLiteral("/../share/cantorama-theme-edit")).exists();
+}
+
 /// A folder's path as UTF-8 bytes, each byte one letter of the code page.
 QString asBytes(const QString& folder) {
   return platform::FromAnsi(folder.toUtf8());
@@ -68,7 +73,9 @@ void ConfigFile::SetGameFolder(const QString& folder) const {
 }
 
 QStringList ConfigFolders() {
-  QStringList folders{platform::ProgramPath(QCoreApplication::applicationDirPath())};
+  QStringList folders;
+  const QString program = QCoreApplication::applicationDirPath();
+  if (!isInstalled(program)) folders += platform::ProgramPath(program);
   const QString user = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
   if (QDir().mkpath(user)) folders += platform::ProgramPath(user);
   return folders;

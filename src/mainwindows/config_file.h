@@ -29,7 +29,7 @@ class ConfigFile {
   QString problem_;
 };
 
-/// The program's folder, then the user's configuration folder.
+/// The program's folder, unless the program is installed, then the user's configuration folder.
 QStringList ConfigFolders();
 
 }  // namespace mainwindows

@@ -27,14 +27,17 @@ int main(int argc, char* argv[]) {
   QCoreApplication application(argc, argv);
   QStringList arguments = application.arguments().mid(1);
   const bool assets = arguments.removeAll(QStringLiteral("--assets")) > 0;
+  const bool icons = arguments.removeAll(QStringLiteral("--icons")) > 0;
   if (arguments.size() != 1) {
-    std::fputs("usage: make_sample OUTPUT_FOLDER\n       make_sample --assets FOLDER\n", stderr);
+    std::fputs("usage: make_sample [--assets | --icons] OUTPUT_FOLDER\n", stderr);
     return 2;
   }
   try {
     const sample::Output output(arguments.front());
     if (assets) {
       sample::writeAssets(output);
+    } else if (icons) {
+      sample::writeProgramIcons(output);
     } else {
       writeGame(output);
     }

@@ -7,6 +7,9 @@ namespace sample {
 /// The editor's own pictures: the start picture, the program's icon and the icons of the buttons.
 void writeAssets(const Output& output);
 
+/// The program's icon in the sizes that desktops look for, each named by its width.
+void writeProgramIcons(const Output& output);
+
 void writeIcons(const Output& output);
 
 QImage startPicture();

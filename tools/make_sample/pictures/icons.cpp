@@ -79,8 +79,8 @@ QImage iconImage(const Icon& icon) {
 }
 
 /// A microphone before a stage, on a round tile.
-QImage programIcon() {
-  Canvas canvas(64, 64);
+QImage programIcon(int pixels) {
+  Canvas canvas(pixels, pixels, 64, 64);
   canvas.fill(roundBox(QRectF(2, 2, 60, 60), 13),
               [](double, double y) { return mix(rgb(0x5a3ca8), rgb(0xe0705c), y / 64); });
   canvas.fill(area({{12, 2}, {26, 2}, {50, 62}, {22, 62}}), rgb(0xffe0a8, 0.28), 2);
@@ -103,7 +103,13 @@ QImage programIcon() {
 
 void writeIcons(const Output& output) {
   for (const Icon& icon : Icons) output.writePicture(icon.file, iconImage(icon));
-  output.writePicture("app.png", programIcon());
+  output.writePicture("app.png", programIcon(64));
+}
+
+void writeProgramIcons(const Output& output) {
+  for (const int pixels : {16, 32, 48, 64, 128, 256}) {
+    output.writePicture(std::to_string(pixels) + ".png", programIcon(pixels));
+  }
 }
 
 void writeAssets(const Output& output) {
