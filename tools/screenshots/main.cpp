@@ -15,7 +15,7 @@
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   const QStringList arguments = QApplication::arguments();
-  if (arguments.size() != 3 || !QDir().mkpath(arguments[2])) {
+  if (arguments.size() != 3 || !QDir().mkpath(arguments[2]) || !QDir(arguments[1]).exists()) {
     std::fputs("usage: cantorama-screenshots GAME_FOLDER OUTPUT_FOLDER\n", stderr);
     return 2;
   }
@@ -25,10 +25,12 @@ int main(int argc, char** argv) {
   controls::NativeDialogs dialogs;
   platform::Graphics graphics;
   mainwindows::Form1 form({state, dialogs, graphics, {platform::ProgramPath(configFolder.path())}});
-  form.Config.SetGameFolder(platform::ProgramPath(QDir(arguments[1]).absolutePath() + u'/'));
   mainwindows::ConnectEvents(form);
   try {
-    screenshots::Session(form, arguments[2]).Run();
+    const QString output = QDir(arguments[2]).absolutePath();
+    // The dialog for the game's program file opens there.
+    QDir::setCurrent(arguments[1]);
+    screenshots::Session(form, output).Run();
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "cantorama-screenshots: %s\n", failure.what());
     return 2;

@@ -3,6 +3,7 @@
 #include <array>
 
 #include <QApplication>
+#include <QDir>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -123,7 +124,9 @@ void Session::Run() {
 
 void Session::openTheme() {
   const auto open = [](QDialog& dialog) { dynamic_cast<mainwindows::Form3&>(dialog).Command1->click(); };
-  dialogs_.Run({{QStringLiteral("open-theme"), open}}, [this] { Q_EMIT form_.ToolBar->Click(OpenButton); });
+  dialogs_.Run({{QStringLiteral("box-game-folder"), choosing(QDir::current().filePath(QStringLiteral("Vocora.exe")))},
+                {QStringLiteral("open-theme"), open}},
+               [this] { Q_EMIT form_.ToolBar->Click(OpenButton); });
   if (form_.ToolWindow == nullptr) throw platform::Failure(QStringLiteral("no theme was opened"));
 }
 
