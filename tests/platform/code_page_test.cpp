@@ -3,6 +3,7 @@
 #include <QTest>
 
 using namespace platform;
+using namespace Qt::StringLiterals;
 
 class CodePageTest : public QObject {
   Q_OBJECT
@@ -17,42 +18,26 @@ class CodePageTest : public QObject {
       // The capital of a byte and the capital of its letter are the same one.
       QCOMPARE(ToAnsi(UpperCase(letter)), QByteArray(1, UpperCaseByte(byte[0])));
     }
-  }
-
-  void lettersOfTheCodePage() {
-    QCOMPARE(FromAnsi("\x80\x8A\x9F\xE4\x81"), QStringLiteral(u"\u20AC\u0160\u0178\u00E4\u0081"));
-    QVERIFY(!ToAnsi(QStringLiteral(u"a\u0151")));
-    QVERIFY(!ToAnsi(QStringLiteral(u"\u0394")));
-    // A letter outside whose low byte is a letter inside.
-    QVERIFY(!ToAnsi(QStringLiteral(u"\u0141")));
-  }
-
-  void capitals_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("capitals");
-    QTest::newRow("division sign") << QStringLiteral(u"\u00F7\u00D7") << QStringLiteral(u"\u00F7\u00D7");
-    QTest::newRow("no capital of one letter")
-        << QStringLiteral(u"\u00DF\u00B5\u0192") << QStringLiteral(u"\u00DF\u00B5\u0192");
-    QTest::newRow("capital elsewhere") << QStringLiteral(u"\u00FF\u0161\u0153\u017E")
-                                       << QStringLiteral(u"\u0178\u0160\u0152\u017D");
-    QTest::newRow("outside the code page")
-        << QStringLiteral(u"\u0151\u03B1\u0131") << QStringLiteral(u"\u0151\u03B1\u0131");
+    QCOMPARE(FromAnsi("\x80\x8A\x9F\xE4\x81"), u"\u20AC\u0160\u0178\u00E4\u0081"_s);
+    // The last one's low byte is a letter inside.
+    for (const QString& outside : {u"a\u0151"_s, u"\u0394"_s, u"\u0141"_s}) QVERIFY(!ToAnsi(outside));
   }
 
   void capitals() {
-    QFETCH(QString, text);
-    QFETCH(QString, capitals);
+    // Signs, letters without one capital, letters whose capital lies elsewhere, letters outside the code page.
+    const QString text = u"\u00F7\u00D7 \u00DF\u00B5\u0192 \u00FF\u0161\u0153\u017E \u0151\u03B1\u0131"_s;
+    const QString capitals = u"\u00F7\u00D7 \u00DF\u00B5\u0192 \u0178\u0160\u0152\u017D \u0151\u03B1\u0131"_s;
     QCOMPARE(UpperCase(text), capitals);
     QVERIFY(SameName(text, capitals));
+    QVERIFY(!SameName(u"song"_s, u"songs"_s));
   }
 
   void order() {
     // "_" stands behind the capitals and before the small letters.
-    QVERIFY(NameLess(QStringLiteral("az"), QStringLiteral("a_")));
-    QVERIFY(NameLess(QStringLiteral("Button10"), QStringLiteral("button9")));
-    QVERIFY(NameLess(QStringLiteral("song"), QStringLiteral("SongText")));
-    QVERIFY(!NameLess(QStringLiteral("SONG"), QStringLiteral("song")));
-    QVERIFY(!SameName(QStringLiteral("song"), QStringLiteral("songs")));
+    QVERIFY(NameLess(u"az"_s, u"a_"_s));
+    QVERIFY(NameLess(u"Button10"_s, u"button9"_s));
+    QVERIFY(NameLess(u"song"_s, u"SongText"_s));
+    QVERIFY(!NameLess(u"SONG"_s, u"song"_s));
   }
 };
 

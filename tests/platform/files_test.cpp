@@ -2,159 +2,108 @@
 
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/stat.h>
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include <QScopeGuard>
 #include <QTest>
 
 #include "platform/failure.h"
+#include "support/folder.h"
 
 using namespace platform;
-
-namespace {
-
-/// While it lives, no file can grow beyond the limit: a write past it fails as on a full disk.
-class SmallDisk {
- public:
-  explicit SmallDisk(rlim_t limit) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit small{limit, before_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-  }
-  ~SmallDisk() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-  Q_DISABLE_COPY_MOVE(SmallDisk)
-
- private:
-  void (*handler_)(int);
-  rlimit before_;
-};
-
-mode_t modeOf(const QString& path) {
-  struct stat status {};
-  stat(QFile::encodeName(path).constData(), &status);
-  return status.st_mode & 07777;
-}
-
-}  // namespace
+using namespace Qt::StringLiterals;
 
 class FilesTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void init() { folder_ = std::make_unique<QTemporaryDir>(); }
-
-  void readsWhatWasWritten_data() {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("with NUL") << QByteArray("a\0\r\nb", 5);
-    QTest::newRow("large") << QByteArray(5'000'000, 'x');
-  }
+  void init() { folder_ = std::make_unique<support::Folder>(); }
 
   void readsWhatWasWritten() {
-    QFETCH(QByteArray, bytes);
-    WriteFile(at("a.ini"), QByteArray(100, 'o'));
-    WriteFile(at("a.ini"), bytes);
-    QCOMPARE(ReadFile(at("A.INI")), bytes);
-    QCOMPARE(entries(), QStringList{QStringLiteral("a.ini")});
-  }
-
-  void readsFilesWithoutSize() {
+    for (const QByteArray& bytes : {QByteArray(5'000'000, 'x'), QByteArray("a\0\r\nb", 5), QByteArray()}) {
+      WriteFile(at(u"a.ini"_s), bytes);
+      QCOMPARE(ReadFile(at(u"A.INI"_s)), bytes);
+      QCOMPARE(entries(), QStringList{u"a.ini"_s});
+    }
     // Some files tell no size before they are read.
-    QVERIFY(ReadFile(QStringLiteral("\\proc\\self\\maps")).size() > 4096);
+    QVERIFY(ReadFile(u"\\proc\\self\\maps"_s).size() > 4096);
   }
 
   void keepsModeAndLink() {
-    WriteFile(at("real.ini"), "old");
-    QVERIFY(chmod(QFile::encodeName(native("real.ini")).constData(), 0660) == 0);
-    QVERIFY(QFile::link(QStringLiteral("real.ini"), native("link.ini")));
-    WriteFile(at("link.ini"), "new");
-    QVERIFY(QFileInfo(native("link.ini")).isSymbolicLink());
-    QCOMPARE(ReadFile(at("real.ini")), QByteArray("new"));
-    QCOMPARE(modeOf(native("real.ini")), mode_t(0660));
-  }
-
-  void copyIsWritable() {
-    WriteFile(at("game.ini"), "text");
-    QVERIFY(chmod(QFile::encodeName(native("game.ini")).constData(), 0444) == 0);
-    CopyFile(at("game.ini"), at("game.ini.tmp"));
-    QCOMPARE(ReadFile(at("game.ini.tmp")), QByteArray("text"));
-    QVERIFY(modeOf(native("game.ini.tmp")) & S_IWUSR);
-  }
-
-  void refusedWrites_data() {
-    QTest::addColumn<QString>("target");
-    QTest::newRow("write-protected") << QStringLiteral("protected.ini");
-    QTest::newRow("through a link") << QStringLiteral("link.ini");
-    QTest::newRow("missing folder") << QStringLiteral("none\\a.ini");
-    QTest::newRow("a folder") << QStringLiteral("sub");
-    QTest::newRow("below a file") << QStringLiteral("protected.ini\\a.ini");
+    folder_->put(u"real.ini"_s, "old");
+    const QString real = folder_->native(u"real.ini"_s);
+    QFile::setPermissions(real, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup);
+    const auto mode = QFile::permissions(real);
+    QFile::link(u"real.ini"_s, folder_->native(u"link.ini"_s));
+    WriteFile(at(u"link.ini"_s), "new");
+    QVERIFY(QFileInfo(folder_->native(u"link.ini"_s)).isSymbolicLink());
+    QCOMPARE(folder_->get(u"real.ini"_s), QByteArray("new"));
+    QCOMPARE(QFile::permissions(real), mode);
   }
 
   void refusedWrites() {
-    QFETCH(QString, target);
-    WriteFile(at("protected.ini"), "old");
-    QVERIFY(chmod(QFile::encodeName(native("protected.ini")).constData(), 0444) == 0);
-    QVERIFY(QFile::link(QStringLiteral("protected.ini"), native("link.ini")));
-    QDir(folder_->path()).mkdir(QStringLiteral("sub"));
+    folder_->put(u"protected.ini"_s, "old");
+    folder_->protect(u"protected.ini"_s);
+    QFile::link(u"protected.ini"_s, folder_->native(u"link.ini"_s));
+    QDir(folder_->native({})).mkdir(u"sub"_s);
     const QStringList before = entries();
-    QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(folder_->path() + u'\\' + target, "new"));
-    QCOMPARE(ReadFile(at("protected.ini")), QByteArray("old"));
-    QCOMPARE(entries(), before);
+    for (const QString& target :
+         {u"protected.ini"_s, u"link.ini"_s, u"none\\a.ini"_s, u"sub"_s, u"protected.ini\\a.ini"_s}) {
+      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(target), "new"));
+      QCOMPARE(folder_->get(u"protected.ini"_s), QByteArray("old"));
+      QCOMPARE(entries(), before);
+    }
   }
 
   void fullDiskKeepsTheOldFile() {
-    WriteFile(at("a.ini"), "old");
-    {
-      const SmallDisk disk(10'000);
-      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at("a.ini"), QByteArray(20'000, 'x')));
-      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at("b.ini"), QByteArray(20'000, 'x')));
+    folder_->put(u"a.ini"_s, "old");
+    // A write beyond the limit of a file's size fails as on a full disk.
+    rlimit whole;
+    getrlimit(RLIMIT_FSIZE, &whole);
+    const auto restore = qScopeGuard([&] { setrlimit(RLIMIT_FSIZE, &whole); });
+    const rlimit small{10'000, whole.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    std::signal(SIGXFSZ, SIG_IGN);
+    for (const QString& name : {u"a.ini"_s, u"b.ini"_s}) {
+      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(name), QByteArray(20'000, 'x')));
     }
-    QCOMPARE(ReadFile(at("a.ini")), QByteArray("old"));
-    QCOMPARE(entries(), QStringList{QStringLiteral("a.ini")});
+    QCOMPARE(folder_->get(u"a.ini"_s), QByteArray("old"));
+    QCOMPARE(entries(), QStringList{u"a.ini"_s});
   }
 
   void failureNamesTheFile() {
+    QVERIFY_THROWS_EXCEPTION(Failure, ReadFile(folder_->path({})));
     try {
-      ReadFile(at("Missing.ini"));
+      ReadFile(at(u"Missing.ini"_s));
       QFAIL("a missing file was read");
     } catch (const Failure& failure) {
-      QVERIFY(failure.description().startsWith(QStringLiteral("Missing.ini: ")));
+      QVERIFY(failure.description().startsWith(u"Missing.ini: "_s));
     }
-    QVERIFY_THROWS_EXCEPTION(Failure, ReadFile(folder_->path()));
-    QVERIFY(!FileExists(at("Missing.ini")));
   }
 
   void foldersAndTheirFiles() {
-    QVERIFY(!FolderHoldsFiles(at("")));
-    QDir(folder_->path()).mkdir(QStringLiteral("sub.ini"));
-    QVERIFY(!FolderHoldsFiles(at("")));
-    for (const char* name : {"b.ini", "B.INI", "_.ini", "a.Ini", "c.ini.tmp", "ini"}) {
-      QVERIFY(QFile(native(name)).open(QIODevice::WriteOnly));
+    QVERIFY(!FolderHoldsFiles(at({})));
+    QDir(folder_->native({})).mkdir(u"sub.ini"_s);
+    QVERIFY(!FolderHoldsFiles(at({})));
+    for (const QString& name : {u"b.ini"_s, u"B.INI"_s, u"_.ini"_s, u"a.Ini"_s, u"c.ini.tmp"_s, u"ini"_s}) {
+      folder_->put(name, {});
     }
-    QVERIFY(FolderHoldsFiles(at("")));
-    QVERIFY(!FolderHoldsFiles(folder_->path()));
-    QVERIFY(!FolderHoldsFiles(at("none\\")));
-    QVERIFY(FileExists(at("C.INI.TMP")));
-    QVERIFY(!FileExists(at("sub.ini")));
-    const QStringList names = {QStringLiteral("a.Ini"), QStringLiteral("B.INI"), QStringLiteral("b.ini"),
-                               QStringLiteral("_.ini")};
-    QCOMPARE(ListFiles(at(""), QStringLiteral(".ini")), names);
-    QCOMPARE(ListFiles(at("none"), QStringLiteral(".ini")), QStringList());
+    QVERIFY(FolderHoldsFiles(at({})));
+    QVERIFY(!FolderHoldsFiles(at({}).chopped(1)));
+    QVERIFY(!FolderHoldsFiles(at(u"none\\"_s)));
+    QVERIFY(FileExists(at(u"C.INI.TMP"_s)));
+    QVERIFY(!FileExists(at(u"sub.ini"_s)));
+    QCOMPARE(ListFiles(at({}), u".ini"_s), (QStringList{u"a.Ini"_s, u"B.INI"_s, u"b.ini"_s, u"_.ini"_s}));
+    QCOMPARE(ListFiles(at(u"none"_s), u".ini"_s), QStringList());
   }
 
  private:
-  QString at(const char* name) const { return folder_->path() + u'\\' + QString::fromLatin1(name); }
-  QString native(const char* name) const { return folder_->filePath(QString::fromLatin1(name)); }
+  QString at(const QString& name) const { return folder_->path(u"."_s).chopped(1) + name; }
   QStringList entries() const {
-    return QDir(folder_->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return QDir(folder_->native({})).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
   }
 
-  std::unique_ptr<QTemporaryDir> folder_;
+  std::unique_ptr<support::Folder> folder_;
 };
 
 QTEST_APPLESS_MAIN(FilesTest)

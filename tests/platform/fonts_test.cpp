@@ -11,8 +11,7 @@ class FontsTest : public QObject {
  private Q_SLOTS:
   void facesOfTheTexts() {
     const struct {
-      const char* face;
-      const char* family;
+      const char *face, *family;
       bool black;
     } rows[] = {
         {"Eurostar Regular Extended", "DejaVu Sans", false},

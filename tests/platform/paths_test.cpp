@@ -1,70 +1,62 @@
 #include "platform/paths.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
+#include <QScopeGuard>
 #include <QTest>
 
+#include "support/folder.h"
+
 using namespace platform;
+using namespace Qt::StringLiterals;
 
 class PathsTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void init() {
-    folder_ = std::make_unique<QTemporaryDir>();
-    for (const char* path :
-         {"Themes/Blue.INI", "Themes/skins/a.png", "Twins/CASE.ini", "Twins/Case.ini", "Twins/case.txt"}) {
-      const QString file = folder_->filePath(QString::fromLatin1(path));
-      QDir().mkpath(QFileInfo(file).path());
-      QVERIFY(QFile(file).open(QIODevice::WriteOnly));
+  void initTestCase() {
+    for (const QString& sub : {u"Themes/skins"_s, u"Twins"_s}) QDir().mkpath(folder_.native(sub));
+    for (const QString& file : {u"Themes/Blue.INI"_s, u"Themes/skins/a.png"_s, u"Twins/CASE.ini"_s, u"Twins/Case.ini"_s,
+                                u"Twins/case.txt"_s}) {
+      folder_.put(file, {});
     }
   }
 
-  void mapping_data() {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("native");
-    const auto row = [](const char* path, const char* native) {
-      QTest::newRow(path) << QString::fromLatin1(path) << QString::fromLatin1(native);
-    };
-    row("\\Themes\\Blue.INI", "/Themes/Blue.INI");
-    row("\\\\Themes\\/\\skins\\\\", "/Themes/skins/");
-    row("\\themes\\blue.ini", "/Themes/Blue.INI");
-    row("\\THEMES\\SKINS\\A.PNG", "/Themes/skins/a.png");
-    row("\\themes\\New.ini", "/Themes/New.ini");
-    row("\\Nowhere\\Themes\\blue.ini", "/Nowhere/Themes/blue.ini");
-    row("\\Themes\\..\\themes\\blue.ini", "/Themes/../Themes/Blue.INI");
-    // The exact name first, else the first in byte order.
-    row("\\twins\\Case.ini", "/Twins/Case.ini");
-    row("\\twins\\cAsE.ini", "/Twins/CASE.ini");
-    row("\\twins\\CASE.TXT", "/Twins/case.txt");
-  }
-
   void mapping() {
-    QFETCH(QString, path);
-    QFETCH(QString, native);
-    QCOMPARE(NativePath(ProgramPath(folder_->path()) + path), folder_->path() + native);
-  }
-
-  void relativePath() {
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(folder_->path());
-    QCOMPARE(NativePath(QStringLiteral("themes\\BLUE.ini")), QStringLiteral("Themes/Blue.INI"));
-    QDir::setCurrent(before);
+    for (const auto& [path, native] : std::initializer_list<std::pair<QString, QString>>{
+             {u"\\Themes\\Blue.INI"_s, u"/Themes/Blue.INI"_s},
+             {u"\\\\Themes\\/\\skins\\\\"_s, u"/Themes/skins/"_s},
+             {u"\\themes\\blue.ini"_s, u"/Themes/Blue.INI"_s},
+             {u"\\THEMES\\SKINS\\A.PNG"_s, u"/Themes/skins/a.png"_s},
+             {u"\\themes\\New.ini"_s, u"/Themes/New.ini"_s},
+             {u"\\Nowhere\\Themes\\blue.ini"_s, u"/Nowhere/Themes/blue.ini"_s},
+             {u"\\Themes\\..\\themes\\blue.ini"_s, u"/Themes/../Themes/Blue.INI"_s},
+             // The exact name first, else the first in byte order.
+             {u"\\twins\\Case.ini"_s, u"/Twins/Case.ini"_s},
+             {u"\\twins\\cAsE.ini"_s, u"/Twins/CASE.ini"_s},
+             {u"\\twins\\CASE.TXT"_s, u"/Twins/case.txt"_s},
+         }) {
+      QCOMPARE(NativePath(ProgramPath(root_) + path), root_ + native);
+    }
+    const auto back = qScopeGuard([before = QDir::currentPath()] { QDir::setCurrent(before); });
+    QDir::setCurrent(root_);
+    QCOMPARE(NativePath(u"themes\\BLUE.ini"_s), u"Themes/Blue.INI"_s);
   }
 
   void sameFolder() {
-    const QString root = folder_->path() + u'\\';
-    QVERIFY(QFile::link(folder_->filePath(QStringLiteral("Themes")), folder_->filePath(QStringLiteral("link"))));
-    QVERIFY(SameFolder(root + QStringLiteral("Themes"), root + QStringLiteral("THEMES\\\\")));
-    QVERIFY(SameFolder(root + QStringLiteral("link"), root + QStringLiteral("Twins\\..\\Themes")));
-    QVERIFY(!SameFolder(root + QStringLiteral("Themes"), root + QStringLiteral("Twins")));
-    QVERIFY(!SameFolder(root + QStringLiteral("none"), root + QStringLiteral("none")));
-    QVERIFY(!SameFolder(root + QStringLiteral("Themes\\Blue.INI"), root + QStringLiteral("Themes\\Blue.INI")));
+    QFile::link(folder_.native(u"Themes"_s), folder_.native(u"link"_s));
+    const auto same = [this](const QString& one, const QString& other) {
+      return SameFolder(root_ + u'\\' + one, root_ + u'\\' + other);
+    };
+    QVERIFY(same(u"Themes"_s, u"THEMES\\\\"_s));
+    QVERIFY(same(u"link"_s, u"Twins\\..\\Themes"_s));
+    QVERIFY(!same(u"Themes"_s, u"Twins"_s));
+    QVERIFY(!same(u"none"_s, u"none"_s));
+    QVERIFY(!same(u"Themes\\Blue.INI"_s, u"Themes\\Blue.INI"_s));
   }
 
  private:
-  std::unique_ptr<QTemporaryDir> folder_;
+  support::Folder folder_;
+  QString root_ = folder_.native(u"."_s).chopped(2);
 };
 
 QTEST_APPLESS_MAIN(PathsTest)

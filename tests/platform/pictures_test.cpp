@@ -3,13 +3,14 @@
 #include <QBuffer>
 #include <QColorSpace>
 #include <QImageWriter>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 
-#include "platform/files.h"
+#include "support/folder.h"
+#include "support/row_name.h"
 
 using namespace platform;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -56,100 +57,90 @@ class PicturesTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void wholeAndCut_data() {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<int>("slack");  // bytes behind the last pixel that may be cut
-    QTest::newRow("png") << encoded(sample(QImage::Format_ARGB32), "png") << 0;
-    QTest::newRow("png, palette") << encoded(sample(QImage::Format_Indexed8), "png") << 0;
-    QTest::newRow("png, 16 bits a channel") << encoded(sample(QImage::Format_RGBA64), "png") << 0;
-    QTest::newRow("jpeg") << encoded(sample(QImage::Format_RGB32), "jpeg") << 0;
-    QTest::newRow("jpeg, progressive") << encoded(sample(QImage::Format_RGB32), "jpeg", true) << 0;
-    QTest::newRow("jpeg, grey") << encoded(sample(QImage::Format_Grayscale8), "jpeg") << 0;
-    QTest::newRow("bmp, 24 bits") << encoded(sample(QImage::Format_RGB32), "bmp") << 0;
-    QTest::newRow("bmp, 8 bits") << encoded(sample(QImage::Format_Indexed8), "bmp") << 0;
-    QTest::newRow("bmp, 1 bit") << encoded(sample(QImage::Format_Mono), "bmp") << 0;
-    QTest::newRow("bmp, from top down") << bmp(3, -2, 8, 0, QByteArray::fromHex("0102030004050600")) << 0;
-    QTest::newRow("bmp, runs") << bmp(6, 2, 8, 1, QByteArray::fromHex("0307000301020300 0000 0609 0001")) << 0;
-    QTest::newRow("gif, second frame cut") << Gif << 25;
-  }
-
   void wholeAndCut() {
-    QFETCH(QByteArray, file);
-    QFETCH(int, slack);
-    const QImage whole = DecodePicture(file);
-    QCOMPARE(whole.format(), QImage::Format_ARGB32);
-    QCOMPARE(DecodePicture(file), whole);
-    for (qsizetype size = 0; size < file.size(); ++size) {
-      const bool decodes = !DecodePicture(QByteArrayView(file).first(size)).isNull();
-      QVERIFY2(decodes == (size >= file.size() - slack), QByteArray::number(size));
+    const auto png = [](QImage::Format format) { return encoded(sample(format), "png"); };
+    const auto windows = [](QImage::Format format) { return encoded(sample(format), "bmp"); };
+    const struct {
+      const char* name;
+      QByteArray file;
+      int slack = 0;  // bytes behind the last pixel that may be cut
+    } rows[] = {
+        {"png", png(QImage::Format_ARGB32)},
+        {"png, palette", png(QImage::Format_Indexed8)},
+        {"png, 16 bits a channel", png(QImage::Format_RGBA64)},
+        {"jpeg", encoded(sample(QImage::Format_RGB32), "jpeg")},
+        {"jpeg, progressive", encoded(sample(QImage::Format_RGB32), "jpeg", true)},
+        {"jpeg, grey", encoded(sample(QImage::Format_Grayscale8), "jpeg")},
+        {"bmp, 24 bits", windows(QImage::Format_RGB32)},
+        {"bmp, 8 bits", windows(QImage::Format_Indexed8)},
+        {"bmp, 1 bit", windows(QImage::Format_Mono)},
+        {"bmp, from top down", bmp(3, -2, 8, 0, QByteArray::fromHex("0102030004050600"))},
+        {"bmp, runs", bmp(6, 2, 8, 1, QByteArray::fromHex("0307000301020300 0000 0609 0001"))},
+        {"gif, second frame cut", Gif, 25},
+    };
+    for (const auto& row : rows) {
+      const support::RowName name(row.name);
+      QCOMPARE(DecodePicture(row.file).format(), QImage::Format_ARGB32);
+      for (qsizetype size = 0; size < row.file.size(); ++size) {
+        const bool decodes = !DecodePicture(QByteArrayView(row.file).first(size)).isNull();
+        QVERIFY2(decodes == (size >= row.file.size() - row.slack), QByteArray::number(size));
+      }
     }
   }
 
   void pixels() {
-    const QImage png = sample(QImage::Format_ARGB32);
-    QCOMPARE(DecodePicture(encoded(png, "png")), png);
     const QImage gif = DecodePicture(Gif);
     QCOMPARE(gif.pixel(0, 0), qRgb(255, 0, 0));
     QCOMPARE(gif.pixel(1, 1), qRgb(255, 255, 255));
     const QImage down = DecodePicture(bmp(3, -2, 8, 0, QByteArray::fromHex("0102030004050600")));
     QCOMPARE(down.pixel(2, 0), qRgb(3, 3, 3));
     QCOMPARE(down.pixel(0, 1), qRgb(4, 4, 4));
-  }
-
-  void noTurningAndNoColourSpace() {
+    // No turning and no colour space; the format is told by the content.
     QImage image = sample(QImage::Format_ARGB32);
     image.setColorSpace(QColorSpace(QColorSpace::AdobeRgb));
-    QCOMPARE(DecodePicture(encoded(image, "png")), sample(QImage::Format_ARGB32));
+    const support::Folder folder;
+    folder.put(u"Picture.jpg"_s, encoded(image, "png"));
+    QCOMPARE(LoadPicture(folder.path(u"Picture.jpg"_s)), sample(QImage::Format_ARGB32));
     QByteArray jpeg = encoded(image, "jpeg");
     // Camera data that asks for a quarter turn.
     jpeg.insert(2, QByteArray::fromHex("FFE10022457869660000 4D4D002A000000080001011200030000000100060000 00000000"));
     QCOMPARE(DecodePicture(jpeg).size(), image.size());
   }
 
-  void refused_data() {
-    QTest::addColumn<QByteArray>("file");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("text") << QByteArray("[Setup]\r\nEXEDirectory=\r\n");
-    QTest::newRow("another format") << encoded(sample(QImage::Format_RGB32), "ppm");
-    QTest::newRow("icon") << encoded(sample(QImage::Format_ARGB32), "ico");
-    QTest::newRow("vector") << QByteArray("<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>");
-    QByteArray gif = Gif;
-    // The codes of the first frame stop before its last pixel.
-    QTest::newRow("gif with an early end")
-        << gif.replace(QByteArray::fromHex("03443405"), QByteArray::fromHex("024454"));
-    QTest::newRow("bmp runs that leave pixels out") << bmp(6, 2, 8, 1, QByteArray::fromHex("0307 0000 0609 0001"));
-    QTest::newRow("bmp runs that jump") << bmp(6, 1, 8, 1, QByteArray::fromHex("00020300 0609 0001"));
+  void refused() {
+    QVERIFY(LoadPicture(u"\\None.png"_s).isNull());
     QByteArray jpeg = encoded(sample(QImage::Format_RGB32), "jpeg");
     // A picture inside the picture has an end marker of its own.
     jpeg.insert(2, QByteArray::fromHex("FFE10006FFD8FFD9"));
-    jpeg.chop(2);
-    QTest::newRow("jpeg with an inner picture, cut") << jpeg;
-  }
-
-  void refused() {
-    QFETCH(QByteArray, file);
-    QVERIFY(DecodePicture(file).isNull());
-  }
-
-  void enormous() {
+    // A head that claims 100000 x 100000 pixels, with its checksum.
+    QByteArray claim = encoded(sample(QImage::Format_ARGB32), "png");
+    qToBigEndian(quint32(100'000), claim.data() + 16);
+    qToBigEndian(quint32(100'000), claim.data() + 20);
+    qToBigEndian(quint32(0xA8520BC8), claim.data() + 29);
     QImage wide(9000, 9000, QImage::Format_Mono);
     wide.fill(0);
-    QVERIFY(DecodePicture(encoded(wide, "png")).isNull());
-    // A head that claims 100000 x 100000 pixels, with its checksum.
-    QByteArray png = encoded(sample(QImage::Format_ARGB32), "png");
-    qToBigEndian(quint32(100'000), png.data() + 16);
-    qToBigEndian(quint32(100'000), png.data() + 20);
-    qToBigEndian(quint32(0xA8520BC8), png.data() + 29);
-    QVERIFY(DecodePicture(png).isNull());
-  }
-
-  void byContentFromAFile() {
-    const QTemporaryDir folder;
-    const QString path = folder.path() + QStringLiteral("\\Picture.jpg");
-    WriteFile(path, encoded(sample(QImage::Format_ARGB32), "png"));
-    QCOMPARE(LoadPicture(path), sample(QImage::Format_ARGB32));
-    QVERIFY(LoadPicture(folder.path() + QStringLiteral("\\None.png")).isNull());
-    QVERIFY(LoadPicture(folder.path()).isNull());
+    // The codes of the first frame stop before its last pixel.
+    const QByteArray shortGif = QByteArray(Gif).replace(QByteArray::fromHex("03443405"), QByteArray::fromHex("024454"));
+    const struct {
+      const char* name;
+      QByteArray file;
+    } rows[] = {
+        {"empty", {}},
+        {"text", "[Setup]\r\nEXEDirectory=\r\n"},
+        {"another format", encoded(sample(QImage::Format_RGB32), "ppm")},
+        {"icon", encoded(sample(QImage::Format_ARGB32), "ico")},
+        {"vector", "<svg xmlns='http://www.w3.org/2000/svg' width='9' height='9'/>"},
+        {"gif with an early end", shortGif},
+        {"bmp runs that leave pixels out", bmp(6, 2, 8, 1, QByteArray::fromHex("0307 0000 0609 0001"))},
+        {"bmp runs that jump", bmp(6, 1, 8, 1, QByteArray::fromHex("00020300 0609 0001"))},
+        {"jpeg with an inner picture, cut", jpeg.chopped(2)},
+        {"enormous", encoded(wide, "png")},
+        {"enormous by its own account", claim},
+    };
+    for (const auto& row : rows) {
+      const support::RowName name(row.name);
+      QVERIFY(DecodePicture(row.file).isNull());
+    }
   }
 };
 

@@ -7,6 +7,7 @@
 #include "platform/ramps.h"
 #include "platform/raster_pictures.h"
 #include "platform/raster_text.h"
+#include "support/row_name.h"
 
 using namespace platform;
 
@@ -46,96 +47,99 @@ QImage picture(const QList<QRgb>& pixels, int width) {
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Drawing)
-
 class RasterTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void shapes_data() {
-    QTest::addColumn<Drawing>("draw");
-    QTest::addColumn<QByteArrayList>("expected");
-    const auto row = [](const char* name, const Drawing& draw, const QByteArrayList& expected) {
-      QTest::newRow(name) << draw << expected;
-    };
-    const QByteArray all = ".#oooooooooo#.";
-    row("rectangle", [](Raster& raster) { raster.Rectangle(9, 5, 1, 1, Edge, Inside); },
-        {"..........", ".########.", ".#oooooo#.", ".#oooooo#.", ".########.", ".........."});
-    row("round", [](Raster& raster) { raster.RoundRect(1, 1, 13, 11, 6, Edge, Inside); },
-        {"..............", "...########...", "..#oooooooo#..", all, all, all, all, all, all, "..#oooooooo#..",
-         "...########...", ".............."});
-    const QByteArrayList oneOff = {".#####.", "#.....#", "#.....#", "#.....#", ".#####.", "......."};
-    for (const int diameter : {3, 4, 5, -5}) {
-      row(
-          "outline", [diameter](Raster& raster) { raster.RoundRect(0, 0, 7, 5, diameter, Edge); }, oneOff);
-    }
-    row("ellipse of 2", [](Raster& raster) { raster.RoundRect(-2, -2, 4, 3, 2, Edge, Inside); },
-        {"ooo#..", "ooo#..", "####.."});
-    row("capsule", [](Raster& raster) { raster.RoundRect(0, 0, 12, 7, 100, Edge, Inside); },
-        {"....####....", ".###oooo###.", ".#oooooooo#.", "#oooooooooo#", ".#oooooooo#.", ".###oooo###.",
-         "....####...."});
-    row("lines",
-        [](Raster& raster) {
-          raster.Line(1, 0, 6, 0, Edge);
-          raster.Line(6, 1, 1, 1, Edge);
-          raster.Line(0, 2, 0, 4, Edge);
-          raster.Line(3, 2, 6, 5, Edge);
-          raster.Line(2, 3, 2, 3, Edge);
-        },
-        {".#####.", "..#####", "#..#...", "#...#..", ".....#.", "......."});
-    row("region", [](Raster& raster) { raster.ClipToRoundRect(0, 0, 8, 6, 5); },
-        {" ..... ", ".......", ".......", ".......", " ..... ", "       "});
-  }
-
   void shapes() {
-    QFETCH(Drawing, draw);
-    QFETCH(QByteArrayList, expected);
-    Raster raster(QSize(int(expected[0].size()), int(expected.size())), Ground);
-    draw(raster);
-    QCOMPARE(letters(raster), expected);
+    const QByteArray all = ".#oooooooooo#.";
+    const QByteArrayList oneOff = {".#####.", "#.....#", "#.....#", "#.....#", ".#####.", "......."};
+    const auto outline = [](int diameter) {
+      return [diameter](Raster& raster) { raster.RoundRect(0, 0, 7, 5, diameter, Edge); };
+    };
+    const struct {
+      const char* name;
+      Drawing draw;
+      QByteArrayList expected;
+    } rows[] = {
+        {"rectangle",
+         [](Raster& raster) { raster.Rectangle(9, 5, 1, 1, Edge, Inside); },
+         {"..........", ".########.", ".#oooooo#.", ".#oooooo#.", ".########.", ".........."}},
+        {"round",
+         [](Raster& raster) { raster.RoundRect(1, 1, 13, 11, 6, Edge, Inside); },
+         {"..............", "...########...", "..#oooooooo#..", all, all, all, all, all, all, "..#oooooooo#..",
+          "...########...", ".............."}},
+        {"outline of 3", outline(3), oneOff},
+        {"outline of 5", outline(5), oneOff},
+        {"outline of -5", outline(-5), oneOff},
+        {"ellipse of 2",
+         [](Raster& raster) { raster.RoundRect(-2, -2, 4, 3, 2, Edge, Inside); },
+         {"ooo#..", "ooo#..", "####.."}},
+        {"capsule",
+         [](Raster& raster) { raster.RoundRect(0, 0, 12, 7, 100, Edge, Inside); },
+         {"....####....", ".###oooo###.", ".#oooooooo#.", "#oooooooooo#", ".#oooooooo#.", ".###oooo###.",
+          "....####...."}},
+        {"lines",
+         [](Raster& raster) {
+           raster.Line(1, 0, 6, 0, Edge);
+           raster.Line(6, 1, 1, 1, Edge);
+           raster.Line(0, 2, 0, 4, Edge);
+           raster.Line(3, 2, 6, 5, Edge);
+           raster.Line(2, 3, 2, 3, Edge);
+         },
+         {".#####.", "..#####", "#..#...", "#...#..", ".....#.", "......."}},
+        {"region",
+         [](Raster& raster) { raster.ClipToRoundRect(0, 0, 8, 6, 5); },
+         {" ..... ", ".......", ".......", ".......", " ..... ", "       "}},
+    };
+    for (const auto& row : rows) {
+      const support::RowName name(row.name);
+      Raster raster(QSize(int(row.expected[0].size()), int(row.expected.size())), Ground);
+      row.draw(raster);
+      QCOMPARE(letters(raster), row.expected);
+    }
   }
 
-  void ramps_data() {
-    QTest::addColumn<Drawing>("draw");
-    QTest::addColumn<QPoint>("step");
-    QTest::addColumn<QList<int>>("expected");
+  void ramps() {
     constexpr QRgb black = qRgb(0, 0, 0);
     constexpr QRgb white = qRgb(255, 255, 255);
     constexpr QPoint across(1, 0);
     constexpr QPoint down(0, 1);
     const auto fill = [](int left, int top, int right, int bottom, int first, int second, Direction direction) {
-      return Drawing([=](Raster& raster) {
+      return [=](Raster& raster) {
         GradientFill(raster, left, top, right, bottom, qRgb(first, 0, 0), qRgb(second, 0, 0), direction);
-      });
+      };
     };
     const auto ramp = [](int x, int y, int width, int height, QRgb start, QRgb end, int kind) {
-      return Drawing([=](Raster& raster) { PaintRamp(raster, x, y, width, height, start, end, kind); });
+      return [=](Raster& raster) { PaintRamp(raster, x, y, width, height, start, end, kind); };
     };
-    const auto row = [](const char* name, const Drawing& draw, QPoint step, const QList<int>& expected) {
-      QTest::newRow(name) << draw << step << expected;
+    const struct {
+      const char* name;
+      Drawing draw;
+      QPoint step;
+      QList<int> expected;
+    } rows[] = {
+        {"doesn't reach its end",
+         fill(0, 0, 8, 1, 0, 255, Direction::LeftToRight),
+         across,
+         {0, 31, 63, 95, 127, 159, 191, 223, 7}},
+        {"falls", fill(0, 0, 1, 5, 244, 114, Direction::TopToBottom), down, {244, 218, 192, 166, 140, 7}},
+        {"backwards", fill(0, 4, 3, 0, 100, 200, Direction::TopToBottom), down, {200, 175, 150, 125, 7}},
+        {"starts outside", fill(-2, 0, 2, 1, 0, 200, Direction::LeftToRight), across, {100, 150, 7}},
+        {"reaches its end", ramp(0, 0, 5, 1, black, white, 1), across, {0, 63, 127, 191, 255, 7}},
+        {"cut towards zero", ramp(0, 0, 1, 3, qRgb(10, 0, 0), qRgb(5, 0, 0), 3), down, {10, 8, 5, 7}},
+        {"one entry", ramp(0, 0, 1, 4, qRgb(201, 0, 0), qRgb(101, 0, 0), 1), down, {150, 150, 150, 150, 7}},
+        {"from the top left", ramp(0, -1, 3, 3, black, qRgb(4, 0, 0), 5), across, {1, 2, 3, 7}},
+        {"from the bottom left, across", ramp(0, 0, 3, 3, black, qRgb(4, 0, 0), 6), across, {2, 3, 4, 7}},
+        {"from the bottom left, down", ramp(0, 0, 3, 3, black, qRgb(4, 0, 0), 6), down, {2, 1, 0, 7}},
+        {"no such kind", ramp(0, 0, 2, 2, white, white, 7), across, {0, 0, 7}},
     };
-    row("doesn't reach its end", fill(0, 0, 8, 1, 0, 255, Direction::LeftToRight), across,
-        {0, 31, 63, 95, 127, 159, 191, 223, 7});
-    row("falls", fill(0, 0, 1, 10, 244, 114, Direction::TopToBottom), down,
-        {244, 231, 218, 205, 192, 179, 166, 153, 140, 127, 7});
-    row("backwards", fill(0, 4, 3, 0, 100, 200, Direction::TopToBottom), down, {200, 175, 150, 125, 7});
-    row("starts outside", fill(-2, 0, 2, 1, 0, 200, Direction::LeftToRight), across, {100, 150, 7});
-    row("reaches its end", ramp(0, 0, 5, 1, black, white, 1), across, {0, 63, 127, 191, 255, 7});
-    row("cut towards zero", ramp(0, 0, 1, 3, qRgb(10, 0, 0), qRgb(5, 0, 0), 3), down, {10, 8, 5, 7});
-    row("one entry", ramp(0, 0, 1, 4, qRgb(201, 0, 0), qRgb(101, 0, 0), 1), down, {150, 150, 150, 150, 7});
-    row("from the top left", ramp(0, -1, 3, 3, black, qRgb(4, 0, 0), 5), across, {1, 2, 3, 7});
-    row("from the bottom left, across", ramp(0, 0, 3, 3, black, qRgb(4, 0, 0), 6), across, {2, 3, 4, 7});
-    row("from the bottom left, down", ramp(0, 0, 3, 3, black, qRgb(4, 0, 0), 6), down, {2, 1, 0, 7});
-    row("no such kind", ramp(0, 0, 2, 2, white, white, 7), across, {0, 0, 7});
-  }
-
-  void ramps() {
-    QFETCH(Drawing, draw);
-    QFETCH(QPoint, step);
-    QFETCH(QList<int>, expected);
-    Raster raster(QSize(12, 12), qRgb(7, 7, 7));
-    draw(raster);
-    QCOMPARE(reds(raster, QPoint(0, 0), step, int(expected.size())), expected);
+    for (const auto& row : rows) {
+      const support::RowName name(row.name);
+      Raster raster(QSize(12, 12), qRgb(7, 7, 7));
+      row.draw(raster);
+      QCOMPARE(reds(raster, QPoint(0, 0), row.step, int(row.expected.size())), row.expected);
+    }
   }
 
   void pixelRowsKeepTheirBytes() {
@@ -146,14 +150,10 @@ class RasterTest : public QObject {
     StretchDIBits(raster, -1, 0, 4, 4, rows);
     QCOMPARE(reds(raster, QPoint(0, 1), QPoint(1, 0), 4), (QList<int>{1, 4, 4, 8}));
     QCOMPARE(reds(raster, QPoint(0, 3), QPoint(1, 0), 4), (QList<int>{7, 0, 0, 8}));
-  }
-
-  void maskThenColour() {
-    Raster raster(QSize(2, 1), qRgb(0xF0, 0xF0, 0xF0));
-    StretchDIBits(raster, 0, 0, 2, 1, GetDIBits(picture({qRgb(255, 255, 255), qRgb(0, 0, 0)}, 2)),
-                  RasterOperation::And);
-    StretchDIBits(raster, 0, 0, 2, 1, GetDIBits(picture({qRgb(0, 0, 0), qRgb(9, 9, 9)}, 2)), RasterOperation::Or);
-    QCOMPARE(reds(raster, QPoint(0, 0), QPoint(1, 0), 2), (QList<int>{0xF0, 9}));
+    Raster masked(QSize(2, 1), qRgb(0xF0, 0xF0, 0xF0));
+    StretchDIBits(masked, 0, 0, 2, 1, GetDIBits(picture({Ground, 0xFF000000U}, 2)), RasterOperation::And);
+    StretchDIBits(masked, 0, 0, 2, 1, GetDIBits(picture({0xFF000000U, qRgb(9, 9, 9)}, 2)), RasterOperation::Or);
+    QCOMPARE(reds(masked, QPoint(0, 0), QPoint(1, 0), 2), (QList<int>{0xF0, 9}));
   }
 
   void picturesAndTheirShapes() {
@@ -167,25 +167,19 @@ class RasterTest : public QObject {
     QCOMPARE(letters(raster).mid(1), (QByteArrayList{"ooo##", ".#o#."}));
   }
 
-  void textStandsInItsRectangle_data() {
-    QTest::addColumn<TextAlign>("align");
-    QTest::addColumn<int>("left");
-    QTest::newRow("left") << TextAlign::Left << 20;
-    QTest::newRow("centre") << TextAlign::Center << 120;
-    QTest::newRow("right") << TextAlign::Right << 220;
-  }
   void textStandsInItsRectangle() {
-    QFETCH(TextAlign, align);
-    QFETCH(int, left);
     const QFont font(QStringLiteral("Liberation Sans"), 9);
     const QString text = QStringLiteral("Hog");
-    Raster drawn(QSize(300, 40), Ground);
-    DrawText(drawn, font, text, QRect(20, 10, 200 + TextWidth(font, text), 8), Edge, align);
-    Raster printed(QSize(300, 40), Ground);
-    Print(printed, font, text, left, 10, Edge);
-    QVERIFY(printed.image() != drawn.image());  // it is cut at the lower edge
-    printed.FillRect(0, 18, 300, 40, Ground);
-    QCOMPARE(drawn.image(), printed.image());
+    for (const auto& [align, left] :
+         {std::pair(TextAlign::Left, 20), std::pair(TextAlign::Center, 120), std::pair(TextAlign::Right, 220)}) {
+      Raster drawn(QSize(300, 40), Ground);
+      DrawText(drawn, font, text, QRect(20, 10, 200 + TextWidth(font, text), 8), Edge, align);
+      Raster printed(QSize(300, 40), Ground);
+      Print(printed, font, text, left, 10, Edge);
+      QVERIFY(printed.image() != drawn.image());  // it is cut at the lower edge
+      printed.FillRect(0, 18, 300, 40, Ground);
+      QCOMPARE(drawn.image(), printed.image());
+    }
   }
 };
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QImage>
-
 #include "platform/graphics.h"
 #include "platform/surface.h"
 #include "renderer/render_driver.h"
 #include "renderer/render_host.h"
+#include "support/pictures.h"
 #include "support/theme_doubles.h"
 #include "themefiles/colour_tables.h"
 
@@ -35,24 +34,6 @@ class Host : public renderer::RenderHost {
   int progress = 50, refreshes = 0, yields = 0, selections = 0;
   bool barVisible = false, buttonsVisible = true;
 };
-
-inline QImage plainPicture(int width, int height, QRgb color) {
-  QImage image(width, height, QImage::Format_ARGB32);
-  image.fill(color);
-  return image;
-}
-
-/// The rectangle round all pixels that differ from the colour.
-inline QRect inkOf(const QImage& image, QRgb ground = qRgb(255, 255, 255)) {
-  QRect rectangle;
-  for (int y = 0; y < image.height(); ++y) {
-    const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    for (int x = 0; x < image.width(); ++x) {
-      if (line[x] != ground) rectangle |= QRect(x, y, 1, 1);
-    }
-  }
-  return rectangle;
-}
 
 /// A theme that a test writes, with a skin of textures of 8 x 4 pixels, and all that a render of it needs.
 class Stage {
@@ -90,6 +71,11 @@ class Stage {
       if (!line.startsWith('[') || line == "[Colors]" || line.endsWith("Background]")) continue;
       tags.AddItem(platform::FromAnsi(line.mid(1, line.size() - 2)));
     }
+  }
+
+  /// Adds sections that stand in no tag list.
+  void addToTheme(const QByteArray& sections) {
+    folder.put(QStringLiteral("theme.ini"), folder.get(QStringLiteral("theme.ini")) + linesOf(sections));
   }
 
   void draw() {

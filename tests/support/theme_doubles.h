@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
-#include <QFile>
-#include <QFileInfo>
 #include <QStringList>
-#include <QTemporaryDir>
 
 #include "platform/code_page.h"
 #include "platform/dialogs.h"
-#include "platform/paths.h"
 #include "platform/status_line.h"
+#include "support/folder.h"
 #include "themefiles/screen_table.h"
 
 // What the rooms without windows work with in tests.
@@ -54,34 +51,5 @@ class Tags : public themefiles::TagList {
   QStringList rows;
   int index = -1;
 };
-
-/// A folder that goes with the test. Names of files are relative to it; tables write "|" for a line end.
-class Folder {
- public:
-  QString native(const QString& name) const { return folder_.filePath(name); }
-  /// The program's path of a file.
-  QString path(const QString& name) const { return platform::ProgramPath(native(name)); }
-  void put(const QString& name, const QByteArray& bytes) const {
-    QFile file(native(name));
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("can't write a test file");
-  }
-  QByteArray get(const QString& name) const {
-    QFile file(native(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-  }
-  bool has(const QString& name) const { return QFileInfo::exists(native(name)); }
-  void protect(const QString& name, bool on = true) const {
-    QFile::setPermissions(native(name),
-                          QFileDevice::ReadOwner | (on ? QFileDevice::Permission() : QFileDevice::WriteOwner));
-  }
-
- private:
-  QTemporaryDir folder_;
-};
-
-/// The bytes of a table row, "|" being `lineEnd`.
-inline QByteArray linesOf(QByteArray table, const char* lineEnd = "\r\n") {
-  return table.replace('|', lineEnd);
-}
 
 }  // namespace support
