@@ -6,10 +6,12 @@
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "platform/failure.h"
+#include "support/row_name.h"
 
 using controls::Cause;
 using controls::ListBox;
 using controls::ListView;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,10 +22,10 @@ struct Window : ActiveWindow {
   Window() {
     box.setGeometry(0, 0, 150, 100);
     view.setGeometry(150, 0, 150, 100);
-    view.SetColumns({QStringLiteral("Item"), QStringLiteral("Value")}, {63, 87});
+    view.SetColumns({u"Item"_s, u"Value"_s}, {63, 87});
     for (int i = 0; i < Rows; ++i) {
-      box.AddItem(QStringLiteral("%1 row").arg(QChar(u'A' + i / 2)));
-      view.AddRow(box.List(i), QStringLiteral("<b>a long value</b> %1").arg(i));
+      box.AddItem(u"%1 row"_s.arg(QChar(u'A' + i / 2)));
+      view.AddRow(box.List(i), u"<b>a long value</b> %1"_s.arg(i));
     }
     open();
   }
@@ -32,6 +34,8 @@ struct Window : ActiveWindow {
   QSignalSpy clicks{&box, &ListBox::Click};
   QSignalSpy itemClicks{&view, &ListView::ItemClick};
 
+  /// The selected row and the number of clicks so far, of the one list and of the other.
+  QList<qsizetype> state() const { return {box.ListIndex(), clicks.size(), view.SelectedRow(), itemClicks.size()}; }
   QPoint boxPlace(int row) const { return box.visualItemRect(box.item(row)).center(); }
   QPoint viewPlace(int row) const { return view.visualItemRect(view.topLevelItem(row)).center(); }
 };
@@ -62,7 +66,7 @@ class ListRowsTest : public QObject {
     for (const char* name : {"A", "a", "Static10"}) box.AddItem(QString::fromLatin1(name));
     QStringList rows;
     for (int i = 0; i < box.ListCount(); ++i) rows += box.List(i);
-    QCOMPARE(rows.join(u' '), QStringLiteral("A a b B static1 Static10 Static2 _x"));
+    QCOMPARE(rows.join(u' '), u"A a b B static1 Static10 Static2 _x"_s);
     QCOMPARE(box.ListIndex(), 2);
     box.Clear();
     QCOMPARE(box.ListIndex(), -1);
@@ -71,25 +75,17 @@ class ListRowsTest : public QObject {
 
   void writtenIndexFiresEachTime() {
     Window window;
+    window.box.setFocus(Qt::TabFocusReason);
+    window.view.setFocus(Qt::TabFocusReason);
+    QCOMPARE(window.state(), (QList<qsizetype>{-1, 0, -1, 0}));
     window.box.SetListIndex(3);
     window.box.SetListIndex(3);
     window.box.SetListIndex(-1);
     QCOMPARE(window.box.Text(), QString());
-    QCOMPARE(window.clicks.size(), 2);
     QCOMPARE(window.clicks.first().first().value<Cause>(), Cause::Code);
     QVERIFY_THROWS_EXCEPTION(platform::Failure, window.box.SetListIndex(Rows));
     window.view.SelectRow(3);
-    QCOMPARE(window.view.SelectedRow(), 3);
-    QCOMPARE(window.itemClicks.size(), 0);
-  }
-
-  void focusSelectsNothing() {
-    Window window;
-    window.box.setFocus(Qt::TabFocusReason);
-    window.view.setFocus(Qt::TabFocusReason);
-    QCOMPARE(window.box.ListIndex(), -1);
-    QCOMPARE(window.view.SelectedRow(), -1);
-    QCOMPARE(window.clicks.size() + window.itemClicks.size(), 0);
+    QCOMPARE(window.state(), (QList<qsizetype>{-1, 2, 3, 0}));
   }
 
   void mousePicksOneRow() {
@@ -101,15 +97,11 @@ class ListRowsTest : public QObject {
       QTest::mouseClick(view, Qt::LeftButton, Qt::ControlModifier, window.viewPlace(2));
       QTest::qWait(QApplication::doubleClickInterval() + 1);
     }
-    QCOMPARE(window.clicks.size(), 2);
-    QCOMPARE(window.itemClicks.size(), 2);
+    QCOMPARE(window.state(), (QList<qsizetype>{2, 2, 2, 2}));
     drag(box, window.boxPlace(1), window.boxPlace(4));
     drag(view, window.viewPlace(1), window.viewPlace(4));
-    QCOMPARE(window.box.ListIndex(), 1);
-    QCOMPARE(window.view.SelectedRow(), 1);
-    QCOMPARE(window.clicks.size(), 3);
+    QCOMPARE(window.state(), (QList<qsizetype>{1, 3, 1, 3}));
     QCOMPARE(window.clicks.last().first().value<Cause>(), Cause::User);
-    QCOMPARE(window.itemClicks.size(), 3);
   }
 
   void secondPressOfADoubleClick() {
@@ -119,51 +111,46 @@ class ListRowsTest : public QObject {
       QTest::mouseDClick(window.box.viewport(), Qt::LeftButton, {}, window.boxPlace(row));
       QTest::mouseClick(window.view.viewport(), Qt::LeftButton, {}, window.viewPlace(0));
       QTest::mouseDClick(window.view.viewport(), Qt::LeftButton, {}, window.viewPlace(row));
-      QCOMPARE(window.box.ListIndex(), row);
-      QCOMPARE(window.view.SelectedRow(), row);
+      QCOMPARE(window.state(), (QList<qsizetype>{row, 1 + 2 * row, row, 1 + 2 * row}));
     }
-    QCOMPARE(window.clicks.size(), 3);
-    QCOMPARE(window.itemClicks.size(), 3);
   }
 
-  void keysPickARow_data() {
-    QTest::addColumn<int>("before");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("after");
-    QTest::addColumn<int>("clicks");
-    QTest::newRow("down from none") << -1 << int(Qt::Key_Down) << 0 << 1;
-    QTest::newRow("down") << 3 << int(Qt::Key_Down) << 4 << 1;
-    QTest::newRow("up at the head") << 0 << int(Qt::Key_Up) << 0 << 0;
-    QTest::newRow("end") << 3 << int(Qt::Key_End) << Rows - 1 << 1;
-    QTest::newRow("page down near the end") << Rows - 2 << int(Qt::Key_PageDown) << Rows - 1 << 1;
-    QTest::newRow("letter") << 3 << int(Qt::Key_D) << 6 << 1;
-    QTest::newRow("letter of the first row, from none") << -1 << int(Qt::Key_A) << 0 << 1;
-    QTest::newRow("letter of none") << 3 << int(Qt::Key_Z) << 3 << 0;
-  }
   void keysPickARow() {
-    QFETCH(int, before);
-    QFETCH(int, key);
-    Window window;
-    window.box.setFocus();
-    window.view.setFocus();
-    if (before >= 0) window.box.setCurrentRow(before);
-    window.view.SelectRow(before);
-    const QKeyCombination pressed = QKeyCombination::fromCombined(key);
-    QTest::keyClick(&window.box, pressed.key(), pressed.keyboardModifiers());
-    QTest::keyClick(&window.view, pressed.key(), pressed.keyboardModifiers());
-    QTEST(window.box.ListIndex(), "after");
-    QTEST(int(window.clicks.size()), "clicks");
-    QTEST(window.view.SelectedRow(), "after");
-    QTEST(int(window.itemClicks.size()), "clicks");
+    const struct {
+      const char* name;
+      int before;
+      Qt::Key key;
+      int after, clicks;
+    } rows[] = {
+        {"down from none", -1, Qt::Key_Down, 0, 1},
+        {"down", 3, Qt::Key_Down, 4, 1},
+        {"up at the head", 0, Qt::Key_Up, 0, 0},
+        {"end", 3, Qt::Key_End, Rows - 1, 1},
+        {"page down near the end", Rows - 2, Qt::Key_PageDown, Rows - 1, 1},
+        {"letter", 3, Qt::Key_D, 6, 1},
+        {"letter of the first row, from none", -1, Qt::Key_A, 0, 1},
+        {"letter of none", 3, Qt::Key_Z, 3, 0},
+    };
+    for (const auto& row : rows) {
+      const support::RowName name(row.name);
+      Window window;
+      window.box.setFocus();
+      window.view.setFocus();
+      if (row.before >= 0) window.box.setCurrentRow(row.before);
+      window.view.SelectRow(row.before);
+      QTest::keyClick(&window.box, row.key);
+      QTest::keyClick(&window.view, row.key);
+      QCOMPARE(window.state(), (QList<qsizetype>{row.after, row.clicks, row.after, row.clicks}));
+    }
   }
 
   void cutValueShowsWholeAsPlainText() {
     Window window;
     const QPoint value = window.view.visualRect(window.view.model()->index(0, 1)).center();
     askForTip(window.view.viewport(), value);
-    QVERIFY(QToolTip::text().contains(QStringLiteral("&lt;b&gt;a long value&lt;/b&gt; 0")));
-    window.view.SetSubItem(0, QStringLiteral("short"));
-    QCOMPARE(window.view.SubItem(0), QStringLiteral("short"));
+    QVERIFY(QToolTip::text().contains(u"&lt;b&gt;a long value&lt;/b&gt; 0"_s));
+    window.view.SetSubItem(0, u"short"_s);
+    QCOMPARE(window.view.SubItem(0), u"short"_s);
     askForTip(window.view.viewport(), value);
     QTRY_COMPARE(QToolTip::text(), QString());
   }

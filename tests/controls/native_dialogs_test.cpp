@@ -15,6 +15,7 @@
 using controls::NativeDialogs;
 using platform::BoxAnswer;
 using platform::BoxKind;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,50 +36,47 @@ class NativeDialogsTest : public QObject {
 
  private Q_SLOTS:
   void initTestCase() {
-    QApplication::setApplicationName(QStringLiteral("Cantorama Theme Edit"));
+    QApplication::setApplicationName(u"Cantorama Theme Edit"_s);
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   }
 
-  void boxAnswers_data() {
-    QTest::addColumn<BoxKind>("kind");
-    QTest::addColumn<int>("key");
-    QTest::addColumn<BoxAnswer>("answer");
-    QTest::newRow("error, Enter") << BoxKind::Error << int(Qt::Key_Return) << BoxAnswer::Ok;
-    QTest::newRow("question, Enter") << BoxKind::YesNoDefaultNo << int(Qt::Key_Return) << BoxAnswer::No;
-    QTest::newRow("question, Escape") << BoxKind::YesNoDefaultNo << int(Qt::Key_Escape) << BoxAnswer::No;
-    QTest::newRow("question, Yes") << BoxKind::YesNoDefaultNo << int(Qt::Key_Y) << BoxAnswer::Yes;
-  }
   void boxAnswers() {
-    QFETCH(BoxKind, kind);
-    QFETCH(int, key);
-    WhenShown<QMessageBox>([key](QMessageBox& box) {
-      QCOMPARE(box.windowTitle(), QStringLiteral("Cantorama Theme Edit"));
-      QCOMPARE(box.textFormat(), Qt::PlainText);
-      if (key == Qt::Key_Y) {
-        QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
-      } else {
-        QTest::keyClick(&box, Qt::Key(key));
-      }
-    });
-    QTEST(NativeDialogs().MessageBox(nullptr, QStringLiteral("text"), QString(), kind), "answer");
+    const struct {
+      BoxKind kind;
+      Qt::Key key;
+      BoxAnswer answer;
+    } rows[] = {
+        {BoxKind::Error, Qt::Key_Return, BoxAnswer::Ok},
+        {BoxKind::YesNoDefaultNo, Qt::Key_Return, BoxAnswer::No},
+        {BoxKind::YesNoDefaultNo, Qt::Key_Escape, BoxAnswer::No},
+        {BoxKind::YesNoDefaultNo, Qt::Key_Y, BoxAnswer::Yes},
+    };
+    for (const auto& row : rows) {
+      WhenShown<QMessageBox>([&](QMessageBox& box) {
+        QCOMPARE(box.windowTitle(), u"Cantorama Theme Edit"_s);
+        QCOMPARE(box.textFormat(), Qt::PlainText);
+        if (row.key == Qt::Key_Y) return box.button(QMessageBox::Yes)->click();
+        QTest::keyClick(&box, row.key);
+      });
+      QCOMPARE(NativeDialogs().MessageBox(nullptr, u"text"_s, QString(), row.kind), row.answer);
+    }
   }
 
   void inputIsTakenAsTyped() {
     WhenShown<QInputDialog>([](QInputDialog& dialog) {
       QCOMPARE(dialog.findChild<QLabel*>()->textFormat(), Qt::PlainText);
-      QTest::keyClicks(dialog.findChild<QLineEdit*>(), QStringLiteral(" My=Color "));
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), u" My=Color "_s);
       QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    QCOMPARE(NativeDialogs().InputBox(nullptr, QStringLiteral("Name of the New Color:"), QString()),
-             QStringLiteral(" My=Color "));
+    QCOMPARE(NativeDialogs().InputBox(nullptr, u"Name of the New Color:"_s, QString()), u" My=Color "_s);
   }
 
   void fileDialogOpensInItsFolder() {
     QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("Vocora.exe")));
+    QFile file(folder.filePath(u"Vocora.exe"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
-    platform::FileRequest request{QStringLiteral("Game"), QStringLiteral("Cantorama (Vocora.exe)|Vocora.exe"),
-                                  QStringLiteral("Vocora.exe"), folder.path().replace(u'/', u'\\')};
+    platform::FileRequest request{u"Game"_s, u"Cantorama (Vocora.exe)|Vocora.exe"_s, u"Vocora.exe"_s,
+                                  folder.path().replace(u'/', u'\\')};
     WhenShown<QFileDialog>([](QFileDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
     QCOMPARE(NativeDialogs().OpenFile(nullptr, request), file.fileName().replace(u'/', u'\\'));
     WhenShown<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
@@ -86,10 +84,8 @@ class NativeDialogsTest : public QObject {
   }
 
   void filters() {
-    const QString filter = QStringLiteral("Pictures (*.bmp,*.gif)|*.bmp;*.gif|Program|Vocora.exe");
-    const QStringList expected = {QStringLiteral("Pictures (*.bmp,*.gif) (*.bmp *.gif)"),
-                                  QStringLiteral("Program (Vocora.exe)")};
-    QCOMPARE(controls::NameFilters(filter), expected);
+    QCOMPARE(controls::NameFilters(u"Pictures (*.bmp,*.gif)|*.bmp;*.gif|Program|Vocora.exe"_s),
+             (QStringList{u"Pictures (*.bmp,*.gif) (*.bmp *.gif)"_s, u"Program (Vocora.exe)"_s}));
     QCOMPARE(controls::NameFilters(QString()), QStringList());
   }
 

@@ -11,12 +11,14 @@
 #include <QTimer>
 
 #include "controls/look.h"
+#include "support/row_name.h"
 
 using controls::TextBox;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Digits = QStringLiteral("0123456789");
+const QString Digits = u"0123456789"_s;
 
 /// A dialog with the box and a default button.
 struct Window : QDialog {
@@ -36,20 +38,17 @@ struct Window : QDialog {
   QSignalSpy changes{&box, &TextBox::Change};
 };
 
-using Way = void (*)(TextBox& box, const QString& text);
+using Way = std::function<void(TextBox& box, const QString& text)>;
 
 void type(TextBox& box, const QString& text) {
   QTest::keyClicks(&box, text);
 }
 
-void paste(TextBox& box, const QString& text) {
-  QGuiApplication::clipboard()->setText(text);
-  QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
-}
-
-void pasteByInsert(TextBox& box, const QString& text) {
-  QGuiApplication::clipboard()->setText(text);
-  QTest::keyClick(&box, Qt::Key_Insert, Qt::ShiftModifier);
+Way pasteBy(Qt::Key key, Qt::KeyboardModifier modifier) {
+  return [=](TextBox& box, const QString& text) {
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(&box, key, modifier);
+  };
 }
 
 void pasteByMenu(TextBox& box, const QString& text) {
@@ -84,84 +83,69 @@ void commit(TextBox& box, const QString& text) {
   QApplication::sendEvent(&box, &event);
 }
 
-constexpr struct {
-  const char* name;
-  Way way;
-} Ways[] = {{"typed", type},
-            {"pasted", paste},
-            {"Shift+Insert", pasteByInsert},
-            {"menu", pasteByMenu},
-            {"middle button", pasteSelection},
-            {"dropped", drop},
-            {"input method", commit}};
-
 }  // namespace
-
-Q_DECLARE_METATYPE(Way)
 
 class TextBoxTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void filterHoldsForEveryWayIn_data() {
-    QTest::addColumn<Way>("way");
-    QTest::addColumn<QString>("letters");
-    QTest::addColumn<QString>("entered");
-    QTest::addColumn<QString>("text");
-    for (const auto& [name, way] : Ways) {
-      QTest::addRow("%s digits", name) << way << Digits << QStringLiteral("-1,2.5 x7") << QStringLiteral("71257");
-      QTest::addRow("%s nothing left", name) << way << Digits << QStringLiteral("-x") << QStringLiteral("7");
-      if (way == type) continue;
-      QTest::addRow("%s lines", name) << way << QString() << QStringLiteral("a\r\nb\nc\rd")
-                                      << QStringLiteral("7a b c d");
-    }
-  }
   void filterHoldsForEveryWayIn() {
-    QFETCH(Way, way);
-    QFETCH(QString, letters);
-    QFETCH(QString, entered);
-    Window window;
-    window.box.SetKeyFilter(letters);
-    window.box.SetText(QStringLiteral("7"));
-    window.box.end(false);
-    way(window.box, entered);
-    QTEST(window.box.Text(), "text");
+    const struct {
+      const char* name;
+      Way way;
+    } rows[] = {
+        {"typed", type},
+        {"pasted", pasteBy(Qt::Key_V, Qt::ControlModifier)},
+        {"Shift+Insert", pasteBy(Qt::Key_Insert, Qt::ShiftModifier)},
+        {"menu", pasteByMenu},
+        {"middle button", pasteSelection},
+        {"dropped", drop},
+        {"input method", commit},
+    };
+    for (const auto& row : rows) {
+      const support::RowName name(row.name);
+      const auto entered = [&](const QString& filter, const QString& text) {
+        Window window;
+        window.box.SetKeyFilter(filter);
+        window.box.SetText(u"7"_s);
+        window.box.end(false);
+        row.way(window.box, text);
+        return window.box.Text();
+      };
+      QCOMPARE(entered(Digits, u"-1,2.5 x7"_s), u"71257"_s);
+      QCOMPARE(entered(Digits, u"-x"_s), u"7"_s);
+      if (&row != rows) QCOMPARE(entered(QString(), u"a\r\nb\nc\rd"_s), u"7a b c d"_s);
+    }
   }
 
   void commandsPassTheFilter() {
     Window window;
     window.box.SetKeyFilter(Digits);
-    window.box.SetText(QStringLiteral("-12"));
+    window.box.SetText(u"-12"_s);
     QTest::keyClick(&window.box, Qt::Key_A, Qt::ControlModifier);
-    paste(window.box, QStringLiteral("nothing to take"));
+    pasteBy(Qt::Key_V, Qt::ControlModifier)(window.box, u"nothing to take"_s);
     QTest::keyClick(&window.box, Qt::Key_X, Qt::ControlModifier);
     QCOMPARE(window.box.Text(), QString());
-    QCOMPARE(QGuiApplication::clipboard()->text(), QStringLiteral("-12"));
+    QCOMPARE(QGuiApplication::clipboard()->text(), u"-12"_s);
     QTest::keyClick(&window.box, Qt::Key_Z, Qt::ControlModifier);
     QTest::keyClick(&window.box, Qt::Key_End);
     QTest::keyClick(&window.box, Qt::Key_Backspace);
-    QCOMPARE(window.box.Text(), QStringLiteral("-1"));
+    QCOMPARE(window.box.Text(), u"-1"_s);
   }
 
-  void writtenTextKeepsThePlaceOfTyping_data() {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<int>("caret");
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<int>("after");
-    QTest::newRow("the same") << QStringLiteral("123") << 1 << QStringLiteral("123") << 1;
-    QTest::newRow("zero dropped at the head") << QStringLiteral("0123") << 2 << QStringLiteral("123") << 1;
-    QTest::newRow("shorter than what was behind") << QStringLiteral("1234") << 1 << QStringLiteral("0") << 0;
-  }
   void writtenTextKeepsThePlaceOfTyping() {
-    QFETCH(QString, before);
-    QFETCH(int, caret);
-    QFETCH(QString, written);
     Window window;
-    window.box.SetText(before);
-    window.box.setCursorPosition(caret);
-    window.box.SetText(written);
-    QTEST(window.box.cursorPosition(), "after");
-    QCOMPARE(window.changes.size(), before == written ? 1 : 2);
+    const auto caretAfter = [&](const QString& before, int caret, const QString& written) {
+      window.box.SetText(before);
+      window.box.setCursorPosition(caret);
+      window.box.SetText(written);
+      return window.box.cursorPosition();
+    };
+    QCOMPARE(caretAfter(u"123"_s, 1, u"123"_s), 1);
+    QCOMPARE(window.changes.size(), 1);
+    QCOMPARE(caretAfter(u"0123"_s, 2, u"123"_s), 1);  // a zero dropped at the head
+    QCOMPARE(caretAfter(u"1234"_s, 1, u"0"_s), 0);    // shorter than what was behind
+    QCOMPARE(window.changes.size(), 5);
   }
 
   void changeSeesTheNewState() {
@@ -169,12 +153,12 @@ class TextBoxTest : public QObject {
     QString seen;
     connect(&window.box, &TextBox::Change, this, [&] {
       seen += window.box.Text() + u' ';
-      if (window.box.Text() == u"012") window.box.SetText(QStringLiteral("12"));
+      if (window.box.Text() == u"012") window.box.SetText(u"12"_s);
     });
-    QTest::keyClicks(&window.box, QStringLiteral("12"));
+    QTest::keyClicks(&window.box, u"12"_s);
     window.box.home(false);
-    QTest::keyClicks(&window.box, QStringLiteral("0"));
-    QCOMPARE(seen, QStringLiteral("1 12 012 12 "));
+    QTest::keyClicks(&window.box, u"0"_s);
+    QCOMPARE(seen, u"1 12 012 12 "_s);
     QCOMPARE(window.box.cursorPosition(), 0);
   }
 

@@ -3,7 +3,10 @@
 #include <QTest>
 #include <QTimer>
 
+#include "support/row_name.h"
+
 using controls::WorkQueue;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,94 +33,67 @@ struct Bench {
     log += name.toUpper();
   }
 
-  /// Makes the wish served by the first yield after so many letters of the log.
-  void at(int letters, std::function<void()> served) {
-    wishAt = letters;
-    wish = std::move(served);
+  /// The wishes of these letters, as they come: a choice, a draw, a command, the ways to leave.
+  void wishFor(QStringView letters) {
+    const auto command = [this] { log += queue.Busy() ? u'!' : u'x'; };
+    for (const QChar letter : letters) {
+      if (letter == u'c') queue.Choose();
+      if (letter == u'd') queue.Draw();
+      if (letter == u'x') queue.RunOutside(command);
+      if (letter == u'l' || letter == u'f') queue.RunOutside(command, true);
+      if (letter == u'f') queue.RunOutside([this] { queue.Forget(); });
+      if (letter == u'n') queue.RunOutside([this] { log += u'x', wishFor(u"dx"), log += u'X'; });
+    }
   }
 
   WorkQueue queue;
   QString log;
   int depth = 0;
   bool nested = false;
-  int wishAt = 0;
+  int wishAt = 0;  ///< the wish is served by the first yield after so many letters of the log
   std::function<void()> wish;
 };
 
-using Act = void (*)(Bench& bench);
-void choose(Bench& bench) {
-  bench.queue.Choose();
-}
-void draw(Bench& bench) {
-  bench.queue.Draw();
-}
-void drawThenChoose(Bench& bench) {
-  draw(bench), choose(bench);
-}
-void chooseThenDraw(Bench& bench) {
-  choose(bench), draw(bench);
-}
-void command(Bench& bench) {
-  bench.queue.RunOutside([&bench] { bench.log += bench.queue.Busy() ? u'!' : u'x'; });
-}
-void leave(Bench& bench) {
-  bench.queue.RunOutside([&bench] { bench.log += bench.queue.Busy() ? u'!' : u'x'; }, true);
-}
-void leaveForGood(Bench& bench) {
-  leave(bench);
-  bench.queue.RunOutside([&bench] { bench.queue.Forget(); });
-}
-void commandThatDraws(Bench& bench) {
-  bench.queue.RunOutside([&bench] {
-    bench.log += u'x';
-    draw(bench), command(bench);
-    bench.log += u'X';
-  });
-}
-
 }  // namespace
-
-Q_DECLARE_METATYPE(Act)
 
 class WorkQueueTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void wishesDuringWork_data() {
-    QTest::addColumn<Act>("begun");
-    QTest::addColumn<int>("at");
-    QTest::addColumn<Act>("wish");
-    QTest::addColumn<QString>("log");
-    const auto row = [](const char* name, Act begun, int at, Act wish, const char* log) {
-      QTest::newRow(name) << begun << at << wish << QString::fromLatin1(log);
-    };
-    row("undisturbed", choose, 99, draw, "c...Cd...D");
-    row("draw in a draw begins anew", draw, 2, draw, "d.d...D");
-    row("draw in a choice is the one that follows", choose, 2, draw, "c...Cd...D");
-    row("choice in a choice", choose, 2, choose, "c.c...Cd...D");
-    row("choice in a draw", draw, 2, choose, "d.c...Cd...D");
-    row("choice in the draw of a choice", choose, 6, choose, "c...Cdc...Cd...D");
-    row("choice outranks a draw before it", draw, 2, drawThenChoose, "d.c...Cd...D");
-    row("choice outranks a draw behind it", draw, 2, chooseThenDraw, "d.c...Cd...D");
-    row("command waits", draw, 2, command, "d...Dx");
-    row("command waits for choice and draw", choose, 2, command, "c...Cd...Dx");
-    row("leaving gives up and takes up again", draw, 2, leave, "d.xd...D");
-    row("leaving a choice", choose, 2, leave, "c.xc...Cd...D");
-    row("leaving the draw of a choice", choose, 6, leave, "c...Cdxd...D");
-    row("leaving for good", choose, 2, leaveForGood, "c.x");
-    row("draw and command inside a command", draw, 2, commandThatDraws, "d...Dxd...DXx");
-  }
   void wishesDuringWork() {
-    QFETCH(Act, begun);
-    QFETCH(int, at);
-    QFETCH(Act, wish);
-    Bench bench;
-    bench.at(at, [&bench, wish] { wish(bench); });
-    begun(bench);
-    QCoreApplication::processEvents();
-    QTEST(bench.log, "log");
-    QVERIFY(!bench.nested);
-    QVERIFY(!bench.queue.Busy());
+    const struct {
+      const char* name;
+      QString begun;
+      int at;
+      QString wishes, log;
+    } rows[] = {
+        {"undisturbed", u"c"_s, 0, {}, u"c...Cd...D"_s},
+        {"draw in a draw begins anew", u"d"_s, 2, u"d"_s, u"d.d...D"_s},
+        {"draw in a choice is the one that follows", u"c"_s, 2, u"d"_s, u"c...Cd...D"_s},
+        {"choice in a choice", u"c"_s, 2, u"c"_s, u"c.c...Cd...D"_s},
+        {"choice in a draw", u"d"_s, 2, u"c"_s, u"d.c...Cd...D"_s},
+        {"choice in the draw of a choice", u"c"_s, 6, u"c"_s, u"c...Cdc...Cd...D"_s},
+        {"choice outranks a draw before it", u"d"_s, 2, u"dc"_s, u"d.c...Cd...D"_s},
+        {"choice outranks a draw behind it", u"d"_s, 2, u"cd"_s, u"d.c...Cd...D"_s},
+        {"command waits", u"d"_s, 2, u"x"_s, u"d...Dx"_s},
+        {"command waits for choice and draw", u"c"_s, 2, u"x"_s, u"c...Cd...Dx"_s},
+        {"leaving gives up and takes up again", u"d"_s, 2, u"l"_s, u"d.xd...D"_s},
+        {"leaving a choice", u"c"_s, 2, u"l"_s, u"c.xc...Cd...D"_s},
+        {"leaving the draw of a choice", u"c"_s, 6, u"l"_s, u"c...Cdxd...D"_s},
+        {"leaving for good", u"c"_s, 2, u"f"_s, u"c.x"_s},
+        {"draw and command inside a command", u"d"_s, 2, u"n"_s, u"d...Dxd...DXx"_s},
+    };
+    for (const auto& row : rows) {
+      const support::RowName name(row.name);
+      Bench bench;
+      bench.wishAt = row.at;
+      bench.wish = [&] { bench.wishFor(row.wishes); };
+      bench.wishFor(row.begun);
+      QCoreApplication::processEvents();
+      QCOMPARE(bench.log, row.log);
+      QVERIFY(!bench.nested);
+      QVERIFY(!bench.queue.Busy());
+    }
   }
 };
 
