@@ -2,14 +2,16 @@
 
 #include <QTest>
 
+#include "support/row_name.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
 using namespace support;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Name = QStringLiteral("a.ini");
+const QString Name = u"a.ini"_s;
 
 ModuleState readFrom(const QByteArray& theme, Panel& panel, ModuleState state = {}) {
   Folder folder;
@@ -37,13 +39,13 @@ class ColourTablesTest : public QObject {
     QVERIFY(panel.texts.isEmpty());
     QVERIFY(state.ThemeColors[98].Name == u"c99" && state.ThemeColors[98].Value == u"99 0 0");
     QVERIFY(state.ThemeColors[99].Name.isEmpty() && state.ThemeColors[99].Value == u"0 0 0");
-    QCOMPARE(SchemeNames(state).join(u' '), QStringLiteral("Blue Green Pink Red Violet Orange Yellow Brown Black"));
+    QCOMPARE(SchemeNames(state).join(u' '), u"Blue Green Pink Red Violet Orange Yellow Brown Black"_s);
 
     // A shorter list leaves the rows behind it, none at all leaves every row.
     state = readFrom("[Colors]\nnew=\n", panel, state);
     QVERIFY(state.ThemeColors[0].Name == u"new" && state.ThemeColors[0].Value.isEmpty());
     QVERIFY(state.ThemeColors[1].Value == u"0 0 0" && state.ThemeColors[2].Name == u"c3");
-    QCOMPARE(readFrom("[Color]\na=1 1 1\n", panel, state).ThemeColors[0].Name, QStringLiteral("new"));
+    QCOMPARE(readFrom("[Color]\na=1 1 1\n", panel, state).ThemeColors[0].Name, u"new"_s);
   }
 
   void oneKeyTooMany() {
@@ -51,44 +53,37 @@ class ColourTablesTest : public QObject {
     const ModuleState state = readFrom(colours(100), panel);
     QCOMPARE(panel.texts.size(), 1);
     QVERIFY(panel.texts[0].startsWith(u"Error while reading Colors [") && panel.texts[0].endsWith(u']'));
-    QCOMPARE(state.ThemeColors[99].Name, QStringLiteral("c100"));
+    QCOMPARE(state.ThemeColors[99].Name, u"c100"_s);
     QCOMPARE(SchemeNames(state), QStringList(9, QString()));
   }
 
-  void names_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("scheme");
-    QTest::addColumn<QString>("color");
-    const auto row = [](const char* name, const char* scheme, const char* color) {
-      QTest::addRow("%s of %s", name, scheme)
-          << QString::fromLatin1(name) << QString::fromLatin1(scheme) << QString::fromLatin1(color);
-    };
-    row("", "Blue", "");
-    row("colorlight", "Blue", "135 211 251");
-    row("COLORLIGHTEST", "Brown", "229 204 165");
-    row("ColorDark", "Pink", "255 175 247");
-    row("ColorLightest", "Black", "153 153 153");
-    row("ColorLightest", "Violet", "230 63 230");
-    row("ColorDark", "Red", "247 71 71");
-    row("ColorDark", "red", "");
-    row("p1dark", "Blue", "");
-    row("P1Dark", "Red", "71 175 247");
-    row("P2Dark", "Blue", "247 71 71");
-    row("Own", "Blue", "1 2 3");
-    row("own", "Blue", "4 5 6");
-    row("Twice", "Blue", "7 8 9");
-    row("Empty", "Blue", "");
-  }
-
   void names() {
-    QFETCH(QString, name);
-    QFETCH(QString, scheme);
-    QFETCH(QString, color);
     Panel panel;
     ModuleState state = readFrom(
         "[Colors]\nOwn=1 2 3\nP2Dark=0 0 0\nTwice=7 8 9\nTwice=0 0 0\nEmpty=\nEmpty=1 1 1\nColorDark=1 1 1\n", panel);
-    state.ThemeColors[20] = {QStringLiteral("own"), QStringLiteral("4 5 6")};
-    QCOMPARE(ResolveColor(state, name, scheme), color);
+    state.ThemeColors[20] = {u"own"_s, u"4 5 6"_s};
+    const struct {
+      QString name, scheme, color;
+    } rows[] = {
+        {{}, u"Blue"_s, {}},
+        {u"colorlight"_s, u"Blue"_s, u"135 211 251"_s},
+        {u"COLORLIGHTEST"_s, u"Brown"_s, u"229 204 165"_s},
+        {u"ColorDark"_s, u"Pink"_s, u"255 175 247"_s},
+        {u"ColorLightest"_s, u"Black"_s, u"153 153 153"_s},
+        {u"ColorLightest"_s, u"Violet"_s, u"230 63 230"_s},
+        {u"ColorDark"_s, u"red"_s, {}},
+        {u"p1dark"_s, u"Blue"_s, {}},
+        {u"P1Dark"_s, u"Red"_s, u"71 175 247"_s},
+        {u"P2Dark"_s, u"Blue"_s, u"247 71 71"_s},
+        {u"Own"_s, u"Blue"_s, u"1 2 3"_s},
+        {u"own"_s, u"Blue"_s, u"4 5 6"_s},
+        {u"Twice"_s, u"Blue"_s, u"7 8 9"_s},
+        {u"Empty"_s, u"Blue"_s, {}},
+    };
+    for (const auto& row : rows) {
+      const RowName name(row.name.toLatin1());
+      QCOMPARE(ResolveColor(state, row.name, row.scheme), row.color);
+    }
   }
 
   void numbers() {

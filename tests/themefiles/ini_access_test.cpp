@@ -3,16 +3,18 @@
 #include <QTest>
 
 #include "platform/failure.h"
+#include "support/row_name.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
 using namespace support;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Name = QStringLiteral("a.ini");
-const QString Section = QStringLiteral("S");
-const QString Key = QStringLiteral("k");
+const QString Name = u"a.ini"_s;
+const QString Section = u"S"_s;
+const QString Key = u"k"_s;
 
 bool putChecked(const QString& section, const QString& key, const std::optional<QString>& value, const QString& file) {
   try {
@@ -32,86 +34,82 @@ class IniAccessTest : public QObject {
   void buffers() {
     Folder folder;
     folder.put(Name, linesOf("[S]|abc=123456|def=2|"));
-    const auto list = [&](qint16 size) {
-      return GetINI(Section, std::nullopt, QString(), folder.path(Name), size).toLatin1();
+    const auto read = [&](const std::optional<QString>& key, qint16 size) {
+      return GetINI(Section, key, QString(), folder.path(Name), size).toLatin1();
     };
-    QCOMPARE(list(9), QByteArray("abc\0def\0", 8));
-    QCOMPARE(list(8), QByteArray("abc\0de", 6));
-    QCOMPARE(list(1), QByteArray());
-    const auto value = [&](qint16 size) {
-      return GetINI(Section, QStringLiteral("abc"), QString(), folder.path(Name), size).toLatin1();
-    };
-    QCOMPARE(value(7), QByteArray("123456"));
-    QCOMPARE(value(6), QByteArray("12345"));
-    QCOMPARE(value(1), QByteArray());
+    QCOMPARE(read({}, 9), QByteArray("abc\0def\0", 8));
+    QCOMPARE(read({}, 8), QByteArray("abc\0de", 6));
+    QCOMPARE(read({}, 1), QByteArray());
+    QCOMPARE(read(u"abc"_s, 7), QByteArray("123456"));
+    QCOMPARE(read(u"abc"_s, 6), QByteArray("12345"));
+    QCOMPARE(read(u"abc"_s, 1), QByteArray());
   }
 
   void defaults() {
     Folder folder;
     folder.put(Name, linesOf("[S]|k=v|e=|"));
     const QString file = folder.path(Name);
-    const QString given = QStringLiteral("  d  ");
-    const QString kept = QStringLiteral("  d");
-    QCOMPARE(GetINI(Section, QStringLiteral("x"), given, file), kept);
+    const QString given = u"  d  "_s;
+    const QString kept = u"  d"_s;
+    QCOMPARE(GetINI(Section, u"x"_s, given, file), kept);
     QCOMPARE(GetINI(Section, QString(), given, file), kept);
-    QCOMPARE(GetINI(QStringLiteral("T"), Key, given, file), kept);
-    QCOMPARE(GetINI(Section, Key, given, folder.path(QStringLiteral("b.ini"))), kept);
-    QVERIFY(!folder.has(QStringLiteral("b.ini")));
-    QCOMPARE(GetINI(Section, QStringLiteral("e"), given, file), QString());
-    QVERIFY(GetINI(QStringLiteral("T"), std::nullopt, given, file).isEmpty());
-    QCOMPARE(KeyNames(Section, file), QStringList({Key, QStringLiteral("e")}));
-    QVERIFY(KeyNames(QStringLiteral("T"), file).isEmpty());
+    QCOMPARE(GetINI(u"T"_s, Key, given, file), kept);
+    QCOMPARE(GetINI(Section, Key, given, folder.path(u"b.ini"_s)), kept);
+    QVERIFY(!folder.has(u"b.ini"_s));
+    QCOMPARE(GetINI(Section, u"e"_s, given, file), QString());
+    QVERIFY(GetINI(u"T"_s, std::nullopt, given, file).isEmpty());
+    QCOMPARE(KeyNames(Section, file), QStringList({Key, u"e"_s}));
+    QVERIFY(KeyNames(u"T"_s, file).isEmpty());
   }
 
   void writesAndReadsBack() {
     Folder folder;
     folder.put(Name, linesOf("[S]|k=v|k=w|"));
     const QString file = folder.path(Name);
-    const QString letters = QStringLiteral("\u20AC\u00FF\u0153");
+    const QString letters = u"\u20AC\u00FF\u0153"_s;
     const QString tooLong(40000, u'x');
     const QList<std::pair<QString, QString>> pairs{{letters, letters},
-                                                   {QStringLiteral(" w "), QStringLiteral("w")},
-                                                   {QStringLiteral("' w'"), QStringLiteral(" w")},
+                                                   {u" w "_s, u"w"_s},
+                                                   {u"' w'"_s, u" w"_s},
                                                    {QString(), QString()},
                                                    {tooLong, tooLong.left(31999)}};
     for (const auto& [value, read] : pairs) {
       QVERIFY(putChecked(Section, Key, value, file));
-      QCOMPARE(GetINI(Section, Key, QStringLiteral("d"), file, ListBufferSize), read);
+      QCOMPARE(GetINI(Section, Key, u"d"_s, file, ListBufferSize), read);
     }
     QVERIFY(putChecked(Section, Key, std::nullopt, file));  // of doubles the first
     QCOMPARE(folder.get(Name), linesOf("[S]|k=w|"));
     folder.protect(Name);
-    QVERIFY(!putChecked(Section, Key, QStringLiteral("x"), file));
-  }
-
-  void refusals_data() {
-    QTest::addColumn<QString>("section");
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
-    const QString omega = QStringLiteral("\u03A9");
-    QTest::newRow("letter outside the code page") << Section << Key << omega;
-    QTest::newRow("in a key") << Section << omega << QString();
-    QTest::newRow("in a section") << omega << Key << QString();
-    QTest::newRow("LF") << Section << Key << QStringLiteral("a\nb=c");
-    QTest::newRow("CR") << Section << Key << QStringLiteral("a\r");
-    QTest::newRow("NUL") << Section << Key << QString(QChar(0));
-    QTest::newRow("sign in a key") << Section << QStringLiteral("a=b") << QStringLiteral("c");
-    QTest::newRow("comment for a key") << Section << QStringLiteral(";a") << QStringLiteral("c");
-    QTest::newRow("no key") << Section << QStringLiteral(" ") << QStringLiteral("c");
-    QTest::newRow("bracket in a section") << QStringLiteral("S]") << Key << QStringLiteral("c");
+    QVERIFY(!putChecked(Section, Key, u"x"_s, file));
   }
 
   void refusals() {
-    QFETCH(QString, section);
-    QFETCH(QString, key);
-    QFETCH(QString, value);
     Folder folder;
     const QByteArray before = linesOf("[S]|k=v|", "\n");
     folder.put(Name, before);
-    PutINI(section, key, value, folder.path(Name));
-    QCOMPARE(folder.get(Name), before);
-    QVERIFY(!putChecked(section, key, value, folder.path(Name)));
-    QCOMPARE(folder.get(Name), before);
+    const QString omega = u"\u03A9"_s;
+    const struct {
+      const char* name;
+      QString section, key, value;
+    } rows[] = {
+        {"letter outside the code page", Section, Key, omega},
+        {"in a key", Section, omega, {}},
+        {"in a section", omega, Key, {}},
+        {"LF", Section, Key, u"a\nb=c"_s},
+        {"CR", Section, Key, u"a\r"_s},
+        {"CR in a key", Section, u"a\r"_s, u"c"_s},
+        {"NUL", Section, Key, QString(QChar(0))},
+        {"sign in a key", Section, u"a=b"_s, u"c"_s},
+        {"comment for a key", Section, u" ;a"_s, u"c"_s},
+        {"no key", Section, u" "_s, u"c"_s},
+        {"bracket in a section", u"S]"_s, Key, u"c"_s},
+    };
+    for (const auto& row : rows) {
+      const RowName name(row.name);
+      PutINI(row.section, row.key, row.value, folder.path(Name));
+      QVERIFY(!putChecked(row.section, row.key, row.value, folder.path(Name)));
+      QCOMPARE(folder.get(Name), before);
+    }
   }
 };
 

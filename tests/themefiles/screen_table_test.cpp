@@ -2,14 +2,16 @@
 
 #include <QTest>
 
+#include "support/row_name.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
 using namespace support;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Name = QStringLiteral("a.ini");
+const QString Name = u"a.ini"_s;
 
 ModuleState stateWith(const Folder& folder, const QByteArray& theme) {
   ModuleState state;
@@ -19,65 +21,57 @@ ModuleState stateWith(const Folder& folder, const QByteArray& theme) {
   return state;
 }
 
-QString text(const char* latin) {
-  return QString::fromLatin1(latin);
-}
-
 }  // namespace
 
 class ScreenTableTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void runs_data() {
-    QTest::addColumn<QString>("screen");
-    QTest::addColumn<QByteArray>("theme");
-    QTest::addColumn<QString>("tags");  // joined by "/"
-    const auto row = [](const char* name, const char* screen, const QByteArray& theme, const char* tags) {
-      QTest::newRow(name) << text(screen) << theme << text(tags);
-    };
-    const auto main = [&](const char* name, const char* theme, const char* tags) {
-      row(name, "Main Screen", linesOf(theme), tags);
-    };
-    main("sorted by upper case", "[Main]|[MainZ]|[Mainb]|[MainA]|[MainButton10]|[MainButton2]",
-         "Main/MainA/Mainb/MainButton10/MainButton2/MainZ");
-    main("ends at another bare stem", "[Theme]|[Song]|[MainA]|[Main]|[Sing] |[Sing]|[MainB]", "Main/MainA");
-    main("doesn't end at other sections", "[MainA]|[SingStatic]|[Colors]|[MainB]", "MainA/MainB");
-    main("blank in front", " [MainA]|[MainB]", "MainB");
-    main("tail behind the bracket", "[MainA]x|[MainB] |[MainC", "Main/MainA]/MainB]");
-    main("lower-case header", "[mainA]|[sing]|[MAINB]", "mainA/MAINB");
-    main("keys and comments", "[MainA]|X=[MainX]|;[MainY]|#[MainZ]", "MainA");
-    row("prefix before the first tag", "Song Screen (Party)", linesOf("[SongMenu]|[SongStatic]|[SongMenu]|[SongText]"),
-        "SongMenu/SongStatic");
-    row("prefix behind the first tag", "Options Screen", linesOf("[Options]|[OptionsA]|[OptionsGame]|[OptionsB]"),
-        "Options/OptionsA");
-    row("name in no row is the stem", "Stat", linesOf("[StatMain]|[StatA]|[StatDetail]|[StatB]"), "StatMain/StatA");
-    row("no section", "Check Popup", linesOf("[Main]"), "");
-    row("LF", "Stats Main", "[StatMain]\n[StatMainA]\n\n[StatDetail]", "StatMain/StatMainA");
-    row("CR", "Stats Detail", "x\r[StatDetail]\r[StatDetailA]\r\r[StatMain]\r[StatDetailB]", "StatDetail/StatDetailA");
-  }
-
   void runs() {
-    QFETCH(QString, screen);
-    QFETCH(QByteArray, theme);
-    QFETCH(QString, tags);
-    Folder folder;
-    const ModuleState state = stateWith(folder, theme);
-    Tags list;
-    Panel panel;
-    int yields = 0;
-    QCOMPARE(ReadTags(state, screen, list, panel, [&] { ++yields; }), -1);
-    QStringList expected = tags.split(u'/', Qt::SkipEmptyParts);
-    std::sort(expected.begin(), expected.end(), platform::NameLess);
-    QCOMPARE(list.rows, expected);
-    QCOMPARE(yields, list.ListCount());
-    QCOMPARE(list.ListIndex(), tags.isEmpty() ? -1 : 0);
-    QVERIFY(panel.texts.isEmpty());
+    const QString main = u"Main Screen"_s;
+    const struct {
+      const char* name;
+      QString screen;
+      const char* theme;
+      QString tags;  // joined by "/"
+    } rows[] = {
+        {"sorted by upper case", main, "[Main]|[MainZ]|[Mainb]|[MainA]|[MainButton10]|[MainButton2]",
+         u"Main/MainA/Mainb/MainButton10/MainButton2/MainZ"_s},
+        {"ends at another bare stem", main, "[Theme]|[Song]|[MainA]|[Main]|[Sing] |[Sing]|[MainB]", u"Main/MainA"_s},
+        {"doesn't end at other sections", main, "[MainA]|[SingStatic]|[Colors]|[MainB]", u"MainA/MainB"_s},
+        {"blank in front", main, " [MainA]|[MainB]", u"MainB"_s},
+        {"tail behind the bracket", main, "[MainA]x|[MainB] |[MainC", u"Main/MainA]/MainB]"_s},
+        {"lower-case header", main, "[mainA]|[sing]|[MAINB]", u"mainA/MAINB"_s},
+        {"keys and comments", main, "[MainA]|X=[MainX]|;[MainY]|#[MainZ]", u"MainA"_s},
+        {"prefix before the first tag", u"Song Screen (Party)"_s, "[SongMenu]|[SongStatic]|[SongMenu]|[SongText]",
+         u"SongMenu/SongStatic"_s},
+        {"prefix behind the first tag", u"Options Screen"_s, "[Options]|[OptionsA]|[OptionsGame]|[OptionsB]",
+         u"Options/OptionsA"_s},
+        {"name in no row is the stem", u"Stat"_s, "[StatMain]|[StatA]|[StatDetail]|[StatB]", u"StatMain/StatA"_s},
+        {"no section", u"Check Popup"_s, "[Main]", {}},
+        {"LF", u"Stats Main"_s, "[StatMain]\n[StatMainA]\n\n[StatDetail]", u"StatMain/StatMainA"_s},
+        {"CR", u"Stats Detail"_s, "x\r[StatDetail]\r[StatDetailA]\r\r[StatMain]\r[StatDetailB]",
+         u"StatDetail/StatDetailA"_s},
+    };
+    for (const auto& row : rows) {
+      const RowName name(row.name);
+      Folder folder;
+      Tags list;
+      Panel panel;
+      int yields = 0;
+      QCOMPARE(ReadTags(stateWith(folder, linesOf(row.theme)), row.screen, list, panel, [&] { ++yields; }), -1);
+      QStringList expected = row.tags.split(u'/', Qt::SkipEmptyParts);
+      std::sort(expected.begin(), expected.end(), platform::NameLess);
+      QCOMPARE(list.rows, expected);
+      QCOMPARE(yields, list.ListCount());
+      QCOMPARE(list.ListIndex(), expected.isEmpty() ? -1 : 0);
+      QVERIFY(panel.texts.isEmpty());
+    }
   }
 
   void picksAndFailures() {
     Folder folder;
-    const QString screen = text("Main Screen");
+    const QString screen = u"Main Screen"_s;
     ModuleState state = stateWith(folder, "[Main]\n[MainA]\n[MainB]\n");
     Tags list;
     Panel panel;
@@ -92,50 +86,47 @@ class ScreenTableTest : public QObject {
     QVERIFY(panel.texts.value(0).startsWith(u"Error while reading Tags [") && list.ListIndex() == -1);
   }
 
-  void filters_data() {
-    QTest::addColumn<QString>("screen");
-    QTest::addColumn<QString>("taken");
-    QTest::addColumn<QString>("leftOut");
-    const auto row = [](const char* screen, const char* taken, const char* leftOut) {
-      QTest::newRow(screen) << text(screen) << text(taken) << text(leftOut);
-    };
-    row("Song Screen (Single)", "SongStaticNonParty SongText SongStatic",
-        "SongStaticParty1 songtextparty MySongStaticTeamX");
-    row("Song Screen (Party)", "SongStaticParty SongStaticTeam1", "SongStaticNonParty SongTextNonPartyX");
-    row("Score Screen (1 Player)", "Score ScoreTextName1 ScoreStaticBoxLightest1 ScorePlayer1Text ScoreTextName22",
-        "ScoreTextName2 scoretexttotalscore6 ScorePlayer2TextX ScorePlayer6Static1 ScoreStaticLevelRound3");
-    row("Score Screen (2 Player)", "ScoreTextScore2 ScoreTextNotes3 ScorePlayer3Static2",
-        "ScoreTextNotesScore1 ScoreTextLineBonus4 ScoreTextLineBonusScore5 ScoreTextGoldenNotes6 ScorePlayer1Text");
-    row("Score Screen (3 Player)", "ScoreTextGoldenNotesScore4 ScoreTextTotal5 ScoreStaticBoxDark6 ScorePlayer4Text",
-        "ScoreStaticBackLevel1 ScoreStaticBackLevelRound2 ScoreStaticLevel3 ScoreStaticBoxLight1 ScorePlayer3Static");
-    row("Sing Screen (1 Player)", "Sing SINGTIMEPROGRESS SingTimeText SingP1SingBar SingText1 SingP1StaticX SingP1Text",
-        "SingP1TwoPStatic SingP1TwoPSingBar SingTimeProgressX SingBackground SingP2RText");
-    row("Sing Screen (2 Player)", "Sing SingP1TwoPSingBar SingP2RSingBar SingP1TwoPText SingP2RStatic2 SingStatic",
-        "SingP1SingBar SingP1Static SingP2MStatic SingP1ThreePText");
-    row("Sing Screen (3 Player)",
-        "SingTimeText SingP1ThreePSingBar SingP2MSingBar SingP3SingBar SingP1ThreePStatic SingP2MText SingP3RText",
-        "SingP3RSingBar SingP2RSingBar SingP1Text");
-    row("Main Screen", "Main SongStaticParty ScoreTextName2", "");
-  }
-
   void filters() {
-    QFETCH(QString, screen);
-    QFETCH(QString, taken);
-    QFETCH(QString, leftOut);
-    const TagFilter filter = FilterOf(screen);
-    for (const QString& tag : taken.split(u' ')) QVERIFY2(!SplitTags(filter, tag), qPrintable(tag));
-    for (const QString& tag : leftOut.split(u' ', Qt::SkipEmptyParts)) {
-      QVERIFY2(SplitTags(filter, tag), qPrintable(tag));
+    const struct {
+      const char *screen, *taken, *leftOut;
+    } rows[] = {
+        {"Song Screen (Single)", "SongStaticNonParty SongText SongStatic",
+         "SongStaticParty1 songtextparty MySongStaticTeamX"},
+        {"Song Screen (Party)", "SongStaticParty SongStaticTeam1", "SongStaticNonParty SongTextNonPartyX"},
+        {"Score Screen (1 Player)", "Score ScoreTextName1 ScoreStaticBoxLightest1 ScorePlayer1Text ScoreTextName22",
+         "ScoreTextName2 scoretexttotalscore6 ScorePlayer2TextX ScorePlayer6Static1 ScoreStaticLevelRound3"},
+        {"Score Screen (2 Player)", "ScoreTextScore2 ScoreTextNotes3 ScorePlayer3Static2",
+         "ScoreTextNotesScore1 ScoreTextLineBonus4 ScoreTextLineBonusScore5 ScoreTextGoldenNotes6 ScorePlayer1Text"},
+        {"Score Screen (3 Player)", "ScoreTextGoldenNotesScore4 ScoreTextTotal5 ScoreStaticBoxDark6 ScorePlayer4Text",
+         "ScoreStaticBackLevel1 ScoreStaticBackLevelRound2 ScoreStaticLevel3 ScoreStaticBoxLight1 ScorePlayer3Static"},
+        {"Sing Screen (1 Player)",
+         "Sing SINGTIMEPROGRESS SingTimeText SingP1SingBar SingText1 SingP1StaticX SingP1Text",
+         "SingP1TwoPStatic SingP1TwoPSingBar SingTimeProgressX SingBackground SingP2RText"},
+        {"Sing Screen (2 Player)", "Sing SingP1TwoPSingBar SingP2RSingBar SingP1TwoPText SingP2RStatic2 SingStatic",
+         "SingP1SingBar SingP1Static SingP2MStatic SingP1ThreePText"},
+        {"Sing Screen (3 Player)",
+         "SingTimeText SingP1ThreePSingBar SingP2MSingBar SingP3SingBar SingP1ThreePStatic SingP2MText SingP3RText",
+         "SingP3RSingBar SingP2RSingBar SingP1Text"},
+        {"Main Screen", "Main SongStaticParty ScoreTextName2", ""},
+    };
+    for (const auto& row : rows) {
+      const TagFilter filter = FilterOf(QString::fromLatin1(row.screen));
+      for (const QByteArray& tag : QByteArray(row.taken).split(' ')) {
+        QVERIFY2(!SplitTags(filter, QString::fromLatin1(tag)), tag);
+      }
+      for (const QByteArray& tag : QByteArray(row.leftOut).split(' ')) {
+        QVERIFY2(tag.isEmpty() || SplitTags(filter, QString::fromLatin1(tag)), tag);
+      }
     }
   }
 
   void checksInTheirOrder() {
-    const QString a = text("Aa,b");
-    QVERIFY(SplitTags({a, {}, a, a}, text("aA")));
-    QVERIFY(SplitTags({{}, a, a, a}, text("xAAx")));
-    QVERIFY(SplitTags({{}, {}, a, {}}, text("bb")));
-    QVERIFY(!SplitTags({{}, {}, a, text("x,bB")}, text("cbbc")));
-    QVERIFY(!SplitTags({{}, {}, {}, a}, text("other")));
+    const QString a = u"Aa,b"_s;
+    QVERIFY(SplitTags({a, {}, a, a}, u"aA"_s));
+    QVERIFY(SplitTags({{}, a, a, a}, u"xAAx"_s));
+    QVERIFY(SplitTags({{}, {}, a, {}}, u"bb"_s));
+    QVERIFY(!SplitTags({{}, {}, a, u"x,bB"_s}, u"cbbc"_s));
+    QVERIFY(!SplitTags({{}, {}, {}, a}, u"other"_s));
   }
 };
 

@@ -2,14 +2,16 @@
 
 #include <QTest>
 
+#include "support/row_name.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
 using namespace support;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Name = QStringLiteral("a.ini");
+const QString Name = u"a.ini"_s;
 
 struct Result {
   QString rows;  ///< "item:value", joined by "/"
@@ -35,45 +37,42 @@ class TagReaderTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void rows_data() {
-    QTest::addColumn<QByteArray>("theme");
-    QTest::addColumn<QString>("rows");
-    const auto row = [](const char* name, const QByteArray& theme, const char* rows) {
-      QTest::newRow(name) << theme << QString::fromLatin1(rows);
-    };
-    row("order and spelling of the file", linesOf("[T]|a=0|[s]|Tex= b |x=1|Y=|[T]|z=1"), "Tex:b/x:1/Y:");
-    row("comments and empty lines", linesOf("[S]|#a=1||;b=2|no sign|c=3"), "c:3");
-    row("blank in front", linesOf("[S]| #a=1| ;b=2| [T]=3|d =4"), " #a:1/ ;b:2/ [T]:3/d :4");
-    row("no trim of other white space", linesOf("[S]|\ta\t=\tb\t"), "\ta\t:\tb\t");
-    row("two signs", linesOf("[S]|a=b=c|d==e|=f"), "a:b/d:/:f");
-    row("first of two sections", linesOf("[S]|[S]|a=1"), "");
-    row("blank behind the header", linesOf("[S] |a=1|[S]|b=2"), "b:2");
-    row("LF to the end of the file", "[S]\na=1\nb=2", "a:1/b:2");
-    row("CR", "[S]\ra=1\r\rb=2\r[T]\rc=3", "a:1/b:2");
-  }
-
   void rows() {
-    QFETCH(QByteArray, theme);
-    QFETCH(QString, rows);
-    const Result result = readTag(theme, QStringLiteral("S"));
-    QCOMPARE(result.rows, rows);
-    QVERIFY(result.reports.isEmpty());
+    const struct {
+      const char* name;
+      QByteArray theme;
+      QString rows;
+    } rows[] = {
+        {"order and spelling of the file", linesOf("[T]|a=0|[s]|Tex= b |x=1|Y=|[T]|z=1"), u"Tex:b/x:1/Y:"_s},
+        {"comments and empty lines", linesOf("[S]|#a=1||;b=2|no sign|c=3"), u"c:3"_s},
+        {"blank in front", linesOf("[S]| #a=1| ;b=2| [T]=3|d =4"), u" #a:1/ ;b:2/ [T]:3/d :4"_s},
+        {"no trim of other white space", linesOf("[S]|\ta\t=\tb\t"), u"\ta\t:\tb\t"_s},
+        {"two signs", linesOf("[S]|a=b=c|d==e|=f"), u"a:b/d:/:f"_s},
+        {"first of two sections", linesOf("[S]|[S]|a=1"), {}},
+        {"blank behind the header", linesOf("[S] |a=1|[S]|b=2"), u"b:2"_s},
+        {"LF to the end of the file", "[S]\na=1\nb=2", u"a:1/b:2"_s},
+        {"CR", "[S]\ra=1\r\rb=2\r[T]\rc=3", u"a:1/b:2"_s},
+    };
+    for (const auto& row : rows) {
+      const RowName name(row.name);
+      const Result result = readTag(row.theme, u"S"_s);
+      QCOMPARE(result.rows, row.rows);
+      QVERIFY(result.reports.isEmpty());
+    }
   }
 
   void record() {
-    const Result full =
-        readTag(linesOf("[S]|x=1| Y = 2 |W=3|h=4|Text=a=b|SIZE=12.5|Font=1|X= 5|size=13.5"), QStringLiteral("s"));
-    QCOMPARE(full.record.X, QStringLiteral(" 5"));
-    QCOMPARE(full.record.Y, QStringLiteral(" 2 "));
-    QCOMPARE(full.record.W + full.record.H + full.record.Text, QStringLiteral("34a"));
+    const Result full = readTag(linesOf("[S]|x=1| Y = 2 |W=3|h=4|Text=a=b|SIZE=12.5|Font=1|X= 5|size=13.5"), u"s"_s);
+    QCOMPARE(full.record.X, u" 5"_s);
+    QCOMPARE(full.record.Y, u" 2 "_s);
+    QCOMPARE(full.record.W + full.record.H + full.record.Text, u"34a"_s);
     QVERIFY(full.record.Size == 14 && full.record.Font == 1);
-    const CursorRecord none = readTag("[S]\nsize=none\n", QStringLiteral("S")).record;
+    const CursorRecord none = readTag("[S]\nsize=none\n", u"S"_s).record;
     QVERIFY((none.X + none.Y + none.W + none.H + none.Text).isEmpty() && none.Size == 0 && none.Font == 7);
   }
 
   void numbersOutOfRange() {
-    const Result result =
-        readTag("[S]\nSize=5\nSize=32767.5\nFont=256\nFont=-1\nSize=99999999999\nX=3\n", QStringLiteral("S"));
+    const Result result = readTag("[S]\nSize=5\nSize=32767.5\nFont=256\nFont=-1\nSize=99999999999\nX=3\n", u"S"_s);
     QVERIFY(result.record.Size == 5 && result.record.Font == 7 && result.record.X == u"3");
     QCOMPARE(result.reports.size(), 4);
     for (const QString& report : result.reports) QVERIFY(report.startsWith(u"Error while reading Tag ["));
@@ -82,9 +81,9 @@ class TagReaderTest : public QObject {
 
   void missingFileIsReported() {
     ModuleState state;
-    state.CursorRect.X = QStringLiteral("1");
+    state.CursorRect.X = u"1"_s;
     Panel panel;
-    QVERIFY(ReadTag(state, QStringLiteral("S"), panel).empty());
+    QVERIFY(ReadTag(state, u"S"_s, panel).empty());
     QVERIFY(panel.texts.value(0).startsWith(u"Error while reading Tag ["));
     QVERIFY(state.CursorRect.X.isEmpty());
   }

@@ -9,15 +9,16 @@
 
 using namespace themefiles;
 using namespace support;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString Theme = QStringLiteral("t.ini");
-const QString Skin = QStringLiteral("s.ini");
-const QString Language = QStringLiteral("l.ini");
-const QString Copy = QStringLiteral(".tmp");
-const QString Older = QStringLiteral(".tmp.old");
-const QString Backup = QStringLiteral(".bak");
+const QString Theme = u"t.ini"_s;
+const QString Skin = u"s.ini"_s;
+const QString Language = u"l.ini"_s;
+const QString Copy = u".tmp"_s;
+const QString Older = u".tmp.old"_s;
+const QString Backup = u".bak"_s;
 
 QByteArray everyByte() {
   QByteArray bytes(256, '\0');
@@ -59,6 +60,7 @@ class WorkingCopiesTest : public QObject {
     game.folder.protect(Theme);  // the copy of a protected file is writable all the same
     QVERIFY(game.open());
     QVERIFY(game.state.ThemeOpened && game.state.Paths.SkinFile == game.chosen.SkinFile + Copy);
+    QVERIFY(QFile::permissions(game.folder.native(Theme + Copy)) & QFile::WriteOwner);
     QCOMPARE(game.folder.get(Theme + Copy), everyByte());
     QCOMPARE(game.folder.get(Language + Copy), QByteArray());
     game.folder.protect(Theme, false);
@@ -87,7 +89,7 @@ class WorkingCopiesTest : public QObject {
   void openFailsMidway() {
     Game game;
     QVERIFY(QFile::remove(game.folder.native(Skin)));
-    game.state.Paths.ThemeFile = QStringLiteral("before");
+    game.state.Paths.ThemeFile = u"before"_s;
     QVERIFY(!game.open());
     QVERIFY(game.folder.has(Theme + Copy) && !game.folder.has(Language + Copy));
     QVERIFY(!game.state.ThemeOpened && game.state.Paths.ThemeFile == u"before" && game.state.Paths.SkinFile.isEmpty());
