@@ -2,9 +2,11 @@
 
 #include <QTest>
 
+#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,7 +29,12 @@ class Mark : public renderer::CursorMark {
   void note(const char* side, double value) { calls += side + QByteArray::number(value) + ' '; }
 };
 
-const char* const NoMark = "still hidden ";
+Mark drawn(Stage& stage, const themefiles::CursorRecord& record) {
+  stage.state.CursorRect = record;
+  Mark mark;
+  renderer::DrawCursor(stage.state, stage.tags, stage.surface, mark, stage.panel);
+  return mark;
+}
 
 }  // namespace
 
@@ -35,65 +42,55 @@ class HighlightCursorTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void marks_data() {
-    QTest::addColumn<QString>("fields");  // X, Y, W, H between "/"
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<QByteArray>("calls");  // "*" for the height of a line
-    QTest::addColumn<bool>("fails");
-    const auto row = [](const char* fields, const char* tag, const char* calls, bool fails = false) {
-      QTest::newRow(fields) << QString::fromLatin1(fields) << QString::fromLatin1(tag) << QByteArray(calls) << fails;
-    };
-    row("10/ 20.5/30/x", "MainButton1", "L10 T20.5 W30 H0 blinks shown ");
-    row("-5/0/0/ ", "MainStatic", "L-5 T0 W0 H0 blinks shown ");
-    row("1/2/-3/4", "MainStatic", "L1 T2 ", true);
-    row("1/2//4", "MainStatic", NoMark);
-    row("1/2/3/", "MainStatic", NoMark);
-    row("/2//", "MainText", NoMark);
-    row("1/2//", "MainText1", "W0 H* L1 T2 blinks shown ");
-    row("10/5//", "mainBUTTONtext1", "W0 H* L110 T205 blinks shown ");
-    row("10/5.5//", "mainBUTTONtext12", "W0 H* L10 T5.5 blinks shown ");
-    row("7/9//", "Name", "W0 H* L7 T9 blinks shown ");
-  }
-
   void marks() {
-    QFETCH(QString, fields);
-    QFETCH(QString, tag);
-    QFETCH(QByteArray, calls);
-    QFETCH(bool, fails);
-    Stage stage;
-    stage.setTheme("[MainButton]|X=100|Y=200|");
-    const QStringList parts = fields.split(u'/');
-    stage.state.CursorRect = {parts[0], parts[1], parts[2], parts[3], QStringLiteral("Words"), 20, 1};
-    stage.tags.rows = {tag};
-    stage.tags.index = 0;
-    Mark mark;
-    renderer::DrawCursor(stage.state, stage.tags, stage.surface, mark, stage.panel);
-    QCOMPARE(mark.calls, calls.replace('*', QByteArray::number(mark.height)));
-    QCOMPARE(stage.panel.texts.size(), fails ? 1 : 0);
-    if (fails) QVERIFY(stage.panel.texts[0].startsWith(u"Error while drawing highlighting cursor ["));
+    const char* const none = "still hidden ";
+    const struct {
+      QString fields;  // X, Y, W, H between "/"
+      QString tag;
+      QByteArray calls;  // "*" for the height of a line
+      bool fails = false;
+    } rows[] = {
+        {u"10/ 20.5/30/x"_s, u"MainButton1"_s, "L10 T20.5 W30 H0 blinks shown "},
+        {u"-5/0/0/ "_s, u"MainStatic"_s, "L-5 T0 W0 H0 blinks shown "},
+        {u"1/2/-3/4"_s, u"MainStatic"_s, "L1 T2 ", true},
+        {u"1/2//4"_s, u"MainStatic"_s, none},
+        {u"1/2/3/"_s, u"MainStatic"_s, none},
+        {u"/2//"_s, u"MainText"_s, none},
+        {u"1/2//"_s, u"MainText1"_s, "W0 H* L1 T2 blinks shown "},
+        {u"10/5//"_s, u"mainBUTTONtext1"_s, "W0 H* L110 T205 blinks shown "},
+        {u"10/5.5//"_s, u"mainBUTTONtext12"_s, "W0 H* L10 T5.5 blinks shown "},
+        {u"7/9//"_s, u"Name"_s, "W0 H* L7 T9 blinks shown "},
+    };
+    for (const auto& row : rows) {
+      const RowName name(row.fields.toLatin1());
+      Stage stage;
+      stage.setTheme("[MainButton]|X=100|Y=200|");
+      const QStringList parts = row.fields.split(u'/');
+      stage.tags.rows = {row.tag};
+      stage.tags.index = 0;
+      const Mark mark = drawn(stage, {parts[0], parts[1], parts[2], parts[3], u"Words"_s, 20, 1});
+      QCOMPARE(mark.calls, QByteArray(row.calls).replace('*', QByteArray::number(mark.height)));
+      QCOMPARE(stage.panel.texts.size(), row.fails ? 1 : 0);
+      QVERIFY(!row.fails || stage.panel.texts[0].startsWith(u"Error while drawing highlighting cursor ["));
+    }
   }
 
-  void measures() {
-    struct Case {
+  void heights() {
+    const struct {
       quint8 font;
       qint16 size;
-      const char* face;
+      QString face;
       float points;
+    } rows[] = {
+        {0, 20, u"Courier New"_s, 20},   {1, 20, u"Arial Black"_s, 20},    {2, 20, u"MS Sans Serif"_s, 20},
+        {1, 0, u"Arial Black"_s, 8.25F}, {1, -9, u"Arial Black"_s, 8.25F},
     };
-    for (const Case& each : {Case{0, 20, "Courier New", 20},
-                             {1, 20, "Arial Black", 20},
-                             {2, 20, "MS Sans Serif", 20},
-                             {1, 0, "Arial Black", 8.25},
-                             {1, -9, "Arial Black", 8.25}}) {
+    for (const auto& row : rows) {
       Stage stage;
-      const QString one = QStringLiteral("1");
-      stage.state.CursorRect = {one, one, {}, {}, {}, each.size, each.font};
-      Mark mark;
-      renderer::DrawCursor(stage.state, stage.tags, stage.surface, mark, stage.panel);
       platform::Surface measuring;
-      measuring.SetFontName(QString::fromLatin1(each.face));
-      measuring.SetFontSize(each.points);
-      QCOMPARE(mark.height, measuring.TextHeight(one) * 1.5);
+      measuring.SetFontName(row.face);
+      measuring.SetFontSize(row.points);
+      QCOMPARE(drawn(stage, {u"1"_s, u"1"_s, {}, {}, {}, row.size, row.font}).height, measuring.TextHeight({}) * 1.5);
     }
   }
 };

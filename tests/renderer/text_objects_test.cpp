@@ -1,8 +1,10 @@
 #include <QTest>
 
+#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -35,43 +37,41 @@ QImage pictureOf(const Look& look) {
 
 }  // namespace
 
-Q_DECLARE_METATYPE(Look)
-
 class TextObjectsTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void texts_data() {
-    QTest::addColumn<QByteArray>("keys");  // in front of X=100, Y=50, Size=10
-    QTest::addColumn<Look>("look");
-    const auto row = [](const char* keys, const Look& look) { QTest::newRow(keys) << QByteArray(keys) << look; };
-    row("Text=Known|", {"Hello"});
-    row("Text=Unknown|", {"Unknown"});
-    row("Text=|", {"MainText"});
-    row("", {"Own name"});
-    row("Text=Known|Font=1|", {"Hello", Black, 20});
-    row("Text=Known|Font=0.5|Size=0|", {"Hello", "MS Sans Serif", 8.25});
-    row("Text=Known|Size=12.25|", {"Hello", Regular, 17.15F});
-    row("Text=Known|Align=1|X=400|", {"Hello", Regular, 14, 400, 50, 0, 0.5});
-    row("Text=Known|Align=2|X=400|", {"Hello", Regular, 14, 400, 50, 0, 1});
-    row("Text=Known|X=20.75|Y=-3.25|", {"Hello", Regular, 14, 20.75, -3.25});
-    row("Text=Known|Color=Own|ColR=1|", {"Hello", Regular, 14, 100, 50, qRgb(200, 100, 50)});
-    row("Text=Known|Color=Unknown|ColR=1|", {"Hello"});
-    row("Text=Known|ColR=9999|ColG=0.5|ColB=-1|", {"Hello", Regular, 14, 100, 50, qRgb(255, 128, 0)});
-    row("Text=Known|Size=-5|", {""});
-    row("Text=Known|X=99999999999999|", {""});
-  }
-
   void texts() {
-    QFETCH(QByteArray, keys);
-    QFETCH(Look, look);
-    Stage stage;
-    stage.folder.put(QStringLiteral("language.ini"), "[Text]\nknown=Hello\nMainText=Own name\n");
-    stage.setTheme("[MainText]|" + keys + "|X=100|Y=50|Size=10|[Colors]|Own=200 100 50|");
-    stage.draw();
-    QCOMPARE(stage.surface.image(), pictureOf(look));
-    QCOMPARE(stage.steps(), 1);
-    QCOMPARE(stage.host.refreshes, 0);
+    const struct {
+      QByteArray keys;  // in front of X=100, Y=50, Size=10
+      Look look;
+    } rows[] = {
+        {"Text=Known|", {"Hello"}},
+        {"Text=Unknown|", {"Unknown"}},
+        {"Text=|", {"MainText"}},
+        {"", {"Own name"}},
+        {"Text=Known|Font=1|", {"Hello", Black, 20}},
+        {"Text=Known|Font=0.5|Size=0|", {"Hello", "MS Sans Serif", 8.25}},
+        {"Text=Known|Size=12.25|", {"Hello", Regular, 17.15F}},
+        {"Text=Known|Align=1|X=400|", {"Hello", Regular, 14, 400, 50, 0, 0.5}},
+        {"Text=Known|Align=2|X=400|", {"Hello", Regular, 14, 400, 50, 0, 1}},
+        {"Text=Known|X=20.75|Y=-3.25|", {"Hello", Regular, 14, 20.75, -3.25}},
+        {"Text=Known|Color=Own|ColR=1|", {"Hello", Regular, 14, 100, 50, qRgb(200, 100, 50)}},
+        {"Text=Known|Color=Unknown|ColR=1|", {"Hello"}},
+        {"Text=Known|ColR=9999|ColG=0.5|ColB=-1|", {"Hello", Regular, 14, 100, 50, qRgb(255, 128, 0)}},
+        {"Text=Known|Size=-5|", {""}},
+        {"Text=Known|X=99999999999999|", {""}},
+    };
+    for (const auto& row : rows) {
+      const RowName name(row.keys);
+      Stage stage;
+      stage.folder.put(u"language.ini"_s, "[Text]\nknown=Hello\nMainText=Own name\n");
+      stage.setTheme("[MainText]|" + row.keys + "|X=100|Y=50|Size=10|[Colors]|Own=200 100 50|");
+      stage.draw();
+      QCOMPARE(stage.surface.image(), pictureOf(row.look));
+      QCOMPARE(stage.steps(), 1);
+      QCOMPARE(stage.host.refreshes, 0);
+    }
   }
 
   void aFontThatChangesNothingKeepsWhatWasLeft() {

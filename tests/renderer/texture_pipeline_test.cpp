@@ -7,9 +7,11 @@
 #include <QTest>
 
 #include "renderer/recolouring.h"
+#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
+using namespace Qt::StringLiterals;
 using namespace renderer;
 
 namespace {
@@ -60,13 +62,13 @@ QRgb colorizedPlainly(QRgb pixel, double hue) {
 class FailingGraphics : public platform::Graphics {
  public:
   explicit FailingGraphics(QString step) : failing_(std::move(step)) {}
-  int Startup() override { return fails(QStringLiteral("Startup")) ? 1 : Graphics::Startup(); }
+  int Startup() override { return fails(u"Startup"_s) ? 1 : Graphics::Startup(); }
   int CreateFrom(platform::Surface& surface) override {
-    return fails(QStringLiteral("CreateFrom")) ? 1 : Graphics::CreateFrom(surface);
+    return fails(u"CreateFrom"_s) ? 1 : Graphics::CreateFrom(surface);
   }
-  int Delete() override { return fails(QStringLiteral("Delete")) ? 1 : Graphics::Delete(); }
+  int Delete() override { return fails(u"Delete"_s) ? 1 : Graphics::Delete(); }
   void Shutdown() override {
-    fails(QStringLiteral("Shutdown"));
+    fails(u"Shutdown"_s);
     Graphics::Shutdown();
   }
   QStringList steps;
@@ -85,36 +87,12 @@ class TexturePipelineTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void colorizedAsTheFormulasTell_data() {
-    QTest::addColumn<QString>("color");
+  void colorizedAsTheFormulasTell() {
     for (const char* color : {"255 0 0", "0 255 0", "0 0 255", "71 175 247", "230 230 95", "1 0 2", "128 128 128",
                               "300 -20 1000.5", "250 3 4", "0 0 0", "100000 50000.1 0", "255 127.5 0", "3 9 18",
                               "0 255 255", "255 255 0", "255 0 255", "220 9 99"}) {
-      QTest::newRow(color) << QString::fromLatin1(color);
-    }
-  }
-
-  void colorizedAsTheFormulasTell() {
-    QFETCH(QString, color);
-    const QStringList fields = color.split(u' ');
-    const ColorNumbers numbers{fields[0].toFloat(), fields[1].toFloat(), fields[2].toFloat()};
-    const double hue = shadeOf(double(numbers.R), double(numbers.G), double(numbers.B)).h;
-    // Each pair of largest and smallest channel, the channels in turn the largest.
-    QImage picture(256 * 3, 256, QImage::Format_ARGB32);
-    for (int max = 0; max < 256; ++max) {
-      for (int min = 0; min < 256; ++min) {
-        const int middle = (max + min) / 2;
-        picture.setPixel(max, min, qRgba(max, min, middle, 255));
-        picture.setPixel(max + 256, min, qRgba(min, middle, max, 255 - min));
-        picture.setPixel(max + 512, min, qRgba(middle, max, min, 1));
-      }
-    }
-    const QImage before = picture.copy();
-    Colorize(picture, numbers);
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) {
-        if (picture.pixel(x, y) != colorizedPlainly(before.pixel(x, y), hue)) QFAIL(qPrintable(QString::number(x)));
-      }
+      const RowName name(color);
+      compareWithTheFormulas(QString::fromLatin1(color));
     }
   }
 
@@ -142,40 +120,60 @@ class TexturePipelineTest : public QObject {
     }
   }
 
-  void failingSessions_data() {
-    QTest::addColumn<QString>("steps");
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<bool>("draws");
-    QTest::newRow("none") << QStringLiteral("Startup CreateFrom Delete Shutdown") << QString() << true;
-    QTest::newRow("Startup") << QStringLiteral("Startup Shutdown") << QStringLiteral("GDI+ could not be initialized")
-                             << false;
-    QTest::newRow("CreateFrom") << QStringLiteral("Startup CreateFrom Shutdown")
-                                << QStringLiteral("Graphics object could not be created") << false;
-    QTest::newRow("Delete") << QStringLiteral("Startup CreateFrom Delete Shutdown")
-                            << QStringLiteral("Graphics object could not be deleted") << true;
+  void failingSessions() {
+    const struct {
+      QString step, steps, message;
+      bool draws;
+    } rows[] = {
+        {u"none"_s, u"Startup CreateFrom Delete Shutdown"_s, {}, true},
+        {u"Startup"_s, u"Startup Shutdown"_s, u"GDI+ could not be initialized"_s, false},
+        {u"CreateFrom"_s, u"Startup CreateFrom Shutdown"_s, u"Graphics object could not be created"_s, false},
+        {u"Delete"_s, u"Startup CreateFrom Delete Shutdown"_s, u"Graphics object could not be deleted"_s, true},
+    };
+    for (const auto& row : rows) {
+      const RowName name(row.step.toLatin1());
+      Stage stage;
+      stage.surface.Wipe(Qt::white);
+      FailingGraphics graphics(row.step);
+      const auto drawn = [&](const QString& file) {
+        graphics.steps.clear();
+        const auto result =
+            DrawTexture(stage.surface, file, QString(), 3, 4, -1, 0, u"0 0 0"_s, NoIntensity, graphics, stage.boxes);
+        return result.outcome == TextureOutcome::Drawn;
+      };
+      QVERIFY(!drawn(QString()));
+      QVERIFY(graphics.steps.isEmpty() && stage.boxes.texts.isEmpty());
+      QCOMPARE(drawn(stage.folder.path(u"Red.png"_s)), row.draws);
+      QCOMPARE(graphics.steps.join(u' '), row.steps);
+      QCOMPARE(stage.boxes.texts.join(u' '), row.message);
+      QCOMPARE(inkOf(stage.surface.image()), row.draws ? QRect(3, 4, 8, 4) : QRect());
+      QVERIFY(!drawn(stage.folder.path(u"Torn.png"_s)));
+      QCOMPARE(graphics.steps.join(u' '), row.steps);
+    }
   }
 
-  void failingSessions() {
-    QFETCH(QString, steps);
-    QFETCH(QString, message);
-    QFETCH(bool, draws);
-    Stage stage;
-    stage.surface.Wipe(Qt::white);
-    FailingGraphics graphics(QString::fromLatin1(QTest::currentDataTag()));
-    const auto drawn = [&](const QString& file) {
-      graphics.steps.clear();
-      const auto result = DrawTexture(stage.surface, file, QString(), 3, 4, -1, 0, QStringLiteral("0 0 0"), NoIntensity,
-                                      graphics, stage.boxes);
-      return result.outcome == TextureOutcome::Drawn;
-    };
-    QVERIFY(!drawn(QString()));
-    QVERIFY(graphics.steps.isEmpty() && stage.boxes.texts.isEmpty());
-    QCOMPARE(drawn(stage.folder.path(QStringLiteral("Red.png"))), draws);
-    QCOMPARE(graphics.steps.join(u' '), steps);
-    QCOMPARE(stage.boxes.texts, message.isEmpty() ? QStringList() : QStringList(message));
-    QCOMPARE(inkOf(stage.surface.image()), draws ? QRect(3, 4, 8, 4) : QRect());
-    QVERIFY(!drawn(stage.folder.path(QStringLiteral("Torn.png"))));
-    QCOMPARE(graphics.steps.join(u' '), steps);
+ private:
+  static void compareWithTheFormulas(const QString& color) {
+    const QStringList fields = color.split(u' ');
+    const ColorNumbers numbers{fields[0].toFloat(), fields[1].toFloat(), fields[2].toFloat()};
+    const double hue = shadeOf(double(numbers.R), double(numbers.G), double(numbers.B)).h;
+    // Each pair of largest and smallest channel, the channels in turn the largest.
+    QImage picture(256 * 3, 256, QImage::Format_ARGB32);
+    for (int max = 0; max < 256; ++max) {
+      for (int min = 0; min < 256; ++min) {
+        const int middle = (max + min) / 2;
+        picture.setPixel(max, min, qRgba(max, min, middle, 255));
+        picture.setPixel(max + 256, min, qRgba(min, middle, max, 255 - min));
+        picture.setPixel(max + 512, min, qRgba(middle, max, min, 1));
+      }
+    }
+    const QImage before = picture.copy();
+    Colorize(picture, numbers);
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        if (picture.pixel(x, y) != colorizedPlainly(before.pixel(x, y), hue)) QFAIL(qPrintable(QString::number(x)));
+      }
+    }
   }
 };
 
