@@ -1,6 +1,8 @@
 #include "platform/files.h"
 
 #include <csignal>
+#include <new>
+#include <stdexcept>
 #include <sys/resource.h>
 
 #include <QDir>
@@ -8,7 +10,7 @@
 #include <QTest>
 
 #include "platform/failure.h"
-#include "support/folder.h"
+#include "support/theme_doubles.h"
 
 using namespace platform;
 using namespace Qt::StringLiterals;
@@ -95,6 +97,20 @@ class FilesTest : public QObject {
     QVERIFY(!FileExists(at(u"sub.ini"_s)));
     QCOMPARE(ListFiles(at({}), u".ini"_s), (QStringList{u"a.Ini"_s, u"B.INI"_s, u"b.ini"_s, u"_.ini"_s}));
     QCOMPARE(ListFiles(at(u"none"_s), u".ini"_s), QStringList());
+  }
+
+  void guardReportsFailures() {
+    support::Panel panel;
+    const QString step = u"Error while reading Theme"_s;
+    QVERIFY(Guarded(panel, step, [] {}));
+    // An exception that tells a fault of the program passes.
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, Guarded(panel, step, [] { throw std::logic_error(""); }));
+    QVERIFY(panel.texts.isEmpty());
+    QVERIFY(!Guarded(panel, step, [] { throw Failure(u"no file"_s); }));
+    QCOMPARE(panel.texts, QStringList{u"Error while reading Theme [no file]"_s});
+    QVERIFY(!Guarded(panel, step, [] { throw std::bad_alloc(); }));
+    QCOMPARE(panel.texts.size(), 2);
+    QVERIFY(!GuardedSilently([] { throw Failure(QString()); }));
   }
 
  private:

@@ -3,8 +3,10 @@
 #include <cmath>
 #include <limits>
 
+#include <QFontInfo>
 #include <QTest>
 
+#include "platform/fonts.h"
 #include "platform/graphics.h"
 #include "support/pictures.h"
 
@@ -132,6 +134,26 @@ class SurfaceTest : public QObject {
     QCOMPARE(graphics.Delete(), 0);
     graphics.DrawImage(plainPicture(5, 5, Red), 20, 20);
     QCOMPARE(inkOf(surface.image()), QRect(0, 0, 5, 5));
+  }
+
+  void facesOfTheTexts() {
+    const struct {
+      const char *face, *family;
+      bool black;
+    } rows[] = {
+        {"Eurostar Regular Extended", "DejaVu Sans", false},
+        {"Eurostar Black", "Lato", true},
+        {"arial black", "Lato", true},
+        {"Courier New", "Liberation Mono", false},
+        {"No such face at all", "Liberation Sans", false},
+        {"Liberation Serif", "Liberation Serif", false},
+    };
+    for (const auto& row : rows) {
+      const QFontInfo info(FaceFont(QString::fromLatin1(row.face)));
+      if (info.family().toLatin1().toLower() == QByteArray(row.face).toLower()) continue;  // the machine has the face
+      QCOMPARE(info.family(), QString::fromLatin1(row.family));
+      QCOMPARE(info.weight() >= QFont::Black, row.black);
+    }
   }
 };
 
