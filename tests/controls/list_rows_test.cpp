@@ -154,6 +154,13 @@ class ListRowsTest : public QObject {
     askForTip(window.view.viewport(), value);
     QTRY_COMPARE(QToolTip::text(), QString());
   }
+
+  void toolTipsAreNeverRichText() {
+    const QString shell = u"<span style=\"white-space:pre-wrap\">%1</span>"_s;
+    QCOMPARE(controls::PlainToolTip(u"a < b & c"_s), u"a < b & c"_s);
+    QCOMPARE(controls::PlainToolTip(u"<img src=\"x\">"_s), shell.arg(u"&lt;img src=&quot;x&quot;&gt;"_s));
+    QCOMPARE(controls::PlainToolTip(QString(100, u'<')), shell.arg(u"&lt;"_s.repeated(100)));
+  }
 };
 
 QTEST_MAIN(ListRowsTest)

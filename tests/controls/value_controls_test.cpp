@@ -4,6 +4,7 @@
 #include "controls/active_window.h"
 #include "controls/combo_box.h"
 #include "controls/number_bar.h"
+#include "controls/twips.h"
 #include "platform/failure.h"
 #include "support/row_name.h"
 
@@ -136,6 +137,17 @@ class ValueControlsTest : public QObject {
     window.bar.SetValue(-32768);
     QCOMPARE(window.bar.Value(), -10000);
     QCOMPARE(window.changes.size(), 1);
+  }
+
+  void edgesAreRounded() {
+    const auto place = [](double left, double width) {
+      const QRect pixels = controls::ToPixels({left, 0, width, 15});
+      return std::pair(pixels.left(), pixels.width());
+    };
+    QCOMPARE(place(120, 855), std::pair(8, 57));
+    QCOMPARE(place(10, 310), std::pair(1, 20));  // the width by the edges, not by itself
+    QCOMPARE(place(7.5, 15), std::pair(1, 1));
+    QCOMPARE(place(30, -45), std::pair(2, -3));
   }
 };
 

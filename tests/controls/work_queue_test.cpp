@@ -3,6 +3,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "controls/frame_pacer.h"
 #include "support/row_name.h"
 
 using controls::WorkQueue;
@@ -94,6 +95,20 @@ class WorkQueueTest : public QObject {
       QVERIFY(!bench.nested);
       QVERIFY(!bench.queue.Busy());
     }
+  }
+
+  void aBurstShowsItsFirstStepAtOnceAndItsLastInTheNextFrame() {
+    int step = 0;
+    QList<int> shown;
+    controls::FramePacer pacer([&] { shown << step; });
+    while (++step <= 100) pacer.Request();
+    QCOMPARE(shown.first(), 1);
+    QTRY_VERIFY(shown.last() > 100);
+    QTest::qWait(50);
+    const auto frames = shown.size();
+    QVERIFY(frames < 100);
+    pacer.Request();
+    QCOMPARE(shown.size(), frames + 1);
   }
 };
 
