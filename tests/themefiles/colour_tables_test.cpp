@@ -2,7 +2,6 @@
 
 #include <QTest>
 
-#include "support/row_name.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
@@ -62,27 +61,14 @@ class ColourTablesTest : public QObject {
     ModuleState state = readFrom(
         "[Colors]\nOwn=1 2 3\nP2Dark=0 0 0\nTwice=7 8 9\nTwice=0 0 0\nEmpty=\nEmpty=1 1 1\nColorDark=1 1 1\n", panel);
     state.ThemeColors[20] = {u"own"_s, u"4 5 6"_s};
-    const struct {
-      QString name, scheme, color;
-    } rows[] = {
-        {{}, u"Blue"_s, {}},
-        {u"colorlight"_s, u"Blue"_s, u"135 211 251"_s},
-        {u"COLORLIGHTEST"_s, u"Brown"_s, u"229 204 165"_s},
-        {u"ColorDark"_s, u"Pink"_s, u"255 175 247"_s},
-        {u"ColorLightest"_s, u"Black"_s, u"153 153 153"_s},
-        {u"ColorLightest"_s, u"Violet"_s, u"230 63 230"_s},
-        {u"ColorDark"_s, u"red"_s, {}},
-        {u"p1dark"_s, u"Blue"_s, {}},
-        {u"P1Dark"_s, u"Red"_s, u"71 175 247"_s},
-        {u"P2Dark"_s, u"Blue"_s, u"247 71 71"_s},
-        {u"Own"_s, u"Blue"_s, u"1 2 3"_s},
-        {u"own"_s, u"Blue"_s, u"4 5 6"_s},
-        {u"Twice"_s, u"Blue"_s, u"7 8 9"_s},
-        {u"Empty"_s, u"Blue"_s, {}},
-    };
-    for (const auto& row : rows) {
-      const RowName name(row.name.toLatin1());
-      QCOMPARE(ResolveColor(state, row.name, row.scheme), row.color);
+    // Name, scheme, colour.
+    for (const QString& row : {u"/Blue/"_s, u"colorlight/Blue/135 211 251"_s, u"COLORLIGHTEST/Brown/229 204 165"_s,
+                               u"ColorDark/Pink/255 175 247"_s, u"ColorLightest/Black/153 153 153"_s,
+                               u"ColorLightest/Violet/230 63 230"_s, u"ColorDark/Red/247 71 71"_s, u"ColorDark/red/"_s,
+                               u"p1dark/Blue/"_s, u"P1Dark/Red/71 175 247"_s, u"P2Dark/Blue/247 71 71"_s,
+                               u"Own/Blue/1 2 3"_s, u"own/Blue/4 5 6"_s, u"Twice/Blue/7 8 9"_s, u"Empty/Blue/"_s}) {
+      const QStringList parts = row.split(u'/');
+      QVERIFY2(ResolveColor(state, parts[0], parts[1]) == parts[2], qPrintable(row));
     }
   }
 

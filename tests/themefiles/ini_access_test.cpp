@@ -3,7 +3,6 @@
 #include <QTest>
 
 #include "platform/failure.h"
-#include "support/row_name.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
@@ -87,27 +86,13 @@ class IniAccessTest : public QObject {
     Folder folder;
     const QByteArray before = linesOf("[S]|k=v|", "\n");
     folder.put(Name, before);
-    const QString omega = u"\u03A9"_s;
-    const struct {
-      const char* name;
-      QString section, key, value;
-    } rows[] = {
-        {"letter outside the code page", Section, Key, omega},
-        {"in a key", Section, omega, {}},
-        {"in a section", omega, Key, {}},
-        {"LF", Section, Key, u"a\nb=c"_s},
-        {"CR", Section, Key, u"a\r"_s},
-        {"CR in a key", Section, u"a\r"_s, u"c"_s},
-        {"NUL", Section, Key, QString(QChar(0))},
-        {"sign in a key", Section, u"a=b"_s, u"c"_s},
-        {"comment for a key", Section, u" ;a"_s, u"c"_s},
-        {"no key", Section, u" "_s, u"c"_s},
-        {"bracket in a section", u"S]"_s, Key, u"c"_s},
-    };
-    for (const auto& row : rows) {
-      const RowName name(row.name);
-      PutINI(row.section, row.key, row.value, folder.path(Name));
-      QVERIFY(!putChecked(row.section, row.key, row.value, folder.path(Name)));
+    // Section/key/value: letters outside the code page, line ends, NUL, and names that could not be found again.
+    for (const QString& line :
+         {u"S/k/\u03A9"_s, u"S/\u03A9/"_s, u"\u03A9/k/"_s, u"S/k/a\nb=c"_s, u"S/k/a\r"_s, u"S/a\r/c"_s, u"S/k/\0"_s,
+          u"S/a=b/c"_s, u"S/[a/c"_s, u"S/ ;a/c"_s, u"S/ /c"_s, u"S]/k/c"_s}) {
+      const QStringList parts = line.split(u'/');
+      PutINI(parts[0], parts[1], parts[2], folder.path(Name));
+      QVERIFY2(!putChecked(parts[0], parts[1], parts[2], folder.path(Name)), qPrintable(line));
       QCOMPARE(folder.get(Name), before);
     }
   }

@@ -49,8 +49,7 @@ class ScreenTableTest : public QObject {
          u"Options/OptionsA"_s},
         {"name in no row is the stem", u"Stat"_s, "[StatMain]|[StatA]|[StatDetail]|[StatB]", u"StatMain/StatA"_s},
         {"no section", u"Check Popup"_s, "[Main]", {}},
-        {"LF", u"Stats Main"_s, "[StatMain]\n[StatMainA]\n\n[StatDetail]", u"StatMain/StatMainA"_s},
-        {"CR", u"Stats Detail"_s, "x\r[StatDetail]\r[StatDetailA]\r\r[StatMain]\r[StatDetailB]",
+        {"every line end", u"Stats Detail"_s, "x\r[StatDetail]\n[StatDetailA]\r\r[StatMain]\r[StatDetailB]",
          u"StatDetail/StatDetailA"_s},
     };
     for (const auto& row : rows) {
