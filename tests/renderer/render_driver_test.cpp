@@ -10,8 +10,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct GivenUp {};
-
 const QByteArray Screen =
     "[MainBackground]|Tex=Blue|[MainStatic]|Tex=Half|Color=P1Dark|X=9|Y=9|W=300|H=200|[MainText]|Size=20|"
     "[MainButton1]|Tex=Red|Color=P1Dark|DColor=P1Dark|X=100|Y=100|W=50|H=20|SelectH=40|[MainButton2]|Tex=Red|"
@@ -90,28 +88,6 @@ class RenderDriverTest : public QObject {
     stage.draw();
     QVERIFY(stage.host.buttons.isEmpty() && !stage.host.buttonsVisible && !stage.state.ButtonListFilled);
     QCOMPARE(int(stage.state.SelectedButton), 1);
-  }
-
-  void aRenderGivenUpLeavesNothingBehind() {
-    Stage whole;
-    setScreen(whole);
-    whole.draw();
-    QVERIFY(whole.host.yields > 10);
-    for (int k = 1; k <= whole.host.yields; ++k) {
-      Stage stage;
-      setScreen(stage);
-      stage.host.yielded = [&] {
-        if (stage.host.yields == k) throw GivenUp();
-      };
-      QVERIFY_THROWS_EXCEPTION(GivenUp, stage.draw());
-      stage.host.yielded = nullptr;
-      stage.draw();
-      QCOMPARE(stage.surface.image(), whole.surface.image());
-      QCOMPARE(stage.host.buttons, whole.host.buttons);
-      QCOMPARE(stage.state.ButtonCount, whole.state.ButtonCount);
-      QCOMPARE(stage.account.Objects.size(), whole.account.Objects.size());
-      QCOMPARE(stage.account.Missing.size(), whole.account.Missing.size());
-    }
   }
 };
 

@@ -21,59 +21,22 @@ class StaticObjectsTest : public QObject {
   void statics() {
     const QRect place(10, 20, 5, 6);
     const QRect natural(10, 20, 8, 4);
-    const struct {
-      QByteArray keys;  // in front of the plain ones: the first of two equal keys counts
-      QRect ink;
-      QRgb color = Red;  // of the ink's corners
-      int steps = 1;
-    } rows[] = {
-        {"", place},
-        {"TYPE=Colorized2|", place},
-        {"type=colorized|", place, qRgb(0, 151, 255)},
-        {"TYPE=Font Black|Tex=Black|", place, qRgb(71, 175, 247)},
-        {"TYPE=Font Black|", place, qRgb(255, 175, 247)},  // ORs
-        {"TYPE=FONT BLACK|Tex=Black|Color=colorLIGHT|", place, qRgb(135, 211, 251)},
-        {"TYPE=FONT BLACK|Tex=Black|Color=Bright|", {}},
-        {"Tex=Half|", place, qRgb(127, 127, 127)},
-        {"X=9.5|Y=20.5|W=4.5|H=6.5|", QRect(10, 20, 4, 6)},  // a half goes to the even
-        {"X=-3|Y=-2|", QRect(0, 0, 2, 4)},
-        {"W=-1|", natural},
-        {"H=-1.4|", natural},
-        {"X=-1|", QRect(0, 0, 8, 4)},
-        {"Y=-1|", QRect(0, 0, 8, 4)},
-        {"X=32767.5|", {}, Red, 0},
-        {"Y=32767.5|", {}, Red, 0},
-        {"W=32767.5|", {}, Red, 0},
-        {"H=32767.5|", {}, Red, 0},
-        {"W=|", {}},
-        {"W=|H=|", {}},
-        {"W=-2|", {}},
-        {"Color=|", {}},
-        {"Color=p1dark|TYPE=Plain|", {}},
-        {"Tex=Torn|", {}},
-        {"Tex=NoFile|", {}, Red, 0},
-        {"Tex=Read|", {}, Red, 0},
-    };
-    for (const auto& row : rows) {
-      const RowName name(row.keys);
-      Stage stage;
-      stage.setTheme("[mainSongVideoIcon]|" + row.keys +
-                     "Tex=Red|Color=P1Dark|X=10|Y=20|W=5|H=6|[Colors]|Own=1 2 3|Bright=300 0 0|");
-      stage.draw();
-      QCOMPARE(inkOf(stage.surface.image()), row.ink);
-      if (!row.ink.isEmpty()) {
-        QCOMPARE(stage.pixel(row.ink.left(), row.ink.top()), row.color);
-        QCOMPARE(stage.pixel(row.ink.right(), row.ink.bottom()), row.color);
-      }
-      QCOMPARE(stage.steps(), row.steps);
-      QCOMPARE(stage.host.refreshes, row.steps);
-      QCOMPARE(stage.account.Objects.empty(), row.ink.isEmpty());
-      // Besides the screen's background exactly the static that didn't show is accounted.
-      QCOMPARE(stage.account.Missing.size(), std::size_t(row.ink.isEmpty() ? 2 : 1));
-      const bool tooLarge = row.keys.contains("32767.5");
-      QCOMPARE(stage.panel.texts.size(), tooLarge ? 1 : 0);
-      const QString head = QString::fromLatin1("Error while drawing Static! [mainSongVideoIcon: " + row.keys.left(9));
-      QVERIFY(!tooLarge || stage.panel.texts[0].startsWith(head));
+    for (const char* keys : {"", "TYPE=Colorized2|"}) compare(keys, place, Red);
+    compare("type=colorized|", place, qRgb(0, 151, 255));
+    compare("TYPE=Font Black|Tex=Black|", place, qRgb(71, 175, 247));
+    compare("TYPE=Font Black|", place, qRgb(255, 175, 247));  // ORs
+    compare("TYPE=FONT BLACK|Tex=Black|Color=colorLIGHT|", place, qRgb(135, 211, 251));
+    compare("Tex=Half|", place, qRgb(127, 127, 127));
+    compare("X=9.5|Y=20.5|W=4.5|H=6.5|", QRect(10, 20, 4, 6), Red);  // a half goes to the even
+    compare("X=-3|Y=-2|", QRect(0, 0, 2, 4), Red);
+    for (const char* keys : {"W=-1|", "H=-1.4|"}) compare(keys, natural, Red);
+    for (const char* keys : {"X=-1|", "Y=-1|"}) compare(keys, QRect(QPoint(0, 0), natural.size()), Red);
+    for (const char* keys : {"W=|", "W=|H=|", "W=-2|", "Color=|", "Color=p1dark|TYPE=Plain|",
+                             "TYPE=FONT BLACK|Tex=Black|Color=Bright|", "Tex=Torn|"}) {
+      compare(keys, {}, 0);
+    }
+    for (const char* keys : {"X=32767.5|", "Y=32767.5|", "W=32767.5|", "H=32767.5|", "Tex=NoFile|", "Tex=Read|"}) {
+      compare(keys, {}, 0, 0);
     }
   }
 
@@ -121,6 +84,29 @@ class StaticObjectsTest : public QObject {
       QCOMPARE(stage.steps(), row.steps);
       QVERIFY(!stage.host.barVisible);
     }
+  }
+
+ private:
+  /// Draws a static with the keys in front of plain ones; the first of two equal keys counts.
+  static void compare(const QByteArray& keys, const QRect& ink, QRgb corners, int steps = 1) {
+    const RowName name(keys);
+    Stage stage;
+    stage.setTheme("[mainSongVideoIcon]|" + keys +
+                   "Tex=Red|Color=P1Dark|X=10|Y=20|W=5|H=6|[Colors]|Own=1 2 3|Bright=300 0 0|");
+    stage.draw();
+    QCOMPARE(inkOf(stage.surface.image()), ink);
+    for (const QPoint& corner : {ink.topLeft(), ink.bottomRight()}) {
+      if (!ink.isEmpty()) QCOMPARE(stage.pixel(corner.x(), corner.y()), corners);
+    }
+    QCOMPARE(stage.steps(), steps);
+    QCOMPARE(stage.host.refreshes, steps);
+    QCOMPARE(stage.account.Objects.empty(), ink.isEmpty());
+    // Besides the screen's background exactly the static that didn't show is accounted.
+    QCOMPARE(stage.account.Missing.size(), std::size_t(ink.isEmpty() ? 2 : 1));
+    const bool tooLarge = keys.contains("32767.5");
+    QCOMPARE(stage.panel.texts.size(), tooLarge ? 1 : 0);
+    const QString head = QString::fromLatin1("Error while drawing Static! [mainSongVideoIcon: " + keys.left(9));
+    QVERIFY(!tooLarge || stage.panel.texts[0].startsWith(head));
   }
 };
 
