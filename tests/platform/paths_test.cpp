@@ -22,20 +22,15 @@ class PathsTest : public QObject {
   }
 
   void mapping() {
-    for (const auto& [path, native] : std::initializer_list<std::pair<QString, QString>>{
-             {u"\\Themes\\Blue.INI"_s, u"/Themes/Blue.INI"_s},
-             {u"\\\\Themes\\/\\skins\\\\"_s, u"/Themes/skins/"_s},
-             {u"\\themes\\blue.ini"_s, u"/Themes/Blue.INI"_s},
-             {u"\\THEMES\\SKINS\\A.PNG"_s, u"/Themes/skins/a.png"_s},
-             {u"\\themes\\New.ini"_s, u"/Themes/New.ini"_s},
-             {u"\\Nowhere\\Themes\\blue.ini"_s, u"/Nowhere/Themes/blue.ini"_s},
-             {u"\\Themes\\..\\themes\\blue.ini"_s, u"/Themes/../Themes/Blue.INI"_s},
-             // The exact name first, else the first in byte order.
-             {u"\\twins\\Case.ini"_s, u"/Twins/Case.ini"_s},
-             {u"\\twins\\cAsE.ini"_s, u"/Twins/CASE.ini"_s},
-             {u"\\twins\\CASE.TXT"_s, u"/Twins/case.txt"_s},
-         }) {
-      QCOMPARE(NativePath(ProgramPath(root_) + path), root_ + native);
+    // A path, and what it is on the disk; of twins the exact name is found first, else the first in byte order.
+    for (const char* row :
+         {"\\Themes\\Blue.INI /Themes/Blue.INI", "\\\\Themes\\/\\skins\\\\ /Themes/skins/",
+          "\\themes\\blue.ini /Themes/Blue.INI", "\\THEMES\\SKINS\\A.PNG /Themes/skins/a.png",
+          "\\themes\\New.ini /Themes/New.ini", "\\Nowhere\\Themes\\blue.ini /Nowhere/Themes/blue.ini",
+          "\\Themes\\..\\themes\\blue.ini /Themes/../Themes/Blue.INI", "\\twins\\Case.ini /Twins/Case.ini",
+          "\\twins\\cAsE.ini /Twins/CASE.ini", "\\twins\\CASE.TXT /Twins/case.txt"}) {
+      const QStringList paths = QString::fromLatin1(row).split(u' ');
+      QCOMPARE(NativePath(ProgramPath(root_) + paths[0]), root_ + paths[1]);
     }
     const auto back = qScopeGuard([before = QDir::currentPath()] { QDir::setCurrent(before); });
     QDir::setCurrent(root_);

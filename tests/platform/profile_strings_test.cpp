@@ -55,7 +55,8 @@ class ProfileStringsTest : public QObject {
                                  "[S]|k=  \"  v  \"   =>   v  ",
                                  "[S]|k=\"v' => \"v'",
                                  "[S]|k=''v'' => 'v'",
-                                 "[S]|k=a=b => a=b"};
+                                 "[S]|k=a=b => a=b",
+                                 "[S]|k=vv => vv"};
     CompareAll(texts, valueOfK);
     QCOMPARE(FindProfileValue("[S\xE4]\nk\xF6=v", " s\xC4 ", "  K\xD6"), QByteArray("v"));
     QCOMPARE(FindProfileValue("[S]\n#k=v", "S", "#k"), QByteArray("v"));
@@ -92,6 +93,8 @@ class ProfileStringsTest : public QObject {
     CompareAll(quoted, setTo(" \"v\" "));
     const char* const emptied[] = {"[S]|k=old| => [S]|k=|"};
     CompareAll(emptied, setTo(""));
+    const char* const untouched[] = {"[S]|k=1| => none"};
+    CompareAll(untouched, setTo("v\nj=1"));
   }
 
   void remove() {

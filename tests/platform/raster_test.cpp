@@ -7,7 +7,6 @@
 #include "platform/ramps.h"
 #include "platform/raster_pictures.h"
 #include "platform/raster_text.h"
-#include "support/row_name.h"
 
 using namespace platform;
 
@@ -16,8 +15,7 @@ namespace {
 constexpr QRgb Ground = qRgb(255, 255, 255);
 constexpr QRgb Edge = qRgb(10, 20, 30);
 constexpr QRgb Inside = qRgb(200, 150, 100);
-
-using Drawing = std::function<void(Raster&)>;
+constexpr QRgb Untouched = qRgb(7, 7, 7);
 
 /// A line of letters for each row: # edge, o inside, . untouched, a blank for a transparent pixel.
 QByteArrayList letters(const Raster& raster) {
@@ -33,10 +31,23 @@ QByteArrayList letters(const Raster& raster) {
   return rows;
 }
 
+QByteArrayList drawn(const std::function<void(Raster&)>& draw, int width, int height) {
+  Raster raster(QSize(width, height), Ground);
+  draw(raster);
+  return letters(raster);
+}
+
 QList<int> reds(const Raster& raster, const QPoint& first, const QPoint& step, int count) {
   QList<int> channels;
   for (int i = 0; i < count; ++i) channels << qRed(raster.image().pixel(first + i * step));
   return channels;
+}
+
+/// The levels from the top left pixel on as far as a ramp reaches.
+QList<int> levels(const Raster& raster, Direction direction) {
+  const QPoint step = direction == Direction::LeftToRight ? QPoint(1, 0) : QPoint(0, 1);
+  const QList<int> all = reds(raster, QPoint(0, 0), step, raster.Width());
+  return all.first(all.indexOf(qRed(Untouched)));
 }
 
 QImage picture(const QList<QRgb>& pixels, int width) {
@@ -52,94 +63,58 @@ class RasterTest : public QObject {
 
  private Q_SLOTS:
   void shapes() {
+    QCOMPARE(drawn([](Raster& raster) { raster.Rectangle(9, 5, 1, 1, Edge, Inside); }, 10, 6),
+             (QByteArrayList{"..........", ".########.", ".#oooooo#.", ".#oooooo#.", ".########.", ".........."}));
     const QByteArray all = ".#oooooooooo#.";
-    const QByteArrayList oneOff = {".#####.", "#.....#", "#.....#", "#.....#", ".#####.", "......."};
-    const auto outline = [](int diameter) {
-      return [diameter](Raster& raster) { raster.RoundRect(0, 0, 7, 5, diameter, Edge); };
-    };
-    const struct {
-      const char* name;
-      Drawing draw;
-      QByteArrayList expected;
-    } rows[] = {
-        {"rectangle",
-         [](Raster& raster) { raster.Rectangle(9, 5, 1, 1, Edge, Inside); },
-         {"..........", ".########.", ".#oooooo#.", ".#oooooo#.", ".########.", ".........."}},
-        {"round",
-         [](Raster& raster) { raster.RoundRect(1, 1, 13, 11, 6, Edge, Inside); },
-         {"..............", "...########...", "..#oooooooo#..", all, all, all, all, all, all, "..#oooooooo#..",
-          "...########...", ".............."}},
-        {"outline of 3", outline(3), oneOff},
-        {"outline of 5", outline(5), oneOff},
-        {"outline of -5", outline(-5), oneOff},
-        {"ellipse of 2",
-         [](Raster& raster) { raster.RoundRect(-2, -2, 4, 3, 2, Edge, Inside); },
-         {"ooo#..", "ooo#..", "####.."}},
-        {"capsule",
-         [](Raster& raster) { raster.RoundRect(0, 0, 12, 7, 100, Edge, Inside); },
-         {"....####....", ".###oooo###.", ".#oooooooo#.", "#oooooooooo#", ".#oooooooo#.", ".###oooo###.",
-          "....####...."}},
-        {"lines",
-         [](Raster& raster) {
-           raster.Line(1, 0, 6, 0, Edge);
-           raster.Line(6, 1, 1, 1, Edge);
-           raster.Line(0, 2, 0, 4, Edge);
-           raster.Line(3, 2, 6, 5, Edge);
-           raster.Line(2, 3, 2, 3, Edge);
-         },
-         {".#####.", "..#####", "#..#...", "#...#..", ".....#.", "......."}},
-        {"region",
-         [](Raster& raster) { raster.ClipToRoundRect(0, 0, 8, 6, 5); },
-         {" ..... ", ".......", ".......", ".......", " ..... ", "       "}},
-    };
-    for (const auto& row : rows) {
-      const support::RowName name(row.name);
-      Raster raster(QSize(int(row.expected[0].size()), int(row.expected.size())), Ground);
-      row.draw(raster);
-      QCOMPARE(letters(raster), row.expected);
+    QCOMPARE(drawn([](Raster& raster) { raster.RoundRect(1, 1, 13, 11, 6, Edge, Inside); }, 14, 12),
+             (QByteArrayList{"..............", "...########...", "..#oooooooo#..", all, all, all, all, all, all,
+                             "..#oooooooo#..", "...########...", ".............."}));
+    for (const int diameter : {3, 4, 5, -5}) {
+      QCOMPARE(drawn([=](Raster& raster) { raster.RoundRect(0, 0, 7, 5, diameter, Edge); }, 7, 6),
+               (QByteArrayList{".#####.", "#.....#", "#.....#", "#.....#", ".#####.", "......."}));
     }
+    QCOMPARE(drawn([](Raster& raster) { raster.RoundRect(-2, -2, 4, 3, 2, Edge, Inside); }, 6, 3),
+             (QByteArrayList{"ooo#..", "ooo#..", "####.."}));
+    QCOMPARE(drawn([](Raster& raster) { raster.RoundRect(0, 0, 12, 7, 100, Edge, Inside); }, 12, 7),
+             (QByteArrayList{"....####....", ".###oooo###.", ".#oooooooo#.", "#oooooooooo#", ".#oooooooo#.",
+                             ".###oooo###.", "....####...."}));
+    const auto lines = [](Raster& raster) {
+      raster.Line(1, 0, 6, 0, Edge);
+      raster.Line(6, 1, 1, 1, Edge);
+      raster.Line(0, 2, 0, 4, Edge);
+      raster.Line(3, 2, 6, 5, Edge);
+      raster.Line(2, 3, 2, 3, Edge);
+    };
+    QCOMPARE(drawn(lines, 7, 6), (QByteArrayList{".#####.", "..#####", "#..#...", "#...#..", ".....#.", "......."}));
+    QCOMPARE(drawn([](Raster& raster) { raster.ClipToRoundRect(0, 0, 8, 6, 5); }, 7, 6),
+             (QByteArrayList{" ..... ", ".......", ".......", ".......", " ..... ", "       "}));
   }
 
   void ramps() {
-    constexpr QRgb black = qRgb(0, 0, 0);
-    constexpr QRgb white = qRgb(255, 255, 255);
-    constexpr QPoint across(1, 0);
-    constexpr QPoint down(0, 1);
-    const auto fill = [](int left, int top, int right, int bottom, int first, int second, Direction direction) {
-      return [=](Raster& raster) {
-        GradientFill(raster, left, top, right, bottom, qRgb(first, 0, 0), qRgb(second, 0, 0), direction);
-      };
+    using Levels = QList<int>;
+    constexpr auto across = Direction::LeftToRight;
+    constexpr auto down = Direction::TopToBottom;
+    const auto filled = [](int left, int top, int right, int bottom, int first, int second, Direction direction) {
+      Raster raster(QSize(12, 12), Untouched);
+      GradientFill(raster, left, top, right, bottom, qRgb(first, 0, 0), qRgb(second, 0, 0), direction);
+      return levels(raster, direction);
     };
-    const auto ramp = [](int x, int y, int width, int height, QRgb start, QRgb end, int kind) {
-      return [=](Raster& raster) { PaintRamp(raster, x, y, width, height, start, end, kind); };
+    QCOMPARE(filled(0, 0, 8, 1, 0, 255, across), (Levels{0, 31, 63, 95, 127, 159, 191, 223}));
+    QCOMPARE(filled(0, 0, 1, 5, 244, 114, down), (Levels{244, 218, 192, 166, 140}));
+    QCOMPARE(filled(0, 4, 3, 0, 100, 200, down), (Levels{200, 175, 150, 125}));
+    QCOMPARE(filled(-2, 0, 2, 1, 0, 200, across), (Levels{100, 150}));
+    const auto ramp = [](const QRect& area, int start, int end, int kind, Direction direction) {
+      Raster raster(QSize(12, 12), Untouched);
+      PaintRamp(raster, area.x(), area.y(), area.width(), area.height(), qRgb(start, 0, 0), qRgb(end, 0, 0), kind);
+      return levels(raster, direction);
     };
-    const struct {
-      const char* name;
-      Drawing draw;
-      QPoint step;
-      QList<int> expected;
-    } rows[] = {
-        {"doesn't reach its end",
-         fill(0, 0, 8, 1, 0, 255, Direction::LeftToRight),
-         across,
-         {0, 31, 63, 95, 127, 159, 191, 223, 7}},
-        {"falls", fill(0, 0, 1, 5, 244, 114, Direction::TopToBottom), down, {244, 218, 192, 166, 140, 7}},
-        {"backwards", fill(0, 4, 3, 0, 100, 200, Direction::TopToBottom), down, {200, 175, 150, 125, 7}},
-        {"starts outside", fill(-2, 0, 2, 1, 0, 200, Direction::LeftToRight), across, {100, 150, 7}},
-        {"reaches its end", ramp(0, 0, 5, 1, black, white, 1), across, {0, 63, 127, 191, 255, 7}},
-        {"cut towards zero", ramp(0, 0, 1, 3, qRgb(10, 0, 0), qRgb(5, 0, 0), 3), down, {10, 8, 5, 7}},
-        {"one entry", ramp(0, 0, 1, 4, qRgb(201, 0, 0), qRgb(101, 0, 0), 1), down, {150, 150, 150, 150, 7}},
-        {"from the top left", ramp(0, -1, 3, 3, black, qRgb(4, 0, 0), 5), across, {1, 2, 3, 7}},
-        {"from the bottom left, across", ramp(0, 0, 3, 3, black, qRgb(4, 0, 0), 6), across, {2, 3, 4, 7}},
-        {"from the bottom left, down", ramp(0, 0, 3, 3, black, qRgb(4, 0, 0), 6), down, {2, 1, 0, 7}},
-        {"no such kind", ramp(0, 0, 2, 2, white, white, 7), across, {0, 0, 7}},
-    };
-    for (const auto& row : rows) {
-      const support::RowName name(row.name);
-      Raster raster(QSize(12, 12), qRgb(7, 7, 7));
-      row.draw(raster);
-      QCOMPARE(reds(raster, QPoint(0, 0), row.step, int(row.expected.size())), row.expected);
-    }
+    QCOMPARE(ramp({0, 0, 5, 1}, 0, 255, 1, across), (Levels{0, 63, 127, 191, 255}));
+    QCOMPARE(ramp({0, 0, 1, 3}, 10, 5, 3, down), (Levels{10, 8, 5}));
+    QCOMPARE(ramp({0, 0, 1, 4}, 201, 101, 1, down), (Levels{150, 150, 150, 150}));
+    QCOMPARE(ramp({0, -1, 3, 3}, 0, 4, 5, across), (Levels{1, 2, 3}));
+    QCOMPARE(ramp({0, 0, 3, 3}, 0, 4, 6, across), (Levels{2, 3, 4}));
+    QCOMPARE(ramp({0, 0, 3, 3}, 0, 4, 6, down), (Levels{2, 1, 0}));
+    QCOMPARE(ramp({0, 0, 2, 2}, 255, 255, 0, across), (Levels{0, 0}));
   }
 
   void pixelRowsKeepTheirBytes() {
