@@ -6,7 +6,6 @@
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "platform/failure.h"
-#include "support/row_name.h"
 
 using controls::Cause;
 using controls::ListBox;
@@ -116,32 +115,25 @@ class ListRowsTest : public QObject {
   }
 
   void keysPickARow() {
-    const struct {
-      const char* name;
-      int before;
-      Qt::Key key;
-      int after, clicks;
-    } rows[] = {
-        {"down from none", -1, Qt::Key_Down, 0, 1},
-        {"down", 3, Qt::Key_Down, 4, 1},
-        {"up at the head", 0, Qt::Key_Up, 0, 0},
-        {"end", 3, Qt::Key_End, Rows - 1, 1},
-        {"page down near the end", Rows - 2, Qt::Key_PageDown, Rows - 1, 1},
-        {"letter", 3, Qt::Key_D, 6, 1},
-        {"letter of the first row, from none", -1, Qt::Key_A, 0, 1},
-        {"letter of none", 3, Qt::Key_Z, 3, 0},
-    };
-    for (const auto& row : rows) {
-      const support::RowName name(row.name);
+    const auto picked = [](int before, Qt::Key key) {
       Window window;
       window.box.setFocus();
       window.view.setFocus();
-      if (row.before >= 0) window.box.setCurrentRow(row.before);
-      window.view.SelectRow(row.before);
-      QTest::keyClick(&window.box, row.key);
-      QTest::keyClick(&window.view, row.key);
-      QCOMPARE(window.state(), (QList<qsizetype>{row.after, row.clicks, row.after, row.clicks}));
-    }
+      if (before >= 0) window.box.setCurrentRow(before);
+      window.view.SelectRow(before);
+      QTest::keyClick(&window.box, key);
+      QTest::keyClick(&window.view, key);
+      return window.state();
+    };
+    const auto both = [](int row, int clicks) { return QList<qsizetype>{row, clicks, row, clicks}; };
+    QCOMPARE(picked(-1, Qt::Key_Down), both(0, 1));
+    QCOMPARE(picked(3, Qt::Key_Down), both(4, 1));
+    QCOMPARE(picked(0, Qt::Key_Up), both(0, 0));
+    QCOMPARE(picked(3, Qt::Key_End), both(Rows - 1, 1));
+    QCOMPARE(picked(Rows - 2, Qt::Key_PageDown), both(Rows - 1, 1));
+    QCOMPARE(picked(3, Qt::Key_D), both(6, 1));
+    QCOMPARE(picked(-1, Qt::Key_A), both(0, 1));
+    QCOMPARE(picked(3, Qt::Key_Z), both(3, 0));
   }
 
   void cutValueShowsWholeAsPlainText() {

@@ -41,25 +41,19 @@ class NativeDialogsTest : public QObject {
   }
 
   void boxAnswers() {
-    const struct {
-      BoxKind kind;
-      Qt::Key key;
-      BoxAnswer answer;
-    } rows[] = {
-        {BoxKind::Error, Qt::Key_Return, BoxAnswer::Ok},
-        {BoxKind::YesNoDefaultNo, Qt::Key_Return, BoxAnswer::No},
-        {BoxKind::YesNoDefaultNo, Qt::Key_Escape, BoxAnswer::No},
-        {BoxKind::YesNoDefaultNo, Qt::Key_Y, BoxAnswer::Yes},
-    };
-    for (const auto& row : rows) {
-      WhenShown<QMessageBox>([&](QMessageBox& box) {
+    const auto answer = [](BoxKind kind, Qt::Key key) {
+      WhenShown<QMessageBox>([key](QMessageBox& box) {
         QCOMPARE(box.windowTitle(), u"Cantorama Theme Edit"_s);
         QCOMPARE(box.textFormat(), Qt::PlainText);
-        if (row.key == Qt::Key_Y) return box.button(QMessageBox::Yes)->click();
-        QTest::keyClick(&box, row.key);
+        if (key == Qt::Key_Y) return box.button(QMessageBox::Yes)->click();
+        QTest::keyClick(&box, key);
       });
-      QCOMPARE(NativeDialogs().MessageBox(nullptr, u"text"_s, QString(), row.kind), row.answer);
-    }
+      return NativeDialogs().MessageBox(nullptr, u"text"_s, QString(), kind);
+    };
+    QCOMPARE(answer(BoxKind::Error, Qt::Key_Return), BoxAnswer::Ok);
+    QCOMPARE(answer(BoxKind::YesNoDefaultNo, Qt::Key_Return), BoxAnswer::No);
+    QCOMPARE(answer(BoxKind::YesNoDefaultNo, Qt::Key_Escape), BoxAnswer::No);
+    QCOMPARE(answer(BoxKind::YesNoDefaultNo, Qt::Key_Y), BoxAnswer::Yes);
   }
 
   void inputIsTakenAsTyped() {
