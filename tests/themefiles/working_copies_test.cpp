@@ -69,6 +69,8 @@ class WorkingCopiesTest : public QObject {
     QVERIFY(game.save());
     QCOMPARE(game.folder.get(Theme), "edited" + everyByte());
     QVERIFY(!game.state.Changed && game.state.ThemeOpened);
+    game.folder.put(Theme + Copy, "edited once more");
+    QVERIFY(game.save());
     QVERIFY(game.panel.texts.isEmpty());
     QVERIFY(!game.folder.has(Theme + Backup) && !game.folder.has(Theme + Older));
   }
