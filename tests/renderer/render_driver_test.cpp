@@ -8,20 +8,6 @@
 using namespace support;
 using namespace Qt::StringLiterals;
 
-namespace {
-
-const QByteArray Screen =
-    "[MainBackground]|Tex=Blue|[MainStatic]|Tex=Half|Color=P1Dark|X=9|Y=9|W=300|H=200|[MainText]|Size=20|"
-    "[MainButton1]|Tex=Red|Color=P1Dark|DColor=P1Dark|X=100|Y=100|W=50|H=20|SelectH=40|[MainButton2]|Tex=Red|"
-    "Color=P1Dark|DColor=P1Dark|X=200|Y=100|W=50|H=20|TEXTS=1|[MainButton3]|[Colors]|a=1 2 3|";
-
-void setScreen(Stage& stage) {
-  stage.setTheme(Screen);
-  stage.addToTheme("[MainButton2Text1]|X=1|Y=1|Size=10|Font=1|");
-}
-
-}  // namespace
-
 class RenderDriverTest : public QObject {
   Q_OBJECT
 
@@ -45,34 +31,33 @@ class RenderDriverTest : public QObject {
   }
 
   void passesByTheWordsOfAName() {
-    const struct {
-      const char* name;
-      int steps, buttons;
-    } rows[] = {
-        {"Main", 0, 0},           {"mainSTATICx", 1, 0},  {"mainText5", 1, 0},
-        {"MainStaticText", 2, 0}, {"MainTextures", 0, 0}, {"MainButton", 1, 1},
-        {"mainSelectX", 1, 1},    {"NameStatic", 2, 1},   {"MainButtonText1", 0, 0},
-        {"ScoreTextName1", 0, 0},
-    };
-    for (const auto& row : rows) {
-      const RowName name(row.name);
+    // How many passes draw the object, and whether it counts as a button.
+    for (const char* object :
+         {"Main 0 0", "mainSTATICx 1 0", "mainText5 1 0", "MainStaticText 2 0", "MainTextures 0 0", "MainButton 1 1",
+          "mainSelectX 1 1", "NameStatic 2 1", "MainButtonText1 0 0", "ScoreTextName1 0 0"}) {
+      const RowName name(object);
+      const QByteArrayList row = QByteArray(object).split(' ');
       Stage stage;
-      stage.setTheme(QByteArray("[") + row.name + "]|Tex=Red|Size=10|");
+      stage.setTheme('[' + row[0] + "]|Tex=Red|Size=10|");
       stage.draw();
-      QCOMPARE(stage.steps(), row.steps);
-      QCOMPARE(int(stage.state.ButtonCount), row.buttons);
+      QCOMPARE(stage.steps(), row[1].toInt());
+      QCOMPARE(int(stage.state.ButtonCount), row[2].toInt());
     }
   }
 
   void buttonList() {
     Stage stage;
-    setScreen(stage);
+    stage.setTheme("[MainText]|Size=20|[MainButton1]|Tex=Red|DColor=P1Dark|W=5|H=5|[MainButton2]|[MainButton3]|");
     stage.draw();
     const QStringList rows{u"Select Button 1"_s, u"Select Button 2"_s, u"Select Button 3"_s};
     QCOMPARE(stage.host.buttons, rows);
     QVERIFY(stage.state.ButtonListFilled && stage.host.buttonsVisible);
     QCOMPARE(stage.host.selections, 1);
     QCOMPARE(int(stage.state.SelectedButton), 1);
+
+    const std::size_t accounted = stage.account.Objects.size() + stage.account.Missing.size();
+    stage.draw();
+    QCOMPARE(stage.account.Objects.size() + stage.account.Missing.size(), accounted);
 
     // The pick of the user stands through later drawings, however many buttons there are then.
     stage.state.SelectedButton = 3;
