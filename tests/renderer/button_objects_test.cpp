@@ -40,7 +40,7 @@ class ButtonObjectsTest : public QObject {
       compare(keys, place);
     }
     compare("SelectH=9.5|", QRect(50, 100, 8, 10));
-    compare("SelectH=-1|X=40|", QRect(40, 100, 8, 4));
+    compare("SelectH=-1|X=40|W=5|", QRect(40, 100, 8, 4));
     for (const char* keys : {"Color=|", "TYPE=Font Black|Tex=Black|INT=9|"}) compare(keys, {});
     compare("Visible=0|", {}, 2, 2);
     for (const char* keys : {"Tex=|", "H=40000|", "SelectH=40000|"}) compare(keys, {}, 3, 2);
