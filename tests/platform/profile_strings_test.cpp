@@ -76,9 +76,6 @@ class ProfileStringsTest : public QObject {
   }
 
   void set() {
-    const auto setTo = [](const char* value) {
-      return [value](const QByteArray& file) { return SetProfileValue(file, "S", "k", value); };
-    };
     const char* const cases[] = {
         " => [S]|k=v|", "[S]|j=1| K =  old|l=2 => [S]|j=1| K =v|l=2", "[S]|k=v| => none",
         "[S]|k=1|k=2| => [S]|k=v|k=2|", "[S]|j=1|[S]|k=2| => [S]|j=1|k=v|[S]|k=2|",
@@ -88,13 +85,10 @@ class ProfileStringsTest : public QObject {
         "[S]|k=old => [S]|k=v", "[S]|j=1 => [S]|j=1|k=v|", "[T]|[S => [T]|[S|k=v|", "[T]|j=1 => [T]|j=1|[S]|k=v|",
         // New lines take the first line end of the file, a changed one keeps its own.
         "[T]\nj=1| => [T]\nj=1|[S]\nk=v\n", "[T]\r[S]\rj=1\r => [T]\r[S]\rj=1\rk=v\r", "[S]\nk=1|j=2 => [S]\nk=v|j=2"};
-    CompareAll(cases, setTo("v"));
-    const char* const quoted[] = {"[S]|k=old| => [S]|k= \"v\" |"};
-    CompareAll(quoted, setTo(" \"v\" "));
-    const char* const emptied[] = {"[S]|k=old| => [S]|k=|"};
-    CompareAll(emptied, setTo(""));
-    const char* const untouched[] = {"[S]|k=1| => none"};
-    CompareAll(untouched, setTo("v\nj=1"));
+    CompareAll(cases, [](const QByteArray& file) { return SetProfileValue(file, "S", "k", "v"); });
+    QCOMPARE(SetProfileValue("[S]\nk=old\n", "S", "k", " \"v\" "), QByteArray("[S]\nk= \"v\" \n"));
+    QCOMPARE(SetProfileValue("[S]\nk=old\n", "S", "k", ""), QByteArray("[S]\nk=\n"));
+    QVERIFY(!SetProfileValue("[S]\nk=1\n", "S", "k", "v\nj=1"));
   }
 
   void remove() {
