@@ -9,7 +9,8 @@
 namespace progressbar {
 
 /// A bar that shows how far a piece of work has come, with a caption. Every write of a member tells so by
-/// PropertyChanged, with the key under which the member is stored, and repaints the bar in the next frame of the screen.
+/// PropertyChanged, with the key under which the member is stored, and repaints the bar in the next frame of the
+/// screen.
 class ProgressBar : public QWidget {
   Q_OBJECT
 
