@@ -1,5 +1,7 @@
 #include "platform/fonts.h"
 
+#include <algorithm>
+
 #include <QFontInfo>
 
 namespace platform {
@@ -52,6 +54,17 @@ QFont ControlFont(const QString& face, int pixels) {
   QFont font = FaceFont(face);
   font.setPixelSize(pixels);
   return font;
+}
+
+QFont DrawnFont(const QFont& font) {
+  constexpr double LargestPoints = 2160;
+  QFont drawn = FaceFont(font.family());
+  if (drawn.weight() == QFont::Normal) drawn.setWeight(font.weight());
+  drawn.setItalic(font.italic());
+  drawn.setUnderline(font.underline());
+  if (font.pointSizeF() > 0) drawn.setPointSizeF(std::min(font.pointSizeF(), LargestPoints));
+  if (font.pixelSize() > 0) drawn.setPixelSize(font.pixelSize());
+  return drawn;
 }
 
 }  // namespace platform

@@ -12,4 +12,7 @@ QFont FaceFont(const QString& face);
 /// The font of a control: the face at a height in pixels.
 QFont ControlFont(const QString& face, int pixels);
 
+/// The font of a property as it is drawn: its face or what stands in for it, at its own size.
+QFont DrawnFont(const QFont& font);
+
 }  // namespace platform

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <iterator>
 
+#include "platform/fonts.h"
 #include "platform/numbers.h"
 #include "platform/raster_text.h"
 #include "platform/system_colors.h"
@@ -61,7 +62,7 @@ std::optional<QPoint> CaptionPlace(int alignment, const QSize& bar, const QSize&
 
 void PaintCaption(platform::Raster& raster, const Properties& bar, const QString& text) {
   if (text.isEmpty() || bar.TextEffect < 1 || bar.TextEffect > int(std::size(Effects))) return;
-  platform::TextPen pen(raster, bar.TextFont);
+  platform::TextPen pen(raster, platform::DrawnFont(bar.TextFont));
   const std::optional<QPoint> place = CaptionPlace(bar.TextAlignment, raster.rect().size(), pen.SizeOf(text));
   if (!place) return;
   const auto shown = [&](quint32 color) { return bar.Enabled ? color : GreyOf(color); };

@@ -1,11 +1,27 @@
 #include "progressbar/main_window_bar.h"
 
-#include "platform/fonts.h"
-#include "progressbar/stored_form.h"
+#include <QFont>
+
+#include "platform/property_bag_bytes.h"
+#include "platform/stored_values.h"
 
 namespace progressbar {
 
-platform::PropertyBag MainWindowBar() {
+namespace {
+
+constexpr QSize BarSize(801, 20);
+
+QFont captionFont() {
+  constexpr double Points = 8.25;
+  QFont font;
+  font.setFamilies({QStringLiteral("Arial")});
+  font.setPointSizeF(Points);
+  return font;
+}
+
+}  // namespace
+
+QByteArray MainWindowBar() {
   const struct {
     QStringView key;
     QVariant value;
@@ -16,14 +32,14 @@ platform::PropertyBag MainWindowBar() {
       {u"Text", QStringLiteral("Percent")},
       {u"TextEffectColor", 0xFFFFFFU},
       {u"TextEffect", 5},
-      {u"TextFont", platform::ControlFont(QStringLiteral("Arial"), 11)},
+      {u"TextFont", captionFont()},
       {u"PBSCustomeColor2", 0xC0C0C0U},
       {u"PBSCustomeColor1", 0x404040U},
   };
   platform::PropertyBag bag;
-  StoreSize(bag, QSize(801, 20));
+  platform::StoreSize(bag, BarSize);
   for (const auto& [key, value] : stored) bag.WriteProperty(key.toString(), value, {});
-  return bag;
+  return platform::StoredBytes(bag);
 }
 
 }  // namespace progressbar

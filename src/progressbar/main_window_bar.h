@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/property_bag.h"
+#include <QByteArray>
 
 namespace progressbar {
 
 /// The stored bar of the main window: grey on light grey, 801 x 20 pixels, with a caption of its own.
-platform::PropertyBag MainWindowBar();
+QByteArray MainWindowBar();
 
 }  // namespace progressbar

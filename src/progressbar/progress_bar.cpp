@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QPainter>
 
+#include "platform/fonts.h"
 #include "progressbar/painting.h"
 
 namespace progressbar {
@@ -42,7 +43,7 @@ void ProgressBar::SetMin(int value) {
 }
 
 void ProgressBar::SetTextFont(const QFont& value) {
-  setFont(value);
+  setFont(platform::DrawnFont(value));
   write(state_.TextFont, value, u"TextFont");
 }
 

@@ -1,10 +1,10 @@
 #include "progressbar/stored_form.h"
 
-#include <cmath>
 #include <optional>
 #include <type_traits>
-#include <utility>
 
+#include "platform/property_bag_bytes.h"
+#include "platform/stored_values.h"
 #include "progressbar/progress_bar.h"
 
 namespace progressbar {
@@ -26,26 +26,12 @@ struct Member {
   void (*write)(ProgressBar& bar, const QVariant& value);
 };
 
-template <typename T>
-std::optional<T> As(const QVariant& value) {
-  bool fits = value.typeId() == qMetaTypeId<T>();
-  if (fits) return value.value<T>();
-  if constexpr (std::is_same_v<T, int> || std::is_same_v<T, quint32>) {
-    const qlonglong number = value.toLongLong(&fits);
-    if (fits && std::in_range<T>(number)) return static_cast<T>(number);
-  } else if constexpr (std::is_same_v<T, bool>) {
-    const qlonglong number = value.toLongLong(&fits);
-    if (fits) return number != 0;
-  }
-  return std::nullopt;
-}
-
 template <auto Get, auto Set>
 constexpr Member Stored(QStringView key, QVariant (*storedDefault)(const Ambient&)) {
   using T = std::remove_cvref_t<std::invoke_result_t<decltype(Get), const ProgressBar&>>;
   return {key, storedDefault, [](const ProgressBar& bar) { return QVariant::fromValue((bar.*Get)()); },
           [](ProgressBar& bar, const QVariant& value) {
-            if (const std::optional<T> written = As<T>(value)) (bar.*Set)(*written);
+            if (const std::optional<T> written = platform::StoredAs<T>(value)) (bar.*Set)(*written);
           }};
 }
 
@@ -83,25 +69,6 @@ constexpr Member Members[] = {
     Stored<&Bar::PBSCustomeColor1, &Bar::SetPBSCustomeColor1>(u"PBSCustomeColor1", Fixed<Black>),
 };
 
-constexpr double ExtentsPerPixel = 2540.0 / 96;
-constexpr QStringView ExtentX = u"_extentx";
-constexpr QStringView ExtentY = u"_extenty";
-
-int ToExtent(int pixels) {
-  return static_cast<int>(std::lround(pixels * ExtentsPerPixel));
-}
-int ToPixels(int extent) {
-  return static_cast<int>(std::lround(extent / ExtentsPerPixel));
-}
-
-/// The size in pixels; none when it isn't stored.
-std::optional<QSize> StoredSize(const platform::PropertyBag& bag) {
-  const std::optional<int> width = As<int>(bag.ReadProperty(ExtentX.toString(), {}));
-  const std::optional<int> height = As<int>(bag.ReadProperty(ExtentY.toString(), {}));
-  if (!width || !height) return std::nullopt;
-  return QSize(ToPixels(*width), ToPixels(*height));
-}
-
 }  // namespace
 
 void ReadProperties(ProgressBar& bar, const platform::PropertyBag& bag) {
@@ -109,20 +76,27 @@ void ReadProperties(ProgressBar& bar, const platform::PropertyBag& bag) {
   for (const Member& member : Members) {
     member.write(bar, bag.ReadProperty(member.key.toString(), member.storedDefault(ambient)));
   }
-  if (const std::optional<QSize> size = StoredSize(bag)) bar.resize(*size);
+  if (const std::optional<QSize> size = platform::StoredSize(bag)) bar.resize(*size);
+}
+
+bool ReadProperties(ProgressBar& bar, QByteArrayView bytes) {
+  const std::optional<platform::PropertyBag> bag = platform::BagOfBytes(bytes);
+  ReadProperties(bar, bag.value_or(platform::PropertyBag()));
+  return bag.has_value();
 }
 
 void WriteProperties(const ProgressBar& bar, platform::PropertyBag& bag) {
   const Ambient ambient{QString(), bar.AmbientFont()};
+  platform::StoreSize(bag, bar.size());
   for (const Member& member : Members) {
     bag.WriteProperty(member.key.toString(), member.read(bar), member.storedDefault(ambient));
   }
-  StoreSize(bag, bar.size());
 }
 
-void StoreSize(platform::PropertyBag& bag, const QSize& pixels) {
-  bag.WriteProperty(ExtentX.toString(), ToExtent(pixels.width()), {});
-  bag.WriteProperty(ExtentY.toString(), ToExtent(pixels.height()), {});
+QByteArray WriteProperties(const ProgressBar& bar) {
+  platform::PropertyBag bag;
+  WriteProperties(bar, bag);
+  return platform::StoredBytes(bag);
 }
 
 }  // namespace progressbar

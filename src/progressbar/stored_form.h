@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QSize>
+#include <QByteArray>
+#include <QByteArrayView>
 
 #include "platform/property_bag.h"
 
@@ -12,10 +13,11 @@ class ProgressBar;
 /// stored. A value that can't be read is passed over. The defaults of Text and TextFont are the bar's name and font of
 /// its place.
 void ReadProperties(ProgressBar& bar, const platform::PropertyBag& bag);
-/// Stores the members that differ from their stored defaults, in the same order, and the size.
-void WriteProperties(const ProgressBar& bar, platform::PropertyBag& bag);
+/// The same from the stored bytes of a bar; damaged ones count as an empty bag and give false.
+bool ReadProperties(ProgressBar& bar, QByteArrayView bytes);
 
-/// Stores the size in pixels, kept in hundredths of a millimetre at 96 pixels an inch.
-void StoreSize(platform::PropertyBag& bag, const QSize& pixels);
+/// Stores the size and the members that differ from their stored defaults, in the same order.
+void WriteProperties(const ProgressBar& bar, platform::PropertyBag& bag);
+QByteArray WriteProperties(const ProgressBar& bar);
 
 }  // namespace progressbar

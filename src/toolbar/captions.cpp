@@ -33,17 +33,6 @@ QString blanksBehind(const QString& text) {
 
 }  // namespace
 
-QFont DrawnFont(const QFont& font) {
-  constexpr double LargestPoints = 2160;
-  QFont drawn = platform::FaceFont(font.family());
-  if (drawn.weight() == QFont::Normal) drawn.setWeight(font.weight());
-  drawn.setItalic(font.italic());
-  drawn.setUnderline(font.underline());
-  if (font.pointSizeF() > 0) drawn.setPointSizeF(std::min(font.pointSizeF(), LargestPoints));
-  if (font.pixelSize() > 0) drawn.setPixelSize(font.pixelSize());
-  return drawn;
-}
-
 QStringList WrapCaption(const QString& caption, int maxWidth, const std::function<int(const QString&)>& textWidth) {
   const QString text = QString(caption).remove(QStringLiteral("\r\n"));
   if (text.isEmpty()) return {};
@@ -77,7 +66,7 @@ QStringList WrapCaption(const QString& caption, int maxWidth, const std::functio
 
 void DrawCaption(platform::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
                  int shift) {
-  const QFont drawn = DrawnFont(font);
+  const QFont drawn = platform::DrawnFont(font);
   const int lineHeight = platform::TextHeight(drawn);
   const QStringList lines = WrapCaption(caption, box.width() - SideMargin,
                                         [&drawn](const QString& text) { return platform::TextWidth(drawn, text); });

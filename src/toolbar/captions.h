@@ -18,7 +18,4 @@ QStringList WrapCaption(const QString& caption, int maxWidth, const std::functio
 void DrawCaption(platform::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
                  int shift);
 
-/// The font as it is drawn: the face or what stands in for it.
-QFont DrawnFont(const QFont& font);
-
 }  // namespace toolbar

@@ -3,6 +3,7 @@
 #include "controls/assets.h"
 #include "platform/icons.h"
 #include "platform/property_bag_bytes.h"
+#include "platform/stored_values.h"
 #include "toolbar/stored_form.h"
 
 namespace toolbar {
@@ -45,7 +46,7 @@ QByteArray MainWindowToolBar() {
     toolBar.Buttons.push_back(button);
   }
   platform::PropertyBag bag;
-  StoreSize(bag, StripSize);
+  platform::StoreSize(bag, StripSize);
   WriteStoredForm(bag, toolBar, QFont());
   return platform::StoredBytes(bag);
 }

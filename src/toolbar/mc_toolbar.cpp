@@ -6,6 +6,7 @@
 #include <QPainter>
 
 #include "platform/property_bag_bytes.h"
+#include "platform/stored_values.h"
 #include "toolbar/stored_form.h"
 
 namespace toolbar {
@@ -72,7 +73,7 @@ McToolBar::~McToolBar() {
 bool McToolBar::UserControl_ReadProperties(QByteArrayView bytes) {
   const std::optional<platform::PropertyBag> bag = platform::BagOfBytes(bytes);
   const bool isSound = control_.UserControl_ReadProperties(bag.value_or(platform::PropertyBag()));
-  if (bag && isSound) resize(StoredSize(*bag).value_or(size()));
+  if (bag && isSound) resize(platform::StoredSize(*bag).value_or(size()));
   // A hidden window hears of its size late.
   control_.Resize(size());
   watchForm();
@@ -81,7 +82,7 @@ bool McToolBar::UserControl_ReadProperties(QByteArrayView bytes) {
 
 QByteArray McToolBar::UserControl_WriteProperties() const {
   platform::PropertyBag bag;
-  StoreSize(bag, size());
+  platform::StoreSize(bag, size());
   control_.UserControl_WriteProperties(bag);
   return platform::StoredBytes(bag);
 }

@@ -1,5 +1,6 @@
 #include "toolbar/repaint.h"
 
+#include "platform/fonts.h"
 #include "platform/raster_text.h"
 #include "toolbar/captions.h"
 #include "toolbar/colors.h"
@@ -158,7 +159,7 @@ class Painter {
     const QRgb color = TranslateColor(values_.ForeColor);
     const int x = corner.x();
     const int y = corner.y();
-    platform::Print(raster_, DrawnFont(values_.Font), QString::number(number), x, y + 2, color);
+    platform::Print(raster_, platform::DrawnFont(values_.Font), QString::number(number), x, y + 2, color);
     const int mode = values_.ButtonsMode;
     if (number != scene_.Buttons.Button_Index() || (mode != 0 && mode != 2 && mode != 3)) return;
     raster_.Rectangle(x + 1, y + 1, x + width - 2, y + 4, color, TranslateColor(values_.ButtonsBackColor));

@@ -1,8 +1,8 @@
 #include "toolbar/stored_form.h"
 
 #include <algorithm>
-#include <cmath>
-#include <utility>
+
+#include "platform/stored_values.h"
 
 namespace toolbar {
 
@@ -85,28 +85,17 @@ QVariant toStored(const PictureReference& picture) {
   return file.isEmpty() ? QVariant() : QVariant::fromValue(StoredPicture{file});
 }
 
-bool isNumber(const QVariant& value) {
-  return value.typeId() == QMetaType::Short || value.typeId() == QMetaType::Int || value.typeId() == QMetaType::UInt;
-}
-
-// Whether the value is of the member's type.
+/// Whether the value is of the member's type.
 template <typename T>
 bool fromStored(const QVariant& value, T& member) {
-  if constexpr (std::is_same_v<T, quint32>) {
-    member = quint32(value.toLongLong());
-    return isNumber(value);
-  } else if constexpr (std::is_same_v<T, int> || std::is_same_v<T, qint16>) {
-    const qint64 number = value.toLongLong();
-    member = T(number);
-    return isNumber(value) && std::in_range<T>(number);
-  } else {
-    member = value.value<T>();
-    return value.typeId() == qMetaTypeId<T>();
-  }
+  const std::optional<T> stored = platform::StoredAs<T>(value);
+  member = stored.value_or(member);
+  return stored.has_value();
 }
 bool fromStored(const QVariant& value, PictureReference& member) {
-  if (value.typeId() == qMetaTypeId<StoredPicture>()) member = PictureOfFile(value.value<StoredPicture>().File);
-  return member != nullptr;
+  const auto stored = platform::StoredAs<StoredPicture>(value);
+  if (stored) member = PictureOfFile(stored->File);
+  return stored.has_value();
 }
 
 /// Whether the bag holds no value of the key, or one of the member's type, which the member then has.
@@ -139,10 +128,6 @@ bool readControl(const PropertyBag& bag, Properties& values, int& count) {
     return std::visit([&](const auto member) { return read(bag, key.toString(), values.*member); }, propertyOf(key));
   });
 }
-
-constexpr double ExtentsPerPixel = 2540.0 / 96;
-constexpr QStringView ExtentX = u"_extentx";
-constexpr QStringView ExtentY = u"_extenty";
 
 }  // namespace
 
@@ -178,19 +163,6 @@ void WriteStoredForm(PropertyBag& bag, const StoredToolBar& toolBar, const QFont
                  row.field);
     }
   }
-}
-
-std::optional<QSize> StoredSize(const PropertyBag& bag) {
-  int width = 0;
-  int height = 0;
-  if (!bag.contains(ExtentX.toString()) || !read(bag, ExtentX.toString(), width)) return std::nullopt;
-  if (!bag.contains(ExtentY.toString()) || !read(bag, ExtentY.toString(), height)) return std::nullopt;
-  return QSize(int(std::lround(width / ExtentsPerPixel)), int(std::lround(height / ExtentsPerPixel)));
-}
-
-void StoreSize(PropertyBag& bag, const QSize& pixels) {
-  bag.WriteProperty(ExtentX.toString(), int(std::lround(pixels.width() * ExtentsPerPixel)), {});
-  bag.WriteProperty(ExtentY.toString(), int(std::lround(pixels.height() * ExtentsPerPixel)), {});
 }
 
 }  // namespace toolbar

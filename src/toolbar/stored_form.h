@@ -4,8 +4,6 @@
 #include <span>
 #include <vector>
 
-#include <QSize>
-
 #include "platform/property_bag.h"
 #include "toolbar/properties.h"
 #include "toolbar/toolbar_button.h"
@@ -26,10 +24,5 @@ inline constexpr int MostButtons = 9999;
 
 /// Stores all keys in their order; what equals its default is left out.
 void WriteStoredForm(platform::PropertyBag& bag, const StoredToolBar& toolBar, const QFont& ambientFont);
-
-/// The size in pixels, kept in hundredths of a millimetre at 96 pixels an inch; none when it isn't stored.
-std::optional<QSize> StoredSize(const platform::PropertyBag& bag);
-/// Written in front of the toolbar's own keys.
-void StoreSize(platform::PropertyBag& bag, const QSize& pixels);
 
 }  // namespace toolbar

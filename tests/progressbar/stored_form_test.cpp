@@ -3,6 +3,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/property_bag_bytes.h"
 #include "progressbar/main_window_bar.h"
 #include "progressbar/progress_bar.h"
 
@@ -91,21 +92,28 @@ class StoredFormTest : public QObject {
     QCOMPARE(told(spy), others);
   }
 
-  void mainWindowBarGoesRound() {
-    ProgressBar bar;
-    progressbar::ReadProperties(bar, progressbar::MainWindowBar());
-    QCOMPARE(bar.size(), QSize(801, 20));
-    QCOMPARE(bar.RoundedValue(), 0);
-    QCOMPARE(bar.PBSCustomeColor2(), 0xC0C0C0U);
+  // Colours come as negative numbers when they are the system's.
+  void bytesGoRound_data() {
+    QTest::addColumn<QByteArray>("stored");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<quint32>("track");
+    QTest::newRow("main window") << progressbar::MainWindowBar() << QSize(801, 20) << 0xC0C0C0U;
     PropertyBag bag;
-    progressbar::WriteProperties(bar, bag);
-    ProgressBar copy;
-    progressbar::ReadProperties(copy, bag);
-    QCOMPARE(copy.size(), bar.size());
-    PropertyBag again;
-    progressbar::WriteProperties(copy, again);
-    for (const QString& key : KeysInOrder) QCOMPARE(again.ReadProperty(key, {}), bag.ReadProperty(key, {}));
-    QCOMPARE(storedKeys(again), storedKeys(progressbar::MainWindowBar()));
+    bag.WriteProperty(QStringLiteral("_extentx"), 265, {});
+    bag.WriteProperty(QStringLiteral("_extenty"), 529, {});
+    bag.WriteProperty(QStringLiteral("Text"), QStringLiteral("bar"), {});
+    bag.WriteProperty(QStringLiteral("PBSCustomeColor2"), -2147483633, {});
+    QTest::newRow("system colour") << platform::StoredBytes(bag) << QSize(10, 20) << 0x8000000FU;
+  }
+  void bytesGoRound() {
+    QFETCH(QByteArray, stored);
+    ProgressBar bar;
+    QVERIFY(progressbar::ReadProperties(bar, stored));
+    QCOMPARE(progressbar::WriteProperties(bar).toHex(' '), stored.toHex(' '));
+    QTEST(bar.size(), "size");
+    QTEST(bar.PBSCustomeColor2(), "track");
+    QVERIFY(!progressbar::ReadProperties(bar, stored.chopped(1)));
+    QCOMPARE(bar.RoundedValue(), 5);
   }
 };
 
