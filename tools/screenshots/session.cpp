@@ -106,15 +106,19 @@ std::function<void(QDialog&)> choosing(const QString& path) {
 Session::Session(mainwindows::Form1& form, QString outputFolder)
     : form_(form),
       folder_(std::move(outputFolder)),
-      dialogs_([this](QWidget& window, const QString& name) { save(window, name); }) {}
+      dialogs_([this](QWidget& window, const QString& name) { save(window, name); }),
+      controls_(form, [this](const QPixmap& picture, const QString& name) { savePicture(picture, name); }) {}
 
 void Session::Run() {
   form_.show();
   settle();
   save(form_, QStringLiteral("start"));
+  controls_.ShowToolBar(QStringLiteral("toolbar-start"));
   openTheme();
   showScreen(QStringLiteral("Main Screen"));
   save(form_, QStringLiteral("main-window"));
+  controls_.ShowToolBarStates();
+  controls_.ShowProgress([this] { form_.Queue.Draw(); });
   showEditors();
   saveScreen(QStringLiteral("editor"));
   showColorBoxes();
@@ -179,7 +183,11 @@ void Session::showCloseQuestion() {
 }
 
 void Session::save(QWidget& window, const QString& name) const {
-  if (!window.grab().save(folder_ + u'/' + name + QStringLiteral(".png"))) {
+  savePicture(window.grab(), name);
+}
+
+void Session::savePicture(const QPixmap& picture, const QString& name) const {
+  if (!picture.save(folder_ + u'/' + name + QStringLiteral(".png"))) {
     throw platform::Failure(QStringLiteral("can't write %1").arg(name));
   }
 }

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "control_pictures.h"
 #include "mainwindows/main_window.h"
 #include "modal_script.h"
 
@@ -23,11 +24,13 @@ class Session {
   void showKeyBoxes();
   void showCloseQuestion();
   void save(QWidget& window, const QString& name) const;
+  void savePicture(const QPixmap& picture, const QString& name) const;
   void saveScreen(const QString& name) const;
 
   mainwindows::Form1& form_;
   QString folder_;
   ModalScript dialogs_;
+  ControlPictures controls_;
 };
 
 }  // namespace screenshots

@@ -1,0 +1,104 @@
+#include "control_pictures.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "platform/failure.h"
+
+namespace screenshots {
+namespace {
+
+constexpr int Buttons = 4;
+constexpr int SaveButton = 2;
+constexpr int ButtonWidth = 32;
+constexpr QRect Strip(0, 0, 800, 32);
+constexpr QRect ButtonsOfStrip(0, 0, 160, 32);
+constexpr QRect ProgressArea(0, 0, 800, 80);
+constexpr QPoint Outside(400, 300);
+constexpr int FirstYield = 3;  // something of the screen is drawn by then
+
+void send(QWidget& widget, QEvent::Type type, const QPoint& place, Qt::MouseButtons held) {
+  const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+  QMouseEvent event(type, place, widget.mapToGlobal(place), button, held, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &event);
+}
+
+void sendKey(QWidget& widget, Qt::Key key) {
+  QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &event);
+}
+
+QPoint middleOf(int button) {
+  return {(button - 1) * ButtonWidth + ButtonWidth / 2, ButtonWidth / 2};
+}
+
+}  // namespace
+
+void ControlPictures::ShowToolBar(const QString& name) const {
+  save_(form_.Client->grab(Strip), name);
+}
+
+void ControlPictures::pointAt(int button) const {
+  send(*form_.ToolBar, QEvent::MouseMove, middleOf(button), Qt::NoButton);
+}
+
+/// The pointer goes away with its button down, and lets it go where nothing is clicked.
+void ControlPictures::leave() const {
+  send(*form_.ToolBar, QEvent::MouseMove, Outside, Qt::LeftButton);
+  send(*form_.ToolBar, QEvent::MouseButtonRelease, Outside, Qt::NoButton);
+}
+
+void ControlPictures::stack(const QString& name, const std::function<void(int button)>& reach) const {
+  QPixmap all;
+  for (int button = 1; button <= Buttons; ++button) {
+    reach(button);
+    const QPixmap strip = form_.Client->grab(ButtonsOfStrip);
+    if (all.isNull()) {
+      all = QPixmap(strip.width(), strip.height() * Buttons);
+      all.setDevicePixelRatio(strip.devicePixelRatio());
+    }
+    QPainter(&all).drawPixmap(0, (button - 1) * ButtonsOfStrip.height(), strip);
+  }
+  save_(all, name);
+}
+
+void ControlPictures::ShowToolBarStates() const {
+  form_.EnableButton(SaveButton, true);
+  ShowToolBar(QStringLiteral("toolbar-normal"));
+  stack(QStringLiteral("toolbar-hover"), [this](int button) { pointAt(button); });
+  leave();
+  stack(QStringLiteral("toolbar-pressed"), [this](int button) {
+    pointAt(button);
+    send(*form_.ToolBar, QEvent::MouseButtonPress, middleOf(button), Qt::LeftButton);
+  });
+  leave();
+  stack(QStringLiteral("toolbar-focus"), [this](int button) {
+    if (button == 1) form_.ToolBar->setFocus(Qt::TabFocusReason);
+    sendKey(*form_.ToolBar, button == 1 ? Qt::Key_Home : Qt::Key_Right);
+  });
+  form_.ToolBar->clearFocus();
+  form_.EnableButton(SaveButton, false);
+}
+
+void ControlPictures::ShowProgress(const std::function<void()>& render) const {
+  progressbar::ProgressBar& bar = *form_.ProgressBar1;
+  QList<int> waiting = {0, 1, 50, 99, 100};
+  int yields = 0;
+  const auto show = [&] {
+    if (++yields < FirstYield || waiting.isEmpty() || !bar.isVisible()) return;
+    const int percent = waiting.takeFirst();
+    const int present = bar.Value();
+    bar.SetValue(percent);
+    bar.SetText(QStringLiteral("%1%").arg(percent));
+    save_(form_.Client->grab(ProgressArea), QStringLiteral("progress-%1").arg(percent));
+    bar.SetValue(present);
+    bar.SetText(QStringLiteral("%1%").arg(present));
+  };
+  const auto watched = QObject::connect(&form_.Queue, &controls::WorkQueue::Yielding, show);
+  render();
+  QObject::disconnect(watched);
+  if (!waiting.isEmpty()) throw platform::Failure(QStringLiteral("the render yields too seldom"));
+}
+
+}  // namespace screenshots
