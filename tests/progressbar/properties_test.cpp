@@ -1,17 +1,38 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/property_bag_bytes.h"
+#include "progressbar/main_window_bar.h"
 #include "progressbar/progress_bar.h"
+#include "progressbar/stored_form.h"
 
+using platform::PropertyBag;
 using progressbar::ProgressBar;
-using Write = void (ProgressBar::*)(int);
-Q_DECLARE_METATYPE(Write)
 
 namespace {
+
+const QString KeysInOrder = QStringLiteral(
+    "Max Min Value RoundedValue Enabled Theme TextStyle Orientations Text TextEffectColor TextEffect TextAlignment "
+    "TextFont TextForeColor PBSCustomeColor2 PBSCustomeColor1");
 
 QString told(const QSignalSpy& spy) {
   QStringList keys;
   for (const QList<QVariant>& call : spy) keys += call.first().toString();
+  return keys.join(u' ');
+}
+
+PropertyBag bagOf(const std::vector<std::pair<const char*, QVariant>>& values) {
+  PropertyBag bag;
+  for (const auto& [key, value] : values) bag.WriteProperty(QString::fromLatin1(key), value, {});
+  return bag;
+}
+
+/// The stored keys in their order.
+QString keysOf(const ProgressBar& bar) {
+  PropertyBag bag;
+  progressbar::WriteProperties(bar, bag);
+  QStringList keys;
+  for (const PropertyBag::Record& record : bag.Records()) keys += record.key;
   return keys.join(u' ');
 }
 
@@ -21,42 +42,36 @@ class PropertiesTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void rangeRules_data() {
-    QTest::addColumn<int>("min");
-    QTest::addColumn<int>("max");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<Write>("write");
-    QTest::addColumn<int>("written");
-    QTest::addColumn<QList<int>>("after");  // min, max, Value
-    QTest::addColumn<QString>("keys");
-    const auto row = [](const char* name, int min, int max, int value, Write write, int written, QList<int> after,
-                        const char* keys) {
-      QTest::newRow(name) << min << max << value << write << written << after << QString::fromLatin1(keys);
-    };
-    row("value above", 0, 100, 50, &ProgressBar::SetValue, 150, {0, 100, 100}, "Value");
-    row("value below", 0, 100, 50, &ProgressBar::SetValue, -5, {0, 100, 0}, "Value");
-    row("the same value", 0, 100, 50, &ProgressBar::SetValue, 50, {0, 100, 50}, "Value");
-    row("max below one", 0, 100, 1, &ProgressBar::SetMax, 0, {0, 1, 1}, "Max");
-    row("max at min", 20, 100, 20, &ProgressBar::SetMax, 10, {20, 21, 20}, "Max");
-    row("max pulls the value first", 0, 100, 50, &ProgressBar::SetMax, 40, {0, 40, 40}, "Value Max");
-    row("min above max", 0, 100, 50, &ProgressBar::SetMin, 200, {99, 100, 99}, "Value Min");
-    row("negative min", 0, 100, 50, &ProgressBar::SetMin, -3, {0, 100, 50}, "Min");
-    row("min pulls the value", 0, 100, 50, &ProgressBar::SetMin, 60, {60, 100, 60}, "Value Min");
-  }
+  // min, max and Value before and after a write, and what was told.
   void rangeRules() {
-    QFETCH(int, min);
-    QFETCH(int, max);
-    QFETCH(int, value);
-    QFETCH(Write, write);
-    QFETCH(int, written);
-    ProgressBar bar;
-    bar.SetMax(max);
-    bar.SetMin(min);
-    bar.SetValue(value);
-    const QSignalSpy spy(&bar, &ProgressBar::PropertyChanged);
-    (bar.*write)(written);
-    QTEST((QList<int>{bar.min(), bar.max(), bar.Value()}), "after");
-    QTEST(told(spy), "keys");
+    const struct {
+      const char* name;
+      QList<int> before;
+      void (ProgressBar::*write)(int);
+      int written;
+      QList<int> after;
+      const char* keys;
+    } rows[] = {
+        {"value above", {0, 100, 50}, &ProgressBar::SetValue, 150, {0, 100, 100}, "Value"},
+        {"value below", {0, 100, 50}, &ProgressBar::SetValue, -5, {0, 100, 0}, "Value"},
+        {"the same value", {0, 100, 50}, &ProgressBar::SetValue, 50, {0, 100, 50}, "Value"},
+        {"max below one", {0, 100, 1}, &ProgressBar::SetMax, 0, {0, 1, 1}, "Max"},
+        {"max at min", {20, 100, 20}, &ProgressBar::SetMax, 10, {20, 21, 20}, "Max"},
+        {"max pulls the value first", {0, 100, 50}, &ProgressBar::SetMax, 40, {0, 40, 40}, "Value Max"},
+        {"min above max", {0, 100, 50}, &ProgressBar::SetMin, 200, {99, 100, 99}, "Value Min"},
+        {"negative min", {0, 100, 50}, &ProgressBar::SetMin, -3, {0, 100, 50}, "Min"},
+        {"min pulls the value", {0, 100, 50}, &ProgressBar::SetMin, 60, {60, 100, 60}, "Value Min"},
+    };
+    for (const auto& row : rows) {
+      ProgressBar bar;
+      bar.SetMax(row.before[1]);
+      bar.SetMin(row.before[0]);
+      bar.SetValue(row.before[2]);
+      const QSignalSpy spy(&bar, &ProgressBar::PropertyChanged);
+      (bar.*row.write)(row.written);
+      QVERIFY2((QList<int>{bar.min(), bar.max(), bar.Value()}) == row.after, row.name);
+      QVERIFY2(told(spy) == QLatin1StringView(row.keys), row.name);
+    }
   }
 
   void lookAndFontOfTheControl() {
@@ -67,6 +82,67 @@ class PropertiesTest : public QObject {
     bar.SetEnabled(false);
     QCOMPARE(bar.font().pixelSize(), 19);
     QVERIFY(bar.isEnabled());
+  }
+
+  void emptyBagGivesTheStoredDefaults() {
+    QWidget form;
+    QFont font = form.font();
+    font.setPixelSize(17);
+    form.setFont(font);
+    ProgressBar bar(&form);
+    bar.setObjectName(QStringLiteral("ProgressBar1"));
+    bar.SetValue(3);
+    const QSignalSpy spy(&bar, &ProgressBar::PropertyChanged);
+    progressbar::ReadProperties(bar, PropertyBag());
+    QCOMPARE(told(spy), KeysInOrder);
+    QCOMPARE(bar.Value(), 50);
+    QCOMPARE(bar.TextEffectColor(), 0xC8C8C8U);
+    QCOMPARE(bar.Text(), QStringLiteral("ProgressBar1"));
+    QCOMPARE(bar.TextFont().pixelSize(), 17);
+    QCOMPARE(keysOf(bar), QStringLiteral("_extentx _extenty Text"));
+    bar.InitProperties();
+    QCOMPARE(keysOf(bar), QStringLiteral("_extentx _extenty TextStyle Text TextEffectColor TextEffect"));
+  }
+
+  void rangeStandsBeforeTheValue() {
+    ProgressBar bar;
+    progressbar::ReadProperties(bar, bagOf({{"value", 700}, {"MIN", 300}, {"max", 900}}));
+    QCOMPARE((QList<int>{bar.min(), bar.max(), bar.Value()}), (QList<int>{300, 900, 700}));
+  }
+
+  void failingKeyIsPassedOver() {
+    const std::pair<const char*, QVariant> rows[] = {{"Theme", QStringLiteral("blue")},
+                                                     {"Max", 3000000000U},
+                                                     {"TextFont", 8},
+                                                     {"Enabled", QStringLiteral("perhaps")}};
+    for (const auto& row : rows) {
+      ProgressBar bar;
+      const QSignalSpy spy(&bar, &ProgressBar::PropertyChanged);
+      progressbar::ReadProperties(bar, bagOf({row}));
+      QStringList others = KeysInOrder.split(u' ');
+      others.removeOne(QString::fromLatin1(row.first));
+      QCOMPARE(told(spy), others.join(u' '));
+    }
+  }
+
+  // Colours come as negative numbers when they are the system's.
+  void bytesGoRound() {
+    const QByteArray own = platform::StoredBytes(bagOf(
+        {{"_extentx", 265}, {"_extenty", 529}, {"Text", QStringLiteral("bar")}, {"PBSCustomeColor2", -2147483633}}));
+    const struct {
+      QByteArray stored;
+      QSize size;
+      quint32 track;
+    } rows[] = {{progressbar::MainWindowBar(), QSize(801, 20), 0xC0C0C0U}, {own, QSize(10, 20), 0x8000000FU}};
+    for (const auto& [stored, size, track] : rows) {
+      ProgressBar bar;
+      QVERIFY(progressbar::ReadProperties(bar, stored));
+      QCOMPARE(progressbar::WriteProperties(bar).toHex(' '), stored.toHex(' '));
+      QCOMPARE(bar.size(), size);
+      QCOMPARE(bar.PBSCustomeColor2(), track);
+      QVERIFY(!progressbar::ReadProperties(bar, stored.chopped(1)));
+      QCOMPARE(bar.RoundedValue(), 5);
+    }
   }
 };
 

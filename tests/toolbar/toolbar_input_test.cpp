@@ -21,13 +21,9 @@ struct Record : toolbar::Events, toolbar::Windows {
   void Hover(int index) override { note("Hover", index); }
   void Click(int index) override { note("Click", index); }
   void DblClick(int index) override { note("DblClick", index); }
-  void MouseUp(int index, qint16& /*Button*/, qint16& /*Shift*/, float& /*X*/, float& /*Y*/) override {
-    note("Up", index);
-  }
-  void MouseDown(int index, qint16& /*Button*/, qint16& /*Shift*/, float& /*X*/, float& /*Y*/) override {
-    note("Down", index);
-  }
-  void MouseMove(int index, qint16& button, qint16& /*Shift*/, float& /*X*/, float& /*Y*/) override {
+  void MouseUp(int index, qint16&, qint16&, float&, float&) override { note("Up", index); }
+  void MouseDown(int index, qint16&, qint16&, float&, float&) override { note("Down", index); }
+  void MouseMove(int index, qint16& button, qint16&, float&, float&) override {
     note("Move", index);
     lastButton = button;
   }
@@ -118,38 +114,39 @@ class InputTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void eventsInOrder_data() {
-    QTest::addColumn<QString>("steps");
-    QTest::addColumn<QString>("told");
-    const auto row = [](const char* name, const char* steps, const char* told) {
-      QTest::newRow(name) << QString::fromLatin1(steps) << QString::fromLatin1(told);
-    };
-    row("hover before enter", "m5,5 m6,5", "Hover1 Move1 Enter Move1");
-    row("the same place twice", "m5,5 m5,5", "Hover1 Move1 Enter Move1");
-    row("click", "m5,5 d u c", "Hover1 Move1 Enter Down1 Up1 Click1");
-    row("double click", "m5,5 d u c 2 u", "Hover1 Move1 Enter Down1 Up1 Click1 DblClick1 Up1");
-    row("disabled", "m40,5 d u c", "Enter");
-    row("separator", "m70,5 d u c", "Enter");
-    row("straight to another", "m5,5 m80,5", "Hover1 Move1 Enter Hover4 Move4");
-    row("leave in a press", "m5,5 d l u c", "Hover1 Move1 Enter Down1 Leave");
-    row("enter again", "m5,5 l m6,5", "Hover1 Move1 Enter Leave Hover1 Move1 Enter");
-    row("chevron", "m145,5 d", "Enter open");
-    row("release on the strip isn't seen", "m145,5 d u p5,5", "Enter open Hover5 Move5");
-    row("press on the chevron opens anew", "m145,5 d m146,5 d", "Enter open");
-    row("popup", "m145,5 d p40,10 D U C", "Enter open Hover6 Move6 Down6 Up6 Click6");
-    row("popup, behind the last", "m145,5 d p40,10 p70,10", "Enter open Hover6 Move6 Move6");
-    row("shown button closes the popup", "m145,5 d m5,5", "Enter open close Hover1 Move1");
-    row("focus closes the popup", "m145,5 d f", "Enter open close");
-    row("tip after five ticks", "m5,5 t t t t t t", "Hover1 Move1 Enter tip");
-    row("a move begins anew", "m5,5 t t t t m6,5 t t t t", "Hover1 Move1 Enter Move1");
-    row("no tip outside", "m5,5 l t t t t t", "Hover1 Move1 Enter Leave");
-    row("no tip on the chevron", "m145,5 t t t t t", "Enter");
-  }
   void eventsInOrder() {
-    QFETCH(QString, steps);
-    Strip strip(149);
-    strip.control.Buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
-    QTEST(strip.run(steps), "told");
+    const struct {
+      const char* name;
+      const char* steps;
+      const char* told;
+    } rows[] = {
+        {"hover before enter", "m5,5 m6,5", "Hover1 Move1 Enter Move1"},
+        {"the same place twice", "m5,5 m5,5", "Hover1 Move1 Enter Move1"},
+        {"click", "m5,5 d u c", "Hover1 Move1 Enter Down1 Up1 Click1"},
+        {"double click", "m5,5 d u c 2 u", "Hover1 Move1 Enter Down1 Up1 Click1 DblClick1 Up1"},
+        {"disabled", "m40,5 d u c", "Enter"},
+        {"separator", "m70,5 d u c", "Enter"},
+        {"straight to another", "m5,5 m80,5", "Hover1 Move1 Enter Hover4 Move4"},
+        {"leave in a press", "m5,5 d l u c", "Hover1 Move1 Enter Down1 Leave"},
+        {"enter again", "m5,5 l m6,5", "Hover1 Move1 Enter Leave Hover1 Move1 Enter"},
+        {"chevron", "m145,5 d", "Enter open"},
+        {"release on the strip isn't seen", "m145,5 d u p5,5", "Enter open Hover5 Move5"},
+        {"press on the chevron opens anew", "m145,5 d m146,5 d", "Enter open"},
+        {"popup", "m145,5 d p40,10 D U C", "Enter open Hover6 Move6 Down6 Up6 Click6"},
+        {"popup, behind the last", "m145,5 d p40,10 p70,10", "Enter open Hover6 Move6 Move6"},
+        {"shown button closes the popup", "m145,5 d m5,5", "Enter open close Hover1 Move1"},
+        {"focus closes the popup", "m145,5 d f", "Enter open close"},
+        {"tip after five ticks", "m5,5 t t t t t t", "Hover1 Move1 Enter tip"},
+        {"a move begins anew", "m5,5 t t t t m6,5 t t t t", "Hover1 Move1 Enter Move1"},
+        {"no tip outside", "m5,5 l t t t t t", "Hover1 Move1 Enter Leave"},
+        {"no tip on the chevron", "m145,5 t t t t t", "Enter"},
+    };
+    for (const auto& row : rows) {
+      Strip strip(149);
+      strip.control.Buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
+      const QString name = QString::fromLatin1(row.name) + QStringLiteral(": ");
+      QCOMPARE(name + strip.run(QString::fromLatin1(row.steps)), name + QString::fromLatin1(row.told));
+    }
   }
 
   void popupHangsBelowTheControl() {
@@ -158,11 +155,22 @@ class InputTest : public QObject {
     QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 68, 39));
     strip.run(QStringLiteral("p5,5"));
     QCOMPARE(strip.record.lastButton, qint16(999));
-    // The press on the chevron is still held: the popup's button is drawn pressed.
     QVERIFY(strip.control.PicDraw() == SurfaceName::Chevron);
     // A layout moves the surface that is drawn on, and that one only.
     strip.control.UserControl_Resize();
     QCOMPARE(strip.record.popup, QRect(0, 0, 149, 32));
+  }
+
+  // A row of nothing ends the layout, but not what follows it.
+  void failedLayoutIsShownAllTheSame() {
+    Strip strip;
+    strip.control.Buttons().Set(&Properties::ButtonsMode, 4);
+    strip.control.Buttons().Set(&Properties::ButtonsPerRow, 0);
+    strip.control.Buttons().Set(&Properties::BackColor, 0x112233U);
+    strip.control.Resize(QSize(60, 20));
+    const QImage& shown = strip.control.SurfaceOf(SurfaceName::Main).Image().image();
+    QCOMPARE(shown.size(), QSize(60, 20));
+    QCOMPARE(shown.pixel(1, 18), qRgb(0x33, 0x22, 0x11));
   }
 
   // One note for two surfaces says whether the background is drawn.
@@ -204,17 +212,19 @@ class InputTest : public QObject {
     toolbar::Model& model = strip.control.Buttons();
     model.SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
     model.Set(&Properties::TooTipStyle, 1);
-    strip.run(QStringLiteral("m5,5 t t t t t"));
-    QVERIFY(strip.record.tip && !strip.record.timer);
-    QCOMPARE(strip.record.tip->Title + u' ' + strip.record.tip->Text, QStringLiteral("B first"));
-    QCOMPARE(strip.record.tip->Icon, 0);
-    QVERIFY(!strip.record.tip->IsBalloon);
+    const auto shown = [&](const char* move) {
+      strip.run(QString::fromLatin1(move) + QStringLiteral(" t t t t t"));
+      const auto& tip = strip.record.tip;
+      return tip ? QStringLiteral("%1|%2|%3|%4").arg(tip->Title, tip->Text).arg(tip->Icon).arg(tip->IsBalloon)
+                 : QString();
+    };
+    QCOMPARE(shown("m5,5"), QStringLiteral("B|first|0|0"));
+    QVERIFY(!strip.record.timer);
     model.SetButtonValue(1, toolbar::ToolTipIconProperty, 2);
-    strip.run(QStringLiteral("m6,5 t t t t t"));
-    QCOMPARE(strip.record.tip->Icon, 2);
+    model.Set(&Properties::TooTipStyle, 2);
+    QCOMPARE(shown("m6,5"), QStringLiteral("B|first|2|1"));
     model.SetButtonValue(1, toolbar::CaptionProperty, QString());
-    strip.run(QStringLiteral("m7,5 t t t t t"));
-    QCOMPARE(strip.record.tip->Icon, 0);
+    QCOMPARE(shown("m7,5"), QStringLiteral("|first|0|1"));
     strip.run(QStringLiteral("m8,5"));
     QVERIFY(!strip.record.tip);
   }
@@ -246,29 +256,30 @@ class InputTest : public QObject {
   }
 
   // Each letter is ten wide.
-  void captionWrap_data() {
-    QTest::addColumn<QString>("caption");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("lines");
-    const auto row = [](const char* name, const char* caption, int width, const char* lines) {
-      QTest::newRow(name) << QString::fromLatin1(caption) << width << QString::fromLatin1(lines);
-    };
-    row("empty", "", 50, "");
-    row("fits with its blanks", " a b ", 60, " a b ");
-    row("line ends go", "ab\r\ncd", 60, "abcd");
-    row("at a blank", "open file now", 80, "open|file|now");
-    row("before a digit", "part12 x", 50, "part|12 x");
-    row("inside a word", "abcdefg", 40, "abc|defg");
-    row("only the last crosses", "abcd", 40, "abcd");
-    row("only the last crosses, with a break", "a bc", 40, "a|bc");
-    row("blank before the joined piece", "abcd ef -g", 60, "abcd|ef -g");
-    row("narrower than a letter", "ab", 5, "|ab");
-  }
   void captionWrap() {
-    QFETCH(QString, caption);
-    QFETCH(int, width);
+    const struct {
+      const char* name;
+      const char* caption;
+      int width;
+      const char* lines;
+    } rows[] = {
+        {"empty", "", 50, ""},
+        {"fits with its blanks", " a b ", 60, " a b "},
+        {"line ends go", "ab\r\ncd", 60, "abcd"},
+        {"at a blank", "open file now", 80, "open|file|now"},
+        {"before a digit", "part12 x", 50, "part|12 x"},
+        {"inside a word", "abcdefg", 40, "abc|defg"},
+        {"only the last crosses", "abcd", 40, "abcd"},
+        {"only the last crosses, with a break", "a bc", 40, "a|bc"},
+        {"blank before the joined piece", "abcd ef -g", 60, "abcd|ef -g"},
+        {"narrower than a letter", "ab", 5, "|ab"},
+    };
     const auto tens = [](const QString& text) { return int(text.size()) * 10; };
-    QTEST(toolbar::WrapCaption(caption, width, tens).join(u'|'), "lines");
+    for (const auto& row : rows) {
+      const QString name = QString::fromLatin1(row.name) + QStringLiteral(": ");
+      const QStringList lines = toolbar::WrapCaption(QString::fromLatin1(row.caption), row.width, tens);
+      QCOMPARE(name + lines.join(u'|'), name + QString::fromLatin1(row.lines));
+    }
   }
 };
 

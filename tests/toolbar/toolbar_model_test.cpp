@@ -40,7 +40,31 @@ struct Bar {
   Model model{told, QFont()};
 };
 
-using Operation = void (*)(Model& model);
+QString named(const char* row, const QString& outcome) {
+  return QString::fromLatin1(row) + QStringLiteral(": ") + outcome;
+}
+
+/// Of every button its corner, behind an h when it is hidden; the height, and the size of the popup.
+QString placesOf(Bar& bar, int width) {
+  toolbar::Layout layout;
+  int height = -1;
+  try {
+    height = toolbar::LaidOutHeight(bar.model);
+    toolbar::LayOut(bar.model, width, true, layout);
+  } catch (const std::domain_error&) {
+  }
+  QString text;
+  for (int i = 1; i <= bar.model.Button_Count(); ++i) {
+    const ToolbarButton& button = bar.model.Button(i);
+    text += QStringLiteral("%1%2,%3 ")
+                .arg(button.InChevron ? QStringLiteral("h") : QString())
+                .arg(button.PosX)
+                .arg(button.PosY);
+  }
+  text += QStringLiteral("height %1").arg(height);
+  if (layout.HiddenButtons.empty()) return text;
+  return text + QStringLiteral(" popup %1,%2").arg(layout.Popup.width()).arg(layout.Popup.height());
+}
 
 }  // namespace
 
@@ -48,82 +72,58 @@ class ModelTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  // From "abcd" with the second button current.
-  void operations_data() {
-    QTest::addColumn<Operation>("operation");
-    QTest::addColumn<QString>("letters");  // empty: the range error, and all as before
-    QTest::addColumn<int>("current");
-    QTest::addColumn<QString>("told");
-    const auto row = [](const char* name, Operation run, const char* letters, int current, const char* told) {
-      QTest::newRow(name) << run << QString::fromLatin1(letters) << current << QString::fromLatin1(told);
-    };
-    row(
-        "more", [](Model& m) { m.SetButton_Count(6); }, "abcdBB", 6, "Button_Count L");
-    row(
-        "fewer", [](Model& m) { m.SetButton_Count(1); }, "a", 1, "Button_Count L");
-    row(
-        "same count", [](Model& m) { m.SetButton_Count(4); }, "abcd", 2, "");
-    row(
-        "count 0", [](Model& m) { m.SetButton_Count(0); }, "abcd", 2, "");
-    row(
-        "other index", [](Model& m) { m.SetButton_Index(4); }, "abcd", 4, "Button_Index R");
-    row(
-        "same index", [](Model& m) { m.SetButton_Index(2); }, "abcd", 2, "");
-    row(
-        "index 0", [](Model& m) { m.SetButton_Index(0); }, "", 2, "");
-    row(
-        "remove", [](Model& m) { m.RemoveButton(1); }, "bcd", 2, "L");
-    row(
-        "remove behind", [](Model& m) { m.RemoveButton(5); }, "", 2, "");
-    row(
-        "insert up", [](Model& m) { m.InsertButtonTo(1, 3); }, "bcad", 2, "L");
-    row(
-        "insert down", [](Model& m) { m.InsertButtonTo(4, 1); }, "dabc", 2, "L");
-    row(
-        "insert in place", [](Model& m) { m.InsertButtonTo(3, 3); }, "abcd", 2, "L");
-    row(
-        "insert behind", [](Model& m) { m.InsertButtonTo(1, 5); }, "", 2, "");
-    row(
-        "swap", [](Model& m) { m.MoveButtonTo(4, 1); }, "dbca", 2, "L");
-    row(
-        "swap outside", [](Model& m) { m.MoveButtonTo(0, 0); }, "", 2, "");
-    row(
-        "command remove", [](Model& m) { m.SetButtonRemove(1); }, "acd", 2, "L L");
-    row(
-        "command remove, not 1", [](Model& m) { m.SetButtonRemove(2); }, "abcd", 2, "");
-    row(
-        "command move", [](Model& m) { m.SetButtonMoveTo(4); }, "adcb", 4, "L R");
-    row(
-        "command insert", [](Model& m) { m.SetButtonInsertTo(4); }, "acdb", 4, "L R");
-    row(
-        "command outside", [](Model& m) { m.SetButtonInsertTo(9); }, "", 2, "");
-    row(
-        "value by number", [](Model& m) { m.SetButtonValue(3, 1, 7); }, "ab7d", 2, "R");
-    row(
-        "no such value", [](Model& m) { m.SetButtonValue(3, 9, 7); }, "abcd", 2, "R");
-    row(
-        "field", [](Model& m) { m.SetCurrentValue(toolbar::CaptionProperty, QStringLiteral("x")); }, "axcd", 2,
-        "ButtonCaption R");
-    row(
-        "look", [](Model& m) { m.Set(&Properties::ButtonsMode, 2); }, "abcd", 2, "ButtonsMode L");
-    row(
-        "background", [](Model& m) { m.Set(&Properties::BackColor, 5U); }, "abcd", 2, "BackColor B");
-  }
+  // From "abcd" with the second button current: letters, current button, what was told. After the range error all is
+  // as before.
   void operations() {
-    QFETCH(Operation, operation);
-    QFETCH(QString, letters);
-    Bar bar(QStringLiteral("abcd"));
-    bar.model.PointAt(2);
-    QString failure;
-    try {
-      operation(bar.model);
-    } catch (const toolbar::RangeError& error) {
-      failure = QString::number(toolbar::RangeError::Number) + error.description();
+    const struct {
+      const char* name;
+      void (*run)(Model& model);
+      const char* outcome;
+    } rows[] = {
+        {"more", [](Model& m) { m.SetButton_Count(6); }, "abcdBB 6 Button_Count L"},
+        {"fewer", [](Model& m) { m.SetButton_Count(1); }, "a 1 Button_Count L"},
+        {"same count", [](Model& m) { m.SetButton_Count(4); }, "abcd 2"},
+        {"count 0", [](Model& m) { m.SetButton_Count(0); }, "abcd 2"},
+        {"other index", [](Model& m) { m.SetButton_Index(4); }, "abcd 4 Button_Index R"},
+        {"same index", [](Model& m) { m.SetButton_Index(2); }, "abcd 2"},
+        {"index 0", [](Model& m) { m.SetButton_Index(0); }, "33 Index out or range!!"},
+        {"remove", [](Model& m) { m.RemoveButton(1); }, "bcd 2 L"},
+        {"remove behind", [](Model& m) { m.RemoveButton(5); }, "33 Index out or range!!"},
+        {"insert up", [](Model& m) { m.InsertButtonTo(1, 3); }, "bcad 2 L"},
+        {"insert down", [](Model& m) { m.InsertButtonTo(4, 1); }, "dabc 2 L"},
+        {"insert in place", [](Model& m) { m.InsertButtonTo(3, 3); }, "abcd 2 L"},
+        {"insert behind", [](Model& m) { m.InsertButtonTo(1, 5); }, "33 Index out or range!!"},
+        {"swap", [](Model& m) { m.MoveButtonTo(4, 1); }, "dbca 2 L"},
+        {"swap outside", [](Model& m) { m.MoveButtonTo(0, 0); }, "33 Index out or range!!"},
+        {"command remove", [](Model& m) { m.SetButtonRemove(1); }, "acd 2 L L"},
+        {"command remove, not 1", [](Model& m) { m.SetButtonRemove(2); }, "abcd 2"},
+        {"command move", [](Model& m) { m.SetButtonMoveTo(4); }, "adcb 4 L R"},
+        {"command insert", [](Model& m) { m.SetButtonInsertTo(4); }, "acdb 4 L R"},
+        {"command outside", [](Model& m) { m.SetButtonInsertTo(9); }, "33 Index out or range!!"},
+        {"value by number", [](Model& m) { m.SetButtonValue(3, 1, 7); }, "ab7d 2 R"},
+        {"no such value", [](Model& m) { m.SetButtonValue(3, 9, 7); }, "abcd 2 R"},
+        {"field", [](Model& m) { m.SetCurrentValue(toolbar::CaptionProperty, QLatin1String("x")); },
+         "axcd 2 ButtonCaption R"},
+        {"tip", [](Model& m) { m.SetCurrentValue(toolbar::ToolTipTextProperty, QLatin1String("x")); },
+         "abcd 2 ButtonToolTip -"},
+        {"look", [](Model& m) { m.Set(&Properties::ButtonsMode, 2); }, "abcd 2 ButtonsMode L"},
+        {"background", [](Model& m) { m.Set(&Properties::BackColor, 5U); }, "abcd 2 BackColor B"},
+        {"chevron", [](Model& m) { m.Set(&Properties::ShowChevron, true); }, "abcd 2 ShowChevron -"},
+    };
+    for (const auto& row : rows) {
+      Bar bar(QStringLiteral("abcd"));
+      bar.model.PointAt(2);
+      QString outcome;
+      try {
+        row.run(bar.model);
+        outcome = bar.letters() + u' ' + QString::number(bar.model.Button_Index());
+        if (!bar.told.words.isEmpty()) outcome += u' ' + bar.told.words.join(u' ');
+      } catch (const toolbar::RangeError& error) {
+        outcome = QString::number(toolbar::RangeError::Number) + u' ' + error.description();
+        QVERIFY(bar.letters() == QStringLiteral("abcd") && bar.model.Button_Index() == 2 && bar.told.words.isEmpty());
+      }
+      QCOMPARE(named(row.name, outcome), named(row.name, QString::fromLatin1(row.outcome)));
     }
-    QCOMPARE(failure, letters.isEmpty() ? QStringLiteral("33Index out or range!!") : QString());
-    QCOMPARE(bar.letters(), letters.isEmpty() ? QStringLiteral("abcd") : letters);
-    QTEST(bar.model.Button_Index(), "current");
-    QTEST(bar.told.words.join(u' '), "told");
   }
 
   void lastButtonStays() {
@@ -142,21 +142,17 @@ class ModelTest : public QObject {
     QCOMPARE(bar.model.GetButtonValue(2, toolbar::EnabledProperty), QVariant(true));
   }
 
-  void nothingIsCurrentBelowOne() {
-    Bar bar(QStringLiteral("ab"));
-    bar.model.PointAt(-1);
-    bar.model.SetCurrentValue(toolbar::EnabledProperty, false);
-    QVERIFY(bar.told.words.isEmpty() && bar.model.Button(1).Enabled);
-    QCOMPARE(bar.model.CurrentValue(toolbar::EnabledProperty), QVariant(false));
-    QCOMPARE(bar.model.CurrentValue(toolbar::CaptionProperty), QVariant(QString()));
-  }
-
-  void indexOutsideIsTheCallersError() {
+  void indexOutside() {
     Bar bar(QStringLiteral("ab"));
     for (const int index : {0, -1, 3}) {
       QVERIFY_THROWS_EXCEPTION(std::out_of_range, bar.model.SetButtonValue(index, 2, true));
       QVERIFY_THROWS_EXCEPTION(std::out_of_range, bar.model.GetButtonValue(index, 2));
     }
+    bar.model.PointAt(-1);
+    bar.model.SetCurrentValue(toolbar::EnabledProperty, false);
+    QVERIFY(bar.told.words.isEmpty() && bar.model.Button(1).Enabled);
+    QCOMPARE(bar.model.CurrentValue(toolbar::EnabledProperty), QVariant(false));
+    QCOMPARE(bar.model.CurrentValue(toolbar::CaptionProperty), QVariant(QString()));
   }
 
   void looksOverwriteProperties() {
@@ -173,88 +169,63 @@ class ModelTest : public QObject {
     QCOMPARE((QList<int>{values.BackGradient, values.BorderStyle, values.ButtonsGradient}), (QList<int>{0, 0, 0}));
   }
 
-  void layout_data() {
-    QTest::addColumn<QString>("letters");
-    QTest::addColumn<int>("border");
-    QTest::addColumn<int>("perRow");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("places");  // of the buttons; h: hidden
-    QTest::addColumn<int>("height");
-    QTest::addColumn<QSize>("popup");
-    const auto row = [](const char* name, const char* letters, int border, int perRow, int width, const char* places,
-                        int height, QSize popup = {}) {
-      QTest::newRow(name) << QString::fromLatin1(letters) << border << perRow << width << QString::fromLatin1(places)
-                          << height << popup;
-    };
-    row("one row", "abc", 0, 10, 800, "0,0 32,0 64,0", 32);
-    row("framed", "abc", 1, 10, 800, "2,5 34,5 66,5", 39);
-    row("separator in rows", "aSbcd", 0, 3, 800, "0,0 32,0 42,0 0,32 32,32", 64);
-    row("rows of a framed bar", "abc", 2, 2, 800, "2,5 34,5 2,37", 71);
-    row("just enough room", "ab", 0, 10, 76, "0,0 32,0", 32);
-    row("one pixel short", "ab", 0, 10, 75, "0,0 h2,5", 32, {36, 39});
-    row("separators never hide", "aSb", 0, 10, 44, "0,0 32,0 h2,5", 32, {36, 39});
-    row("second row begins anew", "abcd", 0, 2, 44, "0,0 h2,5 0,32 h34,5", 64, {68, 39});
-    row("four hidden", "abcde", 0, 10, 44, "0,0 h2,5 h34,5 h66,5 h2,37", 32, {100, 71});
-    row("row of nothing", "ab", 0, 0, 800, "0,0 0,0", -1);
-  }
   void layout() {
-    QFETCH(QString, letters);
-    QFETCH(int, border);
-    QFETCH(int, perRow);
-    QFETCH(int, width);
-    Bar bar(letters);
-    bar.model.Set(&Properties::BorderStyle, qint16(border));
-    bar.model.Set(&Properties::ButtonsPerRow, perRow);
-    bar.model.Set(&Properties::ShowChevron, true);
-    toolbar::Layout layout;
-    int height = -1;
-    try {
-      height = toolbar::LaidOutHeight(bar.model);
-      toolbar::LayOut(bar.model, width, true, layout);
-    } catch (const std::domain_error&) {
+    const struct {
+      const char* name;
+      const char* letters;
+      qint16 border;
+      int perRow;
+      int width;
+      const char* places;
+    } rows[] = {
+        {"one row", "abc", 0, 10, 800, "0,0 32,0 64,0 height 32"},
+        {"framed", "abc", 1, 10, 800, "2,5 34,5 66,5 height 39"},
+        {"separator in rows", "aSbcd", 0, 3, 800, "0,0 32,0 42,0 0,32 32,32 height 64"},
+        {"rows of a framed bar", "abc", 2, 2, 800, "2,5 34,5 2,37 height 71"},
+        {"just enough room", "ab", 0, 10, 76, "0,0 32,0 height 32"},
+        {"one pixel short", "ab", 0, 10, 75, "0,0 h2,5 height 32 popup 36,39"},
+        {"separators never hide", "aSb", 0, 10, 44, "0,0 32,0 h2,5 height 32 popup 36,39"},
+        {"second row begins anew", "abcd", 0, 2, 44, "0,0 h2,5 0,32 h34,5 height 64 popup 68,39"},
+        {"four hidden", "abcde", 0, 10, 44, "0,0 h2,5 h34,5 h66,5 h2,37 height 32 popup 100,71"},
+        {"row of nothing", "ab", 0, 0, 800, "0,0 0,0 height -1"},
+    };
+    for (const auto& row : rows) {
+      Bar bar(QString::fromLatin1(row.letters));
+      bar.model.Set(&Properties::BorderStyle, row.border);
+      bar.model.Set(&Properties::ButtonsPerRow, row.perRow);
+      bar.model.Set(&Properties::ShowChevron, true);
+      QCOMPARE(named(row.name, placesOf(bar, row.width)), named(row.name, QString::fromLatin1(row.places)));
     }
-    QStringList places;
-    for (int i = 1; i <= bar.model.Button_Count(); ++i) {
-      const ToolbarButton& button = bar.model.Button(i);
-      places +=
-          QLatin1StringView(button.InChevron ? "h" : "") + QStringLiteral("%1,%2").arg(button.PosX).arg(button.PosY);
-    }
-    QTEST(places.join(u' '), "places");
-    QTEST(height, "height");
-    QTEST(layout.Popup, "popup");
   }
 
-  void hits_data() {
-    QTest::addColumn<QString>("letters");
-    QTest::addColumn<int>("border");
-    QTest::addColumn<QPoint>("place");
-    QTest::addColumn<bool>("inPopup");
-    QTest::addColumn<int>("hit");
-    const auto row = [](const char* name, const char* letters, int border, QPoint place, int hit,
-                        bool inPopup = false) {
-      QTest::newRow(name) << QString::fromLatin1(letters) << border << place << inPopup << hit;
-    };
-    row("first pixel inside", "abcd", 0, {1, 1}, 1);
-    row("on the left edge", "abcd", 0, {0, 5}, -1);
-    row("on the upper edge", "abcd", 0, {5, 0}, -1);
-    row("between two", "abcd", 0, {32, 5}, -1);
-    row("before the edge", "abcd", 0, {31, 31}, 1);
-    row("second row", "abcd", 0, {1, 33}, 4);
-    row("behind the last", "abcd", 0, {40, 40}, -1);
-    row("separator is narrow", "aSb", 0, {43, 5}, 3);
-    row("framed rows begin at 0", "abcd", 1, {1, 6}, 1);
-    row("framed, above", "abcd", 1, {10, 5}, -1);
-    row("popup counts from the corner", "abcd", 1, {1, 1}, 1, true);
-    row("popup has no separators", "aSb", 0, {65, 5}, 3, true);
-  }
   void hits() {
-    QFETCH(QString, letters);
-    QFETCH(int, border);
-    QFETCH(QPoint, place);
-    QFETCH(bool, inPopup);
-    Bar bar(letters);
-    bar.model.Set(&Properties::BorderStyle, qint16(border));
-    QTEST(toolbar::HitTest(bar.model, place.x(), place.y(), inPopup), "hit");
+    const struct {
+      const char* name;
+      const char* letters;
+      qint16 border;
+      QPoint place;
+      int hit;
+      bool inPopup = false;
+    } rows[] = {
+        {"first pixel inside", "abcd", 0, {1, 1}, 1},
+        {"on the left edge", "abcd", 0, {0, 5}, -1},
+        {"on the upper edge", "abcd", 0, {5, 0}, -1},
+        {"between two", "abcd", 0, {32, 5}, -1},
+        {"before the edge", "abcd", 0, {31, 31}, 1},
+        {"second row", "abcd", 0, {1, 33}, 4},
+        {"behind the last", "abcd", 0, {40, 40}, -1},
+        {"separator is narrow", "aSb", 0, {43, 5}, 3},
+        {"framed rows begin at 0", "abcd", 1, {1, 6}, 1},
+        {"framed, above", "abcd", 1, {10, 5}, -1},
+        {"popup counts from the corner", "abcd", 1, {1, 1}, 1, true},
+        {"popup has no separators", "aSb", 0, {65, 5}, 3, true},
+    };
+    for (const auto& row : rows) {
+      Bar bar(QString::fromLatin1(row.letters));
+      bar.model.Set(&Properties::BorderStyle, row.border);
+      const int hit = toolbar::HitTest(bar.model, row.place.x(), row.place.y(), row.inPopup);
+      QVERIFY2(hit == row.hit, row.name);
+    }
   }
 };
 

@@ -47,27 +47,28 @@ class WidgetTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void pressAndRelease_data() {
-    QTest::addColumn<QPoint>("press");
-    QTest::addColumn<QPoint>("release");
-    QTest::addColumn<Qt::MouseButton>("button");
-    QTest::addColumn<QString>("clicked");
-    QTest::newRow("last pixel inside") << QPoint(31, 31) << QPoint(31, 31) << Qt::LeftButton << QStringLiteral("1");
-    QTest::newRow("on the edge") << QPoint(32, 5) << QPoint(32, 5) << Qt::LeftButton << QString();
-    QTest::newRow("disabled") << QPoint(70, 5) << QPoint(70, 5) << Qt::LeftButton << QString();
-    QTest::newRow("behind the last") << QPoint(129, 5) << QPoint(129, 5) << Qt::LeftButton << QString();
-    QTest::newRow("released on another") << QPoint(5, 5) << QPoint(40, 5) << Qt::LeftButton << QStringLiteral("2");
-    QTest::newRow("released outside") << QPoint(5, 5) << QPoint(5, 40) << Qt::LeftButton << QString();
-    QTest::newRow("right button") << QPoint(5, 5) << QPoint(5, 5) << Qt::RightButton << QString();
-  }
   void pressAndRelease() {
-    QFETCH(QPoint, press);
-    QFETCH(QPoint, release);
-    QFETCH(Qt::MouseButton, button);
-    Form form;
-    QTest::mousePress(&form.bar, button, {}, press);
-    QTest::mouseRelease(&form.bar, button, {}, release);
-    QTEST(numbers(form.clicks), "clicked");
+    const struct {
+      const char* name;
+      QPoint press;
+      QPoint release;
+      const char* clicked;
+      Qt::MouseButton button = Qt::LeftButton;
+    } rows[] = {
+        {"last pixel inside", {31, 31}, {31, 31}, "1"},
+        {"on the edge", {32, 5}, {32, 5}, ""},
+        {"disabled", {70, 5}, {70, 5}, ""},
+        {"behind the last", {129, 5}, {129, 5}, ""},
+        {"released on another", {5, 5}, {40, 5}, "2"},
+        {"released outside", {5, 5}, {5, 40}, ""},
+        {"right button", {5, 5}, {5, 5}, "", Qt::RightButton},
+    };
+    for (const auto& row : rows) {
+      Form form;
+      QTest::mousePress(&form.bar, row.button, {}, row.press);
+      QTest::mouseRelease(&form.bar, row.button, {}, row.release);
+      QVERIFY2(numbers(form.clicks) == QLatin1StringView(row.clicked), row.name);
+    }
   }
 
   void doubleClickIsOneClick() {
@@ -92,32 +93,32 @@ class WidgetTest : public QObject {
     QVERIFY(form.clicks.isEmpty());
   }
 
-  void popupLivesWithItsForm_data() {
-    QTest::addColumn<int>("how");
-    QTest::newRow("moved") << 0;
-    QTest::newRow("resized") << 1;
-    QTest::newRow("focus lost") << 2;
-    QTest::newRow("hidden") << 3;
-  }
   void popupLivesWithItsForm() {
-    QFETCH(int, how);
-    Form form(80);
-    QLineEdit other(&form.form);
-    other.show();
-    QVERIFY(QTest::qWaitForWindowActive(&form.form));
-    QTest::mousePress(&form.bar, Qt::LeftButton, {}, {75, 5});
-    QWidget& popup = *form.bar.PopupWindow();
-    QVERIFY(popup.isVisible());
-    QCOMPARE(popup.geometry().topLeft(), form.bar.mapToGlobal(QPoint(80 - 68, 33)));
-    QTest::mouseClick(&popup, Qt::LeftButton, {}, {5, 5});
-    QTest::mouseClick(&popup, Qt::LeftButton, {}, {40, 5});
-    QCOMPARE(numbers(form.clicks), QStringLiteral("4"));
-    QVERIFY(popup.isVisible());
-    if (how == 0) form.form.move(form.form.pos() + QPoint(10, 10));
-    if (how == 1) form.form.resize(700, 200);
-    if (how == 2) other.setFocus();
-    if (how == 3) form.bar.hide();
-    QTRY_VERIFY(!popup.isVisible());
+    const struct {
+      const char* name;
+      void (*end)(Form& form, QLineEdit& other);
+    } rows[] = {
+        {"moved", [](Form& form, QLineEdit&) { form.form.move(form.form.pos() + QPoint(10, 10)); }},
+        {"resized", [](Form& form, QLineEdit&) { form.form.resize(700, 200); }},
+        {"focus lost", [](Form&, QLineEdit& other) { other.setFocus(); }},
+        {"hidden", [](Form& form, QLineEdit&) { form.bar.hide(); }},
+    };
+    for (const auto& row : rows) {
+      Form form(80);
+      QLineEdit other(&form.form);
+      other.show();
+      QVERIFY(QTest::qWaitForWindowActive(&form.form));
+      QTest::mousePress(&form.bar, Qt::LeftButton, {}, {75, 5});
+      QWidget& popup = *form.bar.PopupWindow();
+      QVERIFY(popup.isVisible());
+      QCOMPARE(popup.geometry().topLeft(), form.bar.mapToGlobal(QPoint(80 - 68, 33)));
+      QTest::mouseClick(&popup, Qt::LeftButton, {}, {5, 5});
+      QTest::mouseClick(&popup, Qt::LeftButton, {}, {40, 5});
+      QCOMPARE(numbers(form.clicks), QStringLiteral("4"));
+      QVERIFY(popup.isVisible());
+      row.end(form, other);
+      QVERIFY2(QTest::qWaitFor([&popup] { return !popup.isVisible(); }), row.name);
+    }
   }
 
   void keyboardAndScreenReader() {
@@ -186,25 +187,20 @@ class WidgetTest : public QObject {
     QCOMPARE(shown.pixelColor(700, 31), QColor(128, 128, 128));
   }
 
-  void damagedBagLeavesTheDefaults_data() {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::newRow("count 0") << QStringLiteral("Button_Count") << QVariant(0);
-    QTest::newRow("too many") << QStringLiteral("Button_Count") << QVariant(100000);
-    QTest::newRow("word as a width") << QStringLiteral("ButtonsWidth") << QVariant(QStringLiteral("wide"));
-    QTest::newRow("number as an icon") << QStringLiteral("ButtonIcon1") << QVariant(5);
-    QTest::newRow("beyond 16 bits") << QStringLiteral("BorderStyle") << QVariant(70000);
-  }
   void damagedBagLeavesTheDefaults() {
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    platform::PropertyBag bag;
-    bag.WriteProperty(QStringLiteral("ButtonsMode"), 5, {});
-    bag.WriteProperty(key, value, {});
-    McToolBar bar(toolbar::AmbientOf(nullptr));
-    QVERIFY(!bar.UserControl_ReadProperties(platform::StoredBytes(bag)));
-    QCOMPARE(bar.Buttons().Values().ButtonsMode, 3);
-    QCOMPARE(bar.Button_Count(), 1);
+    const std::pair<const char*, QVariant> rows[] = {{"Button_Count", 0},
+                                                     {"Button_Count", 100000},
+                                                     {"ButtonsWidth", QStringLiteral("wide")},
+                                                     {"ButtonIcon1", 5},
+                                                     {"BorderStyle", 70000}};
+    for (const auto& [key, value] : rows) {
+      platform::PropertyBag bag;
+      bag.WriteProperty(QStringLiteral("ButtonsMode"), 5, {});
+      bag.WriteProperty(QString::fromLatin1(key), value, {});
+      McToolBar bar(toolbar::AmbientOf(nullptr));
+      QVERIFY2(!bar.UserControl_ReadProperties(platform::StoredBytes(bag)), key);
+      QVERIFY2(bar.Buttons().Values().ButtonsMode == 3 && bar.Button_Count() == 1, key);
+    }
   }
 };
 
