@@ -11,7 +11,7 @@ using platform::StoredBytes;
 
 namespace {
 
-QByteArray bytesOf(const char* hex) {
+QByteArray bytesOf(const QByteArray& hex) {
   return QByteArray::fromHex(hex);
 }
 
@@ -41,35 +41,32 @@ class PropertyBagTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void bytes_data() {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QByteArray>("record");  // behind the head of a record with the key "aB"
-    QTest::newRow("16 bits") << QVariant::fromValue(qint16(-2))
-                             << bytesOf("0200 0200 62200c00 00000000 61006200 feff0000");
-    QTest::newRow("32 bits") << QVariant(4) << bytesOf("0300 0200 62200c00 00000000 61006200 04000000");
-    QTest::newRow("colour") << QVariant(0x8000000FU) << bytesOf("0300 0200 62200c00 00000000 61006200 0f000080");
-    QTest::newRow("true") << QVariant(true) << bytesOf("0b00 0200 62200c00 00000000 61006200 ffff0000");
-    QTest::newRow("text") << QVariant(QStringLiteral("\u20ac"))
-                          << bytesOf("0800 0200 62200c00 00000000 61006200 01000000 ac200000");
-    QTest::newRow("font") << fontOf(QStringLiteral("Ab"), 8.25)
-                          << bytesOf(
-                                 "0d00 0200 62200c00 00000000 61006200 0352e30b918fce119de300aa004bb851"
-                                 "01 0000 00 9001 44420100 02 4162 000000");
-    QTest::newRow("picture") << QVariant::fromValue(platform::StoredPicture{"xyz"})
-                             << bytesOf(
-                                    "0d00 0200 62200c00 00000000 61006200 0452e30b918fce119de300aa004bb851"
-                                    "6c740000 03000000 78797a 00");
-  }
   void bytes() {
-    QFETCH(QVariant, value);
-    QFETCH(QByteArray, record);
-    PropertyBag bag;
-    bag.WriteProperty(QStringLiteral("aB"), value, {});
-    const QByteArray size(1, char(record.size() + 8));
-    const QByteArray zeros(3, '\0');
-    QCOMPARE(StoredBytes(bag).toHex(' '),
-             (bytesOf("2d4c420900") + size + zeros + bytesOf("93b20000") + size + zeros + record).toHex(' '));
-    QCOMPARE(StoredBytes(*BagOfBytes(StoredBytes(bag))), StoredBytes(bag));
+    const QByteArray font =
+        QByteArrayLiteral("0352e30b918fce119de300aa004bb851 01 0000 00 9001 44420100 02 4162 000000");
+    const QByteArray picture = QByteArrayLiteral("0452e30b918fce119de300aa004bb851 6c740000 03000000 78797a 00");
+    const struct {
+      QVariant value;
+      const char* tag;
+      QByteArray stored;  // behind the head of a record with the key "aB"
+    } rows[] = {
+        {QVariant::fromValue(qint16(-2)), "0200", "feff0000"},
+        {4, "0300", "04000000"},
+        {0x8000000FU, "0300", "0f000080"},
+        {true, "0b00", "ffff0000"},
+        {QStringLiteral("\u20ac"), "0800", "01000000 ac200000"},
+        {fontOf(QStringLiteral("Ab"), 8.25), "0d00", font},
+        {QVariant::fromValue(platform::StoredPicture{"xyz"}), "0d00", picture},
+    };
+    for (const auto& [value, tag, stored] : rows) {
+      PropertyBag bag;
+      bag.WriteProperty(QStringLiteral("aB"), value, {});
+      const QByteArray record = bytesOf(tag) + bytesOf("0200 62200c00 00000000 61006200") + bytesOf(stored);
+      const QByteArray count = QByteArray(1, char(record.size() + 8)) + QByteArray(3, '\0');
+      const QByteArray bytes = bytesOf("2d4c420900") + count + bytesOf("93b20000") + count + record;
+      QCOMPARE(StoredBytes(bag).toHex(' '), bytes.toHex(' '));
+      QCOMPARE(StoredBytes(*BagOfBytes(bytes)), bytes);
+    }
   }
 
   void distancesAndOrder() {
@@ -123,29 +120,24 @@ class PropertyBagTest : public QObject {
     for (qsizetype i = 0; i < file->size(); ++i) QVERIFY(!platform::ReadIcon(file->first(i)));
   }
 
-  void iconDepths_data() {
-    QTest::addColumn<QByteArray>("image");  // 3 x 1 pixels behind the directory
-    QTest::newRow("1 bit") << bytesOf(
-        "28000000 03000000 02000000 0100 0100 00000000 00000000 00000000 00000000"
-        "00000000 00000000 0000ff00 00ff0000 40000000 20000000");
-    QTest::newRow("4 bits") << bytesOf(
-        "28000000 03000000 02000000 0100 0400 00000000 00000000 00000000 00000000"
-        "03000000 00000000 00000000 0000ff00 00ff0000 12100000 20000000");
-    QTest::newRow("24 bits") << bytesOf(
-        "28000000 03000000 02000000 0100 1800 00000000 00000000 00000000 00000000"
-        "00000000 00000000 0000ff 00ff00 0000ff 000000 20000000");
-    QTest::newRow("32 bits") << bytesOf(
-        "28000000 03000000 02000000 0100 2000 00000000 00000000 00000000 00000000"
-        "00000000 00000000 0000ff00 00ff0000 0000ff00 20000000");
-  }
+  // Red, green and a clear pixel.
   void iconDepths() {
-    QFETCH(QByteArray, image);
-    const auto icon = platform::ReadIcon(bytesOf("0000 0100 0100 03010000 0100 0000 00000000 16000000") + image);
-    QVERIFY(icon);
-    QCOMPARE(icon->Color.pixel(0, 0), qRgb(255, 0, 0));
-    QCOMPARE(icon->Color.pixel(1, 0), qRgb(0, 255, 0));
-    QCOMPARE(icon->Color.pixel(2, 0), qRgb(0, 0, 0));  // under the mask
-    QCOMPARE(icon->Mask.pixel(2, 0), 0xFFFFFFFFU);
+    const std::pair<const char*, const char*> rows[] = {
+        {"0100", "00000000 00000000 0000ff00 00ff0000 40000000 20000000"},
+        {"0400", "03000000 00000000 00000000 0000ff00 00ff0000 12100000 20000000"},
+        {"1800", "00000000 00000000 0000ff 00ff00 0000ff 000000 20000000"},
+        {"2000", "00000000 00000000 0000ff00 00ff0000 0000ff00 20000000"},
+    };
+    for (const auto& [depth, behind] : rows) {
+      const auto icon = platform::ReadIcon(bytesOf("0000 0100 0100 03010000 0100 0000 00000000 16000000") +
+                                           bytesOf("28000000 03000000 02000000 0100") + bytesOf(depth) +
+                                           bytesOf("00000000 00000000 00000000 00000000") + bytesOf(behind));
+      QVERIFY2(icon, depth);
+      QCOMPARE(icon->Color.pixel(0, 0), qRgb(255, 0, 0));
+      QCOMPARE(icon->Color.pixel(1, 0), qRgb(0, 255, 0));
+      QCOMPARE(icon->Color.pixel(2, 0), qRgb(0, 0, 0));  // under the mask
+      QCOMPARE(icon->Mask.pixel(2, 0), 0xFFFFFFFFU);
+    }
   }
 };
 

@@ -56,43 +56,45 @@ class PaintingTest : public QObject {
 
  private Q_SLOTS:
   // Lines along the bar and across it at its two ends. A vertical bar is a horizontal one with its axes changed.
-  void bands_data() {
-    QTest::addColumn<QSize>("size");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<QList<int>>("along");
-    QTest::addColumn<QList<int>>("first");
-    QTest::addColumn<QList<int>>("last");
+  void bands() {
     using Levels = QList<int>;
     const Levels filled = {64, 218, 192, 166, 140, 64, 80, 96, 64, Nothing};
     const Levels track = {64, 252, 249, 247, 244, 192, 204, 217, 64, Nothing};
     const Levels bare = {64, 252, 252, 252, 252, 252, 252, 64, Nothing};
-    QTest::newRow("half, to the even pixel")
-        << QSize(9, 10) << 50 << Levels{64, 218, 218, 218, 252, 252, 252, 64, Nothing} << filled << track;
-    QTest::newRow("full") << QSize(9, 10) << 100 << Levels{64, 218, 218, 218, 218, 218, 218, 64, Nothing} << filled
-                          << filled;
-    QTest::newRow("empty") << QSize(9, 10) << 0 << bare << track << track;
-    QTest::newRow("less than half a pixel") << QSize(9, 10) << 5 << bare << track << track;
-    QTest::newRow("middle rounded down") << QSize(4, 5) << 0 << Levels{64, 248, 64, Nothing}
-                                         << Levels{64, 248, 192, 64, Nothing} << Levels{64, 248, 192, 64, Nothing};
-    QTest::newRow("middle rounded up") << QSize(4, 7) << 0 << Levels{64, 251, 64, Nothing}
-                                       << Levels{64, 251, 248, 245, 192, 64, Nothing}
-                                       << Levels{64, 251, 248, 245, 192, 64, Nothing};
-  }
-
-  void bands() {
-    QFETCH(QSize, size);
-    QFETCH(int, value);
-    Properties bar = plainBar();
-    bar.Value = value;
-    bar.min = value;  // plays no part
-    const auto compare = [&](const QImage& image, QPoint along, QPoint across) {
-      QTEST(greys(image, across, along), "along");
-      QTEST(greys(image, along, across), "first");
-      QTEST(greys(image, along * (size.width() - 3), across), "last");
+    const Levels half = {64, 218, 218, 218, 252, 252, 252, 64, Nothing};
+    const Levels full = {64, 218, 218, 218, 218, 218, 218, 64, Nothing};
+    const Levels lower = {64, 248, 192, 64, Nothing};
+    const Levels upper = {64, 251, 248, 245, 192, 64, Nothing};
+    const struct {
+      const char* name;
+      QSize size;
+      int value;
+      Levels along, first, last;
+    } rows[] = {
+        {"half, to the even pixel", {9, 10}, 50, half, filled, track},
+        {"full", {9, 10}, 100, full, filled, filled},
+        {"empty", {9, 10}, 0, bare, track, track},
+        {"less than half a pixel", {9, 10}, 5, bare, track, track},
+        {"middle rounded down", {4, 5}, 0, {64, 248, 64, Nothing}, lower, lower},
+        {"middle rounded up", {4, 7}, 0, {64, 251, 64, Nothing}, upper, upper},
     };
-    compare(painted(size, bar).image(), QPoint(1, 0), QPoint(0, 1));
-    bar.Orientations = 2;
-    compare(painted(size.transposed(), bar).image(), QPoint(0, 1), QPoint(1, 0));
+    for (const auto& row : rows) {
+      Properties bar = plainBar();
+      bar.Value = row.value;
+      bar.min = row.value;  // plays no part
+      const QPoint right(1, 0);
+      const QPoint down(0, 1);
+      for (const int orientation : {1, 2}) {
+        bar.Orientations = orientation;
+        const bool across = orientation == 1;
+        const QImage image = painted(across ? row.size : row.size.transposed(), bar).image();
+        const QPoint along = across ? right : down;
+        const QPoint over = across ? down : right;
+        QVERIFY2(greys(image, over, along) == row.along, row.name);
+        QVERIFY2(greys(image, along, over) == row.first, row.name);
+        QVERIFY2(greys(image, along * (row.size.width() - 3), over) == row.last, row.name);
+      }
+    }
   }
 
   void roundedOutlineInsideTheRegion() {
@@ -102,11 +104,9 @@ class PaintingTest : public QObject {
     const QImage image = painted(QSize(10, 8), bar).image();
     const char* const rows[] = {"  #####   ", " #.....#  ", "#.......# ", "#.......# ",
                                 "#.......# ", " #.....#  ", "  #####   ", "          "};
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        const char letter = rows[y][x];
-        QCOMPARE(image.pixel(x, y), letter == ' ' ? 0U : letter == '#' ? qRgb(64, 64, 64) : ButtonFace);
-      }
+    for (int i = 0; i < 80; ++i) {
+      const char letter = rows[i / 10][i % 10];
+      QCOMPARE(image.pixel(i % 10, i / 10), letter == ' ' ? 0U : letter == '#' ? qRgb(64, 64, 64) : ButtonFace);
     }
   }
 
@@ -140,102 +140,86 @@ class PaintingTest : public QObject {
     QCOMPARE(bar.grab().toImage(), before);
   }
 
-  void greysOfColours_data() {
-    QTest::addColumn<quint32>("color");
-    QTest::addColumn<int>("level");
-    QTest::newRow("black") << 0U << 0;
-    QTest::newRow("white, above the brightest") << 0xFFFFFFU << 255;
-    QTest::newRow("lower channels count in the higher ones") << 0x4ACC3EU << 114;
-    QTest::newRow("half to the even neighbour") << 0x000080U << 43;
-    QTest::newRow("green") << 0x00FF00U << 85;
-  }
   void greysOfColours() {
-    QFETCH(quint32, color);
-    QFETCH(int, level);
-    QCOMPARE(GreyOf(color), quint32(level) * 0x010101U);
+    QCOMPARE(GreyOf(0U), 0U);
+    QCOMPARE(GreyOf(0x00FF00U), 0x555555U);
+    QCOMPARE(GreyOf(0xFFFFFFU), 0xFFFFFFU);  // above the brightest
+    QCOMPARE(GreyOf(0x4ACC3EU), 0x727272U);  // lower channels count in the higher ones
+    QCOMPARE(GreyOf(0x000080U), 0x2B2B2BU);
   }
 
-  void placesOfTheCaption_data() {
-    QTest::addColumn<int>("alignment");
-    QTest::addColumn<QSize>("bar");
-    QTest::addColumn<std::optional<QPoint>>("place");
+  void placesOfTheCaption() {
     using Place = std::optional<QPoint>;
     const QSize wide(801, 20);
-    QTest::newRow("top left") << 1 << wide << Place({1, 0});
-    QTest::newRow("bottom left") << 3 << wide << Place({1, 6});
-    QTest::newRow("middle") << 5 << wide << Place({384, 2});
-    QTest::newRow("middle, up to the even pixel") << 5 << QSize(802, 22) << Place({384, 4});
-    QTest::newRow("bottom right") << 9 << wide << Place({767, 6});
-    QTest::newRow("larger than the bar") << 9 << QSize(10, 5) << Place({-24, -9});
-    QTest::newRow("above the last") << 10 << wide << Place();
-  }
-  void placesOfTheCaption() {
-    QFETCH(int, alignment);
-    QFETCH(QSize, bar);
-    QTEST(CaptionPlace(alignment, bar, QSize(31, 13)), "place");
+    const QSize caption(31, 13);
+    QCOMPARE(CaptionPlace(1, wide, caption), Place({1, 0}));
+    QCOMPARE(CaptionPlace(3, wide, caption), Place({1, 6}));
+    QCOMPARE(CaptionPlace(5, wide, caption), Place({384, 2}));
+    QCOMPARE(CaptionPlace(5, QSize(802, 22), caption), Place({384, 4}));  // up to the even pixel
+    QCOMPARE(CaptionPlace(9, wide, caption), Place({767, 6}));
+    QCOMPARE(CaptionPlace(9, QSize(10, 5), caption), Place({-24, -9}));
+    QCOMPARE(CaptionPlace(10, wide, caption), Place());
   }
 
-  void textsOfTheCaption_data() {
-    QTest::addColumn<int>("style");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<int>("max");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("value") << 1 << 7 << 30 << QStringLiteral("7");
-    QTest::newRow("fraction") << 2 << 1 << 3 << QStringLiteral("33.3333333333333%");
-    QTest::newRow("whole") << 2 << 2000000000 << 2000000000 << QStringLiteral("100%");
-    QTest::newRow("below one") << 2 << 1 << 200 << QStringLiteral("0.5%");
-    QTest::newRow("text") << 3 << 1 << 3 << QStringLiteral("Loading");
-    QTest::newRow("none") << 4 << 1 << 3 << QString();
-  }
   void textsOfTheCaption() {
-    QFETCH(int, style);
-    QFETCH(int, value);
-    QFETCH(int, max);
-    Properties bar = plainBar();
-    bar.Value = value;
-    bar.TextStyle = style;
-    bar.Text = QStringLiteral("Loading");
-    QTEST(CaptionText(bar, value * 100.0 / max), "text");
+    const struct {
+      int style;
+      int value;
+      int max;
+      const char* text;
+    } rows[] = {
+        {1, 7, 30, "7"},     {2, 1, 3, "33.3333333333333%"}, {2, 2000000000, 2000000000, "100%"},
+        {2, 1, 200, "0.5%"}, {3, 1, 3, "Loading"},           {4, 1, 3, ""},
+    };
+    for (const auto& row : rows) {
+      Properties bar = plainBar();
+      bar.Value = row.value;
+      bar.TextStyle = row.style;
+      bar.Text = QStringLiteral("Loading");
+      QCOMPARE(CaptionText(bar, row.value * 100.0 / row.max), QString::fromLatin1(row.text));
+    }
   }
 
-  void effects_data() {
-    QTest::addColumn<int>("effect");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QList<QPoint>>("places");
-    QTest::addColumn<QList<QRgb>>("colors");
+  // Printings in their order: the caption is placed and coloured as the last one.
+  void effects() {
     constexpr QRgb text = qRgb(200, 0, 0);
     constexpr QRgb effect = qRgb(0, 0, 255);
     constexpr QRgb grey = qRgb(128, 128, 128);
-    using Places = QList<QPoint>;
-    using Colors = QList<QRgb>;
-    QTest::newRow("raised") << 2 << true << Places{{-1, -1}, {1, 1}, {0, 0}} << Colors{effect, grey, text};
-    QTest::newRow("sunken") << 3 << true << Places{{1, 1}, {-1, 0}, {0, 0}} << Colors{effect, grey, text};
-    QTest::newRow("outlined") << 4 << true << Places{{1, 0}, {-1, 0}, {0, -1}, {0, 1}, {0, 0}}
-                              << Colors{effect, effect, effect, effect, text};
-    QTest::newRow("shadow, disabled") << 5 << false << Places{{1, 1}, {0, 0}}
-                                      << Colors{qRgb(85, 85, 85), qRgb(67, 67, 67)};
-    QTest::newRow("none") << 6 << true << Places{} << Colors{};
-    QTest::newRow("below the first") << 0 << true << Places{} << Colors{};
-  }
-  void effects() {
-    QFETCH(int, effect);
-    QFETCH(bool, enabled);
-    QFETCH(QList<QPoint>, places);
-    QFETCH(QList<QRgb>, colors);
-    Properties bar = plainBar();
-    bar.Text = QStringLiteral("Hig");
-    bar.TextEffect = effect;
-    bar.Enabled = enabled;
-    bar.TextForeColor = 0x0000C8;
-    bar.TextEffectColor = 0xFF0000;
-    bar.TextAlignment = 1;
-    const QSize size(60, 40);
-    Raster expected = painted(size, bar);
-    for (int i = 0; i < places.size(); ++i) {
-      platform::Print(expected, bar.TextFont, bar.Text, 1 + places[i].x(), places[i].y(), colors[i]);
+    constexpr QRgb greyText = qRgb(67, 67, 67);
+    constexpr QRgb greyEffect = qRgb(85, 85, 85);
+    const struct {
+      const char* name;
+      int effect;
+      bool enabled;
+      std::vector<std::pair<QPoint, QRgb>> printings;
+    } rows[] = {
+        {"plain", 1, true, {{{0, 0}, text}}},
+        {"raised", 2, true, {{{-1, -1}, effect}, {{1, 1}, grey}, {{0, 0}, text}}},
+        {"sunken", 3, true, {{{1, 1}, effect}, {{-1, 0}, grey}, {{0, 0}, text}}},
+        {"outlined",
+         4,
+         true,
+         {{{1, 0}, effect}, {{-1, 0}, effect}, {{0, -1}, effect}, {{0, 1}, effect}, {{0, 0}, text}}},
+        {"shadow, disabled", 5, false, {{{1, 1}, greyEffect}, {{0, 0}, greyText}}},
+        {"none", 6, true, {}},
+        {"below the first", 0, true, {}},
+    };
+    for (const auto& row : rows) {
+      Properties bar = plainBar();
+      bar.Text = QStringLiteral("Hig");
+      bar.TextEffect = row.effect;
+      bar.Enabled = row.enabled;
+      bar.TextForeColor = 0x0000C8;
+      bar.TextEffectColor = 0xFF0000;
+      bar.TextAlignment = 1;
+      const QSize size(60, 40);
+      Raster expected = painted(size, bar);
+      for (const auto& [place, color] : row.printings) {
+        platform::Print(expected, bar.TextFont, bar.Text, 1 + place.x(), place.y(), color);
+      }
+      bar.TextStyle = 3;
+      QVERIFY2(painted(size, bar).image() == expected.image(), row.name);
     }
-    bar.TextStyle = 3;
-    QCOMPARE(painted(size, bar).image(), expected.image());
   }
 
   void fourCorners() {
