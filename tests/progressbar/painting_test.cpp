@@ -126,6 +126,11 @@ class PaintingTest : public QObject {
     LoadPalette(palette, bar);
     QCOMPARE(palette.TrackFirst.End, 0xE1DBE1U);
     QCOMPARE(palette.Outline, 0xBCB8BCU);
+    bar.Theme = 3;
+    bar.Enabled = false;
+    const QImage grey = painted(QSize(9, 10), bar).image();
+    QCOMPARE((QList<QRgb>{grey.pixel(0, 0), grey.pixel(1, 5), grey.pixel(6, 5)}),
+             (QList<QRgb>{qRgb(114, 114, 114), qRgb(110, 110, 110), qRgb(199, 199, 199)}));
   }
 
   void aMissingThemeKeepsTheColours() {

@@ -239,22 +239,6 @@ class InputTest : public QObject {
     QVERIFY(record.words.isEmpty() && !record.timer);
   }
 
-  void keys() {
-    Strip strip(149);
-    Control& control = strip.control;
-    control.EnterByKey();
-    control.StepByKey(1);
-    control.StepByKey(1);
-    control.PressByKey();
-    control.StepByKey(1);
-    control.PressByKey();
-    QVERIFY(control.EscapeByKey() && !control.EscapeByKey());
-    QCOMPARE(strip.record.words.join(u' '), QStringLiteral("Hover1 Hover4 open Hover5 Hover6 Click6 close"));
-    QCOMPARE(control.Buttons().Button_Index(), 0);
-    control.LeaveByKey();
-    QCOMPARE(control.Buttons().Button_Index(), -1);
-  }
-
   // Each letter is ten wide.
   void captionWrap() {
     const struct {

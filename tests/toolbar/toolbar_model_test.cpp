@@ -198,33 +198,30 @@ class ModelTest : public QObject {
     }
   }
 
+  // Places, each with the item that is hit there.
   void hits() {
     const struct {
-      const char* name;
       const char* letters;
       qint16 border;
-      QPoint place;
-      int hit;
-      bool inPopup = false;
+      bool inPopup;
+      std::vector<std::pair<QPoint, int>> places;
     } rows[] = {
-        {"first pixel inside", "abcd", 0, {1, 1}, 1},
-        {"on the left edge", "abcd", 0, {0, 5}, -1},
-        {"on the upper edge", "abcd", 0, {5, 0}, -1},
-        {"between two", "abcd", 0, {32, 5}, -1},
-        {"before the edge", "abcd", 0, {31, 31}, 1},
-        {"second row", "abcd", 0, {1, 33}, 4},
-        {"behind the last", "abcd", 0, {40, 40}, -1},
-        {"separator is narrow", "aSb", 0, {43, 5}, 3},
-        {"framed rows begin at 0", "abcd", 1, {1, 6}, 1},
-        {"framed, above", "abcd", 1, {10, 5}, -1},
-        {"popup counts from the corner", "abcd", 1, {1, 1}, 1, true},
-        {"popup has no separators", "aSb", 0, {65, 5}, 3, true},
+        // the first and the last pixel inside, edges, the second row, behind the last
+        {"abcd",
+         0,
+         false,
+         {{{1, 1}, 1}, {{31, 31}, 1}, {{0, 5}, -1}, {{5, 0}, -1}, {{32, 5}, -1}, {{1, 33}, 4}, {{40, 40}, -1}}},
+        {"aSb", 0, false, {{{43, 5}, 3}}},                 // a separator is narrow
+        {"abcd", 1, false, {{{1, 6}, 1}, {{10, 5}, -1}}},  // framed rows begin at 0, below the frame
+        {"abcd", 1, true, {{{1, 1}, 1}}},                  // a popup counts from its corner
+        {"aSb", 0, true, {{{65, 5}, 3}}},                  // and has no separators
     };
     for (const auto& row : rows) {
       Bar bar(QString::fromLatin1(row.letters));
       bar.model.Set(&Properties::BorderStyle, row.border);
-      const int hit = toolbar::HitTest(bar.model, row.place.x(), row.place.y(), row.inPopup);
-      QVERIFY2(hit == row.hit, row.name);
+      for (const auto& [place, hit] : row.places) {
+        QCOMPARE(toolbar::HitTest(bar.model, place.x(), place.y(), row.inPopup), hit);
+      }
     }
   }
 };

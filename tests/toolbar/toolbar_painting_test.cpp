@@ -144,7 +144,7 @@ class PaintingTest : public QObject {
 
  private Q_SLOTS:
   // Side by side. Without a frame the buttons of the first row and of the first column get no ramp in modes 0 to 3.
-  void rasters_data() {
+  void rasters() {
     const QString modes0To3 = QStringLiteral(R"(
 ............llllllllllld llllllllllldllllllllllld ###########f###########f fffffffffff#fffffffffff#
 ............l..........d l..........dl..........d #llllllllldf#llllllllldf fllllllllld#fllllllllld#
@@ -199,83 +199,87 @@ K......................L .ggggggggg.............. ........................
 K......................L ........................ ........................
 LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
 )");
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<Change>("change");
-    QTest::addColumn<QString>("rasters");
-    QTest::addColumn<int>("place");
     const Change none = [](Sheet& /*sheet*/) {};
-    for (int mode = 0; mode <= 6; ++mode) {
-      QTest::addRow("mode %d", mode) << mode << none << (mode < 4 ? modes0To3 : modes4To6AndPopup) << mode % 4;
+    const struct {
+      const char* name;
+      int mode;
+      Change change;
+      QString rasters;
+      int place;
+    } rows[] = {
+        {"mode 0", 0, none, modes0To3, 0},
+        {"mode 1", 1, none, modes0To3, 1},
+        {"mode 2", 2, none, modes0To3, 2},
+        {"mode 3", 3, none, modes0To3, 3},
+        {"mode 4", 4, none, modes4To6AndPopup, 0},
+        {"mode 5", 5, none, modes4To6AndPopup, 1},
+        {"mode 6", 6, none, modes4To6AndPopup, 2},
+        {"popup, with its raised frame", 4, asPopup, modes4To6AndPopup, 3},
+        {"sunken frame, separator", 4, sunkenWithSeparator, others, 0},
+        {"disabled, own border", 4, disabledWithOwnBorder, others, 1},
+        {"alignments", 4, alignments, others, 2},
+    };
+    for (const auto& row : rows) {
+      Sheet sheet;
+      sheet.values.ButtonsMode = row.mode;
+      row.change(sheet);
+      sheet.paint();
+      QStringList expected(QString::fromLatin1(row.name));
+      for (const QString& line : rowsOf(row.rasters)) expected += line.mid(row.place * 25, 24);
+      QCOMPARE(QStringList(expected.first()) + sheet.letters(), expected);
     }
-    QTest::newRow("popup, with its raised frame") << 4 << Change(asPopup) << modes4To6AndPopup << 3;
-    QTest::newRow("sunken frame, separator") << 4 << Change(sunkenWithSeparator) << others << 0;
-    QTest::newRow("disabled, own border") << 4 << Change(disabledWithOwnBorder) << others << 1;
-    QTest::newRow("alignments") << 4 << Change(alignments) << others << 2;
-  }
-  void rasters() {
-    QFETCH(int, mode);
-    QFETCH(Change, change);
-    QFETCH(QString, rasters);
-    QFETCH(int, place);
-    Sheet sheet;
-    sheet.values.ButtonsMode = mode;
-    change(sheet);
-    sheet.paint();
-    QStringList expected;
-    for (const QString& row : rowsOf(rasters)) expected += row.mid(place * 25, 24);
-    QCOMPARE(sheet.letters(), expected);
   }
 
-  void gradients_data() {
-    QTest::addColumn<int>("kind");
-    QTest::addColumn<quint32>("second");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("kind 0") << 0 << Ramp << QStringLiteral(".......\n.......\n.......\n.......\n.......");
-    QTest::newRow("kind 1") << 1 << Ramp << QStringLiteral("g75368f\ng75368f\ng75368f\ng75368f\ng75368f");
-    QTest::newRow("kind 2") << 2 << Ramp << QStringLiteral("g5f9ag.\ng5f9ag.\ng5f9ag.\ng5f9ag.\ng5f9ag.");
-    QTest::newRow("kind 3") << 3 << Ramp << QStringLiteral("ggggggg\n2222222\n3333333\n4444444\nfffffff");
-    QTest::newRow("kind 4") << 4 << Ramp << QStringLiteral("ggggggg\nfffffff\nfffffff\n9999999\naaaaaaa");
-    QTest::newRow("kind 5") << 5 << Ramp << QStringLiteral("gbcei3j\nbcei3jk\ncei3jkm\nei3jkmn\ni3jkmnf");
-    QTest::newRow("kind 6") << 6 << Ramp << QStringLiteral("i3jkmnf\nei3jkmn\ncei3jkm\nbcei3jk\ngbcei3j");
-    QTest::newRow("kind 7") << 7 << Ramp << QStringLiteral("#######\n#######\n#######\n#######\n#######");
-    QTest::newRow("a single pixel is the mean") << 1 << Ramp << QStringLiteral("3\n3");
-    QTest::newRow("equal colours make a box") << 7 << Face << QStringLiteral("ff\nff");
-  }
+  // Kinds 0 to 7 side by side.
   void gradients() {
-    QFETCH(int, kind);
-    QFETCH(quint32, second);
-    QFETCH(QString, expected);
-    const QStringList rows = rowsOf(expected);
-    platform::Raster raster(QSize(int(rows.first().size()), int(rows.size())), Back);
-    toolbar::FillGradient(raster, raster.rect(), Face, second, kind);
-    QCOMPARE(lettersOf(raster), rows);
+    const QStringList expected = rowsOf(QStringLiteral(R"(
+....... g75368f g5f9ag. ggggggg ggggggg gbcei3j i3jkmnf #######
+....... g75368f g5f9ag. 2222222 fffffff bcei3jk ei3jkmn #######
+....... g75368f g5f9ag. 3333333 fffffff cei3jkm cei3jkm #######
+....... g75368f g5f9ag. 4444444 9999999 ei3jkmn bcei3jk #######
+....... g75368f g5f9ag. fffffff aaaaaaa i3jkmnf gbcei3j #######
+)"));
+    const auto filled = [](QSize size, quint32 second, int kind) {
+      platform::Raster raster(size, Back);
+      toolbar::FillGradient(raster, raster.rect(), Face, second, kind);
+      return lettersOf(raster);
+    };
+    for (int kind = 0; kind <= 7; ++kind) {
+      QStringList rows;
+      for (const QString& row : expected) rows += row.mid(kind * 8, 7);
+      QCOMPARE(filled(QSize(7, 5), Ramp, kind), rows);
+    }
+    // A single pixel is the mean of both colours; equal ones make a box, whatever the kind.
+    QCOMPARE(filled(QSize(1, 2), Ramp, 1), rowsOf(QStringLiteral("3\n3")));
+    QCOMPARE(filled(QSize(2, 2), Face, 7), rowsOf(QStringLiteral("ff\nff")));
   }
 
   // The walk takes three bytes at a time, over the bytes that fill up a row too.
-  void greyWalk_data() {
-    QTest::addColumn<QString>("picture");
-    QTest::addColumn<QList<QRgb>>("expected");
-    QTest::newRow("two fill bytes") << QStringLiteral("RB") << QList<QRgb>{0x5D5D5D, 0x6A6A6A};
-    QTest::newRow("whole triples: the last stays")
-        << QStringLiteral("RBhg") << QList<QRgb>{0x5D5D5D, 0x6A6A6A, 0x3C3C3C, 0x0000A0};
-    QTest::newRow("a triple of fill bytes a row")
-        << QStringLiteral("RBh\nghR") << QList<QRgb>{0x5D5D5D, 0x6A6A6A, 0x3C3C3C, 0x353535, 0x3C3C3C, 0x5D5D5D};
-    QTest::newRow("clear under its mask") << QStringLiteral("R.B") << QList<QRgb>{0x5D5D5D, Back, 0x6A6A6A};
-    QTest::newRow("a fill byte shifts the upper row")
-        << QStringLiteral("RBhgf\nfghBR") << QList<QRgb>{0xB40A0A, 0x46B4B4, 0x354646, 0x003535, 0xC80000,
-                                                         0x424242, 0x353535, 0x3C3C3C, 0x6A6A6A, 0x5D5D5D};
-  }
   void greyWalk() {
-    QFETCH(QString, picture);
-    const auto bitmap = toolbar::PictureOfImage(pictureOf(picture));
-    platform::Raster raster(QSize(bitmap->Width(), bitmap->Height()), Back);
-    QVERIFY(toolbar::PaintGrayScale(raster, *bitmap, 0, 0));
-    QList<QRgb> shown;
-    for (int y = 0; y < raster.Height(); ++y) {
-      for (int x = 0; x < raster.Width(); ++x) shown += raster.image().pixel(x, y) & RGB_MASK;
+    const struct {
+      const char* name;
+      const char* picture;
+      QList<QRgb> expected;
+    } rows[] = {
+        {"two fill bytes", "RB", {0x5D5D5D, 0x6A6A6A}},
+        {"whole triples: the last stays", "RBhg", {0x5D5D5D, 0x6A6A6A, 0x3C3C3C, 0x0000A0}},
+        {"a triple of fill bytes a row", "RBh\nghR", {0x5D5D5D, 0x6A6A6A, 0x3C3C3C, 0x353535, 0x3C3C3C, 0x5D5D5D}},
+        {"a fill byte shifts the upper row",
+         "RBhgf\nfghBR",
+         {0xB40A0A, 0x46B4B4, 0x354646, 0x003535, 0xC80000, 0x424242, 0x353535, 0x3C3C3C, 0x6A6A6A, 0x5D5D5D}},
+        {"clear under its mask", "R.B", {0x5D5D5D, Back, 0x6A6A6A}},
+    };
+    for (const auto& row : rows) {
+      const auto bitmap = toolbar::PictureOfImage(pictureOf(QString::fromLatin1(row.picture)));
+      platform::Raster raster(QSize(bitmap->Width(), bitmap->Height()), Back);
+      QVERIFY2(toolbar::PaintGrayScale(raster, *bitmap, 0, 0), row.name);
+      QList<QRgb> shown;
+      for (int y = 0; y < raster.Height(); ++y) {
+        for (int x = 0; x < raster.Width(); ++x) shown += raster.image().pixel(x, y) & RGB_MASK;
+      }
+      QVERIFY2(shown == row.expected, row.name);
+      QVERIFY(!toolbar::PaintGrayScale(raster, toolbar::Picture(), 0, 0));
     }
-    QTEST(shown, "expected");
-    QVERIFY(!toolbar::PaintGrayScale(raster, toolbar::Picture(), 0, 0));
   }
 
   // On a button of 80 x 60 with an icon of 3 x 3, in lines of 17.
