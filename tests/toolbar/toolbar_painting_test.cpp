@@ -30,14 +30,12 @@ constexpr quint32 Ramp = 0xA00000;
 QStringList lettersOf(const platform::Raster& raster) {
   QStringList rows;
   for (int y = 0; y < raster.Height(); ++y) {
-    QString row;
+    rows += QString();
     for (int x = 0; x < raster.Width(); ++x) {
-      const QRgb pixel = raster.image().pixel(x, y);
-      const auto found = std::find_if(Palette.begin(), Palette.end(),
-                                      [pixel](const auto& entry) { return (pixel & RGB_MASK) == entry.second; });
-      row += found == Palette.end() ? u'@' : QChar::fromLatin1(found->first);
+      const QRgb color = raster.image().pixel(x, y) & RGB_MASK;
+      const auto found = std::ranges::find(Palette, color, [](const auto& entry) { return entry.second; });
+      rows.last() += found == Palette.end() ? u'@' : QChar::fromLatin1(found->first);
     }
-    rows += row;
   }
   return rows;
 }
@@ -108,8 +106,6 @@ struct Sheet {
   bool userMode = true;
 };
 
-using Change = void (*)(Sheet& sheet);
-
 void asPopup(Sheet& sheet) {
   sheet.values.ShowChevron = true;
   sheet.isMain = false;
@@ -143,9 +139,11 @@ class PaintingTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  // Side by side. Without a frame the buttons of the first row and of the first column get no ramp in modes 0 to 3.
+  // Side by side: modes 0 to 3; modes 4 to 6 and a popup with its raised frame; a sunken frame with a separator, a
+  // disabled bar with a border of its own, the alignments. Without a frame the buttons of the first row and of the
+  // first column get no ramp in modes 0 to 3.
   void rasters() {
-    const QString modes0To3 = QStringLiteral(R"(
+    const QStringList rasters[] = {rowsOf(QStringLiteral(R"(
 ............llllllllllld llllllllllldllllllllllld ###########f###########f fffffffffff#fffffffffff#
 ............l..........d l..........dl..........d #llllllllldf#llllllllldf fllllllllld#fllllllllld#
 ....R.R.....l...R.R....d l...R.R....dl...R.R....d #l..R.R...df#l..R.R...df fl..R.R...d#fl..R.R...d#
@@ -162,8 +160,8 @@ d.....R.R..l....0.0..... d.....R.R..ll4440404444d #d....R.R.lf#l660606666f #d...
 d......B...l............ d......B...llffffffffffd #d.....B..lf#lffffffffff #d.....B..lfflfffffffff#
 d.....R.R..l............ d.....R.R..ll..........d #lllllRlRllf#ddddddddddf #lllllRlRllffdddddddddd#
 llllllllllll............ lllllllllllldddddddddddd ffffffffffffffffffffffff ffffffffffff############
-)");
-    const QString modes4To6AndPopup = QStringLiteral(R"(
+)")),
+                                   rowsOf(QStringLiteral(R"(
 ........................ ..ddddddd.....ddddddd... ..ddddddd.....ddddddd... LLLLLLLLLLLLLLLLLLLLLLLK
 .............DDRDRDDDD.. .dfffffffd...dhRhRhhhd.. .dfffffffd...dhhhhhhhd.. L......................K
 ....R.R......DHHBHHHHD.. dfggRgRggfd.dhhhBhhhhhd. dgggRgRgggd.dhhhRhRhhhd. L......................K
@@ -180,8 +178,8 @@ llllllllllll............ lllllllllllldddddddddddd ffffffffffffffffffffffff fffff
 .DDDDDDDDD.............. .dfffffffd...dfffffffd.. .dfffRfRfd...dfffffffd.. L......................K
 ........................ ..ddddddd.....ddddddd... ..ddddddd.....ddddddd... L......................K
 ........................ ........................ ........................ KKKKKKKKKKKKKKKKKKKKKKKK
-)");
-    const QString others = QStringLiteral(R"(
+)")),
+                                   rowsOf(QStringLiteral(R"(
 KKKKKKKKKKKKKKKKKKKKKKKL ........................ ................R.R.....
 K......................L .............ggggggggg.. .................B......
 K......................L ....0.0......gHH0H0HHg.. ................R.R.....
@@ -198,34 +196,16 @@ K......................L .ghh0h0hhg......0.0..... .....R.R........R.R.....
 K......................L .ggggggggg.............. ........................
 K......................L ........................ ........................
 LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
-)");
-    const Change none = [](Sheet& /*sheet*/) {};
-    const struct {
-      const char* name;
-      int mode;
-      Change change;
-      QString rasters;
-      int place;
-    } rows[] = {
-        {"mode 0", 0, none, modes0To3, 0},
-        {"mode 1", 1, none, modes0To3, 1},
-        {"mode 2", 2, none, modes0To3, 2},
-        {"mode 3", 3, none, modes0To3, 3},
-        {"mode 4", 4, none, modes4To6AndPopup, 0},
-        {"mode 5", 5, none, modes4To6AndPopup, 1},
-        {"mode 6", 6, none, modes4To6AndPopup, 2},
-        {"popup, with its raised frame", 4, asPopup, modes4To6AndPopup, 3},
-        {"sunken frame, separator", 4, sunkenWithSeparator, others, 0},
-        {"disabled, own border", 4, disabledWithOwnBorder, others, 1},
-        {"alignments", 4, alignments, others, 2},
-    };
-    for (const auto& row : rows) {
+)"))};
+    using Change = void (*)(Sheet & sheet);
+    const Change others[] = {asPopup, sunkenWithSeparator, disabledWithOwnBorder, alignments};
+    for (int place = 0; place < 11; ++place) {
       Sheet sheet;
-      sheet.values.ButtonsMode = row.mode;
-      row.change(sheet);
+      sheet.values.ButtonsMode = place < 7 ? place : 4;
+      if (place >= 7) others[place - 7](sheet);
       sheet.paint();
-      QStringList expected(QString::fromLatin1(row.name));
-      for (const QString& line : rowsOf(row.rasters)) expected += line.mid(row.place * 25, 24);
+      QStringList expected(QStringLiteral("raster %1").arg(place));
+      for (const QString& line : rasters[place / 4]) expected += line.mid(place % 4 * 25, 24);
       QCOMPARE(QStringList(expected.first()) + sheet.letters(), expected);
     }
   }
