@@ -167,25 +167,22 @@ class PaintingTest : public QObject {
   }
 
   void textsOfTheCaption() {
-    const struct {
-      int style;
-      int value;
-      int max;
-      const char* text;
-    } rows[] = {
-        {1, 7, 30, "7"},     {2, 1, 3, "33.3333333333333%"}, {2, 2000000000, 2000000000, "100%"},
-        {2, 1, 200, "0.5%"}, {3, 1, 3, "Loading"},           {4, 1, 3, ""},
-    };
-    for (const auto& row : rows) {
+    const auto text = [](int style, int value, int max) {
       Properties bar = plainBar();
-      bar.Value = row.value;
-      bar.TextStyle = row.style;
+      bar.Value = value;
+      bar.TextStyle = style;
       bar.Text = QStringLiteral("Loading");
-      QCOMPARE(CaptionText(bar, row.value * 100.0 / row.max), QString::fromLatin1(row.text));
-    }
+      return CaptionText(bar, value * 100.0 / max);
+    };
+    QCOMPARE(text(1, 7, 30), QStringLiteral("7"));
+    QCOMPARE(text(2, 1, 3), QStringLiteral("33.3333333333333%"));
+    QCOMPARE(text(2, 2000000000, 2000000000), QStringLiteral("100%"));
+    QCOMPARE(text(2, 1, 200), QStringLiteral("0.5%"));
+    QCOMPARE(text(3, 1, 3), QStringLiteral("Loading"));
+    QCOMPARE(text(4, 1, 3), QString());
   }
 
-  // Printings in their order: the caption is placed and coloured as the last one.
+  // Printings in their order, the caption itself as the last one.
   void effects() {
     constexpr QRgb text = qRgb(200, 0, 0);
     constexpr QRgb effect = qRgb(0, 0, 255);

@@ -78,9 +78,10 @@ class PropertiesTest : public QObject {
     ProgressBar bar;
     QFont font;
     font.setPixelSize(19);
+    font.setItalic(true);
     bar.SetTextFont(font);
     bar.SetEnabled(false);
-    QCOMPARE(bar.font().pixelSize(), 19);
+    QVERIFY(bar.font().pixelSize() == 19 && bar.font().italic());
     QVERIFY(bar.isEnabled());
   }
 

@@ -115,38 +115,31 @@ class InputTest : public QObject {
 
  private Q_SLOTS:
   void eventsInOrder() {
-    const struct {
-      const char* name;
-      const char* steps;
-      const char* told;
-    } rows[] = {
-        {"hover before enter", "m5,5 m6,5", "Hover1 Move1 Enter Move1"},
-        {"the same place twice", "m5,5 m5,5", "Hover1 Move1 Enter Move1"},
-        {"click", "m5,5 d u c", "Hover1 Move1 Enter Down1 Up1 Click1"},
-        {"double click", "m5,5 d u c 2 u", "Hover1 Move1 Enter Down1 Up1 Click1 DblClick1 Up1"},
-        {"disabled", "m40,5 d u c", "Enter"},
-        {"separator", "m70,5 d u c", "Enter"},
-        {"straight to another", "m5,5 m80,5", "Hover1 Move1 Enter Hover4 Move4"},
-        {"leave in a press", "m5,5 d l u c", "Hover1 Move1 Enter Down1 Leave"},
-        {"enter again", "m5,5 l m6,5", "Hover1 Move1 Enter Leave Hover1 Move1 Enter"},
-        {"chevron", "m145,5 d", "Enter open"},
-        {"release on the strip isn't seen", "m145,5 d u p5,5", "Enter open Hover5 Move5"},
-        {"press on the chevron opens anew", "m145,5 d m146,5 d", "Enter open"},
-        {"popup", "m145,5 d p40,10 D U C", "Enter open Hover6 Move6 Down6 Up6 Click6"},
-        {"popup, behind the last", "m145,5 d p40,10 p70,10", "Enter open Hover6 Move6 Move6"},
-        {"shown button closes the popup", "m145,5 d m5,5", "Enter open close Hover1 Move1"},
-        {"focus closes the popup", "m145,5 d f", "Enter open close"},
-        {"tip after five ticks", "m5,5 t t t t t t", "Hover1 Move1 Enter tip"},
-        {"a move begins anew", "m5,5 t t t t m6,5 t t t t", "Hover1 Move1 Enter Move1"},
-        {"no tip outside", "m5,5 l t t t t t", "Hover1 Move1 Enter Leave"},
-        {"no tip on the chevron", "m145,5 t t t t t", "Enter"},
-    };
-    for (const auto& row : rows) {
+    const auto told = [](const char* steps) {
       Strip strip(149);
       strip.control.Buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
-      const QString name = QString::fromLatin1(row.name) + QStringLiteral(": ");
-      QCOMPARE(name + strip.run(QString::fromLatin1(row.steps)), name + QString::fromLatin1(row.told));
-    }
+      return strip.run(QString::fromLatin1(steps)).toLatin1();
+    };
+    QCOMPARE(told("m5,5 m6,5"), QByteArray("Hover1 Move1 Enter Move1"));              // hover before enter
+    QCOMPARE(told("m5,5 m5,5"), QByteArray("Hover1 Move1 Enter Move1"));              // the same place twice
+    QCOMPARE(told("m5,5 d u c"), QByteArray("Hover1 Move1 Enter Down1 Up1 Click1"));  // click
+    QCOMPARE(told("m5,5 d u c 2 u"), QByteArray("Hover1 Move1 Enter Down1 Up1 Click1 DblClick1 Up1"));  // double click
+    QCOMPARE(told("m40,5 d u c"), QByteArray("Enter"));                                                 // disabled
+    QCOMPARE(told("m70,5 d u c"), QByteArray("Enter"));                                                 // separator
+    QCOMPARE(told("m5,5 m80,5"), QByteArray("Hover1 Move1 Enter Hover4 Move4"));               // straight to another
+    QCOMPARE(told("m5,5 d l u c"), QByteArray("Hover1 Move1 Enter Down1 Leave"));              // leave in a press
+    QCOMPARE(told("m5,5 l m6,5"), QByteArray("Hover1 Move1 Enter Leave Hover1 Move1 Enter"));  // enter again
+    QCOMPARE(told("m145,5 d"), QByteArray("Enter open"));                                      // chevron
+    QCOMPARE(told("m145,5 d u p5,5"), QByteArray("Enter open Hover5 Move5"));  // release on the strip isn't seen
+    QCOMPARE(told("m145,5 d m146,5 d"), QByteArray("Enter open"));             // press on the chevron opens anew
+    QCOMPARE(told("m145,5 d p40,10 D U C"), QByteArray("Enter open Hover6 Move6 Down6 Up6 Click6"));  // popup
+    QCOMPARE(told("m145,5 d p40,10 p70,10"), QByteArray("Enter open Hover6 Move6 Move6"));  // popup, behind the last
+    QCOMPARE(told("m145,5 d m5,5"), QByteArray("Enter open close Hover1 Move1"));  // shown button closes the popup
+    QCOMPARE(told("m145,5 d f"), QByteArray("Enter open close"));                  // focus closes the popup
+    QCOMPARE(told("m5,5 t t t t t t"), QByteArray("Hover1 Move1 Enter tip"));      // tip after five ticks
+    QCOMPARE(told("m5,5 t t t t m6,5 t t t t"), QByteArray("Hover1 Move1 Enter Move1"));  // a move begins anew
+    QCOMPARE(told("m5,5 l t t t t t"), QByteArray("Hover1 Move1 Enter Leave"));           // no tip outside
+    QCOMPARE(told("m145,5 t t t t t"), QByteArray("Enter"));                              // no tip on the chevron
   }
 
   void popupHangsBelowTheControl() {
@@ -241,29 +234,20 @@ class InputTest : public QObject {
 
   // Each letter is ten wide.
   void captionWrap() {
-    const struct {
-      const char* name;
-      const char* caption;
-      int width;
-      const char* lines;
-    } rows[] = {
-        {"empty", "", 50, ""},
-        {"fits with its blanks", " a b ", 60, " a b "},
-        {"line ends go", "ab\r\ncd", 60, "abcd"},
-        {"at a blank", "open file now", 80, "open|file|now"},
-        {"before a digit", "part12 x", 50, "part|12 x"},
-        {"inside a word", "abcdefg", 40, "abc|defg"},
-        {"only the last crosses", "abcd", 40, "abcd"},
-        {"only the last crosses, with a break", "a bc", 40, "a|bc"},
-        {"blank before the joined piece", "abcd ef -g", 60, "abcd|ef -g"},
-        {"narrower than a letter", "ab", 5, "|ab"},
+    const auto lines = [](const char* caption, int width) {
+      const auto tens = [](const QString& text) { return int(text.size()) * 10; };
+      return toolbar::WrapCaption(QString::fromLatin1(caption), width, tens).join(u'|').toLatin1();
     };
-    const auto tens = [](const QString& text) { return int(text.size()) * 10; };
-    for (const auto& row : rows) {
-      const QString name = QString::fromLatin1(row.name) + QStringLiteral(": ");
-      const QStringList lines = toolbar::WrapCaption(QString::fromLatin1(row.caption), row.width, tens);
-      QCOMPARE(name + lines.join(u'|'), name + QString::fromLatin1(row.lines));
-    }
+    QCOMPARE(lines("", 50), QByteArray(""));                            // empty
+    QCOMPARE(lines(" a b ", 60), QByteArray(" a b "));                  // fits with its blanks
+    QCOMPARE(lines("ab\r\ncd", 60), QByteArray("abcd"));                // line ends go
+    QCOMPARE(lines("open file now", 80), QByteArray("open|file|now"));  // at a blank
+    QCOMPARE(lines("part12 x", 50), QByteArray("part|12 x"));           // before a digit
+    QCOMPARE(lines("abcdefg", 40), QByteArray("abc|defg"));             // inside a word
+    QCOMPARE(lines("abcd", 40), QByteArray("abcd"));                    // only the last crosses
+    QCOMPARE(lines("a bc", 40), QByteArray("a|bc"));                    // only the last crosses, with a break
+    QCOMPARE(lines("abcd ef -g", 60), QByteArray("abcd|ef -g"));        // blank before the joined piece
+    QCOMPARE(lines("ab", 5), QByteArray("|ab"));                        // narrower than a letter
   }
 };
 

@@ -40,12 +40,12 @@ struct Bar {
   Model model{told, QFont()};
 };
 
-QString named(const char* row, const QString& outcome) {
-  return QString::fromLatin1(row) + QStringLiteral(": ") + outcome;
-}
-
 /// Of every button its corner, behind an h when it is hidden; the height, and the size of the popup.
-QString placesOf(Bar& bar, int width) {
+QByteArray placesOf(const char* letters, qint16 border, int perRow, int width) {
+  Bar bar(QString::fromLatin1(letters));
+  bar.model.Set(&Properties::BorderStyle, border);
+  bar.model.Set(&Properties::ButtonsPerRow, perRow);
+  bar.model.Set(&Properties::ShowChevron, true);
   toolbar::Layout layout;
   int height = -1;
   try {
@@ -53,17 +53,14 @@ QString placesOf(Bar& bar, int width) {
     toolbar::LayOut(bar.model, width, true, layout);
   } catch (const std::domain_error&) {
   }
-  QString text;
+  const auto pair = [](int x, int y) { return QByteArray::number(x) + ',' + QByteArray::number(y) + ' '; };
+  QByteArray text;
   for (int i = 1; i <= bar.model.Button_Count(); ++i) {
     const ToolbarButton& button = bar.model.Button(i);
-    text += QStringLiteral("%1%2,%3 ")
-                .arg(button.InChevron ? QStringLiteral("h") : QString())
-                .arg(button.PosX)
-                .arg(button.PosY);
+    text += (button.InChevron ? "h" : "") + pair(button.PosX, button.PosY);
   }
-  text += QStringLiteral("height %1").arg(height);
-  if (layout.HiddenButtons.empty()) return text;
-  return text + QStringLiteral(" popup %1,%2").arg(layout.Popup.width()).arg(layout.Popup.height());
+  if (!layout.HiddenButtons.empty()) text += "popup " + pair(layout.Popup.width(), layout.Popup.height());
+  return text + "height " + QByteArray::number(height);
 }
 
 }  // namespace
@@ -75,55 +72,48 @@ class ModelTest : public QObject {
   // From "abcd" with the second button current: letters, current button, what was told. After the range error all is
   // as before.
   void operations() {
-    const struct {
-      const char* name;
-      void (*run)(Model& model);
-      const char* outcome;
-    } rows[] = {
-        {"more", [](Model& m) { m.SetButton_Count(6); }, "abcdBB 6 Button_Count L"},
-        {"fewer", [](Model& m) { m.SetButton_Count(1); }, "a 1 Button_Count L"},
-        {"same count", [](Model& m) { m.SetButton_Count(4); }, "abcd 2"},
-        {"count 0", [](Model& m) { m.SetButton_Count(0); }, "abcd 2"},
-        {"other index", [](Model& m) { m.SetButton_Index(4); }, "abcd 4 Button_Index R"},
-        {"same index", [](Model& m) { m.SetButton_Index(2); }, "abcd 2"},
-        {"index 0", [](Model& m) { m.SetButton_Index(0); }, "33 Index out or range!!"},
-        {"remove", [](Model& m) { m.RemoveButton(1); }, "bcd 2 L"},
-        {"remove behind", [](Model& m) { m.RemoveButton(5); }, "33 Index out or range!!"},
-        {"insert up", [](Model& m) { m.InsertButtonTo(1, 3); }, "bcad 2 L"},
-        {"insert down", [](Model& m) { m.InsertButtonTo(4, 1); }, "dabc 2 L"},
-        {"insert in place", [](Model& m) { m.InsertButtonTo(3, 3); }, "abcd 2 L"},
-        {"insert behind", [](Model& m) { m.InsertButtonTo(1, 5); }, "33 Index out or range!!"},
-        {"swap", [](Model& m) { m.MoveButtonTo(4, 1); }, "dbca 2 L"},
-        {"swap outside", [](Model& m) { m.MoveButtonTo(0, 0); }, "33 Index out or range!!"},
-        {"command remove", [](Model& m) { m.SetButtonRemove(1); }, "acd 2 L L"},
-        {"command remove, not 1", [](Model& m) { m.SetButtonRemove(2); }, "abcd 2"},
-        {"command move", [](Model& m) { m.SetButtonMoveTo(4); }, "adcb 4 L R"},
-        {"command insert", [](Model& m) { m.SetButtonInsertTo(4); }, "acdb 4 L R"},
-        {"command outside", [](Model& m) { m.SetButtonInsertTo(9); }, "33 Index out or range!!"},
-        {"value by number", [](Model& m) { m.SetButtonValue(3, 1, 7); }, "ab7d 2 R"},
-        {"no such value", [](Model& m) { m.SetButtonValue(3, 9, 7); }, "abcd 2 R"},
-        {"field", [](Model& m) { m.SetCurrentValue(toolbar::CaptionProperty, QLatin1String("x")); },
-         "axcd 2 ButtonCaption R"},
-        {"tip", [](Model& m) { m.SetCurrentValue(toolbar::ToolTipTextProperty, QLatin1String("x")); },
-         "abcd 2 ButtonToolTip -"},
-        {"look", [](Model& m) { m.Set(&Properties::ButtonsMode, 2); }, "abcd 2 ButtonsMode L"},
-        {"background", [](Model& m) { m.Set(&Properties::BackColor, 5U); }, "abcd 2 BackColor B"},
-        {"chevron", [](Model& m) { m.Set(&Properties::ShowChevron, true); }, "abcd 2 ShowChevron -"},
-    };
-    for (const auto& row : rows) {
+    const auto after = [](void (*run)(Model & model)) {
       Bar bar(QStringLiteral("abcd"));
       bar.model.PointAt(2);
-      QString outcome;
+      QString error;
       try {
-        row.run(bar.model);
-        outcome = bar.letters() + u' ' + QString::number(bar.model.Button_Index());
-        if (!bar.told.words.isEmpty()) outcome += u' ' + bar.told.words.join(u' ');
-      } catch (const toolbar::RangeError& error) {
-        outcome = QString::number(toolbar::RangeError::Number) + u' ' + error.description();
-        QVERIFY(bar.letters() == QStringLiteral("abcd") && bar.model.Button_Index() == 2 && bar.told.words.isEmpty());
+        run(bar.model);
+      } catch (const toolbar::RangeError& failure) {
+        error = QString::number(toolbar::RangeError::Number) + failure.description();
       }
-      QCOMPARE(named(row.name, outcome), named(row.name, QString::fromLatin1(row.outcome)));
-    }
+      const QStringList state{bar.letters(), QString::number(bar.model.Button_Index())};
+      return (state + bar.told.words).join(u' ').append(error).toLatin1();
+    };
+    const QByteArray refused("abcd 233Index out or range!!");
+    QCOMPARE(after([](Model& m) { m.SetButton_Count(6); }), QByteArray("abcdBB 6 Button_Count L"));
+    QCOMPARE(after([](Model& m) { m.SetButton_Count(1); }), QByteArray("a 1 Button_Count L"));
+    QCOMPARE(after([](Model& m) { m.SetButton_Count(4); }), QByteArray("abcd 2"));
+    QCOMPARE(after([](Model& m) { m.SetButton_Count(0); }), QByteArray("abcd 2"));
+    QCOMPARE(after([](Model& m) { m.SetButton_Index(4); }), QByteArray("abcd 4 Button_Index R"));
+    QCOMPARE(after([](Model& m) { m.SetButton_Index(2); }), QByteArray("abcd 2"));
+    QCOMPARE(after([](Model& m) { m.SetButton_Index(0); }), refused);
+    QCOMPARE(after([](Model& m) { m.RemoveButton(1); }), QByteArray("bcd 2 L"));
+    QCOMPARE(after([](Model& m) { m.RemoveButton(5); }), refused);
+    QCOMPARE(after([](Model& m) { m.InsertButtonTo(1, 3); }), QByteArray("bcad 2 L"));
+    QCOMPARE(after([](Model& m) { m.InsertButtonTo(4, 1); }), QByteArray("dabc 2 L"));
+    QCOMPARE(after([](Model& m) { m.InsertButtonTo(3, 3); }), QByteArray("abcd 2 L"));
+    QCOMPARE(after([](Model& m) { m.InsertButtonTo(1, 5); }), refused);
+    QCOMPARE(after([](Model& m) { m.MoveButtonTo(4, 1); }), QByteArray("dbca 2 L"));
+    QCOMPARE(after([](Model& m) { m.MoveButtonTo(0, 0); }), refused);
+    QCOMPARE(after([](Model& m) { m.SetButtonRemove(1); }), QByteArray("acd 2 L L"));
+    QCOMPARE(after([](Model& m) { m.SetButtonRemove(2); }), QByteArray("abcd 2"));
+    QCOMPARE(after([](Model& m) { m.SetButtonMoveTo(4); }), QByteArray("adcb 4 L R"));
+    QCOMPARE(after([](Model& m) { m.SetButtonInsertTo(4); }), QByteArray("acdb 4 L R"));
+    QCOMPARE(after([](Model& m) { m.SetButtonInsertTo(9); }), refused);
+    QCOMPARE(after([](Model& m) { m.SetButtonValue(3, 1, 7); }), QByteArray("ab7d 2 R"));
+    QCOMPARE(after([](Model& m) { m.SetButtonValue(3, 9, 7); }), QByteArray("abcd 2 R"));
+    QCOMPARE(after([](Model& m) { m.SetCurrentValue(toolbar::CaptionProperty, QLatin1String("x")); }),
+             QByteArray("axcd 2 ButtonCaption R"));
+    QCOMPARE(after([](Model& m) { m.SetCurrentValue(toolbar::ToolTipTextProperty, QLatin1String("x")); }),
+             QByteArray("abcd 2 ButtonToolTip -"));
+    QCOMPARE(after([](Model& m) { m.Set(&Properties::ButtonsMode, 2); }), QByteArray("abcd 2 ButtonsMode L"));
+    QCOMPARE(after([](Model& m) { m.Set(&Properties::BackColor, 5U); }), QByteArray("abcd 2 BackColor B"));
+    QCOMPARE(after([](Model& m) { m.Set(&Properties::ShowChevron, true); }), QByteArray("abcd 2 ShowChevron -"));
   }
 
   void lastButtonStays() {
@@ -170,59 +160,38 @@ class ModelTest : public QObject {
   }
 
   void layout() {
-    const struct {
-      const char* name;
-      const char* letters;
-      qint16 border;
-      int perRow;
-      int width;
-      const char* places;
-    } rows[] = {
-        {"one row", "abc", 0, 10, 800, "0,0 32,0 64,0 height 32"},
-        {"framed", "abc", 1, 10, 800, "2,5 34,5 66,5 height 39"},
-        {"separator in rows", "aSbcd", 0, 3, 800, "0,0 32,0 42,0 0,32 32,32 height 64"},
-        {"rows of a framed bar", "abc", 2, 2, 800, "2,5 34,5 2,37 height 71"},
-        {"just enough room", "ab", 0, 10, 76, "0,0 32,0 height 32"},
-        {"one pixel short", "ab", 0, 10, 75, "0,0 h2,5 height 32 popup 36,39"},
-        {"separators never hide", "aSb", 0, 10, 44, "0,0 32,0 h2,5 height 32 popup 36,39"},
-        {"second row begins anew", "abcd", 0, 2, 44, "0,0 h2,5 0,32 h34,5 height 64 popup 68,39"},
-        {"four hidden", "abcde", 0, 10, 44, "0,0 h2,5 h34,5 h66,5 h2,37 height 32 popup 100,71"},
-        {"row of nothing", "ab", 0, 0, 800, "0,0 0,0 height -1"},
-    };
-    for (const auto& row : rows) {
-      Bar bar(QString::fromLatin1(row.letters));
-      bar.model.Set(&Properties::BorderStyle, row.border);
-      bar.model.Set(&Properties::ButtonsPerRow, row.perRow);
-      bar.model.Set(&Properties::ShowChevron, true);
-      QCOMPARE(named(row.name, placesOf(bar, row.width)), named(row.name, QString::fromLatin1(row.places)));
-    }
+    QCOMPARE(placesOf("abc", 0, 10, 800), QByteArray("0,0 32,0 64,0 height 32"));              // one row
+    QCOMPARE(placesOf("abc", 1, 10, 800), QByteArray("2,5 34,5 66,5 height 39"));              // framed
+    QCOMPARE(placesOf("aSbcd", 0, 3, 800), QByteArray("0,0 32,0 42,0 0,32 32,32 height 64"));  // separator in rows
+    QCOMPARE(placesOf("abc", 2, 2, 800), QByteArray("2,5 34,5 2,37 height 71"));               // rows of a framed bar
+    QCOMPARE(placesOf("ab", 0, 10, 76), QByteArray("0,0 32,0 height 32"));                     // just enough room
+    QCOMPARE(placesOf("ab", 0, 10, 75), QByteArray("0,0 h2,5 popup 36,39 height 32"));         // one pixel short
+    QCOMPARE(placesOf("aSb", 0, 10, 44), QByteArray("0,0 32,0 h2,5 popup 36,39 height 32"));   // separators never hide
+    QCOMPARE(placesOf("abcd", 0, 2, 44),
+             QByteArray("0,0 h2,5 0,32 h34,5 popup 68,39 height 64"));  // second row begins anew
+    QCOMPARE(placesOf("abcde", 0, 10, 44),
+             QByteArray("0,0 h2,5 h34,5 h66,5 h2,37 popup 100,71 height 32"));  // four hidden
+    QCOMPARE(placesOf("ab", 0, 0, 800), QByteArray("0,0 0,0 height -1"));       // row of nothing
   }
 
-  // Places, each with the item that is hit there.
   void hits() {
-    const struct {
-      const char* letters;
-      qint16 border;
-      bool inPopup;
-      std::vector<std::pair<QPoint, int>> places;
-    } rows[] = {
-        // the first and the last pixel inside, edges, the second row, behind the last
-        {"abcd",
-         0,
-         false,
-         {{{1, 1}, 1}, {{31, 31}, 1}, {{0, 5}, -1}, {{5, 0}, -1}, {{32, 5}, -1}, {{1, 33}, 4}, {{40, 40}, -1}}},
-        {"aSb", 0, false, {{{43, 5}, 3}}},                 // a separator is narrow
-        {"abcd", 1, false, {{{1, 6}, 1}, {{10, 5}, -1}}},  // framed rows begin at 0, below the frame
-        {"abcd", 1, true, {{{1, 1}, 1}}},                  // a popup counts from its corner
-        {"aSb", 0, true, {{{65, 5}, 3}}},                  // and has no separators
+    const auto hit = [](const char* letters, qint16 border, int x, int y, bool inPopup = false) {
+      Bar bar(QString::fromLatin1(letters));
+      bar.model.Set(&Properties::BorderStyle, border);
+      return toolbar::HitTest(bar.model, x, y, inPopup);
     };
-    for (const auto& row : rows) {
-      Bar bar(QString::fromLatin1(row.letters));
-      bar.model.Set(&Properties::BorderStyle, row.border);
-      for (const auto& [place, hit] : row.places) {
-        QCOMPARE(toolbar::HitTest(bar.model, place.x(), place.y(), row.inPopup), hit);
-      }
-    }
+    QCOMPARE(hit("abcd", 0, 1, 1), 1);
+    QCOMPARE(hit("abcd", 0, 31, 31), 1);
+    QCOMPARE(hit("abcd", 0, 0, 5), -1);  // edges
+    QCOMPARE(hit("abcd", 0, 5, 0), -1);
+    QCOMPARE(hit("abcd", 0, 32, 5), -1);
+    QCOMPARE(hit("abcd", 0, 1, 33), 4);  // the second row
+    QCOMPARE(hit("abcd", 0, 40, 40), -1);
+    QCOMPARE(hit("aSb", 0, 43, 5), 3);  // a separator is narrow
+    QCOMPARE(hit("abcd", 1, 1, 6), 1);  // framed rows begin at 0, below the frame
+    QCOMPARE(hit("abcd", 1, 10, 5), -1);
+    QCOMPARE(hit("abcd", 1, 1, 1, true), 1);  // a popup counts from its corner, and has no separators
+    QCOMPARE(hit("aSb", 0, 65, 5, true), 3);
   }
 };
 
