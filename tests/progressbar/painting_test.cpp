@@ -58,42 +58,31 @@ class PaintingTest : public QObject {
   // Lines along the bar and across it at its two ends. A vertical bar is a horizontal one with its axes changed.
   void bands() {
     using Levels = QList<int>;
+    const auto lines = [](QSize size, int value, int orientation) {
+      Properties bar = plainBar();
+      bar.Value = value;
+      bar.min = value;  // plays no part
+      bar.Orientations = orientation;
+      const QPoint along = orientation == 1 ? QPoint(1, 0) : QPoint(0, 1);
+      const QPoint over = along.transposed();
+      const QImage image = painted(orientation == 1 ? size : size.transposed(), bar).image();
+      return QList<Levels>{greys(image, over, along), greys(image, along, over),
+                           greys(image, along * (size.width() - 3), over)};
+    };
     const Levels filled = {64, 218, 192, 166, 140, 64, 80, 96, 64, Nothing};
     const Levels track = {64, 252, 249, 247, 244, 192, 204, 217, 64, Nothing};
     const Levels bare = {64, 252, 252, 252, 252, 252, 252, 64, Nothing};
     const Levels half = {64, 218, 218, 218, 252, 252, 252, 64, Nothing};
     const Levels full = {64, 218, 218, 218, 218, 218, 218, 64, Nothing};
-    const Levels lower = {64, 248, 192, 64, Nothing};
-    const Levels upper = {64, 251, 248, 245, 192, 64, Nothing};
-    const struct {
-      const char* name;
-      QSize size;
-      int value;
-      Levels along, first, last;
-    } rows[] = {
-        {"half, to the even pixel", {9, 10}, 50, half, filled, track},
-        {"full", {9, 10}, 100, full, filled, filled},
-        {"empty", {9, 10}, 0, bare, track, track},
-        {"less than half a pixel", {9, 10}, 5, bare, track, track},
-        {"middle rounded down", {4, 5}, 0, {64, 248, 64, Nothing}, lower, lower},
-        {"middle rounded up", {4, 7}, 0, {64, 251, 64, Nothing}, upper, upper},
-    };
-    for (const auto& row : rows) {
-      Properties bar = plainBar();
-      bar.Value = row.value;
-      bar.min = row.value;  // plays no part
-      const QPoint right(1, 0);
-      const QPoint down(0, 1);
-      for (const int orientation : {1, 2}) {
-        bar.Orientations = orientation;
-        const bool across = orientation == 1;
-        const QImage image = painted(across ? row.size : row.size.transposed(), bar).image();
-        const QPoint along = across ? right : down;
-        const QPoint over = across ? down : right;
-        QVERIFY2(greys(image, over, along) == row.along, row.name);
-        QVERIFY2(greys(image, along, over) == row.first, row.name);
-        QVERIFY2(greys(image, along * (row.size.width() - 3), over) == row.last, row.name);
-      }
+    const Levels down = {64, 248, 192, 64, Nothing};  // the middle of 5, and of 7
+    const Levels up = {64, 251, 248, 245, 192, 64, Nothing};
+    for (const int orientation : {1, 2}) {
+      QCOMPARE(lines({9, 10}, 50, orientation), (QList<Levels>{half, filled, track}));
+      QCOMPARE(lines({9, 10}, 100, orientation), (QList<Levels>{full, filled, filled}));
+      QCOMPARE(lines({9, 10}, 0, orientation), (QList<Levels>{bare, track, track}));
+      QCOMPARE(lines({9, 10}, 5, orientation), (QList<Levels>{bare, track, track}));
+      QCOMPARE(lines({4, 5}, 0, orientation), (QList<Levels>{{64, 248, 64, Nothing}, down, down}));
+      QCOMPARE(lines({4, 7}, 0, orientation), (QList<Levels>{{64, 251, 64, Nothing}, up, up}));
     }
   }
 
@@ -112,20 +101,17 @@ class PaintingTest : public QObject {
 
   void coloursOfThemes() {
     Properties bar = plainBar();
-    Palette palette;
-    bar.Theme = 11;
-    LoadPalette(palette, bar);
-    QCOMPARE(palette.FilledSecond.Start, 0U);
-    bar.Theme = 10;
+    const auto colors = [&bar](int theme) {
+      Palette palette;
+      bar.Theme = theme;
+      LoadPalette(palette, bar);
+      return QList<quint32>{palette.TrackFirst.End, palette.FilledFirst.Start, palette.FilledFirst.End,
+                            palette.FilledSecond.End, palette.Outline};
+    };
     bar.PBSCustomeColor1 = 0x0050C8;
-    LoadPalette(palette, bar);
-    QCOMPARE(palette.FilledFirst.Start, 0xB4FFFFU);
-    QCOMPARE(palette.FilledFirst.End, 0x3282FAU);
-    QCOMPARE(palette.FilledSecond.End, 0x50A0FFU);
-    bar.Theme = 9;
-    LoadPalette(palette, bar);
-    QCOMPARE(palette.TrackFirst.End, 0xE1DBE1U);
-    QCOMPARE(palette.Outline, 0xBCB8BCU);
+    QCOMPARE(colors(11), QList<quint32>(5));
+    QCOMPARE(colors(10), (QList<quint32>{0xF2F2F2, 0xB4FFFF, 0x3282FA, 0x50A0FF, 0x0050C8}));
+    QCOMPARE(colors(9), (QList<quint32>{0xE1DBE1, 0xDFFBDF, 0x6CFF6C, 0xD9F4D9, 0xBCB8BC}));
     bar.Theme = 3;
     bar.Enabled = false;
     const QImage grey = painted(QSize(9, 10), bar).image();
@@ -189,39 +175,31 @@ class PaintingTest : public QObject {
     constexpr QRgb grey = qRgb(128, 128, 128);
     constexpr QRgb greyText = qRgb(67, 67, 67);
     constexpr QRgb greyEffect = qRgb(85, 85, 85);
-    const struct {
-      const char* name;
-      int effect;
-      bool enabled;
-      std::vector<std::pair<QPoint, QRgb>> printings;
-    } rows[] = {
-        {"plain", 1, true, {{{0, 0}, text}}},
-        {"raised", 2, true, {{{-1, -1}, effect}, {{1, 1}, grey}, {{0, 0}, text}}},
-        {"sunken", 3, true, {{{1, 1}, effect}, {{-1, 0}, grey}, {{0, 0}, text}}},
-        {"outlined",
-         4,
-         true,
-         {{{1, 0}, effect}, {{-1, 0}, effect}, {{0, -1}, effect}, {{0, 1}, effect}, {{0, 0}, text}}},
-        {"shadow, disabled", 5, false, {{{1, 1}, greyEffect}, {{0, 0}, greyText}}},
-        {"none", 6, true, {}},
-        {"below the first", 0, true, {}},
-    };
-    for (const auto& row : rows) {
+    using Printings = std::vector<std::pair<QPoint, QRgb>>;
+    const auto isPrinted = [](int number, bool enabled, const Printings& printings) {
       Properties bar = plainBar();
       bar.Text = QStringLiteral("Hig");
-      bar.TextEffect = row.effect;
-      bar.Enabled = row.enabled;
+      bar.TextEffect = number;
+      bar.Enabled = enabled;
       bar.TextForeColor = 0x0000C8;
       bar.TextEffectColor = 0xFF0000;
       bar.TextAlignment = 1;
       const QSize size(60, 40);
       Raster expected = painted(size, bar);
-      for (const auto& [place, color] : row.printings) {
+      for (const auto& [place, color] : printings) {
         platform::Print(expected, bar.TextFont, bar.Text, 1 + place.x(), place.y(), color);
       }
       bar.TextStyle = 3;
-      QVERIFY2(painted(size, bar).image() == expected.image(), row.name);
-    }
+      return painted(size, bar).image() == expected.image();
+    };
+    const Printings outlined = {
+        {{1, 0}, effect}, {{-1, 0}, effect}, {{0, -1}, effect}, {{0, 1}, effect}, {{0, 0}, text}};
+    QVERIFY(isPrinted(1, true, {{{0, 0}, text}}));
+    QVERIFY(isPrinted(2, true, {{{-1, -1}, effect}, {{1, 1}, grey}, {{0, 0}, text}}));
+    QVERIFY(isPrinted(3, true, {{{1, 1}, effect}, {{-1, 0}, grey}, {{0, 0}, text}}));
+    QVERIFY(isPrinted(4, true, outlined));
+    QVERIFY(isPrinted(5, false, {{{1, 1}, greyEffect}, {{0, 0}, greyText}}));
+    QVERIFY(isPrinted(0, true, {}) && isPrinted(6, true, {}));
   }
 
   void fourCorners() {

@@ -44,34 +44,24 @@ class PropertiesTest : public QObject {
  private Q_SLOTS:
   // min, max and Value before and after a write, and what was told.
   void rangeRules() {
-    const struct {
-      const char* name;
-      QList<int> before;
-      void (ProgressBar::*write)(int);
-      int written;
-      QList<int> after;
-      const char* keys;
-    } rows[] = {
-        {"value above", {0, 100, 50}, &ProgressBar::SetValue, 150, {0, 100, 100}, "Value"},
-        {"value below", {0, 100, 50}, &ProgressBar::SetValue, -5, {0, 100, 0}, "Value"},
-        {"the same value", {0, 100, 50}, &ProgressBar::SetValue, 50, {0, 100, 50}, "Value"},
-        {"max below one", {0, 100, 1}, &ProgressBar::SetMax, 0, {0, 1, 1}, "Max"},
-        {"max at min", {20, 100, 20}, &ProgressBar::SetMax, 10, {20, 21, 20}, "Max"},
-        {"max pulls the value first", {0, 100, 50}, &ProgressBar::SetMax, 40, {0, 40, 40}, "Value Max"},
-        {"min above max", {0, 100, 50}, &ProgressBar::SetMin, 200, {99, 100, 99}, "Value Min"},
-        {"negative min", {0, 100, 50}, &ProgressBar::SetMin, -3, {0, 100, 50}, "Min"},
-        {"min pulls the value", {0, 100, 50}, &ProgressBar::SetMin, 60, {60, 100, 60}, "Value Min"},
-    };
-    for (const auto& row : rows) {
+    const auto after = [](int min, int max, int value, void (ProgressBar::*write)(int), int written) {
       ProgressBar bar;
-      bar.SetMax(row.before[1]);
-      bar.SetMin(row.before[0]);
-      bar.SetValue(row.before[2]);
+      bar.SetMax(max);
+      bar.SetMin(min);
+      bar.SetValue(value);
       const QSignalSpy spy(&bar, &ProgressBar::PropertyChanged);
-      (bar.*row.write)(row.written);
-      QVERIFY2((QList<int>{bar.min(), bar.max(), bar.Value()}) == row.after, row.name);
-      QVERIFY2(told(spy) == QLatin1StringView(row.keys), row.name);
-    }
+      (bar.*write)(written);
+      return QStringLiteral("%1 %2 %3 ").arg(bar.min()).arg(bar.max()).arg(bar.Value()) + told(spy);
+    };
+    QCOMPARE(after(0, 100, 50, &ProgressBar::SetValue, 150), QStringLiteral("0 100 100 Value"));
+    QCOMPARE(after(0, 100, 50, &ProgressBar::SetValue, -5), QStringLiteral("0 100 0 Value"));
+    QCOMPARE(after(0, 100, 50, &ProgressBar::SetValue, 50), QStringLiteral("0 100 50 Value"));
+    QCOMPARE(after(0, 100, 1, &ProgressBar::SetMax, 0), QStringLiteral("0 1 1 Max"));
+    QCOMPARE(after(20, 100, 20, &ProgressBar::SetMax, 10), QStringLiteral("20 21 20 Max"));
+    QCOMPARE(after(0, 100, 50, &ProgressBar::SetMax, 40), QStringLiteral("0 40 40 Value Max"));
+    QCOMPARE(after(0, 100, 50, &ProgressBar::SetMin, 200), QStringLiteral("99 100 99 Value Min"));
+    QCOMPARE(after(0, 100, 50, &ProgressBar::SetMin, -3), QStringLiteral("0 100 50 Min"));
+    QCOMPARE(after(0, 100, 50, &ProgressBar::SetMin, 60), QStringLiteral("60 100 60 Value Min"));
   }
 
   void lookAndFontOfTheControl() {
