@@ -120,9 +120,9 @@ class InputTest : public QObject {
       strip.control.Buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
       return strip.run(QString::fromLatin1(steps)).toLatin1();
     };
-    QCOMPARE(told("m5,5 m6,5"), QByteArray("Hover1 Move1 Enter Move1"));              // hover before enter
-    QCOMPARE(told("m5,5 m5,5"), QByteArray("Hover1 Move1 Enter Move1"));              // the same place twice
-    QCOMPARE(told("m5,5 d u c"), QByteArray("Hover1 Move1 Enter Down1 Up1 Click1"));  // click
+    QCOMPARE(told("m5,5 m6,5"), QByteArray("Hover1 Move1 Enter Move1"));                // hover before enter
+    QCOMPARE(told("m5,5 t t t t m5,5 t"), QByteArray("Hover1 Move1 Enter Move1 tip"));  // the same place twice
+    QCOMPARE(told("m5,5 d u c"), QByteArray("Hover1 Move1 Enter Down1 Up1 Click1"));    // click
     QCOMPARE(told("m5,5 d u c 2 u"), QByteArray("Hover1 Move1 Enter Down1 Up1 Click1 DblClick1 Up1"));  // double click
     QCOMPARE(told("m40,5 d u c"), QByteArray("Enter"));                                                 // disabled
     QCOMPARE(told("m70,5 d u c"), QByteArray("Enter"));                                                 // separator
@@ -140,6 +140,7 @@ class InputTest : public QObject {
     QCOMPARE(told("m5,5 t t t t m6,5 t t t t"), QByteArray("Hover1 Move1 Enter Move1"));  // a move begins anew
     QCOMPARE(told("m5,5 l t t t t t"), QByteArray("Hover1 Move1 Enter Leave"));           // no tip outside
     QCOMPARE(told("m145,5 t t t t t"), QByteArray("Enter"));                              // no tip on the chevron
+    QCOMPARE(told("m80,5 t t t t t"), QByteArray("Hover4 Move4 Enter"));                  // nor without a text
   }
 
   void popupHangsBelowTheControl() {
@@ -164,6 +165,21 @@ class InputTest : public QObject {
     const QImage& shown = strip.control.SurfaceOf(SurfaceName::Main).Image().image();
     QCOMPARE(shown.size(), QSize(60, 20));
     QCOMPARE(shown.pixel(1, 18), qRgb(0x33, 0x22, 0x11));
+  }
+
+  void disabledControlTakesInput() {
+    Strip strip;
+    strip.control.Buttons().Set(&Properties::Enabled, false);
+    strip.record.words.clear();
+    QCOMPARE(strip.run(QStringLiteral("m5,5 d u c")), QStringLiteral("Hover1 Move1 Enter Down1 Up1 Click1"));
+  }
+
+  void chevronGoesWithTheNextLayout() {
+    Strip strip(149);
+    strip.control.Buttons().Set(&Properties::ShowChevron, false);
+    QCOMPARE(strip.control.HiddenButtons(), (std::vector<int>{5, 6}));
+    strip.control.UserControl_Resize();
+    QVERIFY(strip.control.HiddenButtons().empty());
   }
 
   // One note for two surfaces says whether the background is drawn.
@@ -227,6 +243,11 @@ class InputTest : public QObject {
     Control control(record, record, {false, QFont()});
     control.UserControl_ReadProperties({});
     QCOMPARE(control.Buttons().Button_Index(), 1);
+    control.Buttons().Set(&Properties::ShowChevron, true);
+    control.Buttons().SetButton_Count(4);
+    control.Resize(QSize(60, 32));
+    QVERIFY(control.HiddenButtons().empty());
+    record.words.clear();
     control.zSubclass_Proc(512, SurfaceName::Main, 5);
     control.zSubclass_Proc(675);
     QVERIFY(record.words.isEmpty() && !record.timer);
