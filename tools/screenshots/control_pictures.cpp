@@ -29,6 +29,11 @@ void sendKey(QWidget& widget, Qt::Key key) {
   QApplication::sendEvent(&widget, &event);
 }
 
+void sendFocus(QWidget& widget, QEvent::Type type) {
+  QFocusEvent event(type, Qt::TabFocusReason);
+  QApplication::sendEvent(&widget, &event);
+}
+
 QPoint middleOf(int button) {
   return {(button - 1) * ButtonWidth + ButtonWidth / 2, ButtonWidth / 2};
 }
@@ -74,10 +79,10 @@ void ControlPictures::ShowToolBarStates() const {
   });
   leave();
   stack(QStringLiteral("toolbar-focus"), [this](int button) {
-    if (button == 1) form_.ToolBar->setFocus(Qt::TabFocusReason);
+    if (button == 1) sendFocus(*form_.ToolBar, QEvent::FocusIn);
     sendKey(*form_.ToolBar, button == 1 ? Qt::Key_Home : Qt::Key_Right);
   });
-  form_.ToolBar->clearFocus();
+  sendFocus(*form_.ToolBar, QEvent::FocusOut);
   form_.EnableButton(SaveButton, false);
 }
 
