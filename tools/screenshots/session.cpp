@@ -28,11 +28,11 @@ struct Row {
   QStringView key;
 };
 
-constexpr Row ColorRow{u"MainStaticStar", u"Color"};
+constexpr Row ColorRow{u"MainStaticIcon", u"Color"};
 constexpr Row ThemeColorRow{u"MainTextTitle", u"Color"};
 constexpr Row TextRow{u"MainTextTitle", u"Text"};
-constexpr Row TextureRow{u"MainStaticStar", u"Tex"};
-constexpr Row NumberRow{u"MainStaticStar", u"X"};
+constexpr Row TextureRow{u"MainStaticIcon", u"Tex"};
+constexpr Row NumberRow{u"MainStaticIcon", u"X"};
 
 /// One editor frame: what brings it up, and its picture.
 struct EditorRow {
@@ -42,11 +42,11 @@ struct EditorRow {
 
 constexpr std::array<EditorRow, 6> Editors{{
     {NumberRow, u"tool-numbers"},
-    {{u"MainStaticStar", u"Z"}, u"tool-floatnumbers"},
-    {{u"MainStaticStar", u"Type"}, u"tool-selection"},
+    {{u"MainStaticIcon", u"Z"}, u"tool-floatnumbers"},
+    {{u"MainStaticIcon", u"Type"}, u"tool-selection"},
     {ColorRow, u"tool-color"},
-    {TextureRow, u"tool-texture"},
     {TextRow, u"tool-texts"},
+    {TextureRow, u"tool-texture"},
 }};
 
 /// Lets the windows come to rest.

@@ -18,10 +18,9 @@ struct Ink {
 };
 
 constexpr Ink Inks[] = {
-    {'k', 0xff000000}, {'d', 0xff404040}, {'g', 0xff808080}, {'s', 0xffc0c0c0}, {'w', 0xffffffff},
-    {'y', 0xffffd75e}, {'o', 0xffe0a020}, {'n', 0xff8a5a10}, {'l', 0xfffff0b0}, {'b', 0xff2858b8},
-    {'c', 0xff6c9cf0}, {'i', 0xff10306c}, {'r', 0xffd83030}, {'v', 0xff8c1414}, {'e', 0xff3ca03c},
-    {'p', 0xffc87c40}, {'q', 0xff7c4818}, {'t', 0xffe8b078}, {'m', 0xffa040b8},
+    {'k', 0xff000000}, {'d', 0xff404040}, {'g', 0xff808080}, {'s', 0xffc0c0c0}, {'w', 0xffffffff}, {'y', 0xffffd75e},
+    {'o', 0xffe0a020}, {'n', 0xff8a5a10}, {'l', 0xfffff0b0}, {'b', 0xff2858b8}, {'c', 0xff6c9cf0}, {'i', 0xff10306c},
+    {'r', 0xffd83030}, {'v', 0xff8c1414}, {'e', 0xff3ca03c}, {'p', 0xffc87c40}, {'q', 0xff7c4818}, {'t', 0xffe8b078},
 };
 
 constexpr Icon Icons[] = {
@@ -36,14 +35,14 @@ constexpr Icon Icons[] = {
       ".ibbdddddddsbbi.", ".ibbddssdddsbbi.", ".ibbddssdddsbbi.", ".iibddssdddsbbi.", "..iiiiiiiiiiiii.",
       "................"}},
     {"close.png",
-     {"................", "..ddddddddd.....", "..dwwwwwwwdd....", "..dwwwwwwwdsd...", "..dwggggwwdddd..",
-      "..dwwwwwwwwwwd..", "..dwgggggggwwd..", "..dwwwwwwwvwvwv.", "..dwggggwvrvrrv.", "..dwwwwwwvrrrv..",
-      "..dwggggwwvrv...", "..dwwwwwwvrrrv..", "..dwwwwwvrrvrrv.", "..dddddddvvdvvv.", "................",
+     {"................", "................", "...vv......vv...", "..vrrv....vrrv..", "..vrrrv..vrrrv..",
+      "...vrrrvvrrrv...", "....vrrrrrrv....", ".....vrrrrv.....", ".....vrrrrv.....", "....vrrrrrrv....",
+      "...vrrrvvrrrv...", "..vrrrv..vrrrv..", "..vrrv....vrrv..", "...vv......vv...", "................",
       "................"}},
     {"background.png",
-     {"................", ".....qqqqqq.....", "...qqttttttqq...", "..qttrrttbbttq..", ".qtttrrttbbtttq.",
-      ".qteettttttttpq.", "qtteetttttyyttpq", "qtttttttttyyttpq", "qttmmttttttttppq", "qtpmmttttqqqqpq.",
-      ".qpttttttq..qqq.", ".qppttttpq......", "..qqpptppq......", "....qqqqq.......", "................",
+     {"................", "qqqqqqqqqqqqqqqq", "qttttttttttttttq", "qtqqqqqqqqqqqqpq", "qtqccccccccccqpq",
+      "qtqcccccccyycqpq", "qtqcccccccyycqpq", "qtqccccccccccqpq", "qtqccceccccccqpq", "qtqcceeecceccqpq",
+      "qtqceeeeeeeecqpq", "qtqeeeeeeeeeeqpq", "qtqqqqqqqqqqqqpq", "qppppppppppppppq", "qqqqqqqqqqqqqqqq",
       "................"}},
     {"plus.png",
      {"................", "................", "................", ".......kk.......", ".......kk.......",
