@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QPainter>
 
@@ -11,6 +12,7 @@
 namespace progressbar {
 
 ProgressBar::ProgressBar(QWidget* parent) : QWidget(parent), pacer_([this] { update(); }) {
+  InstallAccessibility();
   InitProperties();
 }
 
@@ -24,6 +26,8 @@ void ProgressBar::write(T& member, const T& value, QStringView key) {
 
 void ProgressBar::SetValue(int value) {
   write(state_.Value, std::max(std::min(value, state_.max), state_.min), u"Value");
+  QAccessibleValueChangeEvent event(this, state_.Value);
+  QAccessible::updateAccessibility(&event);
 }
 
 void ProgressBar::SetMax(int value) {

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 #include "controls/frame_pacer.h"
+#include "progressbar/accessible_progress_bar.h"
 #include "progressbar/palettes.h"
 #include "progressbar/properties.h"
 
@@ -11,7 +12,7 @@ namespace progressbar {
 /// A bar that shows how far a piece of work has come, with a caption. Every write of a member tells so by
 /// PropertyChanged, with the key under which the member is stored, and repaints the bar in the next frame of the
 /// screen.
-class ProgressBar : public QWidget {
+class ProgressBar : public QWidget, public AccessibleSource {
   Q_OBJECT
 
  public:
@@ -62,6 +63,8 @@ class ProgressBar : public QWidget {
   QFont AmbientFont() const;
 
   void About() {}
+
+  const Properties& State() const override { return state_; }
 
  Q_SIGNALS:
   void PropertyChanged(const QString& key);

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -114,6 +115,16 @@ class PropertiesTest : public QObject {
       others.removeOne(QString::fromLatin1(row.first));
       QCOMPARE(told(spy), others.join(u' '));
     }
+  }
+
+  void assistiveProgramsReadTheValue() {
+    ProgressBar bar;
+    bar.SetMax(200);
+    bar.SetValue(30);
+    QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(&bar);
+    QCOMPARE(seen->role(), QAccessible::ProgressBar);
+    QCOMPARE(seen->valueInterface()->currentValue().toInt(), 30);
+    QCOMPARE(seen->valueInterface()->maximumValue().toInt(), 200);
   }
 
   // Colours come as negative numbers when they are the system's.

@@ -1,0 +1,39 @@
+#include "progressbar/accessible_progress_bar.h"
+
+#include <QAccessibleWidget>
+
+namespace progressbar {
+namespace {
+
+class AccessibleProgressBar : public QAccessibleWidget, public QAccessibleValueInterface {
+ public:
+  AccessibleProgressBar(QWidget& bar, AccessibleSource& source)
+      : QAccessibleWidget(&bar, QAccessible::ProgressBar), source_(source) {}
+
+  void* interface_cast(QAccessible::InterfaceType type) override {
+    return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                               : QAccessibleWidget::interface_cast(type);
+  }
+  QVariant currentValue() const override { return source_.State().Value; }
+  void setCurrentValue(const QVariant& /*value*/) override {}
+  QVariant minimumValue() const override { return source_.State().min; }
+  QVariant maximumValue() const override { return source_.State().max; }
+  QVariant minimumStepSize() const override { return 1; }
+
+ private:
+  AccessibleSource& source_;
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+  auto* const source = dynamic_cast<AccessibleSource*>(object);
+  auto* const bar = qobject_cast<QWidget*>(object);
+  return source == nullptr || bar == nullptr ? nullptr : new AccessibleProgressBar(*bar, *source);
+}
+
+}  // namespace
+
+void InstallAccessibility() {
+  QAccessible::installFactory(makeInterface);
+}
+
+}  // namespace progressbar

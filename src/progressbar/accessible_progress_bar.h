@@ -1,0 +1,18 @@
+#pragma once
+
+#include "progressbar/properties.h"
+
+namespace progressbar {
+
+/// What assistive programs need of a progress bar's widget.
+class AccessibleSource {
+ public:
+  virtual ~AccessibleSource() = default;
+  virtual const Properties& State() const = 0;
+};
+
+/// Lets assistive programs see widgets that are such a source as progress bars, with range and value; once for the
+/// program, further calls do nothing.
+void InstallAccessibility();
+
+}  // namespace progressbar
