@@ -13,43 +13,47 @@ inline void choose(controls::ComboBox& list, int index) {
   Q_EMIT list.Click(controls::Cause::User);
 }
 
-/// What must not depend on the moment of a wish. Of a theme that is gone only that it is.
-inline QVariantMap outcome(Program& program, const GameFolder& game) {
+/// What a user has of the program. Of a theme that is gone only that it is.
+inline QVariantMap shown(const Program& program) {
   const mainwindows::Form1& form = program.form;
   const themefiles::ModuleState& state = program.state;
-  QVariantMap all;
-  const auto note = [&](const char* name, const QVariant& value) { all[QLatin1StringView(name)] = value; };
-  note("opened", state.ThemeOpened);
-  note("changed", state.Changed);
-  note("shown", form.isVisible());
-  note("busy", form.Queue.Busy() || form.ProgressBar1->isVisible());
-  note("windows", form.findChildren<toolwindow::Form2*>().size());
-  for (const auto& [name, bytes] : game.files().asKeyValueRange()) all[name] = bytes;
+  QVariantMap all{{u"opened"_s, state.ThemeOpened},
+                  {u"changed"_s, state.Changed},
+                  {u"shown"_s, form.isVisible()},
+                  {u"busy"_s, form.Queue.Busy() || form.ProgressBar1->isVisible()},
+                  {u"windows"_s, form.findChildren<toolwindow::Form2*>().size()}};
   if (!form.isVisible()) return all;
-  note("scheme shown", form.Combo1->isVisible());
-  note("buttons shown", form.Combo2->isVisible());
-  note("mark shown", form.Workspace->MarkVisible());
-  note("blinking", form.Workspace->Blinking());
-  for (int button = 1; button <= 4; ++button) all[QString::number(button)] = program.enabled(button);
-  note("picture", form.Workspace->Surface().image());
+  all.insert({{u"scheme shown"_s, form.Combo1->isVisible()},
+              {u"buttons shown"_s, form.Combo2->isVisible()},
+              {u"mark shown"_s, form.Workspace->MarkVisible()},
+              {u"blinking"_s, form.Workspace->Blinking()},
+              {u"enabled"_s, program.buttons()},
+              {u"picture"_s, program.picture()}});
   if (!state.ThemeOpened || form.ToolWindow == nullptr) return all;
-  QStringList lists;
   const toolwindow::Form2& tools = program.tools();
+  QStringList lists = entries(*form.Combo2);
   for (int i = 0; i < tools.List1->ListCount(); ++i) lists += tools.List1->List(i);
-  lists += QString::number(tools.List1->ListIndex());
   for (int i = 0; i < tools.ListView1->RowCount(); ++i) {
     lists += tools.ListView1->RowText(i) + u'=' + tools.ListView1->SubItem(i);
   }
-  lists += QString::number(tools.ListView1->SelectedRow());
-  for (int i = 0; i < form.Combo2->ListCount(); ++i) lists += form.Combo2->List(i);
-  lists += QString::number(form.Combo2->ListIndex());
-  note("lists", lists);
-  note("mark", form.Workspace->Mark());
-  note("flags", QVariantList{state.EditorShown, state.ButtonListFilled, state.SelectedButton, state.ButtonCount,
-                             state.Filter.OnlyTags + state.Filter.SkipTags, state.ProgressStep});
-  note("screen", tools.Combo1->Text());
-  note("height", tools.height());
-  note("pen", form.Workspace->Surface().FontName() + QString::number(form.Workspace->Surface().FontSize()));
+  for (const int row : {form.Combo2->ListIndex(), tools.List1->ListIndex(), tools.ListView1->SelectedRow()}) {
+    lists += QString::number(row);
+  }
+  all.insert(
+      {{u"lists"_s, lists},
+       {u"mark"_s, form.Workspace->Mark()},
+       {u"flags"_s, QVariantList{state.EditorShown, state.ButtonListFilled, state.SelectedButton, state.ButtonCount,
+                                 state.Filter.OnlyTags + state.Filter.SkipTags, state.ProgressStep}},
+       {u"screen"_s, tools.Combo1->Text()},
+       {u"height"_s, tools.height()},
+       {u"pen"_s, form.Workspace->Surface().FontName() + QString::number(form.Workspace->Surface().FontSize())}});
+  return all;
+}
+
+/// What must not depend on the moment of a wish: what is shown, and the game's files.
+inline QVariantMap outcome(const Program& program, const GameFolder& game) {
+  QVariantMap all = shown(program);
+  for (const auto& [name, bytes] : game.files().asKeyValueRange()) all[name] = bytes;
   return all;
 }
 

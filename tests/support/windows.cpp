@@ -20,10 +20,12 @@ Answer next(std::deque<Answer>& answers, Answer without) {
   return answer;
 }
 
-QImage plain(int width, int height, QRgb color) {
-  QImage picture(width, height, QImage::Format_ARGB32);
-  picture.fill(color);
-  return picture;
+/// The row of the grid that shows the key; -1 when there is none.
+int rowOf(const controls::ListView& grid, const QString& key) {
+  for (int row = 0; row < grid.RowCount(); ++row) {
+    if (grid.RowText(row) == key) return row;
+  }
+  return -1;
 }
 
 /// One section a line, "|" for the line ends in it.
@@ -69,47 +71,30 @@ std::optional<QColor> ScriptedDialogs::ChooseColor(QWidget* /*parent*/, const QC
 }
 
 GameFolder::GameFolder() {
-  for (const char* folder : {"Themes", "Skins/Alpha", "Languages"}) QDir(dir_.path()).mkpath(QLatin1StringView(folder));
-  write(u"Vocora.exe"_s, "program");
-  write(u"Themes/Alpha.ini"_s, QByteArray(Alpha).replace("|", "\n").replace("\n", "\r\n"));
-  write(u"Skins/Alpha/One.ini"_s,
-        "[Skin]\r\nName=First\r\nAutor=Bob\r\n[Textures]\r\nBack=back.png\r\nPlate=plate.png\r\nOther=other.png\r\n");
-  write(u"Skins/Alpha/Two.ini"_s, "[Skin]\r\nName=Second\r\nAutor=Cid\r\n[Textures]\r\n");
-  write(u"Languages/Deutsch.ini"_s, "[Text]\r\nHELLO=Hallo\r\n");
-  write(u"Languages/English.ini"_s, "[Text]\r\nHELLO=Hello there\r\nGO=Go\r\nEMPTY=\r\n");
-  plain(8, 6, qRgb(230, 220, 210)).save(native(u"Skins/Alpha/back.png"_s));
-  plain(10, 8, qRgba(0, 40, 120, 200)).save(native(u"Skins/Alpha/plate.png"_s));
+  for (const char* folder : {"Themes", "Skins/Alpha", "Languages"}) QDir(native({})).mkpath(QLatin1StringView(folder));
+  put(u"Vocora.exe"_s, "program");
+  put(ThemeFile, QByteArray(Alpha).replace("|", "\n").replace("\n", "\r\n"));
+  put(SkinFile, linesOf("[Skin]|Name=First|Autor=Bob|[Textures]|Back=back.png|Plate=plate.png|Other=other.png|"));
+  put(u"Skins/Alpha/Two.ini"_s, linesOf("[Skin]|Name=Second|Autor=Cid|[Textures]|"));
+  put(u"Languages/Deutsch.ini"_s, linesOf("[Text]|HELLO=Hallo|"));
+  put(LanguageFile, linesOf("[Text]|HELLO=Hello there|GO=Go|EMPTY=|"));
+  addPicture("back.png", QColor(230, 220, 210), {8, 6});
+  addPicture("plate.png", QColor(0, 40, 120, 200), {10, 8});
 }
 
-QString GameFolder::path() const {
-  return platform::ProgramPath(dir_.path()) + u'\\';
-}
-
-void GameFolder::write(const QString& relative, const QByteArray& bytes) const {
-  QFile file(native(relative));
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("%s", qPrintable(relative));
-}
-
-QByteArray GameFolder::read(const QString& relative) const {
-  QFile file(native(relative));
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no file");
-}
-
-bool GameFolder::has(const QString& relative) const {
-  return QFileInfo::exists(native(relative));
-}
-
-void GameFolder::setWritable(const QString& relative, bool writable) const {
-  const auto readable = QFileDevice::ReadOwner;
-  QFile::setPermissions(native(relative), writable ? readable | QFileDevice::WriteOwner : readable);
+void GameFolder::addPicture(const char* name, const QColor& color, const QSize& size) const {
+  QImage picture(size, QImage::Format_ARGB32);
+  picture.fill(color);
+  if (!picture.save(native(u"Skins/Alpha/"_s + QLatin1StringView(name)))) qFatal("can't write a picture");
 }
 
 QMap<QString, QByteArray> GameFolder::files() const {
   QMap<QString, QByteArray> all;
-  QDirIterator walk(dir_.path(), QDir::Files, QDirIterator::Subdirectories);
+  const QDir folder(native({}));
+  QDirIterator walk(folder.path(), QDir::Files, QDirIterator::Subdirectories);
   while (walk.hasNext()) {
-    const QString name = QDir(dir_.path()).relativeFilePath(walk.next());
-    all[name] = read(name);
+    const QString name = folder.relativeFilePath(walk.next());
+    all[name] = get(name);
   }
   return all;
 }
@@ -129,6 +114,12 @@ Program::~Program() {
 
 bool Program::enabled(int button) const {
   return form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool();
+}
+
+QString Program::buttons() const {
+  QString all;
+  for (int button = 1; button <= 4; ++button) all += enabled(button) ? u'+' : u'-';
+  return all;
 }
 
 void Program::click(int button) {
@@ -162,23 +153,16 @@ void Program::screen(const QString& name) {
 }
 
 void Program::tag(const QString& name) {
-  for (int i = 0; i < tools().List1->ListCount(); ++i) {
-    if (tools().List1->List(i) != name) continue;
-    tools().List1->SetListIndex(i);
-    return;
-  }
-  qFatal("no object %s", qPrintable(name));
+  const auto found = tools().List1->findItems(name, Qt::MatchExactly);
+  if (found.isEmpty()) qFatal("no object %s", qPrintable(name));
+  tools().List1->SetListIndex(tools().List1->row(found.first()));
 }
 
 void Program::row(const QString& key) {
-  controls::ListView& grid = *tools().ListView1;
-  for (int i = 0; i < grid.RowCount(); ++i) {
-    if (grid.RowText(i) != key) continue;
-    grid.SelectRow(i);
-    Q_EMIT grid.ItemClick(i);
-    return;
-  }
-  qFatal("no row %s", qPrintable(key));
+  const int row = rowOf(*tools().ListView1, key);
+  if (row < 0) qFatal("no row %s", qPrintable(key));
+  tools().ListView1->SelectRow(row);
+  Q_EMIT tools().ListView1->ItemClick(row);
 }
 
 void Program::soleRow(const QString& key, const QString& value) {
@@ -187,11 +171,38 @@ void Program::soleRow(const QString& key, const QString& value) {
   row(key);
 }
 
-QString Program::value(const QString& key) {
-  for (int i = 0; i < tools().ListView1->RowCount(); ++i) {
-    if (tools().ListView1->RowText(i) == key) return tools().ListView1->SubItem(i);
-  }
-  return u"no row"_s;
+void Program::update(const QString& text) {
+  tools().Text1->SetText(text);
+  tools().Command1->click();
+}
+
+void Program::edit(const QString& key, const QString& text) {
+  tag(u"LoadingStaticA"_s);
+  row(key);
+  update(text);
+}
+
+QString Program::value(const QString& key) const {
+  const int row = rowOf(*tools().ListView1, key);
+  return row < 0 ? u"no row"_s : tools().ListView1->SubItem(row);
+}
+
+void ProgramTest::init() {
+  game = std::make_unique<GameFolder>();
+  program = std::make_unique<Program>(*game);
+  program->open();
+  QVERIFY(program->form.ToolWindow != nullptr);
+}
+
+void ProgramTest::cleanup() {
+  program.reset();
+  game.reset();
+}
+
+QStringList entries(const controls::ComboBox& list) {
+  QStringList all;
+  for (int i = 0; i < list.ListCount(); ++i) all += list.List(i);
+  return all;
 }
 
 void settle() {

@@ -3,10 +3,9 @@
 #include <deque>
 #include <functional>
 
-#include <QTemporaryDir>
-
 #include "mainwindows/main_window.h"
 #include "mainwindows/open_theme.h"
+#include "support/theme_doubles.h"
 
 /// What the tests of the windows share: dialogs that answer by script, a game folder, and the program on it.
 namespace support {
@@ -30,28 +29,28 @@ class ScriptedDialogs : public platform::Dialogs {
 };
 
 /// A game folder of its own in a temporary place; relative paths are written with "/".
-class GameFolder {
+class GameFolder : public Folder {
  public:
   /// Vocora.exe, the languages Deutsch and English, and the theme Alpha with the skins One and Two.
   GameFolder();
 
-  QString native(const QString& relative) const { return dir_.filePath(relative); }
   /// The program's form of it, with the separator behind it.
-  QString path() const;
-  void write(const QString& relative, const QByteArray& bytes) const;
-  QByteArray read(const QString& relative) const;
-  bool has(const QString& relative) const;
-  void setWritable(const QString& relative, bool writable) const;
+  QString path() const { return Folder::path({}) + u'\\'; }
+  void write(const QString& relative, const QByteArray& bytes) const { put(relative, bytes); }
+  QByteArray read(const QString& relative) const { return get(relative); }
+  void setWritable(const QString& relative, bool writable) const { protect(relative, !writable); }
+  /// A picture in the folder of the theme's skins, of one colour.
+  void addPicture(const char* name, const QColor& color, const QSize& size = {4, 4}) const;
   /// All files with their bytes.
   QMap<QString, QByteArray> files() const;
-
- private:
-  QTemporaryDir dir_;
 };
 
-inline const QString ThemeCopy = u"Themes/Alpha.ini.tmp"_s;
-inline const QString SkinCopy = u"Skins/Alpha/One.ini.tmp"_s;
-inline const QString LanguageCopy = u"Languages/English.ini.tmp"_s;
+inline const QString ThemeFile = u"Themes/Alpha.ini"_s;
+inline const QString SkinFile = u"Skins/Alpha/One.ini"_s;
+inline const QString LanguageFile = u"Languages/English.ini"_s;
+inline const QString ThemeCopy = ThemeFile + u".tmp"_s;
+inline const QString SkinCopy = SkinFile + u".tmp"_s;
+inline const QString LanguageCopy = LanguageFile + u".tmp"_s;
 
 /// The program's windows with their events connected.
 class Program {
@@ -66,9 +65,12 @@ class Program {
   QTemporaryDir settings;
   mainwindows::Form1 form;
 
-  toolwindow::Form2& tools() { return *form.ToolWindow; }
+  toolwindow::Form2& tools() const { return *form.ToolWindow; }
+  const QImage& picture() const { return form.Workspace->Surface().image(); }
   QString status() const { return form.StatusBar->Panel(1).mid(11); }  ///< without the time
   bool enabled(int button) const;
+  /// Which of the toolbar's buttons are enabled: "+--+".
+  QString buttons() const;
 
   /// A click of the mouse on a button of the toolbar.
   void click(int button);
@@ -83,9 +85,29 @@ class Program {
   void row(const QString& key);
   /// A grid of this one row, and a click on it.
   void soleRow(const QString& key, const QString& value);
+  /// Enters a number into the editor that is open, and Update.
+  void update(const QString& text);
+  /// Changes a number of LoadingStaticA.
+  void edit(const QString& key = u"X"_s, const QString& text = u"77"_s);
   /// The value that the grid shows for the key.
-  QString value(const QString& key);
+  QString value(const QString& key) const;
 };
+
+/// A test whose functions each get the program on a game folder of its own, with the theme open.
+class ProgramTest : public QObject {
+  Q_OBJECT
+
+ protected:
+  std::unique_ptr<GameFolder> game;
+  std::unique_ptr<Program> program;
+
+ protected Q_SLOTS:
+  virtual void init();
+  void cleanup();
+};
+
+/// The entries of a drop-down list.
+QStringList entries(const controls::ComboBox& list);
 
 /// Serves what is pending, deletions too.
 void settle();
