@@ -29,9 +29,7 @@ void pickAndUpdate(Program& program, QString& tag) {
     return;
   }
   pick(program, tag);
-  if (program.value(u"X"_s) == u"no row") return;
-  program.row(u"X"_s);
-  program.update(u"99"_s);
+  if (program.value(u"X"_s) != u"no row") program.change(u"X"_s, u"99"_s);
 }
 
 void anotherButton(Program& program, QString& tag) {

@@ -176,10 +176,14 @@ void Program::update(const QString& text) {
   tools().Command1->click();
 }
 
-void Program::edit(const QString& key, const QString& text) {
-  tag(u"LoadingStaticA"_s);
+void Program::change(const QString& key, const QString& text) {
   row(key);
   update(text);
+}
+
+void Program::edit(const QString& key, const QString& text) {
+  tag(u"LoadingStaticA"_s);
+  change(key, text);
 }
 
 QString Program::value(const QString& key) const {

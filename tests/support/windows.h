@@ -85,8 +85,9 @@ class Program {
   void row(const QString& key);
   /// A grid of this one row, and a click on it.
   void soleRow(const QString& key, const QString& value);
-  /// Enters a number into the editor that is open, and Update.
+  /// Enters a number into the editor that is open, or into that of a key, and Update.
   void update(const QString& text);
+  void change(const QString& key, const QString& text);
   /// Changes a number of LoadingStaticA.
   void edit(const QString& key = u"X"_s, const QString& text = u"77"_s);
   /// The value that the grid shows for the key.

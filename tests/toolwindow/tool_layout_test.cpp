@@ -8,36 +8,30 @@ using toolwindow::ToolLayout;
 
 namespace {
 
-struct Size {
-  double width;
-  double height;
-  bool editor = false;
-};
+#define CONTROL(name) \
+  { QStringLiteral(#name), &ToolLayout::name }
 
-/// One side of one control in twips.
-struct Side {
-  const char* name;
-  TwipsRect ToolLayout::*control;
-  double TwipsRect::*side;
-  double twips;
-};
+const QHash<QString, TwipsRect ToolLayout::*> Controls{
+    CONTROL(Combo1),   CONTROL(List1),        CONTROL(ListView1), CONTROL(Frame1), CONTROL(Command1),
+    CONTROL(Numbers),  CONTROL(FloatNumbers), CONTROL(Selection), CONTROL(Combo2), CONTROL(Color),
+    CONTROL(Combo3),   CONTROL(Command2),     CONTROL(Texture),   CONTROL(Combo6), CONTROL(Command8),
+    CONTROL(Command9), CONTROL(Text3),        CONTROL(Command4),  CONTROL(Texts),  CONTROL(Combo5),
+    CONTROL(Command6), CONTROL(Command7),     CONTROL(Text2)};
+const QHash<QString, double TwipsRect::*> Sides{{u"left"_s, &TwipsRect::Left},
+                                                {u"top"_s, &TwipsRect::Top},
+                                                {u"width"_s, &TwipsRect::Width},
+                                                {u"height"_s, &TwipsRect::Height}};
 
-#define SIDE(control, side, twips)                                    \
-  Side {                                                              \
-#control "." #side, &ToolLayout::control, &TwipsRect::side, twips \
+/// Compares sides of controls in twips: "List1 top 360, List1 height 2385".
+void compare(const ToolLayout& layout, const QString& sides) {
+  QStringList actual;
+  for (const QString& expected : sides.split(u", "_s)) {
+    const QStringList words = expected.split(u' ');
+    const TwipsRect& place = layout.*Controls[words[0]];
+    actual += words[0] + u' ' + words[1] + u' ' + QString::number(place.*Sides[words[1]]);
   }
-
-void compare(const ToolLayout& layout, const std::vector<Side>& sides) {
-  for (const auto& [name, control, side, twips] : sides) {
-    const double actual = layout.*control.*side;
-    QVERIFY2(actual == twips, qPrintable(u"%1 is %2"_s.arg(QLatin1StringView(name)).arg(actual)));
-  }
+  QCOMPARE(actual.join(u", "_s), sides);
 }
-
-const std::vector<Side> ListsAtLoad{
-    SIDE(List1, Top, 360),         SIDE(List1, Height, 2385),      SIDE(List1, Width, 2837.5),
-    SIDE(ListView1, Left, 2867.5), SIDE(ListView1, Width, 2907.5), SIDE(ListView1, Height, 2385),
-};
 
 }  // namespace
 
@@ -49,77 +43,63 @@ class ToolLayoutTest : public QObject {
     ToolLayout layout = toolwindow::LoadedLayout();
     QCOMPARE(layout.Width, 5895.0);
     QCOMPARE(layout.Height, 3105.0);
-    compare(layout, ListsAtLoad);
+    const QString lists =
+        u"List1 top 360, List1 height 2385, List1 width 2837.5, ListView1 left 2867.5, ListView1 width 2907.5, "
+        "ListView1 height 2385, Combo1 width 5785, Frame1 top 2775, Frame1 width 4795, Command1 top 2865"_s;
+    compare(layout, lists);
     compare(layout,
-            {SIDE(Combo1, Width, 5785), SIDE(Frame1, Top, 2775), SIDE(Frame1, Width, 4795), SIDE(Frame1, Height, 735),
-             SIDE(Command1, Left, 4920), SIDE(Command1, Top, 2865), SIDE(Selection, Top, 240), SIDE(Texts, Top, 240),
-             SIDE(Color, Top, 240), SIDE(Texture, Top, 240), SIDE(FloatNumbers, Top, 240)});
-
+            u"Frame1 height 735, Command1 left 4920, Selection top 240, Texts top 240, Color top 240, Texture top 240, "
+            "FloatNumbers top 240"_s);
     LayOutOpening(layout, layout.Selection);
     QCOMPARE(layout.Height, 3835.0);
-    compare(layout, ListsAtLoad);
-    compare(layout, {SIDE(Combo1, Width, 5785),  SIDE(Frame1, Top, 2775),      SIDE(Frame1, Height, 700),
-                     SIDE(Frame1, Width, 4795),  SIDE(Command1, Top, 2865),    SIDE(Command1, Left, 4895),
-                     SIDE(Numbers, Width, 4625), SIDE(Selection, Width, 4625), SIDE(Combo2, Width, 4325),
-                     SIDE(Texts, Width, 4625),   SIDE(Text2, Width, 4265),     SIDE(Command7, Left, 4055),
-                     SIDE(Command6, Left, 3650), SIDE(Combo5, Width, 3425),    SIDE(Color, Width, 4625),
-                     SIDE(Combo3, Width, 1965),  SIDE(Command2, Left, 4075),   SIDE(Texture, Width, 4625),
-                     SIDE(Text3, Width, 3725),   SIDE(Command4, Left, 4055),   SIDE(Command9, Left, 4055),
-                     SIDE(Command8, Left, 3650), SIDE(Combo6, Width, 3425)});
-
+    compare(layout, lists);
+    compare(layout, u"Frame1 height 700, Command1 left 4895, Numbers width 4625, Combo6 width 3425"_s);
     LayOutOpening(layout, layout.Texts);
     QCOMPARE(layout.Height, 4235.0);
-    compare(layout, ListsAtLoad);
-    compare(layout, {SIDE(Frame1, Top, 2775), SIDE(Frame1, Height, 1100)});
-
+    compare(layout, lists);
+    compare(layout, u"Frame1 height 1100"_s);
     LayOutClosing(layout);
     QCOMPARE(layout.Height, 3105.0);
-    compare(layout, ListsAtLoad);
-    compare(layout, {SIDE(Frame1, Top, 2775), SIDE(Frame1, Height, 1100)});
+    compare(layout, lists);
   }
 
   void dragged_data() {
-    QTest::addColumn<Size>("size");
-    QTest::addColumn<std::vector<Side>>("sides");
-    QTest::newRow("wider and higher") << Size{7000, 5000}
-                                      << std::vector<Side>{SIDE(Combo1, Width, 6890),    SIDE(List1, Width, 3390),
-                                                           SIDE(List1, Height, 4280),    SIDE(ListView1, Left, 3420),
-                                                           SIDE(ListView1, Width, 3460), SIDE(ListView1, Height, 4280),
-                                                           SIDE(Frame1, Top, 4670),      SIDE(Frame1, Width, 5900),
-                                                           SIDE(Command1, Top, 4760)};
+    QTest::addColumn<double>("width");
+    QTest::addColumn<double>("height");
+    QTest::addColumn<bool>("editor");
+    QTest::addColumn<QString>("sides");
+    QTest::newRow("wider and higher")
+        << 7000.0 << 5000.0 << false
+        << u"Combo1 width 6890, List1 width 3390, List1 height 4280, ListView1 left 3420, ListView1 width 3460, "
+           "ListView1 height 4280, Frame1 top 4670, Frame1 width 5900, Command1 top 4760"_s;
     QTest::newRow("too low for the lists")
-        << Size{4000, 700}
-        << std::vector<Side>{SIDE(Combo1, Width, 3890),     SIDE(List1, Width, 1890),       SIDE(List1, Height, 2385),
-                             SIDE(ListView1, Left, 2867.5), SIDE(ListView1, Width, 2907.5), SIDE(Frame1, Width, 4795)};
-    QTest::newRow("editor, higher") << Size{5895, 5000, true}
-                                    << std::vector<Side>{SIDE(Frame1, Top, 3910),   SIDE(Frame1, Height, 700),
-                                                         SIDE(List1, Height, 3550), SIDE(ListView1, Height, 3550),
-                                                         SIDE(Command1, Top, 4000), SIDE(Numbers, Width, 4625)};
-    QTest::newRow("editor, narrower") << Size{5000, 3835, true}
-                                      << std::vector<Side>{SIDE(Combo1, Width, 5785),    SIDE(Frame1, Top, 2745),
-                                                           SIDE(List1, Height, 2385),    SIDE(Frame1, Width, 3900),
-                                                           SIDE(List1, Width, 2390),     SIDE(ListView1, Left, 2420),
-                                                           SIDE(ListView1, Width, 2460), SIDE(Command1, Left, 4000),
-                                                           SIDE(Combo2, Width, 3430),    SIDE(Text2, Width, 3370),
-                                                           SIDE(Command7, Left, 3160),   SIDE(Command6, Left, 2755),
-                                                           SIDE(Combo5, Width, 2530),    SIDE(Combo3, Width, 1070),
-                                                           SIDE(Command2, Left, 3180),   SIDE(Text3, Width, 2830),
-                                                           SIDE(Command8, Left, 2755),   SIDE(Combo6, Width, 2530)};
-    QTest::newRow("editor, too low") << Size{5000, 1400, true}
-                                     << std::vector<Side>{SIDE(Frame1, Top, 310),        SIDE(List1, Height, 2385),
-                                                          SIDE(Frame1, Width, 4795),     SIDE(List1, Width, 2837.5),
-                                                          SIDE(ListView1, Left, 2867.5), SIDE(Command1, Top, 2865)};
+        << 4000.0 << 700.0 << false
+        << u"Combo1 width 3890, List1 width 1890, List1 height 2385, ListView1 left 2867.5, Frame1 width 4795"_s;
+    QTest::newRow("editor, higher")
+        << 5895.0 << 5000.0 << true
+        << u"Frame1 top 3910, Frame1 height 700, List1 height 3550, ListView1 height 3550, Command1 top 4000"_s;
+    QTest::newRow("editor, narrower")
+        << 5000.0 << 3835.0 << true
+        << u"Combo1 width 5785, Frame1 top 2745, List1 height 2385, Frame1 width 3900, List1 width 2390, "
+           "ListView1 left 2420, ListView1 width 2460, Command1 left 4000, Numbers width 3730, Combo2 width 3430, "
+           "Text2 width 3370, Command7 left 3160, Command6 left 2755, Combo5 width 2530, Combo3 width 1070, "
+           "Command2 left 3180, Text3 width 2830, Command4 left 3160, Command9 left 3160, Command8 left 2755, "
+           "Combo6 width 2530"_s;
+    QTest::newRow("editor, too low")
+        << 5000.0 << 1400.0 << true
+        << u"Frame1 top 310, List1 height 2385, Frame1 width 4795, List1 width 2837.5, Command1 top 2865"_s;
     QTest::newRow("editor, too narrow for the colours")
-        << Size{3900, 3835, true}
-        << std::vector<Side>{SIDE(Texts, Width, 2630),  SIDE(Combo5, Width, 1430),  SIDE(Color, Width, 2630),
-                             SIDE(Combo3, Width, 1965), SIDE(Command2, Left, 4075), SIDE(Texture, Width, 4625)};
+        << 3900.0 << 3835.0 << true
+        << u"Texts width 2630, Combo5 width 1430, Color width 2630, Combo3 width 1965, Texture width 4625"_s;
   }
   void dragged() {
-    QFETCH(Size, size);
-    QFETCH(std::vector<Side>, sides);
+    QFETCH(double, width);
+    QFETCH(double, height);
+    QFETCH(bool, editor);
+    QFETCH(QString, sides);
     ToolLayout layout = toolwindow::LoadedLayout();
-    if (size.editor) LayOutOpening(layout, layout.Color);
-    LayOut(layout, size.width, size.height, size.editor, false);
+    if (editor) LayOutOpening(layout, layout.Color);
+    LayOut(layout, width, height, editor, false);
     compare(layout, sides);
   }
 };

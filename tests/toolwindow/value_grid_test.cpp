@@ -2,8 +2,7 @@
 
 #include "support/windows.h"
 
-using namespace Qt::StringLiterals;
-using support::Program;
+using namespace support;
 using toolwindow::Form2;
 
 namespace {
@@ -17,169 +16,146 @@ QString shownFrame(const Form2& form) {
   return shown.isEmpty() ? u"none"_s : shown.join(u'+');
 }
 
-/// What an editor shows: the parts of its frame.
-QString shownValue(const Form2& form, const QString& frame) {
+/// What the editor on show holds: the parts of its frame.
+QString shownValue(const Form2& form) {
+  const QString frame = shownFrame(form);
   if (frame == u"Numbers") return form.Text1->Text();
   if (frame == u"FloatNumbers") return form.Text4->Text();
   if (frame == u"Selection") return form.Combo2->Text();
   if (frame == u"Texts") return form.Combo5->Text() + u'|' + form.Text2->Text();
   if (frame == u"Texture") return form.Combo6->Text() + u'|' + form.Text3->Text();
-  return form.Combo4->Text() + u'|' + form.Combo3->Text();
+  if (frame == u"Color") return form.Combo4->Text() + u'|' + form.Combo3->Text();
+  return frame;
 }
 
 }  // namespace
 
-class ValueGridTest : public QObject {
+class ValueGridTest : public ProgramTest {
   Q_OBJECT
 
  private Q_SLOTS:
-  void init() {
-    program = std::make_unique<Program>(game);
-    program->open();
-    QVERIFY(program->form.ToolWindow != nullptr);
-  }
-  void cleanup() { program.reset(); }
-
   void frames() {
-    const std::pair<QString, const char*> frames[] = {
-        {u"Numbers"_s,
+    const std::pair<const char*, const char*> frames[] = {
+        {"Numbers",
          "X Y SIZE W H PIECEW PIECEH SPACE BANDS LENGTH REFLECTIONSPACING DESELECTREFLECTIONSPACING SELECTH SELECTW "
          "FADETEXPOS FIRSTCHILD TEXTS PARENT STYLE STATICS SKIPX"},
-        {u"Selection"_s, "ALIGN FONT VISIBLE REFLECTION FADE FADETEXT REFLECTIONS DIRECTION TYPE"},
-        {u"Texts"_s, "TEXT"},
-        {u"Color"_s, "COLOR DCOLOR TCOLOR TDCOLOR SBGCOLOR SBGDCOLOR STCOLOR STDCOLOR"},
-        {u"Texture"_s, "TEX FADETEX SBGTEX TEXSBG"},
-        {u"FloatNumbers"_s, "Z TEXX1 TEXY1 TEXX2 TEXY2 INT DINT"},
-        {u"none"_s, "COLR COLG COLB TEXT1 TEXX STATIC S"}};
+        {"Selection", "ALIGN FONT VISIBLE REFLECTION FADE FADETEXT REFLECTIONS DIRECTION TYPE"},
+        {"Texts", "TEXT"},
+        {"Color", "COLOR DCOLOR TCOLOR TDCOLOR SBGCOLOR SBGDCOLOR STCOLOR STDCOLOR"},
+        {"Texture", "TEX FADETEX SBGTEX TEXSBG"},
+        {"FloatNumbers", "Z TEXX1 TEXY1 TEXX2 TEXY2 INT DINT"},
+        {"none", "COLR COLG COLB TEXT1 TEXX STATIC S"}};
     for (const auto& [frame, keys] : frames) {
       for (const QString& key : QString::fromLatin1(keys).split(u' ')) {
         program->soleRow(u' ' + key.toLower() + u"  "_s, u"0"_s);
-        QVERIFY2(shownFrame(program->tools()) == frame, qPrintable(key + shownFrame(program->tools())));
+        QVERIFY2(shownFrame(program->tools()) == QLatin1StringView(frame), qPrintable(key));
       }
     }
   }
 
-  void editors_data() {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<QString>("frame");
-    QTest::addColumn<QString>("shown");
-    const auto add = [](const char* key, const char* value, const char* frame, const char* shown) {
-      QTest::addRow("%s=%s", key, value) << QString::fromLatin1(key) << QString::fromLatin1(value)
-                                         << QString::fromLatin1(frame) << QString::fromLatin1(shown);
-    };
-    add("X", "120", "Numbers", "120");
-    add("Y", "-10", "Numbers", "0");
-    add("ALIGN", "1", "Selection", "1 = Middle");
-    add("ALIGN", "2", "Selection", "2 = Right");
-    add("FONT", "", "Selection", "0 = Normal");
-    add("FONT", "2", "Selection", "2 = Bold with Outline");
-    add("FONT", "3", "Selection", "3 = Bold with dark Outline");
-    add("FONT", "0.5", "Selection", "0 = Normal");
-    add("FONT", "1.5", "Selection", "2 = Bold with Outline");
-    add("VISIBLE", "word", "Selection", "0 = False");
-    add("FADE", "1", "Selection", "1 = True");
-    add("DIRECTION", "0", "Selection", "0 = Left to Right");
-    add("DIRECTION", "1", "Selection", "1 = Bottom to Top");
-    add("TYPE", "Transparent", "Selection", "Transparent");
-    add("TYPE", "Font Black", "Selection", "Font Black");
-    add("TYPE", "font black", "Selection", "");
-    add("TEXT", "HELLO", "Texts", "HELLO|Hello there");
-    add("TEXT", "EMPTY", "Texts", "EMPTY|");
-    add("TEXT", "hello", "Texts", "|");
-    add("TEX", "Plate", "Texture", "Plate|plate.png");
-    add("SBGTEX", "Missing", "Texture", "|");
-    add("COLOR", "Blue", "Color", "Theme|Blue");
-    add("COLOR", "ColorLight", "Color", "Program|ColorLight");
-    add("COLOR", "P6Dark", "Color", "Player|P6Dark");
-    add("COLOR", "", "Color", "Theme|");
-    add("COLOR", "blue", "Color", "|");
-    add("INT", "1.250", "FloatNumbers", "1.250");
-    for (const char* bad : {"ALIGN=3", "FONT=4", "VISIBLE=2", "DIRECTION=40000"}) {
-      const QList<QByteArray> parts = QByteArray(bad).split('=');
-      add(parts[0].constData(), parts[1].constData(), "none", "");
-    }
-  }
   void editors() {
-    QFETCH(QString, key);
-    QFETCH(QString, value);
-    QFETCH(QString, frame);
-    Form2& tools = program->tools();
-    program->soleRow(u"TYPE"_s, u"Plain"_s);  // what Combo2 held before
-    const bool failed = frame == u"none";
-    program->soleRow(key, value);
-    QCOMPARE(shownFrame(tools), frame);
-    QVERIFY(program->state.EditorShown);
-    QCOMPARE(program->status().startsWith(u"Error while reading Value ["), failed);
-    if (!failed) QTEST(shownValue(tools, frame), "shown");
-    QCOMPARE(program->value(key), value);
-    QVERIFY(!program->state.Changed);
-    if (key == u"ALIGN") QCOMPARE(tools.Combo2->ListCount(), 3);
-    if (key == u"VISIBLE") QCOMPARE(tools.Combo2->ListCount(), 2);
+    const struct {
+      const char *key, *value, *shown;
+    } rows[] = {{"X", "120", "120"},
+                {"Y", "-10", "0"},
+                {"ALIGN", "1", "1 = Middle"},
+                {"ALIGN", "2", "2 = Right"},
+                {"ALIGN", "3", "none"},
+                {"FONT", "", "0 = Normal"},
+                {"FONT", "2", "2 = Bold with Outline"},
+                {"FONT", "3", "3 = Bold with dark Outline"},
+                {"FONT", "0.5", "0 = Normal"},
+                {"FONT", "1.5", "2 = Bold with Outline"},
+                {"FONT", "4", "none"},
+                {"VISIBLE", "word", "0 = False"},
+                {"VISIBLE", "2", "none"},
+                {"FADE", "1", "1 = True"},
+                {"DIRECTION", "0", "0 = Left to Right"},
+                {"DIRECTION", "1", "1 = Bottom to Top"},
+                {"DIRECTION", "40000", "none"},
+                {"TYPE", "Transparent", "Transparent"},
+                {"TYPE", "Font Black", "Font Black"},
+                {"TYPE", "font black", ""},
+                {"TEXT", "HELLO", "HELLO|Hello there"},
+                {"TEXT", "EMPTY", "EMPTY|"},
+                {"TEXT", "hello", "|"},
+                {"TEX", "Plate", "Plate|plate.png"},
+                {"SBGTEX", "Missing", "|"},
+                {"COLOR", "blue", "|"},
+                {"COLOR", "Blue", "Theme|Blue"},
+                {"COLOR", "ColorLight", "Program|ColorLight"},
+                {"COLOR", "P6Dark", "Player|P6Dark"},
+                {"COLOR", "", "Theme|"},
+                {"INT", "1.250", "1.250"}};
+    const Form2& tools = program->tools();
+    for (const auto& [key, value, shown] : rows) {
+      const QByteArray name = QByteArray(key) + '=' + value;
+      program->soleRow(u"TYPE"_s, u"Plain"_s);  // what Combo2 held before
+      program->form.ShowStatus(QString());
+      program->soleRow(QLatin1StringView(key), QLatin1StringView(value));
+      QCOMPARE(name + ": " + shownValue(tools).toLatin1(), name + ": " + shown);
+      const bool failed = shownFrame(tools) == u"none";
+      QVERIFY2(program->status().startsWith(u"Error while reading Value [") == failed, name);
+      QVERIFY2(program->state.EditorShown && !program->state.Changed, name);
+      QCOMPARE(program->value(QLatin1StringView(key)), QLatin1StringView(value));
+      const int choices = qstrcmp(key, "ALIGN") == 0 ? 3 : qstrcmp(key, "VISIBLE") == 0 ? 2 : tools.Combo2->ListCount();
+      QCOMPARE(tools.Combo2->ListCount(), choices);
+    }
   }
 
   // 15 twips a pixel: 3835, 4235 and 3105 twips less the frame's 360.
   void windowFollowsTheEditor() {
     Form2& tools = program->tools();
     const QRect lists = tools.List1->geometry();
-    const auto heightAfter = [&](const char* key) {
-      program->soleRow(QLatin1StringView(key), u"1"_s);
-      support::settle();
+    const auto height = [&] {
+      settle();
+      const bool open = tools.height() > 183;
+      if (tools.Command1->isVisible() != open || program->state.EditorShown != open) return -1;
       return tools.height();
     };
-    QCOMPARE(tools.height(), 183);
-    QCOMPARE(heightAfter("X"), 232);
-    QCOMPARE(heightAfter("TEXT"), 258);
-    QCOMPARE(tools.List1->geometry(), lists);
-    QVERIFY(tools.Command1->isVisible());
-    QCOMPARE(heightAfter("ColR"), 183);
-    QVERIFY(!program->state.EditorShown);
-    QVERIFY(!tools.Command1->isVisible());
-    QCOMPARE(heightAfter("ColG"), 183);
-    QCOMPARE(heightAfter("Z"), 232);
+    QCOMPARE(height(), 183);
+    for (const auto& [key, expected] : {std::pair{"X", 232}, {"TEXT", 258}, {"ColR", 183}, {"ColG", 183}, {"Z", 232}}) {
+      program->soleRow(QLatin1StringView(key), u"1"_s);
+      QCOMPARE(height(), expected);
+      QCOMPARE(tools.List1->geometry(), lists);
+    }
     program->tag(u"LoadingTextFree"_s);
-    QCOMPARE(tools.height(), 183);
+    QCOMPARE(height(), 183);
     QCOMPARE(shownFrame(tools), u"none"_s);
-    heightAfter("X");
+    program->row(u"X"_s);
     program->screen(u"Main Screen"_s);
-    QCOMPARE(tools.height(), 183);
-    QVERIFY(!program->state.EditorShown);
+    QCOMPARE(height(), 183);
     tools.resize(600, 400);  // outer 9120 x 6360 twips
     QCOMPARE(tools.List1->geometry(), QRect(0, 24, 297, 376));
   }
 
-  void numbers_data() {
-    QTest::addColumn<int>("bar");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("shown");
-    QTest::addColumn<int>("barAfter");
-    const auto add = [](int bar, const char* text, const char* shown, int barAfter) {
-      QTest::addRow("%d: %s", bar, text) << bar << QString::fromLatin1(text) << QString::fromLatin1(shown) << barAfter;
-    };
-    add(5, "120", "120", 120);
-    add(5, "12.5", "12", 12);
-    add(5, "13.5", "14", 14);
-    add(5, "-20", "0", 0);
-    add(5, "", "0", 0);
-    add(5, "word", "0", 0);
-    add(0, "word", "word", 0);
-    add(120, "120.2", "120.2", 120);
-    add(-1000, "-1000", "-1000", -1000);
-    add(5, "10000", "10000", 10000);
-    add(5, "10001", "10001", 10000);
-    add(5, "99999999", "99999999", 10000);
-    add(5, "-10001", "0", 0);
-    add(5, "-99999999", "0", 0);
-  }
   void numbers() {
-    QFETCH(int, bar);
-    QFETCH(QString, text);
+    const struct {
+      int bar;
+      const char *text, *shown;
+      int barAfter;
+    } rows[] = {{5, "120", "120", 120},
+                {5, "12.5", "12", 12},
+                {5, "13.5", "14", 14},
+                {5, "-20", "0", 0},
+                {5, "", "0", 0},
+                {5, "word", "0", 0},
+                {0, "word", "word", 0},
+                {120, "120.2", "120.2", 120},
+                {-1000, "-1000", "-1000", -1000},
+                {5, "10000", "10000", 10000},
+                {5, "10001", "10001", 10000},
+                {5, "99999999", "99999999", 10000},
+                {5, "-10001", "0", 0},
+                {5, "-99999999", "0", 0}};
     Form2& tools = program->tools();
-    tools.Text1->SetText(u"before"_s);
-    tools.VScroll1->SetValueQuietly(bar);
-    program->soleRow(u"X"_s, text);
-    QTEST(tools.Text1->Text(), "shown");
-    QTEST(tools.VScroll1->Value(), "barAfter");
+    for (const auto& [bar, text, shown, barAfter] : rows) {
+      tools.Text1->SetText(u"before"_s);
+      tools.VScroll1->SetValueQuietly(bar);
+      program->soleRow(u"X"_s, QLatin1StringView(text));
+      QCOMPARE(tools.Text1->Text(), QLatin1StringView(shown));
+      QCOMPARE(tools.VScroll1->Value(), barAfter);
+    }
   }
 
   void barAndTypedLetters() {
@@ -195,10 +171,6 @@ class ValueGridTest : public QObject {
     QTest::keyClicks(tools.Text4, u"-1.2,.3e"_s);
     QCOMPARE(tools.Text4->Text(), u"1.2.3"_s);
   }
-
- private:
-  support::GameFolder game;
-  std::unique_ptr<Program> program;
 };
 
 QTEST_MAIN(ValueGridTest)
