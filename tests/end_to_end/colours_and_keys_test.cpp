@@ -1,114 +1,118 @@
 #include "support/real_input.h"
 
-using namespace Qt::StringLiterals;
 using namespace support;
+using toolwindow::Form2;
 
 namespace {
 
-const QByteArray Theme =
-    "[Colors]\nInk=10 20 30\n[Loading]\n"
-    "[LoadingStaticA]\nTex=Plate\nX=100\nY=100\nW=40\nH=40\nColor=Ink\nType=Font Black\n"
-    "[LoadingTextA]\nX=300\nY=300\nFont=0\nSize=20\nColor=Ink\nText=HELLO\n";
-
-void savePlain(const QString& path, QRgb color) {
-  QImage picture(4, 4, QImage::Format_RGB32);
-  picture.fill(color);
-  if (!picture.save(path)) qFatal("%s", qPrintable(path));
-}
+const QByteArray Theme = linesOf(
+    "[Colors]|Ink=10 20 30|[Loading]|"
+    "[LoadingStaticA]|Tex=Plate|X=100|Y=100|W=40|H=40|Color=Ink|Type=Font Black|"
+    "[LoadingTextA]|X=300|Y=300|Font=0|Size=20|Color=Ink|Text=HELLO|");
+const QByteArray Language = linesOf("[Text]|HELLO=Hello|");
 
 }  // namespace
 
+/// Colours and keys that are added, used and removed, one after another in one session.
 class ColoursAndKeysTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void initTestCase() {
-    game.write(u"Themes/Alpha.ini"_s, Theme);
-    game.write(u"Skins/Alpha/One.ini"_s, "[Textures]\nPlate=ink.png\n");
-    game.write(u"Languages/English.ini"_s, "[Text]\nHELLO=Hello\n");
-    savePlain(game.native(u"Skins/Alpha/ink.png"_s), qRgb(0, 0, 0));
-    savePlain(game.native(u"Skins/Alpha/paper.png"_s), qRgb(255, 255, 255));
+    game.write(ThemeFile, Theme);
+    game.write(SkinFile, "[Textures]\r\nPlate=ink.png\r\n");
+    game.write(LanguageFile, Language);
+    game.addPicture("ink.png", Qt::black);
+    game.addPicture("paper.png", Qt::white);
     program = std::make_unique<Program>(game);
-    QVERIFY(QTest::qWaitForWindowExposed(&program->form));
-    program->open();
-    QVERIFY(QTest::qWaitForWindowExposed(program->form.ToolWindow));
+    openOnScreen(*program);
   }
   void cleanupTestCase() { program.reset(); }
 
   void colourFollowsAtTheNextCommit() {
-    editorOf("LoadingStaticA", "Color");
+    pick("LoadingStaticA", "Color");
     program->dialogs.colors = {QColor(200, 100, 50)};
     press(*tools().Command2);
-    QVERIFY(game.read(ThemeCopy).contains("Ink=200 100 50\n"));
+    QVERIFY(game.read(ThemeCopy).contains("Ink=200 100 50\r\n"));
     QCOMPARE(tools().Command2->BackColor(), QColor(200, 100, 50));
-    QCOMPARE(pixel(), qRgb(10, 20, 30));
+    QCOMPARE(pixel(), QColor(10, 20, 30));
     QVERIFY(!program->state.Changed && !program->enabled(2));
     QCOMPARE(program->status(), u"Kept in the working copy; the next Update makes Save available"_s);
     press(*tools().Command1);
-    QCOMPARE(pixel(), qRgb(200, 100, 50));
+    QCOMPARE(pixel(), QColor(200, 100, 50));
     QVERIFY(program->state.Changed && program->enabled(2));
   }
 
-  void newColourIsUsed() {
-    editorOf("LoadingStaticA", "Color");
+  void newColour() {
+    pick("LoadingStaticA", "Color");
     program->dialogs.inputs = {u"Leaf"_s};
     press(*tools().Command3);
-    QVERIFY(game.read(ThemeCopy).contains("Leaf=150 150 150\n"));
+    QVERIFY(game.read(ThemeCopy).contains("Leaf=150 150 150\r\n"));
     QCOMPARE(tools().Combo3->Text(), u"Leaf"_s);
     press(*tools().Command1);
-    QCOMPARE(pixel(), qRgb(150, 150, 150));
-    program->dialogs.boxes = {platform::BoxAnswer::Yes};
-    press(*tools().Command5);
-    QVERIFY(!game.read(ThemeCopy).contains("Leaf="));
-    QVERIFY(game.read(ThemeCopy).contains("Color=Leaf\n"));
+    QCOMPARE(pixel(), QColor(150, 150, 150));
+    remove(tools().Command5);
+    QVERIFY(!game.read(ThemeCopy).contains("Leaf=") && game.read(ThemeCopy).contains("Color=Leaf\r\n"));
   }
 
-  void newWordsAreDrawn() {
-    const QImage before = surface();
-    editorOf("LoadingTextA", "Text");
+  void newWords() {
+    const QImage before = program->picture();
+    pick("LoadingTextA", "Text");
     program->dialogs.inputs = {u"GREETING"_s};
     press(*tools().Command6);
-    QVERIFY(game.read(LanguageCopy).contains("GREETING=\n"));
+    QCOMPARE(game.read(LanguageCopy), Language + "GREETING=\r\n");
     type(*tools().Text2, "Good evening");
     press(*tools().Command1);
-    QVERIFY(game.read(LanguageCopy).contains("GREETING=Good evening\n"));
-    QVERIFY(game.read(ThemeCopy).contains("Text=GREETING\n"));
-    const QImage drawn = surface();
-    QVERIFY(drawn != before);
-    program->dialogs.boxes = {platform::BoxAnswer::Yes};
-    press(*tools().Command7);
-    QCOMPARE(game.read(LanguageCopy), QByteArray("[Text]\nHELLO=Hello\n"));
+    QCOMPARE(game.read(LanguageCopy), Language + "GREETING=Good evening\r\n");
+    QVERIFY(game.read(ThemeCopy).contains("Text=GREETING\r\n"));
+    QVERIFY(program->picture() != before);
+    remove(tools().Command7);
+    QCOMPARE(game.read(LanguageCopy), Language);
     QCOMPARE(tools().Combo5->ListIndex(), -1);
   }
 
-  void anotherImageIsDrawn() {
-    editorOf("LoadingStaticA", "Color");
+  void anotherImage() {
+    pick("LoadingStaticA", "Color");
     pickEntry(*tools().Combo4, 0);
     press(*tools().Command1);
-    QCOMPARE(pixel(), qRgb(200, 100, 50));
-    editorOf("LoadingStaticA", "Tex");
+    QCOMPARE(pixel(), QColor(200, 100, 50));
+    pick("LoadingStaticA", "Tex");
     program->dialogs.files = {game.path() + u"Skins\\Alpha\\paper.png"_s};
     press(*tools().Command4);
     QCOMPARE(tools().Text3->Text(), u"paper.png"_s);
-    QCOMPARE(pixel(), qRgb(200, 100, 50));
+    QCOMPARE(pixel(), QColor(200, 100, 50));
     press(*tools().Command1);
-    QVERIFY(game.read(SkinCopy).contains("Plate=paper.png\n"));
-    QCOMPARE(pixel(), qRgb(255, 255, 255));
-    program->dialogs.boxes = {platform::BoxAnswer::Yes};
-    press(*tools().Command9);
-    QCOMPARE(game.read(SkinCopy), QByteArray("[Textures]\n"));
+    QVERIFY(game.read(SkinCopy).contains("Plate=paper.png\r\n"));
+    QCOMPARE(pixel(), QColor(Qt::white));
+    remove(tools().Command9);
+    QCOMPARE(game.read(SkinCopy), "[Textures]\r\n");
   }
 
-  void nothingReachedTheGamesFiles() { QCOMPARE(game.read(u"Themes/Alpha.ini"_s), Theme); }
+  void newTexture() {
+    program->dialogs.inputs = {u"Fresh"_s};
+    press(*tools().Command8);
+    program->dialogs.files = {game.path() + u"Skins\\Alpha\\ink.png"_s};
+    press(*tools().Command4);
+    press(*tools().Command1);
+    QCOMPARE(game.read(SkinCopy), "[Textures]\r\nFresh=ink.png\r\n");
+    QVERIFY(game.read(ThemeCopy).contains("Tex=Fresh\r\n"));
+    QCOMPARE(pixel(), QColor(200, 100, 50));
+  }
+
+  void nothingReachedTheGamesFiles() { QCOMPARE(game.read(ThemeFile), Theme); }
 
  private:
-  toolwindow::Form2& tools() { return program->tools(); }
-  QImage surface() const { return program->form.Workspace->Surface().image(); }
-  QRgb pixel() const { return surface().pixel(120, 120); }
+  Form2& tools() const { return program->tools(); }
+  QColor pixel() const { return program->picture().pixelColor(120, 120); }
 
-  void editorOf(const char* object, const char* key) {
+  void pick(const char* object, const char* key) const {
     pickNamed(*tools().List1, object);
     pickNamed(*tools().ListView1, key);
+  }
+
+  void remove(QPushButton* button) const {
+    program->dialogs.boxes = {platform::BoxAnswer::Yes};
+    press(*button);
   }
 
   GameFolder game;

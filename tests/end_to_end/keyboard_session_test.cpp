@@ -16,14 +16,6 @@ QWidget& activeWindow(const QWidget* expected) {
   return *QApplication::activeWindow();
 }
 
-void keys(QWidget& window, const QList<Qt::Key>& sequence) {
-  for (const Qt::Key next : sequence) key(window, next);
-}
-
-void letters(QWidget& window, const char* text) {
-  for (const char letter : QByteArrayView(text)) QTest::keyClick(window.windowHandle(), letter);
-}
-
 /// Goes on with the Tab key until the control has the focus.
 void tabTo(QWidget& control) {
   QWidget& window = activeWindow(control.window());
@@ -31,21 +23,27 @@ void tabTo(QWidget& control) {
   if (!control.hasFocus()) qFatal("no way to %s", qPrintable(control.objectName()));
 }
 
+QString shown(const controls::ListView& grid) {
+  return grid.RowText(grid.SelectedRow());
+}
+template <typename List>
+QString shown(const List& list) {
+  return list.Text();
+}
+
 /// Goes down a list, from its first row, to the text.
-template <typename Text>
-void goDownTo(QWidget& control, const char* text, Text shown) {
-  tabTo(control);
-  key(*control.window(), Qt::Key_Home);
-  for (int step = 0; step < 200 && shown() != QLatin1StringView(text); ++step) key(*control.window(), Qt::Key_Down);
-  QCOMPARE(shown(), QLatin1StringView(text));
+template <typename List>
+void goDownTo(List& list, const char* text) {
+  tabTo(list);
+  key(list, Qt::Key_Home);
+  for (int step = 0; step < 200 && shown(list) != QLatin1StringView(text); ++step) key(list, Qt::Key_Down);
+  QCOMPARE(shown(list), QLatin1StringView(text));
 }
 
 class MouseCounter : public QObject {
-  Q_OBJECT
-
  public:
   int count = 0;
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+  bool eventFilter(QObject*, QEvent* event) override {
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::Wheel) ++count;
     return false;
   }
@@ -88,9 +86,9 @@ class KeyboardSessionTest : public QObject {
       watch.stop();
       activeWindow(dialog);
       withoutName += nameless(*dialog);
-      goDownTo(*dialog->List1, "Stagelight", [&] { return dialog->List1->Text(); });
-      goDownTo(*dialog->List2, "Neon", [&] { return dialog->List2->Text(); });
-      goDownTo(*dialog->Combo1, "English", [&] { return dialog->Combo1->Text(); });
+      goDownTo(*dialog->List1, "Stagelight");
+      goDownTo(*dialog->List2, "Neon");
+      goDownTo(*dialog->Combo1, "English");
       key(*dialog, Qt::Key_Return);
     });
     watch.start(10);
@@ -99,28 +97,25 @@ class KeyboardSessionTest : public QObject {
     toolwindow::Form2& tools = *form.ToolWindow;
     QCOMPARE(withoutName + nameless(tools) + nameless(form), QStringList());
     QVERIFY(&activeWindow(&tools) == &tools && tools.Combo1->hasFocus());
-    goDownTo(*tools.Combo1, "Main Screen", [&] { return tools.Combo1->Text(); });
+    goDownTo(*tools.Combo1, "Main Screen");
 
-    const auto object = [&](const char* name) { goDownTo(*tools.List1, name, [&] { return tools.List1->Text(); }); };
-    const auto row = [&](const char* name) {
-      goDownTo(*tools.ListView1, name, [&] { return tools.ListView1->RowText(tools.ListView1->SelectedRow()); });
+    const auto pick = [&](const char* object, const char* key) {
+      goDownTo(*tools.List1, object);
+      goDownTo(*tools.ListView1, key);
     };
-    object("MainStaticBar");
-    row("X");
+    pick("MainStaticBar", "X");
     tabTo(*tools.Text1);
     letters(tools, "12");
     key(tools, Qt::Key_Return);
     QVERIFY(tools.ListView1->hasFocus());
 
-    object("MainStaticIcon");
-    row("Color");
-    goDownTo(*tools.Combo4, "Player", [&] { return tools.Combo4->Text(); });
-    goDownTo(*tools.Combo3, "P1Light", [&] { return tools.Combo3->Text(); });
+    pick("MainStaticIcon", "Color");
+    goDownTo(*tools.Combo4, "Player");
+    goDownTo(*tools.Combo3, "P1Light");
     tabTo(*tools.Command1);
     key(tools, Qt::Key_Space);
 
-    object("MainTextHelp");
-    row("Text");
+    pick("MainTextHelp", "Text");
     program.dialogs.inputs = {u"BY_KEYBOARD"_s};
     tabTo(*tools.Command6);
     key(tools, Qt::Key_Space);
@@ -130,23 +125,24 @@ class KeyboardSessionTest : public QObject {
 
     program.dialogs.colors = {QColor(1, 2, 3)};
     key(tools, Qt::Key_F6);
-    keys(activeWindow(&form), {Qt::Key_Tab});
     tabTo(*form.ToolBar);
-    keys(form, {Qt::Key_End, Qt::Key_Return});
+    key(form, Qt::Key_End);
+    key(form, Qt::Key_Return);
     QCOMPARE(program.state.BackgroundColor, 0x030201U);
     key(form, Qt::Key_F6);
     key(activeWindow(&tools), Qt::Key_S, Qt::ControlModifier);
 
     QVERIFY(!program.state.Changed);
     QVERIFY2(!program.status().startsWith(u"Error"), qPrintable(program.status()));
-    const auto saved = [&](const char* file, const char* section, const char* name) {
-      return themefiles::GetINI(QLatin1StringView(section), QString(QLatin1StringView(name)), QString(),
-                                game.path() + QString(QLatin1StringView(file)).replace(u'/', u'\\'));
-    };
-    QCOMPARE(saved("Themes/Stagelight.ini", "MainStaticBar", "X"), u"12"_s);
-    QCOMPARE(saved("Themes/Stagelight.ini", "MainStaticIcon", "Color"), u"P1Light"_s);
-    QCOMPARE(saved("Themes/Stagelight.ini", "MainTextHelp", "Text"), u"BY_KEYBOARD"_s);
-    QCOMPARE(saved("Languages/English.ini", "Text", "BY_KEYBOARD"), u"Press a key"_s);
+    const char* const saved[][4] = {{"Themes\\Stagelight.ini", "MainStaticBar", "X", "12"},
+                                    {"Themes\\Stagelight.ini", "MainStaticIcon", "Color", "P1Light"},
+                                    {"Themes\\Stagelight.ini", "MainTextHelp", "Text", "BY_KEYBOARD"},
+                                    {"Languages\\English.ini", "Text", "BY_KEYBOARD", "Press a key"}};
+    for (const auto& [file, section, name, value] : saved) {
+      QCOMPARE(themefiles::GetINI(QLatin1StringView(section), QLatin1StringView(name), QString(),
+                                  game.path() + QLatin1StringView(file)),
+               QLatin1StringView(value));
+    }
     key(tools, Qt::Key_W, Qt::ControlModifier);
     settle();
     QVERIFY(form.ToolWindow == nullptr);

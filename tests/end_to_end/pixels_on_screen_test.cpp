@@ -1,10 +1,8 @@
 #include <QScreen>
-#include <QTest>
 
-#include "support/windows.h"
+#include "support/real_input.h"
 
-using namespace Qt::StringLiterals;
-using support::Program;
+using namespace support;
 
 namespace {
 
@@ -38,6 +36,7 @@ Pixel pixelOf(QRgb color) {
 }
 
 // What a type makes of a pixel under the colour given with the cases below.
+
 Pixel plain(const Pixel& p) {
   return p;
 }
@@ -59,26 +58,26 @@ Pixel font(const Pixel& p) {
 
 /// A static of the theme: how it is written, and where each of its pixels has to show.
 struct Case {
-  const char* keys;
+  const char* keys;  ///< at a "|" a line ends
   QRgb (*source)(int, int);
   Pixel (*type)(const Pixel&);
   QRect place;  ///< at the picture's own size
 };
 
 const Case Cases[] = {
-    {"Tex=Patch\nX=100\nY=100\nW=16\nH=12\nColor=Any\nType=Plain", patch, plain, {100, 100, 16, 12}},
-    {"Tex=Patch\nX=150\nY=100\nW=16\nH=12\nColor=Any\nType=Transparent", patch, plain, {150, 100, 16, 12}},
-    {"Tex=Patch\nX=200\nY=100\nW=16\nH=12\nColor=Any", patch, plain, {200, 100, 16, 12}},
-    {"Tex=Patch\nX=250\nY=100\nW=16\nH=12\nColor=Red\nType=Colorized", patch, red, {250, 100, 16, 12}},
-    {"Tex=Patch\nX=300\nY=100\nW=16\nH=12\nColor=Blue\nType=COLORIZED", patch, blue, {300, 100, 16, 12}},
-    {"Tex=Patch\nX=350\nY=100\nW=16\nH=12\nColor=Font\nType=Font Black", patch, font, {350, 100, 16, 12}},
-    {"Tex=Faint\nX=100\nY=150\nW=16\nH=12\nColor=Any\nType=Plain", faint, plain, {100, 150, 16, 12}},
-    {"Tex=Faint\nX=150\nY=150\nW=16\nH=12\nColor=Red\nType=Colorized", faint, red, {150, 150, 16, 12}},
-    {"Tex=Faint\nX=200\nY=150\nW=16\nH=12\nColor=Font\nType=Font Black", faint, font, {200, 150, 16, 12}},
-    {"Tex=Patch\nX=-1\nY=200\nW=90\nH=50\nColor=Any", patch, plain, {0, 0, 16, 12}},
-    {"Tex=Strip\nX=200\nY=-1\nW=90\nH=50\nColor=Any", patch, plain, {0, 0, 4, 40}},
-    {"Tex=Patch\nX=100\nY=250\nW=-1\nH=50\nColor=Any", patch, plain, {100, 250, 16, 12}},
-    {"Tex=Patch\nX=200\nY=250\nW=90\nH=-1\nColor=Red\nType=Colorized", patch, red, {200, 250, 16, 12}},
+    {"Tex=Patch|X=100|Y=100|W=16|H=12|Color=Any|Type=Plain", patch, plain, {100, 100, 16, 12}},
+    {"Tex=Patch|X=150|Y=100|W=16|H=12|Color=Any|Type=Transparent", patch, plain, {150, 100, 16, 12}},
+    {"Tex=Patch|X=200|Y=100|W=16|H=12|Color=Any", patch, plain, {200, 100, 16, 12}},
+    {"Tex=Patch|X=250|Y=100|W=16|H=12|Color=Red|Type=Colorized", patch, red, {250, 100, 16, 12}},
+    {"Tex=Patch|X=300|Y=100|W=16|H=12|Color=Blue|Type=COLORIZED", patch, blue, {300, 100, 16, 12}},
+    {"Tex=Patch|X=350|Y=100|W=16|H=12|Color=Font|Type=Font Black", patch, font, {350, 100, 16, 12}},
+    {"Tex=Faint|X=100|Y=150|W=16|H=12|Color=Any|Type=Plain", faint, plain, {100, 150, 16, 12}},
+    {"Tex=Faint|X=150|Y=150|W=16|H=12|Color=Red|Type=Colorized", faint, red, {150, 150, 16, 12}},
+    {"Tex=Faint|X=200|Y=150|W=16|H=12|Color=Font|Type=Font Black", faint, font, {200, 150, 16, 12}},
+    {"Tex=Patch|X=-1|Y=200|W=90|H=50|Color=Any", patch, plain, {0, 0, 16, 12}},
+    {"Tex=Strip|X=200|Y=-1|W=90|H=50|Color=Any", patch, plain, {0, 0, 4, 40}},
+    {"Tex=Patch|X=100|Y=250|W=-1|H=50|Color=Any", patch, plain, {100, 250, 16, 12}},
+    {"Tex=Patch|X=200|Y=250|W=90|H=-1|Color=Red|Type=Colorized", patch, red, {200, 250, 16, 12}},
 };
 constexpr QRect Scaled(100, 300, 40, 20);
 
@@ -109,77 +108,68 @@ class PixelsOnScreenTest : public QObject {
   Q_OBJECT
 
  private:
-  static void compare(const QImage& screen, const QPoint& place, const Pixel& expected, double tolerance) {
-    const Pixel actual = pixelOf(screen.pixel(place));
-    for (size_t i = 0; i < 3; ++i) {
-      QVERIFY2(std::abs(actual[i] - expected[i]) <= tolerance,
-               qPrintable(
-                   u"%1, %2: channel %3 is %4 instead of %5"_s.arg(place.x()).arg(place.y()).arg(i).arg(actual[i]).arg(
-                       expected[i])));
-    }
+  const GameFolder game;
+
+  void save(const char* name, const QImage& picture) const {
+    QVERIFY(picture.save(game.native(u"Skins/Alpha/"_s + QLatin1StringView(name))));
   }
 
  private Q_SLOTS:
-  void statics() {
-    const support::GameFolder game;
-    QByteArray theme = "[Colors]\nAny=1 2 3\nRed=255 0 0\nBlue=20 20 90\nFont=200 100 50\n[Loading]\n";
-    for (size_t i = 0; i < std::size(Cases); ++i) {
-      theme += "[LoadingStatic" + QByteArray::number(int(10 + i)) + "]\n" + Cases[i].keys + "\n";
-    }
-    theme += "[LoadingStaticScaled]\nTex=Blocks\nX=100\nY=300\nW=40\nH=20\nColor=Any\n";
-    game.write(u"Themes/Alpha.ini"_s, theme);
-    game.write(u"Skins/Alpha/One.ini"_s,
-               "[Textures]\nPatch=patch.png\nFaint=faint.png\nStrip=strip.png\nBlocks=blocks.bmp\n");
-    const auto save = [&](const char* name, const QImage& picture) {
-      QVERIFY(picture.save(game.native(u"Skins/Alpha/"_s + QLatin1StringView(name))));
-    };
+  void initTestCase() {
+    QByteArray theme = "[Colors]|Any=1 2 3|Red=255 0 0|Blue=20 20 90|Font=200 100 50|[Loading]|";
+    int number = 10;
+    for (const Case& row : Cases) theme += "[LoadingStatic" + QByteArray::number(number++) + "]|" + row.keys + "|";
+    theme += "[LoadingStaticScaled]|Tex=Blocks|X=100|Y=300|W=40|H=20|Color=Any|";
+    game.write(ThemeFile, linesOf(theme));
+    game.write(SkinFile, linesOf("[Textures]|Patch=patch.png|Faint=faint.png|Strip=strip.png|Blocks=blocks.bmp|"));
     save("patch.png", pictureOf(patch, 16, 12));
     save("faint.png", pictureOf(faint, 16, 12));
     save("strip.png", pictureOf(patch, 4, 40));
     save("blocks.bmp", pictureOf(blocks, 2, 2));
+  }
+
+  void statics() {
     Program program(game);
-    QVERIFY(QTest::qWaitForWindowExposed(&program.form));
     program.state.BackgroundColor = 0x8C5A28;
     QCursor::setPos(0, 0);  // no tool tip over the preview
-    program.open();
-    program.tools().move(program.form.geometry().bottomRight() + QPoint(40, -300));
-    support::settle();
+    openOnScreen(program);
 
-    const QImage screen = program.form.Workspace->Surface().image().convertToFormat(QImage::Format_RGB32);
+    const QImage surface = program.picture().convertToFormat(QImage::Format_RGB32);
     // At a whole scale each pixel of the surface is a square of the screen's; at others no screen can show it so.
     const double scale = program.form.devicePixelRatioF();
-    const auto shown = [&] {
+    const auto screen = [&] {
       const QPoint preview = program.form.Workspace->mapTo(&program.form, QPoint(0, 0));
-      QImage grabbed = program.form.screen()
-                           ->grabWindow(program.form.winId(), preview.x(), preview.y(), 800, 600)
-                           .toImage()
-                           .convertToFormat(QImage::Format_RGB32);
+      const WId window = program.form.winId();
+      QImage grabbed = program.form.screen()->grabWindow(window, preview.x(), preview.y(), 800, 600).toImage();
       grabbed.setDevicePixelRatio(1);
-      return grabbed;
+      return grabbed.convertToFormat(QImage::Format_RGB32);
     };
-    if (scale == std::floor(scale)) QTRY_COMPARE(shown(), screen.scaled(screen.size() * scale));
-    const Pixel background{40, 90, 140, 255};
-    QImage left(screen.size(), QImage::Format_Grayscale8);  // what no static covers
-    left.fill(255);
+    if (scale == std::floor(scale)) QTRY_COMPARE(screen(), surface.scaled(surface.size() * scale));
+
+    struct Expected {
+      Pixel pixel;
+      double tolerance;
+    };
+    std::vector<Expected> expected(800 * 600, {{40, 90, 140, 255}, 0});
     for (const Case& row : Cases) {
       for (int y = 0; y < row.place.height(); ++y) {
         for (int x = 0; x < row.place.width(); ++x) {
-          const QPoint place = row.place.topLeft() + QPoint(x, y);
-          left.scanLine(place.y())[place.x()] = 0;
-          const bool covered = row.place.topLeft().isNull();  // two lie one over the other
-          const Pixel below =
-              covered && row.place.width() == 4 && y < 12 ? over(pixelOf(patch(x, y)), background) : background;
-          if (covered && row.place.width() == 16 && x < 4) continue;
-          compare(screen, place, over(row.type(pixelOf(row.source(x, y))), below), 1);
+          Expected& at = expected[(row.place.y() + y) * 800 + row.place.x() + x];
+          at = {over(row.type(pixelOf(row.source(x, y))), at.pixel), 1};
         }
       }
     }
-    for (int y = 0; y < 600; ++y) {
-      for (int x = 0; x < 800; ++x) {
-        if (Scaled.contains(x, y)) {
-          compare(screen, {x, y}, stretched(x - Scaled.x(), y - Scaled.y(), Scaled.size()), 4);
-        } else if (left.constScanLine(y)[x] != 0) {
-          compare(screen, {x, y}, background, 0);
+    for (int y = 0; y < Scaled.height(); ++y) {
+      for (int x = 0; x < Scaled.width(); ++x) {
+        expected[(Scaled.y() + y) * 800 + Scaled.x() + x] = {stretched(x, y, Scaled.size()), 4};
+      }
+    }
+    for (int i = 0; i < 800 * 600; ++i) {
+      const Pixel actual = pixelOf(surface.pixel(i % 800, i / 800));
+      for (size_t channel = 0; channel < 3; ++channel) {
+        const double difference = std::abs(actual[channel] - expected[i].pixel[channel]);
+        if (difference > expected[i].tolerance) {
+          QFAIL(qPrintable(u"channel %1 of %2, %3: %4"_s.arg(channel).arg(i % 800).arg(i / 800).arg(actual[channel])));
         }
       }
     }

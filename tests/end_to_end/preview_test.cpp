@@ -5,14 +5,12 @@ using namespace support;
 
 namespace {
 
-const QByteArray Theme =
-    "[Colors]\nOn=250 0 0\nOff=0 0 250\n[Loading]\n"
-    "[LoadingButtonA]\nTex=Ink\nX=100\nY=100\nW=100\nH=40\nSelectH=60\nColor=On\nDColor=Off\nType=Font Black\n"
-    "INT=1\nDINT=1\n"
-    "[LoadingButtonB]\nTex=Ink\nX=100\nY=200\nW=100\nH=40\nSelectH=60\nColor=On\nDColor=Off\nType=Font Black\n"
-    "INT=1\nDINT=1\n"
-    "[LoadingStaticLost]\nTex=Nothing\nX=1\nY=1\nW=9\nH=9\nColor=On\n"
-    "[LoadingStaticUnder]\nTex=Ink\nX=110\nY=110\nW=20\nH=20\nColor=Off\n";
+const QByteArray Theme = linesOf(
+    "[Colors]|On=250 0 0|Off=0 0 250|[Loading]|"
+    "[LoadingButtonA]|Tex=Ink|X=100|Y=100|W=100|H=40|SelectH=60|Color=On|DColor=Off|Type=Font Black|INT=1|DINT=1|"
+    "[LoadingButtonB]|Tex=Ink|X=100|Y=200|W=100|H=40|SelectH=60|Color=On|DColor=Off|Type=Font Black|INT=1|DINT=1|"
+    "[LoadingStaticLost]|Tex=Nothing|X=1|Y=1|W=9|H=9|Color=On|"
+    "[LoadingStaticUnder]|Tex=Ink|X=110|Y=110|W=20|H=20|Color=Off|");
 
 }  // namespace
 
@@ -23,15 +21,9 @@ class PreviewTest : public QObject {
   void init() {
     game.write(u"Themes/Alpha.ini"_s, Theme);
     game.write(u"Skins/Alpha/One.ini"_s, "[Textures]\nInk=ink.png\n");
-    QImage ink(4, 4, QImage::Format_RGB32);
-    ink.fill(Qt::black);
-    QVERIFY(ink.save(game.native(u"Skins/Alpha/ink.png"_s)));
+    game.addPicture("ink.png", Qt::black);
     program = std::make_unique<Program>(game);
-    QVERIFY(QTest::qWaitForWindowExposed(&program->form));
-    program->open();
-    QVERIFY(QTest::qWaitForWindowExposed(program->form.ToolWindow));
-    program->tools().move(program->form.geometry().bottomRight() + QPoint(40, -300));
-    settle();
+    openOnScreen(*program);
   }
   void cleanup() { program.reset(); }
 
@@ -56,15 +48,15 @@ class PreviewTest : public QObject {
   }
 
   void objectUnderTheMouse() {
-    clickAt(*program->form.Workspace, {115, 115});
-    QCOMPARE(program->tools().List1->Text(), u"LoadingButtonA"_s);
-    clickAt(*program->form.Workspace, {115, 115});
-    QCOMPARE(program->tools().List1->Text(), u"LoadingStaticUnder"_s);
-    QCOMPARE(program->value(u"W"_s), u"20"_s);
-    clickAt(*program->form.Workspace, {115, 115});
-    QCOMPARE(program->tools().List1->Text(), u"LoadingButtonA"_s);
-    clickAt(*program->form.Workspace, {600, 400});
-    QCOMPARE(program->tools().List1->Text(), u"LoadingButtonA"_s);
+    const std::pair<QPoint, const char*> clicks[] = {{{115, 115}, "LoadingButtonA"},
+                                                     {{115, 115}, "LoadingStaticUnder"},
+                                                     {{115, 115}, "LoadingButtonA"},
+                                                     {{600, 400}, "LoadingButtonA"}};
+    for (const auto& [place, object] : clicks) {
+      clickAt(*program->form.Workspace, place);
+      QCOMPARE(program->tools().List1->Text(), QLatin1StringView(object));
+      QCOMPARE(program->value(u"W"_s), program->tools().List1->Text().endsWith(u"Under") ? u"20"_s : u"100"_s);
+    }
   }
 
   void reasonOnTheRow() {
@@ -74,7 +66,7 @@ class PreviewTest : public QObject {
   }
 
  private:
-  QRgb pixel(int x, int y) const { return program->form.Workspace->Surface().image().pixel(x, y); }
+  QRgb pixel(int x, int y) const { return program->picture().pixel(x, y); }
   QRgb screenPixel(int x, int y) const {
     const QPoint place = program->form.Workspace->mapToGlobal(QPoint(x, y));
     return program->form.screen()->grabWindow(0, place.x(), place.y(), 1, 1).toImage().pixel(0, 0) | 0xFF000000;

@@ -25,17 +25,12 @@ inline void key(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = 
   QTest::keyClick(widget.window()->windowHandle(), key, modifiers);
 }
 
-inline void pickRow(QAbstractItemView& list, int row) {
-  const QModelIndex index = list.model()->index(row, 0);
-  list.scrollTo(index);
-  clickAt(*list.viewport(), list.visualRect(index).center());
-}
-
 inline void pickNamed(QAbstractItemView& list, const char* name) {
-  for (int row = 0; row < list.model()->rowCount(); ++row) {
-    if (list.model()->index(row, 0).data().toString() == QLatin1StringView(name)) return pickRow(list, row);
-  }
-  qFatal("no row %s", name);
+  const auto found = list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, QLatin1StringView(name), 1,
+                                         Qt::MatchExactly | Qt::MatchCaseSensitive);
+  if (found.isEmpty()) qFatal("no row %s", name);
+  list.scrollTo(found.first());
+  clickAt(*list.viewport(), list.visualRect(found.first()).center());
 }
 
 /// Opens the drop-down list and takes an entry of it.
@@ -48,14 +43,27 @@ inline void pickEntry(QComboBox& box, int entry) {
   key(*popup, Qt::Key_Return);
 }
 
+inline void letters(QWidget& widget, const char* text) {
+  for (const char letter : QByteArrayView(text)) QTest::keyClick(widget.window()->windowHandle(), letter);
+}
+
 inline void type(QLineEdit& box, const char* text) {
   press(box);
   key(box, Qt::Key_A, Qt::ControlModifier);
-  for (const char letter : QByteArrayView(text)) QTest::keyClick(box.window()->windowHandle(), letter);
+  letters(box, text);
 }
 
 inline void toolBar(Program& program, int button) {
   clickAt(*program.form.ToolBar, QPoint(32 * button - 16, 16));
+}
+
+/// Opens the theme Alpha, the tool window beside the preview.
+inline void openOnScreen(Program& program) {
+  if (!QTest::qWaitForWindowExposed(&program.form)) qFatal("no main window");
+  program.open();
+  if (!QTest::qWaitForWindowExposed(&program.tools())) qFatal("no tool window");
+  program.tools().move(program.form.geometry().bottomRight() + QPoint(40, -300));
+  settle();
 }
 
 /// Opens a theme with the mouse and the keyboard.
