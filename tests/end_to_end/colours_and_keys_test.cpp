@@ -47,11 +47,15 @@ class ColoursAndKeysTest : public QObject {
     pick("LoadingStaticA", "Color");
     program->dialogs.inputs = {u"Leaf"_s};
     press(*tools().Command3);
-    QVERIFY(game.read(ThemeCopy).contains("Leaf=150 150 150\r\n"));
-    QCOMPARE(tools().Combo3->Text(), u"Leaf"_s);
+    QVERIFY(game.read(ThemeCopy).startsWith("[Colors]\r\nInk=200 100 50\r\nLeaf=150 150 150\r\n[Loading]"));
+    QCOMPARE(shown(tools().Combo3), u"Ink,Leaf: Leaf"_s);
+    QCOMPARE(tools().Command2->BackColor(), QColor(150, 150, 150));
     press(*tools().Command1);
     QCOMPARE(pixel(), QColor(150, 150, 150));
     remove(tools().Command5);
+    QCOMPARE(shown(tools().Combo3), u"Ink: "_s);
+    QCOMPARE(tools().Command2->BackColor(), QColor(212, 208, 200));
+    QVERIFY(program->state.ThemeColors[1].Name.isEmpty());
     QVERIFY(!game.read(ThemeCopy).contains("Leaf=") && game.read(ThemeCopy).contains("Color=Leaf\r\n"));
   }
 
@@ -61,6 +65,7 @@ class ColoursAndKeysTest : public QObject {
     program->dialogs.inputs = {u"GREETING"_s};
     press(*tools().Command6);
     QCOMPARE(game.read(LanguageCopy), Language + "GREETING=\r\n");
+    QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO,GREETING: GREETING"_s);
     type(*tools().Text2, "Good evening");
     press(*tools().Command1);
     QCOMPARE(game.read(LanguageCopy), Language + "GREETING=Good evening\r\n");
@@ -68,7 +73,7 @@ class ColoursAndKeysTest : public QObject {
     QVERIFY(program->picture() != before);
     remove(tools().Command7);
     QCOMPARE(game.read(LanguageCopy), Language);
-    QCOMPARE(tools().Combo5->ListIndex(), -1);
+    QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO: "_s);
   }
 
   void anotherImage() {
@@ -86,16 +91,18 @@ class ColoursAndKeysTest : public QObject {
     QCOMPARE(pixel(), QColor(Qt::white));
     remove(tools().Command9);
     QCOMPARE(game.read(SkinCopy), "[Textures]\r\n");
+    QCOMPARE(shown(tools().Combo6) + tools().Text3->Text(), u": "_s);
   }
 
   void newTexture() {
-    program->dialogs.inputs = {u"Fresh"_s};
+    program->dialogs.inputs = {u"Fr\u00ff"_s};
     press(*tools().Command8);
+    QCOMPARE(shown(tools().Combo6) + tools().Text3->Text(), u"Fr\u00ff: Fr\u00ff"_s);
     program->dialogs.files = {game.path() + u"Skins\\Alpha\\ink.png"_s};
     press(*tools().Command4);
     press(*tools().Command1);
-    QCOMPARE(game.read(SkinCopy), "[Textures]\r\nFresh=ink.png\r\n");
-    QVERIFY(game.read(ThemeCopy).contains("Tex=Fresh\r\n"));
+    QCOMPARE(game.read(SkinCopy), "[Textures]\r\nFr\xff=ink.png\r\n");
+    QVERIFY(game.read(ThemeCopy).contains("Tex=Fr\xff\r\n"));
     QCOMPARE(pixel(), QColor(200, 100, 50));
   }
 
@@ -104,6 +111,9 @@ class ColoursAndKeysTest : public QObject {
  private:
   Form2& tools() const { return program->tools(); }
   QColor pixel() const { return program->picture().pixelColor(120, 120); }
+
+  /// The entries of a list, and the one that is chosen.
+  static QString shown(const controls::ComboBox* list) { return entries(*list).join(u',') + u": "_s + list->Text(); }
 
   void pick(const char* object, const char* key) const {
     pickNamed(*tools().List1, object);

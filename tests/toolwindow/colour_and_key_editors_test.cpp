@@ -8,224 +8,175 @@ using toolwindow::Form2;
 
 namespace {
 
-const char* const Kept = "Kept in the working copy; the next Update makes Save available";
-
 QString text(const QByteArray& latin1) {
   return QString::fromLatin1(latin1);
 }
 
-QColor swatch(const Form2& form) {
-  return form.Command2->BackColor();
-}
-
-/// One of the lists of names that can be added to and removed from.
-struct NameList {
-  const char *name, *naming;    ///< in the titles of dialogs, and the one that asks for a name
-  const char *key, *entry;      ///< the row of the grid
-  const char *line, *lastLine;  ///< of the file
-  const char* addFailure;
+/// The editor of one of the three lists of names: its row of the grid, its file, its controls.
+struct Editor {
+  const char *key, *entry;
   const QString& file;
   controls::ComboBox* Form2::*list;
   QPushButton *Form2::*add, *Form2::*remove;
-  QString (*held)(const Form2& form);          ///< what the editor shows of the entry
-  const char *value, *heldByNew, *heldByNone;  ///< of a new one, and behind the removal
+  const char *kind, *naming, *addFailure;  ///< what dialogs and the status call it
 };
 
-const NameList NameLists[] = {
-    {"Color", "New Color: Name of the New Color:", "COLOR", "Red", "Red=200 40 40", "Blue=30 60 200",
-     "Error while adding colors [", ThemeCopy, &Form2::Combo3, &Form2::Command3, &Form2::Command5,
-     [](const Form2& form) { return swatch(form).name(); }, "150 150 150", "#969696", "#d4d0c8"},
-    {"Key", "New TextKey: Name of the New Key:", "TEXT", "HELLO", "HELLO=Hello there",
-     "EMPTY=", "Error while writing tempfile [", LanguageCopy, &Form2::Combo5, &Form2::Command6, &Form2::Command7,
-     [](const Form2& form) { return form.Text2->Text(); }, "", "", ""},
-    {"Key", "New TextureKey: Name of the New Key:", "TEX", "Plate", "Plate=plate.png", "Other=other.png",
-     "Error while writing tempfile [", SkinCopy, &Form2::Combo6, &Form2::Command8, &Form2::Command9,
-     [](const Form2& form) { return form.Text3->Text(); }, "", "", ""},
+const char* const WriteFailure = "Error while writing tempfile [";
+
+const Editor Editors[] = {
+    {"COLOR", "Red", ThemeCopy, &Form2::Combo3, &Form2::Command3, &Form2::Command5, "Color",
+     "New Color: Name of the New Color:", "Error while adding colors ["},
+    {"TEXT", "HELLO", LanguageCopy, &Form2::Combo5, &Form2::Command6, &Form2::Command7, "Key",
+     "New TextKey: Name of the New Key:", WriteFailure},
+    {"TEX", "Plate", SkinCopy, &Form2::Combo6, &Form2::Command8, &Form2::Command9, "Key",
+     "New TextureKey: Name of the New Key:", WriteFailure},
 };
 
-/// What the user does: adds a name, or removes the entry and answers the question.
-struct Operation {
+/// A name to add, or the answer to the question whether to remove the entry, and the last dialog when it is another.
+struct Refusal {
   const char* act;
-  bool done;
-  const char* refusal = nullptr;
+  const char* asked = nullptr;
 };
 
-const Operation Operations[] = {
-    {"add New one", true},
-    {"add \xff", true},
-    {"add ", false},
-    {"add the entry", false, "Error: %1 already exist!"},
-    {"add a=b", false, "Error: This name can't be used!"},
-    {"add [x", false, "Error: This name can't be used!"},
-    {"add Sea, read-only", false},
-    {"remove Yes", true},
-    {"remove No", false},
-    {"remove Yes, read-only", false},
-    {"remove none", false, ""},
+const Refusal Refusals[] = {
+    {"add "},
+    {"add the entry", "Error: %1 already exist!"},
+    {"add a=b", "Error: This name can't be used!"},
+    {"add [x", "Error: This name can't be used!"},
+    {"add Sea, read-only"},
+    {"remove No"},
+    {"remove Yes, read-only"},
+    {"remove none", ""},
 };
 
 }  // namespace
 
+/// What is added and removed is tested in sessions; here is what isn't.
 class ColourAndKeyEditorsTest : public ProgramTest {
   Q_OBJECT
 
  private:
   QString lastAsked() const { return program->dialogs.asked.isEmpty() ? QString() : program->dialogs.asked.last(); }
+  QString swatch() const { return program->tools().Command2->BackColor().name(); }
 
-  /// Compares how the status begins; an empty one has to be empty. Nothing waits for Save.
-  void compareStatus(const QString& status) const {
-    QCOMPARE(program->status().left(qMax(1, status.size())), status);
-    QVERIFY(!program->state.Changed && !program->enabled(2));
-  }
-
-  /// The colours of the theme in memory, as the file has to hold them.
-  QByteArray colorSection() const {
-    QByteArray section = "[Colors]\r\n";
-    for (const themefiles::NamedColor& row : program->state.ThemeColors) {
-      if (!row.Name.isEmpty()) section += row.Name.toLatin1() + '=' + row.Value.toLatin1() + "\r\n";
+  /// Lists, boxes, colours in memory and all files.
+  QVariantList whole() const {
+    const Form2& tools = program->tools();
+    QStringList all{swatch(), tools.Text2->Text(), tools.Text3->Text()};
+    for (const controls::ComboBox* list : {tools.Combo3, tools.Combo5, tools.Combo6}) {
+      all += entries(*list) + QStringList{list->Text()};
     }
-    return section + "[Loading]\r\n";
+    for (const themefiles::NamedColor& row : program->state.ThemeColors) all += row.Name + u'=' + row.Value;
+    return {all, QVariant::fromValue(game->files()), program->state.Changed, program->enabled(2)};
   }
 
  private Q_SLOTS:
-  void colourButtonsEventByEvent() {
-    Form2& tools = program->tools();
-    // Which of the three buttons are enabled, behind a row of the grid or the choice of a group.
-    const auto states = [&] {
-      QString shown;
-      for (const QWidget* button : std::initializer_list<QWidget*>{tools.Command3, tools.Command2, tools.Command5}) {
-        shown += button->isEnabled() ? u'+' : u'-';
-      }
-      return shown;
-    };
-    const auto row = [&](const char* name) {
-      program->soleRow(u"COLOR"_s, QLatin1StringView(name));
-      return states();
-    };
-    const auto group = [&](int index) {
-      tools.Combo4->setCurrentIndex(index);
-      Q_EMIT tools.Combo4->Click(controls::Cause::User);
-      return states();
-    };
-    QCOMPARE(states(), u"+++"_s);
-    QCOMPARE(row("P2Light"), u"+++"_s);
-    QCOMPARE(swatch(tools), QColor(251, 135, 135));
-    QCOMPARE(tools.Combo3->ListCount(), 18);
-    QCOMPARE(group(1), u"---"_s);
-    QCOMPARE(entries(*tools.Combo3), QStringList({u"ColorDark"_s, u"ColorLight"_s, u"ColorLightest"_s}));
-    QCOMPARE(swatch(tools), QColor(71, 175, 247));  // the scheme Blue
-    QCOMPARE(row("Lost"), u"---"_s);
-    QCOMPARE(swatch(tools), QColor(150, 150, 150));
-    QCOMPARE(tools.Combo4->ListIndex(), 1);
-    QCOMPARE(row("Blue"), u"+-+"_s);
-    QCOMPARE(swatch(tools), QColor(30, 60, 200));
-    QCOMPARE(group(2), u"---"_s);
-    QCOMPARE(group(0), u"+++"_s);
-    QCOMPARE(tools.Combo3->Text(), u"Red"_s);
-    program->form.Combo1->SetText(u"Brown"_s);
-    row("ColorLightest");
-    QCOMPARE(swatch(tools), QColor(229, 204, 165));
-  }
-
-  void addAndRemove_data() {
-    QTest::addColumn<const NameList*>("of");
-    QTest::addColumn<const Operation*>("operation");
-    for (const NameList& list : NameLists) {
-      for (const Operation& operation : Operations) {
-        QTest::addRow("%s: %s", list.key, operation.act) << &list << &operation;
+  void refusals_data() {
+    QTest::addColumn<const Editor*>("editor");
+    QTest::addColumn<const Refusal*>("refusal");
+    for (const Editor& editor : Editors) {
+      for (const Refusal& refusal : Refusals) {
+        QTest::addRow("%s: %s", editor.key, refusal.act) << &editor << &refusal;
       }
     }
   }
-  void addAndRemove() {
-    QFETCH(const NameList*, of);
-    QFETCH(const Operation*, operation);
-    const QByteArray act = operation->act;
+  void refusals() {
+    QFETCH(const Editor*, editor);
+    QFETCH(const Refusal*, refusal);
+    const QByteArray act = refusal->act;
     const bool adds = act.startsWith("add");
     const bool readOnly = act.endsWith("read-only");
-    QString name = text(act.mid(4)).section(u',', 0, 0);
-    if (name == u"the entry") name = text(of->entry).toUpper().replace(u'L', u'l');
     Form2& tools = program->tools();
-    controls::ComboBox& list = *(tools.*of->list);
-    program->soleRow(text(of->key), text(of->entry));
-    if (act == "remove none") list.SetListIndex(-1);
-    if (readOnly) game->setWritable(of->file, false);
-    QString asked = adds ? QString::fromLatin1(of->naming)
-                         : u"Delete %1: Really delete this %1?\n\n%2"_s.arg(text(of->name), text(of->entry));
-    if (operation->refusal != nullptr) asked = text(operation->refusal).replace(u"%1"_s, text(of->name));
-    QString status = operation->done ? text(Kept) : QString();
-    if (readOnly) status = adds ? text(of->addFailure) : u"Error while writing tempfile ["_s;
-    QString shown = list.Text();
-    QString held = of->held(tools);
-    QStringList names = entries(list);
-    QByteArray file = game->read(of->file);
-    if (operation->done && adds) {
-      shown = name;
-      held = text(of->heldByNew);
-      names += name;
-      file.replace(of->lastLine, of->lastLine + QByteArray("\r\n") + name.toLatin1() + '=' + of->value);
-    } else if (operation->done) {
-      shown.clear();
-      held = text(of->heldByNone);
-      names.removeOne(text(of->entry));
-      file.replace(of->line + QByteArray("\r\n"), "");
-    }
+    program->soleRow(text(editor->key), text(editor->entry));
+    if (act == "remove none") (tools.*editor->list)->SetListIndex(-1);
+    if (readOnly) game->setWritable(editor->file, false);
+    const QVariantList before = whole();
     program->form.ShowStatus(QString());
-    program->dialogs.inputs = {name};
-    program->dialogs.boxes = {act.contains("Yes") ? BoxAnswer::Yes : BoxAnswer::No};
-    (tools.*(adds ? of->add : of->remove))->click();
-    QCOMPARE(lastAsked(), asked);
-    QCOMPARE(game->read(of->file), file);
-    QCOMPARE(entries(list), names);
-    QCOMPARE(list.Text(), shown);
-    QCOMPARE(of->held(tools), held);
-    compareStatus(status);
-    QVERIFY(game->read(ThemeCopy).contains(colorSection()));
+    program->dialogs.inputs = {text(act.mid(4)).section(u',', 0, 0)};
+    if (act == "add the entry") program->dialogs.inputs = {text(editor->entry).toUpper().replace(u'L', u'l')};
+    program->dialogs.boxes = {act == "remove No" ? BoxAnswer::No : BoxAnswer::Yes};
+    (tools.*(adds ? editor->add : editor->remove))->click();
+    QCOMPARE(whole(), before);
+    QString asked = adds ? text(editor->naming) : u"Delete %1: Really delete this %1?\n\n"_s + text(editor->entry);
+    if (refusal->asked != nullptr) asked = text(refusal->asked);
+    QCOMPARE(lastAsked(), asked.replace(u"%1"_s, text(editor->kind)));
+    const QString failure = text(adds ? editor->addFailure : WriteFailure);
+    QVERIFY2(readOnly ? program->status().startsWith(failure) : program->status().isEmpty(),
+             qPrintable(program->status()));
   }
 
-  void changeAColour() {
-    const struct {
-      const char* color;
-      bool cancelled, readOnly;
-      const char *asked, *swatch, *status;
-    } rows[] = {{"Red", true, false, "colour: #c82828", "#c82828", ""},
-                {"Red", false, true, "colour: #c82828", "#c82828", "Error while writing tempfile ["},
-                {"P1Dark", false, false, "colour: #47aff7", "#010203", ""},
-                {"", false, false, "", "#47aff7", ""},
-                {"Red", false, false, "colour: #c82828", "#010203", Kept}};
+  void aColourThatCantBeChanged() {
     Form2& tools = program->tools();
-    QByteArray file = game->read(ThemeCopy);
-    for (const auto& row : rows) {
-      program->soleRow(u"COLOR"_s, *row.color == 0 ? u"P1Dark"_s : text(row.color));
-      if (*row.color == 0) tools.Combo3->SetListIndex(-1);
-      game->setWritable(ThemeCopy, !row.readOnly);
-      program->form.ShowStatus(QString());
-      program->dialogs.asked.clear();
-      program->dialogs.colors.clear();
-      if (!row.cancelled) program->dialogs.colors = {QColor(1, 2, 3)};
-      tools.Command2->click();
-      QCOMPARE(lastAsked(), text(row.asked));
-      QCOMPARE(swatch(tools).name(), text(row.swatch));
-      if (row.status == Kept) file.replace("Red=200 40 40", "Red=1 2 3");
-      QCOMPARE(game->read(ThemeCopy), file);
-      QVERIFY(file.contains(colorSection()));
-      compareStatus(text(row.status));
-    }
-  }
-
-  void colourThatCantBeAddedOrRemoved() {
-    Form2& tools = program->tools();
+    program->soleRow(u"COLOR"_s, u"Red"_s);
+    const QVariantList before = whole();
+    tools.Command2->click();  // Cancel
+    QCOMPARE(whole(), before);
+    game->setWritable(ThemeCopy, false);
+    program->dialogs.colors.assign(3, QColor(1, 2, 3));
+    tools.Command2->click();
+    QCOMPARE(lastAsked(), u"colour: #c82828"_s);
+    QCOMPARE(whole(), before);
+    QVERIFY2(program->status().startsWith(text(WriteFailure)), qPrintable(program->status()));
+    game->setWritable(ThemeCopy, true);
+    tools.Combo3->SetListIndex(-1);
+    program->dialogs.asked.clear();
+    tools.Command2->click();
+    QVERIFY(program->dialogs.asked.isEmpty());
+    // One that isn't the theme's: only the swatch.
+    const auto files = game->files();
     program->soleRow(u"COLOR"_s, u"P1Dark"_s);
+    tools.Command2->click();
+    QCOMPARE(lastAsked(), u"colour: #47aff7"_s);
+    QCOMPARE(swatch(), u"#010203"_s);
     program->dialogs.boxes = {BoxAnswer::Yes};
     tools.Command5->click();
     QCOMPARE(lastAsked(), u"Delete Color: Really delete this Color?\n\nP1Dark"_s);
     QCOMPARE(tools.Combo3->Text(), u"P1Dark"_s);
-    QVERIFY(game->read(ThemeCopy).contains(colorSection()));
+    QCOMPARE(game->files(), files);
+  }
+
+  void aFullTableTakesNoColour() {
     program->soleRow(u"COLOR"_s, u"Red"_s);
     for (int i = 2; i < 100; ++i) program->state.ThemeColors.at(i) = {u"C%1"_s.arg(i), u"1 2 3"_s};
+    const QVariantList before = whole();
     program->dialogs.inputs = {u"One more"_s};
-    tools.Command3->click();
+    program->tools().Command3->click();
     QCOMPARE(program->status(), u"Error while adding colors []"_s);
-    QVERIFY(!game->read(ThemeCopy).contains("One more") && tools.Combo3->ListCount() == 2);
+    QCOMPARE(whole(), before);
+  }
+
+  /// Which of Add, Change and Remove are enabled behind a row of the grid or the choice of a group, and the swatch.
+  void colourButtonsEventByEvent() {
+    const Form2& tools = program->tools();
+    const struct {
+      const char* row;  // or a group
+      int group;
+      const char *enabled, *swatch;
+    } events[] = {{"P2Light", 0, "+++", "#fb8787"}, {"", 1, "---", "#47aff7"},  // the scheme Blue
+                  {"Lost", 0, "---", "#969696"},    {"Blue", 0, "+-+", "#1e3cc8"},
+                  {"", 2, "---", "#47aff7"},        {"", 0, "+++", "#c82828"}};
+    for (const auto& event : events) {
+      if (*event.row != 0) {
+        program->soleRow(u"COLOR"_s, text(event.row));
+      } else {
+        tools.Combo4->setCurrentIndex(event.group);
+        Q_EMIT tools.Combo4->Click(controls::Cause::User);
+      }
+      QByteArray enabled;
+      for (const QWidget* button : std::initializer_list<QWidget*>{tools.Command3, tools.Command2, tools.Command5}) {
+        enabled += button->isEnabled() ? '+' : '-';
+      }
+      QCOMPARE(event.row + enabled + ' ' + swatch().toLatin1(),
+               event.row + QByteArray(event.enabled) + ' ' + event.swatch);
+    }
+    const QStringList names[] = {{u"Red"_s, u"Blue"_s}, {u"ColorDark"_s, u"ColorLight"_s, u"ColorLightest"_s}};
+    QCOMPARE(entries(*tools.Combo3), names[0]);
+    program->soleRow(u"COLOR"_s, u"P1Light"_s);
+    QCOMPARE(tools.Combo3->ListCount(), 18);
+    program->form.Combo1->SetText(u"Brown"_s);
+    program->soleRow(u"COLOR"_s, u"ColorLightest"_s);
+    QCOMPARE(entries(*tools.Combo3), names[1]);
+    QCOMPARE(swatch(), u"#e5cca5"_s);
   }
 
   void image() {
