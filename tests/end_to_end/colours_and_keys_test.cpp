@@ -9,6 +9,7 @@ const QByteArray Theme = linesOf(
     "[Colors]|Ink=10 20 30|[Loading]|"
     "[LoadingStaticA]|Tex=Plate|X=100|Y=100|W=40|H=40|Color=Ink|Type=Font Black|"
     "[LoadingTextA]|X=300|Y=300|Font=0|Size=20|Color=Ink|Text=HELLO|");
+const QString Kept = u"Kept in the working copy; the next Update makes Save available"_s;
 const QByteArray Language = linesOf("[Text]|HELLO=Hello|");
 
 }  // namespace
@@ -37,7 +38,7 @@ class ColoursAndKeysTest : public QObject {
     QCOMPARE(tools().Command2->BackColor(), QColor(200, 100, 50));
     QCOMPARE(pixel(), QColor(10, 20, 30));
     QVERIFY(!program->state.Changed && !program->enabled(2));
-    QCOMPARE(program->status(), u"Kept in the working copy; the next Update makes Save available"_s);
+    QCOMPARE(program->status(), Kept);
     press(*tools().Command1);
     QCOMPARE(pixel(), QColor(200, 100, 50));
     QVERIFY(program->state.Changed && program->enabled(2));
@@ -123,6 +124,7 @@ class ColoursAndKeysTest : public QObject {
   void remove(QPushButton* button) const {
     program->dialogs.boxes = {platform::BoxAnswer::Yes};
     press(*button);
+    QCOMPARE(program->status(), Kept);
   }
 
   GameFolder game;
