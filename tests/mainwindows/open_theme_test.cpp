@@ -7,8 +7,6 @@ using namespace support;
 using mainwindows::Form3;
 using platform::BoxAnswer;
 
-using Spoil = void (*)(const GameFolder& game);
-
 namespace {
 
 /// Everything of the program that Open may change.
@@ -19,17 +17,6 @@ QVariantMap whole(const Program& program) {
                                 paths.SkinDirectory, paths.SkinFile,           paths.LanguageFile};
   all[u"colours"_s] = program.state.ThemeColors[0].Name + program.state.ThemeColors[1].Name;
   return all;
-}
-
-template <const QString& Name>
-void remove(const GameFolder& game) {
-  QFile::remove(game.native(Name));
-}
-
-template <const QString& Name>
-void replaceByFolder(const GameFolder& game) {
-  remove<Name>(game);
-  QDir().mkdir(game.native(Name));
 }
 
 }  // namespace
@@ -135,24 +122,20 @@ class OpenThemeTest : public QObject {
   }
 
   void failedCopies_data() {
-    QTest::addColumn<Spoil>("spoil");
-    QTest::newRow("the theme is gone") << Spoil(remove<ThemeFile>);
-    QTest::newRow("the skin is gone") << Spoil(remove<SkinFile>);
-    QTest::newRow("the language is gone") << Spoil(remove<LanguageFile>);
-    QTest::newRow("the skin is a folder") << Spoil(replaceByFolder<SkinFile>);
-    QTest::newRow("a folder in place of the theme's copy") << Spoil(replaceByFolder<ThemeCopy>);
-    QTest::newRow("a folder in place of the skin's copy") << Spoil(replaceByFolder<SkinCopy>);
-    QTest::newRow("a folder in place of the language's copy") << Spoil(replaceByFolder<LanguageCopy>);
-    QTest::newRow("a working copy that may not be written") << Spoil([](const GameFolder& game) {
-      game.write(LanguageCopy, "older");
-      game.setWritable(LanguageCopy, false);
-    });
-    QTest::newRow("no languages") << Spoil(
-        [](const GameFolder& game) { QDir(game.native(u"Languages"_s)).removeRecursively(); });
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("becomes");
+    for (const QString& name : {ThemeFile, SkinFile, LanguageFile, u"Languages"_s}) {
+      QTest::addRow("%s is gone", qPrintable(name)) << name << u"nothing"_s;
+    }
+    for (const QString& name : {SkinFile, ThemeCopy, SkinCopy, LanguageCopy}) {
+      QTest::addRow("%s is a folder", qPrintable(name)) << name << u"a folder"_s;
+    }
+    QTest::newRow("a working copy that may not be written") << LanguageCopy << u"read-only"_s;
   }
   /// The files are spoilt while the dialog is up: with no theme open, and with one open that has changes.
   void failedCopies() {
-    QFETCH(Spoil, spoil);
+    QFETCH(QString, name);
+    QFETCH(QString, becomes);
     for (const bool dirty : {false, true}) {
       const GameFolder game;
       Program program(game);
@@ -164,7 +147,13 @@ class OpenThemeTest : public QObject {
       const QVariantMap before = whole(program);
       QByteArray edited;
       QVERIFY(program.openDialog([&](Form3& dialog) {
-        spoil(game);
+        QDir(game.native(name)).removeRecursively();
+        QFile::remove(game.native(name));
+        if (becomes == u"a folder") QDir().mkdir(game.native(name));
+        if (becomes == u"read-only") {
+          game.write(name, "older");
+          game.setWritable(name, false);
+        }
         edited = game.read(ThemeCopy);
         if (!game.has(u"Languages"_s)) dialog.Combo1->Clear();
         dialog.Command1->click();

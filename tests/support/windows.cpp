@@ -6,19 +6,10 @@
 #include <QTimer>
 
 #include "mainwindows/main_events.h"
-#include "platform/paths.h"
 #include "toolbar/button_values.h"
 
 namespace support {
 namespace {
-
-template <typename Answer>
-Answer next(std::deque<Answer>& answers, Answer without) {
-  if (answers.empty()) return without;
-  const Answer answer = answers.front();
-  answers.pop_front();
-  return answer;
-}
 
 /// The row of the grid that shows the key; -1 when there is none.
 int rowOf(const controls::ListView& grid, const QString& key) {
@@ -47,28 +38,6 @@ constexpr const char* Alpha = R"([Theme]|Name=The Alpha theme|Creator=Ann
 )";
 
 }  // namespace
-
-platform::BoxAnswer ScriptedDialogs::MessageBox(QWidget* /*parent*/, const QString& text, const QString& title,
-                                                platform::BoxKind kind) {
-  asked += title + u": "_s + text;
-  const bool question = kind == platform::BoxKind::YesNoDefaultNo;
-  return question ? next(boxes, platform::BoxAnswer::No) : platform::BoxAnswer::Ok;
-}
-
-QString ScriptedDialogs::InputBox(QWidget* /*parent*/, const QString& prompt, const QString& title) {
-  asked += title + u": "_s + prompt;
-  return next(inputs, QString());
-}
-
-QString ScriptedDialogs::OpenFile(QWidget* /*parent*/, const platform::FileRequest& request) {
-  asked += request.title + u": "_s + request.folder;
-  return next(files, QString());
-}
-
-std::optional<QColor> ScriptedDialogs::ChooseColor(QWidget* /*parent*/, const QColor& present) {
-  asked += u"colour: "_s + present.name();
-  return next(colors, std::optional<QColor>());
-}
 
 GameFolder::GameFolder() {
   for (const char* folder : {"Themes", "Skins/Alpha", "Languages"}) QDir(native({})).mkpath(QLatin1StringView(folder));

@@ -16,16 +16,36 @@ using namespace Qt::StringLiterals;
 class ScriptedDialogs : public platform::Dialogs {
  public:
   std::deque<platform::BoxAnswer> boxes;
-  std::deque<QString> inputs;
-  std::deque<QString> files;
+  std::deque<QString> inputs, files;
   std::deque<std::optional<QColor>> colors;
   QStringList asked;  ///< "title: text" of each dialog
 
-  platform::BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title,
-                                 platform::BoxKind kind) override;
-  QString InputBox(QWidget* parent, const QString& prompt, const QString& title) override;
-  QString OpenFile(QWidget* parent, const platform::FileRequest& request) override;
-  std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) override;
+  platform::BoxAnswer MessageBox(QWidget*, const QString& text, const QString& title, platform::BoxKind kind) override {
+    asked += title + u": "_s + text;
+    const bool question = kind == platform::BoxKind::YesNoDefaultNo;
+    return question ? next(boxes, platform::BoxAnswer::No) : platform::BoxAnswer::Ok;
+  }
+  QString InputBox(QWidget*, const QString& prompt, const QString& title) override {
+    asked += title + u": "_s + prompt;
+    return next(inputs);
+  }
+  QString OpenFile(QWidget*, const platform::FileRequest& request) override {
+    asked += request.title + u": "_s + request.folder;
+    return next(files);
+  }
+  std::optional<QColor> ChooseColor(QWidget*, const QColor& present) override {
+    asked += u"colour: "_s + present.name();
+    return next(colors);
+  }
+
+ private:
+  template <typename Answer>
+  static Answer next(std::deque<Answer>& answers, Answer without = {}) {
+    if (answers.empty()) return without;
+    const Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
 };
 
 /// A game folder of its own in a temporary place; relative paths are written with "/".
