@@ -1,12 +1,12 @@
 #include "endurance/monkey.h"
 
 #include <QApplication>
-#include <QDirIterator>
 #include <QScopeGuard>
 #include <QShortcut>
 
 #include "mainwindows/main_events.h"
 #include "platform/paths.h"
+#include "support/real_input.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
 #include "toolwindow/object_selection.h"
@@ -32,17 +32,6 @@ constexpr std::array<const char*, 11> Answers{"yes",  "no",     "ok",        "a 
                                               "open", "cancel", "no colour", "no name", "no file"};
 constexpr std::array<const char*, 5> Commands{"Open", "Save", "Close", "Background", "end"};
 constexpr std::array<const char*, 6> Frames{"Numbers", "FloatNumbers", "Selection", "Color", "Texture", "Texts"};
-
-void copyFolder(const QString& from, const support::GameFolder& game) {
-  QDirIterator walk(from, QDir::Files, QDirIterator::Subdirectories);
-  while (walk.hasNext()) {
-    const QString source = walk.next();
-    const QString name = QDir(from).relativeFilePath(source);
-    QDir().mkpath(QFileInfo(game.native(name)).path());
-    QFile file(source);
-    if (file.open(QIODevice::ReadOnly)) game.write(name, file.readAll());
-  }
-}
 
 /// A theme with as many colours as the table takes, but for one, and with a section that can't be found again.
 QByteArray crowdedTheme() {
@@ -101,7 +90,7 @@ Monkey::Monkey(quint32 seed) : chance_(seed), dialogs_(chance_, counts_) {
   for (const char* name : Frames) counts_[QLatin1StringView(name)] = 0;
   dialogs_.names =
       QStringList{u"Steel"_s, u"C7"_s, u"steel"_s, u"Plate"_s, u"OKAY"_s, u" odd "_s, u"a=b"_s, u"\u0416"_s};
-  copyFolder(QStringLiteral(SAMPLE_FOLDER), game_);
+  support::copyFolder(QStringLiteral(SAMPLE_FOLDER), game_.native(QString()));
   game_.write(u"Themes/Crowded.ini"_s, crowdedTheme());
   QDir(game_.native(u"Skins"_s)).mkdir(u"Crowded"_s);
   game_.write(u"Skins/Crowded/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");

@@ -91,19 +91,6 @@ class SecondEditorTest : public QObject {
     QVERIFY(game.read(ThemeFile).contains("X=77") && game.read(ThemeFile).contains("W=55"));
   }
 
-  void bothSaveDifferentEdits() {
-    const GameFolder game;
-    Program a(game);
-    a.open();
-    edit(a, "X", "77");
-    const QByteArray edited = game.read(ThemeCopy);
-    game.write(ThemeFile, "[By]\r\nanother=editor\r\n");
-    a.click(2);
-    QCOMPARE(game.read(ThemeFile), edited);
-    QCOMPARE(game.read(ThemeFile + u".bak"_s), "[By]\r\nanother=editor\r\n");
-    QVERIFY2(a.status().contains(u".bak"), qPrintable(a.status()));
-  }
-
   void theWorkingCopiesAreSweptAway() {
     const GameFolder game;
     Program program(game);
