@@ -1,0 +1,159 @@
+#include <cmath>
+
+#include <QFontInfo>
+#include <QTest>
+
+#include "platform/fonts.h"
+#include "platform/raster_pictures.h"
+#include "platform/raster_text.h"
+#include "platform/surface.h"
+#include "support/pictures.h"
+
+using namespace platform;
+using namespace support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QRgb Ground = qRgb(255, 255, 255);
+constexpr QRgb Edge = qRgb(10, 20, 30);
+constexpr QRgb Inside = qRgb(200, 150, 100);
+
+/// A line of letters for each row: # edge, o inside, . untouched.
+QByteArrayList letters(const Raster& raster) {
+  QByteArrayList rows;
+  for (int y = 0; y < raster.Height(); ++y) {
+    QByteArray row;
+    for (int x = 0; x < raster.Width(); ++x) {
+      const QRgb pixel = raster.image().pixel(x, y);
+      row += pixel == Ground ? '.' : pixel == Edge ? '#' : pixel == Inside ? 'o' : '?';
+    }
+    rows << row;
+  }
+  return rows;
+}
+
+QImage picture(const QList<QRgb>& pixels, int width) {
+  QImage image(width, int(pixels.size()) / width, QImage::Format_ARGB32);
+  for (int i = 0; i < pixels.size(); ++i) image.setPixel(i % width, i / width, pixels[i]);
+  return image;
+}
+
+/// A white surface that nothing has been drawn on.
+struct Sheet : Surface {
+  Sheet() {
+    Wipe(Qt::white);
+    TakeDirty();
+  }
+};
+
+}  // namespace
+
+class DrawingTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void pixelRowsKeepTheirBytes() {
+    const QImage bitmap = picture({qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(7, 8, 9), qRgba(9, 9, 9, 0)}, 2);
+    QCOMPARE(GetDIBits(bitmap).Bytes, QByteArray("\x09\x08\x07\0\0\0\0\0\x03\x02\x01\x06\x05\x04\0\0", 16));
+    Raster raster(QSize(6, 4), qRgb(8, 8, 8));
+    StretchDIBits(raster, -1, 0, 4, 4, GetDIBits(bitmap));
+    const QList<QRgb> expected = {qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(4, 5, 6), qRgb(8, 8, 8)};
+    for (int x = 0; x < 4; ++x) QCOMPARE(raster.image().pixel(x, 1), expected[x]);
+  }
+
+  void shapesOfPictures() {
+    const QImage half = picture({qRgba(0, 0, 0, 255), qRgba(0, 0, 0, 128), qRgba(0, 0, 0, 0)}, 3);
+    Raster raster(QSize(5, 3), Ground);
+    PaintSilhouette(raster, half, 3, 1, Edge);
+    PaintSilhouette(raster, half.convertToFormat(QImage::Format_RGB32), 0, 1, Inside);
+    TileRect(raster, 1, 2, 4, 3, picture({Edge, Inside}, 2));
+    QCOMPARE(letters(raster).mid(1), (QByteArrayList{"ooo##", ".#o#."}));
+  }
+
+  void textStandsInItsRectangle() {
+    const QFont font(QStringLiteral("Liberation Sans"), 9);
+    const QString text = QStringLiteral("Hog");
+    for (const auto& [align, left] :
+         {std::pair(TextAlign::Left, 20), std::pair(TextAlign::Center, 120), std::pair(TextAlign::Right, 220)}) {
+      Raster drawn(QSize(300, 40), Ground);
+      DrawText(drawn, font, text, QRect(20, 10, 200 + TextWidth(font, text), 8), Edge, align);
+      Raster printed(QSize(300, 40), Ground);
+      Print(printed, font, text, left, 10, Edge);
+      QVERIFY(printed.image() != drawn.image());  // it is cut at the lower edge
+      printed.FillRect(0, 18, 300, 40, Ground);
+      QCOMPARE(drawn.image(), printed.image());
+    }
+  }
+
+  void stretchedPicturesHaveCleanEdges() {
+    // Its own size; over the corner; the far end of an enormous one; none.
+    for (const QRect& target :
+         {QRect(5, 5, 7, 5), QRect(-50, -20, 300, 100), QRect(-32000, 0, 32767, 3), QRect(10, 10, -5, 20)}) {
+      Sheet surface;
+      surface.DrawImageRect(plainPicture(7, 5, Inside), target.x(), target.y(), target.width(), target.height());
+      const QRect shown = target.isEmpty() ? QRect() : target & surface.image().rect();
+      QCOMPARE(surface.TakeDirty(), shown);
+      QCOMPARE(inkOf(surface.image()), shown);
+      if (!shown.isEmpty()) QVERIFY(inkOf(surface.image().copy(shown), Inside).isNull());
+    }
+  }
+
+  void blendsAndScales() {
+    Sheet surface;
+    QImage picture = plainPicture(3, 1, qRgba(0, 0, 0, 128));
+    picture.setPixel(1, 0, qRgba(1, 2, 3, 255));
+    picture.setPixel(2, 0, qRgba(1, 2, 3, 0));
+    surface.DrawImage(picture, 10, 10);
+    QCOMPARE(qRed(surface.image().pixel(10, 10)), 127);
+    QCOMPARE(surface.image().pixel(11, 10), qRgb(1, 2, 3));
+    QCOMPARE(surface.image().pixel(12, 10), Ground);
+    QImage ramp = plainPicture(2, 1, Ground);
+    ramp.setPixel(0, 0, qRgb(0, 0, 0));
+    surface.DrawImageRect(ramp, 0, 0, 16, 2);
+    for (int x = 0; x < 16; ++x) {
+      const double expected = std::clamp((x + 0.5) / 8 - 0.5, 0.0, 1.0) * 255;
+      QVERIFY(std::abs(qRed(surface.image().pixel(x, 1)) - expected) < 3);
+    }
+  }
+
+  void textStandsAtThePen() {
+    Sheet surface;
+    surface.SetFontName(u"Eurostar Black"_s);
+    surface.SetFontSize(48);
+    surface.CurrentX = 100;
+    surface.CurrentY = 50;
+    surface.Print(u"Hg"_s);
+    const QRect ink = inkOf(surface.image());
+    QVERIFY(surface.TakeDirty().contains(ink));
+    const QRectF cell(100, 50, surface.TextWidth(u"Hg"_s), surface.TextHeight(u"Hg"_s));
+    QVERIFY(cell.adjusted(-3, -3, 3, 3).contains(QRectF(ink)) && ink.height() > cell.height() / 2);
+    // No colour fringes.
+    for (int x = ink.left(); x <= ink.right(); ++x) QVERIFY(qIsGray(surface.image().pixel(x, ink.center().y())));
+  }
+
+  void sizesInWholePixels() {
+    Surface surface;
+    const auto widthAt = [&](float points) {
+      surface.SetFontSize(points);
+      return surface.TextWidth(u"wide words"_s);
+    };
+    QCOMPARE(widthAt(14), widthAt(14.25F));  // 18.67 and 19 pixels
+    QVERIFY(widthAt(13.5F) < widthAt(14));
+  }
+
+  void facesOfTheTexts() {
+    const auto stands = [](const QString& family, const QString& face, bool black = false) {
+      const QFontInfo info(FaceFont(face));
+      const bool machineHasIt = info.family().compare(face, Qt::CaseInsensitive) == 0;
+      return machineHasIt || (info.family() == family && (info.weight() >= QFont::Black) == black);
+    };
+    QVERIFY(stands(u"DejaVu Sans"_s, u"Eurostar Regular Extended"_s));
+    QVERIFY(stands(u"Lato"_s, u"Eurostar Black"_s, true));
+    QVERIFY(stands(u"Liberation Mono"_s, u"Courier New"_s));
+    QVERIFY(stands(u"Liberation Sans"_s, u"No such face at all"_s));
+  }
+};
+
+QTEST_MAIN(DrawingTest)
+#include "drawing_test.moc"
