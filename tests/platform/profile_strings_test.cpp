@@ -31,7 +31,7 @@ class ProfileStringsTest : public QObject {
  private Q_SLOTS:
   void values() {
     const auto valueOfK = [](const QByteArray& file) { return FindProfileValue(file, "S", "k"); };
-    const char* const places[] = {"[S]|[S]|k=v => none", "[S]|[T]|k=v => none", "[S]k=v => none", "S]|k=v => none",
+    const char* const places[] = {"[S]|[S]|k=v => none", "[S]|[T]|k=v => none", "[S]k=v => none", "[S]|k=v|k=w => v",
                                   " \t[ \tS\t ]|k=v => v", "[MyS]|k=v|[S]|k=w => w", "[S]x]|k=v => v",
                                   "[A]|x=[S]|k=w|[S]|k=v => v", ";[S]|k=w|[S]|k=v => v", "[S]| ;k=v => none",
                                   "[R]\nk=u\n[S]\nk=v\nj=w => v", "[R]\rk=u\r[S]\rk=v\rj=w => v",
