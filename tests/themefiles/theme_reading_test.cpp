@@ -1,0 +1,185 @@
+#include <QTest>
+
+#include "support/theme_doubles.h"
+#include "themefiles/colour_tables.h"
+#include "themefiles/screen_table.h"
+#include "themefiles/tag_reader.h"
+
+using namespace themefiles;
+using namespace support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What the readers work on: a theme file, "|" being a line end.
+struct Theme {
+  explicit Theme(const QByteArray& theme) {
+    put(theme);
+    state.Paths.ThemeFile = folder.path(u"a.ini"_s);
+    InitScreenTable(state);
+  }
+  void put(const QByteArray& theme) const { folder.put(u"a.ini"_s, linesOf(theme)); }
+  const NamedColor& color(int row) const { return state.ThemeColors.at(row); }
+  /// What is listed of the screen, joined by "/", and the reports.
+  QString tagsOf(const QString& screen) {
+    ReadTags(state, screen, tags, panel, [] {});
+    return tags.rows.join(u'/') + panel.texts.join(u' ');
+  }
+  /// "item:value" of each row of the section "S", joined by "/".
+  QString rowsOfS() {
+    QStringList rows;
+    for (const ValueRow& row : ReadTag(state, u"S"_s, panel)) rows += row.Item + u':' + row.Value;
+    return rows.join(u'/');
+  }
+  /// Whether there are so many reports, all of the step.
+  bool reported(int count, const QString& step) const {
+    return panel.texts.size() == count &&
+           panel.texts.filter(u"Error while reading "_s + step + u" ["_s).size() == count;
+  }
+
+  Folder folder;
+  ModuleState state;
+  Panel panel;
+  Tags tags;
+};
+
+QByteArray colours(int count) {
+  QByteArray theme = "[Colors]|";
+  for (int i = 1; i <= count; ++i) theme += "c" + QByteArray::number(i) + "=" + QByteArray::number(i) + " 0 0|";
+  return theme;
+}
+
+}  // namespace
+
+class ThemeReadingTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void asManyColoursAsRows() {
+    Theme theme(colours(99));
+    ReadColors(theme.state, theme.panel);
+    QVERIFY(theme.color(98).Name == u"c99" && theme.color(98).Value == u"99 0 0");
+    QVERIFY(theme.color(99).Name.isEmpty() && theme.color(99).Value == u"0 0 0");
+    QCOMPARE(SchemeNames(theme.state).join(u' '), u"Blue Green Pink Red Violet Orange Yellow Brown Black"_s);
+    // A shorter list leaves the rows behind it, none at all leaves every row.
+    for (const char* shorter : {"[Colors]|new=|", "[Color]|a=1 1 1|"}) {
+      theme.put(shorter);
+      ReadColors(theme.state, theme.panel);
+      QVERIFY(theme.color(0).Name == u"new" && theme.color(0).Value.isEmpty());
+      QVERIFY(theme.color(1).Value == u"0 0 0" && theme.color(2).Name == u"c3");
+    }
+    QVERIFY(theme.panel.texts.isEmpty());
+
+    Theme oneTooMany(colours(100));
+    ReadColors(oneTooMany.state, oneTooMany.panel);
+    QVERIFY(oneTooMany.reported(1, u"Colors"_s));
+    QCOMPARE(oneTooMany.color(99).Name, u"c100"_s);
+    QCOMPARE(SchemeNames(oneTooMany.state), QStringList(9, QString()));
+  }
+
+  void colourNames() {
+    Theme theme("[Colors]|Own=1 2 3|P2Dark=0 0 0|Twice=7 8 9|Twice=0 0 0|ColorDark=1 1 1|");
+    ReadColors(theme.state, theme.panel);
+    // Name, scheme, colour.
+    for (const QString& row :
+         {u"/Blue/"_s, u"colorlight/Blue/135 211 251"_s, u"COLORLIGHTEST/Brown/229 204 165"_s,
+          u"ColorDark/Pink/255 175 247"_s, u"ColorLightest/Violet/230 63 230"_s, u"ColorDark/red/"_s, u"p1dark/Blue/"_s,
+          u"P2Dark/Blue/247 71 71"_s, u"Own/Blue/1 2 3"_s, u"own/Blue/"_s, u"Twice/Blue/7 8 9"_s}) {
+      const QStringList parts = row.split(u'/');
+      QVERIFY2(ResolveColor(theme.state, parts[0], parts[1]) == parts[2], qPrintable(row));
+    }
+  }
+
+  void colourNumbers() {
+    const auto number = [](const char* text) { return ColorToRGB(QString::fromLatin1(text)); };
+    QCOMPARE(number("1 2 3 4"), 0x030201);
+    QCOMPARE(number("12.5 13.5 0.5"), 0x000E0C);
+    QCOMPARE(number("x  3"), 0x030000);
+    QCOMPARE(number("32767 32767 32767"), 0x7F7EFF);
+    for (const char* text : {"1 2", "-1 2 3", "1 2 32768"}) QCOMPARE(number(text), 0);
+  }
+
+  void runsOfTags() {
+    // Screen, theme, tags.
+    for (const auto& [screen, theme, listed] : {
+             std::tuple(u"Main Screen"_s, "[Main]|[MainZ]|[Mainb]|[MainA]|[MainButton10]|[MainButton2]",
+                        u"Main/MainA/Mainb/MainButton10/MainButton2/MainZ"_s),
+             {u"Main Screen"_s, "[Theme]|[Song]|[MainA]|[SingX]|[Main]|[Sing] |[Sing]|[MainB]", u"Main/MainA"_s},
+             {u"Main Screen"_s, "[mainA]x|[MAINB] |X=[MainX]|;[MainY]| [MainZ]|[sing]|[MainC", u"Main/mainA]/MAINB]"_s},
+             {u"Song Screen (Party)"_s, "[SongMenu]|[SongStatic]|[SongMenu]|[SongText]", u"SongMenu/SongStatic"_s},
+             {u"Stats Detail"_s, "x|[StatDetail]|[StatDetailA]||[StatMain]|[StatDetailB]", u"StatDetail/StatDetailA"_s},
+             {u"Stat"_s, "[StatMain]|[StatA]|[StatDetail]|[StatB]", u"StatA/StatMain"_s},
+             {u"Check Popup"_s, "[Main]", QString()},
+         }) {
+      QCOMPARE(Theme(theme).tagsOf(screen), listed);
+    }
+  }
+
+  void picksAndFailures() {
+    Theme theme("[Main]|[MainA]|[MainB]|");
+    const auto pickTheSecond = [&] {
+      if (theme.tags.ListCount() == 2) theme.tags.SetListIndex(1);
+    };
+    QCOMPARE(ReadTags(theme.state, u"Main Screen"_s, theme.tags, theme.panel, pickTheSecond), 1);
+    QCOMPARE(theme.tags.ListIndex(), 0);
+    theme.state.Paths.ThemeFile.chop(1);
+    theme.tags.Clear();
+    QCOMPARE(ReadTags(theme.state, u"Main Screen"_s, theme.tags, theme.panel, pickTheSecond), -1);
+    QVERIFY(theme.reported(1, u"Tags"_s) && theme.tags.ListIndex() == -1);
+  }
+
+  void filters() {
+    // The tags with a "-" are left out.
+    for (const auto& [screen, tags] : {
+             std::pair(u"Song Screen (Single)"_s, "SongStaticNonParty SongText -SongStaticParty1 -MySongStaticTeamX"),
+             {u"Song Screen (Party)"_s, "SongStaticParty SongStaticTeam1 -SongStaticNonParty -SongTextNonPartyX"},
+             {u"Score Screen (1 Player)"_s,
+              "Score ScoreStaticBoxLightest1 ScorePlayer1Text ScoreTextName22 -ScoreTextName2 -scoretexttotalscore6 "
+              "-ScorePlayer2TextX -ScorePlayer6Static1 -ScoreStaticLevelRound3"},
+             {u"Score Screen (2 Player)"_s,
+              "ScoreTextScore2 ScorePlayer3Static2 -ScoreTextLineBonus4 -ScoreTextGoldenNotes6 -ScorePlayer1Text"},
+             {u"Score Screen (3 Player)"_s,
+              "ScoreTextTotal5 ScorePlayer4Text -ScoreStaticBackLevel1 -ScoreStaticLevel3 -ScorePlayer3Static"},
+             {u"Sing Screen (1 Player)"_s,
+              "Sing SINGTIMEPROGRESS SingP1SingBar SingText1 SingP1StaticX -SingP1TwoPStatic -SingTimeProgressX"},
+             {u"Sing Screen (2 Player)"_s,
+              "SingP1TwoPSingBar SingP2RSingBar SingP2RStatic2 SingStatic -SingP1SingBar -SingP2MStatic"},
+             {u"Sing Screen (3 Player)"_s,
+              "SingTimeText SingP2MSingBar SingP3SingBar SingP1ThreePStatic SingP3RText -SingP3RSingBar -SingP1Text"},
+             {u"Main Screen"_s, "Main SongStaticParty ScoreTextName2"},
+         }) {
+      for (const QByteArray& tag : QByteArray(tags).split(' ')) {
+        const bool leftOut = tag.startsWith('-');
+        QVERIFY2(SplitTags(FilterOf(screen), QString::fromLatin1(tag.mid(leftOut ? 1 : 0))) == leftOut, tag);
+      }
+    }
+  }
+
+  void rowsOfATag() {
+    for (const auto& [theme, rows] : {
+             std::pair("[T]|a=0|[s]|Tex= b |x=1|Y=|[T]|z=1", u"Tex:b/x:1/Y:"_s),
+             {"[S]|#a=1||;b=2|no sign|c=3| #a=1| [T]=3|d =4", u"c:3/ #a:1/ [T]:3/d :4"_s},
+             {"[S]|\ta\t=\tb\t|a=b=c|d==e|=f", u"\ta\t:\tb\t/a:b/d:/:f"_s},
+             {"[S] |a=1|[S]|b=2|[S]|c=3", u"b:2"_s},
+         }) {
+      QCOMPARE(Theme(theme).rowsOfS(), rows);
+    }
+  }
+
+  void recordOfATag() {
+    Theme theme("[s]|x=1| Y = 2 |W=3|h=4|Text=a=b|SIZE=12.5|Font=1|X= 5|size=13.5|Size=32767.5|Font=256|Font=-1|H=6|");
+    const CursorRecord& record = theme.state.CursorRect;
+    QCOMPARE(theme.rowsOfS().count(u'/'), 12);
+    QCOMPARE(QStringList({record.X, record.Y, record.W, record.H, record.Text}).join(u'/'), u" 5/ 2 /3/6/a"_s);
+    QVERIFY(record.Size == 14 && record.Font == 1);
+    QVERIFY(theme.reported(3, u"Tag"_s));
+    // Of the tag before only the font stays, also where the file is missing.
+    theme.state.Paths.ThemeFile.chop(1);
+    QCOMPARE(theme.rowsOfS(), QString());
+    QVERIFY((record.X + record.Y + record.W + record.H + record.Text).isEmpty() && record.Size == 0);
+    QVERIFY(record.Font == 1 && theme.reported(4, u"Tag"_s));
+  }
+};
+
+QTEST_GUILESS_MAIN(ThemeReadingTest)
+#include "theme_reading_test.moc"
