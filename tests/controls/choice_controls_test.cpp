@@ -1,0 +1,207 @@
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/look.h"
+#include "controls/number_bar.h"
+#include "platform/failure.h"
+
+using namespace controls;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Rows = 30;
+
+/// Both lists with the same thirty rows, a combo box, a number bar, and a widget that can have the focus instead.
+struct Window : QWidget {
+  Window() {
+    ApplyLook(*qApp);
+    list.setGeometry(0, 0, 150, 100);
+    view.setGeometry(150, 0, 150, 100);
+    combo.setGeometry(0, 110, 90, 21);
+    bar.setGeometry(100, 110, 17, 19);
+    neighbour.setFocusPolicy(Qt::StrongFocus);
+    view.SetColumns({u"Item"_s, u"Value"_s}, {63, 87});
+    for (int i = 0; i < Rows; ++i) {
+      list.AddItem(u"%1 row"_s.arg(QChar(u'O' - i / 2)));
+      view.AddRow(list.List(i), u"<b>a long value</b> %1"_s.arg(i));
+    }
+    for (const QString& entry : {u"Main"_s, u"Score"_s, u"Song"_s, u"score"_s}) combo.AddItem(entry);
+    show();
+    activateWindow();
+    if (!QTest::qWaitForWindowActive(this)) qFatal("no active window");
+  }
+
+  ListBox list{ListBox::Order::AsAdded, this};
+  ListView view{this};
+  ComboBox combo{this};
+  NumberBar bar{10000, 5, this};
+  QWidget neighbour{this};
+  QSignalSpy listClicks{&list, &ListBox::Click};
+  QSignalSpy viewClicks{&view, &ListView::ItemClick};
+  QSignalSpy comboClicks{&combo, &ComboBox::Click};
+  QSignalSpy changes{&bar, &NumberBar::Change};
+  /// The selected row and the number of clicks so far, of the one list and of the other.
+  QList<qsizetype> state() const {
+    return {list.ListIndex(), listClicks.size(), view.SelectedRow(), viewClicks.size()};
+  }
+  QPoint listPlace(int row) const { return list.visualItemRect(list.item(row)).center(); }
+  QPoint viewPlace(int row) const { return view.visualItemRect(view.topLevelItem(row)).center(); }
+};
+
+void drag(QWidget* viewport, const QPoint& from, const QPoint& to) {
+  QTest::mousePress(viewport, Qt::LeftButton, {}, from);
+  QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(viewport, &move);
+  QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
+}
+
+void turnWheel(QWidget& widget, int delta) {
+  const QPointF place = widget.rect().center();
+  QWheelEvent event(place, widget.mapToGlobal(place), {}, {0, delta}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                    false);
+  QApplication::sendEvent(&widget, &event);
+}
+
+}  // namespace
+
+class ChoiceControlsTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void sortedRowsKeepTheirSelection() {
+    ListBox box(ListBox::Order::Sorted);
+    for (const char* name : {"b", "Static2", "static1", "_x", "B"}) box.AddItem(QString::fromLatin1(name));
+    box.SetListIndex(0);
+    for (const char* name : {"A", "a", "Static10"}) box.AddItem(QString::fromLatin1(name));
+    QStringList rows;
+    for (int i = 0; i < box.ListCount(); ++i) rows += box.List(i);
+    QCOMPARE(rows.join(u' '), u"A a b B static1 Static10 Static2 _x"_s);
+    QCOMPARE(box.ListIndex(), 2);
+  }
+
+  void writtenIndexFiresEachTime() {
+    Window window;
+    window.list.setFocus(Qt::TabFocusReason);
+    window.view.setFocus(Qt::TabFocusReason);
+    QCOMPARE(window.state(), (QList<qsizetype>{-1, 0, -1, 0}));
+    for (const int row : {3, 3, -1}) window.list.SetListIndex(row);
+    window.view.SelectRow(3);
+    QCOMPARE(window.state(), (QList<qsizetype>{-1, 2, 3, 0}));
+    QCOMPARE(window.listClicks.first().first().value<Cause>(), Cause::Code);
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, window.list.SetListIndex(Rows));
+
+    window.combo.SetListIndex(1);
+    window.combo.SetText(u"score"_s);
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, window.combo.SetText(u"SCORE"_s));
+    QCOMPARE(window.combo.ListIndex(), 3);
+    window.combo.RemoveItem(3);
+    QCOMPARE(window.combo.ListIndex(), -1);
+    QCOMPARE(window.comboClicks.size(), 2);
+  }
+
+  void mousePicksOneRow() {
+    Window window;
+    for (int i = 0; i < 2; ++i) {
+      QTest::mouseClick(window.list.viewport(), Qt::LeftButton, {}, window.listPlace(2));
+      QTest::mouseClick(window.view.viewport(), Qt::LeftButton, Qt::ControlModifier, window.viewPlace(2));
+      QTest::qWait(QApplication::doubleClickInterval() + 1);
+    }
+    QCOMPARE(window.state(), (QList<qsizetype>{2, 2, 2, 2}));
+    drag(window.list.viewport(), window.listPlace(1), window.listPlace(4));
+    drag(window.view.viewport(), window.viewPlace(1), window.viewPlace(4));
+    QCOMPARE(window.state(), (QList<qsizetype>{1, 3, 1, 3}));
+    QCOMPARE(window.listClicks.last().first().value<Cause>(), Cause::User);
+    // The second press of a double click counts only on another row.
+    for (const int row : {1, 2}) {
+      QTest::mouseDClick(window.list.viewport(), Qt::LeftButton, {}, window.listPlace(row));
+      QTest::mouseDClick(window.view.viewport(), Qt::LeftButton, {}, window.viewPlace(row));
+      QCOMPARE(window.state(), (QList<qsizetype>{row, 2 + row, row, 2 + row}));
+    }
+  }
+
+  void keysPick() {
+    // The row before and behind the key, and the clicks; in both lists and in the combo box.
+    const struct {
+      int before;
+      Qt::Key key;
+      int row, clicks, entry, entryClicks;
+    } rows[] = {
+        {-1, Qt::Key_Down, 0, 1, 0, 1}, {0, Qt::Key_Up, 0, 0, 0, 0}, {0, Qt::Key_End, Rows - 1, 1, 3, 1},
+        {-1, Qt::Key_O, 0, 1, -1, 0},   {0, Qt::Key_M, 4, 1, 0, 0},  {0, Qt::Key_S, 0, 0, 1, 1},
+    };
+    for (const auto& row : rows) {
+      Window window;
+      if (row.before >= 0) window.list.setCurrentRow(row.before);
+      window.view.SelectRow(row.before);
+      window.combo.setCurrentIndex(row.before);
+      for (QWidget* widget : {static_cast<QWidget*>(&window.list), static_cast<QWidget*>(&window.view),
+                              static_cast<QWidget*>(&window.combo)}) {
+        widget->setFocus();
+        QTest::keyClick(widget, row.key);
+      }
+      QCOMPARE(window.state(), (QList<qsizetype>{row.row, row.clicks, row.row, row.clicks}));
+      QCOMPARE(window.combo.ListIndex(), row.entry);
+      QCOMPARE(window.comboClicks.size(), row.entryClicks);
+    }
+  }
+
+  void cutValueShowsWholeAsPlainText() {
+    Window window;
+    const QPoint value = window.view.visualRect(window.view.model()->index(0, 1)).center();
+    QHelpEvent event(QEvent::ToolTip, value, window.view.viewport()->mapToGlobal(value));
+    QApplication::sendEvent(window.view.viewport(), &event);
+    QVERIFY(QToolTip::text().contains(u"&lt;b&gt;a long value&lt;/b&gt; 0"_s));
+  }
+
+  void popup() {
+    Window window;
+    for (int i = 0; i < 30; ++i) window.combo.AddItem(QString::number(i));
+    window.combo.setCurrentIndex(1);
+    window.combo.showPopup();
+    const QAbstractItemView& popup = *window.combo.view();
+    QCOMPARE(popup.viewport()->height() / popup.sizeHintForRow(0), 20);
+    // The choice of the selected entry is one as well.
+    const QPoint entry = popup.visualRect(window.combo.model()->index(1, 0)).center();
+    QTest::mouseClick(popup.viewport(), Qt::LeftButton, {}, entry);
+    QCOMPARE(window.comboClicks.size(), 1);
+    QCOMPARE(window.comboClicks.first().first().value<Cause>(), Cause::User);
+  }
+
+  void wheelNeedsTheFocus() {
+    Window window;
+    window.combo.setCurrentIndex(1);
+    const auto turned = [&](QWidget& focused) {
+      focused.setFocus();
+      turnWheel(window.combo, -120);
+      turnWheel(window.bar, 120);
+      return QList<int>{window.combo.ListIndex(), window.bar.Value()};
+    };
+    QCOMPARE(turned(window.neighbour), (QList<int>{1, 5}));
+    QCOMPARE(turned(window.combo), (QList<int>{2, 5}));
+    QCOMPARE(turned(window.bar), (QList<int>{2, 6}));
+  }
+
+  void upRaisesTheNumber() {
+    Window window;
+    QTest::mouseClick(&window.bar, Qt::LeftButton, {}, {8, 3});
+    QTest::keyClick(&window.bar, Qt::Key_Up);
+    QCOMPARE(window.bar.Value(), 7);
+    QTest::mouseClick(&window.bar, Qt::LeftButton, {}, {8, 16});
+    QTest::keyClick(&window.bar, Qt::Key_Down);
+    QCOMPARE(window.bar.Value(), 5);
+    window.bar.SetValueQuietly(32767);
+    QCOMPARE(window.bar.Value(), 10000);
+    QCOMPARE(window.changes.size(), 4);
+  }
+};
+
+QTEST_MAIN(ChoiceControlsTest)
+#include "choice_controls_test.moc"
