@@ -1,0 +1,121 @@
+#include <QTest>
+
+#include "support/row_name.h"
+#include "support/stage.h"
+
+using namespace support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A button of the size of its texture.
+QByteArray button(const QByteArray& name, int x, const QByteArray& keys = {}) {
+  return '[' + name + "]|" + keys + "Tex=Red|Color=P1Dark|DColor=P1Dark|W=8|H=4|Y=100|X=" + QByteArray::number(x) + '|';
+}
+
+/// The tops of the child texts drawn, in order, less the button's top. The keys are those of the selected button.
+QList<int> topsOfTexts(const QByteArray& keys, const QByteArray& tag = "MainButton1") {
+  Stage stage;
+  stage.setTheme('[' + tag + "]|" + keys + "Tex=Red|X=100|Y=50|H=40|[MainButtonZ]|Tex=Red|Y=50|TEXTS=1|");
+  stage.addToTheme('[' + tag + "text1]|X=5|Y=10|Size=10|[" + tag + "TEXT2]|Y=20|Size=10|[" + tag +
+                   "Text3]|X=5|Y=30|Size=10|[MainButtonZTEXT1]|X=5|Y=2000|Size=10|");
+  QList<int> tops;
+  stage.host.yielded = [&] {
+    if (stage.account.Objects.size() == std::size_t(tops.size())) return;
+    tops += qRound(double(stage.surface.CurrentY) - stage.surface.TextHeight({}) / 5 - 50);
+  };
+  stage.draw();
+  return tops;
+}
+
+}  // namespace
+
+class RenderStepsTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void progress() {
+    for (const auto& [tags, percents] : {std::pair(0, u"0%"_s), {3, u"33% 66% 99% 100%"_s}, {8, u"12% 24% 36%"_s}}) {
+      Stage stage;
+      stage.setTheme(QByteArray("[MainText]|").repeated(tags));
+      stage.host.yielded = [&] { QVERIFY(stage.host.barVisible); };
+      stage.draw();
+      QCOMPARE(stage.steps(), tags);
+      QVERIFY(stage.host.percents.join(u' ').startsWith(percents) && !stage.host.barVisible);
+    }
+  }
+
+  void passesByTheWordsOfAName() {
+    // How many passes draw the object, and whether it counts as a button.
+    for (const char* object : {"Main 0 0", "mainSTATICx 1 0", "MainStaticText 2 0", "MainTextures 0 0",
+                               "mainSelectX 1 1", "NameStatic 2 1", "MainButtonText1 0 0", "ScoreTextName1 0 0"}) {
+      const QByteArrayList row = QByteArray(object).split(' ');
+      Stage stage;
+      stage.setTheme('[' + row[0] + "]|Tex=Red|Size=10|");
+      stage.draw();
+      QVERIFY2(stage.steps() == row[1].toInt() && stage.state.ButtonCount == row[2].toInt(), object);
+    }
+  }
+
+  void buttonList() {
+    Stage stage;
+    stage.setTheme("[MainText]|Size=20|[MainButton1]|Tex=Red|DColor=P1Dark|W=5|H=5|[MainButton2]|[MainButton3]|");
+    stage.draw();
+    const QStringList rows{u"Select Button 1"_s, u"Select Button 2"_s, u"Select Button 3"_s};
+    QCOMPARE(stage.host.buttons, rows);
+    QVERIFY(stage.state.ButtonListFilled && stage.host.buttonsVisible && stage.state.SelectedButton == 1);
+    // The pick of the user stands through later drawings, however many buttons there are then.
+    stage.state.SelectedButton = 3;
+    stage.tags.rows.removeLast();
+    stage.draw();
+    QCOMPARE(stage.host.buttons, rows);
+    QVERIFY(stage.host.selections == 1 && stage.state.SelectedButton == 3);
+    // Another screen, without buttons.
+    stage.state.ButtonListFilled = false;
+    stage.setTheme("[MainText]|");
+    stage.draw();
+    QVERIFY(stage.host.buttons.isEmpty() && !stage.host.buttonsVisible && !stage.state.ButtonListFilled);
+  }
+
+  void looksOfAButton() {
+    const QRect place(50, 100, 8, 4);
+    for (const char* keys : {"Visible=False|", "TYPE=Font Black|Tex=Black|DINT=9|"}) compare(keys, place);
+    compare("SelectH=9.5|", QRect(50, 100, 8, 10));
+    compare("SelectH=-1|X=40|W=5|", QRect(40, 100, 8, 4));
+    for (const char* keys : {"Color=|", "TYPE=Font Black|Tex=Black|INT=9|"}) compare(keys, {});
+    compare("Visible=0|", {}, 2, 2);
+    for (const char* keys : {"Tex=|", "H=40000|"}) compare(keys, {}, 3, 2);
+  }
+
+  void childTexts() {
+    // The last button has a text of its own where the first one has fewer than three.
+    QCOMPARE(topsOfTexts("TEXTS=3|"), (QList<int>{10, 30, 2000}));
+    // A grown button shifts the next text that is drawn, its own or another's.
+    QCOMPARE(topsOfTexts("TEXTS=3|SelectH=60|"), (QList<int>{30, 30, 2000}));
+    QCOMPARE(topsOfTexts("SelectH=60|"), (QList<int>{2020}));
+    QCOMPARE(topsOfTexts("TEXTS=1|SelectH=60|", "MainButtonCollection"), (QList<int>{10, 2000}));
+  }
+
+ private:
+  /// Draws three buttons of which the second one has the keys and is the selected one.
+  static void compare(const QByteArray& keys, const QRect& ink, int count = 3, int steps = 3) {
+    const RowName name(keys);
+    Stage stage;
+    stage.setTheme(button("MainButton1", 0) + button("MainButton2", 50, keys) +
+                   button("MainButton3", 90, "SelectH=9|"));
+    stage.state.ButtonListFilled = true;
+    stage.state.SelectedButton = 2;
+    stage.draw();
+    const QImage& shown = stage.surface.image();
+    QCOMPARE(inkOf(shown.copy(0, 0, 20, 600)), QRect(0, 100, 8, 4));
+    QCOMPARE(inkOf(shown.copy(20, 0, 70, 600)), ink.translated(ink.isEmpty() ? 0 : -20, 0));
+    QCOMPARE(inkOf(shown.copy(90, 0, 10, 600)).height(), count == 2 ? 9 : 4);
+    QCOMPARE(int(stage.state.ButtonCount), count);
+    QCOMPARE(stage.steps(), steps);
+    const QString head = u"Error while Draw Screen [MainButton2: "_s;
+    QCOMPARE(stage.panel.texts.filter(head).size(), keys.contains("40000") ? 1 : 0);
+  }
+};
+
+QTEST_MAIN(RenderStepsTest)
+#include "render_steps_test.moc"
