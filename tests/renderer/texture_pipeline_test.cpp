@@ -84,7 +84,7 @@ class TexturePipelineTest : public QObject {
       }
     }
     for (const char* color : {"255 0 0", "0 255 0", "0 0 255", "71 175 247", "230 230 95", "1 0 2", "128 128 128",
-                              "300 -20 1000.5", "250 3 4", "255 127.5 0", "0 255 255", "255 0 255", "220 9 99"}) {
+                              "300 -20 1000.5", "3 9 18", "255 127.5 0", "100000 50000.1 0", "0 255 255", "220 9 99"}) {
       const RowName name(color);
       const QByteArrayList fields = QByteArray(color).split(' ');
       const double hue = shadeOf(fields[0].toDouble(), fields[1].toDouble(), fields[2].toDouble()).h;
