@@ -1,6 +1,7 @@
 #include "progressbar/accessible_progress_bar.h"
 
 #include <QAccessibleWidget>
+#include <QWidget>
 
 namespace progressbar {
 namespace {
