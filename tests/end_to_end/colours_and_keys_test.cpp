@@ -20,9 +20,9 @@ class ColoursAndKeysTest : public QObject {
 
  private Q_SLOTS:
   void initTestCase() {
-    game.write(ThemeFile, Theme);
-    game.write(SkinFile, "[Textures]\r\nPlate=ink.png\r\n");
-    game.write(LanguageFile, Language);
+    game.put(ThemeFile, Theme);
+    game.put(SkinFile, "[Textures]\r\nPlate=ink.png\r\n");
+    game.put(LanguageFile, Language);
     game.addPicture("ink.png", Qt::black);
     game.addPicture("paper.png", Qt::white);
     program = std::make_unique<Program>(game);
@@ -34,7 +34,7 @@ class ColoursAndKeysTest : public QObject {
     pick("LoadingStaticA", "Color");
     program->dialogs.colors = {QColor(200, 100, 50)};
     press(*tools().Command2);
-    QVERIFY(game.read(ThemeCopy).contains("Ink=200 100 50\r\n"));
+    QVERIFY(game.get(ThemeCopy).contains("Ink=200 100 50\r\n"));
     QCOMPARE(tools().Command2->BackColor(), QColor(200, 100, 50));
     QCOMPARE(pixel(), QColor(10, 20, 30));
     QVERIFY(!program->state.Changed && !program->enabled(2));
@@ -48,7 +48,7 @@ class ColoursAndKeysTest : public QObject {
     pick("LoadingStaticA", "Color");
     program->dialogs.inputs = {u"Leaf"_s};
     press(*tools().Command3);
-    QVERIFY(game.read(ThemeCopy).startsWith("[Colors]\r\nInk=200 100 50\r\nLeaf=150 150 150\r\n[Loading]"));
+    QVERIFY(game.get(ThemeCopy).startsWith("[Colors]\r\nInk=200 100 50\r\nLeaf=150 150 150\r\n[Loading]"));
     QCOMPARE(shown(tools().Combo3), u"Ink,Leaf: Leaf"_s);
     QCOMPARE(tools().Command2->BackColor(), QColor(150, 150, 150));
     press(*tools().Command1);
@@ -57,7 +57,7 @@ class ColoursAndKeysTest : public QObject {
     QCOMPARE(shown(tools().Combo3), u"Ink: "_s);
     QCOMPARE(tools().Command2->BackColor(), QColor(212, 208, 200));
     QVERIFY(program->state.ThemeColors[1].Name.isEmpty());
-    QVERIFY(!game.read(ThemeCopy).contains("Leaf=") && game.read(ThemeCopy).contains("Color=Leaf\r\n"));
+    QVERIFY(!game.get(ThemeCopy).contains("Leaf=") && game.get(ThemeCopy).contains("Color=Leaf\r\n"));
   }
 
   void newWords() {
@@ -65,15 +65,15 @@ class ColoursAndKeysTest : public QObject {
     pick("LoadingTextA", "Text");
     program->dialogs.inputs = {u"GREETING"_s};
     press(*tools().Command6);
-    QCOMPARE(game.read(LanguageCopy), Language + "GREETING=\r\n");
+    QCOMPARE(game.get(LanguageCopy), Language + "GREETING=\r\n");
     QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO,GREETING: GREETING"_s);
     type(*tools().Text2, "Good evening");
     press(*tools().Command1);
-    QCOMPARE(game.read(LanguageCopy), Language + "GREETING=Good evening\r\n");
-    QVERIFY(game.read(ThemeCopy).contains("Text=GREETING\r\n"));
+    QCOMPARE(game.get(LanguageCopy), Language + "GREETING=Good evening\r\n");
+    QVERIFY(game.get(ThemeCopy).contains("Text=GREETING\r\n"));
     QVERIFY(program->picture() != before);
     remove(tools().Command7);
-    QCOMPARE(game.read(LanguageCopy), Language);
+    QCOMPARE(game.get(LanguageCopy), Language);
     QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO: "_s);
   }
 
@@ -88,10 +88,10 @@ class ColoursAndKeysTest : public QObject {
     QCOMPARE(tools().Text3->Text(), u"paper.png"_s);
     QCOMPARE(pixel(), QColor(200, 100, 50));
     press(*tools().Command1);
-    QVERIFY(game.read(SkinCopy).contains("Plate=paper.png\r\n"));
+    QVERIFY(game.get(SkinCopy).contains("Plate=paper.png\r\n"));
     QCOMPARE(pixel(), QColor(Qt::white));
     remove(tools().Command9);
-    QCOMPARE(game.read(SkinCopy), "[Textures]\r\n");
+    QCOMPARE(game.get(SkinCopy), "[Textures]\r\n");
     QCOMPARE(shown(tools().Combo6) + tools().Text3->Text(), u": "_s);
   }
 
@@ -102,12 +102,12 @@ class ColoursAndKeysTest : public QObject {
     program->dialogs.files = {game.path() + u"Skins\\Alpha\\ink.png"_s};
     press(*tools().Command4);
     press(*tools().Command1);
-    QCOMPARE(game.read(SkinCopy), "[Textures]\r\nFr\xff=ink.png\r\n");
-    QVERIFY(game.read(ThemeCopy).contains("Tex=Fr\xff\r\n"));
+    QCOMPARE(game.get(SkinCopy), "[Textures]\r\nFr\xff=ink.png\r\n");
+    QVERIFY(game.get(ThemeCopy).contains("Tex=Fr\xff\r\n"));
     QCOMPARE(pixel(), QColor(200, 100, 50));
   }
 
-  void nothingReachedTheGamesFiles() { QCOMPARE(game.read(ThemeFile), Theme); }
+  void nothingReachedTheGamesFiles() { QCOMPARE(game.get(ThemeFile), Theme); }
 
  private:
   Form2& tools() const { return program->tools(); }

@@ -70,7 +70,7 @@ class KeyboardSessionTest : public QObject {
 
  private Q_SLOTS:
   void openToSaveWithoutAMouse() {
-    copyFolder(QStringLiteral(SAMPLE_FOLDER), game.native(QString()));
+    game.copySample();
     Program program(game);
     mainwindows::Form1& form = program.form;
     MouseCounter mouse;

@@ -120,8 +120,8 @@ class PixelsOnScreenTest : public QObject {
     int number = 10;
     for (const Case& row : Cases) theme += "[LoadingStatic" + QByteArray::number(number++) + "]|" + row.keys + "|";
     theme += "[LoadingStaticScaled]|Tex=Blocks|X=100|Y=300|W=40|H=20|Color=Any|";
-    game.write(ThemeFile, linesOf(theme));
-    game.write(SkinFile, linesOf("[Textures]|Patch=patch.png|Faint=faint.png|Strip=strip.png|Blocks=blocks.bmp|"));
+    game.put(ThemeFile, linesOf(theme));
+    game.put(SkinFile, linesOf("[Textures]|Patch=patch.png|Faint=faint.png|Strip=strip.png|Blocks=blocks.bmp|"));
     save("patch.png", pictureOf(patch, 16, 12));
     save("faint.png", pictureOf(faint, 16, 12));
     save("strip.png", pictureOf(patch, 4, 40));

@@ -19,8 +19,8 @@ class PreviewTest : public QObject {
 
  private Q_SLOTS:
   void init() {
-    game.write(u"Themes/Alpha.ini"_s, Theme);
-    game.write(u"Skins/Alpha/One.ini"_s, "[Textures]\nInk=ink.png\n");
+    game.put(u"Themes/Alpha.ini"_s, Theme);
+    game.put(u"Skins/Alpha/One.ini"_s, "[Textures]\nInk=ink.png\n");
     game.addPicture("ink.png", Qt::black);
     program = std::make_unique<Program>(game);
     openOnScreen(*program);

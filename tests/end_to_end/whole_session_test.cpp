@@ -61,7 +61,7 @@ class WholeSessionTest : public QObject {
 
  private Q_SLOTS:
   void initTestCase() {
-    copyFolder(QStringLiteral(SAMPLE_FOLDER), game.native(QString()));
+    game.copySample();
     program = std::make_unique<Program>(game);
     QVERIFY(QTest::qWaitForWindowExposed(&program->form));
   }

@@ -109,7 +109,7 @@ void putBack(const GameFolder& game, const QMap<QString, QByteArray>& files) {
   for (const QString& name : game.files().keys()) {
     if (!files.contains(name)) QFile::remove(game.native(name));
   }
-  for (const auto& [name, bytes] : files.asKeyValueRange()) game.write(name, bytes);
+  for (const auto& [name, bytes] : files.asKeyValueRange()) game.put(name, bytes);
 }
 
 }  // namespace
@@ -161,11 +161,11 @@ class FileFailuresTest : public QObject {
     add("remove a key", writing, editor("LoadingStaticA", "Tex"), press("Command9"));
     const auto meddled = [](Program& program, const GameFolder& game) {
       edited(program, game);
-      game.write(u"Themes/Alpha.ini"_s, "[By]\r\nanother=hand\r\n");
+      game.put(u"Themes/Alpha.ini"_s, "[By]\r\nanother=hand\r\n");
     };
     add("save", "Error while saving files [", meddled, save);
     const auto crashed = [](Program&, const GameFolder& game) {
-      for (const QString& copy : {support::ThemeCopy, support::LanguageCopy}) game.write(copy, "[Left]\r\nby=a crash");
+      for (const QString& copy : {support::ThemeCopy, support::LanguageCopy}) game.put(copy, "[Left]\r\nby=a crash");
     };
     add("open", copying, crashed, open);
     add("open again", copying, edited, open);

@@ -1,12 +1,10 @@
 #include "endurance/monkey.h"
 
-#include <QApplication>
 #include <QScopeGuard>
 #include <QShortcut>
 
 #include "mainwindows/main_events.h"
 #include "platform/paths.h"
-#include "support/real_input.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
 #include "toolwindow/object_selection.h"
@@ -90,10 +88,10 @@ Monkey::Monkey(quint32 seed) : chance_(seed), dialogs_(chance_, counts_) {
   for (const char* name : Frames) counts_[QLatin1StringView(name)] = 0;
   dialogs_.names =
       QStringList{u"Steel"_s, u"C7"_s, u"steel"_s, u"Plate"_s, u"OKAY"_s, u" odd "_s, u"a=b"_s, u"\u0416"_s};
-  support::copyFolder(QStringLiteral(SAMPLE_FOLDER), game_.native(QString()));
-  game_.write(u"Themes/Crowded.ini"_s, crowdedTheme());
+  game_.copySample();
+  game_.put(u"Themes/Crowded.ini"_s, crowdedTheme());
   QDir(game_.native(u"Skins"_s)).mkdir(u"Crowded"_s);
-  game_.write(u"Skins/Crowded/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");
+  game_.put(u"Skins/Crowded/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");
   QFile(noThemes_.filePath(u"Vocora.exe"_s)).open(QIODevice::WriteOnly);
   expected_ = game_.files();
   dialogDriver_.callOnTimeout([this] { answerOpenDialog(); });
@@ -146,9 +144,9 @@ void Monkey::noteSave() {
   for (const QString& copy : {state_.Paths.ThemeFile, state_.Paths.SkinFile, state_.Paths.LanguageFile}) {
     const QString native = platform::NativePath(copy).chopped(4);
     const QString name = QDir(game_.native(QString())).relativeFilePath(native);
-    const QByteArray bytes = game_.read(name);
+    const QByteArray bytes = game_.get(name);
     if (bytes == expected_[name]) continue;
-    require(bytes == game_.read(name + u".tmp"_s), name + u" isn't its working copy"_s);
+    require(bytes == game_.get(name + u".tmp"_s), name + u" isn't its working copy"_s);
     expected_[name] = bytes;
   }
 }
@@ -214,7 +212,7 @@ void Monkey::check() {
     require(opened == form_->ToolBar->GetButtonValue(button, 2).toBool(), u"buttons of an open theme"_s);
   }
   for (const auto& [name, bytes] : expected_.asKeyValueRange()) {
-    if (name.endsWith(u".ini")) require(game_.read(name) == bytes, name + u" has changed without a Save"_s);
+    if (name.endsWith(u".ini")) require(game_.get(name) == bytes, name + u" has changed without a Save"_s);
   }
   if (!opened) return;
   checkColors();

@@ -266,11 +266,11 @@ void Monkey::protectFiles() {
     const QString copy = name + u".tmp"_s;
     if (name.endsWith(u".ini")) names += game_.has(copy) && chance_.one(2) ? copy : name;
   }
-  for (const QString& name : names) game_.setWritable(name, false);
+  for (const QString& name : names) game_.protect(name);
   if (chance_.one(2)) rowOf(toolwindow::KeyGroup::WholeNumber);
   update();
   click(*form_->ToolBar, QPoint(chance_.one(3) ? 16 : 48, 16));
-  for (const QString& name : names) game_.setWritable(name, true);
+  for (const QString& name : names) game_.protect(name, false);
 }
 
 void Monkey::loseFolder() {

@@ -26,7 +26,7 @@ void edit(Program& program, const char* key, const char* value) {
 /// A theme whose first screen has something to report when it is drawn, which must not hide a word about kept files.
 void spoil(const GameFolder& game) {
   const QByteArray beyond = "[LoadingStaticBeyond]\r\nTex=Plate\r\nColor=Red\r\nX=40000\r\n[Main]\r\n";
-  game.write(ThemeFile, game.read(ThemeFile).replace("[Main]\r\n", beyond));
+  game.put(ThemeFile, game.get(ThemeFile).replace("[Main]\r\n", beyond));
 }
 
 }  // namespace
@@ -43,20 +43,20 @@ class SecondEditorTest : public QObject {
     Program b(game);
     a.open();
     edit(a, "X", "77");
-    const QByteArray edited = game.read(ThemeCopy);
+    const QByteArray edited = game.get(ThemeCopy);
     b.open();
-    QCOMPARE(game.read(Kept), edited);
+    QCOMPARE(game.get(Kept), edited);
     QVERIFY2(b.status().contains(u".tmp.old"), qPrintable(b.status()));
     // A second Open of the other one takes the place of what the first one kept.
     edit(b, "W", "55");
     b.dialogs.boxes = {BoxAnswer::Yes};
     b.open();
-    QVERIFY(game.read(Kept) != edited);
+    QVERIFY(game.get(Kept) != edited);
 
     edit(a, "Y", "88");
     QVERIFY2(a.status().contains(u"another program") && a.status().contains(u".tmp.old"), qPrintable(a.status()));
-    QCOMPARE(game.read(Kept), edited);
-    QVERIFY(game.read(ThemeCopy).contains("Y=88") && !game.read(ThemeCopy).contains("X=77"));
+    QCOMPARE(game.get(Kept), edited);
+    QVERIFY(game.get(ThemeCopy).contains("Y=88") && !game.get(ThemeCopy).contains("X=77"));
     edit(a, "Y", "89");
     QVERIFY2(!a.status().contains(u"another program"), qPrintable(a.status()));
   }
@@ -79,16 +79,16 @@ class SecondEditorTest : public QObject {
     a.open();
     b.open();
     edit(a, "X", "77");
-    const QByteArray edited = game.read(ThemeCopy);
+    const QByteArray edited = game.get(ThemeCopy);
     edit(b, "W", "55");
     QVERIFY2(!b.status().contains(u"another program"), "it had no edits of its own");
     act(a);
     QVERIFY2(a.status().contains(u"another program"), qPrintable(a.status()));
-    QCOMPARE(game.read(Kept), edited);
+    QCOMPARE(game.get(Kept), edited);
     a.click(2);
-    QVERIFY(game.read(ThemeFile).contains("X=77") && game.read(ThemeFile).contains("W=55"));
+    QVERIFY(game.get(ThemeFile).contains("X=77") && game.get(ThemeFile).contains("W=55"));
     b.click(2);
-    QVERIFY(game.read(ThemeFile).contains("X=77") && game.read(ThemeFile).contains("W=55"));
+    QVERIFY(game.get(ThemeFile).contains("X=77") && game.get(ThemeFile).contains("W=55"));
   }
 
   void theWorkingCopiesAreSweptAway() {
@@ -96,22 +96,22 @@ class SecondEditorTest : public QObject {
     Program program(game);
     program.open();
     edit(program, "X", "77");
-    const QByteArray edited = game.read(ThemeCopy);
+    const QByteArray edited = game.get(ThemeCopy);
     program.row(u"Y"_s);
     QVERIFY(QFile::remove(game.native(ThemeCopy)));
     program.tools().Text1->SetText(u"88"_s);
     program.tools().Command1->click();
     QVERIFY2(program.status().contains(u"made anew"), qPrintable(program.status()));
-    QCOMPARE(game.read(ThemeCopy).size(), edited.size());
+    QCOMPARE(game.get(ThemeCopy).size(), edited.size());
     for (const QString& copy : {ThemeCopy, support::SkinCopy, support::LanguageCopy}) QFile::remove(game.native(copy));
     program.click(2);
     QVERIFY(program.status().contains(u"made anew") && !program.state.Changed);
-    QVERIFY(game.read(ThemeFile).contains("X=77") && game.read(ThemeFile).contains("Y=88"));
+    QVERIFY(game.get(ThemeFile).contains("X=77") && game.get(ThemeFile).contains("Y=88"));
   }
 
   void oneRowForOneLineOfColour() {
     const GameFolder game;
-    game.write(ThemeFile, game.read(ThemeFile).replace("Red=200 40 40", "Red=200 40 40\r\nRed=9 9 9"));
+    game.put(ThemeFile, game.get(ThemeFile).replace("Red=200 40 40", "Red=200 40 40\r\nRed=9 9 9"));
     Program program(game);
     program.open();
     program.tag(u"LoadingStaticA"_s);

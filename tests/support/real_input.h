@@ -1,9 +1,6 @@
 #pragma once
 
 #include <QAbstractItemView>
-#include <QDirIterator>
-#include <QTest>
-#include <QTimer>
 
 #include "support/windows.h"
 
@@ -79,18 +76,6 @@ inline void open(Program& program, const char* theme, const char* skin, Qt::Key 
   });
   toolBar(program, 1);
   if (program.form.ToolWindow == nullptr || !QTest::qWaitForWindowExposed(program.form.ToolWindow)) qFatal("not open");
-}
-
-inline void copyFolder(const QString& from, const QString& to) {
-  QDirIterator walk(from, QDir::Files, QDirIterator::Subdirectories);
-  while (walk.hasNext()) {
-    const QString source = walk.next();
-    const QString target = QDir(to).filePath(QDir(from).relativeFilePath(source));
-    QDir().mkpath(QFileInfo(target).path());
-    QFile::remove(target);
-    if (!QFile::copy(source, target)) qFatal("%s", qPrintable(target));
-    QFile::setPermissions(target, QFile::permissions(target) | QFileDevice::WriteOwner);
-  }
 }
 
 }  // namespace support

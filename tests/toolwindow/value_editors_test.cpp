@@ -1,0 +1,210 @@
+#include "support/row_name.h"
+#include "support/windows.h"
+
+using namespace support;
+using toolwindow::Form2;
+
+using Act = void (*)(Program& program);
+
+namespace {
+
+const QString Static = u"LoadingStaticA"_s;
+
+/// Name of the editor frame on show; "none", or both names of two.
+QString shownFrame(const Form2& form) {
+  QStringList shown;
+  for (const QWidget* frame : {form.Numbers, form.FloatNumbers, form.Selection, form.Color, form.Texture, form.Texts}) {
+    if (!frame->isHidden()) shown += frame->objectName();
+  }
+  return shown.isEmpty() ? u"none"_s : shown.join(u'+');
+}
+
+/// What the editor on show holds: the parts of its frame.
+QString shownValue(const Form2& form) {
+  const QString frame = shownFrame(form);
+  if (frame == u"Numbers") return form.Text1->Text();
+  if (frame == u"FloatNumbers") return form.Text4->Text();
+  if (frame == u"Selection") return form.Combo2->Text();
+  if (frame == u"Texts") return form.Combo5->Text() + u'|' + form.Text2->Text();
+  if (frame == u"Texture") return form.Combo6->Text() + u'|' + form.Text3->Text();
+  if (frame == u"Color") return form.Combo4->Text() + u'|' + form.Combo3->Text();
+  return frame;
+}
+
+const std::pair<const char*, Act> Refusals[] = {
+    {"no row", [](Program& p) { p.tools().ListView1->SelectRow(-1); }},
+    {"no such choice", [](Program& p) { p.soleRow(u"TYPE"_s, u"plain"_s); }},
+    {"no such texture", [](Program& p) { p.soleRow(u"TEX"_s, u"Lost"_s); }},
+    {"no object", [](Program& p) { p.tools().List1->SetListIndex(-1); }},
+    {"outside the code page",
+     [](Program& p) {
+       p.soleRow(u"TEXT"_s, u"GO"_s);
+       p.tools().Text2->SetText(u"\u4e2d"_s);
+     }},
+    {"a section with a bracket",
+     [](Program& p) {
+       p.screen(u"Level Screen"_s);
+       p.tag(u"LevelStatic]x"_s);
+       p.row(u"X"_s);
+     }},
+};
+
+}  // namespace
+
+/// What the editors show of a value of the grid, and what Update makes of it.
+class ValueEditorsTest : public ProgramTest {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void frames() {
+    const std::pair<const char*, const char*> frames[] = {
+        {"Numbers",
+         "X Y SIZE W H PIECEW PIECEH SPACE BANDS LENGTH REFLECTIONSPACING DESELECTREFLECTIONSPACING SELECTH SELECTW "
+         "FADETEXPOS FIRSTCHILD TEXTS PARENT STYLE STATICS SKIPX"},
+        {"Selection", "ALIGN FONT VISIBLE REFLECTION FADE FADETEXT REFLECTIONS DIRECTION TYPE"},
+        {"Texts", "TEXT"},
+        {"Color", "COLOR DCOLOR TCOLOR TDCOLOR SBGCOLOR SBGDCOLOR STCOLOR STDCOLOR"},
+        {"Texture", "TEX FADETEX SBGTEX TEXSBG"},
+        {"FloatNumbers", "Z TEXX1 TEXY1 TEXX2 TEXY2 INT DINT"},
+        {"none", "COLR COLG COLB TEXT1 TEXX STATIC S"}};
+    for (const auto& [frame, keys] : frames) {
+      for (const QString& key : QString::fromLatin1(keys).split(u' ')) {
+        program->soleRow(u' ' + key.toLower() + u"  "_s, u"0"_s);
+        QVERIFY2(shownFrame(program->tools()) == QLatin1StringView(frame), qPrintable(key));
+      }
+    }
+  }
+
+  void values() {
+    const struct {
+      const char *key, *value, *shown;
+    } rows[] = {{"ALIGN", "2", "2 = Right"},
+                {"ALIGN", "3", "none"},
+                {"FONT", "", "0 = Normal"},
+                {"FONT", "3", "3 = Bold with dark Outline"},
+                {"FONT", "0.5", "0 = Normal"},
+                {"FONT", "1.5", "2 = Bold with Outline"},
+                {"FADE", "word", "0 = False"},
+                {"FADE", "2", "none"},
+                {"FADE", "1", "1 = True"},
+                {"DIRECTION", "0", "0 = Left to Right"},
+                {"FONT", "40000", "none"},
+                {"DIRECTION", "1", "1 = Bottom to Top"},
+                {"TYPE", "font black", ""},
+                {"TYPE", "Transparent", "Transparent"},
+                {"TEXT", "hello", "|"},
+                {"TEXT", "HELLO", "HELLO|Hello there"},
+                {"TEX", "Plate", "Plate|plate.png"},
+                {"SBGTEX", "Missing", "|"},
+                {"COLOR", "blue", "|"},
+                {"COLOR", "Blue", "Theme|Blue"},
+                {"COLOR", "P6Dark", "Player|P6Dark"},
+                {"COLOR", "ColorLight", "Program|ColorLight"},
+                {"INT", "1.250", "1.250"}};
+    for (const auto& [key, value, shown] : rows) {
+      const RowName name(QByteArray(key) + '=' + value);
+      program->soleRow(u"TYPE"_s, u"Plain"_s);  // what the choices held before
+      program->form.ShowStatus(QString());
+      program->soleRow(QLatin1StringView(key), QLatin1StringView(value));
+      QCOMPARE(shownValue(program->tools()), QLatin1StringView(shown));
+      const bool failed = shownFrame(program->tools()) == u"none";
+      QCOMPARE(program->status().startsWith(u"Error while reading Value ["), failed);
+      QVERIFY(program->state.EditorShown && !program->state.Changed);
+      QCOMPARE(program->value(QLatin1StringView(key)), QLatin1StringView(value));
+    }
+  }
+
+  void numbers() {
+    const struct {
+      int bar;
+      const char *text, *shown;
+      int barAfter;
+    } rows[] = {{5, "12.5", "12", 12},        {5, "13.5", "14", 14},  {5, "-20", "0", 0},
+                {5, "word", "0", 0},          {0, "word", "word", 0}, {120, "120.2", "120.2", 120},
+                {5, "10001", "10001", 10000}, {5, "-10001", "0", 0}};
+    Form2& tools = program->tools();
+    for (const auto& [bar, text, shown, barAfter] : rows) {
+      tools.VScroll1->SetValueQuietly(bar);
+      program->soleRow(u"X"_s, QLatin1StringView(text));
+      QCOMPARE(tools.Text1->Text(), QLatin1StringView(shown));
+      QCOMPARE(tools.VScroll1->Value(), barAfter);
+    }
+    tools.VScroll1->SetValue(9999);
+    QCOMPARE(tools.Text1->Text(), u"9999"_s);
+    tools.Text1->selectAll();
+    QTest::keyClicks(tools.Text1, u"1a-2.3"_s);
+    QCOMPARE(tools.Text1->Text(), u"123"_s);
+    QCOMPARE(tools.VScroll1->Value(), 123);
+    program->soleRow(u"Z"_s, QString());
+    QTest::keyClicks(tools.Text4, u"-1.2,.3e"_s);
+    QCOMPARE(tools.Text4->Text(), u"1.2.3"_s);
+  }
+
+  // 15 twips a pixel: 3105, 3835 and 4235 twips less the frame's 360.
+  void windowFollowsTheEditor() {
+    const Form2& tools = program->tools();
+    const QRect lists = tools.List1->geometry();
+    for (const auto& [key, height] : {std::pair{"X", 232}, {"TEXT", 258}, {"ColR", 183}, {"Z", 232}, {"", 183}}) {
+      *key == 0 ? program->tag(Static) : program->soleRow(QLatin1StringView(key), u"1"_s);
+      settle();
+      QCOMPARE(tools.height(), height);
+      QVERIFY(tools.Command1->isVisible() == (height > 183) && program->state.EditorShown == (height > 183));
+      QCOMPARE(tools.List1->geometry(), lists);
+    }
+  }
+
+  void update() {
+    const Form2& tools = program->tools();
+    program->tag(Static);
+    auto files = game->files();
+    for (const auto& [key, before, after] : {std::tuple{u"Z"_s, "Z=0.25", "Z=1.5."}, {u"ColR"_s, "", ""}}) {
+      program->row(key);  // the second has no editor: nothing is written, the rest happens
+      tools.Text4->SetText(u"1.5."_s);
+      files[ThemeCopy].replace(before, after);
+      program->state.ProgressStep = 77;
+      program->state.Changed = false;
+      program->form.EnableButton(2, false);
+      tools.Command1->click();
+      QCOMPARE(game->files(), files);
+      QVERIFY2(program->state.Changed && program->enabled(2) && program->state.ProgressStep != 77, "not drawn");
+      QCOMPARE(program->state.EditorShown, *before != 0);
+      QCOMPARE(tools.focusWidget(), tools.ListView1);
+    }
+    QCOMPARE(program->value(u"Z"_s) + program->value(u"ColR"_s), u"1.5.0.5"_s);
+  }
+
+  void refusals() {
+    const auto files = game->files();
+    for (const auto& [name, prepare] : Refusals) {
+      const RowName rowName(name);
+      program->tag(Static);
+      program->row(u"X"_s);
+      prepare(*program);
+      program->form.ShowStatus(QString());
+      program->state.ProgressStep = 77;
+      program->tools().Command1->click();
+      QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
+      QCOMPARE(game->files(), files);
+      QVERIFY(!program->state.Changed && !program->enabled(2));
+      QVERIFY2(program->state.ProgressStep == 77, "drawn");
+    }
+  }
+
+  void theMarkFollowsFiveKeys() {
+    const mainwindows::Workspace& preview = *program->form.Workspace;
+    program->tag(Static);
+    QCOMPARE(preview.Mark(), QRectF(40, 50, 100, 60));
+    program->change(u"X"_s, u"45"_s);
+    program->change(u"W"_s, u"120"_s);
+    QCOMPARE(preview.Mark(), QRectF(45, 50, 120, 60));
+    program->tag(u"LoadingTextFree"_s);
+    const double line = preview.Mark().height();
+    for (const char* size : {"24", "70000"}) {  // the second is none for the mark
+      program->change(u"Size"_s, QLatin1StringView(size));
+      QVERIFY(line > 12 && preview.Mark().width() == 0 && qAbs(preview.Mark().height() - 2 * line) < 6);
+    }
+  }
+};
+
+QTEST_MAIN(ValueEditorsTest)
+#include "value_editors_test.moc"
