@@ -122,8 +122,6 @@ class ColourAndKeyEditorsTest : public ProgramTest {
       QCOMPARE(event.row + enabled + ' ' + swatch().toLatin1(),
                event.row + QByteArray(event.enabled) + ' ' + event.swatch);
     }
-    program->soleRow(u"COLOR"_s, u"P1Light"_s);
-    QCOMPARE(tools.Combo3->ListCount(), 18);
     program->form.Combo1->SetText(u"Brown"_s);
     program->soleRow(u"COLOR"_s, u"ColorLightest"_s);
     QCOMPARE(entries(*tools.Combo3), QStringList({u"ColorDark"_s, u"ColorLight"_s, u"ColorLightest"_s}));
@@ -132,19 +130,14 @@ class ColourAndKeyEditorsTest : public ProgramTest {
 
   void image() {
     const QString folder = game->path() + u"Skins\\Alpha"_s;
-    const struct {
-      const char *chosen, *shown;  // the first in the game folder
-      bool refused;
-    } rows[] = {{"Skins\\\\alpha\\back.png", "back.png", false}, {"Skins\\Alpha\\sub\\x.png", "plate.png", true}};
-    for (const auto& [chosen, shown, refused] : rows) {
-      program->soleRow(u"TEX"_s, u"Plate"_s);
-      program->dialogs.asked.clear();
-      program->dialogs.files = {game->path() + text(chosen)};
-      program->tools().Command4->click();
-      QCOMPARE(program->tools().Text3->Text(), QLatin1StringView(shown));
-      QVERIFY(program->dialogs.asked.first().endsWith(folder));
-      QCOMPARE(program->dialogs.asked.last() == u"Error: Image must be in "_s + folder, refused);
-    }
+    program->soleRow(u"TEX"_s, u"Plate"_s);
+    program->dialogs.files = {folder + u"\\sub\\x.png"_s, game->path() + u"Skins\\\\alpha\\back.png"_s};
+    program->tools().Command4->click();
+    QCOMPARE(program->tools().Text3->Text(), u"plate.png"_s);
+    QVERIFY(program->dialogs.asked.first().endsWith(folder));
+    QCOMPARE(program->dialogs.asked.last(), u"Error: Image must be in "_s + folder);
+    program->tools().Command4->click();
+    QCOMPARE(program->tools().Text3->Text(), u"back.png"_s);
   }
 };
 

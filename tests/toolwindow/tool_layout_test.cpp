@@ -70,8 +70,6 @@ class ToolLayoutTest : public QObject {
         {7000, 5000, false,
          "Combo1 width 6890, List1 width 3390, List1 height 4280, ListView1 left 3420, ListView1 width 3460, "
          "ListView1 height 4280, Frame1 top 4670, Frame1 width 5900, Command1 top 4760"},
-        {4000, 700, false,
-         "Combo1 width 3890, List1 width 1890, List1 height 2385, ListView1 left 2867.5, Frame1 width 4795"},
         {5000, 3835, true,
          "Combo1 width 5785, Frame1 top 2745, List1 height 2385, Frame1 width 3900, List1 width 2390, "
          "ListView1 left 2420, ListView1 width 2460, Command1 left 4000, Numbers width 3730, Combo2 width 3430, "
