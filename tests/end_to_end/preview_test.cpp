@@ -1,50 +1,45 @@
 #include "support/real_input.h"
 
-using namespace Qt::StringLiterals;
 using namespace support;
+using toolwindow::Form2;
 
 namespace {
 
 const QByteArray Theme = linesOf(
-    "[Colors]|On=250 0 0|Off=0 0 250|[Loading]|"
-    "[LoadingButtonA]|Tex=Ink|X=100|Y=100|W=100|H=40|SelectH=60|Color=On|DColor=Off|Type=Font Black|INT=1|DINT=1|"
-    "[LoadingButtonB]|Tex=Ink|X=100|Y=200|W=100|H=40|SelectH=60|Color=On|DColor=Off|Type=Font Black|INT=1|DINT=1|"
+    "[Colors]|Ink=10 20 30|On=250 0 0|Off=0 0 250|[Loading]|"
+    "[LoadingButtonA]|Tex=Plate|X=100|Y=100|W=100|H=40|SelectH=60|Color=On|DColor=Off|Type=Font Black|INT=1|DINT=1|"
+    "[LoadingButtonB]|Tex=Plate|X=100|Y=200|W=100|H=40|SelectH=60|Color=On|DColor=Off|Type=Font Black|INT=1|DINT=1|"
+    "[LoadingStaticA]|Tex=Plate|X=300|Y=100|W=40|H=40|Color=Ink|Type=Font Black|"
     "[LoadingStaticLost]|Tex=Nothing|X=1|Y=1|W=9|H=9|Color=On|"
-    "[LoadingStaticUnder]|Tex=Ink|X=110|Y=110|W=20|H=20|Color=Off|");
+    "[LoadingStaticUnder]|Tex=Plate|X=110|Y=110|W=20|H=20|Color=Off|"
+    "[LoadingTextA]|X=300|Y=300|Font=0|Size=20|Color=Ink|Text=HELLO|");
+const QByteArray Language = linesOf("[Text]|HELLO=Hello|");
+const QString Kept = u"Kept in the working copy; the next Update makes Save available"_s;
 
 }  // namespace
 
+/// One session: what is picked in the preview and the lists, then colours and keys that are added, used and removed.
 class PreviewTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void init() {
-    game.put(u"Themes/Alpha.ini"_s, Theme);
-    game.put(u"Skins/Alpha/One.ini"_s, "[Textures]\nInk=ink.png\n");
+  void initTestCase() {
+    game.put(ThemeFile, Theme);
+    game.put(SkinFile, "[Textures]\r\nPlate=ink.png\r\n");
+    game.put(LanguageFile, Language);
     game.addPicture("ink.png", Qt::black);
+    game.addPicture("paper.png", Qt::white);
     program = std::make_unique<Program>(game);
     openOnScreen(*program);
   }
-  void cleanup() { program.reset(); }
-
-  void selectedButton() {
-    QCOMPARE(pixel(150, 150), qRgb(250, 0, 0));
-    QCOMPARE(pixel(150, 220), qRgb(0, 0, 250));
-    pickEntry(*program->form.Combo2, 1);
-    settle();
-    QCOMPARE(program->state.SelectedButton, quint8(2));
-    QCOMPARE(pixel(150, 120), qRgb(0, 0, 250));
-    QCOMPARE(pixel(150, 150), qRgb(255, 255, 255));
-    QCOMPARE(pixel(150, 250), qRgb(250, 0, 0));
-    QCOMPARE(program->form.Combo2->ListCount(), 2);
-  }
+  void cleanupTestCase() { program.reset(); }
 
   void markOnThePickedObject() {
-    pickNamed(*program->tools().List1, "LoadingButtonB");
+    pickNamed(*tools().List1, "LoadingButtonB");
     QCOMPARE(program->form.Workspace->Mark(), QRectF(100, 200, 100, 40));
-    QTRY_COMPARE(screenPixel(100, 200), qRgb(0xC0, 0, 0));
-    QTRY_COMPARE(screenPixel(199, 239), qRgb(0xFF, 0x80, 0x80));
-    QCOMPARE(pixel(100, 200), qRgb(0, 0, 250));
+    QTRY_COMPARE(screenPixel(100, 200), QColor(0xC0, 0, 0));
+    QTRY_COMPARE(screenPixel(199, 239), QColor(0xFF, 0x80, 0x80));
+    QCOMPARE(pixel(100, 200), QColor(0, 0, 250));
   }
 
   void objectUnderTheMouse() {
@@ -54,22 +49,124 @@ class PreviewTest : public QObject {
                                                      {{600, 400}, "LoadingButtonA"}};
     for (const auto& [place, object] : clicks) {
       clickAt(*program->form.Workspace, place);
-      QCOMPARE(program->tools().List1->Text(), QLatin1StringView(object));
-      QCOMPARE(program->value(u"W"_s), program->tools().List1->Text().endsWith(u"Under") ? u"20"_s : u"100"_s);
+      QCOMPARE(tools().List1->Text(), QLatin1StringView(object));
+      QCOMPARE(program->value(u"W"_s), tools().List1->Text().endsWith(u"Under") ? u"20"_s : u"100"_s);
+    }
+    const QString reason = u"texture 'Nothing' has no entry in the skin"_s;
+    for (const auto* row : tools().List1->findItems(u"Loading"_s, Qt::MatchStartsWith)) {
+      QCOMPARE(row->toolTip().contains(reason), row->text().endsWith(u"Lost"));
     }
   }
 
-  void reasonOnTheRow() {
-    const auto rows = program->tools().List1->findItems(u"LoadingStatic"_s, Qt::MatchStartsWith);
-    QVERIFY(rows[0]->toolTip().contains(u"texture 'Nothing' has no entry in the skin"_s));
-    QCOMPARE(rows[1]->toolTip(), QString());
+  void selectedButton() {
+    QCOMPARE(pixel(150, 150), QColor(250, 0, 0));
+    QCOMPARE(pixel(150, 220), QColor(0, 0, 250));
+    pickEntry(*program->form.Combo2, 1);
+    settle();
+    QCOMPARE(program->state.SelectedButton, quint8(2));
+    QCOMPARE(pixel(150, 120), QColor(0, 0, 250));
+    QCOMPARE(pixel(150, 150), QColor(Qt::white));
+    QCOMPARE(pixel(150, 250), QColor(250, 0, 0));
+  }
+
+  void colourFollowsAtTheNextCommit() {
+    pick("LoadingStaticA", "Color");
+    program->dialogs.colors = {QColor(200, 100, 50)};
+    press(*tools().Command2);
+    QVERIFY(game.get(ThemeCopy).contains("Ink=200 100 50\r\n"));
+    QCOMPARE(tools().Command2->BackColor(), QColor(200, 100, 50));
+    QCOMPARE(pixel(), QColor(10, 20, 30));
+    QVERIFY(!program->state.Changed && !program->enabled(2));
+    QCOMPARE(program->status(), Kept);
+    press(*tools().Command1);
+    QCOMPARE(pixel(), QColor(200, 100, 50));
+    QVERIFY(program->state.Changed && program->enabled(2));
+  }
+
+  void newColour() {
+    pick("LoadingStaticA", "Color");
+    program->dialogs.inputs = {u"Leaf"_s};
+    press(*tools().Command3);
+    QVERIFY(game.get(ThemeCopy).contains("\r\nOff=0 0 250\r\nLeaf=150 150 150\r\n[Loading]"));
+    QCOMPARE(shown(tools().Combo3), u"Ink,On,Off,Leaf: Leaf"_s);
+    QCOMPARE(tools().Command2->BackColor(), QColor(150, 150, 150));
+    press(*tools().Command1);
+    QCOMPARE(pixel(), QColor(150, 150, 150));
+    remove(tools().Command5);
+    QCOMPARE(shown(tools().Combo3), u"Ink,On,Off: "_s);
+    QCOMPARE(tools().Command2->BackColor(), QColor(212, 208, 200));
+    QVERIFY(program->state.ThemeColors[3].Name.isEmpty());
+    QVERIFY(!game.get(ThemeCopy).contains("Leaf=") && game.get(ThemeCopy).contains("Color=Leaf\r\n"));
+  }
+
+  void newWords() {
+    const QImage before = program->picture();
+    pick("LoadingTextA", "Text");
+    program->dialogs.inputs = {u"GREETING"_s};
+    press(*tools().Command6);
+    QCOMPARE(game.get(LanguageCopy), Language + "GREETING=\r\n");
+    QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO,GREETING: GREETING"_s);
+    type(*tools().Text2, "Good evening");
+    press(*tools().Command1);
+    QCOMPARE(game.get(LanguageCopy), Language + "GREETING=Good evening\r\n");
+    QVERIFY(game.get(ThemeCopy).contains("Text=GREETING\r\n"));
+    QVERIFY(program->picture() != before);
+    remove(tools().Command7);
+    QCOMPARE(game.get(LanguageCopy), Language);
+    QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO: "_s);
+  }
+
+  void anotherImage() {
+    pick("LoadingStaticA", "Color");
+    pickEntry(*tools().Combo4, 0);
+    press(*tools().Command1);
+    QCOMPARE(pixel(), QColor(200, 100, 50));
+    pick("LoadingStaticA", "Tex");
+    program->dialogs.files = {game.path() + u"Skins\\Alpha\\paper.png"_s};
+    press(*tools().Command4);
+    QCOMPARE(tools().Text3->Text(), u"paper.png"_s);
+    QCOMPARE(pixel(), QColor(200, 100, 50));
+    press(*tools().Command1);
+    QVERIFY(game.get(SkinCopy).contains("Plate=paper.png\r\n"));
+    QCOMPARE(pixel(), QColor(Qt::white));
+    remove(tools().Command9);
+    QCOMPARE(game.get(SkinCopy), "[Textures]\r\n");
+    QCOMPARE(shown(tools().Combo6) + tools().Text3->Text(), u": "_s);
+  }
+
+  void newTexture() {
+    program->dialogs.inputs = {u"Fr\u00ff"_s};
+    press(*tools().Command8);
+    QCOMPARE(shown(tools().Combo6) + tools().Text3->Text(), u"Fr\u00ff: Fr\u00ff"_s);
+    program->dialogs.files = {game.path() + u"Skins\\Alpha\\ink.png"_s};
+    press(*tools().Command4);
+    press(*tools().Command1);
+    QCOMPARE(game.get(SkinCopy), "[Textures]\r\nFr\xff=ink.png\r\n");
+    QVERIFY(game.get(ThemeCopy).contains("Tex=Fr\xff\r\n"));
+    QCOMPARE(pixel(), QColor(200, 100, 50));
+    QCOMPARE(game.get(ThemeFile), Theme);
   }
 
  private:
-  QRgb pixel(int x, int y) const { return program->picture().pixel(x, y); }
-  QRgb screenPixel(int x, int y) const {
+  Form2& tools() const { return program->tools(); }
+  QColor pixel(int x = 320, int y = 120) const { return program->picture().pixelColor(x, y); }
+  QColor screenPixel(int x, int y) const {
     const QPoint place = program->form.Workspace->mapToGlobal(QPoint(x, y));
-    return program->form.screen()->grabWindow(0, place.x(), place.y(), 1, 1).toImage().pixel(0, 0) | 0xFF000000;
+    return program->form.screen()->grabWindow(0, place.x(), place.y(), 1, 1).toImage().pixelColor(0, 0).rgb();
+  }
+
+  /// The entries of a list, and the one that is chosen.
+  static QString shown(const controls::ComboBox* list) { return entries(*list).join(u',') + u": "_s + list->Text(); }
+
+  void pick(const char* object, const char* key) const {
+    pickNamed(*tools().List1, object);
+    pickNamed(*tools().ListView1, key);
+  }
+
+  void remove(QPushButton* button) const {
+    program->dialogs.boxes = {platform::BoxAnswer::Yes};
+    press(*button);
+    QCOMPARE(program->status(), Kept);
   }
 
   GameFolder game;

@@ -5,16 +5,13 @@
 namespace support {
 
 /// While a test walks a table: names the row on which it failed.
-class RowName {
- public:
-  explicit RowName(QByteArray name) : name_(std::move(name)) {}
+struct RowName {
+  explicit RowName(QByteArray row) : name(std::move(row)) {}
   ~RowName() {
-    if (QTest::currentTestFailed()) qWarning("in row '%s'", name_.constData());
+    if (QTest::currentTestFailed()) qWarning("in row '%s'", name.constData());
   }
   Q_DISABLE_COPY_MOVE(RowName)
-
- private:
-  QByteArray name_;
+  QByteArray name;
 };
 
 }  // namespace support

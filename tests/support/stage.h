@@ -19,7 +19,6 @@ class Host : public renderer::RenderHost {
   void SetProgressVisible(bool visible) override { barVisible = visible; }
   void Refresh() override { ++refreshes; }
   void Yield() override {
-    ++yields;
     if (yielded) yielded();
   }
   void FillButtonList(const QStringList& rows) override { buttons = rows; }
@@ -31,7 +30,7 @@ class Host : public renderer::RenderHost {
   QString screen = QStringLiteral("Main Screen");
   std::function<void()> yielded;
   QStringList percents, buttons;
-  int progress = 50, refreshes = 0, yields = 0, selections = 0;
+  int progress = 50, refreshes = 0, selections = 0;
   bool barVisible = false, buttonsVisible = true;
 };
 

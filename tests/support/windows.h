@@ -115,8 +115,7 @@ class GameFolder : public Folder {
   QMap<QString, QByteArray> files() const {
     QMap<QString, QByteArray> all;
     const QDir folder(native({}));
-    QDirIterator walk(folder.path(), QDir::Files, QDirIterator::Subdirectories);
-    while (walk.hasNext()) {
+    for (QDirIterator walk(folder.path(), QDir::Files, QDirIterator::Subdirectories); walk.hasNext();) {
       const QString name = folder.relativeFilePath(walk.next());
       all[name] = get(name);
     }
@@ -186,11 +185,9 @@ class Program {
     click(1);
     return up;
   }
-  /// Opens the theme by name, with its first skin and English.
-  void open(const QString& theme = u"Alpha"_s) {
-    openDialog([&](mainwindows::Form3& dialog) {
-      const auto found = dialog.List1->findItems(theme, Qt::MatchExactly);
-      if (!found.isEmpty()) dialog.List1->SetListIndex(dialog.List1->row(found.first()));
+  /// Opens the first theme, Alpha, with its first skin and English.
+  void open() {
+    openDialog([](mainwindows::Form3& dialog) {
       dialog.Command1->click();
       if (dialog.isVisible()) dialog.reject();
     });
