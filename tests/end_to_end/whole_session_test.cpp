@@ -78,7 +78,6 @@ class WholeSessionTest : public QObject {
       QVERIFY2(picture != std::exchange(pictureBefore, picture), qPrintable(name));
       QVERIFY2(!program->status().startsWith(u"Error"), qPrintable(name + program->status()));
       QCOMPARE(program->form.Combo2->isVisible(), program->state.ButtonCount > 0);
-      QVERIFY(program->form.ProgressBar1->isHidden());
       key(tools, Qt::Key_Down);
     }
     QVERIFY(program->state.ThemeOpened && !program->state.Changed);

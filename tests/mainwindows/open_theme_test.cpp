@@ -116,8 +116,10 @@ class OpenThemeTest : public QObject {
                                                 {u"Languages"_s, u"gone"_s},   {SkinFile, u"a folder"_s},
                                                 {ThemeCopy, u"a folder"_s},    {SkinCopy, u"a folder"_s},
                                                 {LanguageCopy, u"a folder"_s}, {LanguageCopy, u"read-only"_s}};
-    for (const auto& [name, becomes] : rows) {
-      const RowName row(name.toLatin1() + ' ' + becomes.toLatin1());
+    for (const auto& row : rows) {
+      const QString& name = row.first;
+      const QString& becomes = row.second;
+      const RowName rowName((name + u' ' + becomes).toLatin1());
       for (const bool dirty : {false, true}) {
         const GameFolder game;
         Program program(game);

@@ -65,16 +65,14 @@ inline void openOnScreen(Program& program) {
 
 /// Opens a theme with the mouse and the keyboard.
 inline void open(Program& program, const char* theme, const char* skin, Qt::Key language) {
-  QTimer::singleShot(0, &program.form, [=] {
-    auto* dialog = qobject_cast<mainwindows::Form3*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !QTest::qWaitForWindowExposed(dialog)) qFatal("no dialog");
-    pickNamed(*dialog->List1, theme);
-    pickNamed(*dialog->List2, skin);
-    dialog->Combo1->setFocus();
-    key(*dialog, language);
-    press(*dialog->Command1);
+  program.openDialog([=](mainwindows::Form3& dialog) {
+    if (!QTest::qWaitForWindowExposed(&dialog)) qFatal("no dialog");
+    pickNamed(*dialog.List1, theme);
+    pickNamed(*dialog.List2, skin);
+    dialog.Combo1->setFocus();
+    key(dialog, language);
+    press(*dialog.Command1);
   });
-  toolBar(program, 1);
   if (program.form.ToolWindow == nullptr || !QTest::qWaitForWindowExposed(program.form.ToolWindow)) qFatal("not open");
 }
 
