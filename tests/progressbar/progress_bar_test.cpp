@@ -1,5 +1,6 @@
 #include "progressbar/progress_bar.h"
 
+#include <QAccessible>
 #include <QTest>
 
 #include "platform/property_bag_bytes.h"
@@ -215,6 +216,9 @@ class ProgressBarTest : public QObject {
     ProgressBar bar;
     ReadProperties(bar, bagOf({{"value", 700}, {"MIN", 300}, {"Theme", QStringLiteral("blue")}, {"max", 900}}));
     QCOMPARE((QList<int>{bar.min(), bar.max(), bar.Value()}), (QList<int>{300, 900, 700}));
+    const QAccessibleValueInterface& seen = *QAccessible::queryAccessibleInterface(&bar)->valueInterface();
+    QCOMPARE((QVariantList{seen.minimumValue(), seen.maximumValue(), seen.currentValue()}),
+             (QVariantList{300, 900, 700}));
     ReadProperties(bar, bagOf({{"Max", 3000000000U}, {"value", 7}}));
     QCOMPARE(bar.Value(), 7);
   }
