@@ -1,33 +1,27 @@
 #include "controls/frame_pacer.h"
 
+#include <chrono>
 #include <utility>
 
 namespace controls {
 namespace {
 
-constexpr int FrameTime = 16;  // ms
+using namespace std::chrono_literals;
+
+constexpr auto FrameTime = 16ms;
 
 }  // namespace
 
-FramePacer::FramePacer(std::function<void()> present) : present_(std::move(present)) {
-  rest_.setSingleShot(true);
-  rest_.setTimerType(Qt::PreciseTimer);
-  rest_.callOnTimeout([this] { presentNow(); });
+FramePacer::FramePacer(std::function<void()> present) {
+  next_.setSingleShot(true);
+  next_.setTimerType(Qt::PreciseTimer);
+  next_.callOnTimeout(std::move(present));
 }
 
 void FramePacer::Request() {
-  if (rest_.isActive()) return;
-  const qint64 past = sinceLast_.isValid() ? sinceLast_.elapsed() : FrameTime;
-  if (past < FrameTime) {
-    rest_.start(static_cast<int>(FrameTime - past));
-  } else {
-    presentNow();
-  }
-}
-
-void FramePacer::presentNow() {
-  sinceLast_.start();
-  present_();
+  if (next_.isActive()) return;
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  next_.start(FrameTime - std::chrono::duration_cast<std::chrono::milliseconds>(now) % FrameTime);
 }
 
 }  // namespace controls

@@ -11,7 +11,11 @@
 
 namespace progressbar {
 
-ProgressBar::ProgressBar(QWidget* parent) : QWidget(parent), pacer_([this] { update(); }) {
+ProgressBar::ProgressBar(QWidget* parent)
+    : QWidget(parent), pacer_([this] {
+        setUpdatesEnabled(true);
+        update();
+      }) {
   InstallAccessibility();
   InitProperties();
 }
@@ -103,6 +107,13 @@ void ProgressBar::InitProperties() {
   SetTextStyle(3);
   SetOrientations(1);
   SetTextFont(AmbientFont());
+}
+
+/// Showing is a change as any other: what it uncovers and covers is painted in the next frame.
+void ProgressBar::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  setUpdatesEnabled(false);
+  pacer_.Request();
 }
 
 void ProgressBar::paintEvent(QPaintEvent* /*event*/) {

@@ -70,6 +70,7 @@ class ProgressBar : public QWidget, public AccessibleSource {
   void PropertyChanged(const QString& key);
 
  protected:
+  void showEvent(QShowEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

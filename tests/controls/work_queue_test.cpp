@@ -73,19 +73,19 @@ class WorkQueueTest : public QObject {
     QCOMPARE(logOf(u"d"_s, 2, u"n"_s), u"d...Dxd...DXx"_s);
   }
 
-  void aBurstIsShownFrameByFrameToItsEnd() {
+  void aBurstShowsItsLastStepInTheNextFrame() {
     int step = 0;
     QList<int> shown;
     controls::FramePacer pacer([&] { shown << step; });
-    for (const QDeadlineTimer end(5000); shown.size() < 5 && !end.hasExpired(); QCoreApplication::processEvents()) {
-      ++step;
+    while (++step < 100) pacer.Request();
+    QTRY_COMPARE(shown, QList<int>{100});
+    // Work that never rests is shown all the same.
+    for (const QDeadlineTimer end(5000); shown.size() < 4 && !end.hasExpired(); ++step) {
       pacer.Request();
+      QCoreApplication::processEvents();
     }
-    QCOMPARE(shown.size(), 5);
-    QVERIFY(shown.first() == 1 && shown.last() > 10);
-    ++step;
-    pacer.Request();
-    QTRY_COMPARE(shown.last(), step);
+    QCOMPARE(shown.size(), 4);
+    QVERIFY(step > 104);
   }
 };
 

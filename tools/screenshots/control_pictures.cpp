@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 
 #include "platform/failure.h"
 
@@ -17,6 +18,7 @@ constexpr QRect ButtonsOfStrip(0, 0, 160, 32);
 constexpr QRect ProgressArea(0, 0, 800, 80);
 constexpr QPoint Outside(400, 300);
 constexpr int FirstYield = 3;  // something of the screen is drawn by then
+constexpr int FrameTime = 40;  // ms, enough for the screen to show what has changed
 
 void send(QWidget& widget, QEvent::Type type, const QPoint& place, Qt::MouseButtons held) {
   const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
@@ -32,6 +34,12 @@ void sendKey(QWidget& widget, Qt::Key key) {
 void sendFocus(QWidget& widget, QEvent::Type type) {
   QFocusEvent event(type, Qt::TabFocusReason);
   QApplication::sendEvent(&widget, &event);
+}
+
+void awaitFrame() {
+  QEventLoop loop;
+  QTimer::singleShot(FrameTime, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 QPoint middleOf(int button) {
@@ -96,6 +104,7 @@ void ControlPictures::ShowProgress(const std::function<void()>& render) const {
     const int present = bar.Value();
     bar.SetValue(percent);
     bar.SetText(QStringLiteral("%1%").arg(percent));
+    awaitFrame();
     save_(form_.Client->grab(ProgressArea), QStringLiteral("progress-%1").arg(percent));
     bar.SetValue(present);
     bar.SetText(QStringLiteral("%1%").arg(present));
