@@ -31,6 +31,14 @@ const QByteArray Gif = QByteArray::fromHex(
     "474946383961 0200020081 0000 ff000000ff000000ffffffff 2c000000000200020000 02 03443405 00 21f904000a000000"
     "2c000000000200020000 02 03040005 00 3b");
 
+/// A bitmap of 6 x 2 pixels in two colours, of 8 bits in runs.
+QByteArray runs(const char* codes) {
+  return QByteArray::fromHex(
+             "424D 00000000 00000000 3E000000  28000000 06000000 02000000 0100 0800 01000000 00000000 00000000 00000000"
+             "02000000 00000000  00000000 FFFFFF00") +
+         QByteArray::fromHex(codes);
+}
+
 /// Whether the file is a picture of this program's format, and none as soon as more than the slack at its end is cut.
 bool onlyWhole(const QByteArray& file, int slack = 0) {
   for (qsizetype size = 0; size < file.size(); ++size) {
@@ -52,6 +60,7 @@ class PicturesTest : public QObject {
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_RGB32), "jpeg")));
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_RGB32), "bmp")));
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_Mono), "bmp")));
+    QVERIFY(onlyWhole(runs("0301 0300 0000 0600 0001")));
     QVERIFY(onlyWhole(Gif, 25));  // the second frame may be cut
   }
 
@@ -74,7 +83,10 @@ class PicturesTest : public QObject {
     QVERIFY(LoadPicture(u"\\None.png"_s).isNull());
     QVERIFY(DecodePicture("[Setup]\r\nEXEDirectory=\r\n").isNull());
     QVERIFY(DecodePicture(encoded(sample(QImage::Format_ARGB32), "ico")).isNull());
-    // Codes that stop before the last pixel of the first frame.
+    // Runs that leave pixels out, runs that jump, codes that stop before the last pixel of the first frame.
+    for (const char* codes : {"0301 0000 0600 0001", "0600 0002 0001 0600 0001"}) {
+      QVERIFY(DecodePicture(runs(codes)).isNull());
+    }
     QByteArray gif = Gif;
     QVERIFY(DecodePicture(gif.replace(QByteArray::fromHex("03443405"), QByteArray::fromHex("024454"))).isNull());
     // A picture inside the picture has an end marker of its own.

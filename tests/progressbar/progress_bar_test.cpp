@@ -107,6 +107,13 @@ class ProgressBarTest : public QObject {
     }
   }
 
+  void fourCorners() {
+    Raster raster(QSize(6, 3), qRgb(212, 212, 212));
+    DrawGradientFourColour(raster, -1, 0, 5, 2, 0, 200, 100, 100);
+    QCOMPARE(greys(raster.image(), QPoint(0, 0), QPoint(1, 0)), (QList<int>{40, 80, 120, 160, 212, 212}));
+    QCOMPARE(greys(raster.image(), QPoint(0, 1), QPoint(1, 0)), (QList<int>{70, 90, 110, 130, 212, 212}));
+  }
+
   void coloursOfThemes() {
     QCOMPARE(GreyOf(0xFFFFFFU), 0xFFFFFFU);  // above the brightest
     QCOMPARE(GreyOf(0x4ACC3EU), 0x727272U);  // lower channels count in the higher ones

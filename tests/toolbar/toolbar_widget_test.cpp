@@ -46,6 +46,23 @@ class WidgetTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  void valuesOfAButtonByNumber() {
+    McToolBar bar(toolbar::AmbientOf(nullptr), nullptr);
+    bar.UserControl_ReadProperties({});
+    const QVariant values[] = {1,    QStringLiteral("Go"),  false, QImage(3, 2, QImage::Format_RGB32), 2,
+                               true, QStringLiteral("tip"), 3};
+    for (int number = 0; number < 8; ++number) {
+      bar.SetButtonValue(1, number, values[number]);
+      const QVariant value = bar.GetButtonValue(1, number);
+      if (number == toolbar::IconProperty) {
+        QCOMPARE(value.value<toolbar::PictureReference>()->Width(), 3);
+      } else {
+        QCOMPARE(value, values[number]);
+      }
+    }
+    QVERIFY(!bar.GetButtonValue(1, 8).isValid());
+  }
+
   void doubleClickIsOneClick() {
     Form form;
     const QSignalSpy doubles(&form.bar, &McToolBar::DblClick);
