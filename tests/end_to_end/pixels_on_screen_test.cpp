@@ -13,8 +13,12 @@ QRgb patch(int x, int y) {
   if (x == 2) return qRgba(128, 128, 128, 200);
   return qRgba(x * 16, y * 20, (x + y) * 9, 255 - 20 * (x % 3));
 }
-QRgb flat(int, int) {
-  return qRgb(200, 90, 10);
+QRgb faint(int x, int y) {
+  return qRgba(3 * x, 200 - 10 * y, 100 + y, 1 + (x + y) % 3);
+}
+QRgb blocks(int x, int y) {
+  const QRgb colors[2][2] = {{qRgb(255, 0, 0), qRgb(0, 255, 0)}, {qRgb(0, 0, 255), qRgb(240, 240, 0)}};
+  return colors[y][x];
 }
 
 QImage pictureOf(QRgb (*pixel)(int, int), int width, int height) {
@@ -32,6 +36,7 @@ Pixel pixelOf(QRgb color) {
 }
 
 // What a type makes of a pixel under the colour given with the cases below.
+
 Pixel plain(const Pixel& p) {
   return p;
 }
@@ -56,26 +61,44 @@ struct Case {
   const char* keys;  ///< at a "|" a line ends
   QRgb (*source)(int, int);
   Pixel (*type)(const Pixel&);
-  QRect place;
+  QRect place;  ///< at the picture's own size
 };
 
 const Case Cases[] = {
     {"Tex=Patch|X=100|Y=100|W=16|H=12|Color=Any|Type=Plain", patch, plain, {100, 100, 16, 12}},
+    {"Tex=Patch|X=150|Y=100|W=16|H=12|Color=Any|Type=Transparent", patch, plain, {150, 100, 16, 12}},
     {"Tex=Patch|X=200|Y=100|W=16|H=12|Color=Any", patch, plain, {200, 100, 16, 12}},
     {"Tex=Patch|X=250|Y=100|W=16|H=12|Color=Red|Type=Colorized", patch, red, {250, 100, 16, 12}},
     {"Tex=Patch|X=300|Y=100|W=16|H=12|Color=Blue|Type=COLORIZED", patch, blue, {300, 100, 16, 12}},
     {"Tex=Patch|X=350|Y=100|W=16|H=12|Color=Font|Type=Font Black", patch, font, {350, 100, 16, 12}},
+    {"Tex=Faint|X=100|Y=150|W=16|H=12|Color=Any|Type=Plain", faint, plain, {100, 150, 16, 12}},
+    {"Tex=Faint|X=150|Y=150|W=16|H=12|Color=Red|Type=Colorized", faint, red, {150, 150, 16, 12}},
+    {"Tex=Faint|X=200|Y=150|W=16|H=12|Color=Font|Type=Font Black", faint, font, {200, 150, 16, 12}},
     {"Tex=Patch|X=-1|Y=200|W=90|H=50|Color=Any", patch, plain, {0, 0, 16, 12}},
-    {"Tex=Flat|X=200|Y=-1|W=90|H=50|Color=Any", flat, plain, {0, 0, 2, 2}},
+    {"Tex=Strip|X=200|Y=-1|W=90|H=50|Color=Any", patch, plain, {0, 0, 4, 40}},
     {"Tex=Patch|X=100|Y=250|W=-1|H=50|Color=Any", patch, plain, {100, 250, 16, 12}},
     {"Tex=Patch|X=200|Y=250|W=90|H=-1|Color=Red|Type=Colorized", patch, red, {200, 250, 16, 12}},
-    {"Tex=Flat|X=100|Y=300|W=40|H=20|Color=Any", flat, plain, {100, 300, 40, 20}},
 };
+constexpr QRect Scaled(100, 300, 40, 20);
 
 /// Blended over `below`, each channel as a fraction of 255.
 Pixel over(const Pixel& p, const Pixel& below) {
   Pixel result{0, 0, 0, 255};
   for (size_t i = 0; i < 3; ++i) result[i] = (p[i] * p[3] + below[i] * (255 - p[3])) / 255;
+  return result;
+}
+
+/// The pixel of a picture of 2 x 2 that is stretched over the rectangle: between the four, by the distance from their
+/// middles, and no further out than these.
+Pixel stretched(int x, int y, const QSize& size) {
+  const double u = std::clamp((x + 0.5) * 2 / size.width() - 0.5, 0.0, 1.0);
+  const double v = std::clamp((y + 0.5) * 2 / size.height() - 0.5, 0.0, 1.0);
+  Pixel result{0, 0, 0, 255};
+  for (size_t i = 0; i < 3; ++i) {
+    const double upper = pixelOf(blocks(0, 0))[i] * (1 - u) + pixelOf(blocks(1, 0))[i] * u;
+    const double lower = pixelOf(blocks(0, 1))[i] * (1 - u) + pixelOf(blocks(1, 1))[i] * u;
+    result[i] = upper * (1 - v) + lower * v;
+  }
   return result;
 }
 
@@ -96,10 +119,13 @@ class PixelsOnScreenTest : public QObject {
     QByteArray theme = "[Colors]|Any=1 2 3|Red=255 0 0|Blue=20 20 90|Font=200 100 50|[Loading]|";
     int number = 10;
     for (const Case& row : Cases) theme += "[LoadingStatic" + QByteArray::number(number++) + "]|" + row.keys + "|";
+    theme += "[LoadingStaticScaled]|Tex=Blocks|X=100|Y=300|W=40|H=20|Color=Any|";
     game.put(ThemeFile, linesOf(theme));
-    game.put(SkinFile, linesOf("[Textures]|Patch=patch.png|Flat=flat.bmp|"));
+    game.put(SkinFile, linesOf("[Textures]|Patch=patch.png|Faint=faint.png|Strip=strip.png|Blocks=blocks.bmp|"));
     save("patch.png", pictureOf(patch, 16, 12));
-    save("flat.bmp", pictureOf(flat, 2, 2));
+    save("faint.png", pictureOf(faint, 16, 12));
+    save("strip.png", pictureOf(patch, 4, 40));
+    save("blocks.bmp", pictureOf(blocks, 2, 2));
   }
 
   void statics() {
@@ -120,20 +146,31 @@ class PixelsOnScreenTest : public QObject {
     };
     if (scale == std::floor(scale)) QTRY_COMPARE(screen(), surface.scaled(surface.size() * scale));
 
-    std::vector<Pixel> expected(800 * 600, {40, 90, 140, 255});
+    struct Expected {
+      Pixel pixel;
+      double tolerance;
+    };
+    std::vector<Expected> expected(800 * 600, {{40, 90, 140, 255}, 0});
     for (const Case& row : Cases) {
-      for (int i = 0; i < row.place.width() * row.place.height(); ++i) {
-        const QPoint inside(i % row.place.width(), i / row.place.width());
-        const QPoint on = row.place.topLeft() + inside;
-        Pixel& at = expected[on.y() * 800 + on.x()];
-        at = over(row.type(pixelOf(row.source(inside.x(), inside.y()))), at);
+      for (int y = 0; y < row.place.height(); ++y) {
+        for (int x = 0; x < row.place.width(); ++x) {
+          Expected& at = expected[(row.place.y() + y) * 800 + row.place.x() + x];
+          at = {over(row.type(pixelOf(row.source(x, y))), at.pixel), 1};
+        }
+      }
+    }
+    for (int y = 0; y < Scaled.height(); ++y) {
+      for (int x = 0; x < Scaled.width(); ++x) {
+        expected[(Scaled.y() + y) * 800 + Scaled.x() + x] = {stretched(x, y, Scaled.size()), 4};
       }
     }
     for (int i = 0; i < 800 * 600; ++i) {
       const Pixel actual = pixelOf(surface.pixel(i % 800, i / 800));
       for (size_t channel = 0; channel < 3; ++channel) {
-        if (std::abs(actual[channel] - expected[i][channel]) <= 1) continue;
-        QFAIL(qPrintable(u"channel %1 of %2, %3: %4"_s.arg(channel).arg(i % 800).arg(i / 800).arg(actual[channel])));
+        const double difference = std::abs(actual[channel] - expected[i].pixel[channel]);
+        if (difference > expected[i].tolerance) {
+          QFAIL(qPrintable(u"channel %1 of %2, %3: %4"_s.arg(channel).arg(i % 800).arg(i / 800).arg(actual[channel])));
+        }
       }
     }
   }

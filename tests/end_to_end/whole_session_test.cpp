@@ -48,6 +48,13 @@ void enter(toolwindow::Form2& tools, const char* text) {
   }
 }
 
+void chooseMainScreen(Program& program) {
+  program.tools().Combo1->setFocus();
+  key(program.tools(), Qt::Key_Home);
+  key(program.tools(), Qt::Key_Down);
+  QCOMPARE(program.tools().Combo1->Text(), u"Main Screen"_s);
+}
+
 }  // namespace
 
 class WholeSessionTest : public QObject {
@@ -83,13 +90,10 @@ class WholeSessionTest : public QObject {
     QVERIFY(program->state.ThemeOpened && !program->state.Changed);
   }
 
-  void editSaveCloseAndAnotherTheme() {
+  void editSaveAnotherThemeReopen() {
     auto expected = game.files();
     toolwindow::Form2& tools = program->tools();
-    tools.Combo1->setFocus();
-    key(tools, Qt::Key_Home);
-    key(tools, Qt::Key_Down);
-    QCOMPARE(tools.Combo1->Text(), u"Main Screen"_s);
+    chooseMainScreen(*program);
     for (const EditRow& row : Edits) {
       pickNamed(*tools.List1, row.object);
       pickNamed(*tools.ListView1, row.key);
@@ -123,6 +127,16 @@ class WholeSessionTest : public QObject {
     QVERIFY(program->dialogs.asked.isEmpty());
     open(*program, "Workbench", "Grey", Qt::Key_End);
     QCOMPARE(program->state.Paths.ThemeFile.section(u'\\', -1), u"Workbench.ini.tmp"_s);
+    QVERIFY(program->form.Label1->isHidden());
+    open(*program, "Stagelight", "Neon", Qt::Key_Home);
+    chooseMainScreen(*program);
+    for (const EditRow& row : Edits) {
+      pickNamed(*program->tools().List1, row.object);
+      QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
+    }
+    pickNamed(*program->tools().List1, "MainTextHelp");
+    pickNamed(*program->tools().ListView1, "Text");
+    QCOMPARE(program->tools().Text2->Text(), u"Los! = [Enter];"_s);
   }
 
  private:
