@@ -96,6 +96,16 @@ class RenderStepsTest : public QObject {
     QCOMPARE(topsOfTexts("TEXTS=1|SelectH=60|", "MainButtonCollection"), (QList<int>{10, 2000}));
   }
 
+  void moreThanAByteOfButtons() {
+    Stage stage;
+    QByteArray theme;
+    for (int i = 0; i < 260; ++i) theme += "[MainButton" + QByteArray::number(1000 + i) + "]|";
+    stage.setTheme(theme);
+    stage.draw();
+    QCOMPARE(int(stage.state.ButtonCount), 255);
+    QCOMPARE(stage.host.buttons.size(), 255);
+  }
+
  private:
   /// Draws three buttons of which the second one has the keys and is the selected one.
   static void compare(const QByteArray& keys, const QRect& ink, int count = 3, int steps = 3) {

@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "platform/property_bag_bytes.h"
 #include "toolbar/main_window_tool_bar.h"
 #include "toolbar/mc_toolbar.h"
 
@@ -143,6 +144,39 @@ class WidgetTest : public QObject {
     const QImage shown = bar.grab().toImage();
     QCOMPARE(shown.pixelColor(700, 0), QColor(255, 255, 255));
     QCOMPARE(shown.pixelColor(700, 31), QColor(128, 128, 128));
+  }
+
+  void tipsAreWindowsOfTheirOwn() {
+    Form form;
+    form.bar.SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("<b>first</b>"));
+    const auto tip = [] {
+      for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->accessibleName() == QStringLiteral("<b>first</b>")) return window;
+      }
+      return static_cast<QWidget*>(nullptr);
+    };
+    QVERIFY(QTest::qWaitForWindowActive(&form.form));
+    QTest::mouseMove(&form.bar, {5, 5});
+    QTRY_VERIFY(tip());
+    QVERIFY(!tip()->grab().isNull());
+    QTest::mouseMove(&form.bar, {6, 5});
+    QTRY_VERIFY(!tip());
+  }
+
+  void damagedBagLeavesTheDefaults() {
+    const std::pair<const char*, QVariant> rows[] = {{"Button_Count", 0},
+                                                     {"Button_Count", 100000},
+                                                     {"ButtonsWidth", QStringLiteral("wide")},
+                                                     {"ButtonIcon1", 5},
+                                                     {"BorderStyle", 70000}};
+    for (const auto& [key, value] : rows) {
+      platform::PropertyBag bag;
+      bag.WriteProperty(QStringLiteral("ButtonsMode"), 5, {});
+      bag.WriteProperty(QString::fromLatin1(key), value, {});
+      McToolBar bar(toolbar::AmbientOf(nullptr));
+      QVERIFY2(!bar.UserControl_ReadProperties(platform::StoredBytes(bag)), key);
+      QVERIFY2(bar.Buttons().Values().ButtonsMode == 3 && bar.Button_Count() == 1, key);
+    }
   }
 };
 
