@@ -26,72 +26,72 @@ constexpr std::array<const char*, 13> Refusals{"Color already exist!",
                                                "Error while adding colors []",
                                                "Error while saving files [",
                                                "Error while saving temporary files ["};
-constexpr std::array<const char*, 11> Answers{"yes",  "no",     "ok",        "a name",  "a file", "a colour",
-                                              "open", "cancel", "no colour", "no name", "no file"};
-constexpr std::array<const char*, 5> Commands{"Open", "Save", "Close", "Background", "end"};
-constexpr std::array<const char*, 6> Frames{"Numbers", "FloatNumbers", "Selection", "Color", "Texture", "Texts"};
+/// Commands, answers of dialogs, and editor frames.
+constexpr std::array<const char*, 22> Others{"Open",      "Save",      "Close",   "Background",  "end",    "a yes",
+                                             "no yes",    "ok",        "a name",  "no name",     "a file", "no file",
+                                             "a colour",  "no colour", "open",    "cancel",      "Color",  "Numbers",
+                                             "Selection", "Texts",     "Texture", "FloatNumbers"};
 
-/// A theme with as many colours as the table takes, but for one, and with a section that can't be found again.
+const QString Crowd = u"Themes/A crowd.ini"_s;
+
+/// A theme that fills the table of colours, with sections that can't be found again.
 QByteArray crowdedTheme() {
-  QByteArray theme = "[Theme]\r\nName=Crowded\r\n[Colors]\r\n";
-  for (int i = 0; i < 99; ++i) theme += "C" + QByteArray::number(i) + "=1 2 3\r\n";
-  const QByteArray object = "StaticA]\r\nTex=Plate\r\nX=1\r\nY=2\r\nW=30\r\nH=40\r\nColor=C5\r\n";
-  return theme + "[Loading]\r\n[Loading" + object + "[Main]\r\n[Main" + object + "[MainStatic]x]\r\nX=1\r\nFont=1\r\n";
+  QByteArray theme = "[Theme]\r\nName=A crowd\r\n[Colors]\r\n";
+  for (int i = 0; i < 100; ++i) theme += "C" + QByteArray::number(i) + "=1 2 3\r\n";
+  for (const QByteArray screen : {"Loading", "Main"}) {
+    theme += "[" + screen + "]\r\n[" + screen + "Static]x]\r\nX=1\r\nFont=40000\r\n[" + screen +
+             "StaticA]\r\nTex=Plate\r\nX=1\r\nZ=0.5\r\nColor=C5\r\nDColor=C6\r\nTColor=C7\r\n[" + screen +
+             "TextA]\r\nX=1\r\nAlign=1\r\nText=OKAY\r\nColor=C8\r\n";
+  }
+  return theme;
 }
 
 }  // namespace
 
-bool RandomDialogs::cancelled(const char* dialog) {
+/// Whether the dialog gets an answer other than No or Cancel.
+bool RandomDialogs::answered(const char* answer) {
   if (chance_.one(4)) QCoreApplication::processEvents();
-  if (!chance_.one(3)) return false;
-  ++counts_[u"no "_s + QLatin1StringView(dialog)];
-  return true;
+  const bool given = !chance_.one(3);
+  ++counts_[(given ? u"a "_s : u"no "_s) + QLatin1StringView(answer)];
+  return given;
 }
 
 platform::BoxAnswer RandomDialogs::MessageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
                                               platform::BoxKind kind) {
   for (const char* refusal : Refusals) counts_[QLatin1StringView(refusal)] += text.contains(QLatin1StringView(refusal));
-  if (chance_.one(4)) QCoreApplication::processEvents();
-  if (kind == platform::BoxKind::Error) {
-    ++counts_[u"ok"_s];
-    return platform::BoxAnswer::Ok;
+  if (kind == platform::BoxKind::YesNoDefaultNo) {
+    return answered("yes") ? platform::BoxAnswer::Yes : platform::BoxAnswer::No;
   }
-  const bool yes = !chance_.one(3);
-  ++counts_[yes ? u"yes"_s : u"no"_s];
-  return yes ? platform::BoxAnswer::Yes : platform::BoxAnswer::No;
+  if (chance_.one(4)) QCoreApplication::processEvents();
+  ++counts_[u"ok"_s];
+  return platform::BoxAnswer::Ok;
 }
 
 QString RandomDialogs::InputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) {
-  if (cancelled("name")) return {};
-  ++counts_[u"a name"_s];
-  return chance_.one(2) ? u"New"_s + QString::number(chance_.below(10000)) : chance_.of(names);
+  if (!answered("name")) return {};
+  const QString number = QString::number(chance_.below(100));
+  return chance_.of(
+      QStringList{u"New"_s + number, u"Old"_s + number, u"c"_s + number, u"Plate"_s, u"OKAY"_s, u" odd "_s, u"a=b"_s});
 }
 
 QString RandomDialogs::OpenFile(QWidget* /*parent*/, const platform::FileRequest& request) {
-  if (cancelled("file")) return {};
-  ++counts_[u"a file"_s];
+  if (!answered("file")) return {};
   const QString folder = request.folder.isEmpty() ? u"C:\\nowhere"_s : request.folder;
   return folder +
          chance_.of(QStringList{u"\\plate.png"_s, u"\\..\\outside.png"_s, u"\\sub\\p.png"_s, u"\\\u0416.png"_s});
 }
 
 std::optional<QColor> RandomDialogs::ChooseColor(QWidget* /*parent*/, const QColor& /*present*/) {
-  if (cancelled("colour")) return {};
-  ++counts_[u"a colour"_s];
+  if (!answered("colour")) return {};
   return QColor(chance_.below(256), chance_.below(256), chance_.below(256));
 }
 
 Monkey::Monkey(quint32 seed) : chance_(seed), dialogs_(chance_, counts_) {
   for (const char* name : Refusals) counts_[QLatin1StringView(name)] = 0;
-  for (const char* name : Answers) counts_[QLatin1StringView(name)] = 0;
-  for (const char* name : Commands) counts_[QLatin1StringView(name)] = 0;
-  for (const char* name : Frames) counts_[QLatin1StringView(name)] = 0;
-  dialogs_.names =
-      QStringList{u"Steel"_s, u"C7"_s, u"steel"_s, u"Plate"_s, u"OKAY"_s, u" odd "_s, u"a=b"_s, u"\u0416"_s};
+  for (const char* name : Others) counts_[QLatin1StringView(name)] = 0;
   game_.copySample();
-  game_.put(u"Themes/Crowded.ini"_s, crowdedTheme());
-  QDir(game_.native(u"Skins"_s)).mkdir(u"Crowded"_s);
-  game_.put(u"Skins/Crowded/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");
+  QDir(game_.native(u"Skins"_s)).mkdir(u"A crowd"_s);
+  game_.put(u"Skins/A crowd/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");
   QFile(noThemes_.filePath(u"Vocora.exe"_s)).open(QIODevice::WriteOnly);
   expected_ = game_.files();
   dialogDriver_.callOnTimeout([this] { answerOpenDialog(); });
@@ -99,38 +99,30 @@ Monkey::Monkey(quint32 seed) : chance_(seed), dialogs_(chance_, counts_) {
   start();
 }
 
-Monkey::~Monkey() {
-  delete form_->ToolWindow;
-  form_->ToolWindow = nullptr;
-}
-
 void Monkey::start() {
-  state_ = {};
-  form_ = std::make_unique<mainwindows::Form1>(
-      mainwindows::MainServices{state_, dialogs_, graphics_, {platform::ProgramPath(settings_.path())}});
-  form_->Config.SetGameFolder(game_.path());
-  mainwindows::ConnectEvents(*form_);
+  program_.reset();
+  game_.put(Crowd, expected_[Crowd] = crowdedTheme());
+  program_ = std::make_unique<support::Program>(game_, true, &dialogs_);
   const auto counted = [this](void (*work)(mainwindows::Form1&)) {
     return [this, work] {
       require(++works_ == 1, u"a pass runs inside a pass"_s);
       const auto done = qScopeGuard([this] { --works_; });
-      work(*form_);
+      work(form());
     };
   };
-  form_->Queue.SetWorks(counted([](mainwindows::Form1& form) {
+  form().Queue.SetWorks(counted([](mainwindows::Form1& form) {
                           if (form.ToolWindow != nullptr) toolwindow::ListScreen(*form.ToolWindow);
                         }),
                         counted([](mainwindows::Form1& form) { form.DrawScreen(); }));
-  QObject::connect(&form_->Queue, &controls::WorkQueue::Yielding, form_.get(), [this] { checkYield(); });
+  QObject::connect(&form().Queue, &controls::WorkQueue::Yielding, &form(), [this] { checkYield(); });
   // Both are told behind the program itself.
-  QObject::connect(form_->ToolBar, &toolbar::McToolBar::Click, form_.get(), [this](int button) {
-    ++counts_[QLatin1StringView(Commands.at(static_cast<size_t>(button - 1)))];
+  QObject::connect(form().ToolBar, &toolbar::McToolBar::Click, &form(), [this](int button) {
+    ++counts_[QLatin1StringView(Others.at(static_cast<size_t>(button - 1)))];
     noteSave();
   });
-  for (auto* shortcut : form_->findChildren<QShortcut*>()) {
-    QObject::connect(shortcut, &QShortcut::activated, form_.get(), [this] { noteSave(); });
+  for (auto* shortcut : form().findChildren<QShortcut*>()) {
+    QObject::connect(shortcut, &QShortcut::activated, &form(), [this] { noteSave(); });
   }
-  form_->show();
 }
 
 void Monkey::require(bool holds, const QString& what) {
@@ -140,8 +132,8 @@ void Monkey::require(bool holds, const QString& what) {
 /// A Save may just have run: from now on the files of the game have to be what the working copies were then.
 void Monkey::noteSave() {
   readStatus();
-  if (!state_.ThemeOpened) return;
-  for (const QString& copy : {state_.Paths.ThemeFile, state_.Paths.SkinFile, state_.Paths.LanguageFile}) {
+  if (!state().ThemeOpened) return;
+  for (const QString& copy : {state().Paths.ThemeFile, state().Paths.SkinFile, state().Paths.LanguageFile}) {
     const QString native = platform::NativePath(copy).chopped(4);
     const QString name = QDir(game_.native(QString())).relativeFilePath(native);
     const QByteArray bytes = game_.get(name);
@@ -152,7 +144,7 @@ void Monkey::noteSave() {
 }
 
 void Monkey::readStatus() {
-  const QString status = form_->StatusBar->Panel(1);
+  const QString status = form().StatusBar->Panel(1);
   if (status == lastStatus_) return;
   lastStatus_ = status;
   for (const char* refusal : Refusals)
@@ -165,7 +157,7 @@ void Monkey::checkYield() {
   checkTheme();
   if (nested_ > 0 || !chance_.one(25)) return;
   QMetaObject::invokeMethod(
-      form_.get(),
+      &form(),
       [this] {
         ++nested_;
         act();
@@ -176,19 +168,19 @@ void Monkey::checkYield() {
 
 /// What holds at any moment.
 void Monkey::checkTheme() {
-  require(form_->findChildren<toolwindow::Form2*>().contains(form_->ToolWindow) == (form_->ToolWindow != nullptr),
+  require(form().findChildren<toolwindow::Form2*>().contains(form().ToolWindow) == (form().ToolWindow != nullptr),
           u"the tool window dangles"_s);
-  require(state_.Changed == form_->ToolBar->GetButtonValue(2, 2).toBool(), u"Changed and Save disagree"_s);
-  for (const QString& path : {state_.Paths.ThemeFile, state_.Paths.SkinFile, state_.Paths.LanguageFile}) {
-    require(state_.ThemeOpened ? path.endsWith(u".tmp") : path.isEmpty(), u"path "_s + path);
+  require(state().Changed == program_->enabled(2), u"Changed and Save disagree"_s);
+  for (const QString& path : {state().Paths.ThemeFile, state().Paths.SkinFile, state().Paths.LanguageFile}) {
+    require(state().ThemeOpened ? path.endsWith(u".tmp") : path.isEmpty(), u"path "_s + path);
   }
 }
 
 void Monkey::checkColors() {
-  const QString& file = state_.Paths.ThemeFile;
+  const QString& file = state().Paths.ThemeFile;
   QStringList table;
   QStringList section = themefiles::KeyNames(u"Colors"_s, file);
-  for (const themefiles::NamedColor& row : state_.ThemeColors) {
+  for (const themefiles::NamedColor& row : state().ThemeColors) {
     if (row.Name.isEmpty()) continue;
     table += row.Name;
     require(row.Value == themefiles::GetINI(u"Colors"_s, row.Name, u"0 0 0"_s, file), u"colour "_s + row.Name);
@@ -201,37 +193,34 @@ void Monkey::checkColors() {
 /// What holds when all is at rest.
 void Monkey::check() {
   readStatus();
-  require(!form_->Queue.Busy() && works_ == 0 && nested_ == 0, u"a pass is left"_s);
-  require(form_->ProgressBar1->isHidden(), u"the progress bar is left"_s);
+  require(!form().Queue.Busy() && works_ == 0 && nested_ == 0, u"a pass is left"_s);
+  require(form().ProgressBar1->isHidden(), u"the progress bar is left"_s);
   checkTheme();
-  const bool opened = state_.ThemeOpened;
-  require(opened == (form_->ToolWindow != nullptr), u"open without a tool window"_s);
-  require(form_->findChildren<toolwindow::Form2*>().size() == (opened ? 1 : 0), u"tool windows"_s);
+  const bool opened = state().ThemeOpened;
+  require(opened == (form().ToolWindow != nullptr), u"open without a tool window"_s);
+  require(form().findChildren<toolwindow::Form2*>().size() == (opened ? 1 : 0), u"tool windows"_s);
   require(QApplication::activeModalWidget() == nullptr, u"a dialog is left"_s);
-  for (const int button : {3, 4}) {
-    require(opened == form_->ToolBar->GetButtonValue(button, 2).toBool(), u"buttons of an open theme"_s);
-  }
+  require(program_->enabled(3) == opened && program_->enabled(4) == opened, u"buttons of an open theme"_s);
   for (const auto& [name, bytes] : expected_.asKeyValueRange()) {
     if (name.endsWith(u".ini")) require(game_.get(name) == bytes, name + u" has changed without a Save"_s);
   }
   if (!opened) return;
   checkColors();
-  const toolwindow::Form2& form = *tools();
+  const toolwindow::Form2& tools = *form().ToolWindow;
   int shown = 0;
-  for (QWidget* frame : {form.Numbers, form.FloatNumbers, form.Selection, form.Color, form.Texture, form.Texts}) {
-    if (frame->isHidden()) continue;
-    ++shown;
+  for (QWidget* frame : {tools.Numbers, tools.FloatNumbers, tools.Selection, tools.Color, tools.Texture, tools.Texts}) {
+    shown += frame->isHidden() ? 0 : 1;
   }
-  require(shown <= 1 && (shown == 0 || state_.EditorShown), u"editor frames"_s);
+  require(shown <= 1 && (shown == 0 || state().EditorShown), u"editor frames"_s);
 }
 
 void Monkey::step() {
   act();
   support::settle();
-  if (form_->isHidden()) {
+  if (form().isHidden()) {
     // The program has ended: an event loop takes the wish to quit, which would end every later one at once.
     ++counts_[u"end"_s];
-    require(form_->ToolWindow == nullptr, u"the tool window outlives the program"_s);
+    require(form().ToolWindow == nullptr, u"the tool window outlives the program"_s);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
     QCoreApplication::exec();

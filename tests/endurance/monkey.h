@@ -39,10 +39,8 @@ class RandomDialogs : public platform::Dialogs {
   QString OpenFile(QWidget* parent, const platform::FileRequest& request) override;
   std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) override;
 
-  QStringList names;  ///< what is typed into an input box
-
  private:
-  bool cancelled(const char* dialog);
+  bool answered(const char* answer);
 
   Chance& chance_;
   Counts& counts_;
@@ -52,7 +50,6 @@ class RandomDialogs : public platform::Dialogs {
 class Monkey {
  public:
   explicit Monkey(quint32 seed);
-  ~Monkey();
 
   /// One thing that a user does, one to a few events.
   void step();
@@ -63,13 +60,7 @@ class Monkey {
   const QString& fault() const { return fault_; }
 
  private:
-  struct Action {
-    int weight;
-    void (Monkey::*run)();
-  };
-
   void start();
-  void act();
   void check();
   void checkYield();
   void checkTheme();
@@ -77,46 +68,30 @@ class Monkey {
   void noteSave();
   void readStatus();
   void require(bool holds, const QString& what);
-  void answerOpenDialog();
 
+  void act();
+  void answerOpenDialog();
+  void touch(QWidget& area, Qt::FindChildOptions depth = Qt::FindChildrenRecursively);
+  void use(QWidget& control);
+  void choose(controls::ComboBox& list);
+  void pick(QAbstractItemView& list);
+  void type(QLineEdit& box);
+  void shortcut();
+  void resize();
+  void loseFolder();
+  void protectFiles();
   void key(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = {});
   void click(QWidget& widget, const QPoint& place);
-  void press(QWidget* button);
-  void choose(controls::ComboBox& list);
-  void listKey(QAbstractItemView& list);
-  void row(QAbstractItemView& list, int row);
-  bool rowOf(toolwindow::KeyGroup group);
-  bool seek(toolwindow::KeyGroup group);
 
-  void toolBar();
-  void shortcut();
-  void screen();
-  void tag();
-  void gridRow();
-  void enter();
-  void type();
-  void update();
-  void colours();
-  void keys();
-  void mainLists();
-  void preview();
-  void shapes();
-  void protectFiles();
-  void loseFolder();
-  void endProgram();
-
-  toolwindow::Form2* tools() const { return form_->ToolWindow; }
-  bool usable(const QWidget* widget) const;
+  mainwindows::Form1& form() const { return program_->form; }
+  const themefiles::ModuleState& state() const { return program_->state; }
 
   Chance chance_;
   Counts counts_;
   RandomDialogs dialogs_;
   support::GameFolder game_;
-  QTemporaryDir settings_;
   QTemporaryDir noThemes_;
-  themefiles::ModuleState state_;
-  platform::Graphics graphics_;
-  std::unique_ptr<mainwindows::Form1> form_;
+  std::unique_ptr<support::Program> program_;
   QTimer dialogDriver_;
   QMap<QString, QByteArray> expected_;  ///< the files of the game as they have to be
   QString lastStatus_;

@@ -141,9 +141,10 @@ inline void settle() {
 /// The program's windows with their events connected.
 class Program {
  public:
-  /// config.ini in a folder of its own; the game folder is stored in it unless that is asked away.
-  explicit Program(const GameFolder& game, bool storeFolder = true)
-      : form({state, dialogs, graphics, {platform::ProgramPath(settings.path())}}) {
+  /// config.ini in a folder of its own; the game folder is stored in it unless that is asked away. Dialogs answer by
+  /// script, or those given.
+  explicit Program(const GameFolder& game, bool storeFolder = true, platform::Dialogs* answering = nullptr)
+      : form({state, answering != nullptr ? *answering : dialogs, graphics, {platform::ProgramPath(settings.path())}}) {
     if (storeFolder) form.Config.SetGameFolder(game.path());
     mainwindows::ConnectEvents(form);
     form.show();
