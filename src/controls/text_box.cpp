@@ -87,19 +87,21 @@ void TextBox::dropEvent(QDropEvent* event) {
 void TextBox::contextMenuEvent(QContextMenuEvent* event) {
   const bool writes = !isReadOnly();
   const bool pastes = writes && !filtered(QGuiApplication::clipboard()->text()).isEmpty();
-  QMenu menu(this);
-  const auto add = [&menu, this](const QString& caption, bool enabled, auto command) {
-    menu.addAction(caption, this, command)->setEnabled(enabled);
+  // It doesn't wait for the answer: this box, or running work, may come to its end first.
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const auto add = [menu, this](const QString& caption, bool enabled, auto command) {
+    menu->addAction(caption, this, command)->setEnabled(enabled);
   };
   add(QStringLiteral("&Undo"), writes && isUndoAvailable(), &QLineEdit::undo);
-  menu.addSeparator();
+  menu->addSeparator();
   add(QStringLiteral("Cu&t"), writes && hasSelectedText(), &QLineEdit::cut);
   add(QStringLiteral("&Copy"), hasSelectedText(), &QLineEdit::copy);
   add(QStringLiteral("&Paste"), pastes, [this] { pasteFiltered(QClipboard::Clipboard); });
   add(QStringLiteral("&Delete"), writes && hasSelectedText(), &QLineEdit::del);
-  menu.addSeparator();
+  menu->addSeparator();
   add(QStringLiteral("Select &All"), !text().isEmpty(), &QLineEdit::selectAll);
-  menu.exec(event->globalPos());
+  menu->popup(event->globalPos());
 }
 
 }  // namespace controls
