@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include <QScreen>
+
 namespace controls {
 
 int ToPixels(double twips) {
@@ -16,6 +18,11 @@ QRect ToPixels(const TwipsRect& place) {
 
 void Place(QWidget& widget, const TwipsRect& place) {
   widget.setGeometry(ToPixels(place));
+}
+
+void CentreOnScreen(QWidget& window) {
+  const QPoint centre = window.screen()->availableGeometry().center();
+  window.move(centre - QPoint(window.width() / 2, (window.height() + ToPixels(FrameHeight)) / 2));
 }
 
 }  // namespace controls

@@ -26,5 +26,7 @@ int ToPixels(double twips);
 QRect ToPixels(const TwipsRect& place);
 /// Puts the widget at its place.
 void Place(QWidget& widget, const TwipsRect& place);
+/// Moves the window, with the caption that the rules give it, to the middle of its screen.
+void CentreOnScreen(QWidget& window);
 
 }  // namespace controls

@@ -122,7 +122,7 @@ void Form1::centreOnScreen() {
   if (size.width() > screen.width()) size.setWidth(screen.width());
   setFixedSize(size);
   area->setGeometry(QRect(QPoint(0, 0), size));
-  move(screen.center() - QPoint(size.width() / 2, (size.height() + caption) / 2));
+  controls::CentreOnScreen(*this);
 }
 
 void Form1::Form_Load() {

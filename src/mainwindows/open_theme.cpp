@@ -1,11 +1,13 @@
 #include "mainwindows/open_theme.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QShowEvent>
 
 #include "controls/twips.h"
 #include "platform/files.h"
+#include "platform/fonts.h"
 #include "themefiles/ini_access.h"
 
 namespace mainwindows {
@@ -50,6 +52,10 @@ Form3::Form3(themefiles::ThemePaths folders, const QStringList& themes,
   controls::Place(*Command1, {2880, 3480, 1095, 375});
   controls::Place(*Command2, {4080, 3480, 1095, 375});
   setFixedSize(controls::ToPixels(5325), controls::ToPixels(3990));
+  controls::CentreOnScreen(*this);
+  for (QLabel* label : {Label4, Label5}) {
+    label->setFont(platform::ControlFont(QStringLiteral("Arial"), label->font().pixelSize()));
+  }
   Command1->setDefault(true);
   connect(List1, &controls::ListBox::Click, this, &Form3::List1_Click);
   connect(List2, &controls::ListBox::Click, this, &Form3::List2_Click);
