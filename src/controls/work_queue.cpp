@@ -13,19 +13,25 @@ void WorkQueue::SetWorks(Work choose, Work draw) {
 }
 
 void WorkQueue::Choose() {
+  if (afterwork_) forework_ = std::exchange(afterwork_, {});
   noted_ = Stage::Choose;
   work();
 }
 
 void WorkQueue::Draw() {
+  if (afterwork_) forework_ = std::exchange(afterwork_, {});
   if (noted_ == Stage::None) noted_ = Stage::Draw;
   work();
 }
 
 void WorkQueue::work() {
   if (Busy()) return;
+  const auto commands = qScopeGuard([this] {
+    if (!commands_.empty()) postCommands();
+  });
   while (noted_ != Stage::None && !leaving_) {
     // A choice ends in a draw: a draw noted while the list still fills is that one.
+    if (forework_) std::exchange(forework_, {})();
     running_ = std::exchange(noted_, noted_ == Stage::Choose ? Stage::Draw : Stage::None);
     try {
       running_ == Stage::Choose ? choose_() : draw_();
@@ -38,7 +44,6 @@ void WorkQueue::work() {
     running_ = Stage::None;
   }
   if (afterwork_ && noted_ == Stage::None) std::exchange(afterwork_, {})();
-  if (!commands_.empty()) postCommands();
 }
 
 void WorkQueue::Yield() {
@@ -63,6 +68,7 @@ void WorkQueue::SetAfterwork(Work afterwork) {
 
 void WorkQueue::Forget() {
   noted_ = Stage::None;
+  forework_ = {};
   afterwork_ = {};
 }
 

@@ -35,7 +35,7 @@ class WorkQueue : public QObject {
   /// With `leaving` the running work is given up at its next yield; it is taken up anew after the command unless the
   /// command called Forget.
   void RunOutside(Work command, bool leaving = false);
-  /// Runs once behind the work that is running now and all that follows it without a pause.
+  /// Runs once behind the work that is running now; work that is wished for later begins after it.
   void SetAfterwork(Work afterwork);
   /// Drops noted work and afterwork: what they were for is gone.
   void Forget();
@@ -58,6 +58,7 @@ class WorkQueue : public QObject {
   bool leaving_ = false;
   bool commanding_ = false;
   std::deque<Work> commands_;
+  Work forework_;  ///< the afterwork of work that was given up for what comes next
   Work afterwork_;
 };
 

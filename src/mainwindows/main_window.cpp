@@ -165,7 +165,17 @@ void Form1::DrawScreen() {
   if (ToolWindow == nullptr) return;
   renderer::RenderContext context{Services.State, ToolWindow->Tags, Workspace->Surface(), host_,
                                   *this,          Services.Dialogs, Services.Graphics,    Account};
-  platform::Guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
+  platform::Surface& surface = Workspace->Surface();
+  const QString face = surface.FontName();
+  const float size = surface.FontSize();
+  try {
+    platform::Guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
+  } catch (const controls::WorkAbandoned&) {
+    // The render that takes this one's place begins with the pen that this one found.
+    surface.SetFontName(face);
+    surface.SetFontSize(size);
+    throw;
+  }
   ProgressBar1->hide();
   Workspace->Refresh();
   toolwindow::ShowReasons(*ToolWindow, Account);

@@ -77,7 +77,7 @@ inline constexpr const char* AlphaTheme = R"([Theme]|Name=The Alpha theme|Creato
 [LoadingTextLater]|X=400|Y=150|Font=2|Size=18|Text=GO
 [Main]
 [MainStaticA]|Tex=Plate|X=10|Y=20|W=30|H=40|Color=Blue
-[MainTextFree]|X=500|Y=400|Font=1|Size=30|Text=HELLO
+[MainTextFree]|X=500|Y=400|Font=1|Size=9|Text=HELLO
 [Level]
 [LevelStatic]x]|X=1|Y=2
 )";
