@@ -186,9 +186,13 @@ void Command5_Click(Form2& form) {
   if (rowNamed(state.ThemeColors, name) == state.ThemeColors.end()) return;
   const auto note = writeColor(form, WriteStep, name, std::nullopt);
   if (!note) return;
-  *rowLike(state, name) = {};
+  // The row whose line has gone from the file, and its entry: not the selected one where two names differ in case only.
+  const auto row = rowLike(state, name);
+  const int entry = form.Combo3->findText(row->Name, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  *row = {};
   setRowsLike(state, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.Paths.ThemeFile));
-  form.Combo3->RemoveItem(form.Combo3->ListIndex());
+  form.Combo3->RemoveItem(entry >= 0 ? entry : form.Combo3->ListIndex());
+  form.Combo3->SetListIndex(-1);
   form.Command2->SetBackColor(platform::ColorOf(platform::ButtonFaceColor));
   TellKeptInWorkingCopy(form, *note);
 }
