@@ -1,6 +1,7 @@
 #include "mainwindows/main_events.h"
 
 #include <array>
+#include <cmath>
 #include <functional>
 
 #include <QApplication>
@@ -84,6 +85,7 @@ void goToOtherWindow(Form1& form) {
 void ConnectEvents(Form1& form) {
   form.Queue.SetWorks(
       [&form] {
+        form.Picking = {};
         if (form.ToolWindow != nullptr) toolwindow::ListScreen(*form.ToolWindow);
       },
       [&form] { form.DrawScreen(); });

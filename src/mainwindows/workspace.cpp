@@ -69,7 +69,7 @@ void Workspace::SetVisible(bool visible) {
 }
 
 void Workspace::SetBlinking(bool blinking) {
-  blinking ? timer1_.start() : timer1_.stop();
+  if (blinking != timer1_.isActive()) blinking ? timer1_.start() : timer1_.stop();
 }
 
 void Workspace::Timer1_Timer() {
