@@ -59,7 +59,8 @@ ConfigFile::ConfigFile(const QStringList& folders) {
 
 QString ConfigFile::GameFolder() const {
   if (path_.isEmpty()) return {};
-  const QString stored = themefiles::GetINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), QString(), path_);
+  const QString stored = themefiles::GetINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), QString(), path_,
+                                            themefiles::ListBufferSize);
   if (stored.isEmpty() || platform::FolderHoldsFiles(stored)) return stored;
   const auto bytes = platform::ToAnsi(stored);
   const QString fromUtf8 = bytes ? QString::fromUtf8(*bytes) : stored;

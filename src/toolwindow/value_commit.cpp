@@ -1,5 +1,7 @@
 #include "toolwindow/value_commit.h"
 
+#include <cmath>
+
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
@@ -69,10 +71,12 @@ void commitReference(Form2& form, Commit& commit, const QString& name, const QSt
 /// Keeps the record that the mark is drawn from in step with five keys.
 void updateCursorRect(themefiles::CursorRecord& record, const QString& key, const QString& value) {
   const double number = platform::NumberOf(value);
-  if (key == u"X") record.X = platform::NumberText(number);
-  if (key == u"Y") record.Y = platform::NumberText(number);
-  if (key == u"W") record.W = platform::NumberText(number);
-  if (key == u"H") record.H = platform::NumberText(number);
+  // One beyond all numbers stays as it is: the mark reports it.
+  const QString measure = std::isfinite(number) ? platform::NumberText(number) : value;
+  if (key == u"X") record.X = measure;
+  if (key == u"Y") record.Y = measure;
+  if (key == u"W") record.W = measure;
+  if (key == u"H") record.H = measure;
   if (key == u"SIZE") record.Size = platform::RoundToInt16(number).value_or(record.Size);
 }
 
@@ -114,7 +118,8 @@ void Command1_Click(Form2& form) {
     services.State.Changed = true;
     services.EnableSave();
     services.Queue.Draw();
-    PlaceMark(form, MarkPen::Kept);
+    // Another object that was picked during the drawing has its mark.
+    if (platform::TrimBlanks(form.List1->Text()) == commit.section) PlaceMark(form, MarkPen::Kept);
     form.ListView1->setFocus();
     // Behind what the drawing had to report.
     if (!commit.notes.isEmpty()) services.Status.ShowStatus(commit.notes.join(QStringLiteral("; ")));
