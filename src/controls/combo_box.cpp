@@ -7,6 +7,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 
+#include "platform/code_page.h"
 #include "platform/failure.h"
 
 namespace controls {
@@ -45,10 +46,20 @@ void ComboBox::SetListIndex(int index) {
   if (index >= 0) Q_EMIT Click(Cause::Code);
 }
 
+int ComboBox::EntryLike(const QString& name) const {
+  int entry = 0;
+  while (entry < count() && !platform::SameName(List(entry), name)) ++entry;
+  return entry < count() ? entry : -1;
+}
+
+bool ComboBox::SelectText(const QString& text) {
+  const int entry = findText(text);
+  if (entry >= 0) SetListIndex(entry);
+  return entry >= 0;
+}
+
 void ComboBox::SetText(const QString& text) {
-  const int index = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-  if (index < 0) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
-  SetListIndex(index);
+  if (!SelectText(text)) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
 }
 
 void ComboBox::wheelEvent(QWheelEvent* event) {

@@ -25,8 +25,12 @@ class ComboBox : public QComboBox {
   void SetListIndex(int index);
   /// Text of the selected entry, empty without one.
   QString Text() const { return currentText(); }
-  /// Selects the first entry equal to `text`, case included, as SetListIndex does. Throws platform::Failure without
+  /// First entry that names the same but for case; -1 without one.
+  int EntryLike(const QString& name) const;
+  /// Selects the first entry equal to `text`, case included, as SetListIndex does; false, and nothing else, without
   /// one.
+  bool SelectText(const QString& text);
+  /// The same, throwing platform::Failure without one.
   void SetText(const QString& text);
 
   /// Twenty rows, as wide as the longest entry.

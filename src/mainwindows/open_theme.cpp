@@ -78,8 +78,7 @@ void Form3::Form_Load() {
     name.chop(IniEnding.size());
     Combo1->AddItem(name);
   }
-  const int english = Combo1->findText(QStringLiteral("English"), Qt::MatchExactly | Qt::MatchCaseSensitive);
-  if (Combo1->ListCount() > 0) Combo1->SetListIndex(std::max(english, 0));
+  if (!Combo1->SelectText(QStringLiteral("English")) && Combo1->ListCount() > 0) Combo1->SetListIndex(0);
 }
 
 void Form3::Form_Activate() {

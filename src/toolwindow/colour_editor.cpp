@@ -62,14 +62,6 @@ void listNames(Form2& form, const QStringList& names) {
   for (const QString& name : names) form.Combo3->AddItem(name);
 }
 
-/// First entry of Combo3 equal to the name but for case; -1 without one.
-int entryLike(const Form2& form, const QString& name) {
-  for (int entry = 0; entry < form.Combo3->ListCount(); ++entry) {
-    if (platform::SameName(form.Combo3->List(entry), name)) return entry;
-  }
-  return -1;
-}
-
 /// First row of the name as an ini file tells names apart: not by case.
 auto rowLike(themefiles::ModuleState& state, const QString& name) {
   return std::find_if(state.ThemeColors.begin(), state.ThemeColors.end(),
@@ -99,8 +91,7 @@ void FillColorEditor(Form2& form, const QString& Value) {
   form.Command5->setEnabled(true);
   listNames(form, namesOfGroup(form.Services.State, group));
   form.Combo4->SetListIndex(group);
-  const int entry = form.Combo3->findText(Value, Qt::MatchExactly | Qt::MatchCaseSensitive);
-  if (entry >= 0) form.Combo3->SetListIndex(entry);
+  form.Combo3->SelectText(Value);
 }
 
 void Combo4_Click(Form2& form, controls::Cause cause) {
@@ -149,7 +140,7 @@ void Command3_Click(Form2& form) {
   const QString name =
       form.Services.Dialogs.InputBox(&form, QStringLiteral("Name of the New Color:"), QStringLiteral("New Color"));
   if (name.isEmpty()) return;
-  if (entryLike(form, name) >= 0) {
+  if (form.Combo3->EntryLike(name) >= 0) {
     ShowErrorBox(form, QStringLiteral("Color already exist!"));
     return;
   }
@@ -168,7 +159,7 @@ void Command3_Click(Form2& form) {
   if (row->Name.isEmpty()) row->Name = name;
   setRowsLike(state, name, newColor());
   form.Combo3->AddItem(row->Name);
-  form.Combo3->SetListIndex(entryLike(form, name));
+  form.Combo3->SetListIndex(form.Combo3->EntryLike(name));
   QStringList notes{*note};
   if (!replaced.isEmpty()) notes += QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced);
   notes.removeAll(QString());
@@ -188,7 +179,7 @@ void Command5_Click(Form2& form) {
   if (!note) return;
   // The row whose line has gone from the file, and its entry: not the selected one where two names differ in case only.
   const auto row = rowLike(state, name);
-  const int entry = form.Combo3->findText(row->Name, Qt::MatchExactly | Qt::MatchCaseSensitive);
+  const int entry = form.Combo3->findText(row->Name);
   *row = {};
   setRowsLike(state, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.Paths.ThemeFile));
   form.Combo3->RemoveItem(entry >= 0 ? entry : form.Combo3->ListIndex());

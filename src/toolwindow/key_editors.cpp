@@ -2,7 +2,6 @@
 
 #include <array>
 
-#include "platform/code_page.h"
 #include "platform/paths.h"
 #include "themefiles/ini_access.h"
 #include "toolwindow/edit_reports.h"
@@ -14,7 +13,7 @@ namespace {
 /// The names in which the two frames differ.
 struct KeyEditorRow {
   QStringView section;
-  QString themefiles::ThemePaths::*file;
+  QString themefiles::ThemePaths::*copy;
   controls::ComboBox* Form2::*list;
   controls::TextBox* Form2::*box;
   QStringView newKeyTitle;
@@ -36,9 +35,9 @@ struct Editor {
   QString newKeyTitle;
 };
 
-Editor editorOf(Form2& form, KeyEditor which) {
+Editor editorOf(const Form2& form, KeyEditor which) {
   const KeyEditorRow& row = Rows.at(static_cast<size_t>(which));
-  return {row.section.toString(), row.file,         form.Services.State.Paths.*row.file,
+  return {row.section.toString(), row.copy,         form.Services.State.Paths.*row.copy,
           *(form.*row.list),      *(form.*row.box), row.newKeyTitle.toString()};
 }
 
@@ -47,8 +46,7 @@ void fill(Form2& form, KeyEditor which, const QString& value) {
   editor.list.Clear();
   editor.box.SetText(QString());
   for (const QString& key : themefiles::KeyNames(editor.section, editor.file)) editor.list.AddItem(key);
-  const int entry = editor.list.findText(value, Qt::MatchExactly | Qt::MatchCaseSensitive);
-  if (entry >= 0) editor.list.SetListIndex(entry);
+  editor.list.SelectText(value);
 }
 
 std::optional<QString> writeKey(Form2& form, const Editor& editor, const QString& key,
@@ -56,20 +54,18 @@ std::optional<QString> writeKey(Form2& form, const Editor& editor, const QString
   return WriteAtOnce(form, WriteStep, editor.copy, editor.section, key, value);
 }
 
-bool listed(const Editor& editor, const QString& key) {
-  for (int entry = 0; entry < editor.list.ListCount(); ++entry) {
-    if (platform::SameName(editor.list.List(entry), key)) return true;
-  }
-  return false;
-}
-
 /// Whether the section has the key, also one that its list was too short for.
 bool keyExists(const Editor& editor, const QString& key) {
   const QString missing(QChar(1));
-  return listed(editor, key) || themefiles::GetINI(editor.section, key, missing, editor.file) != missing;
+  return editor.list.EntryLike(key) >= 0 || themefiles::GetINI(editor.section, key, missing, editor.file) != missing;
 }
 
 }  // namespace
+
+Reference ShownReference(const Form2& form, KeyEditor which) {
+  const Editor editor = editorOf(form, which);
+  return {editor.copy, editor.section, editor.list.Text(), editor.box.Text()};
+}
 
 void FillTextKeys(Form2& form, const QString& Value) {
   fill(form, KeyEditor::Text, Value);

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "themefiles/module_state.h"
+
 namespace toolwindow {
 
 class Form2;
@@ -9,6 +11,17 @@ class Form2;
 /// The frames Texts and Texture are one design: a list of the keys of a section, and a box with what the selected key
 /// stands for. Adding and removing a key write into the working copy at once.
 enum class KeyEditor { Text, Texture };
+
+/// A key of a language or skin file, and what it stands for.
+struct Reference {
+  QString themefiles::ThemePaths::*copy;  ///< the working copy that has the section
+  QString section;
+  QString name;  ///< of the key; empty when none is selected
+  QString content;
+};
+
+/// What the frame shows.
+Reference ShownReference(const Form2& form, KeyEditor which);
 
 /// Lists the keys of the section anew and selects the one that equals Value, if any.
 void FillTextKeys(Form2& form, const QString& Value);

@@ -7,6 +7,7 @@
 #include "themefiles/ini_access.h"
 #include "themefiles/working_copies.h"
 #include "toolwindow/edit_reports.h"
+#include "toolwindow/key_editors.h"
 #include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"
 
@@ -41,15 +42,14 @@ QString selectedValue(const Form2& form) {
   return platform::TrimBlanks(form.Combo2->Text().section(u'=', 0, 0));
 }
 
-/// The name that a list of names has selected.
-QString selectedName(const controls::ComboBox& list) {
-  if (list.Text().isEmpty()) throw platform::Failure(QStringLiteral("nothing is selected"));
-  return list.Text();
+/// A name that a list of names has selected.
+QString selectedName(const QString& name) {
+  if (name.isEmpty()) throw platform::Failure(QStringLiteral("nothing is selected"));
+  return name;
 }
 
-using Copy = QString themefiles::ThemePaths::*;
-
-void put(Form2& form, Commit& commit, Copy copy, const QString& section, const QString& key, const QString& value) {
+void put(Form2& form, Commit& commit, QString themefiles::ThemePaths::*copy, const QString& section, const QString& key,
+         const QString& value) {
   const QString note = themefiles::PutInCopy(form.Services.State, copy, section, key, value);
   if (!note.isEmpty()) commit.notes += note;
 }
@@ -60,11 +60,12 @@ void commitValue(Form2& form, Commit& commit, const QString& value) {
 }
 
 /// Writes a reference into the theme, and what it refers to into the file that owns that.
-void commitReference(Form2& form, Commit& commit, const QString& name, const QString& section, const QString& content,
-                     Copy copy) {
-  themefiles::CheckLineText(content);
+void commitReference(Form2& form, Commit& commit, KeyEditor editor) {
+  const Reference shown = ShownReference(form, editor);
+  const QString name = selectedName(shown.name);
+  themefiles::CheckLineText(shown.content);
   put(form, commit, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, name);
-  put(form, commit, copy, section, name, content);
+  put(form, commit, shown.copy, shown.section, name, shown.content);
   SetSelectedRowValue(form, name);
 }
 
@@ -94,15 +95,13 @@ void writeEditor(Form2& form, Commit& commit, KeyGroup group) {
       commitValue(form, commit, selectedValue(form));
       break;
     case EditorFrame::Color:
-      commitValue(form, commit, selectedName(*form.Combo3));
+      commitValue(form, commit, selectedName(form.Combo3->Text()));
       break;
     case EditorFrame::Texts:
-      commitReference(form, commit, selectedName(*form.Combo5), QStringLiteral("Text"), form.Text2->Text(),
-                      &themefiles::ThemePaths::LanguageFile);
+      commitReference(form, commit, KeyEditor::Text);
       break;
     case EditorFrame::Texture:
-      commitReference(form, commit, selectedName(*form.Combo6), QStringLiteral("Textures"), form.Text3->Text(),
-                      &themefiles::ThemePaths::SkinFile);
+      commitReference(form, commit, KeyEditor::Texture);
       break;
   }
 }

@@ -21,12 +21,6 @@ void selectNumbered(Form2& form, const QString& value) {
   form.Combo2->SetListIndex(*index);
 }
 
-/// Selects the entry that equals the value; without one nothing is selected.
-void selectWord(Form2& form, const QString& value) {
-  const int entry = form.Combo2->findText(value, Qt::MatchExactly | Qt::MatchCaseSensitive);
-  if (entry >= 0) form.Combo2->SetListIndex(entry);
-}
-
 void loadEditor(Form2& form, const GroupRow& group, const QString& value) {
   switch (group.frame) {
     case EditorFrame::Numbers:
@@ -37,7 +31,8 @@ void loadEditor(Form2& form, const GroupRow& group, const QString& value) {
       break;
     case EditorFrame::Selection:
       fillSelection(form, group);
-      group.group == KeyGroup::Type ? selectWord(form, value) : selectNumbered(form, value);
+      // A type outside the list leaves nothing selected.
+      group.group == KeyGroup::Type ? static_cast<void>(form.Combo2->SelectText(value)) : selectNumbered(form, value);
       break;
     case EditorFrame::Color:
       FillColorEditor(form, value);
