@@ -6,14 +6,12 @@
 #include <QShowEvent>
 
 #include "controls/twips.h"
-#include "platform/files.h"
 #include "platform/fonts.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/theme_paths.h"
 
 namespace mainwindows {
 namespace {
-
-const QString IniEnding = QStringLiteral(".ini");
 
 QString iniValue(const QString& section, const QString& key, const QString& file) {
   return themefiles::GetINI(section, key, QString(), file);
@@ -21,8 +19,8 @@ QString iniValue(const QString& section, const QString& key, const QString& file
 
 }  // namespace
 
-Form3::Form3(themefiles::ThemePaths folders, const QStringList& themes,
-             std::function<bool(const themefiles::ThemePaths&)> open, QWidget* owner)
+Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(const themefiles::ThemePaths&)> open,
+             QWidget* owner)
     : QDialog(owner, Qt::Dialog | Qt::CustomizeWindowHint | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
                          Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
       List1(new controls::ListBox(controls::ListBox::Order::AsAdded, this)),
@@ -34,7 +32,7 @@ Form3::Form3(themefiles::ThemePaths folders, const QStringList& themes,
       Combo1(new controls::ComboBox(this)),
       Command1(new QPushButton(QStringLiteral("&Open"), this)),
       Command2(new QPushButton(QStringLiteral("&Cancel"), this)),
-      paths_(std::move(folders)),
+      gameFolder_(std::move(gameFolder)),
       open_(std::move(open)) {
   setObjectName(QStringLiteral("Form3"));
   label(QStringLiteral("Choose your Theme:"), 120, 120, 2295);
@@ -74,16 +72,13 @@ QLabel* Form3::label(const QString& text, double left, double top, double width)
 }
 
 void Form3::Form_Load() {
-  for (QString& name : platform::ListFiles(paths_.ExeDirectory + QStringLiteral("Languages"), IniEnding)) {
-    name.chop(IniEnding.size());
-    Combo1->AddItem(name);
-  }
+  for (const QString& name : themefiles::LanguagesOf(gameFolder_)) Combo1->AddItem(name);
   if (!Combo1->SelectText(QStringLiteral("English")) && Combo1->ListCount() > 0) Combo1->SetListIndex(0);
 }
 
 void Form3::Form_Activate() {
   List1->SetListIndex(0);
-  setWindowTitle(QStringLiteral("Open Theme [") + paths_.ExeDirectory + u']');
+  setWindowTitle(QStringLiteral("Open Theme [") + gameFolder_ + u']');
 }
 
 void Form3::showEvent(QShowEvent* event) {
@@ -92,15 +87,11 @@ void Form3::showEvent(QShowEvent* event) {
 }
 
 void Form3::List1_Click() {
-  const QString theme = List1->Text();
-  paths_.ThemeFile = paths_.ExeDirectory + QStringLiteral("Themes\\") + theme + IniEnding;
-  Label4->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Name"), paths_.ThemeFile));
-  Label5->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Creator"), paths_.ThemeFile));
+  const QString theme = chosen().ThemeFile;
+  Label4->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Name"), theme));
+  Label5->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Creator"), theme));
   List2->Clear();
-  for (QString& name : platform::ListFiles(paths_.ExeDirectory + QStringLiteral("Skins\\") + theme, IniEnding)) {
-    name.chop(IniEnding.size());
-    List2->AddItem(name);
-  }
+  for (const QString& name : themefiles::SkinsOf(gameFolder_, List1->Text())) List2->AddItem(name);
   Command1->setEnabled(List2->ListCount() > 0);
   if (List2->ListCount() > 0) {
     List2->SetListIndex(0);
@@ -111,15 +102,17 @@ void Form3::List1_Click() {
 }
 
 void Form3::List2_Click() {
-  paths_.SkinDirectory = paths_.ExeDirectory + QStringLiteral("Skins\\") + List1->Text();
-  paths_.SkinFile = paths_.SkinDirectory + u'\\' + List2->Text() + IniEnding;
-  Label9->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Name"), paths_.SkinFile));
-  Label10->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Autor"), paths_.SkinFile));
+  const QString skin = chosen().SkinFile;
+  Label9->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Name"), skin));
+  Label10->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Autor"), skin));
 }
 
 void Form3::Command1_Click() {
-  paths_.LanguageFile = paths_.LanguagesDirectory + u'\\' + Combo1->Text() + IniEnding;
-  if (open_(paths_)) accept();
+  if (open_(chosen())) accept();
+}
+
+themefiles::ThemePaths Form3::chosen() const {
+  return themefiles::PathsOf(gameFolder_, List1->Text(), List2->Text(), Combo1->Text());
 }
 
 }  // namespace mainwindows

@@ -12,16 +12,16 @@
 
 namespace mainwindows {
 
-/// The Open Theme dialog: one theme, one of its skins, one language. It works on paths of its own; the open theme isn't
-/// touched until its caller takes them.
+/// The Open Theme dialog: one theme, one of its skins, one language. It tells their paths and touches nothing else of
+/// the program.
 class Form3 : public QDialog {
   Q_OBJECT
 
  public:
-  /// `folders` names the game folder and its languages. `open` makes the working copies of the choice; false keeps the
-  /// dialog up.
-  Form3(themefiles::ThemePaths folders, const QStringList& themes,
-        std::function<bool(const themefiles::ThemePaths&)> open, QWidget* owner);
+  /// `themes` are those of the game folder, at least one. `open` makes the working copies of the choice; false keeps
+  /// the dialog up.
+  Form3(QString gameFolder, const QStringList& themes, std::function<bool(const themefiles::ThemePaths&)> open,
+        QWidget* owner);
 
   controls::ListBox* List1;    ///< themes
   controls::ListBox* List2;    ///< skins of the theme
@@ -43,8 +43,9 @@ class Form3 : public QDialog {
   void List1_Click();
   void List2_Click();
   void Command1_Click();
+  themefiles::ThemePaths chosen() const;
 
-  themefiles::ThemePaths paths_;
+  QString gameFolder_;
   std::function<bool(const themefiles::ThemePaths&)> open_;
 };
 

@@ -9,6 +9,7 @@
 #include "platform/files.h"
 #include "platform/system_colors.h"
 #include "themefiles/colour_tables.h"
+#include "themefiles/theme_paths.h"
 #include "themefiles/working_copies.h"
 #include "toolwindow/tool_events.h"
 
@@ -40,13 +41,6 @@ QString findGameFolder(Form1& form) {
   platform::Guarded(form, QStringLiteral("The game folder can't be kept in config.ini"),
                     [&] { form.Config.SetGameFolder(folder); });
   return folder;
-}
-
-QStringList themesOf(const QString& gameFolder) {
-  const QString ending = QStringLiteral(".ini");
-  QStringList themes = platform::ListFiles(gameFolder + QStringLiteral("Themes\\"), ending);
-  for (QString& theme : themes) theme.chop(ending.size());
-  return themes;
 }
 
 /// Keeps a report for a later moment.
@@ -133,11 +127,9 @@ void ReadTheme(Form1& form) {
 void OpenTheme(Form1& form) {
   platform::GuardedSilently([&] {
     if (!mayDropChanges(form)) return;
-    themefiles::ThemePaths folders;
-    folders.ExeDirectory = findGameFolder(form);
-    if (folders.ExeDirectory.isEmpty()) return;
-    folders.LanguagesDirectory = folders.ExeDirectory + QStringLiteral("\\Languages");
-    const QStringList themes = themesOf(folders.ExeDirectory);
+    const QString gameFolder = findGameFolder(form);
+    if (gameFolder.isEmpty()) return;
+    const QStringList themes = themefiles::ThemesOf(gameFolder);
     if (themes.isEmpty()) {
       form.Services.Dialogs.MessageBox(&form, QStringLiteral("No Themes Found"), QStringLiteral("Error"),
                                        platform::BoxKind::Error);
@@ -145,7 +137,8 @@ void OpenTheme(Form1& form) {
     }
     Note note;
     Form3 dialog(
-        folders, themes, [&](const themefiles::ThemePaths& chosen) { return openCopies(form, chosen, note); }, &form);
+        gameFolder, themes, [&](const themefiles::ThemePaths& chosen) { return openCopies(form, chosen, note); },
+        &form);
     if (dialog.exec() != QDialog::Accepted) return;
     dropEarlierTheme(form);
     showToolWindow(form);

@@ -1,0 +1,41 @@
+#include "themefiles/theme_paths.h"
+
+#include "platform/files.h"
+
+namespace themefiles {
+namespace {
+
+const QString Ending = QStringLiteral(".ini");
+
+QStringList namesIn(const QString& folder) {
+  QStringList names = platform::ListFiles(folder, Ending);
+  for (QString& name : names) name.chop(Ending.size());
+  return names;
+}
+
+}  // namespace
+
+QStringList ThemesOf(const QString& gameFolder) {
+  return namesIn(gameFolder + QStringLiteral("Themes\\"));
+}
+
+QStringList SkinsOf(const QString& gameFolder, const QString& theme) {
+  return namesIn(gameFolder + QStringLiteral("Skins\\") + theme);
+}
+
+QStringList LanguagesOf(const QString& gameFolder) {
+  return namesIn(gameFolder + QStringLiteral("Languages"));
+}
+
+ThemePaths PathsOf(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language) {
+  ThemePaths paths;
+  paths.ExeDirectory = gameFolder;
+  paths.LanguagesDirectory = gameFolder + QStringLiteral("\\Languages");
+  paths.ThemeFile = gameFolder + QStringLiteral("Themes\\") + theme + Ending;
+  paths.SkinDirectory = gameFolder + QStringLiteral("Skins\\") + theme;
+  paths.SkinFile = paths.SkinDirectory + u'\\' + skin + Ending;
+  paths.LanguageFile = paths.LanguagesDirectory + u'\\' + language + Ending;
+  return paths;
+}
+
+}  // namespace themefiles
