@@ -5,7 +5,6 @@
 #include <QAbstractItemView>
 #include <QScreen>
 #include <QScrollBar>
-#include <QWheelEvent>
 
 #include "platform/code_page.h"
 #include "platform/failure.h"
@@ -18,7 +17,7 @@ constexpr int ShownRows = 20;
 
 }  // namespace
 
-ComboBox::ComboBox(QWidget* parent) : QComboBox(parent) {
+ComboBox::ComboBox(QWidget* parent) : WheelWithFocus(parent) {
   setFocusPolicy(Qt::StrongFocus);
   setMaxVisibleItems(ShownRows);
   connect(this, &QComboBox::activated, this, [this] { Q_EMIT Click(Cause::User); });
@@ -60,14 +59,6 @@ bool ComboBox::SelectText(const QString& text) {
 
 void ComboBox::SetText(const QString& text) {
   if (!SelectText(text)) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
-}
-
-void ComboBox::wheelEvent(QWheelEvent* event) {
-  if (hasFocus()) {
-    QComboBox::wheelEvent(event);
-  } else {
-    event->ignore();
-  }
 }
 
 void ComboBox::showPopup() {

@@ -3,12 +3,13 @@
 #include <QComboBox>
 
 #include "controls/cause.h"
+#include "controls/wheel_with_focus.h"
 
 namespace controls {
 
 /// A drop-down list that takes no free text. Filling, clearing and removing select nothing and fire nothing; a written
 /// ListIndex and the user's own choice fire Click, also when the entry is the one that was selected before.
-class ComboBox : public QComboBox {
+class ComboBox : public WheelWithFocus<QComboBox> {
   Q_OBJECT
 
  public:
@@ -16,7 +17,8 @@ class ComboBox : public QComboBox {
 
   void Clear();
   void AddItem(const QString& text);
-  /// Removes the entry; nothing is selected afterwards when it was the selected one.
+  /// Removes the entry; nothing is selected afterwards when it was the selected one. Throws platform::Failure for an
+  /// index outside the list.
   void RemoveItem(int index);
   int ListCount() const { return count(); }
   QString List(int index) const { return itemText(index); }
@@ -38,9 +40,6 @@ class ComboBox : public QComboBox {
 
  Q_SIGNALS:
   void Click(controls::Cause cause);
-
- protected:
-  void wheelEvent(QWheelEvent* event) override;
 };
 
 }  // namespace controls

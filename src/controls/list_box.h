@@ -3,13 +3,14 @@
 #include <QListWidget>
 
 #include "controls/cause.h"
+#include "controls/row_picking.h"
 
 namespace controls {
 
 /// A list box of one column and one selected row. A sorted one keeps its rows in the order of platform::NameLess
 /// (equal names in the order in which they came); a selected row stays selected when others come before it.
 /// Click fires for a written ListIndex, a mouse click on a row (also on the selected one) and a change by the keyboard.
-class ListBox : public QListWidget {
+class ListBox : public RowPicking<QListWidget> {
   Q_OBJECT
 
  public:
@@ -34,14 +35,9 @@ class ListBox : public QListWidget {
   void Click(controls::Cause cause);
 
  protected:
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void mouseMoveEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  void picked(int row) override;
 
  private:
-  void select(int row);
-
   Order order_;
 };
 

@@ -3,11 +3,10 @@
 #include <algorithm>
 
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 namespace controls {
 
-NumberBar::NumberBar(int limit, int value, QWidget* parent) : QScrollBar(Qt::Vertical, parent) {
+NumberBar::NumberBar(int limit, int value, QWidget* parent) : WheelWithFocus(Qt::Vertical, parent) {
   setRange(-limit, limit);
   setSingleStep(1);
   setPageStep(1);
@@ -24,14 +23,6 @@ void NumberBar::SetValue(int value) {
 void NumberBar::SetValueQuietly(int value) {
   const QSignalBlocker quiet(this);
   SetValue(value);
-}
-
-void NumberBar::wheelEvent(QWheelEvent* event) {
-  if (hasFocus()) {
-    QScrollBar::wheelEvent(event);
-  } else {
-    event->ignore();
-  }
 }
 
 }  // namespace controls

@@ -2,10 +2,12 @@
 
 #include <QScrollBar>
 
+#include "controls/wheel_with_focus.h"
+
 namespace controls {
 
 /// A vertical scroll bar for a number: its upper arrow, the Up key and a wheel turned away raise the value. Steps of 1.
-class NumberBar : public QScrollBar {
+class NumberBar : public WheelWithFocus<QScrollBar> {
   Q_OBJECT
 
  public:
@@ -21,9 +23,6 @@ class NumberBar : public QScrollBar {
 
  Q_SIGNALS:
   void Change();
-
- protected:
-  void wheelEvent(QWheelEvent* event) override;
 };
 
 }  // namespace controls

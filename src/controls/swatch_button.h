@@ -12,6 +12,7 @@ class SwatchButton : public QPushButton {
   using QPushButton::QPushButton;
 
   const QColor& BackColor() const { return backColor_; }
+  /// The colour that the button shows.
   void SetBackColor(const QColor& color);
 
  protected:

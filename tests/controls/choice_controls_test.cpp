@@ -146,6 +146,7 @@ class ChoiceControlsTest : public QObject {
                               static_cast<QWidget*>(&window.combo)}) {
         widget->setFocus();
         QTest::keyClick(widget, row.key);
+        if (widget != &window.combo) QTest::keyClick(widget, Qt::Key_Space, Qt::ControlModifier);
       }
       QCOMPARE(window.state(), (QList<qsizetype>{row.row, row.clicks, row.row, row.clicks}));
       QCOMPARE(window.combo.ListIndex(), row.entry);

@@ -1,4 +1,4 @@
-#include "controls/row_keys.h"
+#include "controls/row_picking.h"
 
 #include <algorithm>
 

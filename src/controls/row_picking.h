@@ -1,0 +1,80 @@
+#pragma once
+
+#include <algorithm>
+#include <optional>
+
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QWidget>
+
+namespace controls {
+
+/// The row that a key leads to from the selected one (-1 without one) in a list that shows `page` rows; none for a key
+/// that doesn't move the selection, and in an empty list.
+std::optional<int> RowForKey(int key, int selected, int rows, int page);
+
+/// A view of rows in which the user picks one: by a press of the left button, also on the row that is selected, or by a
+/// key that changes the row. Neither a drag nor a key leaves a list without its selected row.
+template <typename View>
+class RowPicking : public View {
+ protected:
+  using View::View;
+
+  /// The user has picked the row.
+  virtual void picked(int row) = 0;
+
+  /// Number of the selected row, -1 without one.
+  int selectedRow() const {
+    const QModelIndexList cells = this->selectionModel()->selectedIndexes();
+    return cells.isEmpty() ? -1 : cells.first().row();
+  }
+
+  /// Selects the row as code would; none for a row outside the list.
+  void select(int row) {
+    this->selectionModel()->setCurrentIndex(this->model()->index(row, 0),
+                                            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  }
+
+  void mousePressEvent(QMouseEvent* event) override {
+    const int row = rowAt(*event);
+    if (event->button() != Qt::LeftButton || row < 0) return;
+    select(row);
+    picked(row);
+  }
+
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    // The second press of a double click picks nothing; on another row it is a press like any other.
+    if (rowAt(*event) != selectedRow()) mousePressEvent(event);
+  }
+
+  void mouseMoveEvent(QMouseEvent* event) override {
+    if (event->buttons() == Qt::NoButton) View::mouseMoveEvent(event);
+  }
+
+  void keyPressEvent(QKeyEvent* event) override {
+    const int before = selectedRow();
+    const int rows = this->model()->rowCount();
+    const int page = rows == 0 ? 1 : std::max(1, this->viewport()->height() / std::max(1, this->sizeHintForRow(0)));
+    if (const std::optional<int> row = RowForKey(event->key(), before, rows, page)) {
+      select(*row);
+    } else {
+      // The focus alone makes the first row the current one: a search by letters would begin behind it.
+      if (before < 0) this->selectionModel()->clearCurrentIndex();
+      View::keyPressEvent(event);
+    }
+    const int now = selectedRow();
+    if (now >= 0 && now != before) picked(now);
+  }
+
+  /// Ctrl takes the selection off a row elsewhere, not here.
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override {
+    const QItemSelectionModel::SelectionFlags command = View::selectionCommand(index, event);
+    return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;
+  }
+
+ private:
+  int rowAt(const QMouseEvent& event) const { return this->indexAt(event.position().toPoint()).row(); }
+};
+
+}  // namespace controls
