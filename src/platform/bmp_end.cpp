@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <iterator>
 
+#include "platform/bitmaps.h"
 #include "platform/byte_cursor.h"
 #include "platform/picture_ends.h"
 
@@ -63,7 +64,7 @@ bool IsWholeBmp(QByteArrayView bytes) {
   if (compression == Runs8 || compression == Runs4) {
     return runsFill(ByteCursor(bytes, pixels), compression == Runs4, width, height);
   }
-  const qint64 rowBytes = (width * bits + 31) / 32 * 4;
+  const qint64 rowBytes = RowBytes(width, bits);
   return bytes.size() >= pixels && (bytes.size() - pixels) / height >= rowBytes;
 }
 

@@ -43,11 +43,17 @@ QFont fontOf(const QString& face) {
 
 }  // namespace
 
+QFont InGreySteps(const QFont& font) {
+  constexpr auto GreySteps = QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias);
+  if (font.hintingPreference() == QFont::PreferNoHinting && font.styleStrategy() == GreySteps) return font;
+  QFont grey = font;
+  grey.setHintingPreference(QFont::PreferNoHinting);
+  grey.setStyleStrategy(GreySteps);
+  return grey;
+}
+
 QFont FaceFont(const QString& face) {
-  QFont font = fontOf(face);
-  font.setHintingPreference(QFont::PreferNoHinting);
-  font.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
-  return font;
+  return InGreySteps(fontOf(face));
 }
 
 QFont ControlFont(const QString& face, int pixels) {
@@ -57,7 +63,6 @@ QFont ControlFont(const QString& face, int pixels) {
 }
 
 QFont DrawnFont(const QFont& font) {
-  constexpr double LargestPoints = 2160;
   QFont drawn = FaceFont(font.family());
   if (drawn.weight() == QFont::Normal) drawn.setWeight(font.weight());
   drawn.setItalic(font.italic());

@@ -5,8 +5,14 @@
 
 namespace platform {
 
-/// The font of a face, or its substitute where the machine lacks it, measured in pixels (96 of them an inch), without
-/// hinting and without colour fringes, so that a text is the same picture on every machine with the same fonts.
+/// A font isn't drawn larger than this.
+constexpr double LargestPoints = 2160;
+
+/// The font without hinting and without colour fringes, so that a text is the same picture on every machine with the
+/// same fonts.
+QFont InGreySteps(const QFont& font);
+
+/// The font of a face, or its substitute where the machine lacks it, in grey steps and still without a size.
 QFont FaceFont(const QString& face);
 
 /// The font of a control: the face at a height in pixels.

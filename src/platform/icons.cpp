@@ -1,12 +1,11 @@
 #include "platform/icons.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
-#include <QtEndian>
-
+#include "platform/bitmaps.h"
 #include "platform/byte_cursor.h"
+#include "platform/little_endian.h"
 
 namespace platform {
 
@@ -14,16 +13,11 @@ namespace {
 
 constexpr QRgb Black = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
-constexpr int HalfAlpha = 128;
 constexpr int LargestSide = 256;
 constexpr int MostColors = 256;
 constexpr quint32 BitmapHeaderSize = 40;
 constexpr qsizetype EntryPlace = 6;
 constexpr qsizetype EntrySize = 16;
-
-int rowSize(int width, int bits) {
-  return (width * bits + 31) / 32 * 4;
-}
 
 /// What precedes the pixels of an icon's image.
 struct Head {
@@ -68,13 +62,6 @@ QRgb colorAt(QByteArrayView row, int x, int bits, const std::vector<QRgb>& palet
   return qRgb(pixel[2], pixel[1], pixel[0]);
 }
 
-template <typename Number>
-void append(QByteArray& bytes, Number number) {
-  char stored[sizeof(Number)];
-  qToLittleEndian(number, stored);
-  bytes.append(stored, sizeof stored);
-}
-
 /// The colours of the pixels in the order of their values.
 std::vector<QRgb> colorsOf(const QImage& picture) {
   std::vector<QRgb> colors;
@@ -88,9 +75,9 @@ std::vector<QRgb> colorsOf(const QImage& picture) {
 }
 
 QByteArray colorRows(const QImage& picture, const std::vector<QRgb>& palette) {
-  QByteArray rows(qsizetype(rowSize(picture.width(), 8)) * picture.height(), '\0');
+  QByteArray rows(qsizetype(RowBytes(picture.width(), 8)) * picture.height(), '\0');
   char* row = rows.data();
-  for (int y = picture.height(); y-- > 0; row += rowSize(picture.width(), 8)) {
+  for (int y = picture.height(); y-- > 0; row += RowBytes(picture.width(), 8)) {
     for (int x = 0; x < picture.width(); ++x) {
       row[x] = char(std::lower_bound(palette.begin(), palette.end(), picture.pixel(x, y)) - palette.begin());
     }
@@ -99,9 +86,9 @@ QByteArray colorRows(const QImage& picture, const std::vector<QRgb>& palette) {
 }
 
 QByteArray maskRows(const QImage& mask) {
-  QByteArray rows(qsizetype(rowSize(mask.width(), 1)) * mask.height(), '\0');
+  QByteArray rows(qsizetype(RowBytes(mask.width(), 1)) * mask.height(), '\0');
   char* row = rows.data();
-  for (int y = mask.height(); y-- > 0; row += rowSize(mask.width(), 1)) {
+  for (int y = mask.height(); y-- > 0; row += RowBytes(mask.width(), 1)) {
     for (int x = 0; x < mask.width(); ++x) {
       if (mask.pixel(x, y) == White) row[x / 8] = char(uchar(row[x / 8]) | 0x80U >> x % 8);
     }
@@ -123,17 +110,17 @@ std::optional<IconBitmaps> ReadIcon(QByteArrayView file) {
   std::vector<QRgb> palette;
   palette.reserve(size_t(head->colors));
   for (int i = 0; i < head->colors; ++i) palette.push_back(Black | (cursor.little32() & RGB_MASK));
-  const int colorSize = rowSize(head->width, head->bits);
-  const int maskSize = rowSize(head->width, 1);
-  const QByteArrayView colors = cursor.take(qint64(colorSize) * head->height);
-  const QByteArrayView masks = cursor.take(qint64(maskSize) * head->height);
+  const qint64 colorSize = RowBytes(head->width, head->bits);
+  const qint64 maskSize = RowBytes(head->width, 1);
+  const QByteArrayView colors = cursor.take(colorSize * head->height);
+  const QByteArrayView masks = cursor.take(maskSize * head->height);
   if (!cursor.inside()) return std::nullopt;
   const QSize size(head->width, head->height);
   IconBitmaps icon{QImage(size, QImage::Format_RGB32), QImage(size, QImage::Format_RGB32)};
   for (int y = 0; y < head->height; ++y) {
     const int stored = head->height - 1 - y;  // the bottom row comes first
-    const QByteArrayView colorRow = colors.sliced(qsizetype(stored) * colorSize, colorSize);
-    const QByteArrayView maskRow = masks.sliced(qsizetype(stored) * maskSize, maskSize);
+    const QByteArrayView colorRow = colors.sliced(qsizetype(stored * colorSize), qsizetype(colorSize));
+    const QByteArrayView maskRow = masks.sliced(qsizetype(stored * maskSize), qsizetype(maskSize));
     for (int x = 0; x < head->width; ++x) {
       const bool isClear = indexAt(maskRow, x, 1) != 0;
       icon.Mask.setPixel(x, y, isClear ? White : Black);
@@ -149,7 +136,7 @@ IconBitmaps BitmapsOf(const QImage& picture) {
   for (int y = 0; y < source.height(); ++y) {
     for (int x = 0; x < source.width(); ++x) {
       const QRgb pixel = source.pixel(x, y);
-      const bool isClear = qAlpha(pixel) < HalfAlpha;
+      const bool isClear = !IsSeen(pixel);
       icon.Mask.setPixel(x, y, isClear ? White : Black);
       icon.Color.setPixel(x, y, isClear ? Black : pixel | Black);
     }
@@ -165,19 +152,19 @@ std::optional<QByteArray> WriteIcon(const QImage& picture) {
   const QByteArray pixels = colorRows(icon.Color, palette) + maskRows(icon.Mask);
   palette.resize(MostColors, Black);
   QByteArray file;
-  for (const int number : {0, 1, 1}) append<quint16>(file, quint16(number));  // an icon, one image
-  for (const int number : {picture.width(), picture.height(), 0, 0}) append<quint8>(file, quint8(number));
-  for (const int number : {1, 8}) append<quint16>(file, quint16(number));  // planes, bits
-  append<quint32>(file, quint32(BitmapHeaderSize + 4 * MostColors + pixels.size()));
-  append<quint32>(file, quint32(EntryPlace + EntrySize));
-  append<quint32>(file, BitmapHeaderSize);
-  append<qint32>(file, picture.width());
-  append<qint32>(file, 2 * picture.height());
-  for (const int number : {1, 8}) append<quint16>(file, quint16(number));
-  append<quint32>(file, 0);  // uncompressed
-  append<quint32>(file, quint32(pixels.size()));
-  for (const int number : {0, 0, 0, 0}) append<quint32>(file, quint32(number));
-  for (const QRgb color : palette) append<quint32>(file, color & RGB_MASK);
+  for (const int number : {0, 1, 1}) AppendLittle<quint16>(file, quint16(number));  // an icon, one image
+  for (const int number : {picture.width(), picture.height(), 0, 0}) AppendLittle<quint8>(file, quint8(number));
+  for (const int number : {1, 8}) AppendLittle<quint16>(file, quint16(number));  // planes, bits
+  AppendLittle<quint32>(file, quint32(BitmapHeaderSize + 4 * MostColors + pixels.size()));
+  AppendLittle<quint32>(file, quint32(EntryPlace + EntrySize));
+  AppendLittle<quint32>(file, BitmapHeaderSize);
+  AppendLittle<qint32>(file, picture.width());
+  AppendLittle<qint32>(file, 2 * picture.height());
+  for (const int number : {1, 8}) AppendLittle<quint16>(file, quint16(number));
+  AppendLittle<quint32>(file, 0);  // uncompressed
+  AppendLittle<quint32>(file, quint32(pixels.size()));
+  for (const int number : {0, 0, 0, 0}) AppendLittle<quint32>(file, quint32(number));
+  for (const QRgb color : palette) AppendLittle<quint32>(file, color & RGB_MASK);
   return file + pixels;
 }
 

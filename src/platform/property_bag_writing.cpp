@@ -5,6 +5,7 @@
 
 #include "platform/code_page.h"
 #include "platform/failure.h"
+#include "platform/little_endian.h"
 #include "platform/property_bag_bytes.h"
 #include "platform/property_bag_format.h"
 
@@ -25,15 +26,8 @@ namespace {
 
 constexpr double PointsPerPixel = 0.75;  // 96 pixels an inch
 
-template <typename Number>
-void append(QByteArray& bytes, Number number) {
-  char stored[sizeof(Number)];
-  qToLittleEndian(number, stored);
-  bytes.append(stored, sizeof stored);
-}
-
 void appendText(QByteArray& bytes, QStringView text) {
-  for (const QChar unit : text) append<quint16>(bytes, unit.unicode());
+  for (const QChar unit : text) AppendLittle<quint16>(bytes, unit.unicode());
 }
 
 [[noreturn]] void refuse(const QString& key) {
@@ -46,19 +40,19 @@ QByteArray fontBytes(const QString& key, const QFont& font) {
   if (!name || name->size() > LongestName) refuse(key);
   const double points = font.pointSizeF() > 0 ? font.pointSizeF() : font.pixelSize() * PointsPerPixel;
   QByteArray bytes(bag::FontClass, bag::ClassSize);
-  append<quint8>(bytes, bag::FontVersion);
-  append<quint16>(bytes, 0);  // character set
-  append<quint8>(bytes, 0);   // flags
-  append<quint16>(bytes, quint16(font.weight()));
-  append<quint32>(bytes, quint32(qRound64(points * bag::SizesPerPoint)));
-  append<quint8>(bytes, quint8(name->size()));
+  AppendLittle<quint8>(bytes, bag::FontVersion);
+  AppendLittle<quint16>(bytes, 0);  // character set
+  AppendLittle<quint8>(bytes, 0);   // flags
+  AppendLittle<quint16>(bytes, quint16(font.weight()));
+  AppendLittle<quint32>(bytes, quint32(qRound64(points * bag::SizesPerPoint)));
+  AppendLittle<quint8>(bytes, quint8(name->size()));
   return bytes + *name;
 }
 
 QByteArray pictureBytes(const QByteArray& file) {
   QByteArray bytes(bag::PictureClass, bag::ClassSize);
-  append<quint32>(bytes, bag::PictureMark);
-  append<quint32>(bytes, quint32(file.size()));
+  AppendLittle<quint32>(bytes, bag::PictureMark);
+  AppendLittle<quint32>(bytes, quint32(file.size()));
   return bytes + file;
 }
 
@@ -72,19 +66,19 @@ StoredValue storedValue(const PropertyBag::Record& record) {
   QByteArray bytes;
   switch (value.typeId()) {
     case QMetaType::Short:
-      append(bytes, value.value<qint16>());
+      AppendLittle(bytes, value.value<qint16>());
       return {bag::Int16Tag, bytes};
     case QMetaType::Int:
-      append(bytes, value.value<qint32>());
+      AppendLittle(bytes, value.value<qint32>());
       return {bag::Int32Tag, bytes};
     case QMetaType::UInt:
-      append(bytes, value.value<quint32>());
+      AppendLittle(bytes, value.value<quint32>());
       return {bag::Int32Tag, bytes};
     case QMetaType::Bool:
-      append<qint16>(bytes, value.toBool() ? bag::StoredTrue : 0);
+      AppendLittle<qint16>(bytes, value.toBool() ? bag::StoredTrue : 0);
       return {bag::BooleanTag, bytes};
     case QMetaType::QString:
-      append<quint32>(bytes, quint32(value.toString().size()));
+      AppendLittle<quint32>(bytes, quint32(value.toString().size()));
       appendText(bytes, value.toString());
       return {bag::StringTag, bytes};
     case QMetaType::QFont:
@@ -103,10 +97,10 @@ QByteArray storedRecord(const PropertyBag::Record& record) {
   const qsizetype bare = bag::RecordHead + 2 * key.size() + value.size();
   const qsizetype padding = (bag::Alignment - bare % bag::Alignment) % bag::Alignment;
   QByteArray bytes;
-  append<quint16>(bytes, tag);
-  append<quint16>(bytes, quint16(key.size()));
-  append<quint32>(bytes, bag::KeyHash(key));
-  append<qint32>(bytes, qint32(bare + padding));
+  AppendLittle<quint16>(bytes, tag);
+  AppendLittle<quint16>(bytes, quint16(key.size()));
+  AppendLittle<quint32>(bytes, bag::KeyHash(key));
+  AppendLittle<qint32>(bytes, qint32(bare + padding));
   appendText(bytes, key);
   return bytes + value + QByteArray(padding, '\0');
 }
@@ -124,10 +118,10 @@ QByteArray StoredBytes(const PropertyBag& bag) {
   if (!records.isEmpty()) qToLittleEndian(qint32(-last), records.data() + last + DistancePlace);
   const auto following = quint32(records.size() + bag::HeaderSize - bag::Uncounted);
   QByteArray bytes(bag::Mark);
-  append(bytes, bag::Version);
-  append(bytes, following);
-  append(bytes, bag::Magic);
-  append(bytes, following);
+  AppendLittle(bytes, bag::Version);
+  AppendLittle(bytes, following);
+  AppendLittle(bytes, bag::Magic);
+  AppendLittle(bytes, following);
   return bytes + records;
 }
 

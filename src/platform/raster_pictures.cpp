@@ -2,6 +2,7 @@
 
 #include <QPainter>
 
+#include "platform/bitmaps.h"
 #include "platform/raster_corners.h"
 
 namespace platform {
@@ -9,10 +10,9 @@ namespace platform {
 namespace {
 
 constexpr int BytesPerPixel = 3;
-constexpr int SeenAlpha = 128;
 
-int rowLength(int width) {
-  return (width * BytesPerPixel + 3) / 4 * 4;
+qsizetype rowLength(int width) {
+  return qsizetype(RowBytes(width, qint64(8) * BytesPerPixel));
 }
 
 QRgb combined(QRgb ground, QRgb pixel, RasterOperation operation) {
@@ -32,14 +32,14 @@ QRgb combined(QRgb ground, QRgb pixel, RasterOperation operation) {
 PixelRows GetDIBits(const QImage& bitmap) {
   const QImage pixels = bitmap.convertToFormat(QImage::Format_ARGB32);
   PixelRows rows{pixels.width(), pixels.height(), {}};
-  rows.Bytes.reserve(qsizetype(rowLength(rows.Width)) * rows.Height);
+  rows.Bytes.reserve(rowLength(rows.Width) * rows.Height);
   for (int y = rows.Height - 1; y >= 0; --y) {
     for (int x = 0; x < rows.Width; ++x) {
       const QRgb pixel = pixels.pixel(x, y);
       const QRgb color = qAlpha(pixel) == 0 ? 0 : pixel;
       rows.Bytes.append(char(qBlue(color))).append(char(qGreen(color))).append(char(qRed(color)));
     }
-    rows.Bytes.append(rowLength(rows.Width) - rows.Width * BytesPerPixel, '\0');
+    rows.Bytes.append(rowLength(rows.Width) - qsizetype(BytesPerPixel) * rows.Width, '\0');
   }
   return rows;
 }
@@ -47,8 +47,8 @@ PixelRows GetDIBits(const QImage& bitmap) {
 void StretchDIBits(Raster& raster, int x, int y, int width, int height, const PixelRows& rows,
                    RasterOperation operation) {
   const QRect shown = QRect(x, y, width, height) & raster.rect();
-  const int length = rowLength(rows.Width);
-  if (width < 1 || height < 1 || rows.Bytes.size() < qsizetype(length) * rows.Height || rows.Bytes.isEmpty()) return;
+  const qsizetype length = rowLength(rows.Width);
+  if (width < 1 || height < 1 || rows.Bytes.size() < length * rows.Height || rows.Bytes.isEmpty()) return;
   for (int row = shown.top(); row <= shown.bottom(); ++row) {
     const qint64 line = rows.Height - 1 - (qint64(row) - y) * rows.Height / height;
     const char* const source = rows.Bytes.constData() + line * length;
@@ -61,28 +61,17 @@ void StretchDIBits(Raster& raster, int x, int y, int width, int height, const Pi
 }
 
 void PaintPicture(Raster& raster, const QImage& picture, int x, int y) {
-  PaintPicture(raster, picture, x, y, picture.width(), picture.height());
-}
-
-void PaintPicture(Raster& raster, const QImage& picture, int x, int y, int width, int height) {
-  if (raster.rect().isEmpty() || picture.isNull() || width < 1 || height < 1) return;
+  if (raster.rect().isEmpty() || picture.isNull()) return;
   QImage source = picture;
   source.setDevicePixelRatio(1);
-  QPainter painter(&raster.image());
-  if (source.width() == width && source.height() == height) {
-    painter.drawImage(x, y, source);
-    return;
-  }
-  painter.setClipRect(raster.rect());
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawImage(QRect(x, y, width, height), source);
+  QPainter(&raster.image()).drawImage(x, y, source);
 }
 
 void PaintSilhouette(Raster& raster, const QImage& picture, int x, int y, QRgb color) {
   const QRect shown = QRect(QPoint(x, y), picture.size()) & raster.rect();
   for (int row = shown.top(); row <= shown.bottom(); ++row) {
     for (int column = shown.left(); column <= shown.right(); ++column) {
-      if (qAlpha(picture.pixel(column - x, row - y)) >= SeenAlpha) raster.SetPixel(column, row, color);
+      if (IsSeen(picture.pixel(column - x, row - y))) raster.SetPixel(column, row, color);
     }
   }
 }

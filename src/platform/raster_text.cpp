@@ -2,26 +2,21 @@
 
 #include <algorithm>
 
+#include "platform/fonts.h"
+
 namespace platform {
 
 namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72;
-constexpr int LargestPixels = 2880;
-constexpr auto GreySteps = QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias);
+constexpr int LargestPixels = int(LargestPoints * 96 / 72);
 
-/// The font in pixels, without hinting and colour fringes.
+/// The font in pixels, in grey steps.
 QFont onPixels(const QFont& font) {
   const int wanted = font.pixelSize() > 0 ? font.pixelSize() : qRound(font.pointSizeF() * PixelsPerPoint);
   const int pixels = std::clamp(wanted, 1, LargestPixels);
-  if (font.pixelSize() == pixels && font.hintingPreference() == QFont::PreferNoHinting &&
-      font.styleStrategy() == GreySteps) {
-    return font;
-  }
-  QFont exact = font;
-  exact.setPixelSize(pixels);
-  exact.setHintingPreference(QFont::PreferNoHinting);
-  exact.setStyleStrategy(GreySteps);
+  QFont exact = InGreySteps(font);
+  if (exact.pixelSize() != pixels) exact.setPixelSize(pixels);
   return exact;
 }
 
@@ -59,12 +54,11 @@ void Print(Raster& raster, const QFont& font, const QString& text, int x, int y,
   TextPen(raster, font).Print(text, x, y, color);
 }
 
-void DrawText(Raster& raster, const QFont& font, const QString& text, const QRect& area, QRgb color, TextAlign align) {
+void DrawText(Raster& raster, const QFont& font, const QString& text, const QRect& area, QRgb color) {
   TextPen pen(raster, font);
   const int spare = area.width() - pen.SizeOf(text).width();
-  const int shift = align == TextAlign::Left ? 0 : align == TextAlign::Right ? spare : spare / 2;
   pen.ClipTo(area);
-  pen.Print(text, area.left() + shift, area.top(), color);
+  pen.Print(text, area.left() + spare / 2, area.top(), color);
 }
 
 }  // namespace platform

@@ -23,8 +23,11 @@ class TextPen {
  public:
   TextPen(Raster& raster, const QFont& font);
 
+  /// The advance of the text, and the height of one line.
   QSize SizeOf(const QString& text) const;
+  /// Prints as the function of that name does.
   void Print(const QString& text, int x, int y, QRgb color);
+  /// Cuts off what is printed from now on at the edges of the area.
   void ClipTo(const QRect& area);
 
  private:
@@ -33,10 +36,7 @@ class TextPen {
   QPainter painter_;
 };
 
-enum class TextAlign { Left, Center, Right };
-
-/// Prints the text at the top of a rectangle, cut off at its edges.
-void DrawText(Raster& raster, const QFont& font, const QString& text, const QRect& area, QRgb color,
-              TextAlign align = TextAlign::Center);
+/// Prints the text in the middle of a rectangle's top, cut off at its edges.
+void DrawText(Raster& raster, const QFont& font, const QString& text, const QRect& area, QRgb color);
 
 }  // namespace platform

@@ -14,7 +14,6 @@ namespace platform {
 namespace {
 
 constexpr int DotsPerMeter = 3780;  // 96 an inch
-constexpr float LargestPoints = 2160;
 constexpr float StartPoints = 8.25F;
 
 QFont fontOf(const QString& face, float points) {
@@ -64,7 +63,7 @@ void Surface::SetFontName(const QString& face) {
 }
 
 void Surface::SetFontSize(float points) {
-  if (points > 0) fontSize_ = std::min(points, LargestPoints);
+  if (points > 0) fontSize_ = std::min(points, float(LargestPoints));
 }
 
 double Surface::TextWidth(const QString& text) const {

@@ -81,16 +81,13 @@ class DrawingTest : public QObject {
   void textStandsInItsRectangle() {
     const QFont font(QStringLiteral("Liberation Sans"), 9);
     const QString text = QStringLiteral("Hog");
-    for (const auto& [align, left] :
-         {std::pair(TextAlign::Left, 20), std::pair(TextAlign::Center, 120), std::pair(TextAlign::Right, 220)}) {
-      Raster drawn(QSize(300, 40), Ground);
-      DrawText(drawn, font, text, QRect(20, 10, 200 + TextWidth(font, text), 8), Edge, align);
-      Raster printed(QSize(300, 40), Ground);
-      Print(printed, font, text, left, 10, Edge);
-      QVERIFY(printed.image() != drawn.image());  // it is cut at the lower edge
-      printed.FillRect(0, 18, 300, 40, Ground);
-      QCOMPARE(drawn.image(), printed.image());
-    }
+    Raster drawn(QSize(300, 40), Ground);
+    DrawText(drawn, font, text, QRect(20, 10, 200 + TextWidth(font, text), 8), Edge);
+    Raster printed(QSize(300, 40), Ground);
+    Print(printed, font, text, 120, 10, Edge);
+    QVERIFY(printed.image() != drawn.image());  // it is cut at the lower edge
+    printed.FillRect(0, 18, 300, 40, Ground);
+    QCOMPARE(drawn.image(), printed.image());
   }
 
   void stretchedPicturesHaveCleanEdges() {
