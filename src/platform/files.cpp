@@ -39,10 +39,6 @@ void WriteFile(const QString& path, QByteArrayView bytes) {
   if (const auto error = ReplaceBytes(native, bytes)) fail(native, error->description);
 }
 
-void CopyFile(const QString& from, const QString& to) {
-  WriteFile(to, ReadFile(from));
-}
-
 bool FileExists(const QString& path) {
   return QFileInfo(NativePath(path)).isFile();
 }

@@ -17,9 +17,6 @@ QByteArray ReadFile(const QString& path);
 /// isn't there. Throws Failure with the platform's description.
 void WriteFile(const QString& path, QByteArrayView bytes);
 
-/// Whole-file copy over `to`, atomic as WriteFile. Throws Failure.
-void CopyFile(const QString& from, const QString& to);
-
 /// Whether a file (no folder) stands at the path.
 bool FileExists(const QString& path);
 
