@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QTimer>
 
 #include "platform/failure.h"
+#include "waiting.h"
 
 namespace screenshots {
 namespace {
@@ -34,12 +34,6 @@ void sendKey(QWidget& widget, Qt::Key key) {
 void sendFocus(QWidget& widget, QEvent::Type type) {
   QFocusEvent event(type, Qt::TabFocusReason);
   QApplication::sendEvent(&widget, &event);
-}
-
-void awaitFrame() {
-  QEventLoop loop;
-  QTimer::singleShot(FrameTime, &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
 }
 
 QPoint middleOf(int button) {
@@ -104,7 +98,7 @@ void ControlPictures::ShowProgress(const std::function<void()>& render) const {
     const int present = bar.Value();
     bar.SetValue(percent);
     bar.SetText(QStringLiteral("%1%").arg(percent));
-    awaitFrame();
+    WaitFor(FrameTime, QEventLoop::ExcludeUserInputEvents);
     save_(form_.Client->grab(ProgressArea), QStringLiteral("progress-%1").arg(percent));
     bar.SetValue(present);
     bar.SetText(QStringLiteral("%1%").arg(present));

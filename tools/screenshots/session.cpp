@@ -6,14 +6,13 @@
 #include <QDir>
 #include <QInputDialog>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QScreen>
-#include <QTimer>
 
 #include "mainwindows/open_theme.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "toolwindow/value_grid.h"
+#include "waiting.h"
 
 namespace screenshots {
 namespace {
@@ -51,9 +50,7 @@ constexpr std::array<EditorRow, 6> Editors{{
 
 /// Lets the windows come to rest.
 void settle() {
-  QEventLoop loop;
-  QTimer::singleShot(SettleTime, &loop, &QEventLoop::quit);
-  loop.exec();
+  WaitFor(SettleTime);
 }
 
 template <typename List>
@@ -195,8 +192,7 @@ void Session::savePicture(const QPixmap& picture, const QString& name) const {
 /// The main window with what lies over it, as the screen shows them.
 void Session::saveScreen(const QString& name) const {
   const QRect place = form_.frameGeometry().united(form_.ToolWindow->frameGeometry());
-  const QPixmap picture = form_.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height());
-  picture.save(folder_ + u'/' + name + QStringLiteral(".png"));
+  savePicture(form_.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height()), name);
 }
 
 }  // namespace screenshots

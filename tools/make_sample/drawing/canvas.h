@@ -19,6 +19,12 @@ constexpr Colour rgb(unsigned value, double alpha = 1) {
   return {(value >> 16 & 255) / 255.0, (value >> 8 & 255) / 255.0, (value & 255) / 255.0, alpha};
 }
 
+/// The colour with another alpha.
+constexpr Colour faded(Colour colour, double alpha) {
+  colour.a = alpha;
+  return colour;
+}
+
 Colour mix(const Colour& from, const Colour& to, double t);
 
 /// 0 below `from`, 1 above `to`, a smooth way between.

@@ -10,8 +10,6 @@ void writeAssets(const Output& output);
 /// The program's icon in the sizes that desktops look for, each named by its width.
 void writeProgramIcons(const Output& output);
 
-void writeIcons(const Output& output);
-
 QImage startPicture();
 
 }  // namespace sample

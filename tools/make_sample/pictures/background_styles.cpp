@@ -10,11 +10,6 @@ namespace {
 
 constexpr double Pi = std::numbers::pi;
 
-Colour faded(Colour colour, double alpha) {
-  colour.a = alpha;
-  return colour;
-}
-
 void paintSky(Canvas& canvas, const Palette& palette) {
   canvas.shade([&](double, double y) { return skyColour(palette, y / canvas.height()); });
 }

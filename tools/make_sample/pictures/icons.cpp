@@ -98,12 +98,12 @@ QImage programIcon(int pixels) {
   return canvas.image();
 }
 
-}  // namespace
-
 void writeIcons(const Output& output) {
   for (const Icon& icon : Icons) output.writePicture(icon.file, iconImage(icon));
   output.writePicture("app.png", programIcon(64));
 }
+
+}  // namespace
 
 void writeProgramIcons(const Output& output) {
   for (const int pixels : {16, 32, 48, 64, 128, 256}) {

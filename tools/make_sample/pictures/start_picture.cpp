@@ -7,11 +7,6 @@ namespace sample {
 
 namespace {
 
-Colour faded(Colour colour, double alpha) {
-  colour.a = alpha;
-  return colour;
-}
-
 void paintEvening(Canvas& canvas) {
   canvas.shade([](double, double y) {
     const double part = y / 600;

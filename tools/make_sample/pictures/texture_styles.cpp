@@ -10,11 +10,6 @@ namespace {
 constexpr Colour White = rgb(0xffffff);
 constexpr Colour Black = rgb(0x000000);
 
-Colour faded(Colour colour, double alpha) {
-  colour.a = alpha;
-  return colour;
-}
-
 QRectF inner(const Canvas& canvas, double margin) {
   return QRectF(0, 0, canvas.width(), canvas.height()).adjusted(margin, margin, -margin, -margin);
 }
