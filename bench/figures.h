@@ -2,9 +2,12 @@
 
 #include <benchmark/benchmark.h>
 #include <functional>
+#include <memory>
 #include <string>
 
 namespace bench {
+
+class SampleScreen;
 
 /// How a figure is held against its floor.
 enum class Held {
@@ -25,12 +28,7 @@ void Register(const Figure& figure, const Body& work, const Body& floor);
 
 void RegisterIniAccess();
 void RegisterRecolouring();
-void RegisterScreen();
-void RegisterShownScreen();
-
-/// The longest time between two yields of a render so far, in milliseconds.
-double LongestGap();
-/// The screen of that render.
-std::string ScreenInWords();
+void RegisterScreen(const std::shared_ptr<SampleScreen>& screen);
+void RegisterShownScreen(const std::shared_ptr<SampleScreen>& screen);
 
 }  // namespace bench

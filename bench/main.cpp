@@ -7,6 +7,7 @@
 
 #include "controls/look.h"
 #include "figures.h"
+#include "sample_screens.h"
 
 namespace bench {
 namespace {
@@ -45,7 +46,7 @@ class Medians : public benchmark::ConsoleReporter {
 };
 
 /// Prints the table; whether every figure that ran has its reach.
-bool printTable(const Medians& medians) {
+bool printTable(const Medians& medians, const SampleScreen& screen) {
   bool reached = true;
   std::printf("\n%-12s %14s %14s %9s   %s\n", "", "work (us)", "floor (us)", "ratio", "reach");
   for (const Figure& figure : figures()) {
@@ -60,11 +61,11 @@ bool printTable(const Medians& medians) {
                 atMost ? "at most" : "faster by", figure.reach, holds ? "" : "  MISSED");
   }
   constexpr double LongestGapReach = 100;
-  if (LongestGap() > 0) {
-    std::printf("longest gap between two yields of %s: %.1f ms (reach: under %.0f)\n", ScreenInWords().c_str(),
-                LongestGap(), LongestGapReach);
+  if (screen.longestGap() > 0) {
+    std::printf("longest gap between two yields of %s of %s: %.1f ms (reach: under %.0f)\n", qPrintable(screen.name()),
+                qPrintable(screen.theme()), screen.longestGap(), LongestGapReach);
   }
-  return reached && LongestGap() < LongestGapReach;
+  return reached && screen.longestGap() < LongestGapReach;
 }
 
 }  // namespace
@@ -92,13 +93,15 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&count, options.data());
   if (benchmark::ReportUnrecognizedArguments(count, options.data())) return 2;
 
+  const std::shared_ptr<bench::SampleScreen> screen = bench::FullestScreen();
+  if (!screen) return 2;
   bench::RegisterIniAccess();
   bench::RegisterRecolouring();
-  bench::RegisterScreen();
-  bench::RegisterShownScreen();
+  bench::RegisterScreen(screen);
+  bench::RegisterShownScreen(screen);
   bench::Medians medians;
   benchmark::RunSpecifiedBenchmarks(&medians);
-  const bool reached = bench::printTable(medians);
+  const bool reached = bench::printTable(medians, *screen);
   benchmark::ClearRegisteredBenchmarks();  // they hold windows, which go before the application
   return reached && !medians.failed() ? 0 : 1;
 }

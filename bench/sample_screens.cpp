@@ -4,12 +4,10 @@
 #include <chrono>
 
 #include <QDir>
-#include <QDirIterator>
 
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/pictures.h"
-#include "renderer/texture_pipeline.h"
 #include "themefiles/ini_access.h"
 
 namespace bench {
@@ -42,19 +40,17 @@ void SampleScreen::draw() {
   renderer::DrawScreen(context);
 }
 
-double SampleScreen::drawForGap() {
-  double longest = 0;
+void SampleScreen::drawForGap() {
   Clock::time_point last = Clock::now();
   const auto note = [&] {
     const Clock::time_point now = Clock::now();
-    longest = std::max(longest, std::chrono::duration<double, std::milli>(now - last).count());
+    longestGap_ = std::max(longestGap_, std::chrono::duration<double, std::milli>(now - last).count());
     last = now;
   };
   host_.yielded = note;
   draw();
   note();
   host_.yielded = nullptr;
-  return longest;
 }
 
 std::vector<Picture> SampleScreen::pictures() const {
@@ -104,17 +100,6 @@ void DrawPlainly(const Picture& picture, platform::Surface& surface) {
   if (picture.type == u"COLORIZED") renderer::Colorize(image, picture.color);
   if (picture.type == u"FONT BLACK") renderer::RecolourFont(image, picture.color, renderer::NoIntensity);
   surface.DrawImageRect(image, picture.place.x(), picture.place.y(), picture.place.width(), picture.place.height());
-}
-
-CopiedSample::CopiedSample() {
-  const QDir from(QStringLiteral(SAMPLE_FOLDER));
-  QDirIterator walk(from.path(), QDir::Files, QDirIterator::Subdirectories);
-  while (walk.hasNext()) {
-    const QString source = walk.next();
-    const QString target = folder_.filePath(from.relativeFilePath(source));
-    QDir().mkpath(QFileInfo(target).path());
-    QFile::copy(source, target);
-  }
 }
 
 }  // namespace bench

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <vector>
 
@@ -27,8 +28,10 @@ class SampleScreen {
   const QString& name() const { return host_.screen; }
 
   void draw();
-  /// Draws once more and gives the longest time between two yields in milliseconds.
-  double drawForGap();
+  /// Draws once more, with an eye on the time between two yields.
+  void drawForGap();
+  /// The longest of these times so far, in milliseconds.
+  double longestGap() const { return longestGap_; }
 
   std::size_t objects() const { return account_.Objects.size(); }
 
@@ -48,6 +51,7 @@ class SampleScreen {
   support::Boxes boxes_;
   platform::Graphics graphics_;
   renderer::RenderAccount account_;
+  double longestGap_ = 0;
 };
 
 /// The screen on which most objects are drawn, of all sample themes; null without any.
@@ -59,7 +63,11 @@ void DrawPlainly(const Picture& picture, platform::Surface& surface);
 /// A copy of the sample game in a folder of its own, where working copies may be made.
 class CopiedSample {
  public:
-  CopiedSample();
+  CopiedSample() {
+    constexpr auto Options =
+        std::filesystem::copy_options::recursive | std::filesystem::copy_options::overwrite_existing;
+    std::filesystem::copy(SAMPLE_FOLDER, path().toStdString(), Options);
+  }
   QString path() const { return folder_.path(); }
 
  private:

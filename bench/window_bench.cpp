@@ -59,9 +59,7 @@ class PlainPreview : public QWidget {
 
 }  // namespace
 
-void RegisterShownScreen() {
-  const auto screen = FullestScreen();
-  if (!screen) return;
+void RegisterShownScreen(const std::shared_ptr<SampleScreen>& screen) {
   const auto editor = std::make_shared<OpenEditor>(*screen);
   const auto preview = std::make_shared<PlainPreview>();
   preview->show();
