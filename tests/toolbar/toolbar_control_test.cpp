@@ -230,6 +230,8 @@ class ControlTest : public QObject {
     QCOMPARE(after([](Model& m) { m.InsertButtonTo(1, 5); }), refused);
     QCOMPARE(after([](Model& m) { m.MoveButtonTo(4, 1); }), QByteArray("dbca 2 L"));
     QCOMPARE(after([](Model& m) { m.MoveButtonTo(0, 1); }), refused);
+    QCOMPARE(after([](Model& m) { m.SetButtonInsertTo(4); }), QByteArray("acdb 4 L R"));
+    QCOMPARE(after([](Model& m) { m.SetButtonMoveTo(4); }), QByteArray("adcb 4 L R"));
     QCOMPARE(after([](Model& m) { m.SetButtonRemove(1); }), QByteArray("acd 2 L L"));
     QCOMPARE(after([](Model& m) { m.SetCurrentValue(toolbar::CaptionProperty, QLatin1String("x")); }),
              QByteArray("axcd 2 ButtonCaption R"));
