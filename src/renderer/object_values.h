@@ -25,6 +25,7 @@ class ObjectSection {
   themefiles::SectionReader reader_;
 };
 
+/// Notes in the account that the section was left out, why, and the key and value that told so.
 void LeaveOut(RenderContext& context, const QString& section, Reason why, const QString& key, const QString& value);
 
 /// The number rounded to 16 bits. One that doesn't fit is accounted and reported as `step` + [section, key, value].
