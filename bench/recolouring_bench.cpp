@@ -5,7 +5,6 @@
 
 #include "figures.h"
 #include "renderer/recolouring.h"
-#include "renderer/texture_pipeline.h"
 
 namespace bench {
 namespace {

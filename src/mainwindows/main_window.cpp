@@ -5,13 +5,13 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTime>
 
 #include "controls/assets.h"
 #include "controls/twips.h"
 #include "platform/fonts.h"
-#include "platform/pictures.h"
 #include "platform/system_colors.h"
 #include "progressbar/main_window_bar.h"
 #include "progressbar/stored_form.h"

@@ -1,9 +1,6 @@
 #pragma once
 
-#include <memory>
-
 #include <QLabel>
-#include <QScrollArea>
 #include <QWidget>
 
 #include "controls/combo_box.h"

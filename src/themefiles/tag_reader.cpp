@@ -1,7 +1,6 @@
 #include "themefiles/tag_reader.h"
 
 #include "platform/code_page.h"
-#include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/text_lines.h"

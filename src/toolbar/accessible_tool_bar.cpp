@@ -1,5 +1,6 @@
 #include "toolbar/accessible_tool_bar.h"
 
+#include <algorithm>
 #include <vector>
 
 #include <QAccessible>

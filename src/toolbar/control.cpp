@@ -1,5 +1,9 @@
 #include "toolbar/control.h"
 
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
 #include "toolbar/repaint.h"
 #include "toolbar/stored_form.h"
 

@@ -1,5 +1,5 @@
-#include <algorithm>
 #include <cmath>
+#include <stdexcept>
 
 #include "toolbar/control.h"
 #include "toolbar/whole.h"

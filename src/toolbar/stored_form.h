@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <vector>
 
 #include "platform/property_bag.h"

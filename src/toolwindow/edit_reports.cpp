@@ -1,7 +1,6 @@
 #include "toolwindow/edit_reports.h"
 
 #include "platform/code_page.h"
-#include "platform/failure.h"
 #include "platform/numbers.h"
 #include "themefiles/working_copies.h"
 #include "toolwindow/tool_window.h"

@@ -4,7 +4,6 @@
 #include <vector>
 
 #include <QGroupBox>
-#include <QIcon>
 #include <QPushButton>
 
 #include "controls/combo_box.h"

@@ -1,5 +1,5 @@
 #include <cstdio>
-#include <stdexcept>
+#include <exception>
 
 #include <QCoreApplication>
 #include <QStringList>

@@ -1,6 +1,5 @@
 #include "drawing/gif.h"
 
-#include <algorithm>
 #include <map>
 #include <utility>
 
