@@ -30,8 +30,8 @@ function(cantorama_room name)
   endif()
 endfunction()
 
-# cantorama_test(FILE_WITHOUT_ENDING DISPLAY USES rooms): one program a concept that can fail. With DISPLAY it runs on
-# a virtual X server with a window manager, else on the offscreen platform.
+# cantorama_test(FILE_WITHOUT_ENDING DISPLAY SOURCES more.cpp USES rooms): one program a concept that can fail. With
+# DISPLAY it runs on a virtual X server with a window manager, else on the offscreen platform.
 function(cantorama_test file)
   cmake_parse_arguments(TEST "DISPLAY" "" "USES;SOURCES" ${ARGN})
   get_filename_component(name ${file} NAME)
