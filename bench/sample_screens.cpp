@@ -5,10 +5,12 @@
 
 #include <QDir>
 
-#include "platform/files.h"
+#include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "platform/paths.h"
 #include "platform/pictures.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/theme_paths.h"
 
 namespace bench {
 namespace {
@@ -19,13 +21,8 @@ using Clock = std::chrono::steady_clock;
 
 SampleScreen::SampleScreen(const QString& theme, const QString& screen) : theme_(theme) {
   const QString game = platform::ProgramPath(QDir(QStringLiteral(SAMPLE_FOLDER)).absolutePath()) + u'\\';
-  themefiles::ThemePaths& paths = state_.Paths;
-  paths.SkinDirectory = game + QStringLiteral("Skins\\") + theme;
-  const QString ending = QStringLiteral(".ini");
-  const QStringList skins = platform::ListFiles(paths.SkinDirectory, ending);
-  paths.ThemeFile = game + QStringLiteral("Themes\\") + theme + ending;
-  paths.SkinFile = paths.SkinDirectory + u'\\' + skins.value(0);
-  paths.LanguageFile = game + QStringLiteral("Languages\\English.ini");
+  const QString skin = themefiles::SkinsOf(game, theme).value(0);
+  state_.Paths = themefiles::PathsOf(game, theme, skin, QStringLiteral("English"));
   themefiles::InitScreenTable(state_);
   themefiles::ReadColors(state_, panel_);
   host_.screen = screen;

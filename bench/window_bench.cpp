@@ -8,7 +8,7 @@
 #include "figures.h"
 #include "mainwindows/main_events.h"
 #include "mainwindows/main_window.h"
-#include "mainwindows/open_theme.h"
+#include "mainwindows/open_theme_dialog.h"
 #include "platform/paths.h"
 #include "sample_screens.h"
 

@@ -4,7 +4,7 @@
 
 #include "controls/twips.h"
 #include "mainwindows/main_window.h"
-#include "mainwindows/open_theme.h"
+#include "mainwindows/open_theme_dialog.h"
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/system_colors.h"

@@ -11,7 +11,7 @@
 
 #include "mainwindows/main_events.h"
 #include "mainwindows/main_window.h"
-#include "mainwindows/open_theme.h"
+#include "mainwindows/open_theme_dialog.h"
 #include "support/pictures.h"
 #include "support/theme_doubles.h"
 #include "toolbar/button_values.h"

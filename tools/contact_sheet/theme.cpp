@@ -7,11 +7,10 @@
 #include "platform/paths.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
+#include "themefiles/theme_paths.h"
 
 namespace contactsheet {
 namespace {
-
-const QString Ending = QStringLiteral(".ini");
 
 void copyFile(const QString& from, const QString& to) {
   QByteArray bytes;
@@ -30,16 +29,15 @@ Theme::Theme(const QString& gameFolder, const QString& theme, const QString& ski
              platform::StatusLine& status) {
   if (!folder_.isValid()) throw platform::Failure(QStringLiteral("no temporary folder: ") + folder_.errorString());
   const QString copies = platform::ProgramPath(folder_.path());
-  themefiles::ThemePaths& paths = state_.Paths;
-  paths.ExeDirectory = platform::ProgramPath(QDir(gameFolder).absolutePath()) + u'\\';
-  paths.LanguagesDirectory = paths.ExeDirectory + QStringLiteral("\\Languages");
-  paths.SkinDirectory = paths.ExeDirectory + QStringLiteral("Skins\\") + theme;
+  const QString game = platform::ProgramPath(QDir(gameFolder).absolutePath()) + u'\\';
+  const themefiles::ThemePaths chosen = themefiles::PathsOf(game, theme, skin, language);
+  themefiles::ThemePaths& paths = state_.Paths = chosen;
   paths.ThemeFile = copies + QStringLiteral("\\theme.ini");
   paths.SkinFile = copies + QStringLiteral("\\skin.ini");
   paths.LanguageFile = copies + QStringLiteral("\\language.ini");
-  copyFile(paths.ExeDirectory + QStringLiteral("Themes\\") + theme + Ending, paths.ThemeFile);
-  copyFile(paths.SkinDirectory + u'\\' + skin + Ending, paths.SkinFile);
-  copyFile(paths.LanguagesDirectory + u'\\' + language + Ending, paths.LanguageFile);
+  copyFile(chosen.ThemeFile, paths.ThemeFile);
+  copyFile(chosen.SkinFile, paths.SkinFile);
+  copyFile(chosen.LanguageFile, paths.LanguageFile);
   state_.ThemeOpened = true;
   themefiles::InitScreenTable(state_);
   themefiles::ReadColors(state_, status);

@@ -8,7 +8,7 @@
 #include <QLineEdit>
 #include <QScreen>
 
-#include "mainwindows/open_theme.h"
+#include "mainwindows/open_theme_dialog.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "toolwindow/value_grid.h"

@@ -1,4 +1,4 @@
-#include "mainwindows/open_theme.h"
+#include "mainwindows/open_theme_dialog.h"
 
 #include <algorithm>
 #include <utility>
