@@ -21,7 +21,8 @@ void ReadColors(ModuleState& state, platform::StatusLine& status);
 /// Names of the nine colour schemes in table order (empty ones while the tables are).
 QStringList SchemeNames(const ModuleState& state);
 
-/// Value of a scheme: 0 the dark, 1 the light, 2 the lightest colour; empty for a scheme that isn't there.
+/// Value of a scheme by Offset: 0 the dark, 1 the light, 2 the lightest colour; empty for a scheme that isn't there.
+/// Throws std::out_of_range where another Offset leads out of the table.
 QString GetBaseColor(const ModuleState& state, qint16 Offset, const QString& scheme);
 
 /// The colour string of a name, `scheme` being in force; empty for a name that is in no table.
