@@ -14,7 +14,8 @@ void Monkey::act() {
   if (tools == nullptr && !chance_.one(6)) {
     click(*form().ToolBar, {16, 16});
   } else if (chance_.one(70)) {
-    const std::array actions{&Monkey::shortcut, &Monkey::resize, &Monkey::protectFiles, &Monkey::loseFolder};
+    const std::array actions{&Monkey::shortcut, &Monkey::resize, &Monkey::protectFiles, &Monkey::protectFiles,
+                             &Monkey::loseFolder};
     (this->*chance_.of(actions))();
   } else if (chance_.one(900)) {
     form().close();
@@ -125,7 +126,7 @@ void Monkey::protectFiles() {
   }
   for (const QString& name : names) game_.protect(name);
   if (form().ToolWindow != nullptr) touch(*form().ToolWindow);
-  click(*form().ToolBar, {chance_.one(3) ? 16 : 48, 16});
+  click(*form().ToolBar, {chance_.one(2) ? 16 : 48, 16});
   for (const QString& name : names) game_.protect(name, false);
 }
 
