@@ -10,6 +10,7 @@
 #include "platform/paths.h"
 #include "platform/pictures.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/screen_table.h"
 #include "themefiles/theme_paths.h"
 
 namespace bench {

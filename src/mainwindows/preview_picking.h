@@ -3,7 +3,7 @@
 #include <QPoint>
 
 #include "renderer/render_account.h"
-#include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 
 namespace mainwindows {
 

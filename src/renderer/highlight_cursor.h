@@ -3,7 +3,7 @@
 #include "platform/status_line.h"
 #include "platform/surface.h"
 #include "themefiles/module_state.h"
-#include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 
 namespace renderer {
 

@@ -7,7 +7,7 @@
 #include "renderer/render_account.h"
 #include "renderer/render_host.h"
 #include "themefiles/module_state.h"
-#include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 
 namespace renderer {
 

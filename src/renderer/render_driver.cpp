@@ -2,6 +2,7 @@
 
 #include "platform/numbers.h"
 #include "renderer/object_passes.h"
+#include "themefiles/screen_table.h"
 
 namespace renderer {
 namespace {

@@ -5,10 +5,6 @@
 
 #include <QStringView>
 
-#include "platform/code_page.h"
-#include "platform/files.h"
-#include "platform/text_lines.h"
-
 namespace themefiles {
 namespace {
 
@@ -100,48 +96,6 @@ QString forDigits(QStringView digits, QStringView pattern) {
   return list;
 }
 
-/// Whether an item of the comma list fits the tag, both in upper case.
-template <typename Fits>
-bool anyItem(const QString& list, const QString& tag, Fits fits) {
-  const QStringList items = platform::UpperCase(list).split(u',');
-  const QString upperTag = platform::UpperCase(tag);
-  return std::any_of(items.begin(), items.end(), [&](const QString& item) { return fits(item, upperTag); });
-}
-
-bool equals(const QString& item, const QString& tag) {
-  return item == tag;
-}
-
-bool occursIn(const QString& item, const QString& tag) {
-  return tag.contains(item);
-}
-
-/// Whether the line is the bare section of another screen than `stem`'s: the end of the run.
-bool endsRun(const ModuleState& state, const QString& stem, const QString& line) {
-  return std::any_of(state.ScreenTable.begin(), state.ScreenTable.end(),
-                     [&](const ScreenRow& row) { return row.Stem != stem && line == u'[' + row.Stem + u']'; });
-}
-
-void listTags(const ModuleState& state, const QString& screenName, TagList& tags,
-              const std::function<void()>& doEvents) {
-  const QString stem = StemOf(state, screenName);
-  const QString head = u'[' + platform::UpperCase(stem);
-  const QByteArray file = platform::ReadFile(state.Paths.ThemeFile);
-  platform::TextLines lines(file);
-  bool found = false;
-  while (const auto bytes = lines.next()) {
-    if (!bytes->startsWith('[')) continue;
-    const QString line = platform::FromAnsi(*bytes);
-    if (found && endsRun(state, stem, line)) break;
-    if (!platform::UpperCase(line).startsWith(head)) continue;
-    const QString tag = line.mid(1, line.size() - 2);
-    if (SplitTags(state.Filter, tag)) continue;
-    tags.AddItem(tag);
-    doEvents();
-    found = true;
-  }
-}
-
 }  // namespace
 
 void InitScreenTable(ModuleState& state) {
@@ -166,28 +120,6 @@ TagFilter FilterOf(const QString& screenName) {
     lists.SkipTagParts = forDigits(filter->otherPlayers, ScorePlayerParts).chopped(1);
   }
   return lists;
-}
-
-bool SplitTags(const TagFilter& filter, const QString& Tag) {
-  if (!filter.SkipTags.isEmpty() && anyItem(filter.SkipTags, Tag, equals)) return true;
-  if (!filter.SkipTagParts.isEmpty() && anyItem(filter.SkipTagParts, Tag, occursIn)) return true;
-  bool leftOut = false;
-  if (!filter.OnlyTags.isEmpty()) {
-    leftOut = true;
-    if (anyItem(filter.OnlyTags, Tag, equals)) return false;
-  }
-  if (!filter.OnlyTagParts.isEmpty() && anyItem(filter.OnlyTagParts, Tag, occursIn)) return false;
-  return leftOut;
-}
-
-int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
-             const std::function<void()>& DoEvents) {
-  const bool read = platform::Guarded(status, QStringLiteral("Error while reading Tags"),
-                                      [&] { listTags(state, screenName, tags, DoEvents); });
-  if (!read || tags.ListCount() == 0) return -1;
-  const int picked = tags.ListIndex();
-  tags.SetListIndex(0);
-  return picked;
 }
 
 }  // namespace themefiles

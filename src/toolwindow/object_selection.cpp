@@ -7,6 +7,7 @@
 
 #include "platform/code_page.h"
 #include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
 #include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"

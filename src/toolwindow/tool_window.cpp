@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 
 #include "controls/assets.h"
+#include "themefiles/screen_table.h"
 
 namespace toolwindow {
 namespace {

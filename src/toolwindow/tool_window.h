@@ -18,7 +18,7 @@
 #include "platform/surface.h"
 #include "renderer/highlight_cursor.h"
 #include "themefiles/module_state.h"
-#include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 #include "toolwindow/key_table.h"
 #include "toolwindow/tool_layout.h"
 

@@ -7,6 +7,7 @@
 #include "support/pictures.h"
 #include "support/theme_doubles.h"
 #include "themefiles/colour_tables.h"
+#include "themefiles/screen_table.h"
 
 namespace support {
 

@@ -8,7 +8,7 @@
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "support/folder.h"
-#include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 
 // What the rooms without windows work with in tests.
 

@@ -3,6 +3,7 @@
 #include "support/theme_doubles.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
 
 using namespace themefiles;

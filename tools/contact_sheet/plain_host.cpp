@@ -4,8 +4,6 @@
 #include <cstdio>
 #include <utility>
 
-#include "platform/code_page.h"
-
 namespace contactsheet {
 
 void ErrorOutput::ShowStatus(const QString& text) {
@@ -28,15 +26,6 @@ QString NoDialogs::OpenFile(QWidget* /*parent*/, const platform::FileRequest& /*
 
 std::optional<QColor> NoDialogs::ChooseColor(QWidget* /*parent*/, const QColor& /*present*/) {
   return std::nullopt;
-}
-
-void PlainTagList::Clear() {
-  tags_.clear();
-  index_ = -1;
-}
-
-void PlainTagList::AddItem(const QString& tag) {
-  tags_.insert(std::upper_bound(tags_.begin(), tags_.end(), tag, platform::NameLess), tag);
 }
 
 PlainHost::PlainHost(QString screen, QString scheme) : screen_(std::move(screen)), scheme_(std::move(scheme)) {}

@@ -9,7 +9,6 @@
 #include "platform/status_line.h"
 #include "renderer/highlight_cursor.h"
 #include "renderer/render_host.h"
-#include "themefiles/screen_table.h"
 
 // What stands in for the editor's windows where there are none.
 
@@ -33,21 +32,6 @@ class NoDialogs : public platform::Dialogs {
 
  private:
   platform::StatusLine& status_;
-};
-
-/// A sorted list that shows nothing.
-class PlainTagList : public themefiles::TagList {
- public:
-  void Clear() override;
-  void AddItem(const QString& tag) override;
-  int ListCount() const override { return static_cast<int>(tags_.size()); }
-  QString List(int row) const override { return tags_[row]; }
-  int ListIndex() const override { return index_; }
-  void SetListIndex(int row) override { index_ = row; }
-
- private:
-  QStringList tags_;
-  int index_ = -1;
 };
 
 /// A mark that is never seen.

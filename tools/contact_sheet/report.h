@@ -6,7 +6,7 @@
 #include <QString>
 
 #include "renderer/render_account.h"
-#include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 
 namespace contactsheet {
 

@@ -5,6 +5,7 @@
 #include "renderer/highlight_cursor.h"
 #include "renderer/render_driver.h"
 #include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
 
 namespace contactsheet {
@@ -33,7 +34,7 @@ Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const
                   std::optional<quint8> selected, platform::StatusLine& status) {
   themefiles::ModuleState state = theme.State();
   platform::Surface workspace;
-  PlainTagList tags;
+  themefiles::SortedTags tags;
   listTags(state, screen.Name, tags, status);
   selectTag(state, tags, workspace, status);
   PlainHost host(screen.Name, scheme);
