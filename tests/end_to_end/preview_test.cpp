@@ -3,8 +3,6 @@
 using namespace support;
 using toolwindow::Form2;
 
-namespace {
-
 const QByteArray Theme = linesOf(
     "[Colors]|Ink=10 20 30|On=250 0 0|Off=0 0 250|[Loading]|"
     "[LoadingButtonA]|Tex=Plate|X=100|Y=100|W=100|H=40|SelectH=60|Color=On|DColor=Off|Type=Font Black|INT=1|DINT=1|"
@@ -15,8 +13,6 @@ const QByteArray Theme = linesOf(
     "[LoadingTextA]|X=300|Y=300|Font=0|Size=20|Color=Ink|Text=HELLO|");
 const QByteArray Language = linesOf("[Text]|HELLO=Hello|");
 const QString Kept = u"Kept in the working copy; the next Update makes Save available"_s;
-
-}  // namespace
 
 /// One session: what is picked in the preview and the lists, then colours and keys that are added, used and removed.
 class PreviewTest : public QObject {
@@ -88,12 +84,12 @@ class PreviewTest : public QObject {
     program->dialogs.inputs = {u"Leaf"_s};
     press(*tools().Command3);
     QVERIFY(game.get(ThemeCopy).contains("\r\nOff=0 0 250\r\nLeaf=150 150 150\r\n[Loading]"));
-    QCOMPARE(shown(tools().Combo3), u"Ink,On,Off,Leaf: Leaf"_s);
+    QCOMPARE(listing(*tools().Combo3), u"Ink,On,Off,Leaf: Leaf"_s);
     QCOMPARE(tools().Command2->BackColor(), QColor(150, 150, 150));
     press(*tools().Command1);
     QCOMPARE(pixel(), QColor(150, 150, 150));
     remove(tools().Command5);
-    QCOMPARE(shown(tools().Combo3), u"Ink,On,Off: "_s);
+    QCOMPARE(listing(*tools().Combo3), u"Ink,On,Off: "_s);
     QCOMPARE(tools().Command2->BackColor(), QColor(212, 208, 200));
     QVERIFY(program->state.ThemeColors[3].Name.isEmpty());
     QVERIFY(!game.get(ThemeCopy).contains("Leaf=") && game.get(ThemeCopy).contains("Color=Leaf\r\n"));
@@ -105,7 +101,7 @@ class PreviewTest : public QObject {
     program->dialogs.inputs = {u"GREETING"_s};
     press(*tools().Command6);
     QCOMPARE(game.get(LanguageCopy), Language + "GREETING=\r\n");
-    QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO,GREETING: GREETING"_s);
+    QCOMPARE(listing(*tools().Combo5) + tools().Text2->Text(), u"HELLO,GREETING: GREETING"_s);
     type(*tools().Text2, "Good evening");
     press(*tools().Command1);
     QCOMPARE(game.get(LanguageCopy), Language + "GREETING=Good evening\r\n");
@@ -113,7 +109,7 @@ class PreviewTest : public QObject {
     QVERIFY(program->picture() != before);
     remove(tools().Command7);
     QCOMPARE(game.get(LanguageCopy), Language);
-    QCOMPARE(shown(tools().Combo5) + tools().Text2->Text(), u"HELLO: "_s);
+    QCOMPARE(listing(*tools().Combo5) + tools().Text2->Text(), u"HELLO: "_s);
   }
 
   void anotherImage() {
@@ -131,13 +127,13 @@ class PreviewTest : public QObject {
     QCOMPARE(pixel(), QColor(Qt::white));
     remove(tools().Command9);
     QCOMPARE(game.get(SkinCopy), "[Textures]\r\n");
-    QCOMPARE(shown(tools().Combo6) + tools().Text3->Text(), u": "_s);
+    QCOMPARE(listing(*tools().Combo6) + tools().Text3->Text(), u": "_s);
   }
 
   void newTexture() {
     program->dialogs.inputs = {u"Fr\u00ff"_s};
     press(*tools().Command8);
-    QCOMPARE(shown(tools().Combo6) + tools().Text3->Text(), u"Fr\u00ff: Fr\u00ff"_s);
+    QCOMPARE(listing(*tools().Combo6) + tools().Text3->Text(), u"Fr\u00ff: Fr\u00ff"_s);
     program->dialogs.files = {game.path() + u"Skins\\Alpha\\ink.png"_s};
     press(*tools().Command4);
     press(*tools().Command1);
@@ -154,9 +150,6 @@ class PreviewTest : public QObject {
     const QPoint place = program->form.Workspace->mapToGlobal(QPoint(x, y));
     return program->form.screen()->grabWindow(0, place.x(), place.y(), 1, 1).toImage().pixelColor(0, 0).rgb();
   }
-
-  /// The entries of a list, and the one that is chosen.
-  static QString shown(const controls::ComboBox* list) { return entries(*list).join(u',') + u": "_s + list->Text(); }
 
   void pick(const char* object, const char* key) const {
     pickNamed(*tools().List1, object);

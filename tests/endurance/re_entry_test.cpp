@@ -115,40 +115,6 @@ bool make(const Wish& wish, Program& program) {
   return true;
 }
 
-/// What must not depend on the moment of a wish: what is shown, and the game's files.
-QVariantMap outcomeOf(const Program& program, const GameFolder& game) {
-  const mainwindows::Form1& form = program.form;
-  const themefiles::ModuleState& state = program.state;
-  QVariantMap all{{u"state"_s, QVariantList{state.ThemeOpened, state.Changed, form.isVisible()}},
-                  {u"busy"_s, form.Queue.Busy() || form.ProgressBar1->isVisible()},
-                  {u"windows"_s, form.findChildren<toolwindow::Form2*>().size()}};
-  for (const auto& [name, bytes] : game.files().asKeyValueRange()) all[name] = bytes;
-  if (!form.isVisible()) return all;
-  mainwindows::Workspace& preview = *form.Workspace;
-  const QString pen = preview.Surface().FontName() + QString::number(preview.Surface().FontSize());
-  all.insert({{u"lists shown"_s, QVariantList{form.Combo1->isVisible(), form.Combo2->isVisible()}},
-              {u"blinking"_s, preview.Blinking()},
-              {u"mark"_s, preview.MarkVisible() ? preview.Mark() : QRectF()},
-              {u"enabled"_s, program.buttons()},
-              {u"picture"_s, program.picture()}});
-  if (!state.ThemeOpened || form.ToolWindow == nullptr) return all;
-  const toolwindow::Form2& tools = program.tools();
-  QStringList lists = entries(*form.Combo2) + entries(*tools.List1);
-  for (int i = 0; i < tools.ListView1->RowCount(); ++i) {
-    lists += tools.ListView1->RowText(i) + u'=' + tools.ListView1->SubItem(i);
-  }
-  const QVariantList chosen{form.Combo2->ListIndex(), tools.Combo1->Text(), tools.List1->ListIndex(),
-                            tools.ListView1->SelectedRow()};
-  const QVariantList flags{state.EditorShown, state.ButtonListFilled, state.SelectedButton,
-                           state.ButtonCount, state.ProgressStep,     state.Filter.OnlyTags + state.Filter.SkipTags};
-  all.insert({{u"lists"_s, lists},
-              {u"chosen"_s, chosen},
-              {u"flags"_s, flags},
-              {u"height"_s, tools.height()},
-              {u"pen"_s, pen}});
-  return all;
-}
-
 /// Equal but for the smoothed edges of letters, which the toolkit varies with the texts that it drew before.
 bool looksAlike(const QImage& a, const QImage& b) {
   constexpr int Smoothing = 16;
@@ -209,7 +175,7 @@ Run run(const Order& wishes, bool choice, bool single, const std::vector<int>& a
     makeOne(wish);
     settle();
   }
-  result.outcome = outcomeOf(program, game);
+  result.outcome = snapshot(program, game);
   return result;
 }
 
@@ -225,15 +191,13 @@ QStringList difference(const Run& run, const Order& order, bool choice) {
   const QVariantMap& expected = oneAfterAnother(order, choice, run.single);
   // What the second one has drawn may not show yet what the first one waited with.
   const bool mayLag = order.size() > 1 && Wishes[order.front()].waits;
-  QStringList names;
-  for (const QString& name : run.outcome.keys() + expected.keys()) {
-    if (name == u"pen" && !run.single) continue;  // the next render's own business
-    const QVariant value = run.outcome[name];
-    if (value == expected[name] || names.contains(name)) continue;
-    const bool picture = name == u"picture" && run.outcome.contains(name) && expected.contains(name);
-    if (picture && (mayLag || looksAlike(value.value<QImage>(), expected[name].value<QImage>()))) continue;
-    names += name;
-  }
+  QStringList names = differences(run.outcome, expected);
+  names.removeIf([&](const QString& name) {
+    // The next render's own business, and what the second wish finds chosen or types.
+    if (name == u"pen" || name == u"editors") return !run.single;
+    if (name != u"picture" || !run.outcome.contains(name) || !expected.contains(name)) return false;
+    return mayLag || looksAlike(run.outcome[name].value<QImage>(), expected[name].value<QImage>());
+  });
   return names;
 }
 
@@ -243,7 +207,7 @@ bool droppedOne(const Run& run, int first, int second, bool choice) {
   const Wish& other = Wishes[second];
   if (one.frame == 0 || one.frame != other.frame || !(one.waits || other.waits)) return false;
   for (const int kept : {first, second}) {
-    if (difference(run, {kept}, choice).filter(u"/"_s).isEmpty()) return true;  // the same files
+    if (!difference(run, {kept}, choice).contains(u"files")) return true;
   }
   return false;
 }

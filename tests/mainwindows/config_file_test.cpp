@@ -1,7 +1,6 @@
 #include "mainwindows/config_file.h"
 
 #include <QDir>
-#include <QTest>
 
 #include "platform/failure.h"
 #include "support/theme_doubles.h"
@@ -10,11 +9,7 @@ using namespace Qt::StringLiterals;
 using mainwindows::ConfigFile;
 using support::Folder;
 
-namespace {
-
 const QString File = u"config.ini"_s;
-
-}  // namespace
 
 class ConfigFileTest : public QObject {
   Q_OBJECT

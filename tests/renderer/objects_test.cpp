@@ -1,11 +1,7 @@
-#include <QTest>
-
 #include "renderer/highlight_cursor.h"
-#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,10 +1,6 @@
-#include <QTest>
-
-#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -3,14 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QTest>
-
 #include "renderer/recolouring.h"
-#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
-using namespace Qt::StringLiterals;
 using namespace renderer;
 
 namespace {
@@ -126,9 +122,9 @@ class TexturePipelineTest : public QObject {
       FailingGraphics graphics;
       graphics.failing = failing;
       DrawTexture(stage.surface, stage.folder.path(u"Red.png"_s), QString(), 3, 4, -1, 0, u"0 0 0"_s, NoIntensity,
-                  graphics, stage.boxes);
+                  graphics, stage.dialogs);
       QCOMPARE(graphics.steps.join(u' '), steps);
-      QCOMPARE(stage.boxes.texts.join(u' '), message);
+      QCOMPARE(stage.dialogs.asked, draws && failing.isEmpty() ? QStringList() : QStringList(u": "_s + message));
       QCOMPARE(inkOf(stage.surface.image()), draws ? QRect(3, 4, 8, 4) : QRect());
     }
   }

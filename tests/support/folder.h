@@ -8,6 +8,8 @@
 
 namespace support {
 
+using namespace Qt::StringLiterals;
+
 /// A folder that goes with the test. Names of files are relative to it; tables write "|" for a line end.
 class Folder {
  public:

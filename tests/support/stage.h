@@ -79,7 +79,7 @@ class Stage {
   }
 
   void draw() {
-    renderer::RenderContext context{state, tags, surface, host, panel, boxes, graphics, account};
+    renderer::RenderContext context{state, tags, surface, host, panel, dialogs, graphics, account};
     renderer::DrawScreen(context);
   }
 
@@ -94,7 +94,7 @@ class Stage {
   platform::Surface surface;
   Host host;
   Panel panel;
-  Boxes boxes;
+  ScriptedDialogs dialogs;
   platform::Graphics graphics;
   renderer::RenderAccount account;
 };

@@ -1,8 +1,9 @@
 #pragma once
 
 #include <algorithm>
+#include <deque>
 
-#include <QStringList>
+#include <QTest>
 
 #include "platform/code_page.h"
 #include "platform/dialogs.h"
@@ -10,7 +11,7 @@
 #include "support/folder.h"
 #include "themefiles/tag_listing.h"
 
-// What the rooms without windows work with in tests.
+// What the rooms work with in tests.
 
 namespace support {
 
@@ -21,17 +22,50 @@ class Panel : public platform::StatusLine {
   QStringList texts;
 };
 
-/// Keeps the texts of message boxes and cancels everything else.
-class Boxes : public platform::Dialogs {
+/// Answers in the order given; without one, as a user who only wants out: No, Cancel.
+class ScriptedDialogs : public platform::Dialogs {
  public:
-  platform::BoxAnswer MessageBox(QWidget*, const QString& text, const QString& title, platform::BoxKind) override {
-    texts += title + text;
-    return platform::BoxAnswer::Ok;
+  std::deque<platform::BoxAnswer> boxes;
+  std::deque<QString> inputs, files;
+  std::deque<std::optional<QColor>> colors;
+  QStringList asked;  ///< "title: text" of each dialog
+
+  platform::BoxAnswer MessageBox(QWidget*, const QString& text, const QString& title, platform::BoxKind kind) override {
+    asked += title + u": "_s + text;
+    const bool question = kind == platform::BoxKind::YesNoDefaultNo;
+    return question ? next(boxes, platform::BoxAnswer::No) : platform::BoxAnswer::Ok;
   }
-  QString InputBox(QWidget*, const QString&, const QString&) override { return {}; }
-  QString OpenFile(QWidget*, const platform::FileRequest&) override { return {}; }
-  std::optional<QColor> ChooseColor(QWidget*, const QColor&) override { return {}; }
-  QStringList texts;
+  QString InputBox(QWidget*, const QString& prompt, const QString& title) override {
+    asked += title + u": "_s + prompt;
+    return next(inputs);
+  }
+  QString OpenFile(QWidget*, const platform::FileRequest& request) override {
+    asked += request.title + u": "_s + request.folder;
+    return next(files);
+  }
+  std::optional<QColor> ChooseColor(QWidget*, const QColor& present) override {
+    asked += u"colour: "_s + present.name();
+    return next(colors);
+  }
+
+ private:
+  template <typename Answer>
+  static Answer next(std::deque<Answer>& answers, Answer without = {}) {
+    if (answers.empty()) return without;
+    const Answer answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
+/// While a test walks a table: names the row on which it failed.
+struct RowName {
+  explicit RowName(QByteArray row) : name(std::move(row)) {}
+  ~RowName() {
+    if (QTest::currentTestFailed()) qWarning("in row '%s'", name.constData());
+  }
+  Q_DISABLE_COPY_MOVE(RowName)
+  QByteArray name;
 };
 
 /// A sorted list with no window.

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <deque>
 #include <filesystem>
 #include <functional>
 
 #include <QApplication>
 #include <QDirIterator>
+#include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 
@@ -18,44 +18,6 @@
 
 /// What the tests of the windows share: dialogs that answer by script, a game folder, and the program on it.
 namespace support {
-
-using namespace Qt::StringLiterals;
-
-/// Answers in the order given; without one, as a user who only wants out: No, Cancel.
-class ScriptedDialogs : public platform::Dialogs {
- public:
-  std::deque<platform::BoxAnswer> boxes;
-  std::deque<QString> inputs, files;
-  std::deque<std::optional<QColor>> colors;
-  QStringList asked;  ///< "title: text" of each dialog
-
-  platform::BoxAnswer MessageBox(QWidget*, const QString& text, const QString& title, platform::BoxKind kind) override {
-    asked += title + u": "_s + text;
-    const bool question = kind == platform::BoxKind::YesNoDefaultNo;
-    return question ? next(boxes, platform::BoxAnswer::No) : platform::BoxAnswer::Ok;
-  }
-  QString InputBox(QWidget*, const QString& prompt, const QString& title) override {
-    asked += title + u": "_s + prompt;
-    return next(inputs);
-  }
-  QString OpenFile(QWidget*, const platform::FileRequest& request) override {
-    asked += request.title + u": "_s + request.folder;
-    return next(files);
-  }
-  std::optional<QColor> ChooseColor(QWidget*, const QColor& present) override {
-    asked += u"colour: "_s + present.name();
-    return next(colors);
-  }
-
- private:
-  template <typename Answer>
-  static Answer next(std::deque<Answer>& answers, Answer without = {}) {
-    if (answers.empty()) return without;
-    const Answer answer = answers.front();
-    answers.pop_front();
-    return answer;
-  }
-};
 
 inline const QString ThemeFile = u"Themes/Alpha.ini"_s;
 inline const QString SkinFile = u"Skins/Alpha/One.ini"_s;
@@ -131,6 +93,11 @@ QStringList entries(const List& list) {
   return all;
 }
 
+/// The entries of a list and the one that is chosen: "a,b: b".
+inline QString listing(const controls::ComboBox& list) {
+  return entries(list).join(u',') + u": "_s + list.Text();
+}
+
 /// Serves what is pending, deletions too.
 inline void settle() {
   QCoreApplication::processEvents();
@@ -169,6 +136,19 @@ class Program {
   QString buttons() const {
     QString all;
     for (int button = 1; button <= 4; ++button) all += enabled(button) ? u'+' : u'-';
+    return all;
+  }
+
+  /// The rows of the grid, and those of the theme's colours: "name=value".
+  QStringList rows() const {
+    QStringList all;
+    const controls::ListView& grid = *tools().ListView1;
+    for (int row = 0; row < grid.RowCount(); ++row) all += grid.RowText(row) + u'=' + grid.SubItem(row);
+    return all;
+  }
+  QStringList colors() const {
+    QStringList all;
+    for (const themefiles::NamedColor& color : state.ThemeColors) all += color.Name + u'=' + color.Value;
     return all;
   }
 
@@ -232,11 +212,53 @@ class Program {
  private:
   /// The row of the grid that shows the key; -1 when there is none.
   int rowOf(const QString& key) const {
-    int row = tools().ListView1->RowCount() - 1;
-    while (row >= 0 && tools().ListView1->RowText(row) != key) --row;
-    return row;
+    return static_cast<int>(rows().lastIndexOf(QRegularExpression(QRegularExpression::escape(key) + u"=.*"_s)));
   }
 };
+
+/// What a user has of the program and the game's files, by name; what isn't there is left out.
+inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
+  const mainwindows::Form1& form = program.form;
+  const themefiles::ModuleState& state = program.state;
+  const themefiles::ThemePaths& files = state.Paths;
+  QStringList paths{files.ExeDirectory, files.LanguagesDirectory, files.ThemeFile,
+                    files.SkinFile,     files.SkinDirectory,      files.LanguageFile};
+  QVariantMap all{{u"state"_s, QVariantList{state.ThemeOpened, state.Changed, form.isVisible()}},
+                  {u"paths"_s, paths.replaceInStrings(game.path().chopped(1), u"game"_s)},
+                  {u"colours"_s, program.colors()},
+                  {u"busy"_s, form.Queue.Busy() || form.ProgressBar1->isVisible()},
+                  {u"windows"_s, form.findChildren<toolwindow::Form2*>().size()},
+                  {u"files"_s, QVariant::fromValue(game.files())}};
+  if (!form.isVisible()) return all;
+  mainwindows::Workspace& preview = *form.Workspace;
+  all.insert({{u"lists shown"_s, QVariantList{form.Combo1->isVisible(), form.Combo2->isVisible()}},
+              {u"scheme"_s, form.Combo1->Text()},
+              {u"blinking"_s, preview.Blinking()},
+              {u"mark"_s, preview.MarkVisible() ? preview.Mark() : QRectF()},
+              {u"enabled"_s, program.buttons()},
+              {u"picture"_s, program.picture()}});
+  if (!state.ThemeOpened || form.ToolWindow == nullptr) return all;
+  const toolwindow::Form2& tools = program.tools();
+  all.insert(
+      {{u"lists"_s, entries(*form.Combo2) + entries(*tools.List1) + program.rows()},
+       {u"editors"_s, QStringList{listing(*tools.Combo3), listing(*tools.Combo5), listing(*tools.Combo6),
+                                  tools.Text2->Text(), tools.Text3->Text(), tools.Command2->BackColor().name()}},
+       {u"chosen"_s, QVariantList{form.Combo2->ListIndex(), tools.Combo1->Text(), tools.List1->ListIndex(),
+                                  tools.ListView1->SelectedRow()}},
+       {u"flags"_s, QVariantList{state.EditorShown, state.ButtonListFilled, state.SelectedButton, state.ButtonCount,
+                                 state.ProgressStep, state.Filter.OnlyTags + state.Filter.SkipTags}},
+       {u"pen"_s, preview.Surface().FontName() + QString::number(preview.Surface().FontSize())},
+       {u"height"_s, tools.height()}});
+  return all;
+}
+
+/// The names of the parts in which two snapshots differ.
+inline QStringList differences(const QVariantMap& a, const QVariantMap& b) {
+  QStringList names = a.keys() + b.keys();
+  names.removeDuplicates();
+  names.removeIf([&](const QString& name) { return a[name] == b[name]; });
+  return names;
+}
 
 /// A test whose functions each get the program on a game folder of its own, with the theme open.
 class ProgramTest : public QObject {

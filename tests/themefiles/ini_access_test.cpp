@@ -1,21 +1,14 @@
 #include "themefiles/ini_access.h"
 
-#include <QTest>
-
 #include "platform/failure.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
 using namespace support;
-using namespace Qt::StringLiterals;
-
-namespace {
 
 const QString Name = u"a.ini"_s;
 const QString Section = u"S"_s;
 const QString Key = u"k"_s;
-
-}  // namespace
 
 class IniAccessTest : public QObject {
   Q_OBJECT

@@ -1,5 +1,3 @@
-#include <QTest>
-
 #include "support/theme_doubles.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
@@ -8,7 +6,6 @@
 
 using namespace themefiles;
 using namespace support;
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,4 +1,3 @@
-#include "support/row_name.h"
 #include "support/windows.h"
 
 using namespace support;
@@ -66,32 +65,19 @@ class ValueEditorsTest : public ProgramTest {
   }
 
   void values() {
-    const struct {
-      const char *key, *value, *shown;
-    } rows[] = {{"ALIGN", "2", "2 = Right"},
-                {"FONT", "", "0 = Normal"},
-                {"FONT", "3", "3 = Bold with dark Outline"},
-                {"FONT", "0.5", "0 = Normal"},
-                {"FONT", "1.5", "2 = Bold with Outline"},
-                {"FADE", "word", "0 = False"},
-                {"FADE", "2", "none"},
-                {"DIRECTION", "0", "0 = Left to Right"},
-                {"FONT", "40000", "none"},
-                {"DIRECTION", "1", "1 = Bottom to Top"},
-                {"TYPE", "font black", ""},
-                {"TYPE", "Transparent", "Transparent"},
-                {"TEXT", "HELLO", "HELLO|Hello there"},
-                {"TEX", "Plate", "Plate|plate.png"},
-                {"COLOR", "blue", "|"},
-                {"COLOR", "Blue", "Theme|Blue"},
-                {"COLOR", "P6Dark", "Player|P6Dark"},
-                {"COLOR", "ColorLight", "Program|ColorLight"}};
-    for (const auto& [key, value, shown] : rows) {
-      const RowName name(QByteArray(key) + '=' + value);
+    // Key, value, and what is shown.
+    for (const char* row :
+         {"ALIGN/2/2 = Right", "FONT//0 = Normal", "FONT/3/3 = Bold with dark Outline", "FONT/0.5/0 = Normal",
+          "FONT/1.5/2 = Bold with Outline", "FADE/word/0 = False", "FADE/2/none", "DIRECTION/0/0 = Left to Right",
+          "FONT/40000/none", "DIRECTION/1/1 = Bottom to Top", "TYPE/font black/", "TYPE/Transparent/Transparent",
+          "TEXT/HELLO/HELLO|Hello there", "TEX/Plate/Plate|plate.png", "COLOR/blue/|", "COLOR/Blue/Theme|Blue",
+          "COLOR/P6Dark/Player|P6Dark", "COLOR/ColorLight/Program|ColorLight"}) {
+      const RowName name(row);
+      const QStringList parts = QString::fromLatin1(row).split(u'/');
       program->soleRow(u"TYPE"_s, u"Plain"_s);  // what the choices held before
       program->form.ShowStatus(QString());
-      program->soleRow(QLatin1StringView(key), QLatin1StringView(value));
-      QCOMPARE(shownValue(program->tools()), QLatin1StringView(shown));
+      program->soleRow(parts[0], parts[1]);
+      QCOMPARE(shownValue(program->tools()), parts[2]);
       const bool failed = shownFrame(program->tools()) == u"none";
       QCOMPARE(program->status().startsWith(u"Error while reading Value ["), failed);
       QVERIFY(program->state.EditorShown && !program->state.Changed);
