@@ -21,14 +21,6 @@ QRgb blocks(int x, int y) {
   return colors[y][x];
 }
 
-QImage pictureOf(QRgb (*pixel)(int, int), int width, int height) {
-  QImage picture(width, height, QImage::Format_ARGB32);
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) picture.setPixel(x, y, pixel(x, y));
-  }
-  return picture;
-}
-
 using Pixel = std::array<double, 4>;  ///< red, green, blue, alpha
 
 Pixel pixelOf(QRgb color) {
@@ -122,10 +114,10 @@ class PixelsOnScreenTest : public QObject {
     theme += "[LoadingStaticScaled]|Tex=Blocks|X=100|Y=300|W=40|H=20|Color=Any|";
     game.put(ThemeFile, linesOf(theme));
     game.put(SkinFile, linesOf("[Textures]|Patch=patch.png|Faint=faint.png|Strip=strip.png|Blocks=blocks.bmp|"));
-    save("patch.png", pictureOf(patch, 16, 12));
-    save("faint.png", pictureOf(faint, 16, 12));
-    save("strip.png", pictureOf(patch, 4, 40));
-    save("blocks.bmp", pictureOf(blocks, 2, 2));
+    save("patch.png", pictureOf(16, 12, patch));
+    save("faint.png", pictureOf(16, 12, faint));
+    save("strip.png", pictureOf(4, 40, patch));
+    save("blocks.bmp", pictureOf(2, 2, blocks));
   }
 
   void statics() {

@@ -19,24 +19,13 @@ constexpr QRgb Ground = qRgb(255, 255, 255);
 constexpr QRgb Edge = qRgb(10, 20, 30);
 constexpr QRgb Inside = qRgb(200, 150, 100);
 
-/// A line of letters for each row: # edge, o inside, . untouched.
+/// # edge, o inside, . untouched.
 QByteArrayList letters(const Raster& raster) {
-  QByteArrayList rows;
-  for (int y = 0; y < raster.Height(); ++y) {
-    QByteArray row;
-    for (int x = 0; x < raster.Width(); ++x) {
-      const QRgb pixel = raster.image().pixel(x, y);
-      row += pixel == Ground ? '.' : pixel == Edge ? '#' : pixel == Inside ? 'o' : '?';
-    }
-    rows << row;
-  }
-  return rows;
+  return lettersOf(raster.image(), {{Ground, '.'}, {Edge, '#'}, {Inside, 'o'}});
 }
 
 QImage picture(const QList<QRgb>& pixels, int width) {
-  QImage image(width, int(pixels.size()) / width, QImage::Format_ARGB32);
-  for (int i = 0; i < pixels.size(); ++i) image.setPixel(i % width, i / width, pixels[i]);
-  return image;
+  return pictureOf(width, int(pixels.size()) / width, [&](int x, int y) { return pixels[y * width + x]; });
 }
 
 /// A white surface that nothing has been drawn on.

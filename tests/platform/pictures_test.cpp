@@ -5,6 +5,7 @@
 #include <QTest>
 
 #include "support/folder.h"
+#include "support/pictures.h"
 
 using namespace platform;
 using namespace Qt::StringLiterals;
@@ -12,11 +13,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QImage sample(QImage::Format format) {
-  QImage image(23, 17, QImage::Format_ARGB32);
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) image.setPixel(x, y, qRgba(x * 11, y * 15, x * y % 256, 255 - x * 5));
-  }
-  return image.convertToFormat(format);
+  const auto pixel = [](int x, int y) { return qRgba(x * 11, y * 15, x * y % 256, 255 - x * 5); };
+  return support::pictureOf(23, 17, pixel).convertToFormat(format);
 }
 
 QByteArray encoded(const QImage& image, const char* format) {

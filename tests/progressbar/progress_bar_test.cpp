@@ -10,6 +10,7 @@
 #include "progressbar/main_window_bar.h"
 #include "progressbar/painting.h"
 #include "progressbar/stored_form.h"
+#include "support/pictures.h"
 
 using namespace progressbar;
 using platform::PropertyBag;
@@ -99,12 +100,9 @@ class ProgressBarTest : public QObject {
     bar.RoundedValue = 6;
     bar.Orientations = 3;
     const QImage image = painted(QSize(10, 8), bar).image();
-    const char* const rows[] = {"  #####   ", " #.....#  ", "#.......# ", "#.......# ",
-                                "#.......# ", " #.....#  ", "  #####   ", "          "};
-    for (int i = 0; i < 80; ++i) {
-      const char letter = rows[i / 10][i % 10];
-      QCOMPARE(image.pixel(i % 10, i / 10), letter == ' ' ? 0U : letter == '#' ? qRgb(64, 64, 64) : ButtonFace);
-    }
+    QCOMPARE(support::lettersOf(image, {{0U, ' '}, {qRgb(64, 64, 64), '#'}, {ButtonFace, '.'}}),
+             (QByteArrayList{"  #####   ", " #.....#  ", "#.......# ", "#.......# ", "#.......# ", " #.....#  ",
+                             "  #####   ", "          "}));
   }
 
   void fourCorners() {

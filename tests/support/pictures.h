@@ -1,13 +1,31 @@
 #pragma once
 
+#include <QHash>
 #include <QImage>
 
 namespace support {
+
+/// A picture of the pixels that the function gives for each place.
+template <typename Pixel>
+QImage pictureOf(int width, int height, Pixel pixel) {
+  QImage image(width, height, QImage::Format_ARGB32);
+  for (int i = 0; i < width * height; ++i) image.setPixel(i % width, i / width, pixel(i % width, i / width));
+  return image;
+}
 
 inline QImage plainPicture(int width, int height, QRgb color) {
   QImage image(width, height, QImage::Format_ARGB32);
   image.fill(color);
   return image;
+}
+
+/// The pixels as rows of the letters of their colours; "?" for any other colour.
+inline QByteArrayList lettersOf(const QImage& image, const QHash<QRgb, char>& letters) {
+  QByteArrayList rows(image.height());
+  for (int i = 0; i < image.width() * image.height(); ++i) {
+    rows[i / image.width()] += letters.value(image.pixel(i % image.width(), i / image.width()), '?');
+  }
+  return rows;
 }
 
 /// The rectangle round all pixels that differ from the colour.

@@ -1,9 +1,9 @@
 #include <map>
 
-#include <QTest>
-
 #include "platform/fonts.h"
 #include "platform/raster_text.h"
+#include "support/pictures.h"
+#include "support/theme_doubles.h"
 #include "toolbar/faces.h"
 #include "toolbar/icon_painting.h"
 #include "toolbar/layout.h"
@@ -20,41 +20,30 @@ const std::map<char, QRgb> Palette = {
     {'0', 0x5D5D5D}, {'1', 0x6A6A6A}, {'2', 0x320078}, {'3', 0x640050}, {'4', 0x960028}, {'5', 0x42006B},
     {'6', 0x850036}, {'7', 0x210086}, {'8', 0xA6001B}, {'9', 0x860035}, {'a', 0x43006A}, {'b', 0x140090},
     {'c', 0x280080}, {'e', 0x3C0070}, {'i', 0x500060}, {'j', 0x780040}, {'k', 0x8C0030}, {'m', 0xA00020},
-    {'n', 0xB40010}, {'L', 0x9F9F9F}, {'K', 0x202020},
+    {'n', 0xB40010}, {'L', 0x9F9F9F}, {'K', 0x202020}, {'o', 0x3C3C3C}, {'p', 0x353535}, {'q', 0x424242},
+    {'r', 0xB40A0A}, {'t', 0x46B4B4}, {'u', 0x354646}, {'v', 0x003535},
 };
 constexpr quint32 Back = 0x404040;
 constexpr quint32 Face = 0x0000C8;
 constexpr quint32 Ramp = 0xA00000;
 
 /// The pixels as rows of letters of the palette.
-QStringList lettersOf(const platform::Raster& raster) {
-  QStringList rows;
-  for (int y = 0; y < raster.Height(); ++y) {
-    rows += QString();
-    for (int x = 0; x < raster.Width(); ++x) {
-      const QRgb color = raster.image().pixel(x, y) & RGB_MASK;
-      const auto found = std::ranges::find(Palette, color, [](const auto& entry) { return entry.second; });
-      rows.last() += found == Palette.end() ? u'@' : QChar::fromLatin1(found->first);
-    }
-  }
-  return rows;
+QByteArrayList lettersOf(const platform::Raster& raster) {
+  QHash<QRgb, char> letters;
+  for (const auto& [letter, color] : Palette) letters[color | ~RGB_MASK] = letter;
+  return support::lettersOf(raster.image(), letters);
 }
 
-QStringList rowsOf(const QString& text) {
-  return text.split(u'\n', Qt::SkipEmptyParts);
+QByteArrayList rowsOf(const QByteArray& text) {
+  return text.trimmed().split('\n');
 }
 
-QImage pictureOf(const QString& text) {
-  const QStringList rows = rowsOf(text);
-  QImage picture(int(rows.first().size()), int(rows.size()), QImage::Format_ARGB32);
-  picture.fill(0);
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = 0; x < picture.width(); ++x) {
-      const char letter = rows[y][x].toLatin1();
-      if (letter != '.') picture.setPixel(x, y, Palette.at(letter) | 0xFF000000U);
-    }
-  }
-  return picture;
+QImage pictureOf(const QByteArray& text) {
+  const QByteArrayList rows = rowsOf(text);
+  return support::pictureOf(int(rows[0].size()), int(rows.size()), [&](int x, int y) {
+    const char letter = rows[y][x];
+    return letter == '.' ? 0U : Palette.at(letter) | 0xFF000000U;
+  });
 }
 
 /// A surface of 24 x 16 pixels with two rows of two buttons: as they are and hovered, pressed and disabled.
@@ -71,7 +60,7 @@ struct Sheet : toolbar::ModelView {
     values.ButtonsHeight = 8;
     for (ToolbarButton& button : buttons) {
       button.Caption.clear();
-      button.Icon = toolbar::PictureOfImage(pictureOf(QStringLiteral("R.R\n.B.\nR.R")));
+      button.Icon = toolbar::PictureOfImage(pictureOf("R.R\n.B.\nR.R"));
     }
     buttons[2].Pressed = true;
     buttons[3].Enabled = false;
@@ -86,7 +75,7 @@ struct Sheet : toolbar::ModelView {
     bool backgroundDrawn = false;
     toolbar::Paint(surface, {model, layout.HiddenButtons, size, isMain, false, true}, backgroundDrawn);
   }
-  QStringList letters() const { return lettersOf(surface.Image()); }
+  QByteArrayList letters() const { return lettersOf(surface.Image()); }
 
   void PropertyChanged(QStringView /*name*/) override {}
   void React(toolbar::Effect /*effect*/) override {}
@@ -134,7 +123,7 @@ class PaintingTest : public QObject {
   // disabled bar with a border of its own, the alignments. Without a frame the buttons of the first row and of the
   // first column get no ramp in modes 0 to 3.
   void rasters() {
-    const QStringList rasters[] = {rowsOf(QStringLiteral(R"(
+    const QByteArrayList rasters[] = {rowsOf(R"(
 ............llllllllllld llllllllllldllllllllllld ###########f###########f fffffffffff#fffffffffff#
 ............l..........d l..........dl..........d #llllllllldf#llllllllldf fllllllllld#fllllllllld#
 ....R.R.....l...R.R....d l...R.R....dl...R.R....d #l..R.R...df#l..R.R...df fl..R.R...d#fl..R.R...d#
@@ -151,8 +140,8 @@ d.....R.R..l....0.0..... d.....R.R..ll4440404444d #d....R.R.lf#l660606666f #d...
 d......B...l............ d......B...llffffffffffd #d.....B..lf#lffffffffff #d.....B..lfflfffffffff#
 d.....R.R..l............ d.....R.R..ll..........d #lllllRlRllf#ddddddddddf #lllllRlRllffdddddddddd#
 llllllllllll............ lllllllllllldddddddddddd ffffffffffffffffffffffff ffffffffffff############
-)")),
-                                   rowsOf(QStringLiteral(R"(
+)"),
+                                      rowsOf(R"(
 ........................ ..ddddddd.....ddddddd... ..ddddddd.....ddddddd... LLLLLLLLLLLLLLLLLLLLLLLK
 .............DDRDRDDDD.. .dfffffffd...dhRhRhhhd.. .dfffffffd...dhhhhhhhd.. L......................K
 ....R.R......DHHBHHHHD.. dfggRgRggfd.dhhhBhhhhhd. dgggRgRgggd.dhhhRhRhhhd. L......................K
@@ -169,8 +158,8 @@ llllllllllll............ lllllllllllldddddddddddd ffffffffffffffffffffffff fffff
 .DDDDDDDDD.............. .dfffffffd...dfffffffd.. .dfffRfRfd...dfffffffd.. L......................K
 ........................ ..ddddddd.....ddddddd... ..ddddddd.....ddddddd... L......................K
 ........................ ........................ ........................ KKKKKKKKKKKKKKKKKKKKKKKK
-)")),
-                                   rowsOf(QStringLiteral(R"(
+)"),
+                                      rowsOf(R"(
 KKKKKKKKKKKKKKKKKKKKKKKL ........................ ................R.R.....
 K......................L .............ggggggggg.. .................B......
 K......................L ....0.0......gHH0H0HHg.. ................R.R.....
@@ -187,32 +176,33 @@ K......................L .ghh0h0hhg......0.0..... .....R.R........R.R.....
 K......................L .ggggggggg.............. ........................
 K......................L ........................ ........................
 LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
-)"))};
+)")};
     for (int place = 0; place < 11; ++place) {
       Sheet sheet;
       sheet.values.ButtonsMode = place < 7 ? place : 4;
       if (place >= 7) change(sheet, place - 7);
       sheet.paint();
-      QStringList expected(QStringLiteral("raster %1").arg(place));
-      for (const QString& line : rasters[place / 4]) expected += line.mid(place % 4 * 25, 24);
-      QCOMPARE(QStringList(expected.first()) + sheet.letters(), expected);
+      QByteArrayList expected;
+      for (const QByteArray& line : rasters[place / 4]) expected += line.mid(place % 4 * 25, 24);
+      const support::RowName name(QByteArray::number(place));
+      QCOMPARE(sheet.letters(), expected);
     }
   }
 
   // Kinds 0 to 7 side by side.
   void gradients() {
-    const QStringList expected = rowsOf(QStringLiteral(R"(
+    const QByteArrayList expected = rowsOf(R"(
 ....... g75368f g5f9ag. ggggggg ggggggg gbcei3j i3jkmnf #######
 ....... g75368f g5f9ag. 2222222 fffffff bcei3jk ei3jkmn #######
 ....... g75368f g5f9ag. 3333333 fffffff cei3jkm cei3jkm #######
 ....... g75368f g5f9ag. 4444444 9999999 ei3jkmn bcei3jk #######
 ....... g75368f g5f9ag. fffffff aaaaaaa i3jkmnf gbcei3j #######
-)"));
+)");
     for (int kind = 0; kind <= 7; ++kind) {
       platform::Raster raster(QSize(7, 5), Back);
       toolbar::FillGradient(raster, raster.rect(), Face, Ramp, kind);
-      QStringList rows;
-      for (const QString& row : expected) rows += row.mid(kind * 8, 7);
+      QByteArrayList rows;
+      for (const QByteArray& row : expected) rows += row.mid(kind * 8, 7);
       QCOMPARE(lettersOf(raster), rows);
     }
   }
@@ -220,23 +210,17 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
   // The walk takes three bytes at a time, over the bytes that fill up a row too.
   void greyWalk() {
     const auto grey = [](const char* picture) {
-      const auto bitmap = toolbar::PictureOfImage(pictureOf(QString::fromLatin1(picture)));
+      const auto bitmap = toolbar::PictureOfImage(pictureOf(picture));
       platform::Raster raster(QSize(bitmap->Width(), bitmap->Height()), Back);
       toolbar::PaintGrayScale(raster, *bitmap, 0, 0);
-      QList<QRgb> shown;
-      for (int y = 0; y < raster.Height(); ++y) {
-        for (int x = 0; x < raster.Width(); ++x) shown += raster.image().pixel(x, y) & RGB_MASK;
-      }
-      return shown;
+      return lettersOf(raster).join('\n');
     };
-    using Pixels = QList<QRgb>;
-    QCOMPARE(grey("RB"), (Pixels{0x5D5D5D, 0x6A6A6A}));                        // two fill bytes
-    QCOMPARE(grey("RBhg"), (Pixels{0x5D5D5D, 0x6A6A6A, 0x3C3C3C, 0x0000A0}));  // whole triples: the last stays
-    QCOMPARE(grey("R.B"), (Pixels{0x5D5D5D, Back, 0x6A6A6A}));                 // clear under its mask
+    QCOMPARE(grey("RB"), "01");      // two fill bytes
+    QCOMPARE(grey("RBhg"), "01og");  // whole triples: the last stays
+    QCOMPARE(grey("R.B"), "0.1");    // clear under its mask
     // A triple of fill bytes a row; a single one, which shifts the upper row.
-    QCOMPARE(grey("RBh\nghR"), (Pixels{0x5D5D5D, 0x6A6A6A, 0x3C3C3C, 0x353535, 0x3C3C3C, 0x5D5D5D}));
-    QCOMPARE(grey("RBhgf\nfghBR"), (Pixels{0xB40A0A, 0x46B4B4, 0x354646, 0x003535, 0xC80000,  //
-                                           0x424242, 0x353535, 0x3C3C3C, 0x6A6A6A, 0x5D5D5D}));
+    QCOMPARE(grey("RBh\nghR"), "01o\npo0");
+    QCOMPARE(grey("RBhgf\nfghBR"), "rtuvf\nqpo10");
   }
 
   // On a button of 80 x 60 with an icon of 3 x 3, in lines of 17.
@@ -280,10 +264,9 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
     Sheet sheet;
     sheet.buttons.resize(1);
     sheet.buttons[0].Icon = nullptr;
-    sheet.values.Background = toolbar::PictureOfImage(pictureOf(QStringLiteral("Rg\nBf")));
+    sheet.values.Background = toolbar::PictureOfImage(pictureOf("Rg\nBf"));
     sheet.paint();
-    QCOMPARE(sheet.letters()[14] + sheet.letters()[15],
-             QStringLiteral("Rg").repeated(12) + QStringLiteral("Bf").repeated(12));
+    QCOMPARE(sheet.letters().mid(14), (QByteArrayList{QByteArray("Rg").repeated(12), QByteArray("Bf").repeated(12)}));
   }
 };
 
