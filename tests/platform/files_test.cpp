@@ -1,13 +1,9 @@
 #include "platform/files.h"
 
-#include <csignal>
 #include <new>
 #include <stdexcept>
-#include <sys/resource.h>
 
 #include <QDir>
-#include <QScopeGuard>
-#include <QTest>
 
 #include "platform/failure.h"
 #include "support/theme_doubles.h"
@@ -52,22 +48,6 @@ class FilesTest : public QObject {
       QCOMPARE(folder_->get(u"protected.ini"_s), QByteArray("old"));
       QCOMPARE(entries(), before);
     }
-  }
-
-  void fullDiskKeepsTheOldFile() {
-    folder_->put(u"a.ini"_s, "old");
-    // A write beyond the limit of a file's size fails as on a full disk.
-    rlimit whole;
-    getrlimit(RLIMIT_FSIZE, &whole);
-    const auto restore = qScopeGuard([&] { setrlimit(RLIMIT_FSIZE, &whole); });
-    const rlimit small{10'000, whole.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &small);
-    std::signal(SIGXFSZ, SIG_IGN);
-    for (const QString& name : {u"a.ini"_s, u"b.ini"_s}) {
-      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(name), QByteArray(20'000, 'x')));
-    }
-    QCOMPARE(folder_->get(u"a.ini"_s), QByteArray("old"));
-    QCOMPARE(entries(), QStringList{u"a.ini"_s});
   }
 
   void foldersAndTheirFiles() {

@@ -1,13 +1,10 @@
 #include "themefiles/working_copies.h"
 
-#include <QTest>
-
 #include "platform/failure.h"
 #include "support/theme_doubles.h"
 
 using namespace themefiles;
 using namespace support;
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -81,16 +78,6 @@ class WorkingCopiesTest : public QObject {
     QCOMPARE(game.folder.get(Skin), QByteArray("[Skin]\n"));
     QVERIFY(!game.folder.has(Theme + u".bak"_s) && !game.folder.has(Language + u".bak"_s));
     QVERIFY(game.panel.texts.size() == 2 && game.panel.texts[1].contains(Skin + u".bak"_s));
-  }
-
-  void openFailsMidway() {
-    Game game;
-    QVERIFY(QFile::remove(game.folder.native(Skin)));
-    game.state.Paths.ThemeFile = u"before"_s;
-    QVERIFY(!game.open());
-    QVERIFY(game.folder.has(Theme + Copy) && !game.folder.has(Language + Copy));
-    QVERIFY(!game.state.ThemeOpened && game.state.Paths.ThemeFile == u"before" && game.state.Paths.SkinFile.isEmpty());
-    QVERIFY(game.panel.texts.value(0).contains(Skin));
   }
 
   void saveFailsMidway() {
