@@ -64,16 +64,13 @@ class WidgetTest : public QObject {
     QVERIFY(!bar.GetButtonValue(1, 8).isValid());
   }
 
-  void doubleClickIsOneClick() {
+  void doubleClickIsOneClickAndLeavingComesOnce() {
     Form form;
     const QSignalSpy doubles(&form.bar, &McToolBar::DblClick);
     QTest::mouseClick(&form.bar, Qt::LeftButton, {}, {5, 5});
     QTest::mouseDClick(&form.bar, Qt::LeftButton, {}, {5, 5});
     QCOMPARE(numbers(form.clicks) + u' ' + numbers(doubles), QStringLiteral("1 1"));
-  }
-
-  void leavingWhileHeldComesOnce() {
-    Form form;
+    // Leaving while the mouse is held.
     QTest::mousePress(&form.bar, Qt::LeftButton, {}, {5, 5});
     for (const int x : {-5, -6}) {
       QMouseEvent move(QEvent::MouseMove, QPointF(x, 5), form.bar.mapToGlobal(QPointF(x, 5)), Qt::NoButton,
@@ -83,18 +80,11 @@ class WidgetTest : public QObject {
     QTest::mouseRelease(&form.bar, Qt::LeftButton, {}, {-6, 5});
     QCOMPARE(form.leaves.size(), 1);
     QCOMPARE(form.bar.Buttons().Button_Index(), -1);
-    QVERIFY(form.clicks.isEmpty());
+    QCOMPARE(form.clicks.size(), 1);
   }
 
   void popupLivesWithItsForm() {
-    const struct {
-      const char* name;
-      void (*end)(Form& form, QLineEdit& other);
-    } rows[] = {
-        {"moved", [](Form& form, QLineEdit&) { form.form.move(form.form.pos() + QPoint(10, 10)); }},
-        {"focus lost", [](Form&, QLineEdit& other) { other.setFocus(); }},
-    };
-    for (const auto& row : rows) {
+    for (const bool moved : {true, false}) {  // or the focus is lost
       Form form(80);
       QLineEdit other(&form.form);
       other.show();
@@ -107,8 +97,8 @@ class WidgetTest : public QObject {
       QTest::mouseClick(&popup, Qt::LeftButton, {}, {40, 5});
       QCOMPARE(numbers(form.clicks), QStringLiteral("4"));
       QVERIFY(popup.isVisible());
-      row.end(form, other);
-      QVERIFY2(QTest::qWaitFor([&popup] { return !popup.isVisible(); }), row.name);
+      moved ? form.form.move(form.form.pos() + QPoint(10, 10)) : other.setFocus();
+      QVERIFY2(QTest::qWaitFor([&popup] { return !popup.isVisible(); }), moved ? "moved" : "focus lost");
     }
   }
 
