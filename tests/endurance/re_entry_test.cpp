@@ -54,9 +54,9 @@ bool update(Program& program) {
   return true;
 }
 
-bool mainScreen(Program& program) {
+bool screen(Program& program, const QString& name = u"Main Screen"_s) {
   if (program.form.ToolWindow == nullptr) return false;
-  program.screen(u"Main Screen"_s);
+  program.screen(name);
   return true;
 }
 
@@ -69,7 +69,7 @@ constexpr Wish Wishes[] = {
     {"no such colour", nullptr, Static, "Color", "Command5", 'c', true},
     {"a new key", nullptr, "LoadingButtonGoText1", "Text", "Command6", 't', true},
     {"no such key", nullptr, Static, "Tex", "Command9", 'i', true},
-    {"another screen", mainScreen},
+    {"another screen", [](Program& p) { return screen(p); }},
     {"another scheme", [](Program& p) { return choose(*p.form.Combo1, 3); }},
     {"another button", [](Program& p) { return choose(*p.form.Combo2, 1, p.state.ButtonListFilled); }},
     {"a background colour", click<4>},
@@ -78,24 +78,11 @@ constexpr Wish Wishes[] = {
     // From here on not in pairs.
     {"another object", [](Program& p) { return pickTag(p, "LoadingTextFree"); }},
     {"Update", update},
-    {"Update, another screen", [](Program& p) { return update(p) && mainScreen(p); }},
-    {"another screen and back",
-     [](Program& p) {
-       p.screen(u"Main Screen"_s);
-       p.screen(u"Loading Screen"_s);
-       return true;
-     }},
+    {"Update, another screen", [](Program& p) { return update(p) && screen(p); }},
+    {"another screen and back", [](Program& p) { return screen(p) && screen(p, u"Loading Screen"_s); }},
     {"Save, Close", [](Program& p) { return click<2>(p) && click<3>(p); }},
-    {"Close, No",
-     [](Program& p) {
-       p.dialogs.boxes = {BoxAnswer::No};
-       return click<3>(p);
-     }},
-    {"the window's end",
-     [](Program& p) {
-       p.form.close();
-       return true;
-     }},
+    {"Close, No", [](Program& p) { return p.dialogs.boxes.clear(), click<3>(p); }},
+    {"the window's end", [](Program& p) { return p.form.close(), true; }},
 };
 constexpr int Paired = 14;
 

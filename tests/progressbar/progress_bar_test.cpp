@@ -206,19 +206,15 @@ class ProgressBarTest : public QObject {
     QCOMPARE(after(0, 100, 50, &ProgressBar::SetMin, 200), QStringLiteral("99 100 99 Value Min"));
   }
 
-  void emptyBagGivesTheStoredDefaults() {
+  void bags() {
     ProgressBar bar;
     bar.setObjectName(QStringLiteral("ProgressBar1"));
     bar.SetValue(3);
-    ReadProperties(bar, PropertyBag());
+    ReadProperties(bar, PropertyBag());  // gives the stored defaults
     QCOMPARE(bar.Value(), 50);
     QCOMPARE(bar.TextEffectColor(), 0xC8C8C8U);
     QCOMPARE(bar.Text(), QStringLiteral("ProgressBar1"));
-  }
-
-  // The value is read behind its range, and a key that fails is passed over.
-  void keysInTheirOrder() {
-    ProgressBar bar;
+    // The value is read behind its range, and a key that fails is passed over.
     ReadProperties(bar, bagOf({{"value", 700}, {"MIN", 300}, {"Theme", QStringLiteral("blue")}, {"max", 900}}));
     QCOMPARE((QList<int>{bar.min(), bar.max(), bar.Value()}), (QList<int>{300, 900, 700}));
     const QAccessibleValueInterface& seen = *QAccessible::queryAccessibleInterface(&bar)->valueInterface();

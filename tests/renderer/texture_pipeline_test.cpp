@@ -112,9 +112,9 @@ class TexturePipelineTest : public QObject {
   void failingSessions() {
     for (const auto& [failing, steps, message, draws] : {
              std::tuple(QString(), u"Startup CreateFrom Delete Shutdown"_s, QString(), true),
-             {u"Startup"_s, u"Startup Shutdown"_s, u"GDI+ could not be initialized"_s, false},
-             {u"CreateFrom"_s, u"Startup CreateFrom Shutdown"_s, u"Graphics object could not be created"_s, false},
-             {u"Delete"_s, u"Startup CreateFrom Delete Shutdown"_s, u"Graphics object could not be deleted"_s, true},
+             {u"Startup"_s, u"Startup Shutdown"_s, u": GDI+ could not be initialized"_s, false},
+             {u"CreateFrom"_s, u"Startup CreateFrom Shutdown"_s, u": Graphics object could not be created"_s, false},
+             {u"Delete"_s, u"Startup CreateFrom Delete Shutdown"_s, u": Graphics object could not be deleted"_s, true},
          }) {
       const RowName name(failing.toLatin1());
       Stage stage;
@@ -124,7 +124,7 @@ class TexturePipelineTest : public QObject {
       DrawTexture(stage.surface, stage.folder.path(u"Red.png"_s), QString(), 3, 4, -1, 0, u"0 0 0"_s, NoIntensity,
                   graphics, stage.dialogs);
       QCOMPARE(graphics.steps.join(u' '), steps);
-      QCOMPARE(stage.dialogs.asked, draws && failing.isEmpty() ? QStringList() : QStringList(u": "_s + message));
+      QCOMPARE(stage.dialogs.asked.join(u' '), message);
       QCOMPARE(inkOf(stage.surface.image()), draws ? QRect(3, 4, 8, 4) : QRect());
     }
   }
