@@ -1,6 +1,9 @@
 #include "controls/text_box.h"
 
-#include <QGuiApplication>
+#include <memory>
+
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -86,6 +89,15 @@ class TextBoxTest : public QObject {
     QTest::keyClick(&window.box, Qt::Key_Backspace);
     QCOMPARE(window.box.Text(), QString());
     QCOMPARE(QGuiApplication::clipboard()->text(), u"-12"_s);
+  }
+
+  void theMenuGoesWithItsBox() {
+    auto window = std::make_unique<Window>();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, window->box.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&window->box, &event);
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    window.reset();
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
   }
 
   void writtenTextKeepsThePlaceOfTyping() {

@@ -48,6 +48,12 @@ class PreviewTest : public QObject {
       QCOMPARE(tools().List1->Text(), QLatin1StringView(object));
       QCOMPARE(program->value(u"W"_s), tools().List1->Text().endsWith(u"Under") ? u"20"_s : u"100"_s);
     }
+    // Another screen, or the same one anew, begins at the top again.
+    for (int i = 0; i < 2; ++i) {
+      clickAt(*program->form.Workspace, {115, 115});
+      QCOMPARE(tools().List1->Text(), u"LoadingButtonA"_s);
+      program->screen(u"Loading Screen"_s);
+    }
     const QString reason = u"texture 'Nothing' has no entry in the skin"_s;
     for (const auto* row : tools().List1->findItems(u"Loading"_s, Qt::MatchStartsWith)) {
       QCOMPARE(row->toolTip().contains(reason), row->text().endsWith(u"Lost"));

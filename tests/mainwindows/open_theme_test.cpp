@@ -1,4 +1,5 @@
 #include <QCloseEvent>
+#include <QScreen>
 
 #include "support/windows.h"
 
@@ -43,7 +44,10 @@ class OpenThemeTest : public QObject {
     game.put(u"Themes/beta.1.INI"_s, "[Theme]\nName=<b>Beta</b>\n");
     game.put(u"Themes/readme.txt"_s, "");
     Program program(game);
+    program.form.move(300, 200);
     QVERIFY(program.openDialog([](Form3& dialog) {
+      const int middle = dialog.screen()->availableGeometry().center().x();
+      QVERIFY(qAbs(dialog.geometry().center().x() - middle) < 4);  // a frame
       const auto chosen = [&] {
         return QStringList{dialog.List1->Text(),  dialog.Label4->text(),  dialog.Label5->text(), dialog.List2->Text(),
                            dialog.Label9->text(), dialog.Label10->text(), dialog.Combo1->Text()}
