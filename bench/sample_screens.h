@@ -44,11 +44,11 @@ class SampleScreen {
 
   QString theme_;
   themefiles::ModuleState state_;
-  support::Tags tags_;
+  themefiles::SortedTags tags_;
   platform::Surface surface_;
   support::Host host_;
   support::Panel panel_;
-  support::Boxes boxes_;
+  support::ScriptedDialogs boxes_;
   platform::Graphics graphics_;
   renderer::RenderAccount account_;
   double longestGap_ = 0;

@@ -35,7 +35,7 @@ struct OpenEditor {
   CopiedSample game;
   QTemporaryDir settings;
   themefiles::ModuleState state;
-  support::Boxes boxes;
+  support::ScriptedDialogs boxes;
   platform::Graphics graphics;
   mainwindows::Form1 form;
 };

@@ -1,6 +1,7 @@
 #include "mainwindows/config_file.h"
 
 #include <QDir>
+#include <QTest>
 
 #include "platform/failure.h"
 #include "support/theme_doubles.h"

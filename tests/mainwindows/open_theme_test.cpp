@@ -1,6 +1,7 @@
 #include <QCloseEvent>
 #include <QScreen>
 
+#include "support/row_name.h"
 #include "support/windows.h"
 
 using namespace support;

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include <QDir>
+#include <QTest>
 
 #include "platform/failure.h"
 #include "support/theme_doubles.h"

@@ -1,4 +1,5 @@
 #include "renderer/highlight_cursor.h"
+#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
@@ -56,8 +57,9 @@ struct Mark : renderer::CursorMark {
 QByteArray marked(const char* tag, const QStringList& fields, qint16 size = 20, quint8 font = 2) {
   Stage stage;
   stage.setTheme("[MainButton]|X=100|Y=200|");
-  stage.tags.rows = {QString::fromLatin1(tag)};
-  stage.tags.index = 0;
+  stage.tags.Clear();
+  stage.tags.AddItem(QString::fromLatin1(tag));
+  stage.tags.SetListIndex(0);
   stage.state.CursorRect = {fields[0], fields[1], fields[2], fields[3], u"Words"_s, size, font};
   Mark mark;
   renderer::DrawCursor(stage.state, stage.tags, stage.surface, mark, stage.panel);

@@ -1,3 +1,4 @@
+#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;
@@ -62,7 +63,8 @@ class RenderStepsTest : public QObject {
     QVERIFY(stage.state.ButtonListFilled && stage.host.buttonsVisible && stage.state.SelectedButton == 1);
     // The pick of the user stands through later drawings, however many buttons there are then.
     stage.state.SelectedButton = 3;
-    stage.tags.rows.removeLast();
+    stage.tags.Clear();
+    stage.tags.AddItem(u"MainButton1"_s);
     stage.draw();
     QCOMPARE(stage.host.buttons, rows);
     QVERIFY(stage.host.selections == 1 && stage.state.SelectedButton == 3);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "renderer/recolouring.h"
+#include "support/row_name.h"
 #include "support/stage.h"
 
 using namespace support;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/code_page.h"
 #include "platform/graphics.h"
 #include "platform/surface.h"
 #include "renderer/render_driver.h"
@@ -8,6 +9,7 @@
 #include "support/theme_doubles.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
+#include "themefiles/tag_listing.h"
 
 namespace support {
 
@@ -90,7 +92,7 @@ class Stage {
   Folder folder;
   QByteArray skin;
   themefiles::ModuleState state;
-  Tags tags;
+  themefiles::SortedTags tags;
   platform::Surface surface;
   Host host;
   Panel panel;

@@ -1,15 +1,10 @@
 #pragma once
 
-#include <algorithm>
 #include <deque>
 
-#include <QTest>
-
-#include "platform/code_page.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "support/folder.h"
-#include "themefiles/tag_listing.h"
 
 // What the rooms work with in tests.
 
@@ -56,34 +51,6 @@ class ScriptedDialogs : public platform::Dialogs {
     answers.pop_front();
     return answer;
   }
-};
-
-/// While a test walks a table: names the row on which it failed.
-struct RowName {
-  explicit RowName(QByteArray row) : name(std::move(row)) {}
-  ~RowName() {
-    if (QTest::currentTestFailed()) qWarning("in row '%s'", name.constData());
-  }
-  Q_DISABLE_COPY_MOVE(RowName)
-  QByteArray name;
-};
-
-/// A sorted list with no window.
-class Tags : public themefiles::TagList {
- public:
-  void Clear() override {
-    rows.clear();
-    index = -1;
-  }
-  void AddItem(const QString& tag) override {
-    rows.insert(std::upper_bound(rows.begin(), rows.end(), tag, platform::NameLess), tag);
-  }
-  int ListCount() const override { return static_cast<int>(rows.size()); }
-  QString List(int row) const override { return rows[row]; }
-  int ListIndex() const override { return index; }
-  void SetListIndex(int row) override { index = row; }
-  QStringList rows;
-  int index = -1;
 };
 
 }  // namespace support

@@ -1,5 +1,7 @@
 #include "themefiles/ini_access.h"
 
+#include <QTest>
+
 #include "platform/failure.h"
 #include "support/theme_doubles.h"
 

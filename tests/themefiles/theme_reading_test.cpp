@@ -1,3 +1,5 @@
+#include <QTest>
+
 #include "support/theme_doubles.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
@@ -21,7 +23,7 @@ struct Theme {
   /// What is listed of the screen, joined by "/", and the reports.
   QString tagsOf(const QString& screen) {
     ReadTags(state, screen, tags, panel, [] {});
-    return tags.rows.join(u'/') + panel.texts.join(u' ');
+    return tags.Rows().join(u'/') + panel.texts.join(u' ');
   }
   /// "item:value" of each row of the section "S", joined by "/".
   QString rowsOfS() {
@@ -38,7 +40,7 @@ struct Theme {
   Folder folder;
   ModuleState state;
   Panel panel;
-  Tags tags;
+  SortedTags tags;
 };
 
 QByteArray colours(int count) {

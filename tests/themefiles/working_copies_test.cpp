@@ -1,5 +1,7 @@
 #include "themefiles/working_copies.h"
 
+#include <QTest>
+
 #include "platform/failure.h"
 #include "support/theme_doubles.h"
 

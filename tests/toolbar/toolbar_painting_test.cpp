@@ -3,7 +3,7 @@
 #include "platform/fonts.h"
 #include "platform/raster_text.h"
 #include "support/pictures.h"
-#include "support/theme_doubles.h"
+#include "support/row_name.h"
 #include "toolbar/faces.h"
 #include "toolbar/icon_painting.h"
 #include "toolbar/layout.h"

@@ -1,3 +1,4 @@
+#include "support/row_name.h"
 #include "support/windows.h"
 
 using namespace support;
