@@ -28,7 +28,7 @@ class Raster {
   /// The whole surface in one colour.
   void Wipe(QRgb color);
   void SetPixel(int x, int y, QRgb color);
-  /// A level or upright line from the first point to the second, the second left out. No other is drawn.
+  /// From the first point to the second, the second left out.
   void Line(int x1, int y1, int x2, int y2, QRgb color);
   void FillRect(int left, int top, int right, int bottom, QRgb color);
   /// An outline, and the inside when it has a colour.

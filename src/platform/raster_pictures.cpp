@@ -61,10 +61,21 @@ void StretchDIBits(Raster& raster, int x, int y, int width, int height, const Pi
 }
 
 void PaintPicture(Raster& raster, const QImage& picture, int x, int y) {
-  if (raster.rect().isEmpty() || picture.isNull()) return;
+  PaintPicture(raster, picture, x, y, picture.width(), picture.height());
+}
+
+void PaintPicture(Raster& raster, const QImage& picture, int x, int y, int width, int height) {
+  if (raster.rect().isEmpty() || picture.isNull() || width < 1 || height < 1) return;
   QImage source = picture;
   source.setDevicePixelRatio(1);
-  QPainter(&raster.image()).drawImage(x, y, source);
+  QPainter painter(&raster.image());
+  if (source.width() == width && source.height() == height) {
+    painter.drawImage(x, y, source);
+    return;
+  }
+  painter.setClipRect(raster.rect());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(QRect(x, y, width, height), source);
 }
 
 void PaintSilhouette(Raster& raster, const QImage& picture, int x, int y, QRgb color) {

@@ -25,6 +25,8 @@ void StretchDIBits(Raster& raster, int x, int y, int width, int height, const Pi
 
 /// The picture at its own size, blended by its alpha.
 void PaintPicture(Raster& raster, const QImage& picture, int x, int y);
+/// The same stretched to a size. Nothing with a width or a height below 1.
+void PaintPicture(Raster& raster, const QImage& picture, int x, int y, int width, int height);
 
 /// The shape of the picture in one colour: the pixels whose alpha is at least a half, so all of one without alpha.
 void PaintSilhouette(Raster& raster, const QImage& picture, int x, int y, QRgb color);

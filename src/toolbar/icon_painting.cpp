@@ -23,17 +23,19 @@ void turnGrey(QByteArray& bytes) {
 
 }  // namespace
 
-void PaintGrayScale(platform::Raster& raster, const Picture& picture, int left, int top, int width, int height) {
-  if (picture.Pixels.isNull()) return;
+bool PaintGrayScale(platform::Raster& raster, const Picture& picture, int left, int top, int width, int height) {
+  if (picture.Pixels.isNull()) return false;
   if (width == -1) width = picture.Width();
   if (height == -1) height = picture.Height();
   platform::PixelRows grey = platform::GetDIBits(picture.Pixels);
   turnGrey(grey.Bytes);
   if (picture.Type != Picture::Icon) {
-    return StretchDIBits(raster, left, top, width, height, grey);
+    StretchDIBits(raster, left, top, width, height, grey);
+    return true;
   }
   StretchDIBits(raster, left, top, width, height, platform::GetDIBits(picture.Mask), platform::RasterOperation::And);
   StretchDIBits(raster, left, top, width, height, grey, platform::RasterOperation::Or);
+  return true;
 }
 
 void DrawIcon(platform::Raster& raster, const Picture& picture, const QRect& area, bool enabled, bool shadow) {

@@ -11,8 +11,8 @@ namespace toolbar {
 /// up over it.
 void DrawIcon(platform::Raster& raster, const Picture& picture, const QRect& area, bool enabled, bool shadow);
 
-/// The picture in grey, stretched to the size; -1 takes the picture's own. Nothing without a picture.
-void PaintGrayScale(platform::Raster& raster, const Picture& picture, int left, int top, int width = -1,
+/// The picture in grey, stretched to the size; -1 takes the picture's own. False when there is nothing to draw.
+bool PaintGrayScale(platform::Raster& raster, const Picture& picture, int left, int top, int width = -1,
                     int height = -1);
 
 /// A bitmap repeated over the whole surface, from its top left; any other picture draws nothing.

@@ -11,6 +11,8 @@ class Surface {
 
   platform::Raster& Image() { return image_; }
   const platform::Raster& Image() const { return image_; }
+  int ScaleWidth() const { return image_.Width(); }
+  int ScaleHeight() const { return image_.Height(); }
 
   /// Keeps what is drawn, as far as it fits. Sides above LargestSide are cut.
   void Resize(const QSize& size);
