@@ -42,14 +42,14 @@ QString asBytes(const QString& folder) {
 ConfigFile::ConfigFile(const QStringList& folders) {
   for (const QString& folder : folders) {
     const QString path = folder + QStringLiteral("\\config.ini");
-    if (!platform::FileExists(path)) {
-      if (isSystemFolder(folder)) continue;
-      try {
+    try {
+      if (!platform::ReadIfThere(path)) {
+        if (isSystemFolder(folder)) continue;
         platform::WriteFile(path, FirstContent);
-      } catch (const platform::Failure& failure) {
-        problem_ = failure.description();
-        continue;
       }
+    } catch (const platform::Failure& failure) {
+      problem_ = failure.description();
+      continue;
     }
     path_ = path;
     problem_.clear();

@@ -4,21 +4,42 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QFile>
 #include <QString>
+#include <QStringList>
 
-/// The bytes of one file by its native path, whole. One source file a kind of platform holds them.
+#include "platform/at_link.h"
+
+/// Files and folders by their native paths, without exceptions. One source file a kind of platform holds each part.
+/// Only regular files are read and written; anything else is opened so that nothing waits for it, if at all.
 namespace platform {
 
 struct FileError {
   QString description;   ///< the platform's
-  bool missing = false;  ///< nothing stands at the path
+  bool missing = false;  ///< nothing stands at the path; any other error leaves open whether something does
 };
 
-/// Reads the file; an error, or none.
-std::optional<FileError> ReadBytes(const QString& native, QByteArray& bytes);
+/// What stands at a path.
+struct Look {
+  bool stands = false;
+  bool isFile = false;     ///< a regular one
+  qint64 lastWritten = 0;  ///< in nanoseconds
+};
+
+/// Looks what stands at the path, with Replace at a link itself. Nothing there is no error.
+std::optional<FileError> LookAt(const QString& native, AtLink atLink, Look& found);
+
+/// The names in a folder without "." and "..", in any order.
+std::optional<FileError> ListNames(const QString& native, QStringList& names);
+
+/// Reads the file whole; an error, or none. With Replace a link counts as missing.
+std::optional<FileError> ReadBytes(const QString& native, AtLink atLink, QByteArray& bytes);
+
+/// Opens the file for who reads it piece by piece.
+std::optional<FileError> OpenBytes(const QString& native, QFile& file);
 
 /// Puts the bytes in place of the file or makes it, by a flushed temporary file that is renamed over it. An error
-/// leaves the old file whole and no temporary one.
-std::optional<FileError> ReplaceBytes(const QString& native, QByteArrayView bytes);
+/// leaves the old file whole and no temporary one. Fails where the old file may not be written.
+std::optional<FileError> ReplaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink);
 
 }  // namespace platform

@@ -1,10 +1,11 @@
 #include "platform/paths.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/file_bytes.h"
 
 namespace platform {
 
@@ -12,16 +13,23 @@ namespace {
 
 constexpr QChar Slash(u'/');
 
+/// Throws for a path at which something may stand or not.
+void check(const QString& path, const std::optional<FileError>& error) {
+  if (error && !error->missing) throw Failure(path.section(Slash, -1) + QStringLiteral(": ") + error->description);
+}
+
 bool stands(const QString& path) {
-  const QFileInfo info(path);
-  return info.exists() || info.isSymbolicLink();
+  Look found;
+  check(path, LookAt(path, AtLink::Replace, found));
+  return found.stands;
 }
 
 /// The entry of `folder` that is `name` but for case, the first in byte order; `name` itself when there is none.
 QString entryLike(const QString& folder, const QString& name) {
   QString best;
-  const auto all = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-  for (const QString& entry : QDir(folder).entryList(all, QDir::Unsorted)) {
+  QStringList entries;
+  check(folder + name, ListNames(folder, entries));
+  for (const QString& entry : entries) {
     if (!SameName(entry, name)) continue;
     if (best.isEmpty() || QFile::encodeName(entry) < QFile::encodeName(best)) best = entry;
   }
@@ -53,7 +61,7 @@ QString FindPath(const QString& plain) {
     if (i > 0) found += Slash;
     const QString& name = components[i];
     found +=
-        name.isEmpty() || stands(found + name) ? name : entryLike(found.isEmpty() ? QDir::currentPath() : found, name);
+        name.isEmpty() || stands(found + name) ? name : entryLike(found.isEmpty() ? QStringLiteral("./") : found, name);
   }
   return found;
 #endif
@@ -61,7 +69,11 @@ QString FindPath(const QString& plain) {
 
 QString NativePath(const QString& path) {
   const QString plain = PlainPath(path);
-  return QFileInfo::exists(plain) ? plain : FindPath(plain);
+  try {
+    return stands(plain) ? plain : FindPath(plain);
+  } catch (const Failure&) {
+    return plain;
+  }
 }
 
 QString ProgramPath(const QString& nativePath) {

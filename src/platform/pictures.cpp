@@ -59,7 +59,9 @@ QImage DecodePicture(QByteArrayView bytes) {
 
 QImage LoadPicture(const QString& path) {
   try {
-    return DecodePicture(ReadFile(path));
+    const auto file = OpenFile(path);
+    const QByteArray bytes = file->readAll();
+    return file->error() == QFileDevice::NoError ? DecodePicture(bytes) : QImage();
   } catch (const Failure&) {
     return {};
   }

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
@@ -55,11 +56,14 @@ QString TexturePath(RenderContext& context, const ObjectSection& section) {
     return {};
   }
   const QString path = context.State.Paths.SkinDirectory + u'\\' + file;
-  if (!platform::FileExists(path)) {
-    LeaveOut(context, section.Name(), Reason::NoFile, QStringLiteral("Tex"), file);
-    return {};
+  Reason why = Reason::NoFile;
+  try {
+    if (platform::FileExists(path)) return path;
+  } catch (const platform::Failure&) {
+    why = Reason::Unseen;
   }
-  return path;
+  LeaveOut(context, section.Name(), why, QStringLiteral("Tex"), file);
+  return {};
 }
 
 }  // namespace renderer

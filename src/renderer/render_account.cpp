@@ -12,9 +12,10 @@ struct Wording {
   QStringView text;  ///< %1 is the value, %2 the key
 };
 
-constexpr std::array<Wording, 9> Wordings{{
+constexpr std::array<Wording, 10> Wordings{{
     {Reason::NoTexture, u"texture '%1' has no entry in the skin"},
     {Reason::NoFile, u"no file '%1'"},
+    {Reason::Unseen, u"file '%1' can't be looked at"},
     {Reason::NoPicture, u"'%1' is no picture"},
     {Reason::UnknownColor, u"%2: colour '%1' is in no table"},
     {Reason::ColorRange, u"%2: '%1' brings the colour out of its range"},

@@ -11,6 +11,7 @@ namespace renderer {
 enum class Reason {
   NoTexture,       ///< the texture has no entry in the skin
   NoFile,          ///< the entry names no file
+  Unseen,          ///< whether that file is there can't be seen
   NoPicture,       ///< the file can't be decoded
   UnknownColor,    ///< the colour is in no table
   ColorRange,      ///< a channel leaves 0 to 255 under the intensity

@@ -32,19 +32,6 @@ QByteArray lineBytes(const QString& text) {
   return *bytes;
 }
 
-/// Reads, changes and writes the file; gives what it holds then. Throws Failure.
-QByteArray put(const QString& section, const QString& key, const std::optional<QString>& value,
-               const QString& fileName) {
-  const QByteArray sectionBytes = lineBytes(section);
-  const QByteArray keyBytes = lineBytes(key);
-  const QByteArray valueBytes = lineBytes(value.value_or(QString()));
-  const QByteArray old = platform::FileExists(fileName) ? platform::ReadFile(fileName) : QByteArray();
-  const auto changed = value ? platform::SetProfileValue(old, sectionBytes, keyBytes, valueBytes)
-                             : platform::RemoveProfileKey(old, sectionBytes, keyBytes);
-  if (changed) platform::WriteFile(fileName, *changed);
-  return changed.value_or(old);
-}
-
 /// The key list of a section as a buffer of that size takes it: a longer one loses what the two NULs at its end need.
 QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 bufferSize) {
   const QByteArray keys = platform::ListProfileKeys(file, section);
@@ -52,9 +39,8 @@ QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 buf
 }
 
 /// What an ini file gives back for a written value: one line `k=value`.
-QString givenBack(const QString& value) {
-  const QByteArray line = "[s]\nk=" + lineBytes(value);
-  return platform::FromAnsi(platform::FindProfileValue(line, "s", "k").value_or(QByteArray()));
+std::optional<QByteArray> givenBack(const QByteArray& value) {
+  return platform::FindProfileValue("[s]\nk=" + value, "s", "k");
 }
 
 }  // namespace
@@ -94,27 +80,48 @@ QString SectionReader::Value(const QString& Key, const QString& Default) const {
 
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName) {
   try {
-    put(Section, Key, Value, FileName);
+    const auto old = platform::ReadIfThere(FileName);
+    const auto changed = ChangedText(old.value_or(QByteArray()), Section, Key, Value);
+    if (changed != old) platform::WriteFile(FileName, changed);
   } catch (const platform::Failure&) {
     // The service that this stands for tells nobody either; PutINIChecked is for those who must know.
   }
 }
 
-QByteArray PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
-                         const QString& FileName) {
-  QByteArray held = put(Section, Key, Value, FileName);
-  const QString missing(QChar(1));
-  const QString now = GetINI(Section, Key, missing, FileName, ListBufferSize);
-  QString wanted = missing;
-  if (Value) {
-    wanted = givenBack(*Value);
-  } else if (const auto second = platform::FindProfileValue(held, lineBytes(Section), lineBytes(Key))) {
-    // Of a doubled key the first goes, and the second shows.
-    wanted = platform::FromAnsi(*second);
+void PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
+                   const QString& FileName) {
+  const auto old = platform::ReadIfThere(FileName);
+  const QByteArray changed = ChangedText(old.value_or(QByteArray()), Section, Key, Value);
+  if (changed != old) platform::WriteFile(FileName, changed);
+  CheckReadsBack(changed, Section, Key, FileName);
+}
+
+QByteArray ChangedText(const QByteArray& text, const QString& Section, const QString& Key,
+                       const std::optional<QString>& Value) {
+  const QByteArray section = lineBytes(Section);
+  const QByteArray key = lineBytes(Key);
+  const QByteArray value = lineBytes(Value.value_or(QString()));
+  if (!Value) return platform::RemoveProfileKey(text, section, key).value_or(text);
+  const QByteArray changed = platform::SetProfileValue(text, section, key, value).value_or(text);
+  if (platform::FindProfileValue(changed, section, key) != givenBack(value)) {
+    throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(Key, Section));
   }
-  wanted.truncate(ListBufferSize - 1);
-  if (now != wanted) throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(Key, Section));
-  return held;
+  return changed;
+}
+
+void CheckReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName) {
+  const QByteArray section = lineBytes(Section);
+  const QByteArray key = lineBytes(Key);
+  const QString what = QStringLiteral("%1 in [%2] was written, but ").arg(Key, Section);
+  std::optional<QByteArray> now;
+  try {
+    now = platform::ReadIfThere(FileName);
+  } catch (const platform::Failure& failure) {
+    throw platform::Failure(what + QStringLiteral("can't be read back: ") + failure.description());
+  }
+  const bool same = now && (*now == written || platform::FindProfileValue(*now, section, key) ==
+                                                   platform::FindProfileValue(written, section, key));
+  if (!same) throw platform::Failure(what + QStringLiteral("another program has changed the file since"));
 }
 
 void CheckLineText(const QString& text) {

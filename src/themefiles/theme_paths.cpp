@@ -1,5 +1,6 @@
 #include "themefiles/theme_paths.h"
 
+#include "platform/failure.h"
 #include "platform/files.h"
 
 namespace themefiles {
@@ -8,7 +9,12 @@ namespace {
 const QString Ending = QStringLiteral(".ini");
 
 QStringList namesIn(const QString& folder) {
-  QStringList names = platform::ListFiles(folder, Ending);
+  QStringList names;
+  try {
+    names = platform::ListFiles(folder, Ending);
+  } catch (const platform::Failure&) {
+    // A folder that can't be listed has nothing to offer.
+  }
   for (QString& name : names) name.chop(Ending.size());
   return names;
 }

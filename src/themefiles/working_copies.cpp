@@ -11,6 +11,7 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/kept_files.h"
 
 namespace themefiles {
 namespace {
@@ -21,12 +22,6 @@ constexpr std::array<QString ThemePaths::*, 3> CopiedFiles{&ThemePaths::ThemeFil
 
 QByteArray digest(const QByteArray& bytes) {
   return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
-}
-
-QString keepBeside(const QString& path, const QByteArray& bytes, QStringView ending) {
-  QString kept = path + ending.toString();
-  platform::WriteFile(kept, bytes);
-  return kept;
 }
 
 /// Tells all that `work` notes, at once: the status line holds one report. A failure carries it along.
@@ -45,45 +40,55 @@ void noteOtherChanges(QStringList& notes, const QString& path, const QString& ke
   notes += QStringLiteral("%1 held other changes and is kept as %2").arg(path, kept);
 }
 
+std::optional<QByteArray> readCopy(const QString& copy) {
+  return platform::ReadIfThere(copy, platform::AtLink::Replace);
+}
+
+void writeCopy(const QString& copy, const QByteArray& bytes) {
+  platform::WriteFile(copy, bytes, platform::AtLink::Replace);
+}
+
 /// Makes the working copy of a file; gives what stands in both.
 QByteArray makeCopy(const QString& file, QStringList& notes) {
   const QString copy = file + WorkingEnding.toString();
   const QByteArray bytes = platform::ReadFile(file);
-  if (platform::FileExists(copy)) {
-    const QByteArray older = platform::ReadFile(copy);
-    if (older != bytes) noteOtherChanges(notes, copy, keepBeside(copy, older, u".old"));
-  }
-  platform::WriteFile(copy, bytes);
+  const auto older = readCopy(copy);
+  if (older && older != bytes) noteOtherChanges(notes, copy, KeepBeside(copy, *older, u".old"));
+  writeCopy(copy, bytes);
   return bytes;
 }
 
-/// Sees to a working copy that isn't as this program left it; gives what the user has to know of that. The program's
-/// own text is worth keeping only with edits in it.
-QString mindOwnCopy(const ModuleState& state, size_t file) {
-  if (!state.ThemeOpened) return {};
+/// What an edit or a Save starts from.
+struct Start {
+  QByteArray text;
+  bool isThere = true;  ///< in the working copy
+};
+
+/// Reads a working copy and sees to one that isn't as this program left it; notes what the user has to know of that.
+/// The program's own text is worth keeping only with edits in it. Of one that is gone it is what the work starts from.
+Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   const QString& copy = state.Paths.*CopiedFiles.at(file);
+  const auto standing = readCopy(copy);
+  if (!state.ThemeOpened) return {standing.value_or(QByteArray()), standing.has_value()};
   const QByteArray& own = state.OwnCopies.at(file);
-  if (!platform::FileExists(copy)) {
-    platform::WriteFile(copy, own);
-    return QStringLiteral("%1 was gone and is made anew").arg(copy);
+  if (!standing) {
+    notes += QStringLiteral("%1 was gone and is made anew").arg(copy);
+    return {own, false};
   }
-  if (platform::ReadFile(copy) == own || digest(own) == state.FileDigests.at(file)) return {};
-  return QStringLiteral("%1 was changed by another program; what this one wrote is kept as %2")
-      .arg(copy, keepBeside(copy, own, u".old"));
+  if (standing != own && digest(own) != state.FileDigests.at(file)) {
+    notes += QStringLiteral("%1 was changed by another program; what this one wrote is kept as %2")
+                 .arg(copy, KeepBeside(copy, own, u".old"));
+  }
+  return {*standing};
 }
 
-/// Copies a working copy over its file; gives what stands in both now.
-QByteArray saveCopy(const QString& copy, const QByteArray& knownDigest, QStringList& notes) {
-  const QString file = copy.chopped(WorkingEnding.size());
-  const QByteArray bytes = platform::ReadFile(copy);
-  if (platform::FileExists(file)) {
-    const QByteArray present = platform::ReadFile(file);
-    if (digest(present) != knownDigest && present != bytes) {
-      noteOtherChanges(notes, file, keepBeside(file, present, u".bak"));
-    }
+/// Copies a text over the game's file.
+void saveCopy(const QString& file, const QByteArray& bytes, const QByteArray& knownDigest, QStringList& notes) {
+  const auto present = platform::ReadIfThere(file);
+  if (present && digest(*present) != knownDigest && present != bytes) {
+    noteOtherChanges(notes, file, KeepBeside(file, *present, u".bak"));
   }
   platform::WriteFile(file, bytes);
-  return bytes;
 }
 
 /// A file and what stood in it.
@@ -98,16 +103,14 @@ std::vector<KeptFile> openCopies(const ModuleState& state) {
   if (!state.ThemeOpened) return copies;
   for (const auto file : CopiedFiles) {
     const QString& path = state.Paths.*file;
-    if (platform::FileExists(path)) copies.push_back({path, platform::ReadFile(path)});
+    if (auto bytes = readCopy(path)) copies.push_back({path, std::move(*bytes)});
   }
   return copies;
 }
 
 void putBack(const std::vector<KeptFile>& files) {
   for (const KeptFile& file : files) {
-    if (!platform::FileExists(file.path) || platform::ReadFile(file.path) != file.bytes) {
-      platform::WriteFile(file.path, file.bytes);
-    }
+    if (readCopy(file.path) != file.bytes) writeCopy(file.path, file.bytes);
   }
 }
 
@@ -137,18 +140,25 @@ void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::S
 QString PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                   const std::optional<QString>& Value) {
   const auto file = static_cast<size_t>(std::find(CopiedFiles.begin(), CopiedFiles.end(), copy) - CopiedFiles.begin());
-  const QString note = mindOwnCopy(state, file);
-  state.OwnCopies.at(file) = PutINIChecked(Section, Key, Value, state.Paths.*copy);
-  return note;
+  const QString& path = state.Paths.*copy;
+  QStringList notes;
+  const Start start = startFrom(state, file, notes);
+  const QByteArray changed = ChangedText(start.text, Section, Key, Value);
+  if (!start.isThere || changed != start.text) writeCopy(path, changed);
+  state.OwnCopies.at(file) = changed;
+  CheckReadsBack(changed, Section, Key, path);
+  return notes.join(QStringLiteral("; "));
 }
 
 void SaveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
   telling(status, [&](QStringList& notes) {
     for (size_t i = 0; i < CopiedFiles.size(); ++i) {
-      const QString note = mindOwnCopy(state, i);
-      if (!note.isEmpty()) notes += note;
-      state.OwnCopies.at(i) = saveCopy(state.Paths.*CopiedFiles.at(i), state.FileDigests.at(i), notes);
-      state.FileDigests.at(i) = digest(state.OwnCopies.at(i));
+      const QString& copy = state.Paths.*CopiedFiles.at(i);
+      const Start start = startFrom(state, i, notes);
+      if (!start.isThere) writeCopy(copy, start.text);
+      saveCopy(copy.chopped(WorkingEnding.size()), start.text, state.FileDigests.at(i), notes);
+      state.OwnCopies.at(i) = start.text;
+      state.FileDigests.at(i) = digest(start.text);
     }
   });
   state.Changed = false;

@@ -4,6 +4,7 @@
 using namespace support;
 using platform::BoxAnswer;
 using system_calls::Fault;
+using system_calls::Kind;
 
 /// An operation that reads and writes files. `act` lets the calls be counted, and faulty, from `armed` on.
 struct Operation {
@@ -13,6 +14,8 @@ struct Operation {
 };
 
 namespace {
+
+const char* const copying = "Error while saving temporary files [";
 
 using Files = QMap<QString, QByteArray>;
 
@@ -56,8 +59,8 @@ void save(Program& program, const std::function<void()>& armed) {
 }
 
 void open(Program& program, const std::function<void()>& armed) {
+  armed();
   program.openDialog([&](mainwindows::Form3& dialog) {
-    armed();
     dialog.Command1->click();
     system_calls::disarm();
     if (dialog.isVisible()) dialog.reject();
@@ -107,15 +110,15 @@ class FileFailuresTest : public QObject {
       program.form.ShowStatus(QString());
       before = standing(program, game);
     }
-    /// Gives the number of calls behind the moment at which `armed` was called.
-    int run(const Operation& operation, const std::function<void()>& armed) {
+    /// Gives the calls behind the moment at which `armed` was called.
+    std::vector<Kind> run(const Operation& operation, const std::function<void()>& armed) {
       // What a render reads behind a write is no part of it.
       const auto life = QObject::connect(&program.form.Queue, &controls::WorkQueue::Yielding, &system_calls::disarm);
       operation.act(program, armed);
       QObject::disconnect(life);
       return system_calls::disarm();
     }
-    int run(const Operation& operation, Fault fault, int number) {
+    std::vector<Kind> run(const Operation& operation, Fault fault, int number) {
       return run(operation, [=] { system_calls::arm(fault, number); });
     }
     GameFolder game;
@@ -133,7 +136,6 @@ class FileFailuresTest : public QObject {
       QTest::newRow(name) << Operation{failure, prepare, act};
     };
     const char* const writing = "Error while writing tempfile [";
-    const char* const copying = "Error while saving temporary files [";
     add("number", writing, editor("LoadingStaticA", "X"), press("Command1"));
     add("text", writing, editor("LoadingTextFree", "Text"), press("Command1"));
     add("add a colour", "Error while adding colors [", editor("LoadingStaticA", "Color"), press("Command3"));
@@ -155,14 +157,17 @@ class FileFailuresTest : public QObject {
   void everyCall() {
     QFETCH(Operation, operation);
     Stage whole(operation);
-    const int calls = whole.run(operation, Fault::None, 0);
+    const std::vector<Kind> kinds = whole.run(operation, Fault::None, 0);
+    const int calls = static_cast<int>(kinds.size());
     const Standing after = standing(whole.program, whole.game);
     QVERIFY(calls >= 10 && after.files != whole.before.files);
     QVERIFY2(!whole.program.status().startsWith(u"Error"), qPrintable(whole.program.status()));
 
     for (const Fault fault : {Fault::Error, Fault::Full, Fault::Short}) {
       int reported = 0;
-      for (int number = 1; number <= calls; ++number, ++failures) {
+      for (int number = 1; number <= calls; ++number) {
+        if (!system_calls::concerns(fault, kinds.at(static_cast<size_t>(number) - 1))) continue;
+        ++failures;
         const QByteArray where = QByteArray::number(number) + " of " + QByteArray::number(calls) + ", fault " +
                                  QByteArray::number(static_cast<int>(fault));
         Stage stage(operation);
@@ -170,8 +175,10 @@ class FileFailuresTest : public QObject {
         Standing now = standing(stage.program, stage.game);
         QVERIFY2(torn(now.files, stage.before.files, after.files, false).isEmpty(), where);
         const bool failed = stage.program.status().startsWith(QLatin1StringView(operation.failure));
-        if (failed) {
-          ++reported;
+        // Open may find nothing to open: no folder, theme, skin or language can be seen.
+        const bool untouched = operation.failure == copying && now.files == stage.before.files;
+        if (failed || untouched) {
+          if (failed) ++reported;
           const QStringList changed = differences(now.shown, stage.before.shown);
           QVERIFY2(changed.isEmpty(), where + qPrintable(changed.join(u' ')));
           stage.run(operation, Fault::None, 0);
@@ -197,6 +204,12 @@ class FileFailuresTest : public QObject {
     QVERIFY2(found.isEmpty(), qPrintable(found + QString::number(number)));
     QCOMPARE(number, calls + 1);
     kills += calls;
+    QByteArray passed;
+    for (size_t kind = 0; kind < std::size(system_calls::KindNames); ++kind) {
+      const auto count = std::count(kinds.begin(), kinds.end(), static_cast<Kind>(kind));
+      passed += ", " + QByteArray::number(count) + ' ' + system_calls::KindNames[kind];
+    }
+    qInfo("%s: %d points%s", QTest::currentDataTag(), calls, passed.constData());
   }
   void cleanupTestCase() { qInfo("%d failure points, %d kill points", failures, kills); }
 };

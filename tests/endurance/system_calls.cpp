@@ -5,7 +5,9 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -19,34 +21,41 @@ Fault armed = Fault::None;
 bool counting = false;
 bool diskFull = false;
 int faulty = 0;
-int seen = 0;
+std::vector<Kind> seen;
 
 /// Counts a call; gives what happens to it.
-Fault next() {
+Fault next(Kind kind) {
   if (!counting) return Fault::None;
-  if (++seen != faulty) return Fault::None;
+  seen.push_back(kind);
+  if (static_cast<int>(seen.size()) != faulty) return Fault::None;
   if (armed == Fault::Kill) ::_exit(KilledStatus);
   return armed;
 }
 
-/// Whether the call fails, with the number in errno. `takesRoom`: on the disk.
-bool fails(bool takesRoom) {
-  const Fault fault = next();
+/// Whether the call fails, with the number in errno.
+bool fails(Kind kind) {
+  const Fault fault = next(kind);
+  const bool takesRoom = concerns(Fault::Full, kind);
   if (fault == Fault::Full && takesRoom) diskFull = true;
-  if (diskFull && takesRoom) {
-    errno = ENOSPC;
-    return true;
-  }
-  errno = EIO;
-  return fault == Fault::Error;
+  const int before = errno;
+  errno = diskFull && takesRoom ? ENOSPC : EIO;
+  const bool failing = fault == Fault::Error || (diskFull && takesRoom);
+  if (!failing) errno = before;
+  return failing;
 }
 
 }  // namespace
 
+bool concerns(Fault fault, Kind kind) {
+  if (fault == Fault::Short) return kind == Kind::Read || kind == Kind::Write;
+  if (fault != Fault::Full) return true;
+  return kind == Kind::Make || kind == Kind::Write || kind == Kind::Flush || kind == Kind::Rename;
+}
+
 void arm(Fault fault, int number) {
   armed = fault;
   faulty = number;
-  seen = 0;
+  seen.clear();
   diskFull = false;
   counting = true;
 }
@@ -63,7 +72,7 @@ bool armInChild(int number) {
   return WEXITSTATUS(status) == KilledStatus;
 }
 
-int disarm() {
+const std::vector<Kind>& disarm() {
   if (counting && armed == Fault::Kill) ::_exit(0);
   counting = diskFull = false;
   return seen;
@@ -76,11 +85,32 @@ using namespace system_calls;
 // The names are the linker's.
 extern "C" {
 
+// NOLINTBEGIN(bugprone-macro-parentheses)
+// A call that fails gives `failure`.
+#define WRAP(result, name, kind, failure, parameters, arguments)  \
+  result __real_##name parameters;                                \
+  result __wrap_##name parameters {                               \
+    return fails(Kind::kind) ? failure : __real_##name arguments; \
+  }
+// NOLINTEND(bugprone-macro-parentheses)
+
+WRAP(int, stat, Look, -1, (const char* path, struct stat* status), (path, status))
+WRAP(int, lstat, Look, -1, (const char* path, struct stat* status), (path, status))
+WRAP(int, fstat, Look, -1, (int file, struct stat* status), (file, status))
+WRAP(int, faccessat, Look, -1, (int folder, const char* path, int mode, int flags), (folder, path, mode, flags))
+WRAP(ssize_t, readlink, Look, -1, (const char* path, char* text, size_t size), (path, text, size))
+WRAP(DIR*, opendir, List, nullptr, (const char* path), (path))
+WRAP(dirent*, readdir, List, nullptr, (DIR * folder), (folder))
+WRAP(int, fchmod, Own, -1, (int file, mode_t mode), (file, mode))
+WRAP(int, fchown, Own, -1, (int file, uid_t owner, gid_t group), (file, owner, group))
+WRAP(int, flock, Own, -1, (int file, int how), (file, how))
+WRAP(int, fsync, Flush, -1, (int file), (file))
+WRAP(int, rename, Rename, -1, (const char* from, const char* to), (from, to))
+WRAP(int, unlink, Remove, -1, (const char* path), (path))
+
 int __real_open(const char* path, int flags, ...);
-int __real_fchmod(int file, mode_t mode);
-int __real_fsync(int file);
 int __real_close(int file);
-int __real_rename(const char* from, const char* to);
+int __real_closedir(DIR* folder);
 ssize_t __real_read(int file, void* bytes, size_t size);
 ssize_t __real_write(int file, const void* bytes, size_t size);
 
@@ -89,39 +119,36 @@ int __wrap_open(const char* path, int flags, ...) {
   va_start(rest, flags);
   const int mode = (flags & O_CREAT) != 0 ? va_arg(rest, int) : 0;
   va_end(rest);
-  return fails((flags & O_CREAT) != 0) ? -1 : __real_open(path, flags, mode);
-}
-
-int __wrap_fchmod(int file, mode_t mode) {
-  return fails(false) ? -1 : __real_fchmod(file, mode);
-}
-
-int __wrap_fsync(int file) {
-  return fails(true) ? -1 : __real_fsync(file);
+  return fails((flags & O_CREAT) != 0 ? Kind::Make : Kind::Open) ? -1 : __real_open(path, flags, mode);
 }
 
 int __wrap_close(int file) {
   // The file is closed all the same.
-  if (!fails(false)) return __real_close(file);
-  __real_close(file);
-  errno = EIO;
-  return -1;
+  const bool failing = fails(Kind::Close);
+  const int result = __real_close(file);
+  if (failing) errno = EIO;
+  return failing ? -1 : result;
 }
 
-int __wrap_rename(const char* from, const char* to) {
-  return fails(true) ? -1 : __real_rename(from, to);
+int __wrap_closedir(DIR* folder) {
+  const bool failing = fails(Kind::Close);
+  const int result = __real_closedir(folder);
+  if (failing) errno = EIO;
+  return failing ? -1 : result;
 }
 
 ssize_t __wrap_read(int file, void* bytes, size_t size) {
-  const Fault fault = next();
-  errno = EIO;
-  if (fault == Fault::Error) return -1;
+  const Fault fault = next(Kind::Read);
+  if (fault == Fault::Error) {
+    errno = EIO;
+    return -1;
+  }
   return __real_read(file, bytes, fault == Fault::Short ? std::max<size_t>(size / 2, 1) : size);
 }
 
 ssize_t __wrap_write(int file, const void* bytes, size_t size) {
   const size_t half = std::max<size_t>(size / 2, 1);
-  if (counting && seen + 1 == faulty && armed == Fault::Kill) {
+  if (counting && static_cast<int>(seen.size()) + 1 == faulty && armed == Fault::Kill) {
     [[maybe_unused]] const ssize_t put = __real_write(file, bytes, half);
     ::_exit(KilledStatus);
   }
@@ -129,7 +156,7 @@ ssize_t __wrap_write(int file, const void* bytes, size_t size) {
     errno = ENOSPC;
     return -1;
   }
-  const Fault fault = next();
+  const Fault fault = next(Kind::Write);
   errno = EIO;
   if (fault == Fault::Error) return -1;
   diskFull = fault == Fault::Full;

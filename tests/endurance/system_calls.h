@@ -1,8 +1,15 @@
 #pragma once
 
-/// The system calls by which the program reads and writes whole files, with a fault at one of them. The linker leads
-/// the calls of the program's own libraries here (see CMakeLists.txt); the toolkit's aren't touched.
+#include <vector>
+
+/// The system calls by which the program looks at, lists, reads and writes files, with a fault at one of them. The
+/// linker leads the calls of the program's own libraries here (see CMakeLists.txt); the toolkit's aren't touched.
 namespace system_calls {
+
+/// What a call is for.
+enum class Kind { Look, Open, Make, Read, List, Write, Flush, Rename, Close, Remove, Own };
+inline constexpr const char* KindNames[] = {"look",  "open",   "make",  "read",   "list", "write",
+                                            "flush", "rename", "close", "remove", "own"};
 
 enum class Fault {
   None,
@@ -14,9 +21,10 @@ enum class Fault {
 
 /// From here on calls are counted, and the one of that number (from 1) gets the fault.
 void arm(Fault fault, int number);
-/// Faults and counting end, and so does a process of armInChild. Gives the number of calls from arm
-/// to the first disarm.
-int disarm();
+/// Faults and counting end, and so does a process of armInChild. Gives the calls from arm to the first disarm.
+const std::vector<Kind>& disarm();
+/// Whether the fault changes anything about such a call.
+bool concerns(Fault fault, Kind kind);
 
 /// Goes on in a process of its own, with Kill at that call, and waits here until it has ended: false here when it came
 /// to disarm before. In the other process gives false as well.

@@ -1,0 +1,149 @@
+#include <chrono>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+#include "platform/file_bytes.h"
+#include "platform/unix_errors.h"
+
+namespace platform {
+
+namespace {
+
+/// Behind the name of a file: the temporary one that takes its place when it is written whole. Always the same name, so
+/// that of all programs that were killed while they wrote a file at most one such stays; the next write removes it.
+constexpr char TemporaryEnding[] = ".unfinished";
+
+int writeAll(int file, QByteArrayView bytes) {
+  while (!bytes.isEmpty()) {
+    const ssize_t put = ::write(file, bytes.data(), std::size_t(bytes.size()));
+    if (put < 0 && errno == EINTR) continue;
+    if (put < 0) return errno;
+    bytes = bytes.sliced(put);
+  }
+  return 0;
+}
+
+/// A flush that the file system doesn't offer is none that failed.
+int flush(int file) {
+  const int error = ErrorNumber(::fsync(file));
+  return error == EINVAL || error == ENOTSUP ? 0 : error;
+}
+
+/// Makes of a chain of symbolic links the file behind it, whether that stands there or not.
+int followLinks(QByteArray& path) {
+  constexpr int LongestChain = 40;
+  for (int i = 0; i < LongestChain; ++i) {
+    QByteArray behind(4096, Qt::Uninitialized);
+    const ssize_t length = ::readlink(path.constData(), behind.data(), std::size_t(behind.size()));
+    // No link, or nothing.
+    if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
+    behind.truncate(length);
+    path = behind.startsWith('/') ? behind : path.left(path.lastIndexOf('/') + 1) + behind;
+  }
+  return ELOOP;
+}
+
+/// For the superuser too the owner's bit decides.
+std::optional<FileError> checkWritable(const QByteArray& name, const struct stat& status) {
+  if (S_ISDIR(status.st_mode)) return ErrorOf(EISDIR);
+  if (!S_ISREG(status.st_mode)) return NoRegularFile();
+  if ((status.st_mode & S_IWUSR) == 0) return FileError{QStringLiteral("The file is write-protected")};
+  return ErrorOf(ErrorNumber(::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS)));
+}
+
+/// Owner and group as far as the system lets, then the mode, which a change of owner cuts.
+int keepOwnerAndMode(int file, const struct stat& old) {
+  const auto refused = [](int error) { return error == EPERM || error == EINVAL || error == ENOTSUP; };
+  struct stat fresh;
+  int error = ErrorNumber(::fstat(file, &fresh));
+  if (error != 0) return error;
+  if (fresh.st_uid != old.st_uid) error = ErrorNumber(::fchown(file, old.st_uid, old.st_gid));
+  if (refused(error) || (fresh.st_uid == old.st_uid && fresh.st_gid != old.st_gid)) {
+    error = ErrorNumber(::fchown(file, uid_t(-1), old.st_gid));
+  }
+  if (error != 0 && !refused(error)) return error;
+  return ErrorNumber(::fchmod(file, old.st_mode & 07777));
+}
+
+bool lacksLocks(int error) {
+  return error == ENOLCK || error == EBADF || error == EINVAL || error == ENOTSUP || error == ENOSYS;
+}
+
+/// Locks a temporary file that is open, as a sign that a living program is at it, and sees that the name still leads to
+/// it: EAGAIN when not, or when another program has the lock.
+int lock(int file, const QByteArray& name) {
+  struct stat here;
+  struct stat there;
+  const int error = ErrorNumber(::flock(file, LOCK_EX | LOCK_NB));
+  if (error != 0) return error == EWOULDBLOCK ? EAGAIN : error;
+  if (::fstat(file, &here) != 0) return errno;
+  if (::lstat(name.constData(), &there) != 0) return errno == ENOENT ? EAGAIN : errno;
+  return here.st_dev == there.st_dev && here.st_ino == there.st_ino ? 0 : EAGAIN;
+}
+
+/// Removes what a killed program left at the name of a temporary file, or a link; EAGAIN when the name is worth another
+/// try. Where the file system has no locks nobody knows whether the file is in work, so it stays.
+int clearAway(const QByteArray& name) {
+  const int file = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+  int error = file < 0 ? errno : lock(file, name);
+  if (error == 0 || error == ELOOP) error = ErrorNumber(::unlink(name.constData()));
+  if (file >= 0) ::close(file);
+  if (error == 0 || error == ENOENT) return EAGAIN;
+  return lacksLocks(error) ? EEXIST : error;
+}
+
+/// Makes and locks a new file of that name.
+int make(const QByteArray& name, int& file) {
+  file = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  if (file < 0) return errno == EEXIST ? clearAway(name) : errno;
+  const int error = lock(file, name);
+  if (error == 0 || lacksLocks(error)) return 0;
+  if (error != EAGAIN) ::unlink(name.constData());
+  ::close(file);
+  return error;
+}
+
+/// The same, and waits a second for another program that is writing the same file.
+int makeInTurn(const QByteArray& name, int& file) {
+  constexpr int Tries = 200;
+  constexpr std::chrono::milliseconds Pause{5};
+  for (int i = 0; i < Tries; ++i) {
+    if (i > 1) std::this_thread::sleep_for(Pause);
+    const int error = make(name, file);
+    if (error != EAGAIN) return error;
+  }
+  return EBUSY;
+}
+
+}  // namespace
+
+std::optional<FileError> ReplaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink) {
+  QByteArray target = QFile::encodeName(native);
+  if (const int error = atLink == AtLink::Follow ? followLinks(target) : 0) return ErrorOf(error);
+  struct stat old;
+  const int looking = ErrorNumber(::lstat(target.constData(), &old));
+  if (looking != 0 && looking != ENOENT) return ErrorOf(looking);
+  const bool replacesLink = looking == 0 && S_ISLNK(old.st_mode) && atLink == AtLink::Replace;
+  const bool replaces = looking == 0 && !replacesLink;
+  if (replaces) {
+    if (auto error = checkWritable(target, old)) return error;
+  }
+
+  const QByteArray name = target + TemporaryEnding;
+  int file = -1;
+  if (const int error = makeInTurn(name, file)) return ErrorOf(error);
+  int error = replaces ? keepOwnerAndMode(file, old) : 0;
+  if (error == 0) error = writeAll(file, bytes);
+  if (error == 0) error = flush(file);
+  // Still open, so that it stays locked. What is flushed has nothing left that closing could lose.
+  if (error == 0) error = ErrorNumber(::rename(name.constData(), target.constData()));
+  if (error != 0) ::unlink(name.constData());
+  ::close(file);
+  return ErrorOf(error);
+}
+
+}  // namespace platform
