@@ -124,6 +124,11 @@ void CheckReadsBack(const QByteArray& written, const QString& Section, const QSt
   if (!same) throw platform::Failure(what + QStringLiteral("another program has changed the file since"));
 }
 
+bool HoldsKey(const QString& Section, const QString& Key, const QString& FileName) {
+  const auto file = platform::ReadIfThere(FileName);
+  return file && platform::FindProfileValue(*file, lineBytes(Section), lineBytes(Key));
+}
+
 void CheckLineText(const QString& text) {
   lineBytes(text);
 }

@@ -49,6 +49,10 @@ QByteArray ChangedText(const QByteArray& text, const QString& Section, const QSt
 /// Throws platform::Failure unless the file gives back what was `written` for the key.
 void CheckReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName);
 
+/// Whether the file has the key, for who must not take one that can't be read for one that lacks it: throws
+/// platform::Failure then.
+bool HoldsKey(const QString& Section, const QString& Key, const QString& FileName);
+
 /// Throws platform::Failure for text that an ini file can't hold on one line: a line end or NUL in it, or a letter
 /// outside the code page.
 void CheckLineText(const QString& text);

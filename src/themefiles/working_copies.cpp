@@ -65,14 +65,17 @@ struct Start {
 };
 
 /// Reads a working copy and sees to one that isn't as this program left it; notes what the user has to know of that.
-/// The program's own text is worth keeping only with edits in it. Of one that is gone it is what the work starts from.
+/// The program's own text is worth keeping only with edits in it. Of one that is gone or
+/// empty that is what the work starts from.
 Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   const QString& copy = state.Paths.*CopiedFiles.at(file);
   const auto standing = readCopy(copy);
   if (!state.ThemeOpened) return {standing.value_or(QByteArray()), standing.has_value()};
   const QByteArray& own = state.OwnCopies.at(file);
-  if (!standing) {
-    notes += QStringLiteral("%1 was gone and is made anew").arg(copy);
+  // A program that writes it piece by piece has it empty for a moment.
+  const bool emptied = standing && standing->isEmpty() && !own.isEmpty();
+  if (!standing || emptied) {
+    notes += QStringLiteral("%1 was %2 and is made anew").arg(copy, emptied ? u"empty" : u"gone");
     return {own, false};
   }
   if (standing != own && digest(own) != state.FileDigests.at(file)) {

@@ -19,9 +19,10 @@ inline constexpr QStringView WorkingEnding = u".tmp";
 /// then, the state stays as it was, and so do the working copies of a theme that is open.
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status);
 
-/// PutINIChecked on a working copy of the open theme. One that is gone is made anew first. Of one that another program
-/// has written since this one did (a second editor of the theme), this program's own text is kept beside as ".old"; the
-/// edit goes into what stands there. Gives what the user has to know of that, mostly nothing.
+/// PutINIChecked on a working copy of the open theme. One that is gone or empty is made anew with the edit in it. Of
+/// one that another program has written since this one did (a second editor of the theme), this program's own text is
+/// kept beside as ".old" (see kept_files.h); the edit goes into what stands there. Gives what the user has to know of
+/// that, mostly nothing.
 QString PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                   const std::optional<QString>& Value);
 

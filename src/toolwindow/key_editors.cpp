@@ -56,8 +56,7 @@ std::optional<QString> writeKey(Form2& form, const Editor& editor, const QString
 
 /// Whether the section has the key, also one that its list was too short for.
 bool keyExists(const Editor& editor, const QString& key) {
-  const QString missing(QChar(1));
-  return editor.list.EntryLike(key) >= 0 || themefiles::GetINI(editor.section, key, missing, editor.file) != missing;
+  return editor.list.EntryLike(key) >= 0 || themefiles::HoldsKey(editor.section, key, editor.file);
 }
 
 }  // namespace
@@ -86,7 +85,9 @@ void AddKey_Click(Form2& form, KeyEditor which) {
   const QString name =
       form.Services.Dialogs.InputBox(&form, QStringLiteral("Name of the New Key:"), editor.newKeyTitle);
   if (name.isEmpty() || !AcceptNewName(form, name)) return;
-  if (keyExists(editor, name)) {
+  bool exists = false;
+  if (!platform::Guarded(form.Services.Status, WriteStep.toString(), [&] { exists = keyExists(editor, name); })) return;
+  if (exists) {
     ShowErrorBox(form, QStringLiteral("Key already exist!"));
     return;
   }

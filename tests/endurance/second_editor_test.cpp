@@ -1,5 +1,14 @@
+#include <atomic>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QThread>
+
+#include "platform/failure.h"
+#include "platform/profile_strings.h"
 #include "support/row_name.h"
 #include "support/windows.h"
+#include "themefiles/working_copies.h"
 
 using namespace support;
 using platform::BoxAnswer;
@@ -32,11 +41,10 @@ class SecondEditorTest : public QObject {
     b.open();
     QCOMPARE(game.get(Kept), edited);
     QVERIFY2(b.status().contains(u".tmp.old"), qPrintable(b.status()));
-    // A second Open of the other one takes the place of what the first one kept.
     b.edit(u"W"_s, u"55"_s);
     b.dialogs.boxes = {BoxAnswer::Yes};
     b.open();
-    QVERIFY(game.get(Kept) != edited);
+    QVERIFY(game.get(Kept) == edited && game.get(Kept + u".2"_s).contains("W=55"));
 
     a.edit(u"Y"_s, u"88"_s);
     QVERIFY2(a.status().contains(u"another program") && a.status().contains(u".tmp.old"), qPrintable(a.status()));
@@ -69,6 +77,69 @@ class SecondEditorTest : public QObject {
         QVERIFY(game.get(ThemeFile).contains("X=77") && game.get(ThemeFile).contains("W=55"));
       }
     }
+  }
+
+  /// The neighbour deletes the working copy and makes it anew all the time, as it was at first. Each edit goes into
+  /// what this program left, or what it left is kept and the user told so.
+  void theNeighbourRewritesWithoutEnd() {
+    const GameFolder game;
+    Program program(game);
+    program.open();
+    const QByteArray first = game.get(ThemeCopy);
+    const QByteArray name = game.native(ThemeCopy).toUtf8();
+    std::atomic<bool> over = false;
+    std::atomic<int> turns = 0;
+    const auto neighbour = std::unique_ptr<QThread>(QThread::create([&] {
+      for (; !over; ++turns) {
+        ::unlink(name);
+        QThread::usleep(turns % 3 * 20);
+        const int file = ::open(name, O_WRONLY | O_CREAT | O_TRUNC, 0666);
+        if (::write(file, first, size_t(first.size())) < 0) return;
+        ::close(file);
+        QThread::usleep(turns % 50 == 0 ? 2000 : 20);
+      }
+    }));
+    neighbour->start();
+    int told = 0;
+    QString lost;
+    for (int edit = 0; lost.isEmpty() && (edit < 1000 || (turns < 1000 && edit < 30'000)); ++edit) {
+      const QByteArray before = program.state.OwnCopies[0];
+      const auto expected = platform::SetProfileValue(before, "LoadingStaticA", "X", QByteArray::number(edit));
+      QString note;
+      QString failure;
+      try {
+        note = themefiles::PutInCopy(program.state, &themefiles::ThemePaths::ThemeFile, u"LoadingStaticA"_s, u"X"_s,
+                                     QString::number(edit));
+      } catch (const platform::Failure& thrown) {
+        failure = thrown.description();
+      }
+      told += !note.isEmpty() || !failure.isEmpty();
+      const QByteArray& after = program.state.OwnCopies[0];
+      if (after == expected || (after == before && !failure.isEmpty())) continue;
+      if (before == first && after.size() >= first.size()) continue;
+      bool kept = game.get(Kept) == before;
+      for (int number = 2; number <= 9; ++number) kept |= game.get(Kept + u".%1"_s.arg(number)) == before;
+      if (!kept || (note + failure).isEmpty()) lost = u"%1: %2 %3"_s.arg(edit).arg(note, failure);
+    }
+    over = true;
+    neighbour->wait();
+    QVERIFY2(lost.isEmpty(), qPrintable(lost));
+    QVERIFY2(turns >= 1000 && told > 20, qPrintable(u"%1 %2"_s.arg(turns).arg(told)));
+  }
+
+  void noEditOfTwoVanishes() {
+    const GameFolder game;
+    Program a(game);
+    Program b(game);
+    a.open();
+    a.edit();
+    b.open();
+    a.edit(u"Y"_s, u"88"_s);
+    b.edit(u"W"_s, u"55"_s);
+    a.edit(u"H"_s, u"33"_s);
+    QByteArray all;
+    for (const QByteArray& bytes : game.files()) all += bytes;
+    for (const char* edit : {"X=77", "Y=88", "W=55", "H=33"}) QVERIFY2(all.contains(edit), edit);
   }
 
   void theWorkingCopiesAreSweptAway() {

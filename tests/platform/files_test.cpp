@@ -1,12 +1,17 @@
 #include "platform/files.h"
 
+#include <fcntl.h>
 #include <new>
 #include <stdexcept>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QDir>
 #include <QTest>
 
 #include "platform/failure.h"
+#include "platform/pictures.h"
 #include "support/theme_doubles.h"
 
 using namespace platform;
@@ -36,6 +41,76 @@ class FilesTest : public QObject {
     QVERIFY(QFileInfo(folder_->native(u"link.ini"_s)).isSymbolicLink());
     QCOMPARE(folder_->get(u"real.ini"_s), QByteArray("new"));
     QCOMPARE(QFile::permissions(real), mode);
+  }
+
+  void keepsOwnerAndGroup() {
+    if (::geteuid() != 0) QSKIP("only the superuser can try");
+    folder_->put(u"a.ini"_s, "old");
+    const QByteArray name = folder_->native(u"a.ini"_s).toUtf8();
+    const QByteArray place = folder_->native(u"."_s).toUtf8();
+    constexpr uid_t Someone = 1234;
+    constexpr gid_t Shared = 4321;
+    struct stat status;
+    // Whoever writes, and what owner the file has behind it.
+    for (const auto& [writer, owner, mode, after] :
+         {std::tuple{uid_t(0), Someone, 0640, Someone}, {Someone + 1, Someone, 0664, Someone + 1}}) {
+      QVERIFY(::chown(name, owner, Shared) == 0 && ::chmod(name, mode_t(mode)) == 0);
+      QVERIFY(::chown(place, writer, Shared) == 0 && ::setegid(Shared) == 0 && ::seteuid(writer) == 0);
+      WriteFile(at(u"a.ini"_s), "new");
+      QVERIFY(::seteuid(0) == 0 && ::setegid(0) == 0 && ::stat(name, &status) == 0);
+      QCOMPARE(std::tuple(status.st_uid, status.st_gid, int(status.st_mode & 07777)), std::tuple(after, Shared, mode));
+    }
+    // A folder of one's own is no right to another one's file.
+    for (const mode_t mode : {0644, 0600}) {
+      QVERIFY(::chown(name, 0, 0) == 0 && ::chmod(name, mode) == 0 && ::seteuid(Someone + 1) == 0);
+      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(u"a.ini"_s), "stolen"));
+      QVERIFY(::seteuid(0) == 0 && folder_->get(u"a.ini"_s) == "new");
+      QCOMPARE(entries(), QStringList{u"a.ini"_s});
+    }
+  }
+
+  void onlyRegularFilesAreFiles() {
+    QVERIFY(::mkfifo(folder_->native(u"pipe"_s).toUtf8(), 0666) == 0);
+    QDir(folder_->native({})).mkdir(u"sub"_s);
+    for (const char* target : {"pipe", "/dev/zero", "sub", "nothing"}) {
+      const QString name = QFileInfo(QLatin1StringView(target)).fileName() + u".ini"_s;
+      QFile::link(QLatin1StringView(target), folder_->native(name));
+      QVERIFY2(!FileExists(at(name)) && LoadPicture(at(name)).isNull(), target);
+      QVERIFY_THROWS_EXCEPTION(Failure, ReadFile(at(name)));
+      if (target == QByteArrayView("nothing")) continue;
+      QVERIFY_THROWS_EXCEPTION(Failure, ReadIfThere(at(name)));
+      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(name), "new"));
+      QVERIFY(!ReadIfThere(at(name), AtLink::Replace));
+    }
+    QCOMPARE(ListFiles(at({}), u".ini"_s), QStringList());
+    QVERIFY(!FolderHoldsFiles(at({})));
+  }
+
+  void ownNamesFollowNoLink() {
+    folder_->put(u"mine"_s, "mine");
+    for (const QString& target : {u"mine"_s, u"nothing"_s}) {
+      for (const QString& name : {u"a.tmp"_s, u"a.tmp.unfinished"_s}) {
+        QFile::remove(folder_->native(name));
+        QFile::link(target, folder_->native(name));
+      }
+      QVERIFY(!ReadIfThere(at(u"a.tmp"_s), AtLink::Replace));
+      WriteFile(at(u"a.tmp"_s), "new", AtLink::Replace);
+      QVERIFY(!QFileInfo(folder_->native(u"a.tmp"_s)).isSymbolicLink() && folder_->get(u"a.tmp"_s) == "new");
+      QCOMPARE(folder_->get(u"mine"_s), QByteArray("mine"));
+      QCOMPARE(entries(), (QStringList{u"a.tmp"_s, u"mine"_s}));
+    }
+  }
+
+  void leftOverTemporaryFiles() {
+    folder_->put(u"a.ini"_s, "old");
+    folder_->put(u"a.ini.unfinished"_s, "of another program");
+    const int other = ::open(folder_->native(u"a.ini.unfinished"_s).toUtf8(), O_RDONLY);
+    QVERIFY(::flock(other, LOCK_EX) == 0);  // it is alive
+    QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(u"a.ini"_s), "new"));
+    QCOMPARE(folder_->get(u"a.ini.unfinished"_s), QByteArray("of another program"));
+    ::close(other);
+    WriteFile(at(u"a.ini"_s), "new");
+    QCOMPARE(entries(), QStringList{u"a.ini"_s});
   }
 
   void refusedWrites() {

@@ -67,10 +67,11 @@ class WorkingCopiesTest : public QObject {
     game.folder.put(Skin + Copy, "lost edits");
     game.folder.put(Skin + u".tmp.old"_s, "still older");
     QVERIFY(game.open());
-    QCOMPARE(game.folder.get(Skin + u".tmp.old"_s), QByteArray("lost edits"));
+    QCOMPARE(game.folder.get(Skin + u".tmp.old"_s), QByteArray("still older"));
+    QCOMPARE(game.folder.get(Skin + u".tmp.old.2"_s), QByteArray("lost edits"));
     QCOMPARE(game.folder.get(Skin + Copy), QByteArray("[Skin]\n"));
     QVERIFY(!game.folder.has(Theme + u".tmp.old"_s));
-    QVERIFY(game.panel.texts.size() == 1 && game.panel.texts[0].contains(Skin + u".tmp.old"_s));
+    QVERIFY(game.panel.texts.size() == 1 && game.panel.texts[0].contains(Skin + u".tmp.old.2"_s));
 
     game.folder.put(Skin, "by another hand");
     game.folder.put(Language, "the same");
@@ -80,6 +81,38 @@ class WorkingCopiesTest : public QObject {
     QCOMPARE(game.folder.get(Skin), QByteArray("[Skin]\n"));
     QVERIFY(!game.folder.has(Theme + u".bak"_s) && !game.folder.has(Language + u".bak"_s));
     QVERIFY(game.panel.texts.size() == 2 && game.panel.texts[1].contains(Skin + u".bak"_s));
+  }
+
+  void ninePlacesForWhatIsKept() {
+    Game game;
+    const QString old = Theme + u".tmp.old"_s;
+    QFile::link(Theme, game.folder.native(old + u".3"_s));  // a name of the program's own: no text
+    QByteArray told;
+    for (const char* text : {"1", "2", "3", "2", "4", "5", "6", "7", "8", "9", "9", "10", "1"}) {
+      game.folder.put(Theme + Copy, text);
+      QTest::qWait(5);  // the clock of files is coarse
+      QVERIFY(game.open());
+      if (game.panel.texts.last().contains(u"oldest"_s)) told += QByteArray(text) + ' ';
+    }
+    QCOMPARE(told, QByteArray("10 1 "));
+    QByteArray kept = game.folder.get(old);
+    for (int number = 2; number <= 9; ++number) kept += game.folder.get(old + u".%1"_s.arg(number));
+    QCOMPARE(kept, QByteArray("1013456789"));
+    QVERIFY(!game.folder.has(old + u".10"_s));
+  }
+
+  void linksAtTheNamesOfCopies() {
+    Game game;
+    game.folder.put(u"mine"_s, "mine");
+    game.folder.put(Skin + Copy, "lost edits");
+    for (const QString& name : {Theme + Copy, Skin + u".tmp.old"_s, Language + Copy}) {
+      QFile::link(name.startsWith(Language) ? u"nothing"_s : u"mine"_s, game.folder.native(name));
+    }
+    QVERIFY(game.open());
+    QCOMPARE(game.folder.get(u"mine"_s), QByteArray("mine"));
+    QVERIFY(!game.folder.has(u"nothing"_s) && !game.folder.has(Theme + u".tmp.old"_s));
+    QCOMPARE(game.folder.get(Theme + Copy), Bytes);
+    QCOMPARE(game.folder.get(Skin + u".tmp.old"_s), QByteArray("lost edits"));
   }
 
   void saveFailsMidway() {
