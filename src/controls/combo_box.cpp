@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include <QAbstractItemView>
+#include <QIcon>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
+#include <QStandardItemModel>
 
 #include "platform/code_page.h"
 #include "platform/failure.h"
@@ -14,6 +17,27 @@ namespace controls {
 namespace {
 
 constexpr int ShownRows = 20;
+constexpr int SquareSide = 11;
+
+/// Entries with a square of a colour beside each.
+class SwatchModel : public QStandardItemModel {
+ public:
+  SwatchModel(const std::function<QColor(const QString& entry)>& colorOf, QObject* parent)
+      : QStandardItemModel(0, 1, parent), colorOf_(colorOf) {}
+
+  QVariant data(const QModelIndex& index, int role) const override {
+    if (role != Qt::DecorationRole) return QStandardItemModel::data(index, role);
+    QPixmap square(SquareSide, SquareSide);
+    square.fill(colorOf_(index.data().toString()));
+    QPainter painter(&square);
+    painter.setPen(Qt::gray);
+    painter.drawRect(square.rect().adjusted(0, 0, -1, -1));
+    return QIcon(square);
+  }
+
+ private:
+  std::function<QColor(const QString& entry)> colorOf_;
+};
 
 }  // namespace
 
@@ -59,6 +83,11 @@ bool ComboBox::SelectText(const QString& text) {
 
 void ComboBox::SetText(const QString& text) {
   if (!SelectText(text)) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
+}
+
+void ComboBox::setSwatches(const std::function<QColor(const QString& entry)>& colorOf) {
+  setModel(new SwatchModel(colorOf, this));
+  setIconSize({SquareSide, SquareSide});
 }
 
 void ComboBox::showPopup() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QComboBox>
 
 #include "controls/cause.h"
@@ -34,6 +36,9 @@ class ComboBox : public WheelWithFocus<QComboBox> {
   bool SelectText(const QString& text);
   /// The same, throwing platform::Failure without one.
   void SetText(const QString& text);
+
+  /// Shows a square of its colour beside each entry; `colorOf` tells it whenever the entry is painted.
+  void setSwatches(const std::function<QColor(const QString& entry)>& colorOf);
 
   /// Twenty rows, as wide as the longest entry.
   void showPopup() override;

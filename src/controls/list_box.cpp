@@ -54,6 +54,21 @@ void ListBox::SetToolTip(int index, const QString& text) {
   if (QListWidgetItem* row = item(index)) row->setToolTip(PlainToolTip(text));
 }
 
+void ListBox::setBold(int index, bool bold) {
+  QListWidgetItem* row = item(index);
+  if (row == nullptr || row->data(Qt::FontRole).isValid() == bold) return;
+  QFont letters = font();
+  letters.setBold(true);
+  row->setData(Qt::FontRole, bold ? QVariant(letters) : QVariant());
+}
+
+void ListBox::setGrey(int index, bool grey) {
+  QListWidgetItem* row = item(index);
+  if (row == nullptr || row->data(Qt::ForegroundRole).isValid() == grey) return;
+  const QBrush brush = palette().brush(QPalette::Disabled, QPalette::Text);
+  row->setData(Qt::ForegroundRole, grey ? QVariant(brush) : QVariant());
+}
+
 void ListBox::picked(int) {
   Q_EMIT Click(Cause::User);
 }

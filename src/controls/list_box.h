@@ -30,6 +30,9 @@ class ListBox : public RowPicking<QListWidget> {
   QString Text() const;
   /// Plain text tool tip of a row (never taken for rich text); empty removes it.
   void SetToolTip(int index, const QString& text);
+  /// Shows the text of a row in bold letters, or in grey ones unless the row is selected.
+  void setBold(int index, bool bold);
+  void setGrey(int index, bool grey);
 
  Q_SIGNALS:
   void Click(controls::Cause cause);

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int NarrowestColumn = 10;
 enum Column { TextColumn, SubItemColumn };
+constexpr int SavedRole = Qt::UserRole;
 
 }  // namespace
 
@@ -32,6 +33,8 @@ ListView::ListView(QWidget* parent) : RowPicking(parent) {
 void ListView::SetColumns(const QStringList& headers, const QList<int>& widths) {
   setHeaderLabels(headers);
   for (int column = 0; column < widths.size(); ++column) setColumnWidth(column, widths[column]);
+  widthAsTold_ = width();
+  given_ = 0;
 }
 
 void ListView::ClearRows() {
@@ -56,6 +59,15 @@ void ListView::SetSubItem(int row, const QString& text) {
   if (QTreeWidgetItem* item = topLevelItem(row)) item->setText(SubItemColumn, text);
 }
 
+void ListView::setSaved(int row, const QString& text) {
+  QTreeWidgetItem* item = topLevelItem(row);
+  if (item == nullptr || item->data(TextColumn, SavedRole).toString() == text) return;
+  item->setData(TextColumn, SavedRole, text);
+  QFont letters = font();
+  letters.setBold(!text.isEmpty());
+  for (const int column : {TextColumn, SubItemColumn}) item->setFont(column, letters);
+}
+
 void ListView::picked(int row) {
   Q_EMIT ItemClick(row);
 }
@@ -65,9 +77,26 @@ bool ListView::viewportEvent(QEvent* event) {
   const auto* help = static_cast<QHelpEvent*>(event);
   const QModelIndex cell = indexAt(help->pos());
   const QRect shown = visualRect(cell).intersected(viewport()->rect());
-  const bool cut = cell.isValid() && sizeHintForIndex(cell).width() > shown.width();
-  QToolTip::showText(help->globalPos(), cut ? PlainToolTip(cell.data().toString()) : QString(), viewport(), shown);
+  QStringList lines;
+  if (cell.isValid() && sizeHintForIndex(cell).width() > shown.width()) lines += cell.data().toString();
+  const QString saved = cell.siblingAtColumn(TextColumn).data(SavedRole).toString();
+  if (!saved.isEmpty()) lines += saved;
+  QToolTip::showText(help->globalPos(), PlainToolTip(lines.join(u'\n')), viewport(), shown);
   return true;
+}
+
+void ListView::resizeEvent(QResizeEvent* event) {
+  RowPicking::resizeEvent(event);
+  const int more = gain() - given_;
+  given_ += more;
+  if (more != 0) setColumnWidth(SubItemColumn, columnWidth(SubItemColumn) + more);
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent* event) {
+  const bool mouse = event->reason() == QContextMenuEvent::Mouse;
+  const int row = mouse ? indexAt(event->pos()).row() : SelectedRow();
+  const QPoint below = visualRect(model()->index(row, SubItemColumn)).bottomLeft();
+  if (row >= 0) Q_EMIT MenuAsked(row, mouse ? event->globalPos() : viewport()->mapToGlobal(below));
 }
 
 }  // namespace controls

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QContextMenuEvent>
 #include <QTreeWidget>
 
 #include "controls/row_picking.h"
@@ -7,7 +8,7 @@
 namespace controls {
 
 /// A list of rows in two columns under headers, with full-row selection. Nothing is selected until the user picks a
-/// row. A value that its column cuts shows whole as a tool tip.
+/// row. The last column takes what a wider list gives. A value that its column cuts shows whole as a tool tip.
 class ListView : public RowPicking<QTreeWidget> {
   Q_OBJECT
 
@@ -22,6 +23,8 @@ class ListView : public RowPicking<QTreeWidget> {
   QString RowText(int row) const;
   QString SubItem(int row) const;
   void SetSubItem(int row, const QString& text);
+  /// Marks a row in bold letters, with `text` in its tool tip; an empty text takes the mark away.
+  void setSaved(int row, const QString& text);
   /// Number of the selected row, -1 without one.
   int SelectedRow() const { return selectedRow(); }
   /// Selects the row as code would: fires nothing. -1 selects nothing.
@@ -30,10 +33,20 @@ class ListView : public RowPicking<QTreeWidget> {
  Q_SIGNALS:
   /// A click on a row, also on the selected one, or a change of row by the keyboard; neither code nor focus.
   void ItemClick(int row);
+  /// The user has asked for the menu of a row, by the mouse or the keyboard.
+  void MenuAsked(int row, const QPoint& place);
 
  protected:
   void picked(int row) override;
   bool viewportEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  int gain() const { return std::max(0, width() - widthAsTold_); }
+
+  int widthAsTold_ = 0;  ///< of the list, when its columns were set
+  int given_ = 0;        ///< what the last column has taken of the width since then
 };
 
 }  // namespace controls

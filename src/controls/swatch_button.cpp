@@ -5,8 +5,7 @@
 namespace controls {
 namespace {
 
-constexpr int Bevel = 4;          // pixels of the button round its face
-constexpr double Disabled = 0.4;  // opacity
+constexpr int Bevel = 4;  // pixels of the button round its face
 
 }  // namespace
 
@@ -16,11 +15,14 @@ void SwatchButton::SetBackColor(const QColor& color) {
   update();
 }
 
+void SwatchButton::contextMenuEvent(QContextMenuEvent* event) {
+  Q_EMIT MenuAsked(event->reason() == QContextMenuEvent::Mouse ? event->globalPos() : mapToGlobal(rect().bottomLeft()));
+}
+
 void SwatchButton::paintEvent(QPaintEvent* event) {
   QPushButton::paintEvent(event);
   if (!backColor_.isValid()) return;
   QPainter painter(this);
-  if (!isEnabled()) painter.setOpacity(Disabled);
   painter.fillRect(rect().adjusted(Bevel, Bevel, -Bevel, -Bevel), backColor_);
 }
 

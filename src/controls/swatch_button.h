@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QContextMenuEvent>
 #include <QPushButton>
 
 namespace controls {
@@ -15,7 +16,12 @@ class SwatchButton : public QPushButton {
   /// The colour that the button shows.
   void SetBackColor(const QColor& color);
 
+ Q_SIGNALS:
+  /// The user has asked for the button's menu, by the mouse or the keyboard.
+  void MenuAsked(const QPoint& place);
+
  protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:

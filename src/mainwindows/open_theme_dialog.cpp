@@ -51,7 +51,7 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
   controls::Place(*Command2, {4080, 3480, 1095, 375});
   setFixedSize(controls::ToPixels(5325), controls::ToPixels(3990));
   controls::CentreOnScreen(*this);
-  for (QLabel* label : {Label4, Label5}) {
+  for (controls::CutLabel* label : {Label4, Label5}) {
     label->setFont(platform::ControlFont(QStringLiteral("Arial"), label->font().pixelSize()));
   }
   Command1->setDefault(true);
@@ -63,11 +63,11 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
   for (const QString& theme : themes) List1->AddItem(theme);
 }
 
-QLabel* Form3::label(const QString& text, double left, double top, double width) {
-  auto* label = new QLabel(text, this);
-  label->setTextFormat(Qt::PlainText);
+controls::CutLabel* Form3::label(const QString& text, double left, double top, double width) {
+  auto* label = new controls::CutLabel(this);
   label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   controls::Place(*label, {left, top, width, 255});
+  label->setWhole(text);
   return label;
 }
 
@@ -88,23 +88,23 @@ void Form3::showEvent(QShowEvent* event) {
 
 void Form3::List1_Click() {
   const QString theme = chosen().ThemeFile;
-  Label4->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Name"), theme));
-  Label5->setText(iniValue(QStringLiteral("Theme"), QStringLiteral("Creator"), theme));
+  Label4->setWhole(iniValue(QStringLiteral("Theme"), QStringLiteral("Name"), theme));
+  Label5->setWhole(iniValue(QStringLiteral("Theme"), QStringLiteral("Creator"), theme));
   List2->Clear();
   for (const QString& name : themefiles::SkinsOf(gameFolder_, List1->Text())) List2->AddItem(name);
   Command1->setEnabled(List2->ListCount() > 0);
   if (List2->ListCount() > 0) {
     List2->SetListIndex(0);
   } else {
-    Label9->clear();
-    Label10->clear();
+    Label9->setWhole({});
+    Label10->setWhole({});
   }
 }
 
 void Form3::List2_Click() {
   const QString skin = chosen().SkinFile;
-  Label9->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Name"), skin));
-  Label10->setText(iniValue(QStringLiteral("Skin"), QStringLiteral("Autor"), skin));
+  Label9->setWhole(iniValue(QStringLiteral("Skin"), QStringLiteral("Name"), skin));
+  Label10->setWhole(iniValue(QStringLiteral("Skin"), QStringLiteral("Autor"), skin));
 }
 
 void Form3::Command1_Click() {

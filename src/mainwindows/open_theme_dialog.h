@@ -3,10 +3,10 @@
 #include <functional>
 
 #include <QDialog>
-#include <QLabel>
 #include <QPushButton>
 
 #include "controls/combo_box.h"
+#include "controls/cut_label.h"
 #include "controls/list_box.h"
 #include "themefiles/module_state.h"
 
@@ -23,21 +23,21 @@ class Form3 : public QDialog {
   Form3(QString gameFolder, const QStringList& themes, std::function<bool(const themefiles::ThemePaths&)> open,
         QWidget* owner);
 
-  controls::ListBox* List1;    ///< themes
-  controls::ListBox* List2;    ///< skins of the theme
-  QLabel* Label4;              ///< name of the theme
-  QLabel* Label5;              ///< creator of the theme
-  QLabel* Label9;              ///< name of the skin
-  QLabel* Label10;             ///< author of the skin
-  controls::ComboBox* Combo1;  ///< languages
-  QPushButton* Command1;       ///< Open
-  QPushButton* Command2;       ///< Cancel
+  controls::ListBox* List1;     ///< themes
+  controls::ListBox* List2;     ///< skins of the theme
+  controls::CutLabel* Label4;   ///< name of the theme
+  controls::CutLabel* Label5;   ///< creator of the theme
+  controls::CutLabel* Label9;   ///< name of the skin
+  controls::CutLabel* Label10;  ///< author of the skin
+  controls::ComboBox* Combo1;   ///< languages
+  QPushButton* Command1;        ///< Open
+  QPushButton* Command2;        ///< Cancel
 
  protected:
   void showEvent(QShowEvent* event) override;
 
  private:
-  QLabel* label(const QString& text, double left, double top, double width);
+  controls::CutLabel* label(const QString& text, double left, double top, double width);
   void Form_Load();
   void Form_Activate();
   void List1_Click();

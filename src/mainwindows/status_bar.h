@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QLabel>
 #include <QWidget>
+
+#include "controls/cut_label.h"
 
 namespace mainwindows {
 
@@ -14,16 +15,13 @@ class StatusBar : public QWidget {
   explicit StatusBar(QWidget* parent);
 
   void SetPanel(int panel, const QString& text);  ///< panels count from 1
-  const QString& Panel(int panel) const { return texts_[panel - 1]; }
+  const QString& Panel(int panel) const { return panels_[panel - 1]->whole(); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  void showText(int panel);
-
-  QString texts_[2];
-  QLabel* panels_[2];
+  controls::CutLabel* panels_[2];
 };
 
 }  // namespace mainwindows

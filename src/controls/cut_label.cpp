@@ -1,0 +1,30 @@
+#include "controls/cut_label.h"
+
+#include <algorithm>
+
+#include "controls/look.h"
+
+namespace controls {
+
+CutLabel::CutLabel(QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+}
+
+void CutLabel::setWhole(const QString& text) {
+  whole_ = text;
+  showText();
+}
+
+void CutLabel::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  showText();
+}
+
+void CutLabel::showText() {
+  const int room = contentsRect().width() - 2 * std::max(0, indent());
+  const QString shown = fontMetrics().elidedText(whole_, Qt::ElideRight, room);
+  setText(shown);
+  setToolTip(shown == whole_ ? QString() : PlainToolTip(whole_));
+}
+
+}  // namespace controls
