@@ -23,9 +23,27 @@ QByteArrayView trimmed(QByteArrayView text) {
   return text;
 }
 
+/// A name that is asked for: only blanks (0x20) at its ends don't count.
+QByteArrayView askedName(QByteArrayView name) {
+  while (name.startsWith(' ')) name = name.sliced(1);
+  while (name.endsWith(' ')) name.chop(1);
+  return name;
+}
+
+/// Whether a name that is asked for can be none of a file: there tabs at the ends don't count either.
+bool endsInTab(QByteArrayView name) {
+  return name.startsWith('\t') || name.endsWith('\t');
+}
+
 bool sameName(QByteArrayView a, QByteArrayView b) {
   return a.size() == b.size() &&
          std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return UpperCaseByte(x) == UpperCaseByte(y); });
+}
+
+QByteArray upperCase(QByteArrayView name) {
+  QByteArray upper(name.size(), Qt::Uninitialized);
+  std::transform(name.begin(), name.end(), upper.begin(), UpperCaseByte);
+  return upper;
 }
 
 /// Where the text of the line at `at` ends.
@@ -59,6 +77,7 @@ const char* findSection(QByteArrayView file, QByteArrayView name) {
   const char first = length > 0 ? UpperCaseByte(name.front()) : '\0';
   const char last = length > 0 ? UpperCaseByte(name.back()) : '\0';
   if (std::any_of(name.begin(), name.end(), [](char c) { return c == ']' || isLineEnd(c); })) return nullptr;
+  if (endsInTab(name)) return nullptr;
   for (const char* at = file.begin(); at != end;) {
     const auto* bracket = static_cast<const char*>(std::memchr(at, '[', std::size_t(end - at)));
     if (!bracket) return nullptr;
@@ -129,57 +148,29 @@ bool fitsOneLine(QByteArrayView text) {
 
 /// Whether a line written for these names could be found again.
 bool canBeFound(QByteArrayView section, QByteArrayView key) {
-  return fitsOneLine(section) && !section.contains(']') && fitsOneLine(key) && !key.isEmpty() && !key.contains('=') &&
-         key.front() != ';' && key.front() != '[';
+  return fitsOneLine(section) && !section.contains(']') && !endsInTab(section) && fitsOneLine(key) && !key.isEmpty() &&
+         !key.contains('=') && !endsInTab(key) && key.front() != ';' && key.front() != '[';
 }
 
-}  // namespace
+/// What of a key's line is written.
+enum class Part { Value, Line };
 
-std::optional<QByteArray> FindProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
-  const auto lines = FindProfileSection(file, section);
-  return lines ? FindProfileValue(*lines, key) : std::nullopt;
-}
-
-std::optional<QByteArrayView> FindProfileSection(QByteArrayView file, QByteArrayView section) {
-  const char* const lines = findSection(file, trimmed(section));
-  if (!lines) return std::nullopt;
-  return QByteArrayView(lines, file.end());
-}
-
-std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView key) {
-  const auto line = KeyLines(lines.begin(), lines.end()).find(trimmed(key));
-  if (!line) return std::nullopt;
-  QByteArrayView value = trimmed({line->value, line->textEnd});
-  const bool quoted =
-      value.size() > 1 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
-  if (quoted) value = value.sliced(1, value.size() - 2);
-  return value.toByteArray();
-}
-
-QByteArray ListProfileKeys(QByteArrayView file, QByteArrayView section) {
-  QByteArray keys;
-  const char* const lines = findSection(file, trimmed(section));
-  if (!lines) return keys;
-  KeyLines walk(lines, file.end());
-  while (const auto line = walk.next()) keys.append(line->key).append('\0');
-  return keys;
-}
-
-std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
-                                          QByteArrayView value) {
-  section = trimmed(section);
-  key = trimmed(key);
-  if (!canBeFound(section, key) || !fitsOneLine(value)) return std::nullopt;
+std::optional<QByteArray> setPart(QByteArrayView file, QByteArrayView section, QByteArrayView key, QByteArrayView text,
+                                  Part part) {
+  section = askedName(section);
+  key = askedName(key);
+  if (!canBeFound(section, key) || !fitsOneLine(text)) return std::nullopt;
   const QByteArray lineEnd = firstLineEnd(file);
-  QByteArray added = key.toByteArray() + '=' + value.toByteArray() + lineEnd;
+  QByteArray added = (part == Part::Value ? key.toByteArray() + '=' : QByteArray()) + text.toByteArray() + lineEnd;
 
   const char* place = findSection(file, section);
   if (place) {
     KeyLines walk(place, file.end());
     while (const auto line = walk.next()) {
       if (sameName(line->key, key)) {
-        if (QByteArrayView(line->value, line->textEnd) == value) return std::nullopt;
-        return replaced(file, line->value, line->textEnd, value);
+        const char* const from = part == Part::Value ? line->value : line->begin;
+        if (QByteArrayView(from, line->textEnd) == text) return std::nullopt;
+        return replaced(file, from, line->textEnd, text);
       }
       place = line->next;
     }
@@ -192,10 +183,93 @@ std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView se
   return replaced(file, place, place, added);
 }
 
-std::optional<QByteArray> RemoveProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
-  const char* const lines = findSection(file, trimmed(section));
+}  // namespace
+
+std::optional<QByteArray> FindProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const auto lines = FindProfileSection(file, section);
+  return lines ? FindProfileValue(*lines, key) : std::nullopt;
+}
+
+std::optional<QByteArrayView> FindProfileSection(QByteArrayView file, QByteArrayView section) {
+  const char* const lines = findSection(file, askedName(section));
   if (!lines) return std::nullopt;
-  const auto line = KeyLines(lines, file.end()).find(trimmed(key));
+  return QByteArrayView(lines, file.end());
+}
+
+std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView key) {
+  const auto line = KeyLines(lines.begin(), lines.end()).find(askedName(key));
+  if (!line) return std::nullopt;
+  return unquoted(trimmed({line->value, line->textEnd})).toByteArray();
+}
+
+QByteArrayView unquoted(QByteArrayView value) {
+  const bool quoted =
+      value.size() > 1 && (value.front() == '"' || value.front() == '\'') && value.front() == value.back();
+  return quoted ? value.sliced(1, value.size() - 2) : value;
+}
+
+QByteArray ListProfileKeys(QByteArrayView file, QByteArrayView section) {
+  QByteArray keys;
+  const char* const lines = findSection(file, askedName(section));
+  if (!lines) return keys;
+  KeyLines walk(lines, file.end());
+  while (const auto line = walk.next()) keys.append(line->key).append('\0');
+  return keys;
+}
+
+ProfileKeys profileKeys(QByteArrayView lines) {
+  ProfileKeys keys;
+  KeyLines walk(lines.begin(), lines.end());
+  while (const auto line = walk.next()) {
+    const QByteArray name = upperCase(line->key);
+    if (keys.contains(name)) continue;
+    keys.insert(name, {line->key, trimmed({line->value, line->textEnd}), {line->begin, line->textEnd}});
+  }
+  return keys;
+}
+
+const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key) {
+  const auto line = keys.constFind(upperCase(askedName(key)));
+  return line == keys.constEnd() ? nullptr : &*line;
+}
+
+ProfileSections::ProfileSections(QByteArrayView file) {
+  QByteArray name;
+  const char* lines = nullptr;
+  const auto endSection = [&](const char* end) {
+    if (lines && !sections_.contains(name)) sections_.insert(name, QByteArrayView(lines, end));
+  };
+  for (const char* at = file.begin(); at != file.end();) {
+    const char* const head = std::find_if_not(at, file.end(), isBlank);
+    const char* const textEnd = lineTextEnd(head, file.end());
+    if (head != textEnd && *head == '[') {
+      endSection(at);
+      name = upperCase(trimmed({head + 1, std::find(head + 1, textEnd, ']')}));
+      lines = nextLine(textEnd, file.end());
+    }
+    at = nextLine(textEnd, file.end());
+  }
+  endSection(file.end());
+}
+
+QByteArrayView ProfileSections::lines(QByteArrayView name) const {
+  return sections_.value(upperCase(askedName(name)));
+}
+
+std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                          QByteArrayView value) {
+  return setPart(file, section, key, value, Part::Value);
+}
+
+std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                         QByteArrayView line) {
+  return setPart(file, section, key, line, Part::Line);
+}
+
+std::optional<QByteArray> RemoveProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const char* const lines = findSection(file, askedName(section));
+  if (!lines) return std::nullopt;
+  const auto line = KeyLines(lines, file.end()).find(askedName(key));
   if (!line) return std::nullopt;
   return replaced(file, line->begin, line->next, {});
 }

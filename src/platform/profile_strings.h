@@ -4,11 +4,13 @@
 
 #include <QByteArray>
 #include <QByteArrayView>
+#include <QHash>
 
 /// The rules of keyed access to an ini file, over the file's bytes: no file is touched here, nothing is kept between
 /// calls. Names are compared by the upper case of the code page; the first section of a name and the first key in it
-/// count. "=" parts key and value, ";" at the head of a line makes a comment, "#" doesn't; blanks and tabs round names,
-/// keys and values don't count. Lines end in CR LF, LF or CR.
+/// count. "=" parts key and value, ";" at the head of a line makes a comment, "#" doesn't; blanks and tabs round the
+/// names, keys and values of a file don't count, and blanks round those that are asked for. Lines end in CR LF, LF or
+/// CR.
 namespace platform {
 
 /// The value of the key as it stands in the file: without blanks round it, less one pair of equal quotation marks round
@@ -23,12 +25,45 @@ std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView 
 /// All keys of the section in file order, doubles too, each ended by one NUL; empty without the section.
 QByteArray ListProfileKeys(QByteArrayView file, QByteArrayView section);
 
+/// A key line of a section.
+struct ProfileLine {
+  QByteArrayView key;
+  QByteArrayView value;  ///< without blanks round it, with its quotation marks
+  QByteArrayView line;   ///< as it stands, without its end
+};
+
+/// A value less one pair of equal quotation marks round it.
+QByteArrayView unquoted(QByteArrayView value);
+
+/// The lines of a section's keys (of doubles the first) by the key in upper case, for who asks for many of them.
+using ProfileKeys = QHash<QByteArray, ProfileLine>;
+ProfileKeys profileKeys(QByteArrayView lines);
+
+/// The line of the key; null without one.
+const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key);
+
+/// The sections of a file for who asks for many: found once, as FindProfileSection finds each. Views of the file.
+class ProfileSections {
+ public:
+  explicit ProfileSections(QByteArrayView file);
+  /// The lines of the section of that name, up to the next section; empty without one.
+  QByteArrayView lines(QByteArrayView name) const;
+
+ private:
+  QHash<QByteArray, QByteArrayView> sections_;  ///< by the name in upper case
+};
+
 /// The file with the key's value replaced in place (all up to the "=" and the line's own end stay), or the key added
 /// behind the last key line of its section, or the section added at the end. New lines take the file's first line end,
 /// CR LF where it has none. None when there is nothing to change in it, or when the line could never be found again (a
-/// line end or NUL in a text, "]" in the section's name, no key, one with "=" in it or ";" or "[" at its head).
+/// line end or NUL in a text, "]" in the section's name, a tab at an end of either name, no key, one with "=" in it or
+/// ";" or "[" at its head).
 std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
                                           QByteArrayView value);
+
+/// The same with the key's whole line, `line` having no end of its own.
+std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                         QByteArrayView line);
 
 /// The file without the key's line; none when there is no such key.
 std::optional<QByteArray> RemoveProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);

@@ -124,6 +124,16 @@ void CheckReadsBack(const QByteArray& written, const QString& Section, const QSt
   if (!same) throw platform::Failure(what + QStringLiteral("another program has changed the file since"));
 }
 
+QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line) {
+  const QByteArray sectionBytes = lineBytes(section);
+  const QByteArray keyBytes = lineBytes(key);
+  const QByteArray changed = platform::setProfileLine(text, sectionBytes, keyBytes, line).value_or(text);
+  if (platform::FindProfileValue(changed, sectionBytes, keyBytes) != givenBack(line.sliced(line.indexOf('=') + 1))) {
+    throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(key, section));
+  }
+  return changed;
+}
+
 bool HoldsKey(const QString& Section, const QString& Key, const QString& FileName) {
   const auto file = platform::ReadIfThere(FileName);
   return file && platform::FindProfileValue(*file, lineBytes(Section), lineBytes(Key));

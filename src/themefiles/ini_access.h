@@ -53,6 +53,9 @@ void CheckReadsBack(const QByteArray& written, const QString& Section, const QSt
 /// platform::Failure then.
 bool HoldsKey(const QString& Section, const QString& Key, const QString& FileName);
 
+/// ChangedText with the key's whole line, which has the key and "=" in it and no end of its own.
+QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line);
+
 /// Throws platform::Failure for text that an ini file can't hold on one line: a line end or NUL in it, or a letter
 /// outside the code page.
 void CheckLineText(const QString& text);

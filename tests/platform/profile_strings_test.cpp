@@ -47,6 +47,17 @@ class ProfileStringsTest : public QObject {
     QCOMPARE(FindProfileValue("[S\xE4]\nk\xF6=v", " s\xC4 ", "  K\xD6"), QByteArray("v"));
     QCOMPARE(FindProfileValue("[S]\n#k=v", "S", "#k"), QByteArray("v"));
     QVERIFY(!FindProfileValue("k=v\n[S]\nj=w", "", "k"));
+    // Of what is asked for, only blanks are cut off.
+    for (const auto& [section, key, found] : {std::tuple("S", "\tk", false),
+                                              {"S", "k\t ", false},
+                                              {"\tS", "k", false},
+                                              {"S\t", "k", false},
+                                              {" S ", " k ", true}}) {
+      for (const QByteArray file : {"[S]\nk=v", "[ S\t]\n\tk\t=v"}) {
+        QCOMPARE(FindProfileValue(file, section, key).has_value(), found);
+        QCOMPARE(SetProfileValue(file, section, key, "w").has_value(), found);
+      }
+    }
   }
 
   void keyLists() {
@@ -69,6 +80,23 @@ class ProfileStringsTest : public QObject {
     QCOMPARE(SetProfileValue("[S]\nk=old\n", "S", "k", " \"v\" "), QByteArray("[S]\nk= \"v\" \n"));
     QCOMPARE(SetProfileValue("[S]\nk=old\n", "S", "k", ""), QByteArray("[S]\nk=\n"));
     QVERIFY(!SetProfileValue("[S]\nk=1\n", "S", "k", "v\nj=1"));
+  }
+
+  void sectionsAndLines() {
+    const QByteArray file("k=0\n [ a\t]x\nk= \"v\" \nK=w\n[b\nj=1\n[A]\nk=2\n[]\ne=");
+    const ProfileSections sections(file);
+    for (const char* name : {"A", " b", "", "a\t", "c"}) {
+      const auto found = FindProfileSection(file, name);
+      QCOMPARE(sections.lines(name).data(), found ? found->data() : nullptr);
+    }
+    QCOMPARE(sections.lines("a"), QByteArrayView("k= \"v\" \nK=w\n"));
+    const ProfileKeys keys = profileKeys(sections.lines("a"));
+    const ProfileLine* line = lineOf(keys, " K ");
+    QVERIFY(line != nullptr && lineOf(keys, "j") == nullptr);
+    QCOMPARE(line->value, QByteArrayView("\"v\""));
+    QCOMPARE(line->line, QByteArrayView("k= \"v\" "));
+    QCOMPARE(setProfileLine("[S]\n K=1 \nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nk = 3 \nj=2"));
+    QCOMPARE(setProfileLine("[S]\nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nj=2\nk = 3 \n"));
   }
 
   void remove() {

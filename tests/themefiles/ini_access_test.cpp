@@ -59,7 +59,7 @@ class IniAccessTest : public QObject {
     folder.put(Name, "[S]\nk=v\n");
     // Section/key/value: letters outside the code page, line ends, NUL, and names that could not be found again.
     for (const QString& line : {u"S/k/\u03A9"_s, u"\u03A9/k/"_s, u"S/k/a\nb=c"_s, u"S/a\r/c"_s, u"S/k/\0"_s,
-                                u"S/a=b/c"_s, u"S/[a/c"_s, u"S/ ;a/c"_s, u"S]/k/c"_s}) {
+                                u"S/a=b/c"_s, u"S/[a/c"_s, u"S/ ;a/c"_s, u"S]/k/c"_s, u"S\t/k/c"_s, u"S/\tk/c"_s}) {
       const QStringList parts = line.split(u'/');
       PutINI(parts[0], parts[1], parts[2], folder.path(Name));
       QVERIFY_THROWS_EXCEPTION(platform::Failure, PutINIChecked(parts[0], parts[1], parts[2], folder.path(Name)));
