@@ -152,7 +152,7 @@ void Form1::ShowStartPicture(quint32 backColor) {
   Label2->show();
 }
 
-void Form1::ShowStatus(const QString& text) {
+void Form1::showReport(const QString& text) {
   StatusBar->SetPanel(1,
                       u'[' + QTime::currentTime().toString(QStringLiteral("HH:mm:ss")) + QStringLiteral("] ") + text);
 }

@@ -55,7 +55,6 @@ class Form1 : public QWidget, public platform::StatusLine {
   renderer::RenderAccount Account;          ///< what the last render drew and left out
   PreviewPicking Picking;
 
-  void ShowStatus(const QString& text) override;
   /// Shows the mouse's place in the status bar, counted from 1.
   void ShowMousePosition(qint16 X, qint16 Y);
   /// Shows the start picture with the two labels, on a back colour value.
@@ -69,6 +68,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   void CloseAsked();
 
  protected:
+  void showReport(const QString& text) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:

@@ -1,5 +1,7 @@
 #include "mainwindows/theme_session.h"
 
+#include <optional>
+
 #include <QApplication>
 
 #include "controls/twips.h"
@@ -43,22 +45,10 @@ QString findGameFolder(Form1& form) {
   return folder;
 }
 
-/// Keeps a report for a later moment.
-class Note : public platform::StatusLine {
- public:
-  void ShowStatus(const QString& text) override { text_ = text; }
-  void tell(platform::StatusLine& status) const {
-    if (!text_.isEmpty()) status.ShowStatus(text_);
-  }
-
- private:
-  QString text_;
-};
-
 /// Makes the working copies of the choice and opens them; a failure is reported.
-bool openCopies(Form1& form, const themefiles::ThemePaths& chosen, Note& note) {
+bool openCopies(Form1& form, const themefiles::ThemePaths& chosen) {
   return platform::Guarded(form, QStringLiteral("Error while saving temporary files"),
-                           [&] { themefiles::MakeWorkingCopies(form.Services.State, chosen, note); });
+                           [&] { themefiles::MakeWorkingCopies(form.Services.State, chosen, form); });
 }
 
 /// The tool window goes when control is back in the event loop: one of its own events may be on the way.
@@ -135,10 +125,13 @@ void OpenTheme(Form1& form) {
                                        platform::BoxKind::Error);
       return;
     }
-    Note note;
-    Form3 dialog(
-        gameFolder, themes, [&](const themefiles::ThemePaths& chosen) { return openCopies(form, chosen, note); },
-        &form);
+    std::optional<platform::Telling> telling;
+    const auto open = [&](const themefiles::ThemePaths& chosen) {
+      telling.reset();  // what an attempt that failed had to tell is over
+      telling.emplace(form);
+      return openCopies(form, chosen);
+    };
+    Form3 dialog(gameFolder, themes, open, &form);
     if (dialog.exec() != QDialog::Accepted) return;
     dropEarlierTheme(form);
     showToolWindow(form);
@@ -146,19 +139,23 @@ void OpenTheme(Form1& form) {
     form.EnableButton(CloseButton, true);
     form.EnableButton(BackgroundButton, true);
     form.Combo1->show();
-    // Behind what the drawing of the first screen had to report.
-    note.tell(form);
+    const QStringList opened{dialog.List1->Text(), dialog.List2->Text(), dialog.Combo1->Text()};
+    telling->success(opened.join(QStringLiteral(", ")));
   });
 }
 
 void SaveTheme(Form1& form) {
   platform::Guarded(form, QStringLiteral("Error while saving files"), [&] {
+    platform::Telling telling(form);
     themefiles::SaveWorkingCopies(form.Services.State, form);
     form.EnableButton(SaveButton, false);
+    telling.success(QStringLiteral("Saved"));
+    form.ToolWindow->Marking.start();
   });
 }
 
 void CloseTheme(Form1& form) {
+  platform::Telling telling(form);
   if (!mayDropChanges(form)) return;
   form.Queue.Forget();
   themefiles::ForgetTheme(form.Services.State);
@@ -169,6 +166,7 @@ void CloseTheme(Form1& form) {
   unloadToolWindow(form);
   form.ShowStartPicture(platform::ButtonFaceColor);
   for (const int button : {SaveButton, CloseButton, BackgroundButton}) form.EnableButton(button, false);
+  telling.success(QStringLiteral("Closed"));
 }
 
 void ChooseBackgroundColor(Form1& form) {

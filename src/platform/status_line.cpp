@@ -23,11 +23,41 @@ std::optional<QString> failureOf(const std::function<void()>& work) {
 
 }  // namespace
 
+void StatusLine::ShowStatus(const QString& text) {
+  report_ = text;
+  showAll();
+}
+
+void StatusLine::note(const QString& text) {
+  notes_ += text;
+  showAll();
+}
+
+void StatusLine::showAll() {
+  ++told_;
+  const QStringList report = report_.isEmpty() ? QStringList() : QStringList(report_);
+  showReport((report + notes_).join(QStringLiteral("; ")));
+  if (tellings_ > 0) return;
+  report_.clear();
+  notes_.clear();
+}
+
+Telling::~Telling() {
+  if (--status_.tellings_ > 0) return;
+  status_.report_.clear();
+  status_.notes_.clear();
+}
+
+void Telling::success(const QString& text) {
+  if (status_.told_ == before_) status_.ShowStatus(text);
+}
+
 QString ReportText(const QString& step, const QString& description) {
   return step + QStringLiteral(" [") + description + QStringLiteral("]");
 }
 
 bool Guarded(StatusLine& status, const QString& step, const std::function<void()>& work) {
+  const Telling telling(status);
   const auto description = failureOf(work);
   if (description) status.ShowStatus(ReportText(step, *description));
   return !description;

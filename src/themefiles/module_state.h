@@ -52,6 +52,8 @@ struct ModuleState {
   std::array<QByteArray, 3> FileDigests;
   /// The working copies of the three as this program wrote them last: by them it sees that another one has, too.
   std::array<QByteArray, 3> OwnCopies;
+  /// The same as Open or Save last copied them: by them the user sees what differs, and gets it back.
+  std::array<QByteArray, 3> savedCopies;
 
   quint32 BackgroundColor = 0xFFFFFF;  ///< red in the low byte
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QCryptographicHash>
+#include <QScopeGuard>
 #include <QStringList>
 
 #include "platform/failure.h"
@@ -24,16 +25,13 @@ QByteArray digest(const QByteArray& bytes) {
   return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
-/// Tells all that `work` notes, at once: the status line holds one report. A failure carries it along.
+/// Tells all that `work` notes, also when it fails.
 void telling(platform::StatusLine& status, const std::function<void(QStringList& notes)>& work) {
   QStringList notes;
-  try {
-    work(notes);
-  } catch (const platform::Failure& failure) {
-    notes.prepend(failure.description());
-    throw platform::Failure(notes.join(QStringLiteral("; ")));
-  }
-  if (!notes.isEmpty()) status.ShowStatus(notes.join(QStringLiteral("; ")));
+  const auto tell = qScopeGuard([&] {
+    if (!notes.isEmpty()) status.note(notes.join(QStringLiteral("; ")));
+  });
+  work(notes);
 }
 
 void noteOtherChanges(QStringList& notes, const QString& path, const QString& kept) {
@@ -83,6 +81,21 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
                  .arg(copy, KeepBeside(copy, own, u".old"));
   }
   return {*standing};
+}
+
+/// Puts what `change` makes of a working copy's text in its place, by one whole-file write, and looks for the key in the
+/// written file.
+void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status, const QString& section,
+              const QString& key, const std::function<QByteArray(const QByteArray& text)>& change) {
+  const size_t file = copyNumber(copy);
+  const QString& path = state.Paths.*copy;
+  telling(status, [&](QStringList& notes) {
+    const Start start = startFrom(state, file, notes);
+    const QByteArray changed = change(start.text);
+    if (!start.isThere || changed != start.text) writeCopy(path, changed);
+    state.OwnCopies.at(file) = changed;
+    CheckReadsBack(changed, section, key, path);
+  });
 }
 
 /// Copies a text over the game's file.
@@ -137,20 +150,20 @@ void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::S
   state.Paths = opened;
   std::transform(copies.begin(), copies.end(), state.FileDigests.begin(), digest);
   state.OwnCopies = copies;
+  state.savedCopies = copies;
   state.ThemeOpened = true;
 }
 
-QString PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
-                  const std::optional<QString>& Value) {
-  const auto file = static_cast<size_t>(std::find(CopiedFiles.begin(), CopiedFiles.end(), copy) - CopiedFiles.begin());
-  const QString& path = state.Paths.*copy;
-  QStringList notes;
-  const Start start = startFrom(state, file, notes);
-  const QByteArray changed = ChangedText(start.text, Section, Key, Value);
-  if (!start.isThere || changed != start.text) writeCopy(path, changed);
-  state.OwnCopies.at(file) = changed;
-  CheckReadsBack(changed, Section, Key, path);
-  return notes.join(QStringLiteral("; "));
+void PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
+               const std::optional<QString>& Value, platform::StatusLine& status) {
+  editCopy(state, copy, status, Section, Key,
+           [&](const QByteArray& text) { return ChangedText(text, Section, Key, Value); });
+}
+
+void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
+                   const QByteArray& line, platform::StatusLine& status) {
+  editCopy(state, copy, status, section, key,
+           [&](const QByteArray& text) { return changedLine(text, section, key, line); });
 }
 
 void SaveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
@@ -162,6 +175,7 @@ void SaveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
       saveCopy(copy.chopped(WorkingEnding.size()), start.text, state.FileDigests.at(i), notes);
       state.OwnCopies.at(i) = start.text;
       state.FileDigests.at(i) = digest(start.text);
+      state.savedCopies.at(i) = start.text;
     }
   });
   state.Changed = false;
@@ -173,6 +187,7 @@ void ForgetTheme(ModuleState& state) {
   state.ThemeOpened = false;
   state.FileDigests = {};
   state.OwnCopies = {};
+  state.savedCopies = {};
   state.ThemeColors = {};
   state.ScreenTable = {};
 }

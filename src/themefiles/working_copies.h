@@ -19,12 +19,19 @@ inline constexpr QStringView WorkingEnding = u".tmp";
 /// then, the state stays as it was, and so do the working copies of a theme that is open.
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status);
 
-/// PutINIChecked on a working copy of the open theme. One that is gone or empty is made anew with the edit in it. Of
-/// one that another program has written since this one did (a second editor of the theme), this program's own text is
-/// kept beside as ".old" (see kept_files.h); the edit goes into what stands there. Gives what the user has to know of
-/// that, mostly nothing.
-QString PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
-                  const std::optional<QString>& Value);
+/// ChangedText on a working copy of the open theme. One that is gone or empty is made anew with the edit in it. Of one
+/// that another program has written since this one did (a second editor of the theme), this program's own text is kept
+/// beside as ".old" (see kept_files.h); the edit goes into what stands there. `status` is told of that. Throws
+/// platform::Failure when the edit can't be written, or isn't there when the file is read again.
+void PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
+               const std::optional<QString>& Value, platform::StatusLine& status);
+
+/// The same with changedLine.
+void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
+                   const QByteArray& line, platform::StatusLine& status);
+
+/// Where the arrays of the state have a file: 0 the theme's, 1 the skin's, 2 the language's.
+size_t copyNumber(QString ThemePaths::*copy);
 
 /// Copies the three working copies over their files, in the order theme, skin, language, and clears Changed. A file
 /// that has changed on disk since it was opened or saved last is kept beside as ".bak", a working copy that another

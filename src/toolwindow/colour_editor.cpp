@@ -6,6 +6,7 @@
 #include "platform/system_colors.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/working_copies.h"
 #include "toolwindow/edit_reports.h"
 #include "toolwindow/tool_window.h"
 
@@ -75,8 +76,7 @@ void setRowsLike(themefiles::ModuleState& state, const QString& name, const QStr
   }
 }
 
-std::optional<QString> writeColor(Form2& form, QStringView step, const QString& name,
-                                  const std::optional<QString>& value) {
+bool writeColor(Form2& form, QStringView step, const QString& name, const std::optional<QString>& value) {
   return WriteAtOnce(form, step, &themefiles::ThemePaths::ThemeFile, section(), name, value);
 }
 
@@ -128,11 +128,22 @@ void Command2_Click(Form2& form) {
     form.Command2->SetBackColor(*color);
     return;
   }
-  const auto note = writeColor(form, WriteStep, name, text);
-  if (!note) return;
+  if (!writeColor(form, WriteStep, name, text)) return;
   form.Command2->SetBackColor(*color);
   setRowsLike(state, name, text);
-  TellKeptInWorkingCopy(form, *note);
+}
+
+void putSavedColorBack(Form2& form, const QString& name, const SavedValue& saved) {
+  ToolServices& services = form.Services;
+  const bool written = writeAtOnce(form, WriteStep, [&] {
+    for (const SavedLine& line : saved.lines) {
+      themefiles::putLineInCopy(services.State, line.copy, line.section, line.key, line.line, services.Status);
+    }
+  });
+  if (!written) return;
+  const QString value = themefiles::GetINI(section(), name, newColor(), services.State.Paths.ThemeFile);
+  setRowsLike(services.State, name, value);
+  form.Command2->SetBackColor(shownColor(value));
 }
 
 void Command3_Click(Form2& form) {
@@ -154,16 +165,14 @@ void Command3_Click(Form2& form) {
     form.Services.Status.ShowStatus(platform::ReportText(step.toString(), QString()));
     return;
   }
-  const auto note = writeColor(form, step, name, newColor());
-  if (!note) return;
+  const platform::Telling telling(form.Services.Status);
+  if (!writeColor(form, step, name, newColor())) return;
   if (row->Name.isEmpty()) row->Name = name;
   setRowsLike(state, name, newColor());
   form.Combo3->AddItem(row->Name);
   form.Combo3->SetListIndex(form.Combo3->EntryLike(name));
-  QStringList notes{*note};
-  if (!replaced.isEmpty()) notes += QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced);
-  notes.removeAll(QString());
-  TellKeptInWorkingCopy(form, notes.join(QStringLiteral("; ")));
+  if (replaced.isEmpty()) return;
+  form.Services.Status.note(QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced));
 }
 
 void Command5_Click(Form2& form) {
@@ -175,8 +184,7 @@ void Command5_Click(Form2& form) {
   if (answer != platform::BoxAnswer::Yes) return;
   themefiles::ModuleState& state = form.Services.State;
   if (rowNamed(state.ThemeColors, name) == state.ThemeColors.end()) return;
-  const auto note = writeColor(form, WriteStep, name, std::nullopt);
-  if (!note) return;
+  if (!writeColor(form, WriteStep, name, std::nullopt)) return;
   // The row whose line has gone from the file, and its entry: not the selected one where two names differ in case only.
   const auto row = rowLike(state, name);
   const int entry = form.Combo3->findText(row->Name);
@@ -185,7 +193,6 @@ void Command5_Click(Form2& form) {
   form.Combo3->RemoveItem(entry >= 0 ? entry : form.Combo3->ListIndex());
   form.Combo3->SetListIndex(-1);
   form.Command2->SetBackColor(platform::ColorOf(platform::ButtonFaceColor));
-  TellKeptInWorkingCopy(form, *note);
 }
 
 }  // namespace toolwindow

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "controls/cause.h"
+#include "toolwindow/saved_state.h"
 
 namespace toolwindow {
 
@@ -23,6 +24,9 @@ void Combo3_Click(Form2& form);
 
 /// Changes the selected colour by the colour dialog. Failures end it silently, but for a write that did not succeed.
 void Command2_Click(Form2& form);
+
+/// Puts a colour of the theme back as it was saved; goes as a change by Command2.
+void putSavedColorBack(Form2& form, const QString& name, const SavedValue& saved);
 
 /// Adds a colour to the theme.
 void Command3_Click(Form2& form);

@@ -19,17 +19,21 @@ bool usableName(const QString& name) {
 
 }  // namespace
 
-std::optional<QString> WriteAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy,
-                                   const QString& section, const QString& key, const std::optional<QString>& value) {
-  std::optional<QString> note;
-  platform::Guarded(form.Services.Status, step.toString(),
-                    [&] { note = themefiles::PutInCopy(form.Services.State, copy, section, key, value); });
-  return note;
+bool WriteAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,
+                 const QString& key, const std::optional<QString>& value) {
+  ToolServices& services = form.Services;
+  return writeAtOnce(form, step,
+                     [&] { themefiles::PutInCopy(services.State, copy, section, key, value, services.Status); });
 }
 
-void TellKeptInWorkingCopy(Form2& form, const QString& note) {
-  const QString kept = QStringLiteral("Kept in the working copy; the next Update makes Save available");
-  form.Services.Status.ShowStatus(note.isEmpty() ? kept : note + QStringLiteral(". ") + kept);
+bool writeAtOnce(Form2& form, QStringView step, const std::function<void()>& write) {
+  platform::StatusLine& status = form.Services.Status;
+  form.Marking.start();
+  return platform::Guarded(status, step.toString(), [&] {
+    write();
+    const QString kept = QStringLiteral("Kept in the working copy; the next Update makes Save available");
+    status.ShowStatus(kept);
+  });
 }
 
 void ShowErrorBox(Form2& form, const QString& text) {

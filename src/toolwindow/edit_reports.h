@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QString>
@@ -13,13 +14,13 @@ class Form2;
 /// Report of a write that did not reach the file.
 inline constexpr QStringView WriteStep = u"Error while writing tempfile";
 
-/// Writes a key of a working copy at once (without a value: removes it). Gives what the user has to know of that
-/// besides, mostly an empty text; nothing when the write did not reach the file, which is reported as a failed `step`.
-std::optional<QString> WriteAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy,
-                                   const QString& section, const QString& key, const std::optional<QString>& value);
+/// Writes a key of a working copy at once (without a value: removes it), and tells the user where that is kept. Gives
+/// whether the write reached the file; if not, it is reported as a failed `step`.
+bool WriteAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,
+                 const QString& key, const std::optional<QString>& value);
 
-/// What the user is told after a colour or key was written at once, behind a `note` of what came of it besides.
-void TellKeptInWorkingCopy(Form2& form, const QString& note);
+/// The same by a `write` of its own.
+bool writeAtOnce(Form2& form, QStringView step, const std::function<void()>& write);
 
 /// An error box over the tool window.
 void ShowErrorBox(Form2& form, const QString& text);

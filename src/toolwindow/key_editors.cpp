@@ -49,8 +49,7 @@ void fill(Form2& form, KeyEditor which, const QString& value) {
   editor.list.SelectText(value);
 }
 
-std::optional<QString> writeKey(Form2& form, const Editor& editor, const QString& key,
-                                const std::optional<QString>& value) {
+bool writeKey(Form2& form, const Editor& editor, const QString& key, const std::optional<QString>& value) {
   return WriteAtOnce(form, WriteStep, editor.copy, editor.section, key, value);
 }
 
@@ -91,11 +90,9 @@ void AddKey_Click(Form2& form, KeyEditor which) {
     ShowErrorBox(form, QStringLiteral("Key already exist!"));
     return;
   }
-  const auto note = writeKey(form, editor, name, QString());
-  if (!note) return;
+  if (!writeKey(form, editor, name, QString())) return;
   editor.list.AddItem(name);
   editor.list.SetListIndex(editor.list.ListCount() - 1);
-  TellKeptInWorkingCopy(form, *note);
 }
 
 void RemoveKey_Click(Form2& form, KeyEditor which) {
@@ -106,12 +103,10 @@ void RemoveKey_Click(Form2& form, KeyEditor which) {
       form.Services.Dialogs.MessageBox(&form, QStringLiteral("Really delete this Key?") + QStringLiteral("\n\n") + key,
                                        QStringLiteral("Delete Key"), platform::BoxKind::YesNoDefaultNo);
   if (answer != platform::BoxAnswer::Yes) return;
-  const auto note = writeKey(form, editor, key, std::nullopt);
-  if (!note) return;
+  if (!writeKey(form, editor, key, std::nullopt)) return;
   editor.list.RemoveItem(editor.list.ListIndex());
   editor.list.SetListIndex(-1);
   editor.box.SetText(QString());
-  TellKeptInWorkingCopy(form, *note);
 }
 
 void Command4_Click(Form2& form) {

@@ -1,6 +1,7 @@
 #include "toolwindow/object_selection.h"
 
 #include <map>
+#include <set>
 
 #include <QScopeGuard>
 #include <QSignalBlocker>
@@ -23,6 +24,7 @@ void showTag(Form2& form, MarkPen pen) {
   }
   if (services.State.EditorShown) form.CloseEditorFrame();
   PlaceMark(form, pen);
+  form.Marking.start();
 }
 
 }  // namespace
@@ -58,8 +60,13 @@ void ShowReasons(Form2& form, const renderer::RenderAccount& account) {
   for (const renderer::LeftOut& entry : account.Missing) {
     reasons[platform::UpperCase(entry.Section)] += renderer::ReasonText(entry);
   }
+  std::set<QString> drawn;
+  for (const renderer::Drawn& object : account.Objects) drawn.insert(platform::UpperCase(object.Section));
+  form.Combo3->update();  // the squares may be those of another scheme
   for (int row = 0; row < form.List1->ListCount(); ++row) {
-    const auto found = reasons.find(platform::UpperCase(form.List1->List(row)));
+    const QString name = platform::UpperCase(form.List1->List(row));
+    const auto found = reasons.find(name);
+    form.List1->setGrey(row, found != reasons.end() && !drawn.contains(name));
     form.List1->SetToolTip(row, found == reasons.end() ? QString() : found->second.join(u'\n'));
   }
 }

@@ -17,7 +17,7 @@ void List1_Click(Form2& form, controls::Cause cause);
 /// Chooses the object of the row as the user's click in the list would.
 void PickTag(Form2& form, int row);
 
-/// Tells on each row why its object isn't drawn, as a tool tip.
+/// Tells on each row why its object isn't drawn, as a tool tip, and shows the rows of those that weren't in grey.
 void ShowReasons(Form2& form, const renderer::RenderAccount& account);
 
 }  // namespace toolwindow

@@ -1,11 +1,15 @@
 #include "toolwindow/tool_events.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QPointer>
+#include <QShortcut>
 
 #include "toolwindow/colour_editor.h"
 #include "toolwindow/key_editors.h"
 #include "toolwindow/number_editor.h"
 #include "toolwindow/object_selection.h"
+#include "toolwindow/saved_marks.h"
 #include "toolwindow/tool_window.h"
 #include "toolwindow/value_commit.h"
 #include "toolwindow/value_grid.h"
@@ -35,6 +39,31 @@ void connectSelection(Form2& form) {
   QObject::connect(form.List1, &controls::ListBox::Click, &form, [&form](Cause cause) { List1_Click(form, cause); });
   QObject::connect(form.ListView1, &controls::ListView::ItemClick, &form,
                    [&form](int row) { ListView1_ItemClick(form, row); });
+}
+
+void connectMarks(Form2& form) {
+  QObject::connect(&form.Marking, &QTimer::timeout, &form, [&form] {
+    if (!form.Services.Queue.Busy()) {
+      markSaved(form);
+      return;
+    }
+    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form)] {
+      if (open) open->Marking.start();
+    });
+  });
+  // The menu key comes as this event by itself.
+  auto* keys = new QShortcut(QKeySequence(Qt::ShiftModifier | Qt::Key_F10), &form);
+  QObject::connect(keys, &QShortcut::activated, &form, [&form] {
+    QWidget* focus = form.focusWidget();
+    if (focus == nullptr) return;
+    const QPoint place = focus->rect().center();
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, place, focus->mapToGlobal(place));
+    QCoreApplication::sendEvent(focus, &asked);
+  });
+  QObject::connect(form.ListView1, &controls::ListView::MenuAsked, &form,
+                   [&form](int row, const QPoint& place) { showRowMenu(form, row, place); });
+  QObject::connect(form.Command2, &controls::SwatchButton::MenuAsked, &form,
+                   [&form](const QPoint& place) { showColorMenu(form, place); });
 }
 
 void connectCommit(Form2& form) {
@@ -75,6 +104,7 @@ void connectKeys(Form2& form) {
 
 void ConnectEvents(Form2& form) {
   connectSelection(form);
+  connectMarks(form);
   connectCommit(form);
   connectNumbers(form);
   connectColors(form);

@@ -6,6 +6,8 @@
 #include <QKeyEvent>
 
 #include "controls/assets.h"
+#include "platform/system_colors.h"
+#include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
 
 namespace toolwindow {
@@ -31,6 +33,12 @@ constexpr std::array<FrameRow, 6> Frames{{
 
 const FrameRow& rowOf(EditorFrame frame) {
   return Frames.at(static_cast<size_t>(frame));
+}
+
+/// A colour as the preview shows it.
+QColor previewColor(const ToolServices& services, const QString& name) {
+  const QString color = themefiles::ResolveColor(services.State, name, services.SchemeName());
+  return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
 }
 
 /// Client size of a window, in pixels, from its outer size in twips.
@@ -114,8 +122,6 @@ Form2::Form2(ToolServices services, QWidget* owner)
   setTabOrder(Text2, Command1);  // Update behind every editor
   setWindowTitle(QStringLiteral("Tool"));
   setAttribute(Qt::WA_MacAlwaysShowToolWindow);
-  ListView1->SetColumns({QStringLiteral("Item"), QStringLiteral("Value")},
-                        {controls::ToPixels(950), controls::ToPixels(1300)});
   for (QWidget* control : std::initializer_list<QWidget*>{Combo1, List1, ListView1, Text3}) control->setEnabled(false);
   Command2->setToolTip(QStringLiteral("Change Color"));
   HideEditorFrames();
@@ -126,8 +132,12 @@ Form2::Form2(ToolServices services, QWidget* owner)
     if (!row.Name.isEmpty()) Combo1->AddItem(row.Name);
   }
   for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
+  Combo3->setSwatches([this](const QString& name) { return previewColor(Services, name); });
+  Marking.setSingleShot(true);
   Services.State.EditorShown = false;
   fitWindow();
+  ListView1->SetColumns({QStringLiteral("Item"), QStringLiteral("Value")},
+                        {controls::ToPixels(950), controls::ToPixels(1300)});
 }
 
 QPushButton* Form2::iconButton(QWidget* frame, const QString& icon, const QString& toolTip) {

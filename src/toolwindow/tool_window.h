@@ -5,6 +5,7 @@
 
 #include <QGroupBox>
 #include <QPushButton>
+#include <QTimer>
 
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
@@ -98,6 +99,7 @@ class Form2 : public QWidget {
   controls::TextBox* Text2;    ///< the words
 
   ListedTags Tags;
+  QTimer Marking;  ///< started by what may change which rows are marked; they are when nothing else is to be done
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
   void ShowEditorFrame(EditorFrame frame);

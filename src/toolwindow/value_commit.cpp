@@ -1,6 +1,8 @@
 #include "toolwindow/value_commit.h"
 
 #include <cmath>
+#include <functional>
+#include <memory>
 
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -10,23 +12,23 @@
 #include "toolwindow/key_editors.h"
 #include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"
+#include "toolwindow/value_grid.h"
 
 namespace toolwindow {
 namespace {
 
 /// What a commit is about.
 struct Commit {
+  int row;
   QString section;
-  QString key;        ///< identity of the row's key
-  QStringList notes;  ///< what came of the writes besides
+  QString key;  ///< identity of the row's key
 };
 
-Commit commitOf(const Form2& form) {
-  const int row = form.ListView1->SelectedRow();
+Commit commitOf(const Form2& form, int row) {
   if (row < 0) throw platform::Failure(QStringLiteral("no row is selected"));
-  Commit commit{platform::TrimBlanks(form.List1->Text()), KeyIdentity(form.ListView1->RowText(row)), {}};
+  Commit commit{row, platform::TrimBlanks(form.List1->Text()), KeyIdentity(form.ListView1->RowText(row))};
   if (commit.section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
-  if (commit.section.contains(u']')) {
+  if (commit.section.contains(u']') || commit.section.startsWith(u'\t') || commit.section.endsWith(u'\t')) {
     throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(commit.section));
   }
   return commit;
@@ -48,24 +50,23 @@ QString selectedName(const QString& name) {
   return name;
 }
 
-void put(Form2& form, Commit& commit, QString themefiles::ThemePaths::*copy, const QString& section, const QString& key,
+void put(Form2& form, QString themefiles::ThemePaths::*copy, const QString& section, const QString& key,
          const QString& value) {
-  const QString note = themefiles::PutInCopy(form.Services.State, copy, section, key, value);
-  if (!note.isEmpty()) commit.notes += note;
+  themefiles::PutInCopy(form.Services.State, copy, section, key, value, form.Services.Status);
 }
 
-void commitValue(Form2& form, Commit& commit, const QString& value) {
-  put(form, commit, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, value);
+void commitValue(Form2& form, const Commit& commit, const QString& value) {
+  put(form, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, value);
   SetSelectedRowValue(form, value);
 }
 
 /// Writes a reference into the theme, and what it refers to into the file that owns that.
-void commitReference(Form2& form, Commit& commit, KeyEditor editor) {
+void commitReference(Form2& form, const Commit& commit, KeyEditor editor) {
   const Reference shown = ShownReference(form, editor);
   const QString name = selectedName(shown.name);
   themefiles::CheckLineText(shown.content);
-  put(form, commit, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, name);
-  put(form, commit, shown.copy, shown.section, name, shown.content);
+  put(form, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, name);
+  put(form, shown.copy, shown.section, name, shown.content);
   SetSelectedRowValue(form, name);
 }
 
@@ -82,7 +83,7 @@ void updateCursorRect(themefiles::CursorRecord& record, const QString& key, cons
 }
 
 /// Reads the editor of the group and writes its value.
-void writeEditor(Form2& form, Commit& commit, KeyGroup group) {
+void writeEditor(Form2& form, const Commit& commit, KeyGroup group) {
   switch (RowOf(group).frame) {
     case EditorFrame::Numbers:
       commitValue(form, commit, form.Text1->Text());
@@ -106,22 +107,46 @@ void writeEditor(Form2& form, Commit& commit, KeyGroup group) {
   }
 }
 
-}  // namespace
-
-void Command1_Click(Form2& form) {
+/// A commit into a row of the grid: writes by `write`, and does all that follows. A failure is reported and leaves out
+/// the steps behind it.
+void commitRow(Form2& form, int row, const std::function<void(const Commit& commit)>& write) {
   ToolServices& services = form.Services;
+  const auto telling = std::make_shared<platform::Telling>(services.Status);
   platform::Guarded(services.Status, WriteStep.toString(), [&] {
-    Commit commit = commitOf(form);
-    const auto group = GroupOf(commit.key);
-    if (group) writeEditor(form, commit, *group);
+    const Commit commit = commitOf(form, row);
+    write(commit);
     services.State.Changed = true;
     services.EnableSave();
+    const QString key = platform::TrimBlanks(form.ListView1->RowText(row));
+    services.Status.ShowStatus(QStringLiteral("%1: %2 = %3").arg(commit.section, key, form.ListView1->SubItem(row)));
     services.Queue.Draw();
     // Another object that was picked during the drawing has its mark.
     if (platform::TrimBlanks(form.List1->Text()) == commit.section) PlaceMark(form, MarkPen::Kept);
     form.ListView1->setFocus();
-    // Behind what the drawing had to report.
-    if (!commit.notes.isEmpty()) services.Status.ShowStatus(commit.notes.join(QStringLiteral("; ")));
+  });
+  form.Marking.start();
+  // A drawing that waits for a running one reports beside the notes, too.
+  services.Queue.RunOutside([telling] {});
+}
+
+}  // namespace
+
+void Command1_Click(Form2& form) {
+  commitRow(form, form.ListView1->SelectedRow(), [&](const Commit& commit) {
+    const auto group = GroupOf(commit.key);
+    if (group) writeEditor(form, commit, *group);
+  });
+}
+
+void putSavedBack(Form2& form, int row, const SavedValue& saved) {
+  commitRow(form, row, [&](const Commit& commit) {
+    ToolServices& services = form.Services;
+    for (const SavedLine& line : saved.lines) {
+      themefiles::putLineInCopy(services.State, line.copy, line.section, line.key, line.line, services.Status);
+    }
+    form.ListView1->SetSubItem(row, saved.value);
+    updateCursorRect(services.State.CursorRect, commit.key, saved.value);
+    if (services.State.EditorShown && form.ListView1->SelectedRow() == row) ListView1_ItemClick(form, row);
   });
 }
 

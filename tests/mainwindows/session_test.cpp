@@ -67,6 +67,45 @@ class SessionTest : public ProgramTest {
     QCOMPARE(program->value(u"X"_s), u"40"_s);
   }
 
+  /// One report at a time: what has succeeded, or what failed first and what else is to be known behind it.
+  void reports() {
+    const auto anOldOne = [&] { program->form.ShowStatus(u"Error"_s); };
+    QCOMPARE(program->status(), u"Alpha, One, English"_s);
+    anOldOne();
+    program->edit();
+    QCOMPARE(program->status(), u"LoadingStaticA: X = 77"_s);
+    // Another program's change, and a place that can't be drawn.
+    const QString noted = u"; %1 was changed by another program"_s;
+    const QString copy = game->path() + u"Themes\\Alpha.ini.tmp"_s;
+    game->put(ThemeCopy, game->get(ThemeCopy) + "; other");
+    program->edit(u"Y"_s, u"99999"_s);
+    QVERIFY2(program->status().startsWith(u"Error while draw"), qPrintable(program->status()));
+    QVERIFY2(program->status().contains(noted.arg(copy)), qPrintable(program->status()));
+    // The same before a write that fails.
+    program->edit(u"Y"_s, u"50"_s);
+    QCOMPARE(program->status(), u"LoadingStaticA: Y = 50"_s);
+    game->put(ThemeCopy, game->get(ThemeCopy) + "; other");
+    program->tag(u"LoadingTextFree"_s);
+    program->row(u"Text"_s);
+    program->tools().Text2->SetText(u"Hi"_s);
+    game->protect(LanguageCopy);
+    program->tools().Command1->click();
+    QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
+    QVERIFY2(program->status().contains(noted.arg(copy)), qPrintable(program->status()));
+    program->click(2);
+    QVERIFY(program->status() == u"Saved" && !program->state.Changed);
+    anOldOne();
+    program->click(3);
+    QCOMPARE(program->status(), u"Closed"_s);
+    // More colours than there is room for, and an older working copy.
+    QByteArray colors("[Colors]\r\n");
+    for (int i = 0; i < 120; ++i) colors += 'c' + QByteArray::number(i) + "=1 2 3\r\n";
+    game->put(ThemeFile, game->get(ThemeFile).replace("[Colors]\r\n", colors));
+    program->open();
+    QVERIFY2(program->status().startsWith(u"Error while"), qPrintable(program->status()));
+    QVERIFY2(program->status().contains(copy + u" held other changes"_s), qPrintable(program->status()));
+  }
+
   void screenWithoutObjectsAndBackgroundColour() {
     program->tag(u"LoadingStaticA"_s);
     program->screen(u"Top5 Screen"_s);

@@ -13,8 +13,10 @@ namespace support {
 /// Keeps the reports.
 class Panel : public platform::StatusLine {
  public:
-  void ShowStatus(const QString& text) override { texts += text; }
   QStringList texts;
+
+ protected:
+  void showReport(const QString& text) override { texts += text; }
 };
 
 /// Answers in the order given; without one, as a user who only wants out: No, Cancel.

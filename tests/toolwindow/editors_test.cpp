@@ -273,6 +273,7 @@ class EditorsTest : public ProgramTest {
         enabled += button->isEnabled() ? '+' : '-';
       }
       QCOMPARE(enabled + ' ' + swatch().toLatin1(), shown);
+      QCOMPARE(tools.Command2->grab().toImage().pixelColor(10, 10), tools.Command2->BackColor());
     }
     program->form.Combo1->SetText(u"Brown"_s);
     program->soleRow(u"COLOR"_s, u"ColorLightest"_s);

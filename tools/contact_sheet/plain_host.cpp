@@ -6,7 +6,7 @@
 
 namespace contactsheet {
 
-void ErrorOutput::ShowStatus(const QString& text) {
+void ErrorOutput::showReport(const QString& text) {
   std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 

@@ -16,8 +16,8 @@ namespace contactsheet {
 
 /// Writes every report to the standard error output.
 class ErrorOutput : public platform::StatusLine {
- public:
-  void ShowStatus(const QString& text) override;
+ protected:
+  void showReport(const QString& text) override;
 };
 
 /// Tells of message boxes as of any other report; asks nothing.

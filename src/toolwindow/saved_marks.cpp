@@ -1,0 +1,87 @@
+#include "toolwindow/saved_marks.h"
+
+#include <QMenu>
+#include <QPointer>
+#include <QSet>
+
+#include "platform/failure.h"
+#include "toolwindow/colour_editor.h"
+#include "toolwindow/saved_state.h"
+#include "toolwindow/tool_window.h"
+#include "toolwindow/value_commit.h"
+
+namespace toolwindow {
+namespace {
+
+/// Shows a menu of one entry, which runs like the other commands that change colours and keys: when no work is running,
+/// and only if `stillMeant` then.
+void popUp(Form2& form, const QPoint& place, const std::function<bool(Form2&)>& stillMeant,
+           const std::function<void(Form2&)>& putBack) {
+  auto* menu = new QMenu(&form);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  QAction* action = menu->addAction(QStringLiteral("Put the saved value back"));
+  const auto chosen = [&form, stillMeant, putBack] {
+    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form), stillMeant, putBack] {
+      if (!open || !open->isVisible() || !stillMeant(*open)) return;
+      platform::GuardedSilently([&] { putBack(*open); });
+    });
+  };
+  // Queued: the menu is gone by then.
+  QObject::connect(action, &QAction::triggered, &form, chosen, Qt::QueuedConnection);
+  menu->popup(place);
+  menu->setActiveAction(action);
+}
+
+/// The theme's colour that Command2 shows, as it was saved; none when it isn't the theme's or doesn't differ.
+std::optional<SavedValue> savedColor(const Form2& form) {
+  const int themeGroup = 0;
+  const QString name = form.Combo3->Text();
+  if (form.Combo4->ListIndex() != themeGroup || name.isEmpty()) return std::nullopt;
+  return SavedState(form.Services.State).of(QStringLiteral("Colors"), name, std::nullopt);
+}
+
+}  // namespace
+
+void markSaved(Form2& form) {
+  const SavedState saved(form.Services.State);
+  for (int row = 0; row < form.List1->ListCount(); ++row) {
+    form.List1->setBold(row, saved.differsIn(form.List1->List(row)));
+  }
+  QSet<QString> seen;  // of doubled keys the first counts
+  for (int row = 0; row < form.ListView1->RowCount(); ++row) {
+    const QString key = KeyIdentity(form.ListView1->RowText(row));
+    std::optional<SavedValue> value;
+    if (!seen.contains(key)) value = saved.of(form.List1->Text(), key, GroupOf(key));
+    seen += key;
+    form.ListView1->setSaved(row, value ? QStringLiteral("saved: ") + value->told : QString());
+  }
+}
+
+void showRowMenu(Form2& form, int row, const QPoint& place) {
+  const QString section = form.List1->Text();
+  const QString key = KeyIdentity(form.ListView1->RowText(row));
+  for (int above = 0; above < row; ++above) {
+    if (KeyIdentity(form.ListView1->RowText(above)) == key) return;
+  }
+  const auto group = GroupOf(key);
+  if (!group) return;
+  const auto saved = SavedState(form.Services.State).of(section, key, group);
+  if (!saved || saved->lines.empty()) return;
+  popUp(
+      form, place,
+      [=](const Form2& open) {
+        return open.List1->Text() == section && KeyIdentity(open.ListView1->RowText(row)) == key;
+      },
+      [=](Form2& open) { putSavedBack(open, row, *saved); });
+}
+
+void showColorMenu(Form2& form, const QPoint& place) {
+  const auto saved = savedColor(form);
+  if (!saved || saved->lines.empty()) return;
+  const QString name = form.Combo3->Text();
+  popUp(
+      form, place, [=](const Form2& open) { return open.Combo3->Text() == name; },
+      [=](Form2& open) { putSavedColorBack(open, name, *saved); });
+}
+
+}  // namespace toolwindow

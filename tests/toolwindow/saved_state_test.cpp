@@ -1,0 +1,148 @@
+#include <QMenu>
+
+#include "support/windows.h"
+
+using namespace support;
+using toolwindow::Form2;
+
+/// What differs from the saved state, and how it comes back.
+class SavedStateTest : public ProgramTest {
+  Q_OBJECT
+
+ private:
+  /// The objects and the rows that are marked, these with what was saved: "LoadingStaticA|X saved: 40".
+  QString marked() const {
+    settle();
+    QStringList all;
+    const Form2& tools = program->tools();
+    for (int row = 0; row < tools.List1->count(); ++row) {
+      if (tools.List1->item(row)->font().bold()) all += tools.List1->List(row);
+    }
+    for (int row = 0; row < tools.ListView1->RowCount(); ++row) {
+      const QTreeWidgetItem& item = *tools.ListView1->topLevelItem(row);
+      if (item.font(1).bold()) all += item.text(0) + u' ' + item.data(0, Qt::UserRole).toString();
+    }
+    return all.join(u'|');
+  }
+  /// Asks a widget for its menu; gives whether there is one, and takes its only entry.
+  static bool putBackBy(QWidget& widget, bool keyboard, const QPoint& place = {4, 4}) {
+    QContextMenuEvent asked(keyboard ? QContextMenuEvent::Keyboard : QContextMenuEvent::Mouse, place,
+                            widget.mapToGlobal(place));
+    QApplication::sendEvent(&widget, &asked);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) return false;
+    QTest::keyClick(menu, Qt::Key_Return);
+    settle();
+    return true;
+  }
+  bool putRowBack(const QString& key) {
+    controls::ListView& grid = *program->tools().ListView1;
+    const auto found = grid.findItems(key, Qt::MatchExactly);
+    if (found.isEmpty()) qFatal("no row %s", qPrintable(key));
+    return putBackBy(*grid.viewport(), false, grid.visualItemRect(found.first()).center());
+  }
+  void writeWords(const QString& text) {
+    program->row(u"Text"_s);
+    program->tools().Text2->SetText(text);
+    program->tools().Command1->click();
+  }
+
+ private Q_SLOTS:
+  void marks() {
+    QCOMPARE(marked(), QString());
+    program->edit();
+    QCOMPARE(marked(), u"LoadingStaticA|X saved: 40"_s);
+    program->tag(u"LoadingTextFree"_s);
+    writeWords(u"Hi"_s);
+    QCOMPARE(marked(), u"LoadingStaticA|LoadingTextFree|Text saved: HELLO = Hello there"_s);
+    program->screen(u"Main Screen"_s);  // its text says the same words
+    QCOMPARE(marked(), u"MainTextFree"_s);
+    program->screen(u"Loading Screen"_s);
+    program->edit(u"X"_s, u"40"_s);
+    QCOMPARE(marked(), u"LoadingTextFree"_s);
+    program->click(2);
+    QCOMPARE(marked(), QString());
+  }
+
+  void putBack() {
+    program->click(3);
+    game->put(ThemeFile, game->get(ThemeFile).replace("X=40", "X= 40 "));
+    game->put(LanguageFile, game->get(LanguageFile).replace("GO=", "GO = ") + "LAST= end\t");
+    program->open();
+    const QByteArray words = game->get(LanguageFile);
+    program->edit();
+    QVERIFY(!putRowBack(u"Y"_s));
+    QVERIFY(!putRowBack(u"ColR"_s));
+    program->state.Changed = false;
+    QVERIFY(putRowBack(u"X"_s));
+    QVERIFY(game->get(ThemeCopy).contains("X= 40 \r\n") && program->state.Changed && program->enabled(2));
+    QCOMPARE(program->value(u"X"_s) + program->tools().Text1->Text(), u"4040"_s);
+    QCOMPARE(program->form.Workspace->Mark().x(), 40.0);
+    QCOMPARE(program->status(), u"LoadingStaticA: X = 40"_s);
+    QCOMPARE(marked(), QString());
+    // A reference with its words; the line of these is gone.
+    program->tag(u"LoadingTextLater"_s);
+    program->row(u"Text"_s);
+    program->dialogs.boxes = {platform::BoxAnswer::Yes};
+    program->tools().Command7->click();
+    program->tools().Combo5->SetText(u"HELLO"_s);
+    program->tools().Command1->click();
+    QCOMPARE(marked().section(u'|', -1), u"Text saved: GO = Go"_s);
+    program->tools().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&program->tools()));
+    QTest::keyClick(program->tools().ListView1, Qt::Key_F10, Qt::ShiftModifier);
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    QCOMPARE(marked(), QString());
+    QCOMPARE(game->get(ThemeCopy), game->get(ThemeFile));
+    QCOMPARE(game->get(LanguageCopy), QByteArray(words).replace("GO = Go\r\n", "") + "\r\nGO = Go\r\n");
+  }
+
+  void putColourBack() {
+    const Form2& tools = program->tools();
+    const auto before = game->files();
+    program->soleRow(u"COLOR"_s, u"Red"_s);
+    QVERIFY(!putBackBy(*tools.Command2, true));
+    program->dialogs.colors = {QColor(1, 2, 3)};
+    tools.Command2->click();
+    program->form.ShowStatus(QString());
+    QVERIFY(putBackBy(*tools.Command2, true));
+    QCOMPARE(game->files(), before);
+    QCOMPARE(tools.Command2->BackColor(), QColor(200, 40, 40));
+    QVERIFY(program->colors().contains(u"Red=200 40 40"_s) && !program->state.Changed);
+    QVERIFY(program->status().startsWith(u"Kept in the working copy"));
+  }
+
+  void squaresAndGreyRows() {
+    const Form2& tools = program->tools();
+    for (const auto& [scheme, name, color] : {std::tuple{u"Blue"_s, u"Red"_s, u"#c82828"_s},
+                                              {u"Blue"_s, u"ColorDark"_s, u"#47aff7"_s},
+                                              {u"Brown"_s, u"ColorDark"_s, u"#c07f1f"_s}}) {
+      program->form.Combo1->SetText(scheme);
+      program->soleRow(u"COLOR"_s, name);
+      const QIcon square = tools.Combo3->itemIcon(tools.Combo3->findText(name));
+      QCOMPARE(square.pixmap(11, 11).toImage().pixelColor(5, 5).name(), color);
+    }
+    const QListWidgetItem* row = tools.List1->findItems(u"LoadingStaticA"_s, Qt::MatchExactly).value(0);
+    for (const char* height : {"60", "0", "60"}) {
+      program->edit(u"H"_s, QLatin1StringView(height));
+      QCOMPARE(row->data(Qt::ForegroundRole).isValid(), *height == '0');
+    }
+  }
+
+  /// The last column takes what a wider window gives, and gives it back.
+  void columns() {
+    Form2& tools = program->tools();
+    const int told = tools.ListView1->columnWidth(1);
+    const int width = tools.ListView1->width();
+    for (const int more : {0, 150, -20, 0}) {
+      tools.resize(385 + more, tools.height());
+      settle();
+      QCOMPARE(tools.ListView1->columnWidth(1), told + std::max(0, tools.ListView1->width() - width));
+      QCOMPARE(tools.ListView1->columnWidth(0), 63);
+    }
+  }
+};
+
+QTEST_MAIN(SavedStateTest)
+#include "saved_state_test.moc"
