@@ -75,6 +75,7 @@ void Control::UserControl_Resize() {
   }
   if (layout_.Popup != popup) {
     chevron_.Resize(layout_.Popup);
+    windows_.ResizePopup(layout_.Popup);
     windows_.Present(SurfaceName::Chevron);
   }
   backgroundDrawn_ = false;

@@ -66,8 +66,8 @@ class Control : private ModelView {
   void PointByKey(int index);
   /// Clicks the button, or opens the popup and goes to its first button.
   void PressByKey();
-  /// The keyboard comes, unless something is pointed at, and goes again.
-  void EnterByKey();
+  /// The keyboard comes: to the first place, unless one is pointed at. Whether it went there.
+  bool EnterByKey();
   void LeaveByKey();
   /// Closes the popup and goes back to the chevron; whether it was open.
   bool EscapeByKey();

@@ -37,9 +37,11 @@ void Control::EndByKey(bool last) {
   if (!all.empty()) PointByKey(last ? all.back() : all.front());
 }
 
-void Control::EnterByKey() {
+bool Control::EnterByKey() {
   const std::vector<int> all = KeyPlaces();
-  if (std::find(all.begin(), all.end(), model_.Button_Index()) == all.end()) EndByKey(false);
+  if (all.empty() || std::find(all.begin(), all.end(), model_.Button_Index()) != all.end()) return false;
+  EndByKey(false);
+  return true;
 }
 
 void Control::LeaveByKey() {

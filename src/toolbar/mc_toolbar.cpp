@@ -146,7 +146,7 @@ void McToolBar::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (event->isAutoRepeat()) return;
-      control_.PressByKey();
+      if (!control_.EnterByKey()) control_.PressByKey();
       break;
     case Qt::Key_Escape:
       if (control_.EscapeByKey()) break;
@@ -156,6 +156,13 @@ void McToolBar::keyPressEvent(QKeyEvent* event) {
       return;
   }
   tellKeyPlace();
+}
+
+/// A focus that came with the window shows nowhere yet: Tab shows it before it goes on.
+bool McToolBar::focusNextPrevChild(bool next) {
+  if (!hasFocus() || !control_.EnterByKey()) return QWidget::focusNextPrevChild(next);
+  tellKeyPlace();
+  return true;
 }
 
 void McToolBar::focusInEvent(QFocusEvent* event) {

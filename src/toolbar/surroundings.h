@@ -35,6 +35,8 @@ class Windows {
   virtual QRect ControlOnScreen() const = 0;
   virtual void CreateChevronWindow() = 0;
   virtual void MovePopup(const QRect& onScreen) = 0;
+  /// Its top left stays.
+  virtual void ResizePopup(const QSize& size) = 0;
   virtual void SetPopupVisible(bool visible) = 0;
   virtual bool IsPopupVisible() const = 0;
   /// The pointing hand or the system's arrow.

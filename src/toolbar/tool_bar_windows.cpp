@@ -43,6 +43,10 @@ void ToolBarWindows::MovePopup(const QRect& onScreen) {
   if (popup_) popup_->setGeometry(onScreen);
 }
 
+void ToolBarWindows::ResizePopup(const QSize& size) {
+  if (popup_) popup_->resize(size);
+}
+
 void ToolBarWindows::SetPopupVisible(bool visible) {
   if (!popup_) return;
   popup_->setVisible(visible);

@@ -25,6 +25,7 @@ class ToolBarWindows : public Windows {
   QRect ControlOnScreen() const override;
   void CreateChevronWindow() override;
   void MovePopup(const QRect& onScreen) override;
+  void ResizePopup(const QSize& size) override;
   void SetPopupVisible(bool visible) override;
   bool IsPopupVisible() const override { return popup_ && popup_->isVisible(); }
   void SetHand(SurfaceName surface, bool hand) override;

@@ -38,6 +38,7 @@ struct Record : toolbar::Events, toolbar::Windows {
   QRect ControlOnScreen() const override { return {100, 200, width, 32}; }
   void CreateChevronWindow() override {}
   void MovePopup(const QRect& onScreen) override { popup = onScreen; }
+  void ResizePopup(const QSize& size) override { popup.setSize(size); }
   void SetPopupVisible(bool visible) override {
     if (visible != popupVisible) note(visible ? "open" : "close");
     popupVisible = visible;
@@ -186,6 +187,11 @@ class ControlTest : public QObject {
     QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 68, 39));
     strip.run(QStringLiteral("p5,5"));
     QCOMPARE(strip.record.lastButton, qint16(999));
+    // While the pointer is back on the strip, the open popup takes the size of its new layout.
+    strip.run(QStringLiteral("m40,5"));
+    strip.control.Buttons().Set(&Properties::ButtonsPerRow_Chev, 1);
+    QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 36, 71));
+    strip.run(QStringLiteral("p5,5"));
     // A layout moves the surface that is drawn on, and that one only.
     strip.control.UserControl_Resize();
     QCOMPARE(strip.record.popup, QRect(0, 0, 149, 32));
