@@ -21,9 +21,10 @@ void CutLabel::resizeEvent(QResizeEvent* event) {
 }
 
 void CutLabel::showText() {
-  const int room = contentsRect().width() - 2 * std::max(0, indent());
+  const int room = contentsRect().width() - 2 * std::max(indent(), 0);
   const QString shown = fontMetrics().elidedText(whole_, Qt::ElideRight, room);
   setText(shown);
+  setAccessibleName(whole_);
   setToolTip(shown == whole_ ? QString() : PlainToolTip(whole_));
 }
 

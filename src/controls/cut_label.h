@@ -4,7 +4,7 @@
 
 namespace controls {
 
-/// A label of one line of plain text. A text that it has no room for ends in "..." and shows whole as a tool tip.
+/// One line of plain text. What has no room is cut with "..." and shows whole as a tool tip.
 class CutLabel : public QLabel {
   Q_OBJECT
 
@@ -12,6 +12,7 @@ class CutLabel : public QLabel {
   explicit CutLabel(QWidget* parent);
 
   void setWhole(const QString& text);
+  /// The text as it was set.
   const QString& whole() const { return whole_; }
 
  protected:

@@ -1,6 +1,5 @@
 #include "controls/list_box.h"
 
-#include "controls/look.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
 
@@ -51,7 +50,7 @@ QString ListBox::Text() const {
 }
 
 void ListBox::SetToolTip(int index, const QString& text) {
-  if (QListWidgetItem* row = item(index)) row->setToolTip(PlainToolTip(text));
+  if (QListWidgetItem* row = item(index)) row->setToolTip(text);
 }
 
 void ListBox::setBold(int index, bool bold) {

@@ -28,7 +28,7 @@ class ListBox : public RowPicking<QListWidget> {
   void SetListIndex(int index);
   /// Text of the selected row, empty without one.
   QString Text() const;
-  /// Plain text tool tip of a row (never taken for rich text); empty removes it.
+  /// What the tip of a row tells, as plain text, behind the name if that is cut; empty removes it.
   void SetToolTip(int index, const QString& text);
   /// Shows the text of a row in bold letters, or in grey ones unless the row is selected.
   void setBold(int index, bool bold);

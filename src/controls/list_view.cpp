@@ -1,10 +1,6 @@
 #include "controls/list_view.h"
 
 #include <QHeaderView>
-#include <QHelpEvent>
-#include <QToolTip>
-
-#include "controls/look.h"
 
 namespace controls {
 
@@ -12,7 +8,6 @@ namespace {
 
 constexpr int NarrowestColumn = 10;
 enum Column { TextColumn, SubItemColumn };
-constexpr int SavedRole = Qt::UserRole;
 
 }  // namespace
 
@@ -61,28 +56,17 @@ void ListView::SetSubItem(int row, const QString& text) {
 
 void ListView::setSaved(int row, const QString& text) {
   QTreeWidgetItem* item = topLevelItem(row);
-  if (item == nullptr || item->data(TextColumn, SavedRole).toString() == text) return;
-  item->setData(TextColumn, SavedRole, text);
+  if (item == nullptr || item->toolTip(TextColumn) == text) return;
   QFont letters = font();
   letters.setBold(!text.isEmpty());
-  for (const int column : {TextColumn, SubItemColumn}) item->setFont(column, letters);
+  for (const int column : {TextColumn, SubItemColumn}) {
+    item->setToolTip(column, text);
+    item->setFont(column, letters);
+  }
 }
 
 void ListView::picked(int row) {
   Q_EMIT ItemClick(row);
-}
-
-bool ListView::viewportEvent(QEvent* event) {
-  if (event->type() != QEvent::ToolTip) return QTreeWidget::viewportEvent(event);
-  const auto* help = static_cast<QHelpEvent*>(event);
-  const QModelIndex cell = indexAt(help->pos());
-  const QRect shown = visualRect(cell).intersected(viewport()->rect());
-  QStringList lines;
-  if (cell.isValid() && sizeHintForIndex(cell).width() > shown.width()) lines += cell.data().toString();
-  const QString saved = cell.siblingAtColumn(TextColumn).data(SavedRole).toString();
-  if (!saved.isEmpty()) lines += saved;
-  QToolTip::showText(help->globalPos(), PlainToolTip(lines.join(u'\n')), viewport(), shown);
-  return true;
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {

@@ -38,7 +38,6 @@ class ListView : public RowPicking<QTreeWidget> {
 
  protected:
   void picked(int row) override;
-  bool viewportEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
 

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#include "controls/modal.h"
 #include "controls/thumbnail.h"
 #include "platform/paths.h"
 
@@ -29,7 +30,7 @@ platform::BoxAnswer NativeDialogs::MessageBox(QWidget* parent, const QString& te
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setDefaultButton(question ? QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
-  const int pressed = box.exec();
+  const int pressed = runModal(box);
   if (!question) return platform::BoxAnswer::Ok;
   return pressed == QMessageBox::Yes ? platform::BoxAnswer::Yes : platform::BoxAnswer::No;
 }
@@ -41,7 +42,7 @@ QString NativeDialogs::InputBox(QWidget* parent, const QString& prompt, const QS
   dialog.setLabelText(prompt);
   for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   dialog.resize(InputBoxWidth, dialog.sizeHint().height());
-  return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+  return runModal(dialog) == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
 QString NativeDialogs::OpenFile(QWidget* parent, const platform::FileRequest& request) {
@@ -53,14 +54,14 @@ QString NativeDialogs::OpenFile(QWidget* parent, const platform::FileRequest& re
   if (!request.folder.isEmpty()) dialog.setDirectory(platform::NativePath(request.folder));
   if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
   if (request.pictures) AddThumbnail(dialog);
-  if (dialog.exec() != QDialog::Accepted) return {};
+  if (runModal(dialog) != QDialog::Accepted) return {};
   const QStringList files = dialog.selectedFiles();
   return files.isEmpty() ? QString() : platform::ProgramPath(files.first());
 }
 
 std::optional<QColor> NativeDialogs::ChooseColor(QWidget* parent, const QColor& present) {
   QColorDialog dialog(present, parent);
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  if (runModal(dialog) != QDialog::Accepted) return std::nullopt;
   return dialog.selectedColor();
 }
 

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-#include <Qt>
+#include <QToolTip>
+
+#include "controls/look.h"
 
 namespace controls {
 
@@ -23,6 +25,16 @@ std::optional<int> RowForKey(int key, int selected, int rows, int page) {
     if (move.key == key) return std::clamp(move.target, 0, rows - 1);
   }
   return std::nullopt;
+}
+
+void showCellTip(const QAbstractItemView& view, const QHelpEvent& help) {
+  const QModelIndex cell = view.indexAt(help.pos());
+  const QRect shown = view.visualRect(cell).intersected(view.viewport()->rect());
+  QStringList lines;
+  if (view.sizeHintForIndex(cell).width() > shown.width()) lines += cell.data().toString();
+  lines += cell.data(Qt::ToolTipRole).toString();
+  lines.removeAll(QString());
+  QToolTip::showText(help.globalPos(), PlainToolTip(lines.join(u'\n')), view.viewport(), shown);
 }
 
 }  // namespace controls

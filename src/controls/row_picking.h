@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <optional>
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -14,8 +16,13 @@ namespace controls {
 /// that doesn't move the selection, and in an empty list.
 std::optional<int> RowForKey(int key, int selected, int rows, int page);
 
+/// Shows the tip of the cell under the mouse: its text when that is cut, then what its tool tip role holds. Both are
+/// plain text.
+void showCellTip(const QAbstractItemView& view, const QHelpEvent& help);
+
 /// A view of rows in which the user picks one: by a press of the left button, also on the row that is selected, or by a
-/// key that changes the row. Neither a drag nor a key leaves a list without its selected row.
+/// key that changes the row. A text that its cell cuts shows whole as a tool tip. Neither a drag nor a key leaves a
+/// list without its selected row.
 template <typename View>
 class RowPicking : public View {
  protected:
@@ -45,11 +52,19 @@ class RowPicking : public View {
 
   void mouseDoubleClickEvent(QMouseEvent* event) override {
     // The second press of a double click picks nothing; on another row it is a press like any other.
-    if (rowAt(*event) != selectedRow()) mousePressEvent(event);
+    const QModelIndex cell = this->indexAt(event->position().toPoint());
+    if (cell.row() != selectedRow()) return mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && cell.isValid()) Q_EMIT this->doubleClicked(cell);
   }
 
   void mouseMoveEvent(QMouseEvent* event) override {
     if (event->buttons() == Qt::NoButton) View::mouseMoveEvent(event);
+  }
+
+  bool viewportEvent(QEvent* event) override {
+    if (event->type() != QEvent::ToolTip) return View::viewportEvent(event);
+    showCellTip(*this, static_cast<const QHelpEvent&>(*event));
+    return true;
   }
 
   void keyPressEvent(QKeyEvent* event) override {

@@ -1,5 +1,6 @@
 #include "controls/style.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 #include <QPalette>
 #include <QStyleOption>
@@ -13,6 +14,8 @@ namespace {
 constexpr int ArrowWidth = 16;
 constexpr int TitleIndent = 8;
 constexpr int TitleMargin = 2;
+constexpr int InactiveSelection = 15;  // system colours
+constexpr int InactiveSelectionText = 18;
 
 /// What each part of a control takes of the system colours, by index; disabled controls, too.
 constexpr struct {
@@ -49,6 +52,19 @@ void DrawGroupBox(const QStyleOptionGroupBox& box, QPainter& painter, const QSty
                      QPalette::WindowText);
 }
 
+/// The border of a list. Drawn as a line, its lower side would go under the rows at a fractional scale.
+void drawListFrame(const QStyleOption& list, QPainter& painter) {
+  constexpr int Darker = 140;  // per cent
+  constexpr int Lighter = 108;
+  const QColor color = list.palette.color(QPalette::Window).darker(Darker).lighter(Lighter);
+  const QRect& box = list.rect;
+  for (const QRect& side :
+       {QRect(box.left(), box.top(), box.width(), 1), QRect(box.left(), box.bottom(), box.width(), 1),
+        QRect(box.left(), box.top(), 1, box.height()), QRect(box.right(), box.top(), 1, box.height())}) {
+    painter.fillRect(side, color);
+  }
+}
+
 }  // namespace
 
 Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
@@ -60,6 +76,9 @@ QPalette Style::standardPalette() const {
     palette.setColor(QPalette::Inactive, role, platform::SystemColor(color));
     palette.setColor(QPalette::Disabled, role, platform::SystemColor(disabled));
   }
+  // A selection without the keyboard is grey.
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, platform::SystemColor(InactiveSelection));
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, platform::SystemColor(InactiveSelectionText));
   return palette;
 }
 
@@ -81,6 +100,15 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
   if (control == CC_ComboBox && part == SC_ComboBoxArrow) return box.adjusted(box.width() - ArrowWidth, 0, -2, 0);
   if (control == CC_ComboBox && part == SC_ComboBoxEditField) return box.adjusted(3, 1, -ArrowWidth, -1);
   return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+  if (element == PE_Frame && qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+    drawListFrame(*option, *painter);
+  } else {
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+  }
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

@@ -2,20 +2,34 @@
 
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
+#include <QTreeView>
 
 #include "platform/pictures.h"
 
 namespace controls {
 namespace {
 
-constexpr int Side = 160;  // pixels
+constexpr int Side = 160;        // pixels
+constexpr int WideEnough = 860;  // of the dialog, with its four columns and the thumbnail
 
 QPixmap thumbnailOf(const QString& path) {
   const QImage picture = platform::LoadPicture(path);
   if (picture.isNull()) return {};
   const bool fits = picture.width() <= Side && picture.height() <= Side;
   return QPixmap::fromImage(fits ? picture : picture.scaled(Side, Side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+/// Gives the columns of the list what they hold, and the dialog the width for that.
+void widen(QFileDialog& dialog) {
+  const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (list != nullptr) {
+    for (int column = 1; column < list->header()->count(); ++column) {
+      list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
+    }
+  }
+  dialog.resize(WideEnough, dialog.height());
 }
 
 }  // namespace
@@ -29,6 +43,7 @@ void AddThumbnail(QFileDialog& dialog) {
   label->setAlignment(Qt::AlignCenter);
   label->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
   grid->addWidget(label, 1, grid->columnCount(), Qt::AlignTop);
+  widen(dialog);
   QObject::connect(&dialog, &QFileDialog::currentChanged, label,
                    [label](const QString& path) { label->setPixmap(thumbnailOf(path)); });
 }

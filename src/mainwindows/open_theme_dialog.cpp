@@ -57,6 +57,9 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
   Command1->setDefault(true);
   connect(List1, &controls::ListBox::Click, this, &Form3::List1_Click);
   connect(List2, &controls::ListBox::Click, this, &Form3::List2_Click);
+  for (controls::ListBox* list : {List1, List2}) {
+    connect(list, &QAbstractItemView::doubleClicked, Command1, &QPushButton::click);
+  }
   connect(Command1, &QPushButton::clicked, this, &Form3::Command1_Click);
   connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
   Form_Load();
@@ -73,7 +76,9 @@ controls::CutLabel* Form3::label(const QString& text, double left, double top, d
 
 void Form3::Form_Load() {
   for (const QString& name : themefiles::LanguagesOf(gameFolder_)) Combo1->AddItem(name);
-  if (!Combo1->SelectText(QStringLiteral("English")) && Combo1->ListCount() > 0) Combo1->SetListIndex(0);
+  const QString english = QStringLiteral("English");
+  if (Combo1->SelectText(english) || Combo1->ListCount() == 0) return;
+  Combo1->SetListIndex(std::max(0, Combo1->EntryLike(english)));
 }
 
 void Form3::Form_Activate() {

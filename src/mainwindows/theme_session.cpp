@@ -4,6 +4,7 @@
 
 #include <QApplication>
 
+#include "controls/modal.h"
 #include "controls/twips.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/open_theme_dialog.h"
@@ -132,7 +133,7 @@ void OpenTheme(Form1& form) {
       return openCopies(form, chosen);
     };
     Form3 dialog(gameFolder, themes, open, &form);
-    if (dialog.exec() != QDialog::Accepted) return;
+    if (controls::runModal(dialog) != QDialog::Accepted) return;
     dropEarlierTheme(form);
     showToolWindow(form);
     ReadTheme(form);

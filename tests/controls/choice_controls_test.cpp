@@ -3,7 +3,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
-#include <QWheelEvent>
 
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
@@ -11,8 +10,10 @@
 #include "controls/look.h"
 #include "controls/number_bar.h"
 #include "platform/failure.h"
+#include "support/wheel.h"
 
 using namespace controls;
+using support::turnWheel;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -61,13 +62,6 @@ void drag(QWidget* viewport, const QPoint& from, const QPoint& to) {
   QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(viewport, &move);
   QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
-}
-
-void turnWheel(QWidget& widget, int delta) {
-  const QPointF place = widget.rect().center();
-  QWheelEvent event(place, widget.mapToGlobal(place), {}, {0, delta}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                    false);
-  QApplication::sendEvent(&widget, &event);
 }
 
 }  // namespace
@@ -160,6 +154,28 @@ class ChoiceControlsTest : public QObject {
     QHelpEvent event(QEvent::ToolTip, value, window.view.viewport()->mapToGlobal(value));
     QApplication::sendEvent(window.view.viewport(), &event);
     QVERIFY(QToolTip::text().contains(u"&lt;b&gt;a long value&lt;/b&gt; 0"_s));
+    // One tip holds a cut name and what is told of the row.
+    const QString name(40, u'W');
+    window.list.item(1)->setText(name);
+    const std::pair<int, QString> tips[] = {{0, u"told"_s}, {1, name + u"\ntold"_s}, {2, QString()}};
+    for (const auto& [row, tip] : tips) {
+      if (row < 2) window.list.SetToolTip(row, u"told"_s);
+      const QPoint place(10, window.listPlace(row).y());
+      QHelpEvent help(QEvent::ToolTip, place, window.list.viewport()->mapToGlobal(place));
+      QApplication::sendEvent(window.list.viewport(), &help);
+      QTRY_COMPARE(QToolTip::text(), tip);
+    }
+  }
+
+  void selectionIsGreyWithoutTheKeyboard() {
+    Window window;
+    window.list.setCurrentRow(1);
+    const auto color = [&](QWidget& focused) {
+      focused.setFocus();
+      return window.list.grab().toImage().pixelColor(window.list.width() / 2, window.listPlace(1).y());
+    };
+    QCOMPARE(color(window.list), QColor(10, 36, 106));
+    QCOMPARE(color(window.view), QColor(212, 208, 200));
   }
 
   void popup() {

@@ -3,10 +3,13 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include "support/folder.h"
 
@@ -57,6 +60,22 @@ class NativeDialogsTest : public QObject {
       QTest::keyClick(&dialog, Qt::Key_Return);
     });
     QCOMPARE(NativeDialogs().OpenFile(nullptr, request), folder.path(u"Vocora.exe"_s));
+  }
+
+  void imageDialogShowsItsColumnsWhole() {
+    const support::Folder folder;
+    folder.put(u"picture_with_a_long_name.png"_s, QByteArray(123456, 'x'));
+    WhenShown<QFileDialog>([](QFileDialog& dialog) {
+      const auto& columns = *dialog.findChild<QTreeView*>(u"treeView"_s);
+      QTRY_COMPARE(columns.model()->rowCount(columns.rootIndex()), 1);
+      for (int column = 0; column < columns.header()->count(); ++column) {
+        QVERIFY(columns.columnWidth(column) >=
+                columns.sizeHintForIndex(columns.model()->index(0, column, columns.rootIndex())).width());
+      }
+      QCOMPARE(columns.horizontalScrollBar()->maximum(), 0);
+      dialog.reject();
+    });
+    QCOMPARE(NativeDialogs().OpenFile(nullptr, {{}, u"Pictures|*.png"_s, {}, folder.path({}), true}), QString());
   }
 
   void colorOpensOnThePresentOne() {

@@ -42,7 +42,7 @@ class OpenThemeTest : public QObject {
 
   void listsAndLabels() {
     const GameFolder game;
-    game.put(u"Themes/beta.1.INI"_s, "[Theme]\nName=<b>Beta</b>\n");
+    game.put(u"Themes/beta.1.INI"_s, "[Theme]\nName=<b>Beta</b>\nCreator=" + QByteArray(40, 'W') + '\n');
     game.put(u"Themes/readme.txt"_s, "");
     Program program(game);
     program.form.move(300, 200);
@@ -50,17 +50,20 @@ class OpenThemeTest : public QObject {
       const int middle = dialog.screen()->availableGeometry().center().x();
       QVERIFY(qAbs(dialog.geometry().center().x() - middle) < 4);  // a frame
       const auto chosen = [&] {
-        return QStringList{dialog.List1->Text(),  dialog.Label4->text(),  dialog.Label5->text(), dialog.List2->Text(),
-                           dialog.Label9->text(), dialog.Label10->text(), dialog.Combo1->Text()}
+        return QStringList{dialog.List1->Text(), dialog.Label4->whole(), dialog.Label5->whole(),
+                           dialog.List2->Text(), dialog.Label9->whole(), dialog.Label10->whole(),
+                           dialog.Combo1->Text()}
             .join(u'|');
       };
       QCOMPARE(chosen(), u"Alpha|The Alpha theme|Ann|One|First|Bob|English"_s);
       dialog.List2->SetListIndex(1);
       QCOMPARE(chosen(), u"Alpha|The Alpha theme|Ann|Two|Second|Cid|English"_s);
       dialog.List1->SetListIndex(1);
-      QCOMPARE(chosen(), u"beta.1|<b>Beta</b>|||||English"_s);
+      QCOMPARE(chosen(), u"beta.1|<b>Beta</b>|%1||||English"_s.arg(QString(40, u'W')));
+      QVERIFY(dialog.Label5->text().endsWith(u'\u2026') && dialog.Label5->toolTip() == dialog.Label5->whole());
       QVERIFY(!dialog.Command1->isEnabled() && dialog.List2->ListCount() == 0);
       QTest::keyClick(&dialog, Qt::Key_Return);
+      doubleClick(*dialog.List1);
       QVERIFY(dialog.isVisible());
       dialog.List1->SetListIndex(0);
       QVERIFY(dialog.Command1->isEnabled());
@@ -139,15 +142,28 @@ class OpenThemeTest : public QObject {
     }
   }
 
+  void doubleClickOpens() {
+    for (controls::ListBox* Form3::*list : {&Form3::List1, &Form3::List2}) {
+      const GameFolder game;
+      Program program(game);
+      program.openDialog([&](Form3& dialog) {
+        doubleClick(*(dialog.*list));
+        if (dialog.isVisible()) dialog.reject();
+      });
+      QVERIFY(program.state.ThemeOpened);
+    }
+  }
+
   void languages() {
-    for (const QStringList& names : {QStringList{u"Zulu"_s, u"Deutsch"_s, u"english"_s}, {}}) {
+    for (const QStringList& names :
+         {QStringList{u"Zulu"_s, u"Deutsch"_s, u"english"_s}, QStringList{u"Zulu"_s, u"Deutsch"_s}, {}}) {
       const GameFolder game;
       QFile::remove(game.native(LanguageFile));
       QFile::remove(game.native(u"Languages/Deutsch.ini"_s));
       for (const QString& name : names) game.put(u"Languages/%1.ini"_s.arg(name), "");
       Program program(game);
       program.openDialog([&](Form3& dialog) {
-        QCOMPARE(dialog.Combo1->Text(), names.isEmpty() ? QString() : u"Deutsch"_s);
+        QCOMPARE(dialog.Combo1->Text(), names.isEmpty() ? QString() : names.size() == 3 ? u"english"_s : u"Deutsch"_s);
         dialog.Command1->click();
         if (dialog.isVisible()) dialog.reject();
       });
@@ -162,6 +178,10 @@ class OpenThemeTest : public QObject {
   }
 
  private:
+  static void doubleClick(const controls::ListBox& list) {
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.currentItem()).center());
+  }
+
   /// `goesOn`: Yes to the question about changes; without changes, not Cancel in the dialog.
   static void secondOpen(bool dirty, bool goesOn) {
     const RowName rowName(QByteArray(dirty ? "changes, " : "clean, ") + (goesOn ? "goes on" : "doesn't"));

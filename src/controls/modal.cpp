@@ -1,0 +1,20 @@
+#include "controls/modal.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPointer>
+
+namespace controls {
+
+int runModal(QDialog& dialog) {
+  QPointer<QWidget> window = QApplication::activeWindow();
+  const QPointer<QWidget> control = QApplication::focusWidget();
+  // Right behind another dialog no window is active yet.
+  if (window == nullptr || !window->isVisible()) window = dialog.parentWidget();
+  const int result = dialog.exec();
+  if (window != nullptr && window->isVisible()) window->activateWindow();
+  if (control != nullptr && control->isVisible()) control->setFocus();
+  return result;
+}
+
+}  // namespace controls
