@@ -103,7 +103,9 @@ void ConnectEvents(Form1& form) {
   QObject::connect(form.Workspace, &Workspace::Pressed, &form, [&form](const QPoint& place) {
     if (form.ToolWindow == nullptr) return;
     const int row = form.Picking.RowAt(place, form.Account, form.ToolWindow->Tags);
-    if (row >= 0) toolwindow::PickTag(*form.ToolWindow, row);
+    if (row < 0) return;
+    form.ToolWindow->List1->setFocus();
+    toolwindow::PickTag(*form.ToolWindow, row);
   });
   QObject::connect(form.Workspace, &Workspace::MouseMove, &form, [&form](float X, float Y) {
     form.ShowMousePosition(platform::RoundToInt16(std::floor(X)).value_or(0),

@@ -1,12 +1,13 @@
 #include "mainwindows/main_window.h"
 
+#include <algorithm>
 #include <array>
 
 #include <QCloseEvent>
 #include <QIcon>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
+#include <QStyle>
 #include <QTime>
 
 #include "controls/assets.h"
@@ -25,6 +26,7 @@ namespace {
 
 constexpr QSize ClientSize(800, 650);
 constexpr int ToolBarHeight = 32;
+constexpr int StatusBarHeight = 18;
 constexpr QSize ProgressBarSize(801, 20);
 constexpr QStringView Version = u"0.3a";
 constexpr quint32 FormColor = 0xC0C0C0;
@@ -47,7 +49,7 @@ Form1::Form1(const MainServices& services)
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
       Services(services),
       Config(services.ConfigFolders),
-      Client(new QWidget),
+      Client(new QWidget(this)),
       Workspace(new mainwindows::Workspace(Client)),
       ToolBar(new toolbar::McToolBar(Client)),
       StatusBar(new mainwindows::StatusBar(Client)),
@@ -61,7 +63,6 @@ Form1::Form1(const MainServices& services)
   setWindowIcon(controls::AssetIcon(QStringLiteral("app")));
   ToolBar->UserControl_ReadProperties(toolbar::MainWindowToolBar());
   progressbar::ReadProperties(*ProgressBar1, progressbar::MainWindowBar());
-  ProgressBar1->resize(ProgressBarSize);
   placeControls();
   Form_Load();
 }
@@ -80,15 +81,23 @@ QLabel* Form1::startLabel(int pixels, double left, double top) {
 }
 
 void Form1::placeControls() {
-  Client->setFixedSize(ClientSize);
+  const QSize size = windowSize();
+  setFixedSize(size);
+  Client->resize(size);
   setBackground(*Client, FormColor);
-  ToolBar->setGeometry(0, 0, ClientSize.width(), ToolBarHeight);
-  Workspace->move(0, ToolBarHeight);
-  const int statusTop = ToolBarHeight + platform::Surface::Height;
-  StatusBar->setGeometry(0, statusTop, ClientSize.width(), ClientSize.height() - statusTop);
+  ToolBar->setGeometry(0, 0, size.width(), ToolBarHeight);
+  auto* preview = new QScrollArea(Client);
+  preview->setFrameShape(QFrame::NoFrame);
+  preview->setFocusPolicy(Qt::NoFocus);
+  preview->setWidget(Workspace);
+  preview->setGeometry(0, ToolBarHeight, size.width(), size.height() - ToolBarHeight - StatusBarHeight);
+  StatusBar->setGeometry(0, size.height() - StatusBarHeight, size.width(), StatusBarHeight);
   setBackground(*StatusBar, platform::ButtonFaceColor);
+  ProgressBar1->resize(std::min(ProgressBarSize.width(), size.width() + 1), ProgressBarSize.height());
   controls::Place(*Combo1, {10560, 90, 1335, 315});
   controls::Place(*Combo2, {8760, 90, 1695, 315});
+  const int beyond = std::max(0, Combo1->geometry().right() + 1 - size.width());
+  for (QWidget* list : {Combo1, Combo2}) list->move(list->x() - beyond, list->y());
   for (QWidget* hidden : std::initializer_list<QWidget*>{Combo1, Combo2, ProgressBar1}) {
     hidden->hide();
     hidden->raise();
@@ -105,24 +114,16 @@ void Form1::placeControls() {
     control->setAccessibleName(QLatin1StringView(spoken));
   }
   setTabOrder(Combo2, Combo1);  // from left to right
-  centreOnScreen();
+  controls::CentreOnScreen(*this);
 }
 
-/// A window of fixed size; on a screen that is too small for it, smaller, with scroll bars.
-void Form1::centreOnScreen() {
-  auto* area = new QScrollArea(this);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::NoFocus);
-  area->setWidget(Client);
-  const QRect screen = QWidget::screen()->availableGeometry();
-  const int caption = controls::ToPixels(controls::FrameHeight);
-  const int bar = area->verticalScrollBar()->sizeHint().width();
-  QSize size = ClientSize;
-  if (size.height() > screen.height() - caption) size = {size.width() + bar, screen.height() - caption};
-  if (size.width() > screen.width()) size.setWidth(screen.width());
-  setFixedSize(size);
-  area->setGeometry(QRect(QPoint(0, 0), size));
-  controls::CentreOnScreen(*this);
+/// That of the client area; on a screen that is too small for it, what the screen has, with room for scroll bars.
+QSize Form1::windowSize() const {
+  const QSize room = screen()->availableSize() - QSize(0, controls::ToPixels(controls::FrameHeight));
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  const bool low = ClientSize.height() > room.height();
+  const bool narrow = ClientSize.width() + (low ? bar : 0) > room.width();
+  return (ClientSize + QSize(low ? bar : 0, narrow ? bar : 0)).boundedTo(room);
 }
 
 void Form1::Form_Load() {

@@ -42,7 +42,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   ConfigFile Config;
   controls::WorkQueue Queue;
 
-  QWidget* Client;  ///< the client area, 800 x 650
+  QWidget* Client;  ///< the client area: 800 x 650, or what the screen has room for
   mainwindows::Workspace* Workspace;
   toolbar::McToolBar* ToolBar;
   mainwindows::StatusBar* StatusBar;
@@ -74,7 +74,7 @@ class Form1 : public QWidget, public platform::StatusLine {
  private:
   QLabel* startLabel(int pixels, double left, double top);
   void placeControls();
-  void centreOnScreen();
+  QSize windowSize() const;
   void Form_Load();
 
   PreviewHost host_;

@@ -13,4 +13,7 @@ void Text1_Change(Form2& form);
 /// Takes the bar's value into the text; one below 0 doesn't stay.
 void VScroll1_Change(Form2& form);
 
+/// Lets Up, Down, the Page keys and the wheel count as the bar's arrows do, while the text or the bar has the focus.
+void connectCounting(Form2& form);
+
 }  // namespace toolwindow

@@ -77,6 +77,7 @@ void connectNumbers(Form2& form) {
   form.Text1->SetKeyFilter(QStringLiteral("0123456789"));
   form.Text4->SetKeyFilter(QStringLiteral("0123456789."));
   QObject::connect(form.Text1, &TextBox::Change, &form, [&form] { Text1_Change(form); });
+  connectCounting(form);
   QObject::connect(form.VScroll1, &controls::NumberBar::Change, &form, [&form] { VScroll1_Change(form); });
 }
 

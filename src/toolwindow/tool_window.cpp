@@ -1,6 +1,8 @@
 #include "toolwindow/tool_window.h"
 
 #include <array>
+#include <cmath>
+#include <cstdlib>
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -169,7 +171,13 @@ void Form2::CloseEditorFrame() {
   fitWindow();
 }
 
+bool Form2::inEditorArea(const QWidget* control) const {
+  return control != nullptr && (control == Command1 || Frame1->isAncestorOf(control));
+}
+
 void Form2::HideEditorFrames() {
+  // Else the focus would go on to whatever comes next, and the keys with it.
+  if (inEditorArea(focusWidget())) ListView1->setFocus();
   for (const FrameRow& row : Frames) (this->*row.widget)->hide();
 }
 
@@ -184,15 +192,18 @@ void Form2::fitWindow() {
   applyLayout();
 }
 
-void Form2::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
-  Combo1->setFocus();
+/// At a fractional scale a size that was asked for can come back a pixel off.
+bool Form2::isFitted(const QSize& size) const {
+  const double scale = devicePixelRatioF();
+  const int slack = scale == std::floor(scale) ? 0 : 1;
+  const QSize off = size - clientSize(fitted_);
+  return std::abs(off.width()) <= slack && std::abs(off.height()) <= slack;
 }
 
 void Form2::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   // The window system tells of sizes that were asked for, too, and late: such a size has its layout already.
-  if (event->size() == clientSize(fitted_)) {
+  if (isFitted(event->size())) {
     layout_ = fitted_;
   } else {
     LayOut(layout_, event->size().width() * controls::TwipsPerPixel + controls::FrameWidth,
@@ -207,14 +218,11 @@ void Form2::closeEvent(QCloseEvent* event) {
 
 void Form2::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  const QWidget* focus = focusWidget();
-  const bool inEditor =
-      focus != nullptr && Frame1->isAncestorOf(focus) && qobject_cast<const QPushButton*>(focus) == nullptr;
-  if (enter && inEditor) {
-    Q_EMIT EnterPressed();
-    return;
-  }
-  QWidget::keyPressEvent(event);
+  QWidget* const focus = focusWidget();
+  if (!enter || !inEditorArea(focus)) return QWidget::keyPressEvent(event);
+  if (event->isAutoRepeat()) return;
+  auto* const button = qobject_cast<QPushButton*>(focus);
+  button != nullptr ? button->click() : Q_EMIT EnterPressed();
 }
 
 }  // namespace toolwindow

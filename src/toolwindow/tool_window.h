@@ -105,7 +105,7 @@ class Form2 : public QWidget {
   void ShowEditorFrame(EditorFrame frame);
   /// Closes the editor area: the window shrinks to the lists.
   void CloseEditorFrame();
-  /// Hides the six frames and changes nothing else.
+  /// Hides the six frames. A focus in the editor area goes to the grid; nothing else changes.
   void HideEditorFrames();
 
   const ToolLayout& Layout() const { return layout_; }
@@ -115,7 +115,6 @@ class Form2 : public QWidget {
   void EnterPressed();
 
  protected:
-  void showEvent(QShowEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -130,8 +129,10 @@ class Form2 : public QWidget {
 
   QPushButton* iconButton(QWidget* frame, const QString& icon, const QString& toolTip);
   QWidget* frameOf(EditorFrame frame) const;
+  bool inEditorArea(const QWidget* control) const;
   void applyLayout();
   void fitWindow();
+  bool isFitted(const QSize& size) const;
 
   ToolLayout layout_ = LoadedLayout();
   std::vector<PlacedControl> placed_;

@@ -1,5 +1,6 @@
 #include <QAccessible>
 
+#include "controls/native_dialogs.h"
 #include "support/real_input.h"
 #include "themefiles/ini_access.h"
 
@@ -49,6 +50,17 @@ QStringList nameless(const QWidget& window) {
   return found;
 }
 
+/// What stands beyond the edges of the main window.
+QStringList outside(const mainwindows::Form1& form) {
+  QStringList found;
+  for (const QWidget* control : std::initializer_list<const QWidget*>{form.ToolBar, form.Combo1, form.Combo2,
+                                                                      form.ProgressBar1, form.StatusBar}) {
+    const QRect place(control->mapTo(&form, QPoint()), control->size());
+    if (!form.rect().adjusted(0, 0, 1, 0).contains(place)) found += control->objectName();
+  }
+  return found;
+}
+
 }  // namespace
 
 class KeyboardSessionTest : public QObject {
@@ -79,7 +91,9 @@ class KeyboardSessionTest : public QObject {
       key(*dialog, Qt::Key_Return);
     });
     watch.start(10);
-    key(form, Qt::Key_O, Qt::ControlModifier);
+    QVERIFY(outside(form).isEmpty());
+    key(form, Qt::Key_Tab);
+    key(form, Qt::Key_Return);
     QVERIFY(form.ToolWindow != nullptr);
     toolwindow::Form2& tools = *form.ToolWindow;
     QCOMPARE(withoutName + nameless(tools) + nameless(form), QStringList());
@@ -119,6 +133,49 @@ class KeyboardSessionTest : public QObject {
     key(tools, Qt::Key_W, Qt::ControlModifier);
     settle();
     QVERIFY(form.ToolWindow == nullptr);
+    key(activeWindow(&form), Qt::Key_Tab);
+    QCOMPARE(form.ToolBar->Buttons().Button_Index(), 1);
+  }
+
+  void keyboardComesBack() {
+    controls::NativeDialogs native;
+    Program program(game, true, &native);
+    openOnScreen(program);
+    toolwindow::Form2& tools = program.tools();
+    const int height = tools.List1->height();
+    QTimer escape;
+    int dialogs = 0;
+    escape.callOnTimeout([&] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      if (dialog == nullptr || QApplication::activeWindow() != dialog) return;
+      ++dialogs;
+      key(*dialog, Qt::Key_Escape);
+    });
+    escape.start(10);
+    pickNamed(*tools.List1, "LoadingStaticA");
+    pickNamed(*tools.ListView1, "Color");
+    for (QWidget* button : {static_cast<QWidget*>(tools.Command3), static_cast<QWidget*>(tools.Command5),
+                            static_cast<QWidget*>(tools.Command2)}) {
+      tabTo(*button);
+      key(tools, Qt::Key_Return);
+      QVERIFY(&activeWindow(&tools) == button->window() && button->hasFocus());
+    }
+    key(tools, Qt::Key_O, Qt::ControlModifier);
+    activeWindow(&tools);
+    QCOMPARE(dialogs, 4);
+
+    pickNamed(*tools.ListView1, "X");
+    type(*tools.Text1, "12");
+    program.form.showMinimized();
+    QTRY_VERIFY(QApplication::activeWindow() == nullptr);
+    program.form.showNormal();
+    activeWindow(&program.form);
+    tools.activateWindow();
+    activeWindow(&tools);
+    QVERIFY(tools.Text1->hasFocus());
+    pickNamed(*tools.List1, "LoadingTextFree");
+    QTest::qWait(200);
+    QCOMPARE(tools.List1->height(), height);
   }
 };
 

@@ -44,7 +44,10 @@ class PreviewTest : public QObject {
                                                      {{115, 115}, "LoadingButtonA"},
                                                      {{600, 400}, "LoadingButtonA"}};
     for (const auto& [place, object] : clicks) {
+      pickNamed(*tools().ListView1, "X");
+      press(*tools().Text1);
       clickAt(*program->form.Workspace, place);
+      QVERIFY(tools().focusWidget() == (place.x() == 600 ? static_cast<QWidget*>(tools().Text1) : tools().List1));
       QCOMPARE(tools().List1->Text(), QLatin1StringView(object));
       QCOMPARE(program->value(u"W"_s), tools().List1->Text().endsWith(u"Under") ? u"20"_s : u"100"_s);
     }

@@ -1,4 +1,5 @@
 #include "support/row_name.h"
+#include "support/wheel.h"
 #include "support/windows.h"
 
 using namespace support;
@@ -138,6 +139,17 @@ class EditorsTest : public ProgramTest {
     QTest::keyClicks(tools.Text1, u"1a-2.3"_s);
     QCOMPARE(tools.Text1->Text(), u"123"_s);
     QCOMPARE(tools.VScroll1->Value(), 123);
+    tools.Text1->SetText(u"1"_s);
+    for (const auto& [key, number] :
+         {std::pair{Qt::Key_Down, "0"}, {Qt::Key_PageDown, "0"}, {Qt::Key_PageUp, "1"}, {Qt::Key_Up, "2"}}) {
+      QTest::keyClick(tools.Text1, key);
+      QCOMPARE(tools.Text1->Text(), QLatin1StringView(number));
+    }
+    for (QWidget* part : std::initializer_list<QWidget*>{tools.Text1, tools.VScroll1, tools.Command1}) {
+      part->setFocus();
+      for (QWidget* under : std::initializer_list<QWidget*>{tools.Text1, tools.VScroll1}) turnWheel(*under, 60);
+    }
+    QCOMPARE(tools.Text1->Text(), u"4"_s);
     program->soleRow(u"Z"_s, QString());
     QTest::keyClicks(tools.Text4, u"-1.2,.3e"_s);
     QCOMPARE(tools.Text4->Text(), u"1.2.3"_s);
@@ -148,8 +160,11 @@ class EditorsTest : public ProgramTest {
     const Form2& tools = program->tools();
     const QRect lists = tools.List1->geometry();
     for (const auto& [key, height] : {std::pair{"X", 232}, {"TEXT", 258}, {"ColR", 183}, {"Z", 232}, {"", 183}}) {
+      // What is hidden gives its focus to the grid.
+      tools.Command1->setFocus();
       *key == 0 ? program->tag(Static) : program->soleRow(QLatin1StringView(key), u"1"_s);
       settle();
+      if (height == 183) QCOMPARE(tools.focusWidget(), tools.ListView1);
       QCOMPARE(tools.height(), height);
       QVERIFY(tools.Command1->isVisible() == (height > 183) && program->state.EditorShown == (height > 183));
       QCOMPARE(tools.List1->geometry(), lists);
