@@ -170,12 +170,12 @@ class ChoiceControlsTest : public QObject {
   void selectionIsGreyWithoutTheKeyboard() {
     Window window;
     window.list.setCurrentRow(1);
-    const auto color = [&](QWidget& focused) {
+    const auto lightness = [&](QWidget& focused) {
       focused.setFocus();
-      return window.list.grab().toImage().pixelColor(window.list.width() / 2, window.listPlace(1).y());
+      return window.list.grab().toImage().pixelColor(window.list.width() / 2, window.listPlace(1).y()).lightness();
     };
-    QCOMPARE(color(window.list), QColor(10, 36, 106));
-    QCOMPARE(color(window.view), QColor(212, 208, 200));
+    QVERIFY(lightness(window.list) < 80);
+    QVERIFY(lightness(window.view) > 150 && lightness(window.view) < 230);
   }
 
   void popup() {
