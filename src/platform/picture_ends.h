@@ -11,8 +11,6 @@ namespace platform {
 bool IsWholeBmp(QByteArrayView bytes);
 /// To the end of the first frame.
 bool IsWholeGif(QByteArrayView bytes);
-/// To the end marker of the picture, not of one embedded in it.
-bool IsWholeJpeg(QByteArrayView bytes);
 bool IsWholePng(QByteArrayView bytes);
 
 }  // namespace platform

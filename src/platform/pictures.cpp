@@ -4,19 +4,23 @@
 
 #include <QBuffer>
 #include <QColorSpace>
+#include <QFile>
 #include <QImageReader>
 
 #include "platform/failure.h"
 #include "platform/files.h"
+#include "platform/jpeg_pictures.h"
 #include "platform/picture_ends.h"
 
 namespace platform {
 
 namespace {
 
-/// The largest picture that is decoded: 256 MB as 32-bit pixels.
+/// The largest picture that is decoded, and the largest file that is read for one: 256 MB, as 32-bit pixels and on
+/// disk.
 constexpr int LargestMegabytes = 256;
-constexpr qint64 LargestPixels = qint64(LargestMegabytes) * 1024 * 1024 / 4;
+constexpr qint64 LargestBytes = qint64(LargestMegabytes) * 1024 * 1024;
+constexpr qint64 LargestPixels = LargestBytes / 4;
 
 struct Kind {
   const char* mark;  ///< the bytes at the head of such a file
@@ -24,12 +28,14 @@ struct Kind {
   bool (*isWhole)(QByteArrayView bytes);
 };
 
+// JPEG has a decoder of its own, which tells itself what is missing.
 constexpr Kind Kinds[] = {
     {"BM", "bmp", IsWholeBmp},
     {"GIF8", "gif", IsWholeGif},
-    {"\xFF\xD8\xFF", "jpeg", IsWholeJpeg},
+    {"\xFF\xD8\xFF", "jpeg", nullptr},
     {"\x89PNG\r\n\x1A\n", "png", IsWholePng},
 };
+constexpr qint64 LongestMark = 8;
 
 const Kind* kindOf(QByteArrayView bytes) {
   for (const Kind& kind : Kinds) {
@@ -38,11 +44,18 @@ const Kind* kindOf(QByteArrayView bytes) {
   return nullptr;
 }
 
+/// Whether the file can be a picture by its size and head: nothing more is read of it for that.
+bool mayBePicture(QFile& file) {
+  return file.size() <= LargestBytes && kindOf(file.peek(LongestMark));
+}
+
 }  // namespace
 
 QImage DecodePicture(QByteArrayView bytes) {
   const Kind* const kind = kindOf(bytes);
-  if (!kind || !kind->isWhole(bytes)) return {};
+  if (!kind) return {};
+  if (!kind->isWhole) return decodeJpeg(bytes, LargestPixels);
+  if (!kind->isWhole(bytes)) return {};
   QByteArray data = QByteArray::fromRawData(bytes.data(), bytes.size());
   QBuffer buffer(&data);
   QImageReader::setAllocationLimit(LargestMegabytes);
@@ -60,6 +73,7 @@ QImage DecodePicture(QByteArrayView bytes) {
 QImage LoadPicture(const QString& path) {
   try {
     const auto file = OpenFile(path);
+    if (!mayBePicture(*file)) return {};
     const QByteArray bytes = file->readAll();
     return file->error() == QFileDevice::NoError ? DecodePicture(bytes) : QImage();
   } catch (const Failure&) {

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QColorSpace>
+#include <QImageWriter>
 #include <QTest>
 
 #include "support/folder.h"
@@ -17,10 +18,12 @@ QImage sample(QImage::Format format) {
   return support::pictureOf(23, 17, pixel).convertToFormat(format);
 }
 
-QByteArray encoded(const QImage& image, const char* format) {
+QByteArray encoded(const QImage& image, const char* format, bool inPasses = false) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
-  image.save(&buffer, format);
+  QImageWriter writer(&buffer, format);
+  writer.setProgressiveScanWrite(inPasses);
+  writer.write(image);
   return bytes;
 }
 
@@ -37,10 +40,11 @@ QByteArray runs(const char* codes) {
          QByteArray::fromHex(codes);
 }
 
-/// Whether the file is a picture of this program's format, and none as soon as more than the slack at its end is cut.
-bool onlyWhole(const QByteArray& file, int slack = 0) {
-  for (qsizetype size = 0; size < file.size(); ++size) {
-    const bool decodes = !DecodePicture(QByteArrayView(file).first(size)).isNull();
+/// Whether the file is a picture of this program's format, and none as soon as more than the slack at its end is cut,
+/// whether or not an end mark is put behind the cut.
+bool onlyWhole(const QByteArray& file, int slack = 0, const QByteArray& mark = {}) {
+  for (qsizetype size = 0; size < file.size() - mark.size(); ++size) {
+    const bool decodes = !DecodePicture(file.first(size) + mark).isNull();
     if (decodes != (size >= file.size() - slack)) return false;
   }
   return DecodePicture(file).format() == QImage::Format_ARGB32;
@@ -55,7 +59,11 @@ class PicturesTest : public QObject {
   void wholeAndCut() {
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_ARGB32), "png")));
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_RGBA64), "png")));
-    QVERIFY(onlyWhole(encoded(sample(QImage::Format_RGB32), "jpeg")));
+    for (const bool inPasses : {false, true}) {
+      const QByteArray jpeg = encoded(sample(QImage::Format_RGB32), "jpeg", inPasses);
+      QVERIFY(onlyWhole(jpeg));
+      QVERIFY(onlyWhole(jpeg, 0, QByteArray::fromHex("FFD9")));
+    }
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_RGB32), "bmp")));
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_Mono), "bmp")));
     QVERIFY(onlyWhole(runs("0301 0300 0000 0600 0001")));
@@ -75,6 +83,12 @@ class PicturesTest : public QObject {
     // Camera data that asks for a quarter turn.
     jpeg.insert(2, QByteArray::fromHex("FFE10022457869660000 4D4D002A000000080001011200030000000100060000 00000000"));
     QCOMPARE(DecodePicture(jpeg).size(), image.size());
+    for (const auto format : {QImage::Format_RGB32, QImage::Format_Grayscale8}) {
+      for (const bool inPasses : {false, true}) {
+        QByteArray file = encoded(sample(format), "jpeg", inPasses);
+        QCOMPARE(DecodePicture(file), QImage::fromData(file).convertToFormat(QImage::Format_ARGB32));
+      }
+    }
   }
 
   void refused() {
@@ -91,6 +105,16 @@ class PicturesTest : public QObject {
     QByteArray jpeg = encoded(sample(QImage::Format_RGB32), "jpeg");
     jpeg.insert(2, QByteArray::fromHex("FFE10006FFD8FFD9"));
     QVERIFY(DecodePicture(jpeg.chopped(2)).isNull());
+    // A head that claims 8000 x 8000 pixels, with the data of 23 x 17.
+    jpeg.replace(QByteArray::fromHex("00110017 03"), QByteArray::fromHex("1F401F40 03"));
+    QVERIFY(DecodePicture(jpeg).isNull());
+    // A picture with a long tail is one, up to 256 MB.
+    const support::Folder folder;
+    folder.put(u"Long.png"_s, encoded(sample(QImage::Format_ARGB32), "png"));
+    for (const bool fits : {true, false}) {
+      QVERIFY(QFile::resize(folder.native(u"Long.png"_s), fits ? 1 << 20 : (256 << 20) + 1));
+      QCOMPARE(!LoadPicture(folder.path(u"Long.png"_s)).isNull(), fits);
+    }
     // A head that claims 100000 x 100000 pixels, with its checksum.
     QByteArray png = encoded(sample(QImage::Format_ARGB32), "png");
     png.replace(16, 8, QByteArray::fromHex("000186A0000186A0")).replace(29, 4, QByteArray::fromHex("A8520BC8"));
