@@ -66,8 +66,8 @@ McToolBar::McToolBar(const Ambient& ambient, QWidget* parent)
 }
 
 McToolBar::~McToolBar() {
-  // The popup's end is no more an event for the control.
-  if (QWidget* const popup = windows_.Popup()) popup->removeEventFilter(this);
+  // A window that goes sends events to this widget, which asks its control.
+  windows_.destroyAll();
 }
 
 bool McToolBar::UserControl_ReadProperties(QByteArrayView bytes) {

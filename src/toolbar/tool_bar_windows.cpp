@@ -10,6 +10,11 @@ constexpr int TimerPeriod = 100;  // milliseconds
 
 }  // namespace
 
+void ToolBarWindows::destroyAll() {
+  tip_.reset();
+  popup_.reset();
+}
+
 void ToolBarWindows::SetHeight(int pixels) {
   if (pixels == bar_.height()) return;
   bar_.resize(bar_.width(), pixels);

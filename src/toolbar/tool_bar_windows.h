@@ -17,6 +17,8 @@ class ToolBarWindows : public Windows {
 
   QWidget* Popup() const { return popup_.get(); }
   QTimer& TimerObject() { return timer_; }
+  /// Ends popup and tip.
+  void destroyAll();
   /// The surface whose leaving is still to be told.
   std::optional<SurfaceName> Tracked;
 
