@@ -58,7 +58,9 @@ void PickTag(Form2& form, int row) {
 void ShowReasons(Form2& form, const renderer::RenderAccount& account) {
   std::map<QString, QStringList> reasons;
   for (const renderer::LeftOut& entry : account.Missing) {
-    reasons[platform::UpperCase(entry.Section)] += renderer::ReasonText(entry);
+    QStringList& texts = reasons[platform::UpperCase(entry.Section)];
+    const QString text = renderer::ReasonText(entry);
+    if (!texts.contains(text)) texts += text;
   }
   std::set<QString> drawn;
   for (const renderer::Drawn& object : account.Objects) drawn.insert(platform::UpperCase(object.Section));

@@ -1,7 +1,7 @@
 #include "report.h"
 
-#include <algorithm>
-
+#include <QHash>
+#include <QSet>
 #include <QStringList>
 
 #include "platform/code_page.h"
@@ -9,32 +9,31 @@
 namespace contactsheet {
 namespace {
 
-/// A theme's files may spell one section in several ways.
-template <typename Entries>
-bool names(const Entries& entries, const QString& section) {
-  return std::any_of(entries.begin(), entries.end(),
-                     [&](const auto& entry) { return platform::SameName(entry.section, section); });
-}
-
-QStringList reasonsFor(const QString& section, const renderer::RenderAccount& account) {
-  QStringList reasons;
-  for (const renderer::LeftOut& entry : account.Missing) {
-    if (platform::SameName(entry.Section, section)) reasons += renderer::ReasonText(entry);
+/// What a render says of each section. A theme's files may spell one section in several ways.
+class Outcomes {
+ public:
+  explicit Outcomes(const renderer::RenderAccount& account) {
+    for (const renderer::Drawn& object : account.Objects) drawn_.insert(platform::UpperCase(object.Section));
+    for (const renderer::LeftOut& entry : account.Missing) {
+      QStringList& reasons = reasons_[platform::UpperCase(entry.Section)];
+      const QString reason = renderer::ReasonText(entry);
+      if (!reasons.contains(reason)) reasons += reason;
+    }
   }
-  reasons.removeDuplicates();
-  return reasons;
-}
 
-ReportRow rowOf(const QString& section, bool isBackground, const renderer::RenderAccount& account) {
-  const QStringList reasons = reasonsFor(section, account);
-  ReportRow row{section, false, reasons.join(QStringLiteral("; "))};
-  // The background isn't in the account's list of objects: it is no object that can be picked.
-  row.drawn = (isBackground && reasons.isEmpty()) ||
-              std::any_of(account.Objects.begin(), account.Objects.end(),
-                          [&](const renderer::Drawn& object) { return platform::SameName(object.Section, section); });
-  if (!row.drawn && reasons.isEmpty()) row.reason = QStringLiteral("not part of the preview");
-  return row;
-}
+  ReportRow rowOf(const QString& section, bool isBackground) const {
+    const QString name = platform::UpperCase(section);
+    const QStringList reasons = reasons_.value(name);
+    // The background isn't in the account's list of objects: it is no object that can be picked.
+    const bool drawn = drawn_.contains(name) || (isBackground && reasons.isEmpty());
+    const bool told = drawn || !reasons.isEmpty();
+    return {section, drawn, told ? reasons.join(QStringLiteral("; ")) : QStringLiteral("not part of the preview")};
+  }
+
+ private:
+  QSet<QString> drawn_;
+  QHash<QString, QStringList> reasons_;
+};
 
 /// A text that stays in its field of the table.
 QString field(QString text) {
@@ -49,9 +48,13 @@ std::vector<ReportRow> RowsOf(const QString& background, const themefiles::TagLi
   for (int row = 0; row < tags.ListCount(); ++row) sections += tags.List(row);
   for (const renderer::Drawn& object : account.Objects) sections += object.Section;
   for (const renderer::LeftOut& entry : account.Missing) sections += entry.Section;
+  const Outcomes outcomes(account);
+  QSet<QString> told;
   std::vector<ReportRow> rows;
   for (const QString& section : sections) {
-    if (!names(rows, section)) rows.push_back(rowOf(section, rows.empty(), account));
+    const qsizetype before = told.size();
+    told.insert(platform::UpperCase(section));
+    if (told.size() > before) rows.push_back(outcomes.rowOf(section, rows.empty()));
   }
   return rows;
 }
