@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "controls/look.h"
+#include "controls/shown_text.h"
 
 namespace controls {
 
@@ -11,7 +12,7 @@ CutLabel::CutLabel(QWidget* parent) : QLabel(parent) {
 }
 
 void CutLabel::setWhole(const QString& text) {
-  whole_ = text;
+  whole_ = shownText(text);
   showText();
 }
 

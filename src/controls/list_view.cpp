@@ -2,6 +2,8 @@
 
 #include <QHeaderView>
 
+#include "controls/shown_text.h"
+
 namespace controls {
 
 namespace {
@@ -19,6 +21,7 @@ ListView::ListView(QWidget* parent) : RowPicking(parent) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setItemDelegate(new ShownTexts(this));
   header()->setSectionsMovable(false);
   header()->setStretchLastSection(false);
   header()->setMinimumSectionSize(NarrowestColumn);

@@ -5,6 +5,7 @@
 #include <QToolTip>
 
 #include "controls/look.h"
+#include "controls/shown_text.h"
 
 namespace controls {
 
@@ -31,7 +32,7 @@ void showCellTip(const QAbstractItemView& view, const QHelpEvent& help) {
   const QModelIndex cell = view.indexAt(help.pos());
   const QRect shown = view.visualRect(cell).intersected(view.viewport()->rect());
   QStringList lines;
-  if (view.sizeHintForIndex(cell).width() > shown.width()) lines += cell.data().toString();
+  if (view.sizeHintForIndex(cell).width() > shown.width()) lines += shownText(cell.data().toString());
   lines += cell.data(Qt::ToolTipRole).toString();
   lines.removeAll(QString());
   QToolTip::showText(help.globalPos(), PlainToolTip(lines.join(u'\n')), view.viewport(), shown);

@@ -154,6 +154,10 @@ void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::S
   state.ThemeOpened = true;
 }
 
+size_t copyNumber(QString ThemePaths::*copy) {
+  return static_cast<size_t>(std::find(CopiedFiles.begin(), CopiedFiles.end(), copy) - CopiedFiles.begin());
+}
+
 void PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status) {
   editCopy(state, copy, status, Section, Key,

@@ -19,6 +19,10 @@ bool usableName(const QString& name) {
 
 }  // namespace
 
+QString tooLongText(const QString& key) {
+  return QStringLiteral("%1 is too long to be edited here").arg(key);
+}
+
 bool WriteAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,
                  const QString& key, const std::optional<QString>& value) {
   ToolServices& services = form.Services;

@@ -11,6 +11,11 @@ namespace toolwindow {
 
 class Form2;
 
+/// Report of a value that an editor can't take.
+inline constexpr QStringView ReadStep = u"Error while reading Value";
+/// What it says of one that is too long (see controls::LongestText).
+QString tooLongText(const QString& key);
+
 /// Report of a write that did not reach the file.
 inline constexpr QStringView WriteStep = u"Error while writing tempfile";
 

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "controls/shown_text.h"
+#include "platform/failure.h"
 #include "platform/paths.h"
 #include "themefiles/ini_access.h"
 #include "toolwindow/edit_reports.h"
@@ -75,8 +77,15 @@ void FillTextureKeys(Form2& form, const QString& Value) {
 
 void KeyList_Click(Form2& form, KeyEditor which) {
   const Editor editor = editorOf(form, which);
-  editor.box.SetText(
-      themefiles::GetINI(editor.section, editor.list.Text(), QString(), editor.file, themefiles::ListBufferSize));
+  const QString key = editor.list.Text();
+  constexpr qint16 LetterMore = controls::LongestText + 2;
+  const QString content = themefiles::GetINI(editor.section, key, QString(), editor.file, LetterMore);
+  const bool fits = content.size() <= controls::LongestText;
+  editor.box.SetText(fits ? content : QString());
+  if (fits) return;
+  // Without a selected key nothing can be written over it.
+  editor.list.SetListIndex(-1);
+  form.Services.Status.ShowStatus(platform::ReportText(ReadStep.toString(), tooLongText(key)));
 }
 
 void AddKey_Click(Form2& form, KeyEditor which) {

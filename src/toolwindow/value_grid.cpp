@@ -1,8 +1,10 @@
 #include "toolwindow/value_grid.h"
 
+#include "controls/shown_text.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "toolwindow/colour_editor.h"
+#include "toolwindow/edit_reports.h"
 #include "toolwindow/key_editors.h"
 #include "toolwindow/tool_window.h"
 
@@ -49,11 +51,13 @@ void loadEditor(Form2& form, const GroupRow& group, const QString& value) {
 }  // namespace
 
 void ListView1_ItemClick(Form2& form, int row) {
-  platform::Guarded(form.Services.Status, QStringLiteral("Error while reading Value"), [&] {
+  platform::Guarded(form.Services.Status, ReadStep.toString(), [&] {
     form.HideEditorFrames();
     const auto group = GroupOf(KeyIdentity(form.ListView1->RowText(row)));
     if (group) {
-      loadEditor(form, RowOf(*group), form.ListView1->SubItem(row));
+      const QString value = form.ListView1->SubItem(row);
+      if (value.size() > controls::LongestText) throw platform::Failure(tooLongText(form.ListView1->RowText(row)));
+      loadEditor(form, RowOf(*group), value);
       form.ShowEditorFrame(RowOf(*group).frame);
     } else if (form.Services.State.EditorShown) {
       form.CloseEditorFrame();

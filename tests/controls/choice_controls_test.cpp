@@ -154,6 +154,11 @@ class ChoiceControlsTest : public QObject {
     QHelpEvent event(QEvent::ToolTip, value, window.view.viewport()->mapToGlobal(value));
     QApplication::sendEvent(window.view.viewport(), &event);
     QVERIFY(QToolTip::text().contains(u"&lt;b&gt;a long value&lt;/b&gt; 0"_s));
+    window.view.SetSubItem(0, QString(20'000'000, u'x'));
+    window.list.item(0)->setText(window.view.SubItem(0));
+    window.grab();
+    QApplication::sendEvent(window.view.viewport(), &event);
+    QVERIFY(QToolTip::text().contains(u"xxx...<"_s));
     // One tip holds a cut name and what is told of the row.
     const QString name(40, u'W');
     window.list.item(1)->setText(name);

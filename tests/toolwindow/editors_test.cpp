@@ -118,6 +118,28 @@ class EditorsTest : public ProgramTest {
     }
   }
 
+  void longTexts() {
+    Form2& tools = program->tools();
+    for (const int letters : {32000, 32001}) {
+      const bool fits = letters == 32000;
+      const QByteArray words(letters, 'w');
+      game->put(LanguageCopy, "[Text]\r\nHELLO=" + words + "\r\n");
+      for (const char* key : {"Z", "TEXT"}) {  // the value itself is long, or what it refers to
+        program->tag(Static);
+        program->form.ShowStatus(QString());
+        program->soleRow(text(key), *key == 'Z' ? QString(letters, u'1') : u"HELLO"_s);
+        QCOMPARE(shownFrame(tools) == u"none"_s, *key == 'Z' && !fits);
+        const QString report = u"Error while reading Value [%1 is too long to be edited here]"_s;
+        QCOMPARE(program->status(), fits ? QString() : report.arg(*key == 'Z' ? u"Z"_s : u"HELLO"_s));
+        if (*key == 'Z') continue;
+        tools.Command1->click();
+        QVERIFY(game->get(LanguageCopy).contains(words));
+        QCOMPARE(program->state.Changed, fits);
+        program->state.Changed = false;
+      }
+    }
+  }
+
   void numbers() {
     const struct {
       int bar;
