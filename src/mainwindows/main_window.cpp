@@ -164,17 +164,15 @@ void Form1::ShowMousePosition(qint16 X, qint16 Y) {
 
 void Form1::DrawScreen() {
   if (ToolWindow == nullptr) return;
-  renderer::RenderContext context{Services.State, ToolWindow->Tags, Workspace->Surface(), host_,
-                                  *this,          Services.Dialogs, Services.Graphics,    Account};
   platform::Surface& surface = Workspace->Surface();
-  const QString face = surface.FontName();
-  const float size = surface.FontSize();
+  renderer::RenderContext context{Services.State,   ToolWindow->Tags,  surface, host_,    *this,
+                                  Services.Dialogs, Services.Graphics, Account, &Pictures};
+  const platform::Pen pen = surface.pen();
   try {
     platform::Guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
   } catch (const controls::WorkAbandoned&) {
     // The render that takes this one's place begins with the pen that this one found.
-    surface.SetFontName(face);
-    surface.SetFontSize(size);
+    surface.setPen(pen);
     throw;
   }
   ProgressBar1->hide();

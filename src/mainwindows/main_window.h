@@ -14,6 +14,7 @@
 #include "platform/graphics.h"
 #include "platform/status_line.h"
 #include "progressbar/progress_bar.h"
+#include "renderer/prepared_pictures.h"
 #include "renderer/render_account.h"
 #include "themefiles/module_state.h"
 #include "toolbar/mc_toolbar.h"
@@ -53,6 +54,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   progressbar::ProgressBar* ProgressBar1;
   toolwindow::Form2* ToolWindow = nullptr;  ///< Form2 while a theme is open
   renderer::RenderAccount Account;          ///< what the last render drew and left out
+  renderer::PreparedPictures Pictures;      ///< what the renders keep of the picture files
   PreviewPicking Picking;
 
   /// Shows the mouse's place in the status bar, counted from 1.

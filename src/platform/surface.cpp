@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -59,30 +58,46 @@ void Surface::DrawImage(const QImage& picture, int x, int y) {
 }
 
 void Surface::SetFontName(const QString& face) {
+  if (face != fontName_) font_.reset();
   fontName_ = face;
 }
 
 void Surface::SetFontSize(float points) {
-  if (points > 0) fontSize_ = std::min(points, float(LargestPoints));
+  if (!(points > 0)) return;
+  const float size = std::min(points, float(LargestPoints));
+  if (size != fontSize_) font_.reset();
+  fontSize_ = size;
+}
+
+void Surface::setPen(const Pen& pen) {
+  CurrentX = pen.x;
+  CurrentY = pen.y;
+  ForeColor = pen.color;
+  SetFontName(pen.face);
+  SetFontSize(pen.points);
+}
+
+const QFont& Surface::font() const {
+  if (!font_) font_ = fontOf(fontName_, fontSize_);
+  return *font_;
 }
 
 double Surface::TextWidth(const QString& text) const {
-  return QFontMetricsF(fontOf(fontName_, fontSize_), &image_).horizontalAdvance(text);
+  return QFontMetricsF(font(), &image_).horizontalAdvance(text);
 }
 
 double Surface::TextHeight(const QString&) const {
-  return QFontMetricsF(fontOf(fontName_, fontSize_), &image_).height();
+  return QFontMetricsF(font(), &image_).height();
 }
 
 void Surface::Print(const QString& text) {
-  const QFont font = fontOf(fontName_, fontSize_);
-  const QFontMetricsF metrics(font, &image_);
+  const QFontMetricsF metrics(font(), &image_);
   const QPointF baseline(double(CurrentX), double(CurrentY) + metrics.ascent());
   // A pixel more on each side, for the soft edges.
   const QRectF ink = metrics.boundingRect(text).translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
   if (ink.isEmpty()) return;
   QPainter painter(&image_);
-  painter.setFont(font);
+  painter.setFont(font());
   painter.setPen(ForeColor);
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.drawText(baseline, text);

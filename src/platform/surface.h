@@ -1,11 +1,23 @@
 #pragma once
 
+#include <optional>
+
 #include <QColor>
+#include <QFont>
 #include <QImage>
 #include <QRect>
 #include <QString>
 
 namespace platform {
+
+/// What stays on a surface from one text to the next.
+struct Pen {
+  float x = 0;
+  float y = 0;
+  QColor color;
+  QString face;
+  float points = 0;
+};
 
 /// The preview's raster of 800 x 600 pixels that keeps what has been drawn on it, with a pen for text. Each drawing
 /// call adds its rectangle to what still has to be shown.
@@ -35,6 +47,8 @@ class Surface {
   float FontSize() const { return fontSize_; }
   /// A size of 0 or below isn't set; above 2,160 points counts as 2,160.
   void SetFontSize(float points);
+  Pen pen() const { return {CurrentX, CurrentY, ForeColor, fontName_, fontSize_}; }
+  void setPen(const Pen& pen);
   /// Size of the text in the current face and size; an empty text has the height of one line.
   double TextWidth(const QString& text) const;
   double TextHeight(const QString& text) const;
@@ -46,10 +60,12 @@ class Surface {
 
  private:
   void mark(const QRect& rectangle);
+  const QFont& font() const;
 
   QImage image_;
   QString fontName_;
   float fontSize_ = 0;
+  mutable std::optional<QFont> font_;  ///< of name and size, once it was asked for
   QRect dirty_;
 };
 

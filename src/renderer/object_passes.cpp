@@ -4,13 +4,11 @@
 
 #include "platform/code_page.h"
 #include "platform/numbers.h"
-#include "platform/pictures.h"
 #include "platform/system_colors.h"
 #include "renderer/object_values.h"
 #include "renderer/text_objects.h"
 #include "renderer/texture_pipeline.h"
 #include "themefiles/colour_tables.h"
-#include "themefiles/ini_access.h"
 
 namespace renderer {
 namespace {
@@ -44,8 +42,7 @@ void drawObject(RenderContext& context, const ObjectSection& section, const QStr
   const float intensity =
       look.intensityKey.isEmpty() ? NoIntensity : static_cast<float>(section.Number(look.intensityKey));
   const QString type = platform::UpperCase(section.Value(QStringLiteral("TYPE")));
-  const TextureResult result = DrawTexture(context.Workspace, path, type, box.X, box.Y, box.W, box.H, color, intensity,
-                                           context.Graphics, context.Dialogs);
+  const TextureResult result = DrawTexture(context, {path, type, box, color, intensity, section.inHand()});
   switch (result.outcome) {
     case TextureOutcome::Drawn:
       context.Account.Objects.push_back({section.Name(), result.place, {}});
@@ -86,8 +83,8 @@ bool countButton(themefiles::ModuleState& state) {
 /// Child texts 1 to `count`, relative to the button. The first one drawn takes the shift.
 void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, int count, int& textShift) {
   for (int number = 1; number <= count; ++number) {
-    const QString child = tag + QStringLiteral("TEXT") + QString::number(number);
-    if (!themefiles::GetINI(child, QStringLiteral("X"), QString(), context.State.Paths.ThemeFile).isEmpty()) {
+    const ObjectSection child(context, tag + QStringLiteral("TEXT") + QString::number(number));
+    if (!child.Value(QStringLiteral("X")).isEmpty()) {
       DrawTextObject(context, child, box.X, box.Y + textShift, tag);
       textShift = 0;
     }
@@ -132,12 +129,13 @@ void DrawBackground(RenderContext& context, const QString& stem) {
   const QString path = TexturePath(context, ObjectSection(context, section));
   context.Workspace.Wipe(platform::ColorOf(context.State.BackgroundColor));
   if (path.isEmpty()) return;
-  const QImage picture = platform::LoadPicture(path);
-  if (picture.isNull()) {
+  const QRect surface = context.Workspace.image().rect();
+  const PreparedPicture prepared = Prepare(context.pictures, {path, {}, surface});
+  if (prepared.missing) {
     LeaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
     return;
   }
-  context.Workspace.DrawImageRect(picture, 0, 0, platform::Surface::Width, platform::Surface::Height);
+  context.Workspace.DrawImage(prepared.picture, 0, 0);
   UpdateProgress(context, context.State.ProgressStep);
 }
 
@@ -160,7 +158,7 @@ void DrawTexts(RenderContext& context) {
     const QString tag = context.List1.List(row);
     const QString upper = platform::UpperCase(tag);
     if (holdsAny(upper, {u"BUTTON", u"NAME", u"TEXTURES"}) || !upper.contains(u"TEXT")) continue;
-    DrawTextObject(context, tag, 0, 0, {});
+    DrawTextObject(context, ObjectSection(context, tag), 0, 0, {});
   }
 }
 

@@ -5,14 +5,21 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
-#include "themefiles/ini_access.h"
 
 namespace renderer {
 
+themefiles::SectionReader ReadSection(const RenderContext& context, const QString& section, const QString& file) {
+  if (context.trial) return {section, context.trial->bytesOf(file)};
+  return {section, file};
+}
+
 ObjectSection::ObjectSection(const RenderContext& context, const QString& name)
-    : name_(name), reader_(name, context.State.Paths.ThemeFile) {}
+    : name_(name),
+      trial_(context.trial ? context.trial->valuesOf(name) : nullptr),
+      reader_(ReadSection(context, name, context.State.Paths.ThemeFile)) {}
 
 QString ObjectSection::Value(const QString& key, const QString& defaultValue) const {
+  if (const QString* const tried = trial_ ? trial_->find(key) : nullptr) return *tried;
   return reader_.Value(key, defaultValue);
 }
 
@@ -50,7 +57,7 @@ std::optional<Box> ThemeBox(RenderContext& context, const ObjectSection& section
 
 QString TexturePath(RenderContext& context, const ObjectSection& section) {
   const QString name = section.Value(QStringLiteral("Tex"));
-  const QString file = themefiles::GetINI(QStringLiteral("Textures"), name, QString(), context.State.Paths.SkinFile);
+  const QString file = ReadSection(context, QStringLiteral("Textures"), context.State.Paths.SkinFile).Value(name);
   if (file.isEmpty()) {
     LeaveOut(context, section.Name(), Reason::NoTexture, QStringLiteral("Tex"), name);
     return {};

@@ -10,7 +10,10 @@
 /// How the passes read an object's keys, and how they tell that one is left out.
 namespace renderer {
 
-/// The section of an object, read from the theme when the object's turn comes.
+/// A section of a file as it is now; in a trial frame as it was at the frame's first look into that file.
+themefiles::SectionReader ReadSection(const RenderContext& context, const QString& section, const QString& file);
+
+/// The section of an object, read from the theme when the object's turn comes, with what is on trial in it.
 class ObjectSection {
  public:
   ObjectSection(const RenderContext& context, const QString& name);
@@ -19,9 +22,12 @@ class ObjectSection {
   QString Value(const QString& key, const QString& defaultValue = QString()) const;
   /// The number of such a value, 0 without one.
   double Number(const QString& key) const;
+  /// Whether values of the object are on trial.
+  bool inHand() const { return trial_ != nullptr; }
 
  private:
   QString name_;
+  const TrialValues* trial_;  ///< those of this object
   themefiles::SectionReader reader_;
 };
 

@@ -13,6 +13,7 @@ struct ColorNumbers {
   float R = 0;
   float G = 0;
   float B = 0;
+  friend bool operator==(const ColorNumbers&, const ColorNumbers&) = default;
 };
 
 /// A colour in the double hexcone of hue (degrees), lightness and saturation (0 to 1).

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QRect>
 #include <QString>
+
+#include "platform/surface.h"
 
 namespace renderer {
 
@@ -40,6 +43,7 @@ struct Drawn {
 struct RenderAccount {
   std::vector<Drawn> Objects;
   std::vector<LeftOut> Missing;
+  std::optional<platform::Pen> startPen;  ///< as the render found it; none before the first one
 };
 
 /// The reason in words: "no file 'x.png'".

@@ -4,8 +4,10 @@
 #include "platform/graphics.h"
 #include "platform/status_line.h"
 #include "platform/surface.h"
+#include "renderer/prepared_pictures.h"
 #include "renderer/render_account.h"
 #include "renderer/render_host.h"
+#include "renderer/trial_values.h"
 #include "themefiles/module_state.h"
 #include "themefiles/tag_listing.h"
 
@@ -21,6 +23,8 @@ struct RenderContext {
   platform::Dialogs& Dialogs;
   platform::Graphics& Graphics;
   RenderAccount& Account;
+  PreparedPictures* pictures = nullptr;  ///< none: every picture is made anew
+  TrialFrame* trial = nullptr;           ///< none: a render of what the files hold
 };
 
 /// Advances the progress bar by `step` percent and lets events through.

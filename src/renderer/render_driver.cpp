@@ -31,18 +31,24 @@ void drawButtonsWithList(RenderContext& context) {
 
 }  // namespace
 
+void DrawPasses(RenderContext& context) {
+  DrawBackground(context, themefiles::StemOf(context.State, context.Host.ScreenName()));
+  DrawStatics(context);
+  DrawTexts(context);
+  drawButtonsWithList(context);
+}
+
 void DrawScreen(RenderContext& context) {
   context.Account = {};
+  context.Account.startPen = context.Workspace.pen();
+  if (context.pictures) context.pictures->letGo();
   context.Host.SetProgressValue(0);
   context.Host.SetProgressVisible(true);
   const int tags = context.List1.ListCount();
   context.State.ProgressStep = tags == 0 ? qint16(0) : platform::RoundToInt16(100.0 / tags).value_or(0);
   UpdateProgress(context, context.State.ProgressStep);
   context.Host.Yield();
-  DrawBackground(context, themefiles::StemOf(context.State, context.Host.ScreenName()));
-  DrawStatics(context);
-  DrawTexts(context);
-  drawButtonsWithList(context);
+  DrawPasses(context);
   context.Host.SetProgressVisible(false);
 }
 

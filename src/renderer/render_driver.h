@@ -10,4 +10,7 @@ namespace renderer {
 /// Lets events through behind every object; what Yield throws passes through.
 void DrawScreen(RenderContext& context);
 
+/// The passes of DrawScreen alone, behind its progress bar and the start of its account.
+void DrawPasses(RenderContext& context);
+
 }  // namespace renderer

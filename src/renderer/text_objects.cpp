@@ -5,9 +5,7 @@
 
 #include "platform/numbers.h"
 #include "platform/system_colors.h"
-#include "renderer/object_values.h"
 #include "themefiles/colour_tables.h"
-#include "themefiles/ini_access.h"
 
 namespace renderer {
 namespace {
@@ -58,7 +56,7 @@ bool setFont(RenderContext& context, const ObjectSection& section) {
 QString wordsOf(const RenderContext& context, const ObjectSection& section) {
   const QString key = section.Value(QStringLiteral("Text"), section.Name());
   if (key.isEmpty()) return section.Name();
-  return themefiles::GetINI(QStringLiteral("Text"), key, key, context.State.Paths.LanguageFile);
+  return ReadSection(context, QStringLiteral("Text"), context.State.Paths.LanguageFile).Value(key, key);
 }
 
 void printAligned(RenderContext& context, const ObjectSection& section, const QString& words, const QString& owner) {
@@ -76,8 +74,7 @@ void printAligned(RenderContext& context, const ObjectSection& section, const QS
 
 }  // namespace
 
-void DrawTextObject(RenderContext& context, const QString& name, int baseX, int baseY, const QString& owner) {
-  const ObjectSection section(context, name);
+void DrawTextObject(RenderContext& context, const ObjectSection& section, int baseX, int baseY, const QString& owner) {
   platform::Surface& surface = context.Workspace;
   surface.CurrentX = static_cast<float>(section.Number(QStringLiteral("X")) + baseX);
   surface.CurrentY = static_cast<float>(section.Number(QStringLiteral("Y")) + baseY);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/render_context.h"
+#include "renderer/object_values.h"
 
 namespace renderer {
 
@@ -8,6 +8,6 @@ namespace renderer {
 /// size by Font and Size, aligned by Align, a fifth of its height lower. A Font other than 0 and 1 keeps what the text
 /// before left on the surface.
 /// `owner` is the button of a child text, empty for a free text.
-void DrawTextObject(RenderContext& context, const QString& name, int baseX, int baseY, const QString& owner);
+void DrawTextObject(RenderContext& context, const ObjectSection& section, int baseX, int baseY, const QString& owner);
 
 }  // namespace renderer

@@ -3,8 +3,6 @@
 #include <new>
 
 #include "platform/numbers.h"
-#include "platform/pictures.h"
-#include "renderer/recolouring.h"
 
 namespace renderer {
 namespace {
@@ -28,54 +26,51 @@ void StopGraphics(platform::Graphics& graphics, platform::Dialogs& dialogs) {
   graphics.Shutdown();
 }
 
-/// Draws where x, y, w and h say; gives the rectangle.
-QRect drawPlaced(platform::Graphics& graphics, const QImage& picture, qint16 x, qint16 y, qint16 w, qint16 h) {
-  if (x != -1 && y != -1 && w != -1 && h != -1) {
-    graphics.DrawImageRect(picture, x, y, w, h);
-    return {x, y, w, h};
-  }
-  const QPoint corner = x == -1 || y == -1 ? QPoint(0, 0) : QPoint(x, y);
-  graphics.DrawImage(picture, corner.x(), corner.y());
-  return {corner, picture.size()};
+/// None for a colour of fewer than three fields.
+std::optional<Recolouring> recolouringOf(const Texture& texture) {
+  using Type = Recolouring::Type;
+  const QStringList fields = platform::SplitAtBlanks(texture.color);
+  if (fields.size() < 3) return std::nullopt;
+  const ColorNumbers color{static_cast<float>(platform::NumberOf(fields[0])),
+                           static_cast<float>(platform::NumberOf(fields[1])),
+                           static_cast<float>(platform::NumberOf(fields[2]))};
+  if (texture.type == u"COLORIZED") return Recolouring{Type::Colorized, color};
+  if (texture.type == u"FONT BLACK") return Recolouring{Type::FontBlack, color, texture.intensity};
+  return Recolouring{};
 }
 
-/// The recoloured picture; a result other than Drawn when it can't be had.
-TextureOutcome recolour(QImage& picture, const QString& type, const QString& color, float intensity) {
-  const QStringList fields = platform::SplitAtBlanks(color);
-  if (fields.size() < 3) return TextureOutcome::NoColor;
-  const ColorNumbers numbers{static_cast<float>(platform::NumberOf(fields[0])),
-                             static_cast<float>(platform::NumberOf(fields[1])),
-                             static_cast<float>(platform::NumberOf(fields[2]))};
-  if (type == u"COLORIZED") Colorize(picture, numbers);
-  if (type == u"FONT BLACK" && !RecolourFont(picture, numbers, intensity)) return TextureOutcome::ColorRange;
-  return TextureOutcome::Drawn;
+PictureWish wishOf(const Texture& texture, const Recolouring& recolouring) {
+  const Box& box = texture.box;
+  if (box.X == -1 || box.Y == -1) return {texture.path, recolouring, QRect(), true};
+  return {texture.path, recolouring, QRect(box.X, box.Y, box.W, box.H), box.W == -1 || box.H == -1};
+}
+
+TextureResult draw(RenderContext& context, const Texture& texture) {
+  const auto recolouring = recolouringOf(texture);
+  if (!recolouring) return {TextureOutcome::NoColor, {}};
+  const PictureWish wish = wishOf(texture, *recolouring);
+  const PreparedPicture prepared = Prepare(context.pictures, wish, texture.inHand);
+  if (prepared.missing == Reason::NoPicture) return {TextureOutcome::NoPicture, {}};
+  if (prepared.missing) return {TextureOutcome::ColorRange, {}};
+  if (!context.Graphics.created()) return {TextureOutcome::NoSession, {}};
+  const QRect place(wish.place.topLeft(), wish.ownSize ? prepared.ownSize : wish.place.size());
+  if (place.isEmpty()) return {TextureOutcome::NoArea, place};
+  context.Graphics.DrawImage(prepared.picture, prepared.corner.x(), prepared.corner.y());
+  return {TextureOutcome::Drawn, place};
 }
 
 }  // namespace
 
-TextureResult DrawTexture(platform::Surface& surface, const QString& path, const QString& type, qint16 x, qint16 y,
-                          qint16 w, qint16 h, const QString& color, float intensity, platform::Graphics& graphics,
-                          platform::Dialogs& dialogs) {
-  if (path.isEmpty()) return {};
+TextureResult DrawTexture(RenderContext& context, const Texture& texture) {
+  if (texture.path.isEmpty()) return {};
   TextureResult result;
-  StartGraphics(surface, graphics, dialogs);
+  StartGraphics(context.Workspace, context.Graphics, context.Dialogs);
   try {
-    QImage picture = platform::LoadPicture(path);
-    result.outcome = recolour(picture, type, color, intensity);
-    if (result.outcome == TextureOutcome::Drawn) {
-      result.place = drawPlaced(graphics, picture, x, y, w, h);
-      if (picture.isNull()) {
-        result.outcome = TextureOutcome::NoPicture;
-      } else if (!graphics.created()) {
-        result.outcome = TextureOutcome::NoSession;
-      } else if (result.place.isEmpty()) {
-        result.outcome = TextureOutcome::NoArea;
-      }
-    }
+    result = draw(context, texture);
   } catch (const std::bad_alloc&) {
     result.outcome = TextureOutcome::NoPicture;
   }
-  StopGraphics(graphics, dialogs);
+  StopGraphics(context.Graphics, context.Dialogs);
   return result;
 }
 

@@ -3,12 +3,21 @@
 #include <QRect>
 #include <QString>
 
-#include "platform/dialogs.h"
-#include "platform/graphics.h"
-#include "platform/surface.h"
+#include "renderer/object_values.h"
 #include "renderer/recolouring.h"
+#include "renderer/render_context.h"
 
 namespace renderer {
+
+/// A texture as an object has it drawn.
+struct Texture {
+  QString path;
+  QString type;  ///< "COLORIZED", "FONT BLACK"; any other leaves the pixels
+  Box box;
+  QString color;  ///< "150 150 150"
+  float intensity = NoIntensity;
+  bool inHand = false;  ///< its size may be another in each frame
+};
 
 enum class TextureOutcome { Drawn, NoSession, NoPicture, NoColor, ColorRange, NoArea };
 
@@ -18,12 +27,9 @@ struct TextureResult {
   QRect place;
 };
 
-/// Decodes the picture at `path`, recolours it by `type` ("COLORIZED", "FONT BLACK"; any other leaves the pixels) with
-/// the colour text ("150 150 150") and the intensity, and draws it on the surface with alpha: scaled to the rectangle,
-/// or at its own size when one of x, y, w, h is -1 (at 0, 0 for an x or y of -1). A session that can't be opened or
-/// closed is told in a message box; nothing else is, and no failure reaches the caller.
-TextureResult DrawTexture(platform::Surface& surface, const QString& path, const QString& type, qint16 x, qint16 y,
-                          qint16 w, qint16 h, const QString& color, float intensity, platform::Graphics& graphics,
-                          platform::Dialogs& dialogs);
+/// Recolours the picture by type, colour and intensity, and draws it on the surface with alpha: scaled to the box, or
+/// at its own size when one of X, Y, W, H is -1 (at 0, 0 for an X or Y of -1). A session that can't be opened or closed
+/// is told in a message box; nothing else is, and no failure reaches the caller.
+TextureResult DrawTexture(RenderContext& context, const Texture& texture);
 
 }  // namespace renderer

@@ -1,5 +1,7 @@
 #include "themefiles/ini_access.h"
 
+#include <utility>
+
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/files.h"
@@ -32,6 +34,15 @@ QByteArray lineBytes(const QString& text) {
   return *bytes;
 }
 
+/// The bytes of a file; one that can't be read holds nothing.
+QByteArray bytesOrNone(const QString& fileName) {
+  try {
+    return platform::ReadFile(fileName);
+  } catch (const platform::Failure&) {
+    return {};
+  }
+}
+
 /// The key list of a section as a buffer of that size takes it: a longer one loses what the two NULs at its end need.
 QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 bufferSize) {
   const QByteArray keys = platform::ListProfileKeys(file, section);
@@ -51,25 +62,17 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
   std::optional<QByteArray> found;
   const auto section = platform::ToAnsi(Section);
   const auto key = platform::ToAnsi(Key.value_or(QString()));
-  try {
-    const QByteArray file = platform::ReadFile(FileName);
-    if (!Key) return section ? platform::FromAnsi(keyList(file, *section, BufferSize)) : QString();
-    if (section && key && !key->isEmpty()) found = platform::FindProfileValue(file, *section, *key);
-  } catch (const platform::Failure&) {
-    // A file that can't be read holds no key.
-    if (!Key) return {};
-  }
+  const QByteArray file = bytesOrNone(FileName);
+  if (!Key) return section ? platform::FromAnsi(keyList(file, *section, BufferSize)) : QString();
+  if (section && key && !key->isEmpty()) found = platform::FindProfileValue(file, *section, *key);
   return shown(found, Default, BufferSize);
 }
 
-SectionReader::SectionReader(const QString& Section, const QString& FileName) {
-  const auto section = platform::ToAnsi(Section);
-  try {
-    file_ = platform::ReadFile(FileName);
-    if (section) lines_ = platform::FindProfileSection(file_, *section);
-  } catch (const platform::Failure&) {
-    // A file that can't be read holds no section.
-  }
+SectionReader::SectionReader(const QString& Section, const QString& FileName)
+    : SectionReader(Section, bytesOrNone(FileName)) {}
+
+SectionReader::SectionReader(const QString& Section, QByteArray file) : file_(std::move(file)) {
+  if (const auto section = platform::ToAnsi(Section)) lines_ = platform::FindProfileSection(file_, *section);
 }
 
 QString SectionReader::Value(const QString& Key, const QString& Default) const {

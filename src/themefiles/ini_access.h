@@ -25,6 +25,8 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
 class SectionReader {
  public:
   SectionReader(const QString& Section, const QString& FileName);
+  /// The same from the file's bytes.
+  SectionReader(const QString& Section, QByteArray file);
   QString Value(const QString& Key, const QString& Default = QString()) const;
 
  private:

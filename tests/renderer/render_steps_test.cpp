@@ -1,5 +1,7 @@
+#include "renderer/trial_drawing.h"
 #include "support/row_name.h"
 #include "support/stage.h"
+#include "themefiles/ini_access.h"
 
 using namespace support;
 
@@ -24,6 +26,22 @@ QList<int> topsOfTexts(const QByteArray& keys, const QByteArray& tag = "MainButt
   stage.draw();
   return tops;
 }
+
+/// A screen of all kinds of objects; a text without a face of its own begins with the pen that it finds.
+constexpr const char* AllKinds =
+    "[MainBackground]|Tex=Blue|[MainStatic]|Tex=Red|Color=P1Dark|X=10|Y=20|W=30|H=40|X=99|"
+    "[MainButton1]|Tex=Half|Color=P1Dark|DColor=P1Dark|X=100|Y=50|W=60|H=20|SelectH=30|TEXTS=1|"
+    "[MainButton2]|Tex=Torn|Color=P1Dark|DColor=P1Dark|X=40000|[MainText]|Font=7|X=300|Y=300|";
+
+struct Mark : renderer::CursorMark {
+  void SetLeft(double left) override { place[0] = left; }
+  void SetTop(double top) override { place[1] = top; }
+  void SetWidth(double width) override { place[2] = width; }
+  void SetHeight(double height) override { place[3] = height; }
+  void SetVisible(bool) override {}
+  void SetBlinking(bool) override {}
+  std::array<double, 4> place = {};
+};
 
 }  // namespace
 
@@ -92,6 +110,60 @@ class RenderStepsTest : public QObject {
     QCOMPARE(topsOfTexts("TEXTS=3|SelectH=60|"), (QList<int>{30, 30, 2000}));
     QCOMPARE(topsOfTexts("SelectH=60|"), (QList<int>{2020}));
     QCOMPARE(topsOfTexts("TEXTS=1|SelectH=60|", "MainButtonCollection"), (QList<int>{10, 2000}));
+  }
+
+  /// A frame with values on trial shows what a drawing shows once they are written, and leaves all else as found.
+  void trialFrames() {
+    for (const auto& [section, values] :
+         {std::pair(u"MainStatic"_s, std::vector<std::pair<QString, QString>>{{u"X"_s, u"50"_s}, {u"Y"_s, u"70"_s}}),
+          {u"mainStatic"_s, {{u"w"_s, u"77"_s}, {u"H"_s, u"5"_s}}},
+          {u"MainStatic"_s, {{u"X"_s, u"790"_s}, {u"W"_s, u"900"_s}}},
+          {u"MainButton1"_s, {{u"X"_s, u"400"_s}, {u"SelectH"_s, u"90"_s}}},
+          {u"MainButton1TEXT1"_s, {{u"X"_s, u"30"_s}, {u"Y"_s, u"8"_s}}},
+          {u"MainText"_s, {{u"X"_s, u"0"_s}}}}) {
+      const RowName name(section.toLatin1() + ' ' + values[0].first.toLatin1());
+      Stage stage;
+      renderer::PreparedPictures pictures;
+      stage.pictures = &pictures;
+      stage.setTheme(AllKinds);
+      stage.addToTheme("[MainButton1Text1]|X=5|Y=5|Size=12|");
+      stage.tags.SetListIndex(int(stage.tags.Rows().indexOf(u"MainText"_s)));
+      stage.state.CursorRect = {u"300"_s, u"300"_s, {}, {}, {}, 9, 0};
+      stage.draw();
+      const QImage before = stage.surface.image();
+      const platform::Pen start = *stage.account.startPen;
+      stage.surface.setPen({1, 2, Qt::red, u"Arial Black"_s, 33});
+      stage.host.yielded = [] { QFAIL("a frame on trial served events"); };
+      const QStringList shown = stage.host.percents + stage.host.buttons + stage.panel.texts + stage.dialogs.asked;
+      const QByteArray theme = stage.folder.get(u"theme.ini"_s);
+      Mark tried, real;
+      const renderer::RenderAccount account = renderer::DrawTrial(stage.context(), {section, values});
+      renderer::DrawTrialCursor(stage.state, stage.tags, stage.surface, tried, {section, values});
+      const QImage trial = stage.surface.image();
+      QVERIFY(trial != before && stage.folder.get(u"theme.ini"_s) == theme);
+      QCOMPARE(stage.host.percents + stage.host.buttons + stage.panel.texts + stage.dialogs.asked, shown);
+      QVERIFY(stage.host.refreshes == 2 && stage.host.selections == 1 && !stage.host.barVisible);
+      QVERIFY(stage.surface.CurrentX == 1 && stage.surface.CurrentY == 2 && stage.surface.ForeColor == Qt::red);
+      QVERIFY(stage.surface.FontName() == u"Arial Black" && stage.surface.FontSize() == 33);
+      QCOMPARE(renderer::DrawTrial(stage.context(), {}).Objects.size(), stage.account.Objects.size());
+      QCOMPARE(stage.surface.image(), before);
+      stage.host.yielded = nullptr;
+      for (const auto& [key, value] : values) {
+        themefiles::PutINI(section, key, value, stage.state.Paths.ThemeFile);
+        if (key == u"X") stage.state.CursorRect.X = value;
+        if (key == u"Y") stage.state.CursorRect.Y = value;
+        if (key == u"W" || key == u"w") stage.state.CursorRect.W = value;
+        if (key == u"H") stage.state.CursorRect.H = value;
+      }
+      stage.surface.setPen(start);
+      stage.draw();
+      QCOMPARE(trial, stage.surface.image());
+      renderer::DrawCursor(stage.state, stage.tags, stage.surface, real, stage.panel);
+      QCOMPARE(tried.place, real.place);
+      QVERIFY(std::equal(account.Objects.begin(), account.Objects.end(), stage.account.Objects.begin(),
+                         stage.account.Objects.end(),
+                         [](const auto& a, const auto& b) { return a.Section == b.Section && a.Place == b.Place; }));
+    }
   }
 
   void moreThanAByteOfButtons() {

@@ -80,8 +80,11 @@ class Stage {
     folder.put(QStringLiteral("theme.ini"), folder.get(QStringLiteral("theme.ini")) + linesOf(sections));
   }
 
+  renderer::RenderContext context() {
+    return {state, tags, surface, host, panel, dialogs, graphics, account, pictures};
+  }
   void draw() {
-    renderer::RenderContext context{state, tags, surface, host, panel, dialogs, graphics, account};
+    renderer::RenderContext context = this->context();
     renderer::DrawScreen(context);
   }
 
@@ -99,6 +102,7 @@ class Stage {
   ScriptedDialogs dialogs;
   platform::Graphics graphics;
   renderer::RenderAccount account;
+  renderer::PreparedPictures* pictures = nullptr;
 };
 
 }  // namespace support

@@ -29,11 +29,12 @@ void drawSheet(const contactsheet::Arguments& arguments) {
   contactsheet::ErrorOutput status;
   const contactsheet::Theme theme(arguments.gameFolder, arguments.theme, arguments.skin, arguments.language, status);
   const QString scheme = theme.SchemeNamed(arguments.scheme);
+  renderer::PreparedPictures pictures;
   std::vector<contactsheet::Screen> screens;
   std::vector<std::vector<contactsheet::ReportRow>> report;
   for (const themefiles::ScreenRow& row : theme.State().ScreenTable) {
     const contactsheet::Screen& screen =
-        screens.emplace_back(contactsheet::DrawScreen(theme, row, scheme, arguments.selected, status));
+        screens.emplace_back(contactsheet::DrawScreen(theme, row, scheme, arguments.selected, pictures, status));
     report.push_back(screen.rows);
     const QString number = QStringLiteral("%1").arg(screens.size(), 2, 10, QChar(u'0'));
     contactsheet::WritePng(screen.picture, outputPath(arguments.outputFolder, number + QStringLiteral(".png")));

@@ -31,7 +31,7 @@ void selectTag(themefiles::ModuleState& state, const themefiles::TagList& tags, 
 }  // namespace
 
 Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const QString& scheme,
-                  std::optional<quint8> selected, platform::StatusLine& status) {
+                  std::optional<quint8> selected, renderer::PreparedPictures& pictures, platform::StatusLine& status) {
   themefiles::ModuleState state = theme.State();
   platform::Surface workspace;
   themefiles::SortedTags tags;
@@ -41,7 +41,7 @@ Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const
   NoDialogs dialogs(status);
   platform::Graphics graphics;
   renderer::RenderAccount account;
-  renderer::RenderContext context{state, tags, workspace, host, status, dialogs, graphics, account};
+  renderer::RenderContext context{state, tags, workspace, host, status, dialogs, graphics, account, &pictures};
   renderer::DrawScreen(context);
   if (selected) {
     state.ButtonListFilled = true;

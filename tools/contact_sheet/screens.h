@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "platform/status_line.h"
+#include "renderer/prepared_pictures.h"
 #include "report.h"
 #include "theme.h"
 
@@ -19,8 +20,8 @@ struct Screen {
 };
 
 /// The screen as it stands in the editor just after it was chosen, and with `selected` after that button was picked as
-/// well. Every screen is drawn as if it were the first.
+/// well. Every screen is drawn as if it were the first, but for the pictures kept.
 Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const QString& scheme,
-                  std::optional<quint8> selected, platform::StatusLine& status);
+                  std::optional<quint8> selected, renderer::PreparedPictures& pictures, platform::StatusLine& status);
 
 }  // namespace contactsheet

@@ -1,0 +1,48 @@
+#include <algorithm>
+#include <ctime>
+#include <sys/stat.h>
+
+#include <QFile>
+
+#include "platform/file_identity.h"
+#include "platform/paths.h"
+
+namespace platform {
+
+namespace {
+
+qint64 nanosecondsOf(const timespec& time) {
+  constexpr qint64 Second = 1'000'000'000;
+  return qint64(time.tv_sec) * Second + time.tv_nsec;
+}
+
+bool look(const QString& native, struct stat& status) {
+  return ::stat(QFile::encodeName(native).constData(), &status) == 0;
+}
+
+}  // namespace
+
+std::optional<FileIdentity> IdentityOf(const QString& path) {
+  struct stat status;
+  const QString plain = PlainPath(path);
+  if (!look(plain, status) && !look(FindPath(plain), status)) return std::nullopt;
+  if (!S_ISREG(status.st_mode)) return std::nullopt;
+#ifdef __APPLE__
+  const timespec modified = status.st_mtimespec;
+  const timespec changed = status.st_ctimespec;
+#else
+  const timespec modified = status.st_mtim;
+  const timespec changed = status.st_ctim;
+#endif
+  return FileIdentity{quint64(status.st_dev), quint64(status.st_ino), qint64(status.st_size), nanosecondsOf(modified),
+                      nanosecondsOf(changed)};
+}
+
+bool IsSettled(const FileIdentity& file) {
+  constexpr qint64 ClockGrain = 2'000'000'000;
+  timespec now{};
+  return ::clock_gettime(CLOCK_REALTIME, &now) == 0 &&
+         std::max(file.modified, file.changed) <= nanosecondsOf(now) - ClockGrain;
+}
+
+}  // namespace platform

@@ -1,0 +1,84 @@
+#include "renderer/prepared_pictures.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/fitted_picture.h"
+#include "platform/pictures.h"
+#include "platform/surface.h"
+
+namespace renderer {
+
+PreparedPictures::Source PreparedPictures::sourceOf(const PictureWish& wish) {
+  QImage picture = platform::LoadPicture(wish.path);
+  if (picture.isNull()) return {Reason::NoPicture, {}};
+  const Recolouring& recolouring = wish.recolouring;
+  if (recolouring.type == Recolouring::Type::Colorized) Colorize(picture, recolouring.color);
+  if (recolouring.type == Recolouring::Type::FontBlack &&
+      !RecolourFont(picture, recolouring.color, recolouring.intensity)) {
+    return {Reason::ColorRange, {}};
+  }
+  return {{}, std::move(picture)};
+}
+
+QRect PreparedPictures::partOf(const PictureWish& wish) {
+  if (!wish.ownSize) return platform::PartOnSurface(wish.place);
+  const QPoint hidden(std::max(0, -wish.place.x()), std::max(0, -wish.place.y()));
+  return {hidden, QSize(platform::Surface::Width, platform::Surface::Height)};
+}
+
+PreparedPicture PreparedPictures::fitted(Source source, const PictureWish& wish) {
+  if (source.missing) return {source.missing, {}, {}, {}};
+  const QSize ownSize = source.picture.size();
+  const QSize size = wish.ownSize ? ownSize : wish.place.size();
+  const QRect part = partOf(wish) & QRect(QPoint(0, 0), size);
+  return {{}, ownSize, part.topLeft(), platform::FittedPicture(std::move(source.picture), size, part)};
+}
+
+PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
+  constexpr qsizetype Overhead = 512;
+  const auto file = platform::IdentityOf(wish.path);
+  if (!file) return fitted(sourceOf(wish), wish);
+  const Key key{*file, wish.recolouring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
+  if (const PreparedPicture* const kept = kept_.object(key)) return *kept;
+  if (inHand && unscaled_ && unscaled_->file == *file && unscaled_->recolouring == wish.recolouring) {
+    return fitted(unscaled_->source, wish);
+  }
+  const bool settled = platform::IsSettled(*file);
+  Source source = sourceOf(wish);
+  const bool keeps = settled && platform::IdentityOf(wish.path) == file;
+  if (keeps && inHand) {
+    source.picture = std::move(source.picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    holdUnscaled({*file, wish.recolouring, source});
+  }
+  PreparedPicture prepared = fitted(std::move(source), wish);
+  if (keeps && !inHand) {
+    kept_.insert(key, new PreparedPicture(prepared), prepared.picture.sizeInBytes() + Overhead);
+  }
+  return prepared;
+}
+
+void PreparedPictures::holdUnscaled(Unscaled unscaled) {
+  unscaled_ = std::move(unscaled);
+  if (unscaledBytes() > mostBytes_) unscaled_.reset();
+  kept_.setMaxCost(mostBytes_ - unscaledBytes());
+}
+
+void PreparedPictures::letGo() {
+  unscaled_.reset();
+  kept_.setMaxCost(mostBytes_);
+}
+
+void PreparedPictures::clear() {
+  letGo();
+  kept_.clear();
+}
+
+PreparedPicture Prepare(PreparedPictures* store, const PictureWish& wish, bool inHand) {
+  PreparedPicture prepared =
+      store ? store->get(wish, inHand) : PreparedPictures::fitted(PreparedPictures::sourceOf(wish), wish);
+  prepared.corner += wish.place.topLeft();
+  return prepared;
+}
+
+}  // namespace renderer

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "renderer/highlight_cursor.h"
+#include "renderer/render_context.h"
+
+/// Frames of a screen with values on trial, as an object shows them while it is moved or sized by hand. Nothing but
+/// the surface's pixels, and the mark, tells of a trial: it reports nothing, shows no progress, serves no events, and
+/// leaves pen, account, state and controls as found.
+namespace renderer {
+
+/// Draws the screen as DrawScreen would if the files held the values, from the pen that the last render started from
+/// (the context's account knows it). Reads each file once. Gives an account of its own.
+RenderAccount DrawTrial(const RenderContext& context, const TrialValues& values);
+
+/// Places the mark as DrawCursor would if the record of the selected object held the values.
+void DrawTrialCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags,
+                     platform::Surface& workspace, CursorMark& mark, const TrialValues& values);
+
+}  // namespace renderer

@@ -1,0 +1,34 @@
+#include "renderer/trial_values.h"
+
+#include <algorithm>
+
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+
+namespace renderer {
+
+bool TrialValues::areOf(const QString& name) const {
+  return platform::SameName(name, section);
+}
+
+const QString* TrialValues::find(const QString& key) const {
+  const auto found = std::find_if(values.begin(), values.end(),
+                                  [&](const auto& value) { return platform::SameName(value.first, key); });
+  return found == values.end() ? nullptr : &found->second;
+}
+
+QByteArray TrialFrame::bytesOf(const QString& file) {
+  const auto known = files_.constFind(file);
+  if (known != files_.constEnd()) return *known;
+  QByteArray bytes;
+  try {
+    bytes = platform::ReadFile(file);
+  } catch (const platform::Failure&) {
+    // A file that can't be read holds no key.
+  }
+  files_.insert(file, bytes);
+  return bytes;
+}
+
+}  // namespace renderer

@@ -1,0 +1,204 @@
+#include "renderer/prepared_pictures.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <sys/stat.h>
+
+#include <QRandomGenerator>
+
+#include "platform/fitted_picture.h"
+#include "support/row_name.h"
+#include "support/stage.h"
+#include "themefiles/theme_paths.h"
+
+using namespace support;
+
+namespace {
+
+namespace fs = std::filesystem;
+constexpr QRgb Old = qRgb(255, 0, 0);
+constexpr QRgb New = qRgb(0, 255, 0);
+
+QByteArray bytesOf(QRgb color) {
+  QTemporaryDir folder;
+  const QString file = folder.filePath(u"x.bmp"_s);
+  plainPicture(8, 4, color).save(file);
+  QFile saved(file);
+  return saved.open(QIODevice::ReadOnly) ? saved.readAll() : QByteArray();
+}
+
+void write(const fs::path& file, const QByteArray& bytes) {
+  QFile target(QString::fromStdString(file.string()));
+  if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size()) qFatal("can't write a picture");
+}
+
+void copyTimes(const fs::path& from, const fs::path& to) {
+  fs::last_write_time(to, fs::last_write_time(from));
+}
+
+QImage noise(int width, int height) {
+  QImage picture(width, height, QImage::Format_ARGB32);
+  QRandomGenerator numbers(static_cast<quint32>(width));
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) picture.setPixel(x, y, numbers.generate());
+  }
+  return picture;
+}
+
+}  // namespace
+
+class PreparedPicturesTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void fittedAsDrawnStretched() {
+    for (const QRect& target : {QRect(3, 4, 161, 97), QRect(700, 560, 161, 97), QRect(-50, -30, 161, 97),
+                                QRect(-9, 5, 1000, 700), QRect(750, 1, 64, 48), QRect(5, -700, 30, 640),
+                                QRect(9, 9, 1, 1), QRect(800, 0, 9, 9), QRect(9, 9, -9, 9), QRect(9, 9, 0, 9)}) {
+      const RowName name(QByteArray::number(target.x()) + ' ' + QByteArray::number(target.width()));
+      for (const QImage& picture : {noise(64, 48), noise(512, 20)}) {
+        platform::Surface stretched, blended;
+        stretched.DrawImageRect(picture, target.x(), target.y(), target.width(), target.height());
+        const QRect part = platform::PartOnSurface(target);
+        const QImage fitted = platform::FittedPicture(picture, target.size(), part);
+        QVERIFY(fitted.width() <= 800 && fitted.height() <= 600);
+        blended.DrawImage(fitted, target.x() + part.x(), target.y() + part.y());
+        QCOMPARE(blended.image(), stretched.image());
+      }
+    }
+  }
+
+  /// Every way a file can change: never a picture of before, and the new one, or the reason, at once.
+  void changedFiles() {
+    using Change = std::function<void(const fs::path& file, Stage& stage)>;
+    const QByteArray green = bytesOf(New);
+    const std::vector<std::tuple<const char*, Change, std::optional<QRgb>>> changes{
+        {"untouched", [](const fs::path&, Stage&) {}, Old},
+        {"written in place", [&](const fs::path& file, Stage&) { write(file, green); }, New},
+        {"written in place, with the old time",
+         [&](const fs::path& file, Stage&) {
+           const auto time = fs::last_write_time(file);
+           write(file, green);
+           fs::last_write_time(file, time);
+         },
+         New},
+        {"renamed over by one of the same size and time",
+         [&](const fs::path& file, Stage&) {
+           write(file.string() + "2", green);
+           copyTimes(file, file.string() + "2");
+           fs::rename(file.string() + "2", file);
+         },
+         New},
+        {"deleted", [](const fs::path& file, Stage&) { fs::remove(file); }, {}},
+        {"torn", [](const fs::path& file, Stage&) { write(file, "no picture"); }, {}},
+        {"folder renamed and another in its place",
+         [&](const fs::path& file, Stage&) {
+           fs::rename(file.parent_path(), file.parent_path().string() + "2");
+           fs::create_directory(file.parent_path());
+           write(file, green);
+           copyTimes(file.parent_path().string() + "2/A.bmp", file);
+         },
+         New},
+        {"another skin",
+         [&](const fs::path& file, Stage& stage) {
+           const fs::path other = file.parent_path().parent_path() / "other";
+           fs::create_directory(other);
+           write(other / "A.bmp", green);
+           copyTimes(file, other / "A.bmp");
+           stage.state.Paths.SkinDirectory = stage.folder.path(u"other"_s);
+         },
+         New},
+    };
+    const QByteArray red = bytesOf(Old);
+    std::vector<std::unique_ptr<Stage>> stages;
+    std::vector<std::unique_ptr<renderer::PreparedPictures>> stores;
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+      Stage& stage = *stages.emplace_back(std::make_unique<Stage>());
+      stage.pictures = stores.emplace_back(std::make_unique<renderer::PreparedPictures>()).get();
+      const fs::path folder = stage.folder.native(u"skin"_s).toStdString();
+      fs::create_directory(folder);
+      write(folder / "A.bmp", red);
+      stage.state.Paths.SkinDirectory = stage.folder.path(u"skin"_s);
+      stage.skin = "A=A.bmp|";
+      stage.setTheme("[MainBackground]|Tex=A|[MainStatic]|Tex=A|Color=P1Dark|X=5|Y=5|W=8|H=8|");
+      stage.draw();
+      QVERIFY2(stores[i]->bytes() == 0, "kept so soon after a change");
+    }
+    QTest::qWait(2100);
+    for (std::size_t i = 0; i < changes.size(); ++i) {
+      const auto& [name, change, color] = changes[i];
+      const RowName row(name);
+      Stage& stage = *stages[i];
+      stage.draw();
+      QVERIFY(stores[i]->bytes() > 0);
+      change(stage.folder.native(u"skin/A.bmp"_s).toStdString(), stage);
+      for (int drawing = 0; drawing < 2; ++drawing) {
+        stage.draw();
+        QCOMPARE(stage.pixel(700, 9), color.value_or(qRgb(255, 255, 255)));
+        QCOMPARE(stage.pixel(9, 9), color.value_or(qRgb(255, 255, 255)));
+        QCOMPARE(stage.account.Missing.size(), color ? 0U : 2U);
+      }
+    }
+  }
+
+  /// Every screen of every theme and skin, made anew, then kept, then from a store with room for little.
+  void sampleScreens() {
+    const QString game = platform::ProgramPath(QStringLiteral(SAMPLE_FOLDER)) + u'\\';
+    constexpr qsizetype Little = 3'000'000;
+    renderer::PreparedPictures store, small(Little);
+    qsizetype most = 0;
+    for (const QString& theme : {u"Stagelight"_s, u"Workbench"_s, u"Without Skin"_s}) {
+      for (const QString& skin : themefiles::SkinsOf(game, theme) + QStringList(QString())) {
+        Stage stage;
+        stage.state.Paths = themefiles::PathsOf(game, theme, skin, u"English"_s);
+        themefiles::ReadColors(stage.state, stage.panel);
+        for (const themefiles::ScreenRow& screen : stage.state.ScreenTable) {
+          const RowName name((theme + u' ' + skin + u' ' + screen.Name).toLatin1());
+          stage.host.screen = screen.Name;
+          stage.state.Filter = themefiles::FilterOf(screen.Name);
+          stage.tags.Clear();
+          themefiles::ReadTags(stage.state, screen.Name, stage.tags, stage.panel, [] {});
+          std::vector<std::pair<QImage, QStringList>> drawings;
+          for (renderer::PreparedPictures* pictures :
+               std::initializer_list<renderer::PreparedPictures*>{nullptr, &store, &store, &small}) {
+            stage.pictures = pictures;
+            stage.state.ButtonListFilled = false;
+            stage.surface.setPen(platform::Surface().pen());
+            stage.draw();
+            QStringList account;
+            for (const auto& left : stage.account.Missing) account += left.Section + renderer::ReasonText(left);
+            for (const auto& drawn : stage.account.Objects) account += drawn.Section;
+            drawings.emplace_back(stage.surface.image(), account);
+            QVERIFY(small.bytes() <= Little && store.bytes() <= renderer::PreparedPictures::MostBytes);
+          }
+          QVERIFY(std::all_of(drawings.begin(), drawings.end(), [&](const auto& one) { return one == drawings[0]; }));
+          most = std::max(most, small.bytes());
+        }
+      }
+    }
+    QVERIFY(store.bytes() > Little && most > Little / 2);
+  }
+
+  /// While an object is sized its unscaled picture stands in for the file, and counts.
+  void objectInHand() {
+    Stage stage;
+    stage.folder.put(u"big.bmp"_s, {});
+    noise(64, 48).save(stage.folder.native(u"big.bmp"_s));
+    QTest::qWait(2100);
+    renderer::PreparedPictures store(64 * 48 * 4 + 9000);
+    const auto wish = [&](int width) {
+      return renderer::PictureWish{stage.folder.path(u"big.bmp"_s), {}, QRect(0, 0, width, 40)};
+    };
+    for (const int width : {30, 40}) QVERIFY(!store.get(wish(width), false).picture.isNull());
+    QVERIFY(store.bytes() > 70 * 40 * 4);
+    for (const int width : {50, 51, 52}) {
+      QCOMPARE(store.get(wish(width), true).picture, renderer::Prepare(nullptr, wish(width)).picture);
+      QVERIFY(store.bytes() >= 64 * 48 * 4 && store.bytes() <= 64 * 48 * 4 + 9000);
+    }
+    store.letGo();
+    QVERIFY(store.bytes() < 64 * 48 * 4);
+  }
+};
+
+QTEST_MAIN(PreparedPicturesTest)
+#include "prepared_pictures_test.moc"
