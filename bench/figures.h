@@ -29,6 +29,9 @@ void Register(const Figure& figure, const Body& work, const Body& floor);
 void RegisterIniAccess();
 void RegisterRecolouring();
 void RegisterScreen(const std::shared_ptr<SampleScreen>& screen);
+/// A drag on a screen of many large pictures. Prints the share of its frames that a display of 60 a second would miss;
+/// whether that is little enough.
+bool DrawHeavyDrag();
 void RegisterShownScreen(const std::shared_ptr<SampleScreen>& screen);
 
 }  // namespace bench

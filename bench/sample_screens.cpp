@@ -1,6 +1,7 @@
 #include "sample_screens.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 
 #include <QDir>
@@ -9,6 +10,7 @@
 #include "platform/numbers.h"
 #include "platform/paths.h"
 #include "platform/pictures.h"
+#include "renderer/trial_drawing.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/screen_table.h"
 #include "themefiles/theme_paths.h"
@@ -32,10 +34,26 @@ SampleScreen::SampleScreen(const QString& theme, const QString& screen) : theme_
   draw();
 }
 
-void SampleScreen::draw() {
+renderer::RenderContext SampleScreen::context(renderer::PreparedPictures* store) {
   host_.percents.clear();
-  renderer::RenderContext context{state_, tags_, surface_, host_, panel_, boxes_, graphics_, account_};
-  renderer::DrawScreen(context);
+  return {state_, tags_, surface_, host_, panel_, boxes_, graphics_, account_, store};
+}
+
+void SampleScreen::draw() {
+  renderer::RenderContext all = context(nullptr);
+  renderer::DrawScreen(all);
+}
+
+void SampleScreen::redraw() {
+  renderer::RenderContext all = context(&store_);
+  renderer::DrawScreen(all);
+}
+
+void SampleScreen::drawFrame() {
+  constexpr int Places = 400;
+  const QString section = account_.Objects[account_.Objects.size() / 2].Section;
+  frame_ = (frame_ + 1) % Places;
+  renderer::DrawTrial(context(&store_), {section, {{QStringLiteral("X"), QString::number(frame_)}}});
 }
 
 void SampleScreen::drawForGap() {
@@ -59,13 +77,32 @@ std::vector<Picture> SampleScreen::pictures() const {
   return drawn;
 }
 
+std::vector<Text> SampleScreen::texts() const {
+  constexpr std::array<std::pair<const char*, float>, 2> Faces{
+      {{"Eurostar Regular Extended", 1.4F}, {"Eurostar Black", 2.0F}}};
+  std::vector<Text> printed;
+  for (const renderer::Drawn& object : account_.Objects) {
+    if (!fileOf(object.Section).isEmpty()) continue;
+    const QString key = valueOf(object.Section, "Text").isEmpty() ? object.Section : valueOf(object.Section, "Text");
+    const auto& [face, points] = Faces[valueOf(object.Section, "Font") == u"1" ? 1 : 0];
+    printed.push_back({themefiles::GetINI(QStringLiteral("Text"), key, key, state_.Paths.LanguageFile),
+                       {static_cast<float>(object.Place.x()), static_cast<float>(object.Place.y()), Qt::white,
+                        QString::fromLatin1(face),
+                        static_cast<float>(platform::NumberOf(valueOf(object.Section, "Size"))) * points}});
+  }
+  return printed;
+}
+
+QString SampleScreen::fileOf(const QString& section) const {
+  return themefiles::GetINI(QStringLiteral("Textures"), valueOf(section, "Tex"), QString(), state_.Paths.SkinFile);
+}
+
 QString SampleScreen::valueOf(const QString& section, const char* key) const {
   return themefiles::GetINI(section, QString::fromLatin1(key), QString(), state_.Paths.ThemeFile);
 }
 
 void SampleScreen::add(std::vector<Picture>& drawn, const QString& section, const QRect& place) const {
-  const QString file =
-      themefiles::GetINI(QStringLiteral("Textures"), valueOf(section, "Tex"), QString(), state_.Paths.SkinFile);
+  const QString file = fileOf(section);
   if (file.isEmpty()) return;  // a text
   const QString name = valueOf(section, "Color").isEmpty() ? valueOf(section, "DColor") : valueOf(section, "Color");
   const QStringList fields =
@@ -91,6 +128,14 @@ std::shared_ptr<SampleScreen> FullestScreen() {
     }
   }
   return fullest;
+}
+
+renderer::PreparedPicture PreparedOf(const Picture& picture) {
+  using Type = renderer::Recolouring::Type;
+  const Type type = picture.type == u"COLORIZED"    ? Type::Colorized
+                    : picture.type == u"FONT BLACK" ? Type::FontBlack
+                                                    : Type::None;
+  return renderer::Prepare(nullptr, {picture.path, {type, picture.color}, picture.place});
 }
 
 void DrawPlainly(const Picture& picture, platform::Surface& surface) {

@@ -19,6 +19,12 @@ struct Picture {
   QRect place;
 };
 
+/// A text of the screen: the words, and the pen that prints them.
+struct Text {
+  QString words;
+  platform::Pen pen;
+};
+
 /// One screen of a sample theme, drawn on a surface without a window.
 class SampleScreen {
  public:
@@ -27,7 +33,12 @@ class SampleScreen {
   const QString& theme() const { return theme_; }
   const QString& name() const { return host_.screen; }
 
+  /// Draws with every picture made anew.
   void draw();
+  /// Draws with the pictures kept from the times before.
+  void redraw();
+  /// Draws a frame in which a picture of the middle is moved to another place than in the frame before.
+  void drawFrame();
   /// Draws once more, with an eye on the time between two yields.
   void drawForGap();
   /// The longest of these times so far, in milliseconds.
@@ -37,8 +48,12 @@ class SampleScreen {
 
   /// The pictures that the last render drew.
   std::vector<Picture> pictures() const;
+  /// The texts that it printed.
+  std::vector<Text> texts() const;
 
  private:
+  renderer::RenderContext context(renderer::PreparedPictures* store);
+  QString fileOf(const QString& section) const;
   QString valueOf(const QString& section, const char* key) const;
   void add(std::vector<Picture>& drawn, const QString& section, const QRect& place) const;
 
@@ -51,11 +66,16 @@ class SampleScreen {
   support::ScriptedDialogs boxes_;
   platform::Graphics graphics_;
   renderer::RenderAccount account_;
+  renderer::PreparedPictures store_;
+  int frame_ = 0;
   double longestGap_ = 0;
 };
 
 /// The screen on which most objects are drawn, of all sample themes; null without any.
 std::shared_ptr<SampleScreen> FullestScreen();
+
+/// The picture as the render blends it.
+renderer::PreparedPicture PreparedOf(const Picture& picture);
 
 /// Decodes, recolours and draws scaled; nothing else.
 void DrawPlainly(const Picture& picture, platform::Surface& surface);

@@ -68,6 +68,7 @@ void RegisterShownScreen(const std::shared_ptr<SampleScreen>& screen) {
     return [editor, bar](benchmark::State& state) {
       editor->form.ProgressBar1->resize(bar);
       for ([[maybe_unused]] auto turn : state) {
+        editor->form.Pictures.clear();
         editor->form.Queue.Draw();
         QApplication::processEvents();
       }
