@@ -49,9 +49,9 @@ void markSaved(Form2& form) {
   }
   QSet<QString> seen;  // of doubled keys the first counts
   for (int row = 0; row < form.ListView1->RowCount(); ++row) {
-    const QString key = KeyIdentity(form.ListView1->RowText(row));
+    const QString key = themefiles::KeyIdentity(form.ListView1->RowText(row));
     std::optional<SavedValue> value;
-    if (!seen.contains(key)) value = saved.of(form.List1->Text(), key, GroupOf(key));
+    if (!seen.contains(key)) value = saved.of(form.List1->Text(), key, themefiles::GroupOf(key));
     seen += key;
     form.ListView1->setSaved(row, value ? QStringLiteral("saved: ") + value->told : QString());
   }
@@ -59,18 +59,18 @@ void markSaved(Form2& form) {
 
 void showRowMenu(Form2& form, int row, const QPoint& place) {
   const QString section = form.List1->Text();
-  const QString key = KeyIdentity(form.ListView1->RowText(row));
+  const QString key = themefiles::KeyIdentity(form.ListView1->RowText(row));
   for (int above = 0; above < row; ++above) {
-    if (KeyIdentity(form.ListView1->RowText(above)) == key) return;
+    if (themefiles::KeyIdentity(form.ListView1->RowText(above)) == key) return;
   }
-  const auto group = GroupOf(key);
+  const auto group = themefiles::GroupOf(key);
   if (!group) return;
   const auto saved = SavedState(form.Services.State).of(section, key, group);
   if (!saved || saved->lines.empty()) return;
   popUp(
       form, place,
       [=](const Form2& open) {
-        return open.List1->Text() == section && KeyIdentity(open.ListView1->RowText(row)) == key;
+        return open.List1->Text() == section && themefiles::KeyIdentity(open.ListView1->RowText(row)) == key;
       },
       [=](Form2& open) { putSavedBack(open, row, *saved); });
 }

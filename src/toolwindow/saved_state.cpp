@@ -65,9 +65,9 @@ SavedState::SavedState(const themefiles::ModuleState& state)
       textures_(skin_, &ThemePaths::SkinFile, "Textures"),
       texts_(language_, &ThemePaths::LanguageFile, "Text") {}
 
-const SavedState::Target* SavedState::targetOf(std::optional<KeyGroup> group) const {
-  if (group == KeyGroup::Text) return &texts_;
-  return group == KeyGroup::Texture ? &textures_ : nullptr;
+const SavedState::Target* SavedState::targetOf(std::optional<themefiles::KeyGroup> group) const {
+  if (group == themefiles::KeyGroup::Text) return &texts_;
+  return group == themefiles::KeyGroup::Texture ? &textures_ : nullptr;
 }
 
 /// Whether what the reference stands for differs.
@@ -87,7 +87,7 @@ void SavedState::addTarget(SavedValue& saved, const Target& target, const Profil
 }
 
 std::optional<SavedValue> SavedState::of(const QString& section, const QString& key,
-                                         std::optional<KeyGroup> group) const {
+                                         std::optional<themefiles::KeyGroup> group) const {
   const QByteArray keyBytes = platform::ToAnsi(key).value_or(QByteArray());
   const ProfileKeys nowKeys = keysOf(theme_.nowSections, section);
   const ProfileKeys savedKeys = keysOf(theme_.savedSections, section);
@@ -112,7 +112,7 @@ bool SavedState::differsIn(const QString& section) const {
   const ProfileKeys saved = keysOf(theme_.savedSections, section);
   return std::any_of(now.begin(), now.end(), [&](const ProfileLine& line) {
     if (line.key.startsWith('#')) return false;  // no row of the grid
-    const Target* target = targetOf(GroupOf(KeyIdentity(platform::FromAnsi(line.key))));
+    const Target* target = targetOf(themefiles::GroupOf(themefiles::KeyIdentity(platform::FromAnsi(line.key))));
     return differ(&line, platform::lineOf(saved, line.key)) || differsIn(target, line);
   });
 }

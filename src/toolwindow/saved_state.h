@@ -6,7 +6,7 @@
 
 #include "platform/profile_strings.h"
 #include "themefiles/module_state.h"
-#include "toolwindow/key_table.h"
+#include "themefiles/key_table.h"
 
 namespace toolwindow {
 
@@ -32,7 +32,7 @@ class SavedState {
 
   /// What was saved for a key of the theme. Of a reference (by the key's `group`) the words or the picture's file
   /// count, too. None when nothing differs.
-  std::optional<SavedValue> of(const QString& section, const QString& key, std::optional<KeyGroup> group) const;
+  std::optional<SavedValue> of(const QString& section, const QString& key, std::optional<themefiles::KeyGroup> group) const;
 
   /// Whether a key of the object differs.
   bool differsIn(const QString& section) const;
@@ -56,7 +56,7 @@ class SavedState {
     platform::ProfileKeys now, saved;
   };
 
-  const Target* targetOf(std::optional<KeyGroup> group) const;
+  const Target* targetOf(std::optional<themefiles::KeyGroup> group) const;
   static bool differsIn(const Target* target, const platform::ProfileLine& reference);
   static void addTarget(SavedValue& saved, const Target& target, const platform::ProfileLine& reference);
 

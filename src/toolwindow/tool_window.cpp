@@ -19,21 +19,21 @@ constexpr int NumberLimit = 10000;
 constexpr int NumberAtLoad = -1000;
 
 struct FrameRow {
-  EditorFrame frame;
+  themefiles::EditorFrame frame;
   QWidget* Form2::*widget;
   controls::TwipsRect ToolLayout::*place;
 };
 
 constexpr std::array<FrameRow, 6> Frames{{
-    {EditorFrame::Numbers, &Form2::Numbers, &ToolLayout::Numbers},
-    {EditorFrame::FloatNumbers, &Form2::FloatNumbers, &ToolLayout::FloatNumbers},
-    {EditorFrame::Selection, &Form2::Selection, &ToolLayout::Selection},
-    {EditorFrame::Color, &Form2::Color, &ToolLayout::Color},
-    {EditorFrame::Texture, &Form2::Texture, &ToolLayout::Texture},
-    {EditorFrame::Texts, &Form2::Texts, &ToolLayout::Texts},
+    {themefiles::EditorFrame::Numbers, &Form2::Numbers, &ToolLayout::Numbers},
+    {themefiles::EditorFrame::FloatNumbers, &Form2::FloatNumbers, &ToolLayout::FloatNumbers},
+    {themefiles::EditorFrame::Selection, &Form2::Selection, &ToolLayout::Selection},
+    {themefiles::EditorFrame::Color, &Form2::Color, &ToolLayout::Color},
+    {themefiles::EditorFrame::Texture, &Form2::Texture, &ToolLayout::Texture},
+    {themefiles::EditorFrame::Texts, &Form2::Texts, &ToolLayout::Texts},
 }};
 
-const FrameRow& rowOf(EditorFrame frame) {
+const FrameRow& rowOf(themefiles::EditorFrame frame) {
   return Frames.at(static_cast<size_t>(frame));
 }
 
@@ -149,11 +149,11 @@ QPushButton* Form2::iconButton(QWidget* frame, const QString& icon, const QStrin
   return button;
 }
 
-QWidget* Form2::frameOf(EditorFrame frame) const {
+QWidget* Form2::frameOf(themefiles::EditorFrame frame) const {
   return this->*rowOf(frame).widget;
 }
 
-void Form2::ShowEditorFrame(EditorFrame frame) {
+void Form2::ShowEditorFrame(themefiles::EditorFrame frame) {
   frameOf(frame)->show();
   Services.State.EditorShown = true;
   LayOutOpening(layout_, layout_.*rowOf(frame).place);

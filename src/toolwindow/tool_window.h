@@ -18,9 +18,9 @@
 #include "platform/status_line.h"
 #include "platform/surface.h"
 #include "renderer/highlight_cursor.h"
+#include "themefiles/key_table.h"
 #include "themefiles/module_state.h"
 #include "themefiles/tag_listing.h"
-#include "toolwindow/key_table.h"
 #include "toolwindow/tool_layout.h"
 
 namespace toolwindow {
@@ -102,7 +102,7 @@ class Form2 : public QWidget {
   QTimer Marking;  ///< started by what may change which rows are marked; they are when nothing else is to be done
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
-  void ShowEditorFrame(EditorFrame frame);
+  void ShowEditorFrame(themefiles::EditorFrame frame);
   /// Closes the editor area: the window shrinks to the lists.
   void CloseEditorFrame();
   /// Hides the six frames. A focus in the editor area goes to the grid; nothing else changes.
@@ -128,7 +128,7 @@ class Form2 : public QWidget {
   };
 
   QPushButton* iconButton(QWidget* frame, const QString& icon, const QString& toolTip);
-  QWidget* frameOf(EditorFrame frame) const;
+  QWidget* frameOf(themefiles::EditorFrame frame) const;
   bool inEditorArea(const QWidget* control) const;
   void applyLayout();
   void fitWindow();

@@ -26,7 +26,7 @@ struct Commit {
 
 Commit commitOf(const Form2& form, int row) {
   if (row < 0) throw platform::Failure(QStringLiteral("no row is selected"));
-  Commit commit{row, platform::TrimBlanks(form.List1->Text()), KeyIdentity(form.ListView1->RowText(row))};
+  Commit commit{row, platform::TrimBlanks(form.List1->Text()), themefiles::KeyIdentity(form.ListView1->RowText(row))};
   if (commit.section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
   if (commit.section.contains(u']') || commit.section.startsWith(u'\t') || commit.section.endsWith(u'\t')) {
     throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(commit.section));
@@ -83,25 +83,25 @@ void updateCursorRect(themefiles::CursorRecord& record, const QString& key, cons
 }
 
 /// Reads the editor of the group and writes its value.
-void writeEditor(Form2& form, const Commit& commit, KeyGroup group) {
-  switch (RowOf(group).frame) {
-    case EditorFrame::Numbers:
+void writeEditor(Form2& form, const Commit& commit, themefiles::KeyGroup group) {
+  switch (themefiles::RowOf(group).frame) {
+    case themefiles::EditorFrame::Numbers:
       commitValue(form, commit, form.Text1->Text());
       updateCursorRect(form.Services.State.CursorRect, commit.key, form.Text1->Text());
       break;
-    case EditorFrame::FloatNumbers:
+    case themefiles::EditorFrame::FloatNumbers:
       commitValue(form, commit, form.Text4->Text());
       break;
-    case EditorFrame::Selection:
+    case themefiles::EditorFrame::Selection:
       commitValue(form, commit, selectedValue(form));
       break;
-    case EditorFrame::Color:
+    case themefiles::EditorFrame::Color:
       commitValue(form, commit, selectedName(form.Combo3->Text()));
       break;
-    case EditorFrame::Texts:
+    case themefiles::EditorFrame::Texts:
       commitReference(form, commit, KeyEditor::Text);
       break;
-    case EditorFrame::Texture:
+    case themefiles::EditorFrame::Texture:
       commitReference(form, commit, KeyEditor::Texture);
       break;
   }
@@ -133,7 +133,7 @@ void commitRow(Form2& form, int row, const std::function<void(const Commit& comm
 
 void Command1_Click(Form2& form) {
   commitRow(form, form.ListView1->SelectedRow(), [&](const Commit& commit) {
-    const auto group = GroupOf(commit.key);
+    const auto group = themefiles::GroupOf(commit.key);
     if (group) writeEditor(form, commit, *group);
   });
 }

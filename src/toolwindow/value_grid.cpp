@@ -11,7 +11,7 @@
 namespace toolwindow {
 namespace {
 
-void fillSelection(Form2& form, const GroupRow& group) {
+void fillSelection(Form2& form, const themefiles::GroupRow& group) {
   form.Combo2->Clear();
   for (const QStringView entry : group.entries) form.Combo2->AddItem(entry.toString());
 }
@@ -23,26 +23,27 @@ void selectNumbered(Form2& form, const QString& value) {
   form.Combo2->SetListIndex(*index);
 }
 
-void loadEditor(Form2& form, const GroupRow& group, const QString& value) {
+void loadEditor(Form2& form, const themefiles::GroupRow& group, const QString& value) {
   switch (group.frame) {
-    case EditorFrame::Numbers:
+    case themefiles::EditorFrame::Numbers:
       form.Text1->SetText(value);
       break;
-    case EditorFrame::FloatNumbers:
+    case themefiles::EditorFrame::FloatNumbers:
       form.Text4->SetText(value);
       break;
-    case EditorFrame::Selection:
+    case themefiles::EditorFrame::Selection:
       fillSelection(form, group);
       // A type outside the list leaves nothing selected.
-      group.group == KeyGroup::Type ? static_cast<void>(form.Combo2->SelectText(value)) : selectNumbered(form, value);
+      group.group == themefiles::KeyGroup::Type ? static_cast<void>(form.Combo2->SelectText(value))
+                                                : selectNumbered(form, value);
       break;
-    case EditorFrame::Color:
+    case themefiles::EditorFrame::Color:
       FillColorEditor(form, value);
       break;
-    case EditorFrame::Texture:
+    case themefiles::EditorFrame::Texture:
       FillTextureKeys(form, value);
       break;
-    case EditorFrame::Texts:
+    case themefiles::EditorFrame::Texts:
       FillTextKeys(form, value);
       break;
   }
@@ -53,12 +54,12 @@ void loadEditor(Form2& form, const GroupRow& group, const QString& value) {
 void ListView1_ItemClick(Form2& form, int row) {
   platform::Guarded(form.Services.Status, ReadStep.toString(), [&] {
     form.HideEditorFrames();
-    const auto group = GroupOf(KeyIdentity(form.ListView1->RowText(row)));
+    const auto group = themefiles::GroupOf(themefiles::KeyIdentity(form.ListView1->RowText(row)));
     if (group) {
       const QString value = form.ListView1->SubItem(row);
       if (value.size() > controls::LongestText) throw platform::Failure(tooLongText(form.ListView1->RowText(row)));
-      loadEditor(form, RowOf(*group), value);
-      form.ShowEditorFrame(RowOf(*group).frame);
+      loadEditor(form, themefiles::RowOf(*group), value);
+      form.ShowEditorFrame(themefiles::RowOf(*group).frame);
     } else if (form.Services.State.EditorShown) {
       form.CloseEditorFrame();
     }

@@ -7,7 +7,7 @@
 #include <QStringView>
 
 /// The keys that the tool window can edit. Any other key of a section can be read in the grid only.
-namespace toolwindow {
+namespace themefiles {
 
 enum class KeyGroup { WholeNumber, Alignment, Font, Switch, Direction, Type, Text, Color, Texture, Decimal };
 
@@ -29,4 +29,4 @@ std::optional<KeyGroup> GroupOf(QStringView key);
 
 const GroupRow& RowOf(KeyGroup group);
 
-}  // namespace toolwindow
+}  // namespace themefiles

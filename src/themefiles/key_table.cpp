@@ -1,4 +1,4 @@
-#include "toolwindow/key_table.h"
+#include "themefiles/key_table.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 
-namespace toolwindow {
+namespace themefiles {
 namespace {
 
 struct KeyRow {
@@ -104,4 +104,4 @@ const GroupRow& RowOf(KeyGroup group) {
   return Groups.at(static_cast<size_t>(group));
 }
 
-}  // namespace toolwindow
+}  // namespace themefiles
