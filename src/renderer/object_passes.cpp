@@ -37,6 +37,7 @@ struct Look {
 /// Draws the object's texture and accounts what came of it.
 void drawObject(RenderContext& context, const ObjectSection& section, const QString& path, const Box& box,
                 const Look& look) {
+  if (context.TextsOnly) return;
   const QString colorName = section.Value(look.colorKey);
   const QString color = themefiles::ResolveColor(context.State, colorName, context.Host.SchemeName());
   const float intensity =
@@ -124,6 +125,11 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
 
 }  // namespace
 
+bool isButton(const QString& tag) {
+  const QString upper = platform::UpperCase(tag);
+  return holdsAny(upper, {u"BUTTON", u"SELECT", u"NAME"}) && !upper.contains(u"TEXT");
+}
+
 void DrawBackground(RenderContext& context, const QString& stem) {
   const QString section = stem + QStringLiteral("Background");
   const QString path = TexturePath(context, ObjectSection(context, section));
@@ -166,9 +172,7 @@ void DrawButtons(RenderContext& context) {
   int textShift = 0;
   for (int row = 0; row < context.List1.ListCount(); ++row) {
     const QString tag = context.List1.List(row);
-    const QString upper = platform::UpperCase(tag);
-    if (!holdsAny(upper, {u"BUTTON", u"SELECT", u"NAME"}) || upper.contains(u"TEXT")) continue;
-    drawButton(context, tag, textShift);
+    if (isButton(tag)) drawButton(context, tag, textShift);
   }
 }
 

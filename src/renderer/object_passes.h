@@ -5,6 +5,9 @@
 /// The passes of a render. Which pass a tag belongs to is told by the words in its name, in upper case at any place.
 namespace renderer {
 
+/// Whether a tag is one of the buttons.
+bool isButton(const QString& tag);
+
 /// Paints the background picture over the whole surface; without one wipes it to the background colour.
 void DrawBackground(RenderContext& context, const QString& stem);
 

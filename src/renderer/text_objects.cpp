@@ -27,10 +27,11 @@ int channelOf(double fraction) {
   return channel >= 255 ? 255 : channel > 0 ? static_cast<int>(channel) : 0;
 }
 
-QColor colorOf(const RenderContext& context, const ObjectSection& section) {
+QColor colorOf(RenderContext& context, const ObjectSection& section) {
   const QString name = section.Value(QStringLiteral("Color"));
   if (!name.isEmpty()) {
     const QString color = themefiles::ResolveColor(context.State, name, context.Host.SchemeName());
+    if (color.isEmpty()) LeaveOut(context, section.Name(), Reason::UnknownColor, QStringLiteral("Color"), name);
     return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
   }
   return {channelOf(section.Number(QStringLiteral("ColR"))), channelOf(section.Number(QStringLiteral("ColG"))),

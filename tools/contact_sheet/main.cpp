@@ -2,22 +2,23 @@
 #include <cstdio>
 
 #include <QDir>
-#include <QGuiApplication>
 
 #include "arguments.h"
-#include "plain_host.h"
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/paths.h"
 #include "sheet.h"
+#include "windowless_tool.h"
 
 namespace {
 
-constexpr int WrongInput = 2;
+using windowless::print;
 
-void print(std::FILE* stream, const QString& text) {
-  std::fprintf(stream, "%s\n", text.toLocal8Bit().constData());
-}
+/// Writes every report to the standard error output.
+class ErrorOutput : public platform::StatusLine {
+ protected:
+  void showReport(const QString& text) override { print(stderr, text); }
+};
 
 /// The path of a file of the output folder, which is made when it isn't there.
 QString outputPath(const QString& folder, const QString& name) {
@@ -26,7 +27,7 @@ QString outputPath(const QString& folder, const QString& name) {
 }
 
 void drawSheet(const contactsheet::Arguments& arguments) {
-  contactsheet::ErrorOutput status;
+  ErrorOutput status;
   const contactsheet::Theme theme(arguments.gameFolder, arguments.theme, arguments.skin, arguments.language, status);
   const QString scheme = theme.SchemeNamed(arguments.scheme);
   renderer::PreparedPictures pictures;
@@ -56,22 +57,13 @@ void drawSheet(const contactsheet::Arguments& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  // No display is needed, and no setting of a desktop may change the pictures.
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  int programOnly = 1;  // its own options stay away from the command line, the choice of a platform among them
-  const QGuiApplication application(programOnly, argv);
-  QStringList words;
-  for (int word = 0; word < argc; ++word) words += QString::fromLocal8Bit(argv[word]);
-  try {
+  return windowless::runTool(QStringLiteral("cantorama-contact-sheet"), argc, argv, [](const QStringList& words) {
     const contactsheet::Arguments arguments = contactsheet::ParseArguments(words);
     if (arguments.help) {
       print(stdout, contactsheet::Usage());
     } else {
       drawSheet(arguments);
     }
-  } catch (const platform::Failure& failure) {
-    print(stderr, QStringLiteral("cantorama-contact-sheet: ") + failure.description());
-    return WrongInput;
-  }
-  return 0;
+    return 0;
+  });
 }

@@ -1,14 +1,9 @@
-#include "plain_host.h"
+#include "renderer/plain_host.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <utility>
 
-namespace contactsheet {
-
-void ErrorOutput::showReport(const QString& text) {
-  std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
-}
+namespace renderer {
 
 platform::BoxAnswer NoDialogs::MessageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
                                           platform::BoxKind kind) {
@@ -34,4 +29,4 @@ void PlainHost::SetProgressValue(int value) {
   progress_ = std::clamp(value, 0, 100);
 }
 
-}  // namespace contactsheet
+}  // namespace renderer

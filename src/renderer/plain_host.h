@@ -12,13 +12,7 @@
 
 // What stands in for the editor's windows where there are none.
 
-namespace contactsheet {
-
-/// Writes every report to the standard error output.
-class ErrorOutput : public platform::StatusLine {
- protected:
-  void showReport(const QString& text) override;
-};
+namespace renderer {
 
 /// Tells of message boxes as of any other report; asks nothing.
 class NoDialogs : public platform::Dialogs {
@@ -35,7 +29,7 @@ class NoDialogs : public platform::Dialogs {
 };
 
 /// A mark that is never seen.
-class NoMark : public renderer::CursorMark {
+class NoMark : public CursorMark {
  public:
   void SetLeft(double /*left*/) override {}
   void SetTop(double /*top*/) override {}
@@ -46,7 +40,7 @@ class NoMark : public renderer::CursorMark {
 };
 
 /// Answers for the chosen screen and scheme; shows no progress and no button list.
-class PlainHost : public renderer::RenderHost {
+class PlainHost : public RenderHost {
  public:
   PlainHost(QString screen, QString scheme);
   int ProgressValue() const override { return progress_; }
@@ -67,4 +61,4 @@ class PlainHost : public renderer::RenderHost {
   int progress_ = 0;
 };
 
-}  // namespace contactsheet
+}  // namespace renderer

@@ -1,0 +1,26 @@
+#include "renderer/chosen_screen.h"
+
+#include <utility>
+
+#include "themefiles/screen_table.h"
+#include "themefiles/tag_reader.h"
+
+namespace renderer {
+
+ChosenScreen::ChosenScreen(themefiles::ModuleState opened, const QString& screen, const QString& scheme,
+                           platform::StatusLine& status)
+    : state(std::move(opened)), status_(status), host_(screen, scheme), dialogs_(status) {
+  state.Filter = themefiles::FilterOf(screen);
+  themefiles::ReadTags(state, screen, tags, status, [] {});
+  state.Filter = {};
+  if (tags.ListIndex() < 0) return;
+  NoMark mark;
+  themefiles::ReadTag(state, tags.List(tags.ListIndex()), status);
+  DrawCursor(state, tags, workspace, mark, status);
+}
+
+RenderContext ChosenScreen::context(const themefiles::TagList& rows) {
+  return {state, rows, workspace, host_, status_, dialogs_, graphics_, account, pictures};
+}
+
+}  // namespace renderer
