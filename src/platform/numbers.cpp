@@ -21,6 +21,35 @@ double beyondRange(const QByteArray& digits) {
   return first < digits.size() && digits[first] != '.' ? std::numeric_limits<double>::infinity() : 0;
 }
 
+/// The number at the head of a text.
+struct NumberHead {
+  QByteArray digits;  ///< with the point
+  bool negative = false;
+  bool holdsDigit = false;  ///< without one it is no number
+  qsizetype end = 0;        ///< where the text goes on behind it
+};
+
+NumberHead headOf(QStringView text) {
+  NumberHead head;
+  qsizetype& at = head.end;
+  while (at < text.size() && text[at] == Blank) ++at;
+  head.negative = at < text.size() && text[at] == u'-';
+  if (at < text.size() && (text[at] == u'-' || text[at] == u'+')) ++at;
+  bool point = false;
+  for (; at < text.size(); ++at) {
+    if (isDigit(text[at])) {
+      head.holdsDigit = true;
+    } else if (text[at] == u'.' && !point) {
+      point = true;
+      if (!head.holdsDigit) head.digits += '0';
+    } else {
+      break;
+    }
+    head.digits += static_cast<char>(text[at].unicode());
+  }
+  return head;
+}
+
 template <typename Whole>
 std::optional<Whole> roundTo(double number) {
   const double rounded = std::nearbyint(number);
@@ -33,30 +62,17 @@ std::optional<Whole> roundTo(double number) {
 }  // namespace
 
 double NumberOf(QStringView text) {
-  qsizetype at = 0;
-  while (at < text.size() && text[at] == Blank) ++at;
-  const bool negative = at < text.size() && text[at] == u'-';
-  if (at < text.size() && (text[at] == u'-' || text[at] == u'+')) ++at;
-
-  QByteArray digits;
-  bool point = false;
-  bool any = false;
-  for (; at < text.size(); ++at) {
-    if (isDigit(text[at])) {
-      any = true;
-    } else if (text[at] == u'.' && !point) {
-      point = true;
-      if (!any) digits += '0';
-    } else {
-      break;
-    }
-    digits += static_cast<char>(text[at].unicode());
-  }
-  if (!any) return 0;
+  const NumberHead head = headOf(text);
+  if (!head.holdsDigit) return 0;
   bool fits = false;
-  double number = digits.toDouble(&fits);
-  if (!fits) number = beyondRange(digits);
-  return negative ? -number : number;
+  double number = head.digits.toDouble(&fits);
+  if (!fits) number = beyondRange(head.digits);
+  return head.negative ? -number : number;
+}
+
+bool isNumber(QStringView text) {
+  const NumberHead head = headOf(text);
+  return head.holdsDigit && TrimBlanks(text.sliced(head.end)).isEmpty();
 }
 
 std::optional<qint16> RoundToInt16(double number) {

@@ -13,6 +13,9 @@ namespace platform {
 /// exponent, no blanks inside. 0 without one; infinite when it is beyond the range of a double.
 double NumberOf(QStringView text);
 
+/// Whether all of `text`, but for blanks at its ends, is such a number.
+bool isNumber(QStringView text);
+
 /// Nearest whole number, a half to the even neighbour, as 16-bit signed; none when it doesn't fit.
 std::optional<qint16> RoundToInt16(double number);
 

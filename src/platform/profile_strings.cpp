@@ -129,6 +129,11 @@ class KeyLines {
   const char* end_;
 };
 
+/// The value of a key line as who asks for it gets it.
+QByteArray shownValue(const KeyLine& line) {
+  return unquoted(trimmed({line.value, line.textEnd})).toByteArray();
+}
+
 /// The end of the file's first line, CR LF when it has none.
 QByteArray firstLineEnd(QByteArrayView file) {
   const char* textEnd = lineTextEnd(file.begin(), file.end());
@@ -199,7 +204,7 @@ std::optional<QByteArrayView> FindProfileSection(QByteArrayView file, QByteArray
 std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView key) {
   const auto line = KeyLines(lines.begin(), lines.end()).find(askedName(key));
   if (!line) return std::nullopt;
-  return unquoted(trimmed({line->value, line->textEnd})).toByteArray();
+  return shownValue(*line);
 }
 
 QByteArrayView unquoted(QByteArrayView value) {
@@ -254,6 +259,27 @@ ProfileSections::ProfileSections(QByteArrayView file) {
 
 QByteArrayView ProfileSections::lines(QByteArrayView name) const {
   return sections_.value(upperCase(askedName(name)));
+}
+
+std::vector<OutlineSection> profileOutline(QByteArrayView file) {
+  std::vector<OutlineSection> sections;
+  const char* const end = file.end();
+  const char* next = nullptr;
+  int number = 0;
+  for (const char* at = file.begin(); at != end; at = next) {
+    ++number;
+    const char* const textEnd = lineTextEnd(at, end);
+    next = nextLine(textEnd, end);
+    const char* const head = std::find_if_not(at, textEnd, isBlank);
+    if (head != textEnd && *head == '[') {
+      const QByteArrayView name = trimmed({head + 1, std::find(head + 1, textEnd, ']')});
+      sections.push_back({name.toByteArray(), number, {}});
+    } else if (!sections.empty()) {
+      const auto key = KeyLines(at, next).next();
+      if (key) sections.back().keys.push_back({key->key.toByteArray(), shownValue(*key), number});
+    }
+  }
+  return sections;
 }
 
 std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,

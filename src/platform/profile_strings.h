@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -52,6 +53,21 @@ class ProfileSections {
  private:
   QHash<QByteArray, QByteArrayView> sections_;  ///< by the name in upper case
 };
+
+/// A key line and a section as they stand in the file, lines being counted from 1.
+struct OutlineKey {
+  QByteArray name;
+  QByteArray value;  ///< as FindProfileValue gives it
+  int line = 0;
+};
+struct OutlineSection {
+  QByteArray name;
+  int line = 0;
+  std::vector<OutlineKey> keys;
+};
+
+/// All sections with their keys in file order, doubles too.
+std::vector<OutlineSection> profileOutline(QByteArrayView file);
 
 /// The file with the key's value replaced in place (all up to the "=" and the line's own end stay), or the key added
 /// behind the last key line of its section, or the section added at the end. New lines take the file's first line end,
