@@ -9,10 +9,11 @@ BEGIN {
   arrows["progressbar"] = "controls platform"
   arrows["controls"] = "platform"
   arrows["renderer"] = "themefiles"
+  arrows["themecheck"] = "renderer"
   arrows["themefiles"] = "platform"
   arrows["platform"] = ""
   for (room in arrows) reach(room, room)
-  windowless["platform"] = windowless["themefiles"] = windowless["renderer"] = 1
+  windowless["platform"] = windowless["themefiles"] = windowless["renderer"] = windowless["themecheck"] = 1
   listWidgetHeaders()
 }
 

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QStringList>
+
+#include "platform/status_line.h"
+#include "themecheck/findings.h"
+#include "themecheck/ini_file.h"
+#include "themefiles/key_table.h"
+#include "themefiles/module_state.h"
+
+namespace themecheck {
+
+/// A theme with all of its skins and the game's languages, as far as they can be read.
+struct CheckedTheme {
+  QString gameFolder;  ///< the program's path, with a separator at its end
+  const IniFile& theme;
+  std::vector<IniFile> skins;
+  const std::vector<IniFile>& languages;
+  QStringList skinNames;      ///< those to be checked, in their order
+  QStringList languageNames;  ///< the same
+  bool complete = true;       ///< every skin could be read
+};
+
+/// The sections of a theme that count, less those that tell of the theme itself.
+std::vector<const IniSection*> objectsOf(const IniFile& theme);
+
+/// The key under which the words of an object are looked up: its Text, or its own name.
+QString wordsKeyOf(const IniSection& object);
+
+/// The values of all keys of that group in the theme.
+QStringList valuesOf(const IniFile& theme, themefiles::KeyGroup group);
+
+/// A state as the editor has it after opening the theme with that skin and language.
+themefiles::ModuleState openState(const CheckedTheme& theme, const QString& skin, const QString& language);
+
+/// Takes the reports of readers whose failures are told as findings.
+class HeardReports : public platform::StatusLine {
+ public:
+  void ShowStatus(const QString& /*text*/) override { heard = true; }
+  bool heard = false;
+};
+
+/// Told of each screen that is about to be drawn.
+using Progress = std::function<void(const QString& theme, const QString& skin, const QString& screen)>;
+
+// What can be found, each by itself.
+
+/// What the renderer leaves out, or draws where nobody sees it.
+void checkDrawing(const CheckedTheme& theme, Findings& findings, const Progress& progress);
+
+/// Sections and keys of any file that stand there twice.
+void checkDoubles(const IniFile& file, Findings& findings);
+
+/// Sections that no screen lists, and texts of buttons that the buttons don't ask for.
+void checkSections(const CheckedTheme& theme, Findings& findings);
+
+/// Values that the editors of their keys wouldn't give.
+void checkValues(const CheckedTheme& theme, Findings& findings);
+
+/// Colours that no object uses, and more than there is room for.
+void checkColors(const CheckedTheme& theme, Findings& findings);
+
+/// Textures of the skins, and the pictures in the folder.
+void checkSkins(const CheckedTheme& theme, Findings& findings);
+
+/// Words that one of the languages lacks.
+void checkWords(const CheckedTheme& theme, Findings& findings);
+
+/// Words of a language that none of the themes uses.
+void checkUnusedWords(const IniFile& language, const std::vector<const IniFile*>& themes, Findings& findings);
+
+}  // namespace themecheck

@@ -1,0 +1,167 @@
+#include <algorithm>
+#include <utility>
+
+#include <QRect>
+#include <QSet>
+
+#include "platform/code_page.h"
+#include "renderer/chosen_screen.h"
+#include "renderer/object_passes.h"
+#include "themecheck/checked_theme.h"
+#include "themefiles/colour_tables.h"
+#include "themefiles/ini_access.h"
+#include "themefiles/screen_table.h"
+#include "themefiles/theme_paths.h"
+
+namespace themecheck {
+namespace {
+
+constexpr QRect Shown(0, 0, platform::Surface::Width, platform::Surface::Height);
+
+/// One screen of a theme under one skin, drawn pass by pass as a render does, with a look at the account of each.
+class ScreenCheck {
+ public:
+  ScreenCheck(const CheckedTheme& theme, const themefiles::ModuleState& state, const themefiles::ScreenRow& screen,
+              QString skin, Findings& findings)
+      : theme_(theme),
+        screen_(screen),
+        skin_(std::move(skin)),
+        findings_(findings),
+        chosen_(state, screen.Name, themefiles::SchemeNames(state).value(0), reports_) {}
+
+  void run();
+
+ private:
+  using Pass = void (*)(renderer::RenderContext&);
+
+  void draw(renderer::RenderContext context, Pass pass);
+  void drawWords(const QString& language);
+  void selectInTurn();
+  void tellMissing(const renderer::LeftOut& entry);
+  bool isUnseen(const renderer::Drawn& object, bool isText) const;
+
+  const CheckedTheme& theme_;
+  const themefiles::ScreenRow& screen_;
+  QString skin_;
+  QString language_;
+  bool picturesDrawn_ = false;
+  Findings& findings_;
+  HeardReports reports_;  // what they tell is in the accounts, too
+  renderer::ChosenScreen chosen_;
+};
+
+void drawGround(renderer::RenderContext& context) {
+  renderer::DrawBackground(context, themefiles::StemOf(context.State, context.Host.ScreenName()));
+  renderer::DrawStatics(context);
+}
+
+/// The first of the buttons is the selected one.
+void drawButtons(renderer::RenderContext& context) {
+  context.State.SelectedButton = 1;
+  context.State.ButtonCount = 0;
+  renderer::DrawButtons(context);
+}
+
+void ScreenCheck::run() {
+  draw(chosen_.context(), drawGround);
+  const QString face = chosen_.workspace.FontName();
+  const float size = chosen_.workspace.FontSize();
+  // A game without a language shows the keys of its words.
+  const QStringList none{QString()};
+  for (const QString& language : theme_.languageNames.isEmpty() ? none : theme_.languageNames) {
+    chosen_.workspace.SetFontName(face);
+    chosen_.workspace.SetFontSize(size);
+    drawWords(language);
+    picturesDrawn_ = true;
+  }
+}
+
+/// Another language changes words only, so that pictures are drawn for one.
+void ScreenCheck::drawWords(const QString& language) {
+  language_ = language;
+  chosen_.state.Paths.LanguageFile =
+      themefiles::PathsOf(theme_.gameFolder, theme_.theme.name(), skin_, language).LanguageFile;
+  draw(chosen_.context(), renderer::DrawTexts);
+  draw(chosen_.context(), drawButtons);
+  selectInTurn();
+}
+
+/// Each button but the first as the selected one. The others look as they did, so it is drawn by itself; only when it
+/// has no text of its own to move by its growth, the next button with texts is drawn behind it.
+void ScreenCheck::selectInTurn() {
+  QSet<QString> hidden;
+  for (const renderer::LeftOut& entry : chosen_.account.Missing) {
+    if (entry.Why == renderer::Reason::Hidden) hidden += entry.Section;
+  }
+  QSet<QString> withTexts;
+  for (const renderer::Drawn& object : chosen_.account.Objects) withTexts += object.Owner;
+  QStringList buttons = chosen_.tags.Rows();
+  buttons.removeIf([&](const QString& tag) { return !renderer::isButton(tag) || hidden.contains(tag); });
+  buttons.resize(std::min(buttons.size(), qsizetype(chosen_.state.ButtonCount)));
+  for (qsizetype button = 1; button < buttons.size(); ++button) {
+    themefiles::SortedTags rows;
+    rows.AddItem(buttons[button]);
+    const auto mover = std::find_if(buttons.begin() + button, buttons.end(),
+                                    [&](const QString& tag) { return withTexts.contains(tag); });
+    if (mover != buttons.end() && *mover != buttons[button]) rows.AddItem(*mover);
+    draw(chosen_.context(rows), drawButtons);
+  }
+}
+
+void ScreenCheck::draw(renderer::RenderContext context, Pass pass) {
+  context.TextsOnly = picturesDrawn_;
+  chosen_.account = {};
+  pass(context);
+  for (const renderer::LeftOut& entry : chosen_.account.Missing) tellMissing(entry);
+  for (const renderer::Drawn& object : chosen_.account.Objects) {
+    const bool isText = pass == renderer::DrawTexts || !object.Owner.isEmpty();
+    if (!isUnseen(object, isText)) continue;
+    findings_.add(Kind::OutsideSurface, theme_.theme.place(object.Section), {},
+                  {skin_, isText ? language_ : QString()});
+  }
+}
+
+/// A background that isn't there is none that is missing, and a screen's own section is no object.
+bool isNoFault(const renderer::LeftOut& entry, const QString& stem) {
+  return entry.Why == renderer::Reason::NoTexture && entry.Value.isEmpty() &&
+         (platform::SameName(entry.Section, stem) ||
+          platform::SameName(entry.Section, stem + QStringLiteral("Background")));
+}
+
+void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
+  if (isNoFault(entry, screen_.Stem)) return;
+  Place place = theme_.theme.place(entry.Section);
+  // A width and a height are told together.
+  for (const QString& key : entry.Key.split(QStringLiteral(" x "))) {
+    const Place line = theme_.theme.place(entry.Section, key);
+    if (line.line == place.line) continue;
+    place = line;
+    break;
+  }
+  place.key = entry.Key;
+  const Kind kind = entry.Why == renderer::Reason::Hidden ? Kind::Hidden : Kind::LeftOut;
+  findings_.add(kind, place, {renderer::ReasonText(entry)}, {skin_, {}});
+}
+
+/// Whether nothing of it shows that would show elsewhere.
+bool ScreenCheck::isUnseen(const renderer::Drawn& object, bool isText) const {
+  if (object.Place.intersects(Shown)) return false;
+  if (!isText) return true;
+  const IniSection* section = theme_.theme.find(object.Section);
+  const QString key = section ? wordsKeyOf(*section) : object.Section;
+  return !themefiles::GetINI(QStringLiteral("Text"), key, key, chosen_.state.Paths.LanguageFile).isEmpty();
+}
+
+}  // namespace
+
+void checkDrawing(const CheckedTheme& theme, Findings& findings, const Progress& progress) {
+  for (const QString& skin : theme.skinNames) {
+    const themefiles::ModuleState state = openState(theme, skin, theme.languageNames.value(0));
+    for (const themefiles::ScreenRow& screen : state.ScreenTable) {
+      progress(theme.theme.name(), skin, screen.Name);
+      ScreenCheck(theme, state, screen, skin, findings).run();
+    }
+  }
+}
+
+}  // namespace themecheck

@@ -1,0 +1,127 @@
+#include <algorithm>
+#include <array>
+
+#include <QFileInfo>
+#include <QSet>
+
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/paths.h"
+#include "themecheck/checked_theme.h"
+#include "themefiles/colour_tables.h"
+#include "themefiles/theme_paths.h"
+
+namespace themecheck {
+namespace {
+
+using platform::UpperCase;
+using themefiles::KeyGroup;
+
+const QString Textures = QStringLiteral("Textures");
+const QString Colors = QStringLiteral("Colors");
+constexpr qsizetype MostColors = 99;
+constexpr std::array<QStringView, 5> PictureEndings{u".bmp", u".gif", u".jpg", u".jpeg", u".png"};
+
+/// The keys of a section that count.
+std::vector<const IniKey*> keysOf(const IniFile& file, const QString& name) {
+  std::vector<const IniKey*> keys;
+  const IniSection* section = file.find(name);
+  if (!section) return keys;
+  for (const IniKey& key : section->keys) {
+    if (key.line == key.counted) keys.push_back(&key);
+  }
+  return keys;
+}
+
+bool has(const IniFile& skin, const QString& texture) {
+  const IniSection* textures = skin.find(Textures);
+  return textures && textures->find(texture);
+}
+
+/// Each texture once, where the first skin that has it has it.
+void checkLacking(const CheckedTheme& theme, Findings& findings) {
+  QSet<QString> seen;
+  for (const IniFile& skin : theme.skins) {
+    for (const IniKey* key : keysOf(skin, Textures)) {
+      if (seen.contains(UpperCase(key->name))) continue;
+      seen += UpperCase(key->name);
+      for (const IniFile& other : theme.skins) {
+        if (has(other, key->name) || !theme.skinNames.contains(other.name())) continue;
+        findings.add(Kind::LackingTexture, skin.place(Textures, key->name), {}, {other.name(), {}});
+      }
+    }
+  }
+}
+
+void checkCase(const QString& folder, const IniFile& skin, const IniKey& key, Findings& findings) {
+  if (key.value.isEmpty()) return;
+  const QString native = platform::NativePath(folder);
+  const QString plain = platform::PlainPath(native + u'\\' + key.value);
+  if (QFileInfo::exists(plain)) return;
+  const QString found = platform::FindPath(plain);
+  if (found == plain || !QFileInfo::exists(found)) return;
+  findings.add(Kind::OtherCase, skin.place(Textures, key.name), {key.value, found.sliced(native.size() + 1)});
+}
+
+void checkPictures(const QString& folder, const CheckedTheme& theme, Findings& findings) {
+  QSet<QString> named;
+  for (const IniFile& skin : theme.skins) {
+    for (const IniKey* key : keysOf(skin, Textures)) named += UpperCase(key->value);
+  }
+  for (const QStringView ending : PictureEndings) {
+    for (const QString& picture : platform::ListFiles(folder, ending.toString())) {
+      if (named.contains(UpperCase(picture))) continue;
+      findings.add(Kind::UnusedPicture, {QStringLiteral("Skins/%1/%2").arg(theme.theme.name(), picture), 0, {}, {}});
+    }
+  }
+}
+
+QSet<QString> upperCase(const QStringList& names) {
+  QSet<QString> upper;
+  for (const QString& name : names) upper += UpperCase(name);
+  return upper;
+}
+
+}  // namespace
+
+void checkSkins(const CheckedTheme& theme, Findings& findings) {
+  const QString folder = themefiles::PathsOf(theme.gameFolder, theme.theme.name(), {}, {}).SkinDirectory;
+  const QSet<QString> used = upperCase(valuesOf(theme.theme, KeyGroup::Texture));
+  for (const IniFile& skin : theme.skins) {
+    if (!theme.skinNames.contains(skin.name())) continue;
+    for (const IniKey* key : keysOf(skin, Textures)) {
+      if (!used.contains(UpperCase(key->name))) findings.add(Kind::UnusedTexture, skin.place(Textures, key->name));
+      checkCase(folder, skin, *key, findings);
+    }
+  }
+  if (!theme.complete) return;
+  checkLacking(theme, findings);
+  checkPictures(folder, theme, findings);
+}
+
+void checkColors(const CheckedTheme& theme, Findings& findings) {
+  HeardReports reports;
+  themefiles::ModuleState state = openState(theme, {}, {});
+  themefiles::ReadColors(state, reports);
+  const IniSection* colors = theme.theme.find(Colors);
+  if (!colors) return;
+  if (reports.heard && colors->keys.size() > MostColors) {
+    Place place = theme.theme.place(Colors);
+    place.key = colors->keys[MostColors].name;
+    place.line = colors->keys[MostColors].line;
+    findings.add(Kind::TooManyColors, place);
+  }
+  const QStringList values = valuesOf(theme.theme, KeyGroup::Color);
+  const QSet<QString> used(values.begin(), values.end());
+  for (const IniKey* key : keysOf(theme.theme, Colors)) {
+    // A name of the program or of a player never leads to the theme's own colour.
+    const bool hides = themefiles::ProgramColorNames().contains(key->name, Qt::CaseInsensitive) ||
+                       std::any_of(state.PlayerColors.begin(), state.PlayerColors.end(),
+                                   [&](const themefiles::NamedColor& color) { return color.Name == key->name; });
+    if (hides || !used.contains(key->name)) {
+      findings.add(Kind::UnusedColor, theme.theme.place(Colors, key->name));
+    }
+  }
+}
+
+}  // namespace themecheck

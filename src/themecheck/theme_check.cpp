@@ -1,0 +1,161 @@
+#include "themecheck/theme_check.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+#include <QDir>
+
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+#include "themefiles/theme_paths.h"
+
+namespace themecheck {
+namespace {
+
+/// The names that were asked for, as the game spells them; all of them when none was.
+QStringList chosen(const QStringList& names, const QStringList& asked, const QString& what) {
+  QStringList found;
+  for (const QString& wish : asked) {
+    const auto name =
+        std::find_if(names.begin(), names.end(), [&](const QString& known) { return platform::SameName(known, wish); });
+    if (name == names.end()) {
+      throw platform::Failure(
+          QStringLiteral("no %1 '%2'; there are: %3").arg(what, wish, names.join(QStringLiteral(", "))));
+    }
+    if (!found.contains(*name)) found += *name;
+  }
+  return asked.isEmpty() ? names : found;
+}
+
+QStringList onlyName(const QString& name) {
+  return name.isEmpty() ? QStringList() : QStringList(name);
+}
+
+/// A game folder and what was found in it.
+class GameCheck {
+ public:
+  GameCheck(const Request& request, const Progress& progress);
+  std::vector<Finding> run();
+
+ private:
+  std::optional<IniFile> read(const QString& name, const QString& path, bool tells);
+  void checkTheme(const IniFile& theme);
+  void checkLanguages();
+  void take(const Findings& findings, const QStringList& skins, const QStringList& languages);
+
+  const Request& request_;
+  const Progress& progress_;
+  QString folder_;  ///< the program's path, with a separator at its end
+  QStringList themeNames_;
+  QStringList languageNames_;
+  std::vector<IniFile> themes_;  ///< all of them, for the words that they use
+  std::vector<IniFile> languages_;
+  Findings unread_;
+  bool complete_ = true;  ///< every theme could be read
+  std::vector<Finding> findings_;
+};
+
+GameCheck::GameCheck(const Request& request, const Progress& progress) : request_(request), progress_(progress) {
+  const QDir game(request.gameFolder);
+  if (!game.exists()) throw platform::Failure(QStringLiteral("no folder '%1'").arg(request.gameFolder));
+  folder_ = platform::ProgramPath(game.absolutePath()) + u'\\';
+  const QStringList themes = themefiles::ThemesOf(folder_);
+  if (themes.isEmpty()) throw platform::Failure(QStringLiteral("no themes in '%1'").arg(request.gameFolder));
+  themeNames_ = chosen(themes, request.themes, QStringLiteral("theme"));
+  const QStringList languages = themefiles::LanguagesOf(folder_);
+  languageNames_ = chosen(languages, onlyName(request.language), QStringLiteral("language"));
+  if (!request.skin.isEmpty()) {
+    QStringList skins;
+    for (const QString& theme : themeNames_) skins += themefiles::SkinsOf(folder_, theme);
+    skins.removeDuplicates();
+    chosen(skins, {request.skin}, QStringLiteral("skin"));
+  }
+  for (const QString& name : themes) {
+    auto theme = read(name, themefiles::PathsOf(folder_, name, {}, {}).ThemeFile, themeNames_.contains(name));
+    if (theme) themes_.push_back(std::move(*theme));
+    complete_ = complete_ && theme;
+  }
+  for (const QString& name : languages) {
+    const bool wanted = languageNames_.contains(name);
+    auto language = read(name, themefiles::PathsOf(folder_, {}, {}, name).LanguageFile, wanted);
+    if (language) {
+      languages_.push_back(std::move(*language));
+    } else {
+      languageNames_.removeAll(name);
+    }
+  }
+}
+
+/// The file; none, and a finding, when it can't be read.
+std::optional<IniFile> GameCheck::read(const QString& name, const QString& path, bool tells) {
+  const QString shown = QDir(platform::NativePath(folder_)).relativeFilePath(platform::NativePath(path));
+  try {
+    return IniFile(name, path, shown);
+  } catch (const platform::Failure& failure) {
+    if (tells) unread_.add(Kind::CantBeRead, {shown, 0, {}, {}}, {failure.description()});
+    return std::nullopt;
+  }
+}
+
+std::vector<Finding> GameCheck::run() {
+  for (const IniFile& theme : themes_) {
+    if (themeNames_.contains(theme.name())) checkTheme(theme);
+  }
+  checkLanguages();
+  take(unread_, {}, {});
+  sortFindings(findings_);
+  return std::move(findings_);
+}
+
+void GameCheck::checkTheme(const IniFile& file) {
+  const QStringList skins = themefiles::SkinsOf(folder_, file.name());
+  CheckedTheme theme{folder_, file, {}, languages_, {}, languageNames_, true};
+  for (const QString& name : skins) {
+    const bool wanted = request_.skin.isEmpty() || platform::SameName(name, request_.skin);
+    auto skin = read(name, themefiles::PathsOf(folder_, file.name(), name, {}).SkinFile, wanted);
+    theme.complete = theme.complete && skin;
+    if (!skin) continue;
+    theme.skins.push_back(std::move(*skin));
+    if (wanted) theme.skinNames += name;
+  }
+  Findings findings;
+  if (skins.isEmpty()) findings.add(Kind::CantBeOpened, file.wholeFile(), {QStringLiteral("skin")});
+  if (languageNames_.isEmpty()) findings.add(Kind::CantBeOpened, file.wholeFile(), {QStringLiteral("language")});
+  checkDoubles(file, findings);
+  for (const IniFile& skin : theme.skins) {
+    if (theme.skinNames.contains(skin.name())) checkDoubles(skin, findings);
+  }
+  checkSections(theme, findings);
+  checkValues(theme, findings);
+  checkColors(theme, findings);
+  checkSkins(theme, findings);
+  checkWords(theme, findings);
+  checkDrawing(theme, findings, progress_);
+  take(findings, theme.skinNames, theme.languageNames);
+}
+
+void GameCheck::checkLanguages() {
+  std::vector<const IniFile*> themes;
+  for (const IniFile& theme : themes_) themes.push_back(&theme);
+  Findings findings;
+  for (const IniFile& language : languages_) {
+    if (!languageNames_.contains(language.name())) continue;
+    checkDoubles(language, findings);
+    if (complete_) checkUnusedWords(language, themes, findings);
+  }
+  take(findings, {}, {});
+}
+
+void GameCheck::take(const Findings& findings, const QStringList& skins, const QStringList& languages) {
+  for (Finding& finding : findings.taken(skins, languages)) findings_.push_back(std::move(finding));
+}
+
+}  // namespace
+
+std::vector<Finding> checkGame(const Request& request, const Progress& progress) {
+  return GameCheck(request, progress).run();
+}
+
+}  // namespace themecheck

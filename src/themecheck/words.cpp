@@ -1,0 +1,47 @@
+#include <algorithm>
+
+#include <QSet>
+
+#include "platform/code_page.h"
+#include "themecheck/checked_theme.h"
+
+namespace themecheck {
+namespace {
+
+const QString Text = QStringLiteral("Text");
+
+bool has(const IniFile& language, const QString& key) {
+  const IniSection* words = language.find(Text);
+  return words && words->find(key);
+}
+
+}  // namespace
+
+void checkWords(const CheckedTheme& theme, Findings& findings) {
+  for (const IniSection* object : objectsOf(theme.theme)) {
+    const QString key = wordsKeyOf(*object);
+    if (std::none_of(theme.languages.begin(), theme.languages.end(),
+                     [&](const IniFile& language) { return has(language, key); })) {
+      continue;
+    }
+    for (const IniFile& language : theme.languages) {
+      if (has(language, key) || !theme.languageNames.contains(language.name())) continue;
+      findings.add(Kind::NoWords, theme.theme.place(object->name, Text), {key}, {{}, language.name()});
+    }
+  }
+}
+
+void checkUnusedWords(const IniFile& language, const std::vector<const IniFile*>& themes, Findings& findings) {
+  QSet<QString> used;
+  for (const IniFile* theme : themes) {
+    for (const IniSection* object : objectsOf(*theme)) used += platform::UpperCase(wordsKeyOf(*object));
+  }
+  const IniSection* words = language.find(Text);
+  if (!words) return;
+  for (const IniKey& key : words->keys) {
+    if (key.line != key.counted || used.contains(platform::UpperCase(key.name))) continue;
+    findings.add(Kind::UnusedWords, language.place(Text, key.name));
+  }
+}
+
+}  // namespace themecheck

@@ -1,0 +1,42 @@
+#include <cstdio>
+
+#include "arguments.h"
+#include "output.h"
+#include "platform/failure.h"
+#include "progress.h"
+#include "windowless_tool.h"
+
+namespace {
+
+using windowless::print;
+
+std::vector<themecheck::Finding> check(const themecheck::Request& request) {
+  themechecktool::ProgressLine line;
+  return themecheck::checkGame(request, [&](const QString& theme, const QString& skin, const QString& screen) {
+    line.show(QStringList{theme, skin, screen}.join(QStringLiteral(", ")));
+  });
+}
+
+int run(const QStringList& words) {
+  const themechecktool::Arguments arguments = themechecktool::parseArguments(words);
+  if (!arguments.answer.isEmpty()) {
+    print(stdout, arguments.answer);
+    return 0;
+  }
+  const std::vector<themecheck::Finding> findings = check(arguments.request);
+  const themechecktool::Counts counts = themechecktool::countsOf(findings);
+  if (arguments.json) {
+    std::fputs(themechecktool::jsonOf(findings).constData(), stdout);
+  } else {
+    for (const themecheck::Finding& finding : findings) print(stdout, themechecktool::lineOf(finding));
+    print(stdout, themechecktool::countsText(counts));
+  }
+  if (std::fflush(stdout) != 0) throw platform::Failure(QStringLiteral("the output can't be written"));
+  return counts.errors > 0 || (arguments.strict && counts.warnings > 0) ? 1 : 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  return windowless::runTool(QStringLiteral("cantorama-theme-check"), argc, argv, run);
+}

@@ -1,0 +1,71 @@
+#include "output.h"
+
+#include <algorithm>
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+namespace themechecktool {
+namespace {
+
+using themecheck::Finding;
+using themecheck::Level;
+
+QString counted(int number, const QString& what) {
+  return QStringLiteral("%1 %2%3").arg(number).arg(what, number == 1 ? QString() : QStringLiteral("s"));
+}
+
+QString field(const QString& text) {
+  return text.isEmpty() ? QStringLiteral("-") : text;
+}
+
+/// What a file holds can't end the line or steer the terminal.
+QString onOneLine(QString text) {
+  std::replace_if(
+      text.begin(), text.end(), [](QChar letter) { return letter.category() == QChar::Other_Control; }, QChar(u'?'));
+  return text;
+}
+
+}  // namespace
+
+Counts countsOf(const std::vector<Finding>& findings) {
+  Counts counts;
+  for (const Finding& finding : findings) {
+    ++(finding.level == Level::Error     ? counts.errors
+       : finding.level == Level::Warning ? counts.warnings
+                                         : counts.notes);
+  }
+  return counts;
+}
+
+QString countsText(const Counts& counts) {
+  return QStringList{counted(counts.errors, QStringLiteral("error")),
+                     counted(counts.warnings, QStringLiteral("warning")), counted(counts.notes, QStringLiteral("note"))}
+      .join(QStringLiteral(", "));
+}
+
+QString lineOf(const Finding& finding) {
+  const themecheck::Place& place = finding.place;
+  const QString head = QStringLiteral("%1:%2: %3: ").arg(place.file).arg(place.line).arg(nameOf(finding.level));
+  const QString rest = QStringList{field(place.section), field(place.key), finding.text}.join(QStringLiteral(": "));
+  const QString where = finding.where.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.where);
+  return onOneLine(head + rest + where);
+}
+
+QByteArray jsonOf(const std::vector<Finding>& findings) {
+  QJsonArray array;
+  for (const Finding& finding : findings) {
+    array += QJsonObject{{QStringLiteral("file"), finding.place.file},
+                         {QStringLiteral("line"), finding.place.line},
+                         {QStringLiteral("level"), nameOf(finding.level)},
+                         {QStringLiteral("section"), finding.place.section},
+                         {QStringLiteral("key"), finding.place.key},
+                         {QStringLiteral("text"), finding.text},
+                         {QStringLiteral("skins"), QJsonArray::fromStringList(finding.skins)},
+                         {QStringLiteral("languages"), QJsonArray::fromStringList(finding.languages)}};
+  }
+  return QJsonDocument(array).toJson();
+}
+
+}  // namespace themechecktool

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <vector>
+
+#include <QByteArray>
+#include <QString>
+
+#include "themecheck/findings.h"
+
+namespace themechecktool {
+
+/// How many findings there are of each level.
+struct Counts {
+  int errors = 0;
+  int warnings = 0;
+  int notes = 0;
+};
+
+Counts countsOf(const std::vector<themecheck::Finding>& findings);
+
+/// "1 error, 2 warnings, 0 notes"
+QString countsText(const Counts& counts);
+
+/// The finding on one line, in the form that compilers use; a "-" stands for a section or a key that there is none of.
+QString lineOf(const themecheck::Finding& finding);
+
+/// All findings as one array, UTF-8.
+QByteArray jsonOf(const std::vector<themecheck::Finding>& findings);
+
+}  // namespace themechecktool
