@@ -140,6 +140,7 @@ Screen nameScreen() {
           },
       .more = "Visible=0",
       .backgroundMore = "Visible=0",
+      .staticsMore = "Visible=0",  // all objects of this screen count as buttons, too
   };
 }
 

@@ -74,6 +74,7 @@ struct Screen {
   std::vector<OtherRow> others = {};
   std::string more = {};            // of the screen's own section
   std::string backgroundMore = {};  // of its background
+  std::string staticsMore = {};     // of each of its statics
 };
 
 inline const ButtonLook HueLook = {"Colorized", "Accent", "1", "ColorDark", "0.7"};

@@ -39,9 +39,9 @@ std::string placeLines(const Place& at) {
   return line("X", at.x) + line("Y", at.y) + line("W", at.w) + line("H", at.h);
 }
 
-std::string staticText(const std::string& stem, const StaticRow& row) {
-  return header(stem + row.name) + line("Tex", row.tex) + placeLines(row.at) + line("Color", row.colour) +
-         line("Type", row.type) + moreLines(row.more) + "\n";
+std::string staticText(const Screen& screen, const StaticRow& row) {
+  return header(screen.stem + row.name) + line("Tex", row.tex) + placeLines(row.at) + line("Color", row.colour) +
+         line("Type", row.type) + moreLines(row.more) + moreLines(screen.staticsMore) + "\n";
 }
 
 std::string textText(const std::string& section, const TextRow& row) {
@@ -93,7 +93,7 @@ std::string screenText(const Screen& screen) {
                      line("Texts", static_cast<int>(whole.texts.size())) + moreLines(whole.more) + "\n" +
                      header(whole.stem + "Background") + line("Tex", whole.stem + "BG") +
                      moreLines(whole.backgroundMore) + "\n";
-  for (const StaticRow& row : whole.statics) text += staticText(whole.stem, row);
+  for (const StaticRow& row : whole.statics) text += staticText(whole, row);
   for (const TextRow& row : whole.texts) text += textText(whole.stem + row.name, row);
   for (const ButtonRow& row : whole.buttons) text += buttonText(whole.stem, row);
   for (const OtherRow& row : whole.others) text += header(whole.stem + row.name) + moreLines(row.lines) + "\n";

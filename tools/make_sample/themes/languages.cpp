@@ -9,7 +9,7 @@ namespace {
 struct Words {
   const char* key;
   const char16_t* english;
-  const char16_t* german;
+  const char16_t* german;  ///< null where the language lacks them
 };
 
 constexpr Words AllWords[] = {
@@ -216,6 +216,7 @@ constexpr Words AllWords[] = {
     {"BENCH_TWICE", u"the second of two", u"das zweite von zweien"},
     {"BENCH_QUOTED", u"\"  kept blanks  \"", u"\"  Anführung  \""},
     {"BENCH_EMPTY", u"", u""},
+    {"BENCH_ENGLISH", u"known to one only", nullptr},
     {"BENCH_EQUAL", u"one = two = three", u"eins = zwei = drei"},
 };
 
@@ -245,7 +246,9 @@ std::string toAnsi(const char16_t* text) {
 
 void writeLanguage(const Output& output, const std::string& name, const char16_t* Words::*column) {
   std::string text = "[Text]\n";
-  for (const Words& words : AllWords) text += std::string(words.key) + "=" + toAnsi(words.*column) + "\n";
+  for (const Words& words : AllWords) {
+    if (words.*column) text += std::string(words.key) + "=" + toAnsi(words.*column) + "\n";
+  }
   output.writeLines("Languages/" + name + ".ini", text);
 }
 

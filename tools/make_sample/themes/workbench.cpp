@@ -70,6 +70,7 @@ void writeWorkbench(const Output& output) {
   output.writePicture(file("glass.png"), glass());
   output.writePicture(file("plate.png"), styled(240, 120, paintPanel));
   output.writePicture(file("key.png"), styled(160, 50, paintButton));
+  output.writePicture(file("leftover.png"), styled(40, 20, paintButton));
   output.writePicture(file("sign.bmp"), onWhite(drawGlyph(glyphs().front(), 50, rgb(0))));
   output.write(file("dot.gif"), encodeGif(dot()));
   const QByteArray whole = encodePicture(styled(160, 160, paintRecord), "png");

@@ -104,6 +104,14 @@ Align=1
 Color=White
 Text=TOOLS
 
+[MainButtonCollectionText2]
+X=75
+Y=30
+Size=9
+Align=1
+Color=White
+Text=BENCH_ENGLISH
+
 [MainButtonHidden]
 Tex=Key
 X=210
