@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
+#include <QSet>
 #include <QStringList>
 
 #include "platform/status_line.h"
@@ -51,8 +53,8 @@ using Progress = std::function<void(const QString& theme, const QString& skin, c
 /// What the renderer leaves out, or draws where nobody sees it.
 void checkDrawing(const CheckedTheme& theme, Findings& findings, const Progress& progress);
 
-/// Sections and keys of any file that stand there twice.
-void checkDoubles(const IniFile& file, Findings& findings);
+/// Sections and keys of any file that stand there twice; with `only`, keys of these names in upper case.
+void checkDoubles(const IniFile& file, Findings& findings, const std::optional<QSet<QString>>& only = std::nullopt);
 
 /// Sections that no screen lists, and texts of buttons that the buttons don't ask for.
 void checkSections(const CheckedTheme& theme, Findings& findings);
@@ -69,7 +71,10 @@ void checkSkins(const CheckedTheme& theme, Findings& findings);
 /// Words that one of the languages lacks.
 void checkWords(const CheckedTheme& theme, Findings& findings);
 
+/// The keys of all words that the theme uses, in upper case.
+QSet<QString> wordsOf(const IniFile& theme);
+
 /// Words of a language that none of the themes uses.
-void checkUnusedWords(const IniFile& language, const std::vector<const IniFile*>& themes, Findings& findings);
+void checkUnusedWords(const IniFile& language, const QSet<QString>& used, Findings& findings);
 
 }  // namespace themecheck

@@ -130,15 +130,14 @@ bool isNoFault(const renderer::LeftOut& entry, const QString& stem) {
 
 void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
   if (isNoFault(entry, screen_.Stem)) return;
-  Place place = theme_.theme.place(entry.Section);
-  // A width and a height are told together.
+  Place place = theme_.theme.place(entry.Section, entry.Key);
+  // A width and a height are told together, where the first of them stands.
   for (const QString& key : entry.Key.split(QStringLiteral(" x "))) {
     const Place line = theme_.theme.place(entry.Section, key);
     if (line.line == place.line) continue;
-    place = line;
+    place.line = line.line;
     break;
   }
-  place.key = entry.Key;
   const Kind kind = entry.Why == renderer::Reason::Hidden ? Kind::Hidden : Kind::LeftOut;
   findings_.add(kind, place, {renderer::ReasonText(entry)}, {skin_, {}});
 }

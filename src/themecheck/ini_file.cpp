@@ -75,7 +75,7 @@ Place IniFile::place(const QString& section, const QString& key) const {
   Place place{shown_, 0, section, key};
   if (const IniSection* found = find(section)) {
     const IniKey* line = key.isEmpty() ? nullptr : found->find(key);
-    place.line = line ? line->line : found->line;
+    place = {shown_, line ? line->line : found->line, found->name, line ? line->name : key};
   } else {
     place.line = tagLines_.value(platform::UpperCase(section));
   }

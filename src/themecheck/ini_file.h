@@ -41,8 +41,8 @@ class IniFile {
 
   Place wholeFile() const { return {shown_, 0, {}, {}}; }
 
-  /// Where the key stands; its section where it doesn't, and the head of the file without the section. A section may
-  /// also be named as the reader of tags names it.
+  /// Where the key stands, spelled as in the file; its section where it doesn't, and the file as a whole without the
+  /// section. A section may also be named as the reader of tags names it.
   Place place(const QString& section, const QString& key = {}) const;
 
  private:

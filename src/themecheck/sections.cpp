@@ -45,15 +45,17 @@ bool isDouble(const Named& named) {
 
 }  // namespace
 
-void checkDoubles(const IniFile& file, Findings& findings) {
+void checkDoubles(const IniFile& file, Findings& findings, const std::optional<QSet<QString>>& only) {
   for (const IniSection& section : file.sections()) {
     Place place = file.place(section.name);
     place.line = section.line;
+    place.section = section.name;
     if (isDouble(section)) {
       findings.add(Kind::DoubledSection, place, {QString::number(section.counted)});
       continue;
     }
     for (const IniKey& key : section.keys) {
+      if (only && !only->contains(platform::UpperCase(key.name))) continue;
       place.line = key.line;
       place.key = key.name;
       if (isDouble(key)) findings.add(Kind::DoubledKey, place, {QString::number(key.counted)});

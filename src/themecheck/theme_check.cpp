@@ -136,14 +136,18 @@ void GameCheck::checkTheme(const IniFile& file) {
   take(findings, theme.skinNames, theme.languageNames);
 }
 
+/// The languages belong to all themes: when some are named, only the words of these are looked at.
 void GameCheck::checkLanguages() {
-  std::vector<const IniFile*> themes;
-  for (const IniFile& theme : themes_) themes.push_back(&theme);
+  const bool all = request_.themes.isEmpty();
+  QSet<QString> used;
+  for (const IniFile& theme : themes_) {
+    if (all || themeNames_.contains(theme.name())) used += wordsOf(theme);
+  }
   Findings findings;
   for (const IniFile& language : languages_) {
     if (!languageNames_.contains(language.name())) continue;
-    checkDoubles(language, findings);
-    if (complete_) checkUnusedWords(language, themes, findings);
+    checkDoubles(language, findings, all ? std::nullopt : std::optional(used));
+    if (all && complete_) checkUnusedWords(language, used, findings);
   }
   take(findings, {}, {});
 }

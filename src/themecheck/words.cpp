@@ -31,11 +31,13 @@ void checkWords(const CheckedTheme& theme, Findings& findings) {
   }
 }
 
-void checkUnusedWords(const IniFile& language, const std::vector<const IniFile*>& themes, Findings& findings) {
-  QSet<QString> used;
-  for (const IniFile* theme : themes) {
-    for (const IniSection* object : objectsOf(*theme)) used += platform::UpperCase(wordsKeyOf(*object));
-  }
+QSet<QString> wordsOf(const IniFile& theme) {
+  QSet<QString> words;
+  for (const IniSection* object : objectsOf(theme)) words += platform::UpperCase(wordsKeyOf(*object));
+  return words;
+}
+
+void checkUnusedWords(const IniFile& language, const QSet<QString>& used, Findings& findings) {
   const IniSection* words = language.find(Text);
   if (!words) return;
   for (const IniKey& key : words->keys) {

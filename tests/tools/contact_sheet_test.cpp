@@ -1,12 +1,11 @@
 #include <QDir>
-#include <QDirIterator>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "platform/files.h"
 #include "support/pictures.h"
+#include "support/tool_runs.h"
 
 using platform::ReadFile;
 using platform::WriteFile;
@@ -18,15 +17,6 @@ const QString Sample = QStringLiteral(SAMPLE_FOLDER);
 
 QStringList sampleTheme(const QString& output) {
   return {Sample, u"Stagelight"_s, u"Dusk"_s, u"English"_s, output};
-}
-
-/// Names and times of all that lies in the sample game.
-QStringList contentsOfSample() {
-  QStringList entries;
-  QDirIterator walk(Sample, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-  while (walk.hasNext()) entries += walk.next() + walk.fileInfo().lastModified().toString(Qt::ISODateWithMs);
-  entries.sort();
-  return entries;
 }
 
 /// A theme of one screen, "|" for a line end.
@@ -53,7 +43,7 @@ class ContactSheetTest : public QObject {
     QVERIFY(!QImage(sheet_ + u"/overview.png"_s).isNull());
   }
 
-  void cleanupTestCase() { QCOMPARE(contentsOfSample(), before_); }
+  void cleanupTestCase() { QCOMPARE(support::contentsOf(Sample), before_); }
 
   void drawsTheSameAnywhere() {
     const QTemporaryDir output;
@@ -116,15 +106,8 @@ class ContactSheetTest : public QObject {
   }
 
  private:
-  /// Runs the program, as on a machine without a display, to its end with the status; gives what it tells.
   static QByteArray draw(int status, const QStringList& arguments, const QStringList& variables = {}) {
-    const QStringList display{u"-uDISPLAY"_s, u"-uWAYLAND_DISPLAY"_s, u"-uQT_QPA_PLATFORM"_s};
-    QProcess tool;
-    tool.start(u"env"_s, display + variables + QStringList{QStringLiteral(CONTACT_SHEET)} + arguments);
-    const bool ended = tool.waitForFinished(120'000) && tool.exitStatus() == QProcess::NormalExit;
-    QByteArray errors = tool.readAllStandardError();
-    if (!ended || tool.exitCode() != status) QTest::qFail(errors, __FILE__, __LINE__);
-    return errors;
+    return support::runTool(QStringLiteral(CONTACT_SHEET), status, arguments, variables).errors;
   }
 
   static QString pictureOf(const QString& output, int screen) {
@@ -132,7 +115,7 @@ class ContactSheetTest : public QObject {
   }
 
   QTemporaryDir folder_;
-  const QStringList before_ = contentsOfSample();
+  const QStringList before_ = support::contentsOf(Sample);
   QString sheet_ = folder_.filePath(u"sheet"_s);  ///< the sample theme, drawn once for all
 };
 
