@@ -55,11 +55,11 @@ QString IniSection::value(const QString& key) const {
 IniFile::IniFile(QString name, const QString& path, QString shown) : name_(std::move(name)), shown_(std::move(shown)) {
   const QByteArray file = platform::ReadFile(path);
   tagLines_ = linesOfTags(file);
-  for (const platform::ProfileSection& found : platform::profileOutline(file)) {
+  for (const platform::OutlineSection& found : platform::profileOutline(file)) {
     IniSection& section = sections_.emplace_back();
     section.name = platform::FromAnsi(found.name);
     section.line = found.line;
-    for (const platform::ProfileKey& key : found.keys) {
+    for (const platform::OutlineKey& key : found.keys) {
       section.keys.push_back({platform::FromAnsi(key.name), platform::FromAnsi(key.value), key.line, 0});
       enter(section.byName, section.keys);
     }

@@ -83,8 +83,8 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   return {*standing};
 }
 
-/// Puts what `change` makes of a working copy's text in its place, by one whole-file write, and looks for the key in the
-/// written file.
+/// Puts what `change` makes of a working copy's text in its place, by one whole-file write, and looks for the key in
+/// the written file.
 void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status, const QString& section,
               const QString& key, const std::function<QByteArray(const QByteArray& text)>& change) {
   const size_t file = copyNumber(copy);

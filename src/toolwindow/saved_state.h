@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "platform/profile_strings.h"
-#include "themefiles/module_state.h"
 #include "themefiles/key_table.h"
+#include "themefiles/module_state.h"
 
 namespace toolwindow {
 
@@ -32,7 +32,8 @@ class SavedState {
 
   /// What was saved for a key of the theme. Of a reference (by the key's `group`) the words or the picture's file
   /// count, too. None when nothing differs.
-  std::optional<SavedValue> of(const QString& section, const QString& key, std::optional<themefiles::KeyGroup> group) const;
+  std::optional<SavedValue> of(const QString& section, const QString& key,
+                               std::optional<themefiles::KeyGroup> group) const;
 
   /// Whether a key of the object differs.
   bool differsIn(const QString& section) const;

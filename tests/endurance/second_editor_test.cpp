@@ -105,14 +105,15 @@ class SecondEditorTest : public QObject {
     for (int edit = 0; lost.isEmpty() && (edit < 1000 || (turns < 1000 && edit < 30'000)); ++edit) {
       const QByteArray before = program.state.OwnCopies[0];
       const auto expected = platform::SetProfileValue(before, "LoadingStaticA", "X", QByteArray::number(edit));
-      QString note;
+      support::Panel notes;
       QString failure;
       try {
-        note = themefiles::PutInCopy(program.state, &themefiles::ThemePaths::ThemeFile, u"LoadingStaticA"_s, u"X"_s,
-                                     QString::number(edit));
+        themefiles::PutInCopy(program.state, &themefiles::ThemePaths::ThemeFile, u"LoadingStaticA"_s, u"X"_s,
+                              QString::number(edit), notes);
       } catch (const platform::Failure& thrown) {
         failure = thrown.description();
       }
+      const QString note = notes.texts.join(u' ');
       told += !note.isEmpty() || !failure.isEmpty();
       const QByteArray& after = program.state.OwnCopies[0];
       if (after == expected || (after == before && !failure.isEmpty())) continue;
