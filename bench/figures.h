@@ -24,14 +24,14 @@ struct Figure {
 using Body = std::function<void(benchmark::State&)>;
 
 /// Registers both sides of a figure as "name/work" and "name/floor".
-void Register(const Figure& figure, const Body& work, const Body& floor);
+void registerBenchmark(const Figure& figure, const Body& work, const Body& floor);
 
-void RegisterIniAccess();
-void RegisterRecolouring();
-void RegisterScreen(const std::shared_ptr<SampleScreen>& screen);
+void registerIniAccess();
+void registerRecolouring();
+void registerScreen(const std::shared_ptr<SampleScreen>& screen);
 /// A drag on a screen of many large pictures. Prints the share of its frames that a display of 60 a second would miss;
 /// whether that is little enough.
-bool DrawHeavyDrag();
-void RegisterShownScreen(const std::shared_ptr<SampleScreen>& screen);
+bool drawHeavyDrag();
+void registerShownScreen(const std::shared_ptr<SampleScreen>& screen);
 
 }  // namespace bench

@@ -39,7 +39,7 @@ void fill(support::Stage& stage) {
 
 }  // namespace
 
-bool DrawHeavyDrag() {
+bool drawHeavyDrag() {
   using namespace std::chrono_literals;
   constexpr int Frames = 600;
   constexpr double FrameTime = 16.7;
@@ -54,7 +54,7 @@ bool DrawHeavyDrag() {
   for (int frame = 0; frame < Frames; ++frame) {
     const Clock::time_point start = Clock::now();
     const bool sizes = frame >= Frames / 2;
-    renderer::DrawTrial(stage.context(),
+    renderer::drawTrial(stage.context(),
                         {QStringLiteral("MainStatic30"),
                          {{sizes ? QStringLiteral("W") : QStringLiteral("X"), QString::number(frame)}}});
     late += std::chrono::duration<double, std::milli>(Clock::now() - start).count() > FrameTime ? 1 : 0;

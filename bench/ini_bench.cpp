@@ -63,11 +63,11 @@ std::size_t countBrackets(const QByteArray& bytes) {
 
 }  // namespace
 
-void RegisterIniAccess() {
+void registerIniAccess() {
   const auto folder = std::make_shared<support::Folder>();
   folder->put(Name, themeText());
   const QByteArray native = QFile::encodeName(folder->native(Name));
-  Register(
+  registerBenchmark(
       {"GetINI", 2, Held::AtMost},
       [folder](benchmark::State& state) {
         const QString path = folder->path(Name);
@@ -79,7 +79,7 @@ void RegisterIniAccess() {
       [native](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) benchmark::DoNotOptimize(countBrackets(readPlainly(native)));
       });
-  Register(
+  registerBenchmark(
       {"PutINI", 1.25, Held::AtMost},
       [folder](benchmark::State& state) {
         const QString path = folder->path(Name);

@@ -70,7 +70,7 @@ bool printTable(const Medians& medians, const SampleScreen& screen) {
 
 }  // namespace
 
-void Register(const Figure& figure, const Body& work, const Body& floor) {
+void registerBenchmark(const Figure& figure, const Body& work, const Body& floor) {
   figures().push_back(figure);
   for (const auto& [side, body] : {std::pair{"/work", work}, {"/floor", floor}}) {
     benchmark::RegisterBenchmark((figure.name + side).c_str(), body)->Unit(benchmark::kMicrosecond)->UseRealTime();
@@ -83,7 +83,7 @@ void Register(const Figure& figure, const Body& work, const Body& floor) {
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  controls::ApplyLook(application);
+  controls::applyLook(application);
   char interleave[] = "--benchmark_enable_random_interleaving=true";
   char repeat[] = "--benchmark_repetitions=30";
   char time[] = "--benchmark_min_time=0.1";
@@ -93,16 +93,16 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&count, options.data());
   if (benchmark::ReportUnrecognizedArguments(count, options.data())) return 2;
 
-  const std::shared_ptr<bench::SampleScreen> screen = bench::FullestScreen();
+  const std::shared_ptr<bench::SampleScreen> screen = bench::fullestScreen();
   if (!screen) return 2;
-  bench::RegisterIniAccess();
-  bench::RegisterRecolouring();
-  bench::RegisterScreen(screen);
-  bench::RegisterShownScreen(screen);
+  bench::registerIniAccess();
+  bench::registerRecolouring();
+  bench::registerScreen(screen);
+  bench::registerShownScreen(screen);
   bench::Medians medians;
   benchmark::RunSpecifiedBenchmarks(&medians);
   bool reached = bench::printTable(medians, *screen);
-  reached = bench::DrawHeavyDrag() && reached;
+  reached = bench::drawHeavyDrag() && reached;
   benchmark::ClearRegisteredBenchmarks();  // they hold windows, which go before the application
   return reached && !medians.failed() ? 0 : 1;
 }

@@ -48,7 +48,7 @@ void colorizePlainly(QImage& picture) {
 }
 
 void colorize(QImage& picture) {
-  renderer::Colorize(picture, Color);
+  renderer::colorize(picture, Color);
 }
 
 /// Recolours a fresh copy of the photograph each time.
@@ -69,13 +69,13 @@ Body recolouring(void (*recolour)(QImage&)) {
 
 }  // namespace
 
-void RegisterRecolouring() {
-  Register({"COLORIZED", 12, Held::FasterAtLeast}, recolouring(colorize), recolouring(colorizePlainly));
-  Register(
+void registerRecolouring() {
+  registerBenchmark({"COLORIZED", 12, Held::FasterAtLeast}, recolouring(colorize), recolouring(colorizePlainly));
+  registerBenchmark(
       {"FONT BLACK", 4, Held::AtMost},
       [picture = photograph()](benchmark::State& state) mutable {
         for ([[maybe_unused]] auto turn : state) {
-          benchmark::DoNotOptimize(renderer::RecolourFont(picture, Color, renderer::NoIntensity));
+          benchmark::DoNotOptimize(renderer::recolourFont(picture, Color, renderer::NoIntensity));
         }
       },
       [picture = photograph()](benchmark::State& state) {

@@ -6,10 +6,10 @@
 
 #include <QDir>
 
+#include "drawing/pictures.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
-#include "platform/pictures.h"
 #include "renderer/trial_drawing.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/screen_table.h"
@@ -23,13 +23,13 @@ using Clock = std::chrono::steady_clock;
 }  // namespace
 
 SampleScreen::SampleScreen(const QString& theme, const QString& screen) : theme_(theme) {
-  const QString game = platform::ProgramPath(QDir(QStringLiteral(SAMPLE_FOLDER)).absolutePath()) + u'\\';
-  const QString skin = themefiles::SkinsOf(game, theme).value(0);
-  state_.Paths = themefiles::PathsOf(game, theme, skin, QStringLiteral("English"));
+  const QString game = platform::programPath(QDir(QStringLiteral(SAMPLE_FOLDER)).absolutePath()) + u'\\';
+  const QString skin = themefiles::skinsOf(game, theme).value(0);
+  state_.paths = themefiles::pathsOf(game, theme, skin, QStringLiteral("English"));
   themefiles::InitScreenTable(state_);
   themefiles::ReadColors(state_, panel_);
   host_.screen = screen;
-  state_.Filter = themefiles::FilterOf(screen);
+  state_.Filter = themefiles::filterOf(screen);
   themefiles::ReadTags(state_, screen, tags_, panel_, [] {});
   draw();
 }
@@ -51,9 +51,9 @@ void SampleScreen::redraw() {
 
 void SampleScreen::drawFrame() {
   constexpr int Places = 400;
-  const QString section = account_.Objects[account_.Objects.size() / 2].Section;
+  const QString section = account_.objects[account_.objects.size() / 2].section;
   frame_ = (frame_ + 1) % Places;
-  renderer::DrawTrial(context(&store_), {section, {{QStringLiteral("X"), QString::number(frame_)}}});
+  renderer::drawTrial(context(&store_), {section, {{QStringLiteral("X"), QString::number(frame_)}}});
 }
 
 void SampleScreen::drawForGap() {
@@ -71,9 +71,9 @@ void SampleScreen::drawForGap() {
 
 std::vector<Picture> SampleScreen::pictures() const {
   std::vector<Picture> drawn;
-  const QString stem = themefiles::StemOf(state_, host_.screen);
-  add(drawn, stem + QStringLiteral("Background"), QRect(0, 0, platform::Surface::Width, platform::Surface::Height));
-  for (const renderer::Drawn& object : account_.Objects) add(drawn, object.Section, object.Place);
+  const QString stem = themefiles::stemOf(state_, host_.screen);
+  add(drawn, stem + QStringLiteral("Background"), QRect(0, 0, drawing::Surface::Width, drawing::Surface::Height));
+  for (const renderer::Drawn& object : account_.objects) add(drawn, object.section, object.place);
   return drawn;
 }
 
@@ -81,24 +81,24 @@ std::vector<Text> SampleScreen::texts() const {
   constexpr std::array<std::pair<const char*, float>, 2> Faces{
       {{"Eurostar Regular Extended", 1.4F}, {"Eurostar Black", 2.0F}}};
   std::vector<Text> printed;
-  for (const renderer::Drawn& object : account_.Objects) {
-    if (!fileOf(object.Section).isEmpty()) continue;
-    const QString key = valueOf(object.Section, "Text").isEmpty() ? object.Section : valueOf(object.Section, "Text");
-    const auto& [face, points] = Faces[valueOf(object.Section, "Font") == u"1" ? 1 : 0];
-    printed.push_back({themefiles::GetINI(QStringLiteral("Text"), key, key, state_.Paths.LanguageFile),
-                       {static_cast<float>(object.Place.x()), static_cast<float>(object.Place.y()), Qt::white,
+  for (const renderer::Drawn& object : account_.objects) {
+    if (!fileOf(object.section).isEmpty()) continue;
+    const QString key = valueOf(object.section, "Text").isEmpty() ? object.section : valueOf(object.section, "Text");
+    const auto& [face, points] = Faces[valueOf(object.section, "Font") == u"1" ? 1 : 0];
+    printed.push_back({themefiles::GetINI(QStringLiteral("Text"), key, key, state_.paths.LanguageFile),
+                       {static_cast<float>(object.place.x()), static_cast<float>(object.place.y()), Qt::white,
                         QString::fromLatin1(face),
-                        static_cast<float>(platform::NumberOf(valueOf(object.Section, "Size"))) * points}});
+                        static_cast<float>(platform::numberOf(valueOf(object.section, "Size"))) * points}});
   }
   return printed;
 }
 
 QString SampleScreen::fileOf(const QString& section) const {
-  return themefiles::GetINI(QStringLiteral("Textures"), valueOf(section, "Tex"), QString(), state_.Paths.SkinFile);
+  return themefiles::GetINI(QStringLiteral("Textures"), valueOf(section, "Tex"), QString(), state_.paths.SkinFile);
 }
 
 QString SampleScreen::valueOf(const QString& section, const char* key) const {
-  return themefiles::GetINI(section, QString::fromLatin1(key), QString(), state_.Paths.ThemeFile);
+  return themefiles::GetINI(section, QString::fromLatin1(key), QString(), state_.paths.ThemeFile);
 }
 
 void SampleScreen::add(std::vector<Picture>& drawn, const QString& section, const QRect& place) const {
@@ -106,15 +106,15 @@ void SampleScreen::add(std::vector<Picture>& drawn, const QString& section, cons
   if (file.isEmpty()) return;  // a text
   const QString name = valueOf(section, "Color").isEmpty() ? valueOf(section, "DColor") : valueOf(section, "Color");
   const QStringList fields =
-      platform::SplitAtBlanks(themefiles::ResolveColor(state_, name, host_.SchemeName()) + QStringLiteral("   "));
-  const auto channel = [&](int i) { return static_cast<float>(platform::NumberOf(fields[i])); };
-  drawn.push_back({state_.Paths.SkinDirectory + u'\\' + file,
-                   platform::UpperCase(valueOf(section, "TYPE")),
+      platform::splitAtBlanks(themefiles::ResolveColor(state_, name, host_.schemeName()) + QStringLiteral("   "));
+  const auto channel = [&](int i) { return static_cast<float>(platform::numberOf(fields[i])); };
+  drawn.push_back({state_.paths.SkinDirectory + u'\\' + file,
+                   platform::upperCase(valueOf(section, "TYPE")),
                    {channel(0), channel(1), channel(2)},
                    place});
 }
 
-std::shared_ptr<SampleScreen> FullestScreen() {
+std::shared_ptr<SampleScreen> fullestScreen() {
   std::shared_ptr<SampleScreen> fullest;
   themefiles::ModuleState state;
   themefiles::InitScreenTable(state);
@@ -130,19 +130,19 @@ std::shared_ptr<SampleScreen> FullestScreen() {
   return fullest;
 }
 
-renderer::PreparedPicture PreparedOf(const Picture& picture) {
+renderer::PreparedPicture preparedOf(const Picture& picture) {
   using Type = renderer::Recolouring::Type;
   const Type type = picture.type == u"COLORIZED"    ? Type::Colorized
                     : picture.type == u"FONT BLACK" ? Type::FontBlack
                                                     : Type::None;
-  return renderer::Prepare(nullptr, {picture.path, {type, picture.color}, picture.place});
+  return renderer::prepare(nullptr, {picture.path, {type, picture.color}, picture.place});
 }
 
-void DrawPlainly(const Picture& picture, platform::Surface& surface) {
-  QImage image = platform::LoadPicture(picture.path);
-  if (picture.type == u"COLORIZED") renderer::Colorize(image, picture.color);
-  if (picture.type == u"FONT BLACK") renderer::RecolourFont(image, picture.color, renderer::NoIntensity);
-  surface.DrawImageRect(image, picture.place.x(), picture.place.y(), picture.place.width(), picture.place.height());
+void drawPlainly(const Picture& picture, drawing::Surface& surface) {
+  QImage image = drawing::LoadPicture(picture.path);
+  if (picture.type == u"COLORIZED") renderer::colorize(image, picture.color);
+  if (picture.type == u"FONT BLACK") renderer::recolourFont(image, picture.color, renderer::NoIntensity);
+  surface.drawImageRect(image, picture.place.x(), picture.place.y(), picture.place.width(), picture.place.height());
 }
 
 }  // namespace bench

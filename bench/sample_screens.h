@@ -22,7 +22,7 @@ struct Picture {
 /// A text of the screen: the words, and the pen that prints them.
 struct Text {
   QString words;
-  platform::Pen pen;
+  drawing::Pen pen;
 };
 
 /// One screen of a sample theme, drawn on a surface without a window.
@@ -44,7 +44,7 @@ class SampleScreen {
   /// The longest of these times so far, in milliseconds.
   double longestGap() const { return longestGap_; }
 
-  std::size_t objects() const { return account_.Objects.size(); }
+  std::size_t objects() const { return account_.objects.size(); }
 
   /// The pictures that the last render drew.
   std::vector<Picture> pictures() const;
@@ -60,11 +60,11 @@ class SampleScreen {
   QString theme_;
   themefiles::ModuleState state_;
   themefiles::SortedTags tags_;
-  platform::Surface surface_;
+  drawing::Surface surface_;
   support::Host host_;
   support::Panel panel_;
   support::ScriptedDialogs boxes_;
-  platform::Graphics graphics_;
+  drawing::Graphics graphics_;
   renderer::RenderAccount account_;
   renderer::PreparedPictures store_;
   int frame_ = 0;
@@ -72,13 +72,13 @@ class SampleScreen {
 };
 
 /// The screen on which most objects are drawn, of all sample themes; null without any.
-std::shared_ptr<SampleScreen> FullestScreen();
+std::shared_ptr<SampleScreen> fullestScreen();
 
 /// The picture as the render blends it.
-renderer::PreparedPicture PreparedOf(const Picture& picture);
+renderer::PreparedPicture preparedOf(const Picture& picture);
 
 /// Decodes, recolours and draws scaled; nothing else.
-void DrawPlainly(const Picture& picture, platform::Surface& surface);
+void drawPlainly(const Picture& picture, drawing::Surface& surface);
 
 /// A copy of the sample game in a folder of its own, where working copies may be made.
 class CopiedSample {

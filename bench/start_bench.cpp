@@ -39,12 +39,12 @@ int showEmptyWindow() {
 
 int showEditor(QApplication& application, const QString& settings) {
   FirstPaint first;
-  controls::ApplyLook(application);
+  controls::applyLook(application);
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
-  platform::Graphics graphics;
-  mainwindows::Form1 form({state, dialogs, graphics, {platform::ProgramPath(settings)}});
-  mainwindows::ConnectEvents(form);
+  drawing::Graphics graphics;
+  mainwindows::Form1 form({state, dialogs, graphics, {platform::programPath(settings)}});
+  mainwindows::connectEvents(form);
   form.Workspace->installEventFilter(&first);
   form.show();
   return QApplication::exec();

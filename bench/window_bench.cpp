@@ -18,9 +18,9 @@ namespace {
 /// The program's main window with a theme of the sample open in it.
 struct OpenEditor {
   explicit OpenEditor(const SampleScreen& screen)
-      : form({state, boxes, graphics, {platform::ProgramPath(settings.path())}}) {
-    form.Config.SetGameFolder(platform::ProgramPath(game.path()) + u'\\');
-    mainwindows::ConnectEvents(form);
+      : form({state, boxes, graphics, {platform::programPath(settings.path())}}) {
+    form.config.setGameFolder(platform::programPath(game.path()) + u'\\');
+    mainwindows::connectEvents(form);
     form.show();
     QTimer::singleShot(0, &form, [&screen] {
       auto& dialog = dynamic_cast<mainwindows::Form3&>(*QApplication::activeModalWidget());
@@ -28,7 +28,7 @@ struct OpenEditor {
       dialog.Command1->click();
     });
     Q_EMIT form.ToolBar->Click(1);
-    form.ToolWindow->Combo1->SetText(screen.name());
+    form.toolWindow->Combo1->SetText(screen.name());
     QApplication::processEvents();
   }
 
@@ -36,7 +36,7 @@ struct OpenEditor {
   QTemporaryDir settings;
   themefiles::ModuleState state;
   support::ScriptedDialogs boxes;
-  platform::Graphics graphics;
+  drawing::Graphics graphics;
   mainwindows::Form1 form;
 };
 
@@ -44,10 +44,10 @@ struct OpenEditor {
 class PlainPreview : public QWidget {
  public:
   PlainPreview() {
-    setFixedSize(platform::Surface::Width, platform::Surface::Height);
+    setFixedSize(drawing::Surface::Width, drawing::Surface::Height);
     setAttribute(Qt::WA_OpaquePaintEvent);
   }
-  platform::Surface Surface;
+  drawing::Surface Surface;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
@@ -59,7 +59,7 @@ class PlainPreview : public QWidget {
 
 }  // namespace
 
-void RegisterShownScreen(const std::shared_ptr<SampleScreen>& screen) {
+void registerShownScreen(const std::shared_ptr<SampleScreen>& screen) {
   const auto editor = std::make_shared<OpenEditor>(*screen);
   const auto preview = std::make_shared<PlainPreview>();
   preview->show();
@@ -69,20 +69,20 @@ void RegisterShownScreen(const std::shared_ptr<SampleScreen>& screen) {
       editor->form.ProgressBar1->resize(bar);
       for ([[maybe_unused]] auto turn : state) {
         editor->form.Pictures.clear();
-        editor->form.Queue.Draw();
+        editor->form.queue.draw();
         QApplication::processEvents();
       }
     };
   };
   const QSize shown = editor->form.ProgressBar1->size();
-  Register({"ProgressBar", 1.02, Held::AtMost}, draw(shown), draw(QSize(0, 0)));
-  Register({"ShownScreen", 1.25, Held::AtMost}, draw(shown),
-           [preview, pictures = screen->pictures()](benchmark::State& state) {
-             for ([[maybe_unused]] auto turn : state) {
-               for (const Picture& picture : pictures) DrawPlainly(picture, preview->Surface);
-               preview->repaint(preview->Surface.TakeDirty());
-             }
-           });
+  registerBenchmark({"ProgressBar", 1.02, Held::AtMost}, draw(shown), draw(QSize(0, 0)));
+  registerBenchmark({"ShownScreen", 1.25, Held::AtMost}, draw(shown),
+                    [preview, pictures = screen->pictures()](benchmark::State& state) {
+                      for ([[maybe_unused]] auto turn : state) {
+                        for (const Picture& picture : pictures) drawPlainly(picture, preview->Surface);
+                        preview->repaint(preview->Surface.takeDirty());
+                      }
+                    });
 }
 
 }  // namespace bench

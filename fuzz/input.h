@@ -8,7 +8,7 @@
 namespace fuzz {
 
 /// Ends the run as a find when the fact doesn't hold.
-inline void Require(bool fact, const char* what) {
+inline void require(bool fact, const char* what) {
   if (fact) return;
   std::fprintf(stderr, "Broken: %s\n", what);
   std::abort();

@@ -1,4 +1,4 @@
-#include "platform/pictures.h"
+#include "drawing/pictures.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
@@ -13,10 +13,10 @@ extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   const QByteArrayView bytes(data, qsizetype(size));
-  const QImage picture = platform::DecodePicture(bytes);
+  const QImage picture = drawing::decodePicture(bytes);
   if (picture.isNull()) return 0;
-  fuzz::Require(picture.format() == QImage::Format_ARGB32, "one format for all pictures");
+  fuzz::require(picture.format() == QImage::Format_ARGB32, "one format for all pictures");
   // What a decoder leaves unset would differ.
-  fuzz::Require(platform::DecodePicture(bytes) == picture, "all pixels come from the file");
+  fuzz::require(drawing::decodePicture(bytes) == picture, "all pixels come from the file");
   return 0;
 }

@@ -16,7 +16,7 @@ QByteArrayView trimmed(QByteArrayView text) {
 }
 
 bool same(QByteArrayView a, QByteArrayView b) {
-  return SameName(FromAnsi(a), FromAnsi(b));
+  return sameName(fromAnsi(a), fromAnsi(b));
 }
 
 /// The same rules told line by line, slow and plain.
@@ -50,15 +50,15 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   const QByteArrayView section = input.line();
   const QByteArrayView key = input.line();
   const QByteArrayView file = input.rest();
-  fuzz::Require(FindProfileValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
+  fuzz::require(findProfileValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
 
-  const QByteArray keys = ListProfileKeys(file, section);
-  fuzz::Require(keys.isEmpty() || keys.endsWith('\0'), "every key is ended");
+  const QByteArray keys = listProfileKeys(file, section);
+  fuzz::require(keys.isEmpty() || keys.endsWith('\0'), "every key is ended");
   if (QByteArrayView(file).contains('\0')) return 0;
   QByteArrayView rest = keys;
   while (!rest.isEmpty()) {
     const qsizetype end = rest.indexOf('\0');
-    fuzz::Require(FindProfileValue(file, section, rest.first(end)).has_value(), "a listed key has a value");
+    fuzz::require(findProfileValue(file, section, rest.first(end)).has_value(), "a listed key has a value");
     rest = rest.sliced(end + 1);
   }
   return 0;

@@ -13,7 +13,7 @@ bool hasLineEnd(QByteArrayView text) {
 
 /// What reading makes of a value: it is read from a file of its own.
 QByteArray readForm(QByteArrayView value) {
-  return FindProfileValue("[S]\nk=" + value.toByteArray(), "S", "k").value_or(QByteArray());
+  return findProfileValue("[S]\nk=" + value.toByteArray(), "S", "k").value_or(QByteArray());
 }
 
 /// All bytes outside one place stay, and a place that held something lies inside one line.
@@ -23,7 +23,7 @@ void requireOnePlace(QByteArrayView before, QByteArrayView after, bool replaced)
   const qsizetype most = std::min(before.size(), after.size()) - head;
   while (tail < most && before[before.size() - 1 - tail] == after[after.size() - 1 - tail]) ++tail;
   const QByteArrayView gone = before.sliced(head, before.size() - head - tail);
-  fuzz::Require(replaced ? !hasLineEnd(gone) : gone.isEmpty(), "all other bytes stay");
+  fuzz::require(replaced ? !hasLineEnd(gone) : gone.isEmpty(), "all other bytes stay");
 }
 
 }  // namespace
@@ -35,16 +35,16 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   const QByteArrayView key = input.line();
   const QByteArrayView value = input.line();
   const QByteArrayView file = input.rest();
-  const auto old = FindProfileValue(file, section, key);
+  const auto old = findProfileValue(file, section, key);
 
-  if (const auto changed = SetProfileValue(file, section, key, value)) {
-    fuzz::Require(FindProfileValue(*changed, section, key) == readForm(value), "a written value is read back");
+  if (const auto changed = setProfileValue(file, section, key, value)) {
+    fuzz::require(findProfileValue(*changed, section, key) == readForm(value), "a written value is read back");
     requireOnePlace(file, *changed, old.has_value());
-    fuzz::Require(!SetProfileValue(*changed, section, key, value), "the second write has nothing to do");
-    const auto removed = RemoveProfileKey(*changed, section, key);
-    fuzz::Require(removed.has_value(), "a written key can be removed");
+    fuzz::require(!setProfileValue(*changed, section, key, value), "the second write has nothing to do");
+    const auto removed = removeProfileKey(*changed, section, key);
+    fuzz::require(removed.has_value(), "a written key can be removed");
     requireOnePlace(*removed, *changed, false);
   }
-  fuzz::Require(RemoveProfileKey(file, section, key).has_value() == old.has_value(), "what is found can be removed");
+  fuzz::require(removeProfileKey(file, section, key).has_value() == old.has_value(), "what is found can be removed");
   return 0;
 }

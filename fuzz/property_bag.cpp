@@ -1,50 +1,50 @@
 #include <QApplication>
 
+#include "drawing/icons.h"
 #include "input.h"
-#include "platform/icons.h"
-#include "platform/property_bag_bytes.h"
 #include "progressbar/progress_bar.h"
 #include "progressbar/stored_form.h"
+#include "propertybag/stored_bytes.h"
 #include "toolbar/stored_form.h"
 
 namespace {
 
-void checkBag(const platform::PropertyBag& bag, QByteArrayView bytes) {
-  const QByteArray again = platform::StoredBytes(bag);
-  fuzz::Require(again.size() == bytes.size(), "a bag is written as long as it was read");
-  const std::optional<platform::PropertyBag> copy = platform::BagOfBytes(again);
-  fuzz::Require(copy && platform::StoredBytes(*copy) == again, "what is written reads back the same");
-  for (const auto& [key, value] : bag.Records()) {
-    if (value.typeId() != qMetaTypeId<platform::StoredPicture>()) continue;
-    const auto icon = platform::ReadIcon(value.value<platform::StoredPicture>().File);
-    fuzz::Require(!icon || icon->Color.size() == icon->Mask.size(), "an icon's bitmaps are of one size");
+void checkBag(const propertybag::PropertyBag& bag, QByteArrayView bytes) {
+  const QByteArray again = propertybag::storedBytes(bag);
+  fuzz::require(again.size() == bytes.size(), "a bag is written as long as it was read");
+  const std::optional<propertybag::PropertyBag> copy = propertybag::bagOfBytes(again);
+  fuzz::require(copy && propertybag::storedBytes(*copy) == again, "what is written reads back the same");
+  for (const auto& [key, value] : bag.records()) {
+    if (value.typeId() != qMetaTypeId<propertybag::StoredPicture>()) continue;
+    const auto icon = drawing::readIcon(value.value<propertybag::StoredPicture>().File);
+    fuzz::require(!icon || icon->Color.size() == icon->Mask.size(), "an icon's bitmaps are of one size");
   }
 }
 
-platform::PropertyBag stored(const toolbar::StoredToolBar& toolBar) {
-  platform::PropertyBag bag;
-  toolbar::WriteStoredForm(bag, toolBar, QFont());
+propertybag::PropertyBag stored(const toolbar::StoredToolBar& toolBar) {
+  propertybag::PropertyBag bag;
+  toolbar::writeStoredForm(bag, toolBar, QFont());
   return bag;
 }
 
-void checkToolBar(const platform::PropertyBag& bag) {
-  const auto toolBar = toolbar::ReadStoredForm(bag, QFont());
+void checkToolBar(const propertybag::PropertyBag& bag) {
+  const auto toolBar = toolbar::readStoredForm(bag, QFont());
   if (!toolBar) return;
-  const platform::PropertyBag written = stored(*toolBar);
-  const auto again = toolbar::ReadStoredForm(written, QFont());
-  fuzz::Require(again && platform::StoredBytes(stored(*again)) == platform::StoredBytes(written),
+  const propertybag::PropertyBag written = stored(*toolBar);
+  const auto again = toolbar::readStoredForm(written, QFont());
+  fuzz::require(again && propertybag::storedBytes(stored(*again)) == propertybag::storedBytes(written),
                 "a toolbar goes round");
 }
 
 void checkProgressBar(QByteArrayView bytes) {
   progressbar::ProgressBar bar;
-  progressbar::ReadProperties(bar, bytes);
-  fuzz::Require(bar.min() >= 0 && bar.min() < bar.max() && bar.min() <= bar.Value() && bar.Value() <= bar.max(),
+  progressbar::readProperties(bar, bytes);
+  fuzz::require(bar.min() >= 0 && bar.min() < bar.max() && bar.min() <= bar.Value() && bar.Value() <= bar.max(),
                 "the value stays in its range");
-  const QByteArray written = progressbar::WriteProperties(bar);
+  const QByteArray written = progressbar::writeProperties(bar);
   progressbar::ProgressBar copy;
-  progressbar::ReadProperties(copy, written);
-  fuzz::Require(progressbar::WriteProperties(copy) == written, "a progress bar goes round");
+  progressbar::readProperties(copy, written);
+  fuzz::require(progressbar::writeProperties(copy) == written, "a progress bar goes round");
 }
 
 }  // namespace
@@ -56,7 +56,7 @@ extern "C" int LLVMFuzzerInitialize(int* count, char*** arguments) {
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
   const QByteArrayView bytes(data, qsizetype(size));
-  const std::optional<platform::PropertyBag> bag = platform::BagOfBytes(bytes);
+  const std::optional<propertybag::PropertyBag> bag = propertybag::bagOfBytes(bytes);
   if (!bag) return 0;
   checkBag(*bag, bytes);
   checkToolBar(*bag);

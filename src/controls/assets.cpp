@@ -3,17 +3,17 @@
 #include <QFile>
 #include <QPixmap>
 
-#include "platform/pictures.h"
+#include "drawing/pictures.h"
 
 namespace controls {
 
-QImage AssetPicture(const QString& name) {
+QImage assetPicture(const QString& name) {
   QFile file(QStringLiteral(":/assets/") + name);
-  return file.open(QIODevice::ReadOnly) ? platform::DecodePicture(file.readAll()) : QImage();
+  return file.open(QIODevice::ReadOnly) ? drawing::decodePicture(file.readAll()) : QImage();
 }
 
-QIcon AssetIcon(const QString& name) {
-  return QIcon(QPixmap::fromImage(AssetPicture(name + QStringLiteral(".png"))));
+QIcon assetIcon(const QString& name) {
+  return QIcon(QPixmap::fromImage(assetPicture(name + QStringLiteral(".png"))));
 }
 
 }  // namespace controls

@@ -9,9 +9,9 @@
 namespace controls {
 
 /// The picture of that file name ("start.jpg"); null without one.
-QImage AssetPicture(const QString& name);
+QImage assetPicture(const QString& name);
 
 /// The icon of that name, without ending.
-QIcon AssetIcon(const QString& name);
+QIcon assetIcon(const QString& name);
 
 }  // namespace controls

@@ -69,20 +69,20 @@ void ComboBox::SetListIndex(int index) {
   if (index >= 0) Q_EMIT Click(Cause::Code);
 }
 
-int ComboBox::EntryLike(const QString& name) const {
+int ComboBox::entryLike(const QString& name) const {
   int entry = 0;
-  while (entry < count() && !platform::SameName(List(entry), name)) ++entry;
+  while (entry < count() && !platform::sameName(List(entry), name)) ++entry;
   return entry < count() ? entry : -1;
 }
 
-bool ComboBox::SelectText(const QString& text) {
+bool ComboBox::selectText(const QString& text) {
   const int entry = findText(text);
   if (entry >= 0) SetListIndex(entry);
   return entry >= 0;
 }
 
 void ComboBox::SetText(const QString& text) {
-  if (!SelectText(text)) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
+  if (!selectText(text)) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
 }
 
 void ComboBox::setSwatches(const std::function<QColor(const QString& entry)>& colorOf) {

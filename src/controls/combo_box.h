@@ -30,10 +30,10 @@ class ComboBox : public WheelWithFocus<QComboBox> {
   /// Text of the selected entry, empty without one.
   QString Text() const { return currentText(); }
   /// First entry that names the same but for case; -1 without one.
-  int EntryLike(const QString& name) const;
+  int entryLike(const QString& name) const;
   /// Selects the first entry equal to `text`, case included, as SetListIndex does; false, and nothing else, without
   /// one.
-  bool SelectText(const QString& text);
+  bool selectText(const QString& text);
   /// The same, throwing platform::Failure without one.
   void SetText(const QString& text);
 

@@ -26,7 +26,7 @@ void CutLabel::showText() {
   const QString shown = fontMetrics().elidedText(whole_, Qt::ElideRight, room);
   setText(shown);
   setAccessibleName(whole_);
-  setToolTip(shown == whole_ ? QString() : PlainToolTip(whole_));
+  setToolTip(shown == whole_ ? QString() : plainToolTip(whole_));
 }
 
 }  // namespace controls

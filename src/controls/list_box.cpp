@@ -21,7 +21,7 @@ void ListBox::AddItem(const QString& text) {
   if (order_ == Order::AsAdded) from = to;
   while (from < to) {
     const int middle = (from + to) / 2;
-    if (platform::NameLess(text, item(middle)->text())) {
+    if (platform::nameLess(text, item(middle)->text())) {
       to = middle;
     } else {
       from = middle + 1;
@@ -49,7 +49,7 @@ QString ListBox::Text() const {
   return List(ListIndex());
 }
 
-void ListBox::SetToolTip(int index, const QString& text) {
+void ListBox::setRowToolTip(int index, const QString& text) {
   if (QListWidgetItem* row = item(index)) row->setToolTip(text);
 }
 

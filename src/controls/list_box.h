@@ -7,7 +7,7 @@
 
 namespace controls {
 
-/// A list box of one column and one selected row. A sorted one keeps its rows in the order of platform::NameLess
+/// A list box of one column and one selected row. A sorted one keeps its rows in the order of platform::nameLess
 /// (equal names in the order in which they came); a selected row stays selected when others come before it.
 /// Click fires for a written ListIndex, a mouse click on a row (also on the selected one) and a change by the keyboard.
 class ListBox : public RowPicking<QListWidget> {
@@ -29,7 +29,7 @@ class ListBox : public RowPicking<QListWidget> {
   /// Text of the selected row, empty without one.
   QString Text() const;
   /// What the tip of a row tells, as plain text, behind the name if that is cut; empty removes it.
-  void SetToolTip(int index, const QString& text);
+  void setRowToolTip(int index, const QString& text);
   /// Shows the text of a row in bold letters, or in grey ones unless the row is selected.
   void setBold(int index, bool bold);
   void setGrey(int index, bool grey);

@@ -28,32 +28,32 @@ ListView::ListView(QWidget* parent) : RowPicking(parent) {
   header()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
 }
 
-void ListView::SetColumns(const QStringList& headers, const QList<int>& widths) {
+void ListView::setColumns(const QStringList& headers, const QList<int>& widths) {
   setHeaderLabels(headers);
   for (int column = 0; column < widths.size(); ++column) setColumnWidth(column, widths[column]);
   widthAsTold_ = width();
   given_ = 0;
 }
 
-void ListView::ClearRows() {
+void ListView::clearRows() {
   clear();
 }
 
-void ListView::AddRow(const QString& text, const QString& subItem) {
+void ListView::addRow(const QString& text, const QString& subItem) {
   addTopLevelItem(new QTreeWidgetItem(QStringList{text, subItem}));
 }
 
-QString ListView::RowText(int row) const {
+QString ListView::rowText(int row) const {
   const QTreeWidgetItem* item = topLevelItem(row);
   return item == nullptr ? QString() : item->text(TextColumn);
 }
 
-QString ListView::SubItem(int row) const {
+QString ListView::subItem(int row) const {
   const QTreeWidgetItem* item = topLevelItem(row);
   return item == nullptr ? QString() : item->text(SubItemColumn);
 }
 
-void ListView::SetSubItem(int row, const QString& text) {
+void ListView::setSubItem(int row, const QString& text) {
   if (QTreeWidgetItem* item = topLevelItem(row)) item->setText(SubItemColumn, text);
 }
 
@@ -81,9 +81,9 @@ void ListView::resizeEvent(QResizeEvent* event) {
 
 void ListView::contextMenuEvent(QContextMenuEvent* event) {
   const bool mouse = event->reason() == QContextMenuEvent::Mouse;
-  const int row = mouse ? indexAt(event->pos()).row() : SelectedRow();
+  const int row = mouse ? indexAt(event->pos()).row() : selectedRow();
   const QPoint below = visualRect(model()->index(row, SubItemColumn)).bottomLeft();
-  if (row >= 0) Q_EMIT MenuAsked(row, mouse ? event->globalPos() : viewport()->mapToGlobal(below));
+  if (row >= 0) Q_EMIT menuAsked(row, mouse ? event->globalPos() : viewport()->mapToGlobal(below));
 }
 
 }  // namespace controls

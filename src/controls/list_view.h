@@ -16,25 +16,25 @@ class ListView : public RowPicking<QTreeWidget> {
   explicit ListView(QWidget* parent = nullptr);
 
   /// Headers and widths (pixels) of the two columns.
-  void SetColumns(const QStringList& headers, const QList<int>& widths);
-  void ClearRows();
-  void AddRow(const QString& text, const QString& subItem);
-  int RowCount() const { return topLevelItemCount(); }
-  QString RowText(int row) const;
-  QString SubItem(int row) const;
-  void SetSubItem(int row, const QString& text);
+  void setColumns(const QStringList& headers, const QList<int>& widths);
+  void clearRows();
+  void addRow(const QString& text, const QString& subItem);
+  int rowCount() const { return topLevelItemCount(); }
+  QString rowText(int row) const;
+  QString subItem(int row) const;
+  void setSubItem(int row, const QString& text);
   /// Marks a row in bold letters, with `text` in its tool tip; an empty text takes the mark away.
   void setSaved(int row, const QString& text);
   /// Number of the selected row, -1 without one.
-  int SelectedRow() const { return selectedRow(); }
+  using RowPicking::selectedRow;
   /// Selects the row as code would: fires nothing. -1 selects nothing.
-  void SelectRow(int row) { select(row); }
+  void selectRow(int row) { select(row); }
 
  Q_SIGNALS:
   /// A click on a row, also on the selected one, or a change of row by the keyboard; neither code nor focus.
   void ItemClick(int row);
   /// The user has asked for the menu of a row, by the mouse or the keyboard.
-  void MenuAsked(int row, const QPoint& place);
+  void menuAsked(int row, const QPoint& place);
 
  protected:
   void picked(int row) override;

@@ -4,7 +4,7 @@
 #include <QToolTip>
 
 #include "controls/style.h"
-#include "platform/fonts.h"
+#include "drawing/fonts.h"
 
 namespace controls {
 
@@ -15,17 +15,17 @@ constexpr int LongestLine = 80;
 
 }  // namespace
 
-void ApplyLook(QApplication& application) {
+void applyLook(QApplication& application) {
   auto* style = new Style;
   application.setStyle(style);
   application.setPalette(style->standardPalette());
   QToolTip::setPalette(style->standardPalette());
-  const QFont font = platform::ControlFont(QStringLiteral("MS Sans Serif"), FontPixels);
+  const QFont font = drawing::controlFont(QStringLiteral("MS Sans Serif"), FontPixels);
   application.setFont(font);
   QToolTip::setFont(font);
 }
 
-QString PlainToolTip(const QString& text) {
+QString plainToolTip(const QString& text) {
   if (text.size() <= LongestLine && !Qt::mightBeRichText(text)) return text;
   return QStringLiteral("<span style=\"white-space:pre-wrap\">") + text.toHtmlEscaped() + QStringLiteral("</span>");
 }

@@ -19,7 +19,7 @@ constexpr int InputBoxWidth = 360;
 
 }  // namespace
 
-platform::BoxAnswer NativeDialogs::MessageBox(QWidget* parent, const QString& text, const QString& title,
+platform::BoxAnswer NativeDialogs::messageBox(QWidget* parent, const QString& text, const QString& title,
                                               platform::BoxKind kind) {
   const bool question = kind == platform::BoxKind::YesNoDefaultNo;
   QMessageBox box(parent);
@@ -35,7 +35,7 @@ platform::BoxAnswer NativeDialogs::MessageBox(QWidget* parent, const QString& te
   return pressed == QMessageBox::Yes ? platform::BoxAnswer::Yes : platform::BoxAnswer::No;
 }
 
-QString NativeDialogs::InputBox(QWidget* parent, const QString& prompt, const QString& title) {
+QString NativeDialogs::inputBox(QWidget* parent, const QString& prompt, const QString& title) {
   QInputDialog dialog(parent);
   dialog.setInputMode(QInputDialog::TextInput);
   dialog.setWindowTitle(title);
@@ -45,27 +45,27 @@ QString NativeDialogs::InputBox(QWidget* parent, const QString& prompt, const QS
   return runModal(dialog) == QDialog::Accepted ? dialog.textValue() : QString();
 }
 
-QString NativeDialogs::OpenFile(QWidget* parent, const platform::FileRequest& request) {
+QString NativeDialogs::openFile(QWidget* parent, const platform::FileRequest& request) {
   QFileDialog dialog(parent, request.title);
   dialog.setAcceptMode(QFileDialog::AcceptOpen);
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
-  dialog.setNameFilters(NameFilters(request.filter));
-  if (!request.folder.isEmpty()) dialog.setDirectory(platform::NativePath(request.folder));
+  dialog.setNameFilters(nameFilters(request.filter));
+  if (!request.folder.isEmpty()) dialog.setDirectory(platform::nativePath(request.folder));
   if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
-  if (request.pictures) AddThumbnail(dialog);
+  if (request.pictures) addThumbnail(dialog);
   if (runModal(dialog) != QDialog::Accepted) return {};
   const QStringList files = dialog.selectedFiles();
-  return files.isEmpty() ? QString() : platform::ProgramPath(files.first());
+  return files.isEmpty() ? QString() : platform::programPath(files.first());
 }
 
-std::optional<QColor> NativeDialogs::ChooseColor(QWidget* parent, const QColor& present) {
+std::optional<QColor> NativeDialogs::chooseColor(QWidget* parent, const QColor& present) {
   QColorDialog dialog(present, parent);
   if (runModal(dialog) != QDialog::Accepted) return std::nullopt;
   return dialog.selectedColor();
 }
 
-QStringList NameFilters(const QString& filter) {
+QStringList nameFilters(const QString& filter) {
   QStringList filters;
   const QStringList parts = filter.split(u'|');
   for (int i = 0; i + 1 < parts.size(); i += 2) {

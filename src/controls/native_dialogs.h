@@ -8,14 +8,14 @@ namespace controls {
 /// each dialog gets Cancel (an ordinary reject of the active modal window).
 class NativeDialogs : public platform::Dialogs {
  public:
-  platform::BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title,
+  platform::BoxAnswer messageBox(QWidget* parent, const QString& text, const QString& title,
                                  platform::BoxKind kind) override;
-  QString InputBox(QWidget* parent, const QString& prompt, const QString& title) override;
-  QString OpenFile(QWidget* parent, const platform::FileRequest& request) override;
-  std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) override;
+  QString inputBox(QWidget* parent, const QString& prompt, const QString& title) override;
+  QString openFile(QWidget* parent, const platform::FileRequest& request) override;
+  std::optional<QColor> chooseColor(QWidget* parent, const QColor& present) override;
 };
 
 /// The name filters of a file dialog, from pairs "description|*.a;*.b" separated by "|".
-QStringList NameFilters(const QString& filter);
+QStringList nameFilters(const QString& filter);
 
 }  // namespace controls

@@ -17,10 +17,10 @@ NumberBar::NumberBar(int limit, int value, QWidget* parent) : WheelWithFocus(Qt:
 }
 
 void NumberBar::SetValue(int value) {
-  setValue(-std::clamp(value, -Limit(), Limit()));
+  setValue(-std::clamp(value, -limit(), limit()));
 }
 
-void NumberBar::SetValueQuietly(int value) {
+void NumberBar::setValueQuietly(int value) {
   const QSignalBlocker quiet(this);
   SetValue(value);
 }

@@ -14,12 +14,12 @@ class NumberBar : public WheelWithFocus<QScrollBar> {
   /// Range -limit to limit; stands at `value`.
   NumberBar(int limit, int value, QWidget* parent = nullptr);
 
-  int Limit() const { return maximum(); }
+  int limit() const { return maximum(); }
   int Value() const { return -value(); }
   /// Fires Change when the value differs. A value beyond the range goes to its end.
   void SetValue(int value);
   /// The same without a Change.
-  void SetValueQuietly(int value);
+  void setValueQuietly(int value);
 
  Q_SIGNALS:
   void Change();

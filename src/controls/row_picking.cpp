@@ -9,7 +9,7 @@
 
 namespace controls {
 
-std::optional<int> RowForKey(int key, int selected, int rows, int page) {
+std::optional<int> rowForKey(int key, int selected, int rows, int page) {
   const struct {
     int key;
     int target;
@@ -35,7 +35,7 @@ void showCellTip(const QAbstractItemView& view, const QHelpEvent& help) {
   if (view.sizeHintForIndex(cell).width() > shown.width()) lines += shownText(cell.data().toString());
   lines += cell.data(Qt::ToolTipRole).toString();
   lines.removeAll(QString());
-  QToolTip::showText(help.globalPos(), PlainToolTip(lines.join(u'\n')), view.viewport(), shown);
+  QToolTip::showText(help.globalPos(), plainToolTip(lines.join(u'\n')), view.viewport(), shown);
 }
 
 }  // namespace controls

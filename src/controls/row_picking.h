@@ -14,7 +14,7 @@ namespace controls {
 
 /// The row that a key leads to from the selected one (-1 without one) in a list that shows `page` rows; none for a key
 /// that doesn't move the selection, and in an empty list.
-std::optional<int> RowForKey(int key, int selected, int rows, int page);
+std::optional<int> rowForKey(int key, int selected, int rows, int page);
 
 /// Shows the tip of the cell under the mouse: its text when that is cut, then what its tool tip role holds. Both are
 /// plain text.
@@ -71,7 +71,7 @@ class RowPicking : public View {
     const int before = selectedRow();
     const int rows = this->model()->rowCount();
     const int page = rows == 0 ? 1 : std::max(1, this->viewport()->height() / std::max(1, this->sizeHintForRow(0)));
-    if (const std::optional<int> row = RowForKey(event->key(), before, rows, page)) {
+    if (const std::optional<int> row = rowForKey(event->key(), before, rows, page)) {
       select(*row);
     } else {
       // The focus alone makes the first row the current one: a search by letters would begin behind it.

@@ -5,7 +5,7 @@
 #include <QPalette>
 #include <QStyleOption>
 
-#include "platform/system_colors.h"
+#include "drawing/system_colours.h"
 
 namespace controls {
 
@@ -36,7 +36,7 @@ constexpr struct {
 };
 
 /// A frame with its title on the upper line.
-void DrawGroupBox(const QStyleOptionGroupBox& box, QPainter& painter, const QStyle& style) {
+void drawGroupBox(const QStyleOptionGroupBox& box, QPainter& painter, const QStyle& style) {
   const QSize text = box.fontMetrics.size(Qt::TextShowMnemonic, box.text);
   const QRect title(box.rect.left() + TitleIndent, box.rect.top(), text.width() + 2 * TitleMargin, text.height());
   painter.save();
@@ -72,13 +72,13 @@ Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
 QPalette Style::standardPalette() const {
   QPalette palette;
   for (const auto& [role, color, disabled] : Roles) {
-    palette.setColor(QPalette::Active, role, platform::SystemColor(color));
-    palette.setColor(QPalette::Inactive, role, platform::SystemColor(color));
-    palette.setColor(QPalette::Disabled, role, platform::SystemColor(disabled));
+    palette.setColor(QPalette::Active, role, drawing::systemColor(color));
+    palette.setColor(QPalette::Inactive, role, drawing::systemColor(color));
+    palette.setColor(QPalette::Disabled, role, drawing::systemColor(disabled));
   }
   // A selection without the keyboard is grey.
-  palette.setColor(QPalette::Inactive, QPalette::Highlight, platform::SystemColor(InactiveSelection));
-  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, platform::SystemColor(InactiveSelectionText));
+  palette.setColor(QPalette::Inactive, QPalette::Highlight, drawing::systemColor(InactiveSelection));
+  palette.setColor(QPalette::Inactive, QPalette::HighlightedText, drawing::systemColor(InactiveSelectionText));
   return palette;
 }
 
@@ -115,7 +115,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
                                const QWidget* widget) const {
   const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
   if (control == CC_GroupBox && box != nullptr) {
-    DrawGroupBox(*box, *painter, *this);
+    drawGroupBox(*box, *painter, *this);
   } else {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
   }

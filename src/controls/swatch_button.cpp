@@ -16,7 +16,7 @@ void SwatchButton::SetBackColor(const QColor& color) {
 }
 
 void SwatchButton::contextMenuEvent(QContextMenuEvent* event) {
-  Q_EMIT MenuAsked(event->reason() == QContextMenuEvent::Mouse ? event->globalPos() : mapToGlobal(rect().bottomLeft()));
+  Q_EMIT menuAsked(event->reason() == QContextMenuEvent::Mouse ? event->globalPos() : mapToGlobal(rect().bottomLeft()));
 }
 
 void SwatchButton::paintEvent(QPaintEvent* event) {

@@ -18,7 +18,7 @@ class SwatchButton : public QPushButton {
 
  Q_SIGNALS:
   /// The user has asked for the button's menu, by the mouse or the keyboard.
-  void MenuAsked(const QPoint& place);
+  void menuAsked(const QPoint& place);
 
  protected:
   void contextMenuEvent(QContextMenuEvent* event) override;

@@ -41,7 +41,7 @@ void TextBox::pasteFiltered(QClipboard::Mode source) {
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    if (!event->isAutoRepeat()) Q_EMIT Enter();
+    if (!event->isAutoRepeat()) Q_EMIT enter();
     return;
   }
   if (event == QKeySequence::Paste) return pasteFiltered(QClipboard::Clipboard);

@@ -14,7 +14,7 @@ class TextBox : public QLineEdit {
   explicit TextBox(QWidget* parent = nullptr);
 
   /// The letters that the user can enter; empty lets all through. Text set by code isn't filtered.
-  void SetKeyFilter(const QString& letters) { letters_ = letters; }
+  void setKeyFilter(const QString& letters) { letters_ = letters; }
   QString Text() const { return text(); }
   /// Sets the text and, on a difference only, fires Change.
   void SetText(const QString& text);
@@ -23,7 +23,7 @@ class TextBox : public QLineEdit {
   /// The text has changed, by the user or by code.
   void Change();
   /// Enter was pressed.
-  void Enter();
+  void enter();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

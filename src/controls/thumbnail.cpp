@@ -6,7 +6,7 @@
 #include <QLabel>
 #include <QTreeView>
 
-#include "platform/pictures.h"
+#include "drawing/pictures.h"
 
 namespace controls {
 namespace {
@@ -15,7 +15,7 @@ constexpr int Side = 160;        // pixels
 constexpr int WideEnough = 860;  // of the dialog, with its four columns and the thumbnail
 
 QPixmap thumbnailOf(const QString& path) {
-  const QImage picture = platform::LoadPicture(path);
+  const QImage picture = drawing::LoadPicture(path);
   if (picture.isNull()) return {};
   const bool fits = picture.width() <= Side && picture.height() <= Side;
   return QPixmap::fromImage(fits ? picture : picture.scaled(Side, Side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
@@ -34,7 +34,7 @@ void widen(QFileDialog& dialog) {
 
 }  // namespace
 
-void AddThumbnail(QFileDialog& dialog) {
+void addThumbnail(QFileDialog& dialog) {
   auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
   if (grid == nullptr) return;
   auto* label = new QLabel(&dialog);

@@ -6,6 +6,6 @@ namespace controls {
 
 /// Shows a thumbnail of the file that is current in the dialog, beside its list. A dialog of the desktop has no place
 /// for it and stays as it is.
-void AddThumbnail(QFileDialog& dialog);
+void addThumbnail(QFileDialog& dialog);
 
 }  // namespace controls

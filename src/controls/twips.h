@@ -21,12 +21,12 @@ struct TwipsRect {
 };
 
 /// A length rounded to whole pixels.
-int ToPixels(double twips);
+int toPixels(double twips);
 /// The four edges rounded, the sizes their differences.
-QRect ToPixels(const TwipsRect& place);
+QRect toPixels(const TwipsRect& place);
 /// Puts the widget at its place.
-void Place(QWidget& widget, const TwipsRect& place);
+void place(QWidget& widget, const TwipsRect& place);
 /// Moves the window, with the caption that the rules give it, to the middle of its screen.
-void CentreOnScreen(QWidget& window);
+void centreOnScreen(QWidget& window);
 
 }  // namespace controls

@@ -7,25 +7,25 @@
 
 namespace controls {
 
-void WorkQueue::SetWorks(Work choose, Work draw) {
+void WorkQueue::setWorks(Work choose, Work draw) {
   choose_ = std::move(choose);
   draw_ = std::move(draw);
 }
 
-void WorkQueue::Choose() {
+void WorkQueue::choose() {
   if (afterwork_) forework_ = std::exchange(afterwork_, {});
   noted_ = Stage::Choose;
   work();
 }
 
-void WorkQueue::Draw() {
+void WorkQueue::draw() {
   if (afterwork_) forework_ = std::exchange(afterwork_, {});
   if (noted_ == Stage::None) noted_ = Stage::Draw;
   work();
 }
 
 void WorkQueue::work() {
-  if (Busy()) return;
+  if (busy()) return;
   const auto commands = qScopeGuard([this] {
     if (!commands_.empty()) postCommands();
   });
@@ -46,27 +46,27 @@ void WorkQueue::work() {
   if (afterwork_ && noted_ == Stage::None) std::exchange(afterwork_, {})();
 }
 
-void WorkQueue::Yield() {
+void WorkQueue::yield() {
   const Stage caller = running_;
   Q_EMIT Yielding();
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   if (leaving_ || noted_ == Stage::Choose || (caller == Stage::Draw && noted_ == Stage::Draw)) throw WorkAbandoned{};
 }
 
-void WorkQueue::RunOutside(Work command, bool leaving) {
+void WorkQueue::runOutside(Work command, bool leaving) {
   commands_.push_back(std::move(command));
-  if (Busy() || commanding_) {
+  if (busy() || commanding_) {
     leaving_ = leaving_ || leaving;
     return;
   }
   runCommands();
 }
 
-void WorkQueue::SetAfterwork(Work afterwork) {
+void WorkQueue::setAfterwork(Work afterwork) {
   afterwork_ = std::move(afterwork);
 }
 
-void WorkQueue::Forget() {
+void WorkQueue::forget() {
   noted_ = Stage::None;
   forework_ = {};
   afterwork_ = {};
@@ -77,7 +77,7 @@ void WorkQueue::postCommands() {
 }
 
 void WorkQueue::runCommands() {
-  if (Busy() || commanding_) return;
+  if (busy() || commanding_) return;
   commanding_ = true;
   const auto done = qScopeGuard([this] { commanding_ = false; });
   while (!commands_.empty()) {

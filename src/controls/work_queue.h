@@ -20,25 +20,25 @@ class WorkQueue : public QObject {
   using Work = std::function<void()>;
 
   /// `choose` fills the tag list of the chosen screen, `draw` draws it; both call Yield.
-  void SetWorks(Work choose, Work draw);
+  void setWorks(Work choose, Work draw);
 
   /// Chooses the screen, then draws it: now, or after the running work when there is one.
-  void Choose();
+  void choose();
   /// Draws the screen: now, or after the running work.
-  void Draw();
+  void draw();
   /// Serves pending events. Throws WorkAbandoned when the work that called it is to be given up.
-  void Yield();
+  void yield();
 
-  bool Busy() const { return running_ != Stage::None; }
+  bool busy() const { return running_ != Stage::None; }
 
   /// Runs `command` at once when no work is running and no command either, else as soon as that is over.
   /// With `leaving` the running work is given up at its next yield; it is taken up anew after the command unless the
   /// command called Forget.
-  void RunOutside(Work command, bool leaving = false);
+  void runOutside(Work command, bool leaving = false);
   /// Runs once behind the work that is running now; work that is wished for later begins after it.
-  void SetAfterwork(Work afterwork);
+  void setAfterwork(Work afterwork);
   /// Drops noted work and afterwork: what they were for is gone.
-  void Forget();
+  void forget();
 
  Q_SIGNALS:
   /// A yield begins: pending events are about to be served.

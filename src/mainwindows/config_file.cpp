@@ -22,7 +22,7 @@ constexpr QByteArrayView FirstContent = "[Setup]\r\nEXEDirectory=\r\n";
 bool isSystemFolder(const QString& folder) {
   constexpr std::array<QStringView, 6> Heads{u"/usr/", u"/bin/",          u"/sbin/",
                                              u"/opt/", u"/Applications/", u"C:/Program Files"};
-  const QString native = platform::NativePath(folder) + u'/';
+  const QString native = platform::nativePath(folder) + u'/';
   return std::any_of(Heads.begin(), Heads.end(),
                      [&](QStringView head) { return native.startsWith(head, Qt::CaseInsensitive); });
 }
@@ -34,7 +34,7 @@ bool isInstalled(const QString& programFolder) {
 
 /// A folder's path as UTF-8 bytes, each byte one letter of the code page.
 QString asBytes(const QString& folder) {
-  return platform::FromAnsi(folder.toUtf8());
+  return platform::fromAnsi(folder.toUtf8());
 }
 
 }  // namespace
@@ -43,9 +43,9 @@ ConfigFile::ConfigFile(const QStringList& folders) {
   for (const QString& folder : folders) {
     const QString path = folder + QStringLiteral("\\config.ini");
     try {
-      if (!platform::ReadIfThere(path)) {
+      if (!platform::readIfThere(path)) {
         if (isSystemFolder(folder)) continue;
-        platform::WriteFile(path, FirstContent);
+        platform::writeFile(path, FirstContent);
       }
     } catch (const platform::Failure& failure) {
       problem_ = failure.description();
@@ -61,24 +61,24 @@ QString ConfigFile::GameFolder() const {
   if (path_.isEmpty()) return {};
   const QString stored = themefiles::GetINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), QString(), path_,
                                             themefiles::ListBufferSize);
-  if (stored.isEmpty() || platform::FolderHoldsFiles(stored)) return stored;
-  const auto bytes = platform::ToAnsi(stored);
+  if (stored.isEmpty() || platform::folderHoldsFiles(stored)) return stored;
+  const auto bytes = platform::toAnsi(stored);
   const QString fromUtf8 = bytes ? QString::fromUtf8(*bytes) : stored;
-  return platform::FolderHoldsFiles(fromUtf8) ? fromUtf8 : stored;
+  return platform::folderHoldsFiles(fromUtf8) ? fromUtf8 : stored;
 }
 
-void ConfigFile::SetGameFolder(const QString& folder) const {
+void ConfigFile::setGameFolder(const QString& folder) const {
   if (path_.isEmpty()) throw platform::Failure(problem_);
-  const QString text = platform::ToAnsi(folder) ? folder : asBytes(folder);
-  themefiles::PutINIChecked(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), text, path_);
+  const QString text = platform::toAnsi(folder) ? folder : asBytes(folder);
+  themefiles::putINIChecked(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), text, path_);
 }
 
-QStringList ConfigFolders() {
+QStringList configFolders() {
   QStringList folders;
   const QString program = QCoreApplication::applicationDirPath();
-  if (!isInstalled(program)) folders += platform::ProgramPath(program);
+  if (!isInstalled(program)) folders += platform::programPath(program);
   const QString user = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
-  if (QDir().mkpath(user)) folders += platform::ProgramPath(user);
+  if (QDir().mkpath(user)) folders += platform::programPath(user);
   return folders;
 }
 

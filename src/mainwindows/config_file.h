@@ -15,15 +15,15 @@ class ConfigFile {
   explicit ConfigFile(const QStringList& folders);
 
   /// Path of the file; empty when no folder took it.
-  const QString& Path() const { return path_; }
+  const QString& path() const { return path_; }
   /// What kept the file from being made; empty when it stands.
-  const QString& Problem() const { return problem_; }
+  const QString& problem() const { return problem_; }
 
   /// The stored game folder; empty until one was stored.
   QString GameFolder() const;
   /// Stores the game folder. One whose letters the code page lacks is stored as its UTF-8 bytes.
   /// Throws platform::Failure when it can't be stored.
-  void SetGameFolder(const QString& folder) const;
+  void setGameFolder(const QString& folder) const;
 
  private:
   QString path_;
@@ -31,6 +31,6 @@ class ConfigFile {
 };
 
 /// The program's folder, unless the program is installed, then the user's configuration folder.
-QStringList ConfigFolders();
+QStringList configFolders();
 
 }  // namespace mainwindows

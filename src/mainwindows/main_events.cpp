@@ -34,7 +34,7 @@ constexpr std::array<CommandRow, 4> Commands{{
 
 /// A theme without changes closes without a question: a running render is given up for it.
 bool leavesAtOnce(const Form1& form, const CommandRow& command) {
-  return command.run == CloseTheme && !form.Services.State.Changed;
+  return command.run == CloseTheme && !form.services.state.Changed;
 }
 
 void run(Form1& form, int button) {
@@ -46,13 +46,13 @@ void run(Form1& form, int button) {
   const auto ifStillEnabled = [&form, button, &command] {
     if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) command.run(form);
   };
-  form.Queue.RunOutside(ifStillEnabled, leavesAtOnce(form, command));
+  form.queue.runOutside(ifStillEnabled, leavesAtOnce(form, command));
 }
 
 /// The window's end waits for a running pass and takes the place of an open dialog, which gets Cancel.
 void end(Form1& form) {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  form.Queue.RunOutside([&form] { Form_Unload(form); }, true);
+  form.queue.runOutside([&form] { Form_Unload(form); }, true);
   if (dialog != nullptr) dialog->reject();
 }
 
@@ -75,41 +75,41 @@ void connectToolBar(Form1& form) {
 
 /// The keyboard's way from one window to the other.
 void goToOtherWindow(Form1& form) {
-  QWidget* other = form.ToolWindow != nullptr && form.isActiveWindow() ? form.ToolWindow : static_cast<QWidget*>(&form);
+  QWidget* other = form.toolWindow != nullptr && form.isActiveWindow() ? form.toolWindow : static_cast<QWidget*>(&form);
   other->activateWindow();
   other->raise();
 }
 
 }  // namespace
 
-void ConnectEvents(Form1& form) {
-  form.Queue.SetWorks(
+void connectEvents(Form1& form) {
+  form.queue.setWorks(
       [&form] {
-        form.Picking = {};
-        if (form.ToolWindow != nullptr) toolwindow::ListScreen(*form.ToolWindow);
+        form.picking = {};
+        if (form.toolWindow != nullptr) toolwindow::listScreen(*form.toolWindow);
       },
       [&form] { form.DrawScreen(); });
   connectToolBar(form);
   onShortcut(form, QKeySequence(Qt::Key_F6), [&form] { goToOtherWindow(form); });
   QObject::connect(&form, &Form1::CloseAsked, &form, [&form] { end(form); });
   QObject::connect(form.Combo1, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
-    if (cause == controls::Cause::User) form.Queue.Draw();
+    if (cause == controls::Cause::User) form.queue.draw();
   });
   QObject::connect(form.Combo2, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
     if (cause != controls::Cause::User) return;
-    form.Services.State.SelectedButton = static_cast<quint8>(form.Combo2->ListIndex() + 1);
-    form.Queue.Draw();
+    form.services.state.SelectedButton = static_cast<quint8>(form.Combo2->ListIndex() + 1);
+    form.queue.draw();
   });
   QObject::connect(form.Workspace, &Workspace::Pressed, &form, [&form](const QPoint& place) {
-    if (form.ToolWindow == nullptr) return;
-    const int row = form.Picking.RowAt(place, form.Account, form.ToolWindow->Tags);
+    if (form.toolWindow == nullptr) return;
+    const int row = form.picking.rowAt(place, form.account, form.toolWindow->tags);
     if (row < 0) return;
-    form.ToolWindow->List1->setFocus();
-    toolwindow::PickTag(*form.ToolWindow, row);
+    form.toolWindow->List1->setFocus();
+    toolwindow::pickTag(*form.toolWindow, row);
   });
   QObject::connect(form.Workspace, &Workspace::MouseMove, &form, [&form](float X, float Y) {
-    form.ShowMousePosition(platform::RoundToInt16(std::floor(X)).value_or(0),
-                           platform::RoundToInt16(std::floor(Y)).value_or(0));
+    form.ShowMousePosition(platform::roundToInt16(std::floor(X)).value_or(0),
+                           platform::roundToInt16(std::floor(Y)).value_or(0));
   });
 }
 

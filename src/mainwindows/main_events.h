@@ -5,6 +5,6 @@ namespace mainwindows {
 class Form1;
 
 /// Ties the events of the main window to its commands, and the work queue to its two works.
-void ConnectEvents(Form1& form);
+void connectEvents(Form1& form);
 
 }  // namespace mainwindows

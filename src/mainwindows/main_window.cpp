@@ -12,13 +12,13 @@
 
 #include "controls/assets.h"
 #include "controls/twips.h"
-#include "platform/fonts.h"
-#include "platform/system_colors.h"
-#include "progressbar/main_window_bar.h"
+#include "drawing/fonts.h"
+#include "drawing/system_colours.h"
+#include "mainwindows/main_window_progress_bar.h"
+#include "mainwindows/main_window_tool_bar.h"
 #include "progressbar/stored_form.h"
 #include "renderer/render_driver.h"
 #include "toolbar/button_values.h"
-#include "toolbar/main_window_tool_bar.h"
 #include "toolwindow/object_selection.h"
 
 namespace mainwindows {
@@ -37,7 +37,7 @@ constexpr std::array<QStringView, 4> CommandTips{u"Open", u"Save", u"Close", u"B
 
 void setBackground(QWidget& widget, quint32 color) {
   QPalette palette = widget.palette();
-  palette.setColor(QPalette::Window, platform::ColorOf(color));
+  palette.setColor(QPalette::Window, drawing::colorOf(color));
   widget.setPalette(palette);
   widget.setAutoFillBackground(true);
 }
@@ -47,35 +47,35 @@ void setBackground(QWidget& widget, quint32 color) {
 Form1::Form1(const MainServices& services)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
-      Services(services),
-      Config(services.ConfigFolders),
-      Client(new QWidget(this)),
-      Workspace(new mainwindows::Workspace(Client)),
-      ToolBar(new toolbar::McToolBar(Client)),
-      StatusBar(new mainwindows::StatusBar(Client)),
-      Combo1(new controls::ComboBox(Client)),
-      Combo2(new controls::ComboBox(Client)),
+      services(services),
+      config(services.configFolders),
+      client(new QWidget(this)),
+      Workspace(new mainwindows::Workspace(client)),
+      ToolBar(new toolbar::McToolBar(client)),
+      StatusBar(new mainwindows::StatusBar(client)),
+      Combo1(new controls::ComboBox(client)),
+      Combo2(new controls::ComboBox(client)),
       Label1(startLabel(19, 10800, 7800)),
       Label2(startLabel(11, 8160, 8160)),
-      ProgressBar1(new progressbar::ProgressBar(Client)),
-      host_({*Workspace, *ProgressBar1, *Combo1, *Combo2, Queue, [this] { return ToolWindow->Combo1->Text(); }}) {
+      ProgressBar1(new progressbar::ProgressBar(client)),
+      host_({*Workspace, *ProgressBar1, *Combo1, *Combo2, queue, [this] { return toolWindow->Combo1->Text(); }}) {
   setObjectName(QStringLiteral("Form1"));
-  setWindowIcon(controls::AssetIcon(QStringLiteral("app")));
-  ToolBar->UserControl_ReadProperties(toolbar::MainWindowToolBar());
-  progressbar::ReadProperties(*ProgressBar1, progressbar::MainWindowBar());
+  setWindowIcon(controls::assetIcon(QStringLiteral("app")));
+  ToolBar->UserControl_ReadProperties(mainWindowToolBar());
+  progressbar::readProperties(*ProgressBar1, mainWindowBar());
   placeControls();
   Form_Load();
 }
 
 Form1::~Form1() {
-  delete ToolWindow;
+  delete toolWindow;
 }
 
 QLabel* Form1::startLabel(int pixels, double left, double top) {
   auto* label = new QLabel(Workspace);
   label->setTextFormat(Qt::PlainText);
-  label->setFont(platform::ControlFont(QStringLiteral("Arial"), pixels));
-  label->move(controls::ToPixels(left), controls::ToPixels(top));
+  label->setFont(drawing::controlFont(QStringLiteral("Arial"), pixels));
+  label->move(controls::toPixels(left), controls::toPixels(top));
   label->setAttribute(Qt::WA_TransparentForMouseEvents);
   return label;
 }
@@ -83,19 +83,19 @@ QLabel* Form1::startLabel(int pixels, double left, double top) {
 void Form1::placeControls() {
   const QSize size = windowSize();
   setFixedSize(size);
-  Client->resize(size);
-  setBackground(*Client, FormColor);
+  client->resize(size);
+  setBackground(*client, FormColor);
   ToolBar->setGeometry(0, 0, size.width(), ToolBarHeight);
-  auto* preview = new QScrollArea(Client);
+  auto* preview = new QScrollArea(client);
   preview->setFrameShape(QFrame::NoFrame);
   preview->setFocusPolicy(Qt::NoFocus);
   preview->setWidget(Workspace);
   preview->setGeometry(0, ToolBarHeight, size.width(), size.height() - ToolBarHeight - StatusBarHeight);
   StatusBar->setGeometry(0, size.height() - StatusBarHeight, size.width(), StatusBarHeight);
-  setBackground(*StatusBar, platform::ButtonFaceColor);
+  setBackground(*StatusBar, drawing::ButtonFaceColor);
   ProgressBar1->resize(std::min(ProgressBarSize.width(), size.width() + 1), ProgressBarSize.height());
-  controls::Place(*Combo1, {10560, 90, 1335, 315});
-  controls::Place(*Combo2, {8760, 90, 1695, 315});
+  controls::place(*Combo1, {10560, 90, 1335, 315});
+  controls::place(*Combo2, {8760, 90, 1695, 315});
   const int beyond = std::max(0, Combo1->geometry().right() + 1 - size.width());
   for (QWidget* list : {Combo1, Combo2}) list->move(list->x() - beyond, list->y());
   for (QWidget* hidden : std::initializer_list<QWidget*>{Combo1, Combo2, ProgressBar1}) {
@@ -114,12 +114,12 @@ void Form1::placeControls() {
     control->setAccessibleName(QLatin1StringView(spoken));
   }
   setTabOrder(Combo2, Combo1);  // from left to right
-  controls::CentreOnScreen(*this);
+  controls::centreOnScreen(*this);
 }
 
 /// That of the client area; on a screen that is too small for it, what the screen has, with room for scroll bars.
 QSize Form1::windowSize() const {
-  const QSize room = screen()->availableSize() - QSize(0, controls::ToPixels(controls::FrameHeight));
+  const QSize room = screen()->availableSize() - QSize(0, controls::toPixels(controls::FrameHeight));
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
   const bool low = ClientSize.height() > room.height();
   const bool narrow = ClientSize.width() + (low ? bar : 0) > room.width();
@@ -129,7 +129,7 @@ QSize Form1::windowSize() const {
 void Form1::Form_Load() {
   setWindowTitle(QStringLiteral("Cantorama Theme Edit") + QStringLiteral(" v.") + Version.toString());
   ShowMousePosition(0, 0);
-  ShowStartPicture(StartBackColor);
+  showStartPicture(StartBackColor);
   Label1->setText(QStringLiteral("v.") + Version.toString());
   Label2->setText(QStringLiteral("by Bricolo"));
   Label1->adjustSize();
@@ -138,38 +138,38 @@ void Form1::Form_Load() {
   for (size_t i = 0; i < CommandTips.size(); ++i) {
     ToolBar->SetButtonValue(static_cast<int>(i) + 1, toolbar::ToolTipTextProperty, CommandTips.at(i).toString());
   }
-  Services.State.BackgroundColor = 0xFFFFFF;
-  if (Config.Path().isEmpty()) {
-    ShowStatus(platform::ReportText(QStringLiteral("The game folder can't be kept in config.ini"), Config.Problem()));
+  services.state.BackgroundColor = 0xFFFFFF;
+  if (config.path().isEmpty()) {
+    ShowStatus(platform::reportText(QStringLiteral("The game folder can't be kept in config.ini"), config.problem()));
   }
 }
 
-void Form1::ShowStartPicture(quint32 backColor) {
-  const QImage picture = controls::AssetPicture(QStringLiteral("start.jpg"));
-  Workspace->Surface().Wipe(platform::ColorOf(backColor));
-  Workspace->Surface().DrawImageRect(picture, 0, 0, platform::Surface::Width, platform::Surface::Height);
+void Form1::showStartPicture(quint32 backColor) {
+  const QImage picture = controls::assetPicture(QStringLiteral("start.jpg"));
+  Workspace->surface().wipe(drawing::colorOf(backColor));
+  Workspace->surface().drawImageRect(picture, 0, 0, drawing::Surface::Width, drawing::Surface::Height);
   Workspace->Refresh();
   Label1->show();
   Label2->show();
 }
 
 void Form1::showReport(const QString& text) {
-  StatusBar->SetPanel(1,
+  StatusBar->setPanel(1,
                       u'[' + QTime::currentTime().toString(QStringLiteral("HH:mm:ss")) + QStringLiteral("] ") + text);
 }
 
 void Form1::ShowMousePosition(qint16 X, qint16 Y) {
-  StatusBar->SetPanel(2, QStringLiteral("x: %1  y: %2").arg(X + 1).arg(Y + 1));
+  StatusBar->setPanel(2, QStringLiteral("x: %1  y: %2").arg(X + 1).arg(Y + 1));
 }
 
 void Form1::DrawScreen() {
-  if (ToolWindow == nullptr) return;
-  platform::Surface& surface = Workspace->Surface();
-  renderer::RenderContext context{Services.State,   ToolWindow->Tags,  surface, host_,    *this,
-                                  Services.Dialogs, Services.Graphics, Account, &Pictures};
-  const platform::Pen pen = surface.pen();
+  if (toolWindow == nullptr) return;
+  drawing::Surface& surface = Workspace->surface();
+  renderer::RenderContext context{services.state,   toolWindow->tags,  surface, host_,    *this,
+                                  services.dialogs, services.graphics, account, &Pictures};
+  const drawing::Pen pen = surface.pen();
   try {
-    platform::Guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
+    platform::guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
   } catch (const controls::WorkAbandoned&) {
     // The render that takes this one's place begins with the pen that this one found.
     surface.setPen(pen);
@@ -177,10 +177,10 @@ void Form1::DrawScreen() {
   }
   ProgressBar1->hide();
   Workspace->Refresh();
-  toolwindow::ShowReasons(*ToolWindow, Account);
+  toolwindow::showReasons(*toolWindow, account);
 }
 
-void Form1::EnableButton(int button, bool enabled) {
+void Form1::enableButton(int button, bool enabled) {
   ToolBar->SetButtonValue(button, toolbar::EnabledProperty, enabled);
 }
 

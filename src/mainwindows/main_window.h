@@ -5,13 +5,13 @@
 
 #include "controls/combo_box.h"
 #include "controls/work_queue.h"
+#include "drawing/graphics.h"
 #include "mainwindows/config_file.h"
 #include "mainwindows/preview_host.h"
 #include "mainwindows/preview_picking.h"
 #include "mainwindows/status_bar.h"
 #include "mainwindows/workspace.h"
 #include "platform/dialogs.h"
-#include "platform/graphics.h"
 #include "platform/status_line.h"
 #include "progressbar/progress_bar.h"
 #include "renderer/prepared_pictures.h"
@@ -24,10 +24,10 @@ namespace mainwindows {
 
 /// What the main window gets from its surroundings; tests give their own.
 struct MainServices {
-  themefiles::ModuleState& State;
-  platform::Dialogs& Dialogs;
-  platform::Graphics& Graphics;
-  QStringList ConfigFolders;  ///< where config.ini may lie
+  themefiles::ModuleState& state;
+  platform::Dialogs& dialogs;
+  drawing::Graphics& graphics;
+  QStringList configFolders;  ///< where config.ini may lie
 };
 
 /// The main window: the preview with its toolbar, status bar and the choices of colour scheme and button. It is there
@@ -39,11 +39,11 @@ class Form1 : public QWidget, public platform::StatusLine {
   explicit Form1(const MainServices& services);
   ~Form1() override;
 
-  MainServices Services;
-  ConfigFile Config;
-  controls::WorkQueue Queue;
+  MainServices services;
+  ConfigFile config;
+  controls::WorkQueue queue;
 
-  QWidget* Client;  ///< the client area: 800 x 650, or what the screen has room for
+  QWidget* client;  ///< the client area: 800 x 650, or what the screen has room for
   mainwindows::Workspace* Workspace;
   toolbar::McToolBar* ToolBar;
   mainwindows::StatusBar* StatusBar;
@@ -52,18 +52,18 @@ class Form1 : public QWidget, public platform::StatusLine {
   QLabel* Label1;              ///< version
   QLabel* Label2;              ///< credit
   progressbar::ProgressBar* ProgressBar1;
-  toolwindow::Form2* ToolWindow = nullptr;  ///< Form2 while a theme is open
-  renderer::RenderAccount Account;          ///< what the last render drew and left out
+  toolwindow::Form2* toolWindow = nullptr;  ///< Form2 while a theme is open
+  renderer::RenderAccount account;          ///< what the last render drew and left out
   renderer::PreparedPictures Pictures;      ///< what the renders keep of the picture files
-  PreviewPicking Picking;
+  PreviewPicking picking;
 
   /// Shows the mouse's place in the status bar, counted from 1.
   void ShowMousePosition(qint16 X, qint16 Y);
   /// Shows the start picture with the two labels, on a back colour value.
-  void ShowStartPicture(quint32 backColor);
+  void showStartPicture(quint32 backColor);
   /// Draws the chosen screen; called by the work queue.
   void DrawScreen();
-  void EnableButton(int button, bool enabled);
+  void enableButton(int button, bool enabled);
 
  Q_SIGNALS:
   /// The user, or the session's end, wants the window closed.

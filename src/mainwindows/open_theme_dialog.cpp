@@ -6,7 +6,7 @@
 #include <QShowEvent>
 
 #include "controls/twips.h"
-#include "platform/fonts.h"
+#include "drawing/fonts.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/theme_paths.h"
 
@@ -44,15 +44,15 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
   Combo1->setAccessibleName(QStringLiteral("Language"));
   label(QStringLiteral("Name:"), 2760, 2880, 615);
   label(QStringLiteral("Autor:"), 2760, 3120, 615);
-  controls::Place(*List1, {120, 360, 2415, 2400});
-  controls::Place(*List2, {2760, 360, 2415, 2400});
-  controls::Place(*Combo1, {120, 3480, 2535, 315});
-  controls::Place(*Command1, {2880, 3480, 1095, 375});
-  controls::Place(*Command2, {4080, 3480, 1095, 375});
-  setFixedSize(controls::ToPixels(5325), controls::ToPixels(3990));
-  controls::CentreOnScreen(*this);
+  controls::place(*List1, {120, 360, 2415, 2400});
+  controls::place(*List2, {2760, 360, 2415, 2400});
+  controls::place(*Combo1, {120, 3480, 2535, 315});
+  controls::place(*Command1, {2880, 3480, 1095, 375});
+  controls::place(*Command2, {4080, 3480, 1095, 375});
+  setFixedSize(controls::toPixels(5325), controls::toPixels(3990));
+  controls::centreOnScreen(*this);
   for (controls::CutLabel* label : {Label4, Label5}) {
-    label->setFont(platform::ControlFont(QStringLiteral("Arial"), label->font().pixelSize()));
+    label->setFont(drawing::controlFont(QStringLiteral("Arial"), label->font().pixelSize()));
   }
   Command1->setDefault(true);
   connect(List1, &controls::ListBox::Click, this, &Form3::List1_Click);
@@ -69,16 +69,16 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
 controls::CutLabel* Form3::label(const QString& text, double left, double top, double width) {
   auto* label = new controls::CutLabel(this);
   label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  controls::Place(*label, {left, top, width, 255});
+  controls::place(*label, {left, top, width, 255});
   label->setWhole(text);
   return label;
 }
 
 void Form3::Form_Load() {
-  for (const QString& name : themefiles::LanguagesOf(gameFolder_)) Combo1->AddItem(name);
+  for (const QString& name : themefiles::languagesOf(gameFolder_)) Combo1->AddItem(name);
   const QString english = QStringLiteral("English");
-  if (Combo1->SelectText(english) || Combo1->ListCount() == 0) return;
-  Combo1->SetListIndex(std::max(0, Combo1->EntryLike(english)));
+  if (Combo1->selectText(english) || Combo1->ListCount() == 0) return;
+  Combo1->SetListIndex(std::max(0, Combo1->entryLike(english)));
 }
 
 void Form3::Form_Activate() {
@@ -96,7 +96,7 @@ void Form3::List1_Click() {
   Label4->setWhole(iniValue(QStringLiteral("Theme"), QStringLiteral("Name"), theme));
   Label5->setWhole(iniValue(QStringLiteral("Theme"), QStringLiteral("Creator"), theme));
   List2->Clear();
-  for (const QString& name : themefiles::SkinsOf(gameFolder_, List1->Text())) List2->AddItem(name);
+  for (const QString& name : themefiles::skinsOf(gameFolder_, List1->Text())) List2->AddItem(name);
   Command1->setEnabled(List2->ListCount() > 0);
   if (List2->ListCount() > 0) {
     List2->SetListIndex(0);
@@ -117,7 +117,7 @@ void Form3::Command1_Click() {
 }
 
 themefiles::ThemePaths Form3::chosen() const {
-  return themefiles::PathsOf(gameFolder_, List1->Text(), List2->Text(), Combo1->Text());
+  return themefiles::pathsOf(gameFolder_, List1->Text(), List2->Text(), Combo1->Text());
 }
 
 }  // namespace mainwindows

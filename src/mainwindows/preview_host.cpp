@@ -2,49 +2,49 @@
 
 namespace mainwindows {
 
-int PreviewHost::ProgressValue() const {
+int PreviewHost::progressValue() const {
   return controls_.ProgressBar1.Value();
 }
 
-void PreviewHost::SetProgressValue(int value) {
+void PreviewHost::setProgressValue(int value) {
   controls_.ProgressBar1.SetValue(value);
 }
 
-void PreviewHost::SetProgressText(const QString& text) {
+void PreviewHost::setProgressText(const QString& text) {
   controls_.ProgressBar1.SetText(text);
 }
 
-void PreviewHost::SetProgressVisible(bool visible) {
+void PreviewHost::setProgressVisible(bool visible) {
   controls_.ProgressBar1.setVisible(visible);
 }
 
 void PreviewHost::Refresh() {
-  controls_.Workspace.RefreshPaced();
+  controls_.Workspace.refreshPaced();
 }
 
-void PreviewHost::Yield() {
-  controls_.Workspace.RefreshPaced();
-  controls_.Queue.Yield();
+void PreviewHost::yield() {
+  controls_.Workspace.refreshPaced();
+  controls_.queue.yield();
 }
 
-void PreviewHost::FillButtonList(const QStringList& rows) {
-  controls_.Buttons.Clear();
-  for (const QString& row : rows) controls_.Buttons.AddItem(row);
+void PreviewHost::fillButtonList(const QStringList& rows) {
+  controls_.buttons.Clear();
+  for (const QString& row : rows) controls_.buttons.AddItem(row);
 }
 
-void PreviewHost::SelectFirstButton() {
-  controls_.Buttons.SetListIndex(0);
+void PreviewHost::selectFirstButton() {
+  controls_.buttons.SetListIndex(0);
 }
 
-void PreviewHost::SetButtonListVisible(bool visible) {
-  controls_.Buttons.setVisible(visible);
+void PreviewHost::setButtonListVisible(bool visible) {
+  controls_.buttons.setVisible(visible);
 }
 
-QString PreviewHost::ScreenName() const {
-  return controls_.ScreenName();
+QString PreviewHost::screenName() const {
+  return controls_.screenName();
 }
 
-QString PreviewHost::SchemeName() const {
+QString PreviewHost::schemeName() const {
   return controls_.Schemes.Text();
 }
 

@@ -15,9 +15,9 @@ struct PreviewControls {
   mainwindows::Workspace& Workspace;
   progressbar::ProgressBar& ProgressBar1;
   controls::ComboBox& Schemes;
-  controls::ComboBox& Buttons;
-  controls::WorkQueue& Queue;
-  std::function<QString()> ScreenName;
+  controls::ComboBox& buttons;
+  controls::WorkQueue& queue;
+  std::function<QString()> screenName;
 };
 
 /// The main window as a render sees it.
@@ -25,17 +25,17 @@ class PreviewHost : public renderer::RenderHost {
  public:
   explicit PreviewHost(PreviewControls controls) : controls_(std::move(controls)) {}
 
-  int ProgressValue() const override;
-  void SetProgressValue(int value) override;
-  void SetProgressText(const QString& text) override;
-  void SetProgressVisible(bool visible) override;
+  int progressValue() const override;
+  void setProgressValue(int value) override;
+  void setProgressText(const QString& text) override;
+  void setProgressVisible(bool visible) override;
   void Refresh() override;
-  void Yield() override;
-  void FillButtonList(const QStringList& rows) override;
-  void SelectFirstButton() override;
-  void SetButtonListVisible(bool visible) override;
-  QString ScreenName() const override;
-  QString SchemeName() const override;
+  void yield() override;
+  void fillButtonList(const QStringList& rows) override;
+  void selectFirstButton() override;
+  void setButtonListVisible(bool visible) override;
+  QString screenName() const override;
+  QString schemeName() const override;
 
  private:
   PreviewControls controls_;

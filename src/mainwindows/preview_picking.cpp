@@ -12,7 +12,7 @@ constexpr int SamePlace = 2;
 
 int rowNamed(const themefiles::TagList& tags, const QString& name) {
   for (int row = 0; row < tags.ListCount(); ++row) {
-    if (platform::SameName(tags.List(row), name)) return row;
+    if (platform::sameName(tags.List(row), name)) return row;
   }
   return -1;
 }
@@ -20,10 +20,10 @@ int rowNamed(const themefiles::TagList& tags, const QString& name) {
 /// Rows of the objects at the place, topmost first, each once.
 std::vector<int> rowsAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags) {
   std::vector<int> rows;
-  for (auto object = account.Objects.rbegin(); object != account.Objects.rend(); ++object) {
-    if (!object->Place.contains(place)) continue;
-    int row = rowNamed(tags, object->Section);
-    if (row < 0) row = rowNamed(tags, object->Owner);
+  for (auto object = account.objects.rbegin(); object != account.objects.rend(); ++object) {
+    if (!object->place.contains(place)) continue;
+    int row = rowNamed(tags, object->section);
+    if (row < 0) row = rowNamed(tags, object->owner);
     if (row >= 0 && std::find(rows.begin(), rows.end(), row) == rows.end()) rows.push_back(row);
   }
   return rows;
@@ -31,7 +31,7 @@ std::vector<int> rowsAt(const QPoint& place, const renderer::RenderAccount& acco
 
 }  // namespace
 
-int PreviewPicking::RowAt(const QPoint& place, const renderer::RenderAccount& account,
+int PreviewPicking::rowAt(const QPoint& place, const renderer::RenderAccount& account,
                           const themefiles::TagList& tags) {
   const bool further = (place - place_).manhattanLength() <= SamePlace;
   std::vector<int> rows = rowsAt(further ? place_ : place, account, tags);

@@ -13,7 +13,7 @@ class PreviewPicking {
   /// Row of the tag list for the topmost object at the place (pixels of the surface); at a further click on the same
   /// place the next one below, and behind the lowest the topmost again. A child text that isn't in the list stands for
   /// its button. -1 where nothing was drawn but the background.
-  int RowAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags);
+  int rowAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags);
 
  private:
   QPoint place_;

@@ -18,13 +18,13 @@ StatusBar::StatusBar(QWidget* parent) : QWidget(parent) {
   }
 }
 
-void StatusBar::SetPanel(int panel, const QString& text) {
+void StatusBar::setPanel(int panel, const QString& text) {
   panels_[panel - 1]->setWhole(text);
 }
 
 void StatusBar::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  const int mouse = controls::ToPixels(MouseWidth);
+  const int mouse = controls::toPixels(MouseWidth);
   panels_[0]->setGeometry(0, Gap, width() - mouse - Gap, height() - Gap);
   panels_[1]->setGeometry(width() - mouse, Gap, mouse, height() - Gap);
 }

@@ -14,7 +14,7 @@ class StatusBar : public QWidget {
  public:
   explicit StatusBar(QWidget* parent);
 
-  void SetPanel(int panel, const QString& text);  ///< panels count from 1
+  void setPanel(int panel, const QString& text);  ///< panels count from 1
   const QString& Panel(int panel) const { return panels_[panel - 1]->whole(); }
 
  protected:

@@ -6,11 +6,11 @@
 
 #include "controls/modal.h"
 #include "controls/twips.h"
+#include "drawing/system_colours.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/open_theme_dialog.h"
 #include "platform/failure.h"
 #include "platform/files.h"
-#include "platform/system_colors.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/theme_paths.h"
 #include "themefiles/working_copies.h"
@@ -24,86 +24,86 @@ constexpr int CloseButton = 3;
 constexpr int BackgroundButton = 4;
 
 bool mayDropChanges(Form1& form) {
-  if (!form.Services.State.Changed) return true;
+  if (!form.services.state.Changed) return true;
   const auto answer =
-      form.Services.Dialogs.MessageBox(&form, QStringLiteral("Something changed. Close without saving?"),
+      form.services.dialogs.messageBox(&form, QStringLiteral("Something changed. Close without saving?"),
                                        QStringLiteral("Save"), platform::BoxKind::YesNoDefaultNo);
   return answer == platform::BoxAnswer::Yes;
 }
 
 /// The stored game folder, or the one that the user points at, which is then stored; empty when there is none.
 QString findGameFolder(Form1& form) {
-  const QString stored = form.Config.GameFolder();
-  if (!stored.isEmpty() && platform::FolderHoldsFiles(stored)) return stored;
+  const QString stored = form.config.GameFolder();
+  if (!stored.isEmpty() && platform::folderHoldsFiles(stored)) return stored;
   const QString program = QStringLiteral("Vocora.exe");
   const QString chosen =
-      form.Services.Dialogs.OpenFile(&form, {QStringLiteral("Where is the game's program file, Vocora.exe?"),
+      form.services.dialogs.openFile(&form, {QStringLiteral("Where is the game's program file, Vocora.exe?"),
                                              QStringLiteral("Cantorama (Vocora.exe)|Vocora.exe"), program, QString()});
   if (chosen.isEmpty()) return {};
   const QString folder = chosen.left(chosen.lastIndexOf(u'\\') + 1);
-  platform::Guarded(form, QStringLiteral("The game folder can't be kept in config.ini"),
-                    [&] { form.Config.SetGameFolder(folder); });
+  platform::guarded(form, QStringLiteral("The game folder can't be kept in config.ini"),
+                    [&] { form.config.setGameFolder(folder); });
   return folder;
 }
 
 /// Makes the working copies of the choice and opens them; a failure is reported.
 bool openCopies(Form1& form, const themefiles::ThemePaths& chosen) {
-  return platform::Guarded(form, QStringLiteral("Error while saving temporary files"),
-                           [&] { themefiles::MakeWorkingCopies(form.Services.State, chosen, form); });
+  return platform::guarded(form, QStringLiteral("Error while saving temporary files"),
+                           [&] { themefiles::MakeWorkingCopies(form.services.state, chosen, form); });
 }
 
 /// The tool window goes when control is back in the event loop: one of its own events may be on the way.
 void unloadToolWindow(Form1& form) {
-  if (form.ToolWindow == nullptr) return;
-  form.ToolWindow->hide();
-  form.ToolWindow->deleteLater();
-  form.ToolWindow = nullptr;
-  form.Services.State.EditorShown = false;
+  if (form.toolWindow == nullptr) return;
+  form.toolWindow->hide();
+  form.toolWindow->deleteLater();
+  form.toolWindow = nullptr;
+  form.services.state.EditorShown = false;
 }
 
 void hideMark(Form1& form) {
-  form.Workspace->SetBlinking(false);
+  form.Workspace->setBlinking(false);
   form.Workspace->SetVisible(false);
 }
 
 /// What an earlier theme has left when another one takes its place.
 void dropEarlierTheme(Form1& form) {
-  themefiles::ModuleState& state = form.Services.State;
-  form.Queue.Forget();
+  themefiles::ModuleState& state = form.services.state;
+  form.queue.forget();
   hideMark(form);
   unloadToolWindow(form);
   state.ThemeColors = {};
   state.ScreenTable = {};
   state.Changed = false;
-  form.EnableButton(SaveButton, false);
+  form.enableButton(SaveButton, false);
 }
 
 void showToolWindow(Form1& form) {
-  form.ToolWindow = new toolwindow::Form2(
-      {form.Services.State, form, form.Services.Dialogs, form.Workspace->Surface(), *form.Workspace, form.Queue,
-       [&form] { form.EnableButton(SaveButton, true); }, [&form] { return form.Combo1->Text(); }},
+  form.toolWindow = new toolwindow::Form2(
+      {form.services.state, form, form.services.dialogs, form.Workspace->surface(), *form.Workspace, form.queue,
+       [&form] { form.enableButton(SaveButton, true); }, [&form] { return form.Combo1->Text(); }},
       &form);
-  toolwindow::ConnectEvents(*form.ToolWindow);
+  toolwindow::connectEvents(*form.toolWindow);
   // The lower right corner of the main window, by the outer sizes of both.
   const double formRight =
       form.x() * controls::TwipsPerPixel + form.width() * controls::TwipsPerPixel + controls::FrameWidth;
   const double formBottom =
       form.y() * controls::TwipsPerPixel + form.height() * controls::TwipsPerPixel + controls::FrameHeight;
-  const toolwindow::ToolLayout& layout = form.ToolWindow->Layout();
-  form.ToolWindow->move(controls::ToPixels(formRight - layout.Width - 200),
-                        controls::ToPixels(formBottom - layout.Height - 450));
-  form.ToolWindow->show();
+  const toolwindow::ToolLayout& layout = form.toolWindow->layout();
+  form.toolWindow->move(controls::toPixels(formRight - layout.Width - 200),
+                        controls::toPixels(formBottom - layout.Height - 450));
+  form.toolWindow->show();
 }
 
 void ReadTheme(Form1& form) {
-  platform::Guarded(form, QStringLiteral("Error while reading Theme"), [&] {
+  platform::guarded(form, QStringLiteral("Error while reading Theme"), [&] {
     form.Label1->hide();
     form.Label2->hide();
-    themefiles::ReadColors(form.Services.State, form);
+    themefiles::ReadColors(form.services.state, form);
     form.Combo1->Clear();
-    for (const QString& scheme : themefiles::SchemeNames(form.Services.State)) form.Combo1->AddItem(scheme);
+    for (const QString& scheme : themefiles::schemeNames(form.services.state)) form.Combo1->AddItem(scheme);
     form.Combo1->SetListIndex(0);
-    toolwindow::Form2& tools = *form.ToolWindow;
+    toolwindow::Form2& tools = *form.toolWindow;
     for (QWidget* control : std::initializer_list<QWidget*>{tools.Combo1, tools.List1, tools.ListView1}) {
       control->setEnabled(true);
     }
@@ -116,13 +116,13 @@ void ReadTheme(Form1& form) {
 }  // namespace
 
 void OpenTheme(Form1& form) {
-  platform::GuardedSilently([&] {
+  platform::guardedSilently([&] {
     if (!mayDropChanges(form)) return;
     const QString gameFolder = findGameFolder(form);
     if (gameFolder.isEmpty()) return;
-    const QStringList themes = themefiles::ThemesOf(gameFolder);
+    const QStringList themes = themefiles::themesOf(gameFolder);
     if (themes.isEmpty()) {
-      form.Services.Dialogs.MessageBox(&form, QStringLiteral("No Themes Found"), QStringLiteral("Error"),
+      form.services.dialogs.messageBox(&form, QStringLiteral("No Themes Found"), QStringLiteral("Error"),
                                        platform::BoxKind::Error);
       return;
     }
@@ -137,8 +137,8 @@ void OpenTheme(Form1& form) {
     dropEarlierTheme(form);
     showToolWindow(form);
     ReadTheme(form);
-    form.EnableButton(CloseButton, true);
-    form.EnableButton(BackgroundButton, true);
+    form.enableButton(CloseButton, true);
+    form.enableButton(BackgroundButton, true);
     form.Combo1->show();
     const QStringList opened{dialog.List1->Text(), dialog.List2->Text(), dialog.Combo1->Text()};
     telling->success(opened.join(QStringLiteral(", ")));
@@ -146,43 +146,43 @@ void OpenTheme(Form1& form) {
 }
 
 void SaveTheme(Form1& form) {
-  platform::Guarded(form, QStringLiteral("Error while saving files"), [&] {
+  platform::guarded(form, QStringLiteral("Error while saving files"), [&] {
     platform::Telling telling(form);
-    themefiles::SaveWorkingCopies(form.Services.State, form);
-    form.EnableButton(SaveButton, false);
+    themefiles::saveWorkingCopies(form.services.state, form);
+    form.enableButton(SaveButton, false);
     telling.success(QStringLiteral("Saved"));
-    form.ToolWindow->Marking.start();
+    form.toolWindow->Marking.start();
   });
 }
 
 void CloseTheme(Form1& form) {
   platform::Telling telling(form);
   if (!mayDropChanges(form)) return;
-  form.Queue.Forget();
-  themefiles::ForgetTheme(form.Services.State);
+  form.queue.forget();
+  themefiles::forgetTheme(form.services.state);
   hideMark(form);
   for (QWidget* control : std::initializer_list<QWidget*>{form.Combo1, form.Combo2, form.ProgressBar1}) {
     control->hide();
   }
   unloadToolWindow(form);
-  form.ShowStartPicture(platform::ButtonFaceColor);
-  for (const int button : {SaveButton, CloseButton, BackgroundButton}) form.EnableButton(button, false);
+  form.showStartPicture(drawing::ButtonFaceColor);
+  for (const int button : {SaveButton, CloseButton, BackgroundButton}) form.enableButton(button, false);
   telling.success(QStringLiteral("Closed"));
 }
 
 void ChooseBackgroundColor(Form1& form) {
-  platform::GuardedSilently([&] {
-    quint32& background = form.Services.State.BackgroundColor;
-    const auto color = form.Services.Dialogs.ChooseColor(&form, platform::ColorOf(background));
+  platform::guardedSilently([&] {
+    quint32& background = form.services.state.BackgroundColor;
+    const auto color = form.services.dialogs.chooseColor(&form, drawing::colorOf(background));
     if (!color) return;
-    background = platform::ColorValue(*color);
-    form.Queue.Draw();
+    background = drawing::colorValue(*color);
+    form.queue.draw();
   });
 }
 
 void Form_Unload(Form1& form) {
-  form.Queue.Forget();
-  form.Workspace->SetBlinking(false);
+  form.queue.forget();
+  form.Workspace->setBlinking(false);
   unloadToolWindow(form);
   form.hide();
   QApplication::quit();

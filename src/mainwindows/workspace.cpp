@@ -8,7 +8,7 @@
 #include <QPaintEvent>
 #include <QPainter>
 
-#include "platform/system_colors.h"
+#include "drawing/system_colours.h"
 
 namespace mainwindows {
 namespace {
@@ -26,8 +26,8 @@ int pixel(double length) {
 }  // namespace
 
 Workspace::Workspace(QWidget* parent)
-    : QWidget(parent), pacer_([this] { Refresh(); }), borderColor_(platform::ColorOf(MarkBorder)) {
-  setFixedSize(platform::Surface::Width, platform::Surface::Height);
+    : QWidget(parent), pacer_([this] { Refresh(); }), borderColor_(drawing::colorOf(MarkBorder)) {
+  setFixedSize(drawing::Surface::Width, drawing::Surface::Height);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   timer1_.setInterval(BlinkInterval);
@@ -35,7 +35,7 @@ Workspace::Workspace(QWidget* parent)
 }
 
 void Workspace::Refresh() {
-  const QRect dirty = surface_.TakeDirty();
+  const QRect dirty = surface_.takeDirty();
   if (!dirty.isEmpty()) update(dirty);
 }
 
@@ -68,12 +68,12 @@ void Workspace::SetVisible(bool visible) {
   updateMark();
 }
 
-void Workspace::SetBlinking(bool blinking) {
+void Workspace::setBlinking(bool blinking) {
   if (blinking != timer1_.isActive()) blinking ? timer1_.start() : timer1_.stop();
 }
 
 void Workspace::Timer1_Timer() {
-  borderColor_ = platform::ColorOf(blinkPhase_ ? MarkLight : MarkDark);
+  borderColor_ = drawing::colorOf(blinkPhase_ ? MarkLight : MarkDark);
   blinkPhase_ = !blinkPhase_;
   updateMark();
 }
@@ -94,7 +94,7 @@ void Workspace::paintEvent(QPaintEvent* event) {
   const double scale = devicePixelRatioF();
   painter.setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
   painter.setClipRegion(event->region());
-  painter.drawImage(QRect(0, 0, platform::Surface::Width, platform::Surface::Height), surface_.image());
+  painter.drawImage(QRect(0, 0, drawing::Surface::Width, drawing::Surface::Height), surface_.image());
   if (!markVisible_) return;
   const QRect outer = markRect();
   const std::array<QRect, 4> edges{{{outer.left(), outer.top(), outer.width(), 1},

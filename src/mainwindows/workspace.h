@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "controls/frame_pacer.h"
-#include "platform/surface.h"
+#include "drawing/surface.h"
 #include "renderer/highlight_cursor.h"
 
 namespace mainwindows {
@@ -17,23 +17,23 @@ class Workspace : public QWidget, public renderer::CursorMark {
  public:
   explicit Workspace(QWidget* parent);
 
-  platform::Surface& Surface() { return surface_; }
+  drawing::Surface& surface() { return surface_; }
   /// Shows what has been drawn on the surface since the last call, with the next paint event.
   void Refresh();
   /// The same in the next frame of the screen; for long work that draws on the surface bit by bit.
-  void RefreshPaced() { pacer_.Request(); }
+  void refreshPaced() { pacer_.Request(); }
 
   void SetLeft(double left) override;
   void SetTop(double top) override;
   void SetWidth(double width) override;
   void SetHeight(double height) override;
   void SetVisible(bool visible) override;
-  void SetBlinking(bool blinking) override;
+  void setBlinking(bool blinking) override;
 
   /// The mark as it stands, in pixels of the surface.
-  const QRectF& Mark() const { return mark_; }
-  bool MarkVisible() const { return markVisible_; }
-  bool Blinking() const { return timer1_.isActive(); }
+  const QRectF& mark() const { return mark_; }
+  bool markVisible() const { return markVisible_; }
+  bool blinking() const { return timer1_.isActive(); }
 
  Q_SIGNALS:
   /// The mouse has moved: its place in pixels of the surface.
@@ -51,7 +51,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
   void updateMark();
   QRect markRect() const;
 
-  platform::Surface surface_;
+  drawing::Surface surface_;
   controls::FramePacer pacer_;
   QTimer timer1_;
   QRectF mark_;

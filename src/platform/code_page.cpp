@@ -50,14 +50,14 @@ char16_t upperLetter(QChar letter) {
 
 }  // namespace
 
-QString FromAnsi(QByteArrayView bytes) {
+QString fromAnsi(QByteArrayView bytes) {
   QString text(bytes.size(), Qt::Uninitialized);
   std::transform(bytes.begin(), bytes.end(), text.begin(),
                  [](char byte) { return QChar(letterOf(static_cast<unsigned char>(byte))); });
   return text;
 }
 
-std::optional<QByteArray> ToAnsi(QStringView text) {
+std::optional<QByteArray> toAnsi(QStringView text) {
   QByteArray bytes;
   bytes.reserve(text.size());
   for (const QChar letter : text) {
@@ -68,22 +68,22 @@ std::optional<QByteArray> ToAnsi(QStringView text) {
   return bytes;
 }
 
-QString UpperCase(QStringView text) {
+QString upperCase(QStringView text) {
   QString upper(text.size(), Qt::Uninitialized);
   std::transform(text.begin(), text.end(), upper.begin(), [](QChar letter) { return QChar(upperLetter(letter)); });
   return upper;
 }
 
-char UpperCaseByte(char byte) {
+char upperCaseByte(char byte) {
   return UpperBytes[static_cast<unsigned char>(byte)];
 }
 
-bool NameLess(QStringView a, QStringView b) {
+bool nameLess(QStringView a, QStringView b) {
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
                                       [](QChar x, QChar y) { return upperLetter(x) < upperLetter(y); });
 }
 
-bool SameName(QStringView a, QStringView b) {
+bool sameName(QStringView a, QStringView b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](QChar x, QChar y) { return upperLetter(x) == upperLetter(y); });
 }

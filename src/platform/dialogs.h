@@ -30,13 +30,13 @@ class Dialogs {
  public:
   virtual ~Dialogs() = default;
   /// Shows `text` under `title`; an empty title shows the program's name.
-  virtual BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title, BoxKind kind) = 0;
+  virtual BoxAnswer messageBox(QWidget* parent, const QString& text, const QString& title, BoxKind kind) = 0;
   /// Asks for one line of text; Cancel gives an empty one.
-  virtual QString InputBox(QWidget* parent, const QString& prompt, const QString& title) = 0;
+  virtual QString inputBox(QWidget* parent, const QString& prompt, const QString& title) = 0;
   /// Asks for one existing file; gives its path with the program's separators ("\"), Cancel gives an empty path.
-  virtual QString OpenFile(QWidget* parent, const FileRequest& request) = 0;
+  virtual QString openFile(QWidget* parent, const FileRequest& request) = 0;
   /// Asks for a colour, opening on `present`; Cancel gives none.
-  virtual std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) = 0;
+  virtual std::optional<QColor> chooseColor(QWidget* parent, const QColor& present) = 0;
 };
 
 }  // namespace platform

@@ -27,19 +27,19 @@ struct Look {
 };
 
 /// Looks what stands at the path, with Replace at a link itself. Nothing there is no error.
-std::optional<FileError> LookAt(const QString& native, AtLink atLink, Look& found);
+std::optional<FileError> lookAt(const QString& native, AtLink atLink, Look& found);
 
 /// The names in a folder without "." and "..", in any order.
-std::optional<FileError> ListNames(const QString& native, QStringList& names);
+std::optional<FileError> listNames(const QString& native, QStringList& names);
 
 /// Reads the file whole; an error, or none. With Replace a link counts as missing.
-std::optional<FileError> ReadBytes(const QString& native, AtLink atLink, QByteArray& bytes);
+std::optional<FileError> readBytes(const QString& native, AtLink atLink, QByteArray& bytes);
 
 /// Opens the file for who reads it piece by piece.
-std::optional<FileError> OpenBytes(const QString& native, QFile& file);
+std::optional<FileError> openBytes(const QString& native, QFile& file);
 
 /// Puts the bytes in place of the file or makes it, by a flushed temporary file that is renamed over it. An error
 /// leaves the old file whole and no temporary one. Fails where the old file may not be written.
-std::optional<FileError> ReplaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink);
+std::optional<FileError> replaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink);
 
 }  // namespace platform

@@ -19,37 +19,37 @@ std::optional<FileError> checkRegular(const QFileInfo& info, AtLink atLink) {
 
 }  // namespace
 
-std::optional<FileError> LookAt(const QString& native, AtLink atLink, Look& found) {
+std::optional<FileError> lookAt(const QString& native, AtLink atLink, Look& found) {
   const QFileInfo info(native);
   const bool link = atLink == AtLink::Replace && info.isSymbolicLink();
   found = {info.exists() || link, info.isFile() && !link, info.lastModified().toMSecsSinceEpoch() * 1'000'000};
   return std::nullopt;
 }
 
-std::optional<FileError> ListNames(const QString& native, QStringList& names) {
+std::optional<FileError> listNames(const QString& native, QStringList& names) {
   const QDir folder(native);
   if (!folder.exists()) return FileError{QStringLiteral("No such folder"), true};
   names += folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::Unsorted);
   return std::nullopt;
 }
 
-std::optional<FileError> OpenBytes(const QString& native, QFile& file) {
+std::optional<FileError> openBytes(const QString& native, QFile& file) {
   if (auto error = checkRegular(QFileInfo(native), AtLink::Follow)) return error;
   file.setFileName(native);
   if (!file.open(QIODevice::ReadOnly)) return FileError{file.errorString()};
   return std::nullopt;
 }
 
-std::optional<FileError> ReadBytes(const QString& native, AtLink atLink, QByteArray& bytes) {
+std::optional<FileError> readBytes(const QString& native, AtLink atLink, QByteArray& bytes) {
   if (auto error = checkRegular(QFileInfo(native), atLink)) return error;
   QFile file;
-  if (auto error = OpenBytes(native, file)) return error;
+  if (auto error = openBytes(native, file)) return error;
   bytes = file.readAll();
   if (file.error() != QFileDevice::NoError) return FileError{file.errorString()};
   return std::nullopt;
 }
 
-std::optional<FileError> ReplaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink) {
+std::optional<FileError> replaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink) {
   const QFileInfo old(native);
   const auto error = checkRegular(old, atLink);
   if (error && !error->missing) return error;

@@ -31,17 +31,17 @@ std::optional<FileError> openRegular(const QString& native, AtLink atLink, Regul
   const int file =
       ::open(QFile::encodeName(native).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | following);
   // A link that isn't followed, and a socket.
-  if (file < 0 && errno == ELOOP && following != 0) return ErrorOf(ENOENT);
-  if (file < 0 && errno == ENXIO) return NoRegularFile();
-  if (file < 0) return ErrorOf(errno);
+  if (file < 0 && errno == ELOOP && following != 0) return errorOf(ENOENT);
+  if (file < 0 && errno == ENXIO) return noRegularFile();
+  if (file < 0) return errorOf(errno);
   struct stat status;
   std::optional<FileError> error;
   if (::fstat(file, &status) != 0) {
-    error = ErrorOf(errno);
+    error = errorOf(errno);
   } else if (S_ISDIR(status.st_mode)) {
-    error = ErrorOf(EISDIR);
+    error = errorOf(EISDIR);
   } else if (!S_ISREG(status.st_mode)) {
-    error = NoRegularFile();
+    error = noRegularFile();
   }
   if (error) {
     ::close(file);
@@ -69,20 +69,20 @@ int readToEnd(const RegularFile& open, QByteArray& bytes) {
 
 }  // namespace
 
-std::optional<FileError> LookAt(const QString& native, AtLink atLink, Look& found) {
+std::optional<FileError> lookAt(const QString& native, AtLink atLink, Look& found) {
   const QByteArray name = QFile::encodeName(native);
   struct stat status;
   const int result = atLink == AtLink::Follow ? ::stat(name.constData(), &status) : ::lstat(name.constData(), &status);
   found = {};
-  const auto error = ErrorOf(ErrorNumber(result));
+  const auto error = errorOf(errorNumber(result));
   if (error) return error->missing ? std::nullopt : error;
   found = {true, S_ISREG(status.st_mode), lastWritten(status)};
   return std::nullopt;
 }
 
-std::optional<FileError> ListNames(const QString& native, QStringList& names) {
+std::optional<FileError> listNames(const QString& native, QStringList& names) {
   DIR* const folder = ::opendir(QFile::encodeName(native).constData());
-  if (!folder) return ErrorOf(errno);
+  if (!folder) return errorOf(errno);
   errno = 0;
   while (const dirent* const entry = ::readdir(folder)) {
     const QString name = QFile::decodeName(entry->d_name);
@@ -91,18 +91,18 @@ std::optional<FileError> ListNames(const QString& native, QStringList& names) {
   }
   const int error = errno;
   ::closedir(folder);
-  return ErrorOf(error);
+  return errorOf(error);
 }
 
-std::optional<FileError> ReadBytes(const QString& native, AtLink atLink, QByteArray& bytes) {
+std::optional<FileError> readBytes(const QString& native, AtLink atLink, QByteArray& bytes) {
   RegularFile open;
   if (auto error = openRegular(native, atLink, open)) return error;
   const int error = readToEnd(open, bytes);
   ::close(open.file);
-  return ErrorOf(error);
+  return errorOf(error);
 }
 
-std::optional<FileError> OpenBytes(const QString& native, QFile& file) {
+std::optional<FileError> openBytes(const QString& native, QFile& file) {
   RegularFile open;
   if (auto error = openRegular(native, AtLink::Follow, open)) return error;
   if (file.open(open.file, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle)) {

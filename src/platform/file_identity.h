@@ -19,10 +19,10 @@ struct FileIdentity {
 
 /// The identity of the file at the program's path, links followed. None without a file there, and on a platform that
 /// can't tell all of it.
-std::optional<FileIdentity> IdentityOf(const QString& path);
+std::optional<FileIdentity> identityOf(const QString& path);
 
 /// Whether the last change lies far enough back, seen from now, for every further one to show in the times. It doesn't
 /// after a change less than two seconds ago, which a coarse clock may give the time of the next one, or in the future.
-bool IsSettled(const FileIdentity& file);
+bool isSettled(const FileIdentity& file);
 
 }  // namespace platform

@@ -2,11 +2,11 @@
 
 namespace platform {
 
-std::optional<FileIdentity> IdentityOf(const QString& /*path*/) {
+std::optional<FileIdentity> identityOf(const QString& /*path*/) {
   return std::nullopt;
 }
 
-bool IsSettled(const FileIdentity& /*file*/) {
+bool isSettled(const FileIdentity& /*file*/) {
   return false;
 }
 

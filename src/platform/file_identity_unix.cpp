@@ -22,10 +22,10 @@ bool look(const QString& native, struct stat& status) {
 
 }  // namespace
 
-std::optional<FileIdentity> IdentityOf(const QString& path) {
+std::optional<FileIdentity> identityOf(const QString& path) {
   struct stat status;
-  const QString plain = PlainPath(path);
-  if (!look(plain, status) && !look(FindPath(plain), status)) return std::nullopt;
+  const QString plain = plainPath(path);
+  if (!look(plain, status) && !look(findPath(plain), status)) return std::nullopt;
   if (!S_ISREG(status.st_mode)) return std::nullopt;
 #ifdef __APPLE__
   const timespec modified = status.st_mtimespec;
@@ -38,7 +38,7 @@ std::optional<FileIdentity> IdentityOf(const QString& path) {
                       nanosecondsOf(changed)};
 }
 
-bool IsSettled(const FileIdentity& file) {
+bool isSettled(const FileIdentity& file) {
   constexpr qint64 ClockGrain = 2'000'000'000;
   timespec now{};
   return ::clock_gettime(CLOCK_REALTIME, &now) == 0 &&

@@ -19,9 +19,9 @@ Failure failureOf(const QString& native, const FileError& error) {
 /// Takes a step on the path as written, and when nothing stands there on the one that is found without regard to case.
 /// Gives the failure when nothing stands there either, and throws any other.
 std::optional<Failure> touch(const QString& path, const std::function<std::optional<FileError>(const QString&)>& step) {
-  QString native = PlainPath(path);
+  QString native = plainPath(path);
   auto error = step(native);
-  if (error && error->missing) error = step(native = FindPath(native));
+  if (error && error->missing) error = step(native = findPath(native));
   if (!error) return std::nullopt;
   if (!error->missing) throw failureOf(native, *error);
   return failureOf(native, *error);
@@ -31,7 +31,7 @@ std::optional<Failure> touch(const QString& path, const std::function<std::optio
 Look look(const QString& path, AtLink atLink, QString& native) {
   Look found;
   touch(path, [&](const QString& at) {
-    auto error = LookAt(native = at, atLink, found);
+    auto error = lookAt(native = at, atLink, found);
     if (!error && !found.stands) error = FileError{QString(), true};
     return error;
   });
@@ -40,63 +40,63 @@ Look look(const QString& path, AtLink atLink, QString& native) {
 
 }  // namespace
 
-QByteArray ReadFile(const QString& path) {
+QByteArray readFile(const QString& path) {
   QByteArray bytes;
-  const auto missing = touch(path, [&](const QString& native) { return ReadBytes(native, AtLink::Follow, bytes); });
+  const auto missing = touch(path, [&](const QString& native) { return readBytes(native, AtLink::Follow, bytes); });
   if (missing) throw Failure(*missing);
   return bytes;
 }
 
-std::optional<QByteArray> ReadIfThere(const QString& path, AtLink atLink) {
+std::optional<QByteArray> readIfThere(const QString& path, AtLink atLink) {
   QByteArray bytes;
-  if (touch(path, [&](const QString& native) { return ReadBytes(native, atLink, bytes); })) return std::nullopt;
+  if (touch(path, [&](const QString& native) { return readBytes(native, atLink, bytes); })) return std::nullopt;
   return bytes;
 }
 
-std::unique_ptr<QFile> OpenFile(const QString& path) {
+std::unique_ptr<QFile> openFile(const QString& path) {
   auto file = std::make_unique<QFile>();
-  const auto missing = touch(path, [&](const QString& native) { return OpenBytes(native, *file); });
+  const auto missing = touch(path, [&](const QString& native) { return openBytes(native, *file); });
   if (missing) throw Failure(*missing);
   return file;
 }
 
-void WriteFile(const QString& path, QByteArrayView bytes, AtLink atLink) {
+void writeFile(const QString& path, QByteArrayView bytes, AtLink atLink) {
   QString native;
   look(path, AtLink::Replace, native);
-  if (const auto error = ReplaceBytes(native, bytes, atLink)) throw failureOf(native, *error);
+  if (const auto error = replaceBytes(native, bytes, atLink)) throw failureOf(native, *error);
 }
 
-bool FileExists(const QString& path) {
+bool fileExists(const QString& path) {
   QString native;
   return look(path, AtLink::Follow, native).isFile;
 }
 
-qint64 LastWritten(const QString& path) {
+qint64 lastWritten(const QString& path) {
   QString native;
   return look(path, AtLink::Replace, native).lastWritten;
 }
 
-bool FolderHoldsFiles(const QString& folder) {
+bool folderHoldsFiles(const QString& folder) {
   try {
-    return NativePath(folder).endsWith(u'/') && !ListFiles(folder, QString()).isEmpty();
+    return nativePath(folder).endsWith(u'/') && !listFiles(folder, QString()).isEmpty();
   } catch (const Failure&) {
     return false;
   }
 }
 
-QStringList ListFiles(const QString& folder, const QString& ending) {
-  const QString native = FindPath(PlainPath(folder));
+QStringList listFiles(const QString& folder, const QString& ending) {
+  const QString native = findPath(plainPath(folder));
   QStringList names;
-  const auto error = ListNames(native, names);
+  const auto error = listNames(native, names);
   if (error && !error->missing) throw failureOf(native, *error);
   names.removeIf([&](const QString& name) {
     if (name.startsWith(u'.') || name.size() < ending.size()) return true;
-    if (!SameName(QStringView(name).last(ending.size()), ending)) return true;
+    if (!sameName(QStringView(name).last(ending.size()), ending)) return true;
     Look found;
-    return LookAt(native + u'/' + name, AtLink::Follow, found) || !found.isFile;
+    return lookAt(native + u'/' + name, AtLink::Follow, found) || !found.isFile;
   });
   std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
-    return SameName(a, b) ? QFile::encodeName(a) < QFile::encodeName(b) : NameLess(a, b);
+    return sameName(a, b) ? QFile::encodeName(a) < QFile::encodeName(b) : nameLess(a, b);
   });
   return names;
 }

@@ -7,7 +7,7 @@ namespace platform {
 
 /// Puts the number behind the bytes, its lowest byte first.
 template <typename Number>
-void AppendLittle(QByteArray& bytes, Number number) {
+void appendLittle(QByteArray& bytes, Number number) {
   char stored[sizeof(Number)];
   qToLittleEndian(number, stored);
   bytes.append(stored, sizeof stored);

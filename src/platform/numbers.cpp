@@ -61,7 +61,7 @@ std::optional<Whole> roundTo(double number) {
 
 }  // namespace
 
-double NumberOf(QStringView text) {
+double numberOf(QStringView text) {
   const NumberHead head = headOf(text);
   if (!head.holdsDigit) return 0;
   bool fits = false;
@@ -72,18 +72,18 @@ double NumberOf(QStringView text) {
 
 bool isNumber(QStringView text) {
   const NumberHead head = headOf(text);
-  return head.holdsDigit && TrimBlanks(text.sliced(head.end)).isEmpty();
+  return head.holdsDigit && trimBlanks(text.sliced(head.end)).isEmpty();
 }
 
-std::optional<qint16> RoundToInt16(double number) {
+std::optional<qint16> roundToInt16(double number) {
   return roundTo<qint16>(number);
 }
 
-std::optional<quint8> RoundToByte(double number) {
+std::optional<quint8> roundToByte(double number) {
   return roundTo<quint8>(number);
 }
 
-QString NumberText(double number) {
+QString numberText(double number) {
   if (!std::isfinite(number)) return QString::number(number);
   // Digits and exponent first, since the number of decimals that keeps 15 digits depends on the exponent.
   const QByteArray scientific = QByteArray::number(number, 'e', SignificantDigits - 1);
@@ -104,13 +104,13 @@ QString NumberText(double number) {
   return QString::fromLatin1(negative ? "-" + digits : digits);
 }
 
-QString TrimBlanks(QStringView text) {
+QString trimBlanks(QStringView text) {
   while (text.startsWith(Blank)) text = text.sliced(1);
   while (text.endsWith(Blank)) text.chop(1);
   return text.toString();
 }
 
-QStringList SplitAtBlanks(QStringView text) {
+QStringList splitAtBlanks(QStringView text) {
   return text.toString().split(Blank);
 }
 

@@ -20,7 +20,7 @@ void check(const QString& path, const std::optional<FileError>& error) {
 
 bool stands(const QString& path) {
   Look found;
-  check(path, LookAt(path, AtLink::Replace, found));
+  check(path, lookAt(path, AtLink::Replace, found));
   return found.stands;
 }
 
@@ -28,9 +28,9 @@ bool stands(const QString& path) {
 QString entryLike(const QString& folder, const QString& name) {
   QString best;
   QStringList entries;
-  check(folder + name, ListNames(folder, entries));
+  check(folder + name, listNames(folder, entries));
   for (const QString& entry : entries) {
-    if (!SameName(entry, name)) continue;
+    if (!sameName(entry, name)) continue;
     if (best.isEmpty() || QFile::encodeName(entry) < QFile::encodeName(best)) best = entry;
   }
   return best.isEmpty() ? name : best;
@@ -38,7 +38,7 @@ QString entryLike(const QString& folder, const QString& name) {
 
 }  // namespace
 
-QString PlainPath(const QString& path) {
+QString plainPath(const QString& path) {
   QString plain = path;
   plain.replace(QChar(u'\\'), Slash);
 #ifdef Q_OS_WIN
@@ -51,7 +51,7 @@ QString PlainPath(const QString& path) {
   return plain;
 }
 
-QString FindPath(const QString& plain) {
+QString findPath(const QString& plain) {
 #ifdef Q_OS_WIN
   return plain;
 #else
@@ -67,23 +67,23 @@ QString FindPath(const QString& plain) {
 #endif
 }
 
-QString NativePath(const QString& path) {
-  const QString plain = PlainPath(path);
+QString nativePath(const QString& path) {
+  const QString plain = plainPath(path);
   try {
-    return stands(plain) ? plain : FindPath(plain);
+    return stands(plain) ? plain : findPath(plain);
   } catch (const Failure&) {
     return plain;
   }
 }
 
-QString ProgramPath(const QString& nativePath) {
+QString programPath(const QString& nativePath) {
   QString path = nativePath;
   return path.replace(Slash, QChar(u'\\'));
 }
 
-bool SameFolder(const QString& a, const QString& b) {
-  const QFileInfo first(NativePath(a));
-  const QFileInfo second(NativePath(b));
+bool sameFolder(const QString& a, const QString& b) {
+  const QFileInfo first(nativePath(a));
+  const QFileInfo second(nativePath(b));
   return first.isDir() && second.isDir() && first.canonicalFilePath() == second.canonicalFilePath();
 }
 

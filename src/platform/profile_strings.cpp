@@ -37,12 +37,12 @@ bool endsInTab(QByteArrayView name) {
 
 bool sameName(QByteArrayView a, QByteArrayView b) {
   return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return UpperCaseByte(x) == UpperCaseByte(y); });
+         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return upperCaseByte(x) == upperCaseByte(y); });
 }
 
 QByteArray upperCase(QByteArrayView name) {
   QByteArray upper(name.size(), Qt::Uninitialized);
-  std::transform(name.begin(), name.end(), upper.begin(), UpperCaseByte);
+  std::transform(name.begin(), name.end(), upper.begin(), upperCaseByte);
   return upper;
 }
 
@@ -74,8 +74,8 @@ bool endsName(const char* at, const char* fileEnd) {
 const char* findSection(QByteArrayView file, QByteArrayView name) {
   const char* const end = file.end();
   const qsizetype length = name.size();
-  const char first = length > 0 ? UpperCaseByte(name.front()) : '\0';
-  const char last = length > 0 ? UpperCaseByte(name.back()) : '\0';
+  const char first = length > 0 ? upperCaseByte(name.front()) : '\0';
+  const char last = length > 0 ? upperCaseByte(name.back()) : '\0';
   if (std::any_of(name.begin(), name.end(), [](char c) { return c == ']' || isLineEnd(c); })) return nullptr;
   if (endsInTab(name)) return nullptr;
   for (const char* at = file.begin(); at != end;) {
@@ -84,7 +84,7 @@ const char* findSection(QByteArrayView file, QByteArrayView name) {
     at = bracket + 1;
     while (at != end && isBlank(*at)) ++at;
     if (end - at < length) return nullptr;
-    if (length > 0 && (UpperCaseByte(at[length - 1]) != last || UpperCaseByte(*at) != first)) continue;
+    if (length > 0 && (upperCaseByte(at[length - 1]) != last || upperCaseByte(*at) != first)) continue;
     if (!endsName(at + length, end) || !sameName({at, length}, name) || !standsAtHead(bracket, file.begin())) continue;
     return nextLine(lineTextEnd(at + length, end), end);
   }
@@ -190,18 +190,18 @@ std::optional<QByteArray> setPart(QByteArrayView file, QByteArrayView section, Q
 
 }  // namespace
 
-std::optional<QByteArray> FindProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
-  const auto lines = FindProfileSection(file, section);
-  return lines ? FindProfileValue(*lines, key) : std::nullopt;
+std::optional<QByteArray> findProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const auto lines = findProfileSection(file, section);
+  return lines ? findProfileValue(*lines, key) : std::nullopt;
 }
 
-std::optional<QByteArrayView> FindProfileSection(QByteArrayView file, QByteArrayView section) {
+std::optional<QByteArrayView> findProfileSection(QByteArrayView file, QByteArrayView section) {
   const char* const lines = findSection(file, askedName(section));
   if (!lines) return std::nullopt;
   return QByteArrayView(lines, file.end());
 }
 
-std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView key) {
+std::optional<QByteArray> findProfileValue(QByteArrayView lines, QByteArrayView key) {
   const auto line = KeyLines(lines.begin(), lines.end()).find(askedName(key));
   if (!line) return std::nullopt;
   return shownValue(*line);
@@ -213,7 +213,7 @@ QByteArrayView unquoted(QByteArrayView value) {
   return quoted ? value.sliced(1, value.size() - 2) : value;
 }
 
-QByteArray ListProfileKeys(QByteArrayView file, QByteArrayView section) {
+QByteArray listProfileKeys(QByteArrayView file, QByteArrayView section) {
   QByteArray keys;
   const char* const lines = findSection(file, askedName(section));
   if (!lines) return keys;
@@ -282,7 +282,7 @@ std::vector<OutlineSection> profileOutline(QByteArrayView file) {
   return sections;
 }
 
-std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+std::optional<QByteArray> setProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
                                           QByteArrayView value) {
   return setPart(file, section, key, value, Part::Value);
 }
@@ -292,7 +292,7 @@ std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView sec
   return setPart(file, section, key, line, Part::Line);
 }
 
-std::optional<QByteArray> RemoveProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+std::optional<QByteArray> removeProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
   const char* const lines = findSection(file, askedName(section));
   if (!lines) return std::nullopt;
   const auto line = KeyLines(lines, file.end()).find(askedName(key));

@@ -16,15 +16,15 @@ namespace platform {
 
 /// The value of the key as it stands in the file: without blanks round it, less one pair of equal quotation marks round
 /// it. None without the section or key.
-std::optional<QByteArray> FindProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key);
+std::optional<QByteArray> findProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key);
 
 /// The same in two steps, for who asks for several keys of a section: the file from behind the section's line on, and
 /// the value of a key there.
-std::optional<QByteArrayView> FindProfileSection(QByteArrayView file, QByteArrayView section);
-std::optional<QByteArray> FindProfileValue(QByteArrayView lines, QByteArrayView key);
+std::optional<QByteArrayView> findProfileSection(QByteArrayView file, QByteArrayView section);
+std::optional<QByteArray> findProfileValue(QByteArrayView lines, QByteArrayView key);
 
 /// All keys of the section in file order, doubles too, each ended by one NUL; empty without the section.
-QByteArray ListProfileKeys(QByteArrayView file, QByteArrayView section);
+QByteArray listProfileKeys(QByteArrayView file, QByteArrayView section);
 
 /// A key line of a section.
 struct ProfileLine {
@@ -43,7 +43,7 @@ ProfileKeys profileKeys(QByteArrayView lines);
 /// The line of the key; null without one.
 const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key);
 
-/// The sections of a file for who asks for many: found once, as FindProfileSection finds each. Views of the file.
+/// The sections of a file for who asks for many: found once, as findProfileSection finds each. Views of the file.
 class ProfileSections {
  public:
   explicit ProfileSections(QByteArrayView file);
@@ -57,7 +57,7 @@ class ProfileSections {
 /// A key line and a section as they stand in the file, lines being counted from 1.
 struct OutlineKey {
   QByteArray name;
-  QByteArray value;  ///< as FindProfileValue gives it
+  QByteArray value;  ///< as findProfileValue gives it
   int line = 0;
 };
 struct OutlineSection {
@@ -74,7 +74,7 @@ std::vector<OutlineSection> profileOutline(QByteArrayView file);
 /// CR LF where it has none. None when there is nothing to change in it, or when the line could never be found again (a
 /// line end or NUL in a text, "]" in the section's name, a tab at an end of either name, no key, one with "=" in it or
 /// ";" or "[" at its head).
-std::optional<QByteArray> SetProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+std::optional<QByteArray> setProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
                                           QByteArrayView value);
 
 /// The same with the key's whole line, `line` having no end of its own.
@@ -82,6 +82,6 @@ std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView sec
                                          QByteArrayView line);
 
 /// The file without the key's line; none when there is no such key.
-std::optional<QByteArray> RemoveProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);
+std::optional<QByteArray> removeProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);
 
 }  // namespace platform

@@ -29,7 +29,7 @@ int writeAll(int file, QByteArrayView bytes) {
 
 /// A flush that the file system doesn't offer is none that failed.
 int flush(int file) {
-  const int error = ErrorNumber(::fsync(file));
+  const int error = errorNumber(::fsync(file));
   return error == EINVAL || error == ENOTSUP ? 0 : error;
 }
 
@@ -49,24 +49,24 @@ int followLinks(QByteArray& path) {
 
 /// For the superuser too the owner's bit decides.
 std::optional<FileError> checkWritable(const QByteArray& name, const struct stat& status) {
-  if (S_ISDIR(status.st_mode)) return ErrorOf(EISDIR);
-  if (!S_ISREG(status.st_mode)) return NoRegularFile();
+  if (S_ISDIR(status.st_mode)) return errorOf(EISDIR);
+  if (!S_ISREG(status.st_mode)) return noRegularFile();
   if ((status.st_mode & S_IWUSR) == 0) return FileError{QStringLiteral("The file is write-protected")};
-  return ErrorOf(ErrorNumber(::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS)));
+  return errorOf(errorNumber(::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS)));
 }
 
 /// Owner and group as far as the system lets, then the mode, which a change of owner cuts.
 int keepOwnerAndMode(int file, const struct stat& old) {
   const auto refused = [](int error) { return error == EPERM || error == EINVAL || error == ENOTSUP; };
   struct stat fresh;
-  int error = ErrorNumber(::fstat(file, &fresh));
+  int error = errorNumber(::fstat(file, &fresh));
   if (error != 0) return error;
-  if (fresh.st_uid != old.st_uid) error = ErrorNumber(::fchown(file, old.st_uid, old.st_gid));
+  if (fresh.st_uid != old.st_uid) error = errorNumber(::fchown(file, old.st_uid, old.st_gid));
   if (refused(error) || (fresh.st_uid == old.st_uid && fresh.st_gid != old.st_gid)) {
-    error = ErrorNumber(::fchown(file, uid_t(-1), old.st_gid));
+    error = errorNumber(::fchown(file, uid_t(-1), old.st_gid));
   }
   if (error != 0 && !refused(error)) return error;
-  return ErrorNumber(::fchmod(file, old.st_mode & 07777));
+  return errorNumber(::fchmod(file, old.st_mode & 07777));
 }
 
 bool lacksLocks(int error) {
@@ -78,7 +78,7 @@ bool lacksLocks(int error) {
 int lock(int file, const QByteArray& name) {
   struct stat here;
   struct stat there;
-  const int error = ErrorNumber(::flock(file, LOCK_EX | LOCK_NB));
+  const int error = errorNumber(::flock(file, LOCK_EX | LOCK_NB));
   if (error != 0) return error == EWOULDBLOCK ? EAGAIN : error;
   if (::fstat(file, &here) != 0) return errno;
   if (::lstat(name.constData(), &there) != 0) return errno == ENOENT ? EAGAIN : errno;
@@ -90,7 +90,7 @@ int lock(int file, const QByteArray& name) {
 int clearAway(const QByteArray& name) {
   const int file = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
   int error = file < 0 ? errno : lock(file, name);
-  if (error == 0 || error == ELOOP) error = ErrorNumber(::unlink(name.constData()));
+  if (error == 0 || error == ELOOP) error = errorNumber(::unlink(name.constData()));
   if (file >= 0) ::close(file);
   if (error == 0 || error == ENOENT) return EAGAIN;
   return lacksLocks(error) ? EEXIST : error;
@@ -121,12 +121,12 @@ int makeInTurn(const QByteArray& name, int& file) {
 
 }  // namespace
 
-std::optional<FileError> ReplaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink) {
+std::optional<FileError> replaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink) {
   QByteArray target = QFile::encodeName(native);
-  if (const int error = atLink == AtLink::Follow ? followLinks(target) : 0) return ErrorOf(error);
+  if (const int error = atLink == AtLink::Follow ? followLinks(target) : 0) return errorOf(error);
   struct stat old;
-  const int looking = ErrorNumber(::lstat(target.constData(), &old));
-  if (looking != 0 && looking != ENOENT) return ErrorOf(looking);
+  const int looking = errorNumber(::lstat(target.constData(), &old));
+  if (looking != 0 && looking != ENOENT) return errorOf(looking);
   const bool replacesLink = looking == 0 && S_ISLNK(old.st_mode) && atLink == AtLink::Replace;
   const bool replaces = looking == 0 && !replacesLink;
   if (replaces) {
@@ -135,15 +135,15 @@ std::optional<FileError> ReplaceBytes(const QString& native, QByteArrayView byte
 
   const QByteArray name = target + TemporaryEnding;
   int file = -1;
-  if (const int error = makeInTurn(name, file)) return ErrorOf(error);
+  if (const int error = makeInTurn(name, file)) return errorOf(error);
   int error = replaces ? keepOwnerAndMode(file, old) : 0;
   if (error == 0) error = writeAll(file, bytes);
   if (error == 0) error = flush(file);
   // Still open, so that it stays locked. What is flushed has nothing left that closing could lose.
-  if (error == 0) error = ErrorNumber(::rename(name.constData(), target.constData()));
+  if (error == 0) error = errorNumber(::rename(name.constData(), target.constData()));
   if (error != 0) ::unlink(name.constData());
   ::close(file);
-  return ErrorOf(error);
+  return errorOf(error);
 }
 
 }  // namespace platform

@@ -52,18 +52,18 @@ void Telling::success(const QString& text) {
   if (status_.told_ == before_) status_.ShowStatus(text);
 }
 
-QString ReportText(const QString& step, const QString& description) {
+QString reportText(const QString& step, const QString& description) {
   return step + QStringLiteral(" [") + description + QStringLiteral("]");
 }
 
-bool Guarded(StatusLine& status, const QString& step, const std::function<void()>& work) {
+bool guarded(StatusLine& status, const QString& step, const std::function<void()>& work) {
   const Telling telling(status);
   const auto description = failureOf(work);
-  if (description) status.ShowStatus(ReportText(step, *description));
+  if (description) status.ShowStatus(reportText(step, *description));
   return !description;
 }
 
-bool GuardedSilently(const std::function<void()>& work) {
+bool guardedSilently(const std::function<void()>& work) {
   return !failureOf(work);
 }
 

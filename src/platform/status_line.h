@@ -49,13 +49,13 @@ class Telling {
 };
 
 /// The form of a report: "Error while reading Theme [" + description + "]".
-QString ReportText(const QString& step, const QString& description);
+QString reportText(const QString& step, const QString& description);
 
 /// Runs `work` as an operation under a failure guard: a Failure (or the want of memory) ends it and is shown as
-/// ReportText(step, ...). Gives whether the work came to its end.
-bool Guarded(StatusLine& status, const QString& step, const std::function<void()>& work);
+/// reportText(step, ...). Gives whether the work came to its end.
+bool guarded(StatusLine& status, const QString& step, const std::function<void()>& work);
 
 /// The same guard for operations that fail without a word.
-bool GuardedSilently(const std::function<void()>& work);
+bool guardedSilently(const std::function<void()>& work);
 
 }  // namespace platform

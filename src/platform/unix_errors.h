@@ -9,17 +9,17 @@
 namespace platform {
 
 /// 0, or the error number that a call which gave -1 left behind.
-inline int ErrorNumber(int result) {
+inline int errorNumber(int result) {
   return result < 0 ? errno : 0;
 }
 
-inline std::optional<FileError> ErrorOf(int number) {
+inline std::optional<FileError> errorOf(int number) {
   if (number == 0) return std::nullopt;
   return FileError{qt_error_string(number), number == ENOENT || number == ENOTDIR};
 }
 
 /// For what is neither file nor folder: a pipe, a device, a socket.
-inline FileError NoRegularFile() {
+inline FileError noRegularFile() {
   return {QStringLiteral("It is no regular file")};
 }
 

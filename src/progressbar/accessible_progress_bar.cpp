@@ -15,10 +15,10 @@ class AccessibleProgressBar : public QAccessibleWidget, public QAccessibleValueI
     return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
                                                : QAccessibleWidget::interface_cast(type);
   }
-  QVariant currentValue() const override { return source_.State().Value; }
+  QVariant currentValue() const override { return source_.state().Value; }
   void setCurrentValue(const QVariant& /*value*/) override {}
-  QVariant minimumValue() const override { return source_.State().min; }
-  QVariant maximumValue() const override { return source_.State().max; }
+  QVariant minimumValue() const override { return source_.state().min; }
+  QVariant maximumValue() const override { return source_.state().max; }
   QVariant minimumStepSize() const override { return 1; }
 
  private:
@@ -33,7 +33,7 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 
 }  // namespace
 
-void InstallAccessibility() {
+void installAccessibility() {
   QAccessible::installFactory(makeInterface);
 }
 

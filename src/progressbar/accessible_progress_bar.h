@@ -8,11 +8,11 @@ namespace progressbar {
 class AccessibleSource {
  public:
   virtual ~AccessibleSource() = default;
-  virtual const Properties& State() const = 0;
+  virtual const Properties& state() const = 0;
 };
 
 /// Lets assistive programs see widgets that are such a source as progress bars, with range and value; once for the
 /// program, further calls do nothing.
-void InstallAccessibility();
+void installAccessibility();
 
 }  // namespace progressbar

@@ -4,10 +4,10 @@
 #include <cmath>
 #include <iterator>
 
-#include "platform/fonts.h"
+#include "drawing/fonts.h"
+#include "drawing/raster_text.h"
+#include "drawing/system_colours.h"
 #include "platform/numbers.h"
-#include "platform/raster_text.h"
-#include "platform/system_colors.h"
 #include "progressbar/palettes.h"
 
 namespace progressbar {
@@ -39,12 +39,12 @@ constexpr int LastAlignment = 9;
 
 }  // namespace
 
-QString CaptionText(const Properties& bar, double percent) {
+QString captionText(const Properties& bar, double percent) {
   switch (bar.TextStyle) {
     case ShowsValue:
       return QString::number(bar.Value);
     case ShowsPercent:
-      return platform::NumberText(percent) + u'%';
+      return platform::numberText(percent) + u'%';
     case ShowsText:
       return bar.Text;
     default:
@@ -52,7 +52,7 @@ QString CaptionText(const Properties& bar, double percent) {
   }
 }
 
-std::optional<QPoint> CaptionPlace(int alignment, const QSize& bar, const QSize& caption) {
+std::optional<QPoint> captionPlace(int alignment, const QSize& bar, const QSize& caption) {
   if (alignment < 1 || alignment > LastAlignment) return std::nullopt;
   const auto centred = [](int outer, int inner) { return outer / 2.0 - inner / 2.0 - 1; };
   const double columns[] = {1, centred(bar.width(), caption.width()), double(bar.width()) - caption.width() - 3};
@@ -60,14 +60,14 @@ std::optional<QPoint> CaptionPlace(int alignment, const QSize& bar, const QSize&
   return QPoint(int(std::lrint(columns[(alignment - 1) / Rows])), int(std::lrint(rows[(alignment - 1) % Rows])));
 }
 
-void PaintCaption(platform::Raster& raster, const Properties& bar, const QString& text) {
+void paintCaption(drawing::Raster& raster, const Properties& bar, const QString& text) {
   if (text.isEmpty() || bar.TextEffect < 1 || bar.TextEffect > int(std::size(Effects))) return;
-  platform::TextPen pen(raster, platform::DrawnFont(bar.TextFont));
-  const std::optional<QPoint> place = CaptionPlace(bar.TextAlignment, raster.rect().size(), pen.SizeOf(text));
+  drawing::TextPen pen(raster, drawing::drawnFont(bar.TextFont));
+  const std::optional<QPoint> place = captionPlace(bar.TextAlignment, raster.rect().size(), pen.sizeOf(text));
   if (!place) return;
-  const auto shown = [&](quint32 color) { return bar.Enabled ? color : GreyOf(color); };
+  const auto shown = [&](quint32 color) { return bar.Enabled ? color : greyOf(color); };
   const auto print = [&](int dx, int dy, quint32 color) {
-    pen.Print(text, place->x() + dx, place->y() + dy, platform::ColorOf(color).rgb());
+    pen.Print(text, place->x() + dx, place->y() + dy, drawing::colorOf(color).rgb());
   };
   for (const Copy& copy : Effects[bar.TextEffect - 1]) {
     if (copy.color != Copy::None)

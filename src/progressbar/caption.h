@@ -6,18 +6,18 @@
 #include <QSize>
 #include <QString>
 
-#include "platform/raster.h"
+#include "drawing/raster.h"
 #include "progressbar/properties.h"
 
 namespace progressbar {
 
 /// What the bar says: its value, its percent, its text, or nothing.
-QString CaptionText(const Properties& bar, double percent);
+QString captionText(const Properties& bar, double percent);
 
 /// Where the top left of a caption of this size stands on a bar; none for an alignment that doesn't exist.
-std::optional<QPoint> CaptionPlace(int alignment, const QSize& bar, const QSize& caption);
+std::optional<QPoint> captionPlace(int alignment, const QSize& bar, const QSize& caption);
 
 /// Prints the caption with its effect.
-void PaintCaption(platform::Raster& raster, const Properties& bar, const QString& text);
+void paintCaption(drawing::Raster& raster, const Properties& bar, const QString& text);
 
 }  // namespace progressbar

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "platform/ramps.h"
+#include "drawing/ramps.h"
 
 namespace progressbar {
 
@@ -22,21 +22,21 @@ QRgb stepOf(QRgb first, QRgb last, int i, int n) {
 
 }  // namespace
 
-void GradientTwoColour(platform::Raster& surface, int Direction, quint32 StartColor, quint32 EndColor, int Left,
-                       int Top, int Width, int Height) {
+void GradientTwoColour(drawing::Raster& surface, int Direction, quint32 StartColor, quint32 EndColor, int Left, int Top,
+                       int Width, int Height) {
   if (Direction != 0 && Direction != 1) return;
-  platform::GradientFill(surface, Left, Top, Width, Height, pixelOf(StartColor), pixelOf(EndColor),
-                         platform::Direction(Direction));
+  drawing::GradientFill(surface, Left, Top, Width, Height, pixelOf(StartColor), pixelOf(EndColor),
+                        drawing::Direction(Direction));
 }
 
-void DrawGradientFourColour(platform::Raster& surface, int Left, int Top, int Width, int Height, quint32 TopLeftColour,
+void DrawGradientFourColour(drawing::Raster& surface, int Left, int Top, int Width, int Height, quint32 TopLeftColour,
                             quint32 TopRightColour, quint32 BottomLeftColour, quint32 BottomRightColour) {
   if (Width < 1 || Height < 1) return;
   const QRect shown = QRect(Left, Top, Width, Height) & surface.rect();
   for (int y = shown.top(); y <= shown.bottom(); ++y) {
     const QRgb first = stepOf(pixelOf(TopLeftColour), pixelOf(BottomLeftColour), y - Top, Height);
     const QRgb last = stepOf(pixelOf(TopRightColour), pixelOf(BottomRightColour), y - Top, Height);
-    QRgb* const row = surface.Row(y);
+    QRgb* const row = surface.pixelRow(y);
     for (int x = shown.left(); x <= shown.right(); ++x) row[x] = stepOf(first, last, x - Left, Width);
   }
 }

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <exception>
 
-#include "platform/system_colors.h"
+#include "drawing/system_colours.h"
 #include "progressbar/caption.h"
 #include "progressbar/gradients.h"
 
@@ -15,7 +15,7 @@ enum Orientation { Horizontal = 1, Vertical = 2 };
 
 /// What the steps of a repaint work on.
 struct Sheet {
-  platform::Raster& raster;
+  drawing::Raster& raster;
   const Properties& bar;
   Palette palette;
   double percent;
@@ -26,7 +26,7 @@ int rounded(double number) {
 }
 
 void clear(const Sheet& sheet) {
-  sheet.raster.Wipe(platform::ColorOf(platform::ButtonFaceColor).rgb());
+  sheet.raster.wipe(drawing::colorOf(drawing::ButtonFaceColor).rgb());
 }
 
 /// Two bands above each other, from the left edge to `length`.
@@ -57,23 +57,23 @@ void fill(const Sheet& sheet) {
 
 void outline(const Sheet& sheet) {
   sheet.raster.RoundRect(0, 0, sheet.raster.Width() - 1, sheet.raster.Height() - 1, sheet.bar.RoundedValue,
-                         platform::ColorOf(sheet.palette.Outline).rgb());
+                         drawing::colorOf(sheet.palette.outline).rgb());
 }
 
 void caption(const Sheet& sheet) {
-  PaintCaption(sheet.raster, sheet.bar, CaptionText(sheet.bar, sheet.percent));
+  paintCaption(sheet.raster, sheet.bar, captionText(sheet.bar, sheet.percent));
 }
 
 void clip(const Sheet& sheet) {
-  sheet.raster.ClipToRoundRect(0, 0, sheet.raster.Width(), sheet.raster.Height(), sheet.bar.RoundedValue);
+  sheet.raster.clipToRoundRect(0, 0, sheet.raster.Width(), sheet.raster.Height(), sheet.bar.RoundedValue);
 }
 
 constexpr void (*Steps[])(const Sheet&) = {clear, fill, outline, caption, clip};
 
 }  // namespace
 
-void Paint(platform::Raster& raster, const Properties& bar, const Palette& palette) {
-  const Sheet sheet{raster, bar, bar.Enabled ? palette : GreyOf(palette), bar.Value * 100.0 / bar.max};
+void paint(drawing::Raster& raster, const Properties& bar, const Palette& palette) {
+  const Sheet sheet{raster, bar, bar.Enabled ? palette : greyOf(palette), bar.Value * 100.0 / bar.max};
   for (const auto step : Steps) {
     try {
       step(sheet);

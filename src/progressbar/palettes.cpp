@@ -88,7 +88,7 @@ Band fullBand(quint32 color) {
 
 }  // namespace
 
-void LoadPalette(Palette& palette, const Properties& bar) {
+void loadPalette(Palette& palette, const Properties& bar) {
   if (bar.Theme >= 1 && bar.Theme <= int(std::size(Palettes))) {
     palette = Palettes[bar.Theme - 1];
   } else if (bar.Theme == CustomTheme) {
@@ -98,7 +98,7 @@ void LoadPalette(Palette& palette, const Properties& bar) {
   }
 }
 
-quint32 GreyOf(quint32 color) {
+quint32 greyOf(quint32 color) {
   // Green and blue keep the lower channels as their fractions, so that white comes out above the brightest level.
   const double red = color % 0x100;
   const double green = std::nearbyint(color % 0x10000 / double(0x100));
@@ -107,10 +107,10 @@ quint32 GreyOf(quint32 color) {
   return rgb(quint32(level), quint32(level), quint32(level));
 }
 
-Palette GreyOf(const Palette& palette) {
-  const auto grey = [](const Band& band) { return Band{GreyOf(band.Start), GreyOf(band.End)}; };
+Palette greyOf(const Palette& palette) {
+  const auto grey = [](const Band& band) { return Band{greyOf(band.Start), greyOf(band.End)}; };
   return {grey(palette.TrackFirst), grey(palette.TrackSecond), grey(palette.FilledFirst), grey(palette.FilledSecond),
-          GreyOf(palette.Outline)};
+          greyOf(palette.outline)};
 }
 
 }  // namespace progressbar

@@ -18,14 +18,14 @@ struct Palette {
   Band TrackSecond{};
   Band FilledFirst{};
   Band FilledSecond{};
-  quint32 Outline = 0;
+  quint32 outline = 0;
 };
 
 /// Takes the colours of the bar's theme; a theme that doesn't exist changes nothing.
-void LoadPalette(Palette& palette, const Properties& bar);
+void loadPalette(Palette& palette, const Properties& bar);
 
 /// The grey that a colour has on a disabled bar.
-quint32 GreyOf(quint32 color);
-Palette GreyOf(const Palette& palette);
+quint32 greyOf(quint32 color);
+Palette greyOf(const Palette& palette);
 
 }  // namespace progressbar

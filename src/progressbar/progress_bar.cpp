@@ -6,7 +6,7 @@
 #include <QApplication>
 #include <QPainter>
 
-#include "platform/fonts.h"
+#include "drawing/fonts.h"
 #include "progressbar/painting.h"
 
 namespace progressbar {
@@ -16,7 +16,7 @@ ProgressBar::ProgressBar(QWidget* parent)
         setUpdatesEnabled(true);
         update();
       }) {
-  InstallAccessibility();
+  installAccessibility();
   InitProperties();
 }
 
@@ -24,7 +24,7 @@ template <typename T>
 void ProgressBar::write(T& member, const T& value, QStringView key) {
   member = value;
   Q_EMIT PropertyChanged(key.toString());
-  LoadPalette(palette_, state_);
+  loadPalette(palette_, state_);
   pacer_.Request();
 }
 
@@ -51,7 +51,7 @@ void ProgressBar::SetMin(int value) {
 }
 
 void ProgressBar::SetTextFont(const QFont& value) {
-  setFont(platform::DrawnFont(value));
+  setFont(drawing::drawnFont(value));
   write(state_.TextFont, value, u"TextFont");
 }
 
@@ -106,7 +106,7 @@ void ProgressBar::InitProperties() {
   SetTextEffectColor(0xFFFFFF);
   SetTextStyle(3);
   SetOrientations(1);
-  SetTextFont(AmbientFont());
+  SetTextFont(ambientFont());
 }
 
 /// Showing is a change as any other: what it uncovers and covers is painted in the next frame.
@@ -117,13 +117,13 @@ void ProgressBar::showEvent(QShowEvent* event) {
 }
 
 void ProgressBar::paintEvent(QPaintEvent* /*event*/) {
-  platform::Raster raster(size());
-  Paint(raster, state_, palette_);
+  drawing::Raster raster(size());
+  paint(raster, state_, palette_);
   QPainter painter(this);
-  platform::Show(painter, raster);
+  drawing::Show(painter, raster);
 }
 
-QFont ProgressBar::AmbientFont() const {
+QFont ProgressBar::ambientFont() const {
   const QWidget* container = parentWidget();
   return container == nullptr ? QApplication::font() : container->font();
 }

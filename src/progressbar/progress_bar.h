@@ -60,11 +60,11 @@ class ProgressBar : public QWidget, public AccessibleSource {
   /// The values of a bar newly placed on a form. A new object has them.
   void InitProperties();
   /// The font that the place of the bar gives it: the parent's.
-  QFont AmbientFont() const;
+  QFont ambientFont() const;
 
   void About() {}
 
-  const Properties& State() const override { return state_; }
+  const Properties& state() const override { return state_; }
 
  Q_SIGNALS:
   void PropertyChanged(const QString& key);

@@ -3,9 +3,9 @@
 #include <optional>
 #include <type_traits>
 
-#include "platform/property_bag_bytes.h"
-#include "platform/stored_values.h"
 #include "progressbar/progress_bar.h"
+#include "propertybag/stored_bytes.h"
+#include "propertybag/stored_values.h"
 
 namespace progressbar {
 
@@ -26,17 +26,17 @@ struct Member {
   void (*write)(ProgressBar& bar, const QVariant& value);
 };
 
-template <auto Get, auto Set>
-constexpr Member Stored(QStringView key, QVariant (*storedDefault)(const Ambient&)) {
+template <auto Get, auto setValue>
+constexpr Member stored(QStringView key, QVariant (*storedDefault)(const Ambient&)) {
   using T = std::remove_cvref_t<std::invoke_result_t<decltype(Get), const ProgressBar&>>;
   return {key, storedDefault, [](const ProgressBar& bar) { return QVariant::fromValue((bar.*Get)()); },
           [](ProgressBar& bar, const QVariant& value) {
-            if (const std::optional<T> written = platform::StoredAs<T>(value)) (bar.*Set)(*written);
+            if (const std::optional<T> written = propertybag::storedAs<T>(value)) (bar.*setValue)(*written);
           }};
 }
 
 template <auto Value>
-QVariant Fixed(const Ambient& /*ambient*/) {
+QVariant fixed(const Ambient& /*ambient*/) {
   return QVariant::fromValue(Value);
 }
 QVariant Name(const Ambient& ambient) {
@@ -51,52 +51,52 @@ constexpr quint32 LightGrey = 0xC8C8C8;
 
 using Bar = ProgressBar;
 constexpr Member Members[] = {
-    Stored<&Bar::max, &Bar::SetMax>(u"Max", Fixed<100>),
-    Stored<&Bar::min, &Bar::SetMin>(u"Min", Fixed<0>),
-    Stored<&Bar::Value, &Bar::SetValue>(u"Value", Fixed<50>),
-    Stored<&Bar::RoundedValue, &Bar::SetRoundedValue>(u"RoundedValue", Fixed<5>),
-    Stored<&Bar::Enabled, &Bar::SetEnabled>(u"Enabled", Fixed<true>),
-    Stored<&Bar::Theme, &Bar::SetTheme>(u"Theme", Fixed<1>),
-    Stored<&Bar::TextStyle, &Bar::SetTextStyle>(u"TextStyle", Fixed<1>),
-    Stored<&Bar::Orientations, &Bar::SetOrientations>(u"Orientations", Fixed<1>),
-    Stored<&Bar::Text, &Bar::SetText>(u"Text", Name),
-    Stored<&Bar::TextEffectColor, &Bar::SetTextEffectColor>(u"TextEffectColor", Fixed<LightGrey>),
-    Stored<&Bar::TextEffect, &Bar::SetTextEffect>(u"TextEffect", Fixed<1>),
-    Stored<&Bar::TextAlignment, &Bar::SetTextAlignment>(u"TextAlignment", Fixed<5>),
-    Stored<&Bar::TextFont, &Bar::SetTextFont>(u"TextFont", Font),
-    Stored<&Bar::TextForeColor, &Bar::SetTextForeColor>(u"TextForeColor", Fixed<Black>),
-    Stored<&Bar::PBSCustomeColor2, &Bar::SetPBSCustomeColor2>(u"PBSCustomeColor2", Fixed<Black>),
-    Stored<&Bar::PBSCustomeColor1, &Bar::SetPBSCustomeColor1>(u"PBSCustomeColor1", Fixed<Black>),
+    stored<&Bar::max, &Bar::SetMax>(u"Max", fixed<100>),
+    stored<&Bar::min, &Bar::SetMin>(u"Min", fixed<0>),
+    stored<&Bar::Value, &Bar::SetValue>(u"Value", fixed<50>),
+    stored<&Bar::RoundedValue, &Bar::SetRoundedValue>(u"RoundedValue", fixed<5>),
+    stored<&Bar::Enabled, &Bar::SetEnabled>(u"Enabled", fixed<true>),
+    stored<&Bar::Theme, &Bar::SetTheme>(u"Theme", fixed<1>),
+    stored<&Bar::TextStyle, &Bar::SetTextStyle>(u"TextStyle", fixed<1>),
+    stored<&Bar::Orientations, &Bar::SetOrientations>(u"Orientations", fixed<1>),
+    stored<&Bar::Text, &Bar::SetText>(u"Text", Name),
+    stored<&Bar::TextEffectColor, &Bar::SetTextEffectColor>(u"TextEffectColor", fixed<LightGrey>),
+    stored<&Bar::TextEffect, &Bar::SetTextEffect>(u"TextEffect", fixed<1>),
+    stored<&Bar::TextAlignment, &Bar::SetTextAlignment>(u"TextAlignment", fixed<5>),
+    stored<&Bar::TextFont, &Bar::SetTextFont>(u"TextFont", Font),
+    stored<&Bar::TextForeColor, &Bar::SetTextForeColor>(u"TextForeColor", fixed<Black>),
+    stored<&Bar::PBSCustomeColor2, &Bar::SetPBSCustomeColor2>(u"PBSCustomeColor2", fixed<Black>),
+    stored<&Bar::PBSCustomeColor1, &Bar::SetPBSCustomeColor1>(u"PBSCustomeColor1", fixed<Black>),
 };
 
 }  // namespace
 
-void ReadProperties(ProgressBar& bar, const platform::PropertyBag& bag) {
-  const Ambient ambient{bar.objectName(), bar.AmbientFont()};
+void readProperties(ProgressBar& bar, const propertybag::PropertyBag& bag) {
+  const Ambient ambient{bar.objectName(), bar.ambientFont()};
   for (const Member& member : Members) {
     member.write(bar, bag.ReadProperty(member.key.toString(), member.storedDefault(ambient)));
   }
-  if (const std::optional<QSize> size = platform::StoredSize(bag)) bar.resize(*size);
+  if (const std::optional<QSize> size = propertybag::storedSize(bag)) bar.resize(*size);
 }
 
-bool ReadProperties(ProgressBar& bar, QByteArrayView bytes) {
-  const std::optional<platform::PropertyBag> bag = platform::BagOfBytes(bytes);
-  ReadProperties(bar, bag.value_or(platform::PropertyBag()));
+bool readProperties(ProgressBar& bar, QByteArrayView bytes) {
+  const std::optional<propertybag::PropertyBag> bag = propertybag::bagOfBytes(bytes);
+  readProperties(bar, bag.value_or(propertybag::PropertyBag()));
   return bag.has_value();
 }
 
-void WriteProperties(const ProgressBar& bar, platform::PropertyBag& bag) {
-  const Ambient ambient{QString(), bar.AmbientFont()};
-  platform::StoreSize(bag, bar.size());
+void writeProperties(const ProgressBar& bar, propertybag::PropertyBag& bag) {
+  const Ambient ambient{QString(), bar.ambientFont()};
+  propertybag::storeSize(bag, bar.size());
   for (const Member& member : Members) {
     bag.WriteProperty(member.key.toString(), member.read(bar), member.storedDefault(ambient));
   }
 }
 
-QByteArray WriteProperties(const ProgressBar& bar) {
-  platform::PropertyBag bag;
-  WriteProperties(bar, bag);
-  return platform::StoredBytes(bag);
+QByteArray writeProperties(const ProgressBar& bar) {
+  propertybag::PropertyBag bag;
+  writeProperties(bar, bag);
+  return propertybag::storedBytes(bag);
 }
 
 }  // namespace progressbar

@@ -3,7 +3,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-#include "platform/property_bag.h"
+#include "propertybag/property_bag.h"
 
 namespace progressbar {
 
@@ -12,12 +12,12 @@ class ProgressBar;
 /// Writes every member from its stored value or its stored default, in the order of their keys, and the size when it is
 /// stored. A value that can't be read is passed over. The defaults of Text and TextFont are the bar's name and font of
 /// its place.
-void ReadProperties(ProgressBar& bar, const platform::PropertyBag& bag);
+void readProperties(ProgressBar& bar, const propertybag::PropertyBag& bag);
 /// The same from the stored bytes of a bar; damaged ones count as an empty bag and give false.
-bool ReadProperties(ProgressBar& bar, QByteArrayView bytes);
+bool readProperties(ProgressBar& bar, QByteArrayView bytes);
 
 /// Stores the size and the members that differ from their stored defaults, in the same order.
-void WriteProperties(const ProgressBar& bar, platform::PropertyBag& bag);
-QByteArray WriteProperties(const ProgressBar& bar);
+void writeProperties(const ProgressBar& bar, propertybag::PropertyBag& bag);
+QByteArray writeProperties(const ProgressBar& bar);
 
 }  // namespace progressbar

@@ -10,7 +10,7 @@ namespace renderer {
 ChosenScreen::ChosenScreen(themefiles::ModuleState opened, const QString& screen, const QString& scheme,
                            platform::StatusLine& status)
     : state(std::move(opened)), status_(status), host_(screen, scheme), dialogs_(status) {
-  state.Filter = themefiles::FilterOf(screen);
+  state.Filter = themefiles::filterOf(screen);
   themefiles::ReadTags(state, screen, tags, status, [] {});
   state.Filter = {};
   if (tags.ListIndex() < 0) return;

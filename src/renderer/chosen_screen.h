@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/graphics.h"
+#include "drawing/graphics.h"
 #include "renderer/plain_host.h"
 #include "renderer/render_context.h"
 #include "themefiles/tag_listing.h"
@@ -17,7 +17,7 @@ class ChosenScreen {
 
   themefiles::ModuleState state;
   themefiles::SortedTags tags;
-  platform::Surface workspace;
+  drawing::Surface workspace;
   RenderAccount account;
   PreparedPictures* pictures = nullptr;  ///< kept from one screen to the next; none: every picture is made anew
 
@@ -29,7 +29,7 @@ class ChosenScreen {
   platform::StatusLine& status_;
   PlainHost host_;
   NoDialogs dialogs_;
-  platform::Graphics graphics_;
+  drawing::Graphics graphics_;
 };
 
 }  // namespace renderer

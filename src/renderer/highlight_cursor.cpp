@@ -18,7 +18,7 @@ constexpr double LineHeightFactor = 1.5;
 
 /// The number of a text as the mark can take it: finite, and not below `least`. Throws Failure.
 double measureOf(const QString& text, double least) {
-  const double number = platform::NumberOf(text);
+  const double number = platform::numberOf(text);
   if (!std::isfinite(number) || number < least) {
     throw platform::Failure(QStringLiteral("%1 is no measure").arg(text));
   }
@@ -30,7 +30,7 @@ double placeOf(const QString& text) {
 }
 
 void showMark(CursorMark& mark) {
-  mark.SetBlinking(true);
+  mark.setBlinking(true);
   mark.SetVisible(true);
 }
 
@@ -43,22 +43,22 @@ void drawFrame(const themefiles::CursorRecord& record, CursorMark& mark) {
 }
 
 /// Sets face and size for the measure: not those of the renderer.
-void setMeasuringFont(const themefiles::CursorRecord& record, platform::Surface& workspace) {
+void setMeasuringFont(const themefiles::CursorRecord& record, drawing::Surface& workspace) {
   if (record.Font == 0) workspace.SetFontName(QStringLiteral("Courier New"));
   if (record.Font == 1) workspace.SetFontName(QStringLiteral("Arial Black"));
   workspace.SetFontSize(record.Size);
 }
 
-void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagList& tags, platform::Surface& workspace,
+void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                   CursorMark& mark) {
   const themefiles::CursorRecord& record = state.CursorRect;
   double x = placeOf(record.X);
   double y = placeOf(record.Y);
   const QString tag = tags.ListIndex() < 0 ? QString() : tags.List(tags.ListIndex());
-  const QString upper = platform::UpperCase(tag);
+  const QString upper = platform::upperCase(tag);
   if (upper.contains(u"BUTTON") || upper.contains(u"NAME")) {
     const QString parent = tag.chopped(std::min<qsizetype>(tag.size(), ChildEnding));
-    const QString& file = state.Paths.ThemeFile;
+    const QString& file = state.paths.ThemeFile;
     x += placeOf(themefiles::GetINI(parent, QStringLiteral("X"), QString(), file));
     y += placeOf(themefiles::GetINI(parent, QStringLiteral("Y"), QString(), file));
   }
@@ -70,13 +70,13 @@ void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagLis
   showMark(mark);
 }
 
-void place(const themefiles::ModuleState& state, const themefiles::TagList& tags, platform::Surface& workspace,
+void place(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
            CursorMark& mark) {
   const themefiles::CursorRecord& record = state.CursorRect;
   if (!record.X.isEmpty() && !record.Y.isEmpty() && !record.W.isEmpty() && !record.H.isEmpty()) {
     drawFrame(record, mark);
   } else if (record.X.isEmpty() || record.Y.isEmpty() || !record.W.isEmpty() || !record.H.isEmpty()) {
-    mark.SetBlinking(false);
+    mark.setBlinking(false);
     mark.SetVisible(false);
   } else {
     drawTextLine(state, tags, workspace, mark);
@@ -85,9 +85,9 @@ void place(const themefiles::ModuleState& state, const themefiles::TagList& tags
 
 }  // namespace
 
-void DrawCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, platform::Surface& workspace,
+void DrawCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                 CursorMark& mark, platform::StatusLine& status) {
-  platform::Guarded(status, QStringLiteral("Error while drawing highlighting cursor"),
+  platform::guarded(status, QStringLiteral("Error while drawing highlighting cursor"),
                     [&] { place(state, tags, workspace, mark); });
 }
 

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "drawing/system_colours.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
-#include "platform/system_colors.h"
 #include "renderer/object_values.h"
 #include "renderer/text_objects.h"
 #include "renderer/texture_pipeline.h"
@@ -39,39 +39,39 @@ void drawObject(RenderContext& context, const ObjectSection& section, const QStr
                 const Look& look) {
   if (context.TextsOnly) return;
   const QString colorName = section.Value(look.colorKey);
-  const QString color = themefiles::ResolveColor(context.State, colorName, context.Host.SchemeName());
+  const QString color = themefiles::ResolveColor(context.state, colorName, context.host.schemeName());
   const float intensity =
-      look.intensityKey.isEmpty() ? NoIntensity : static_cast<float>(section.Number(look.intensityKey));
-  const QString type = platform::UpperCase(section.Value(QStringLiteral("TYPE")));
+      look.intensityKey.isEmpty() ? NoIntensity : static_cast<float>(section.number(look.intensityKey));
+  const QString type = platform::upperCase(section.Value(QStringLiteral("TYPE")));
   const TextureResult result = DrawTexture(context, {path, type, box, color, intensity, section.inHand()});
   switch (result.outcome) {
     case TextureOutcome::Drawn:
-      context.Account.Objects.push_back({section.Name(), result.place, {}});
+      context.account.objects.push_back({section.Name(), result.place, {}});
       break;
     case TextureOutcome::NoSession:
       break;
     case TextureOutcome::NoPicture:
-      LeaveOut(context, section.Name(), Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
+      leaveOut(context, section.Name(), Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
       break;
     case TextureOutcome::NoColor:
-      LeaveOut(context, section.Name(), Reason::UnknownColor, look.colorKey, colorName);
+      leaveOut(context, section.Name(), Reason::UnknownColor, look.colorKey, colorName);
       break;
     case TextureOutcome::ColorRange:
-      LeaveOut(context, section.Name(), Reason::ColorRange,
+      leaveOut(context, section.Name(), Reason::ColorRange,
                look.intensityKey.isEmpty() ? look.colorKey : look.intensityKey,
-               look.intensityKey.isEmpty() ? color : platform::NumberText(intensity));
+               look.intensityKey.isEmpty() ? color : platform::numberText(intensity));
       break;
     case TextureOutcome::NoArea:
-      LeaveOut(context, section.Name(), Reason::NoArea, QStringLiteral("W x H"),
+      leaveOut(context, section.Name(), Reason::NoArea, QStringLiteral("W x H"),
                QStringLiteral("%1 x %2").arg(box.W).arg(box.H));
       break;
   }
 }
 
 void showObject(RenderContext& context) {
-  UpdateProgress(context, context.State.ProgressStep);
-  context.Host.Refresh();
-  context.Host.Yield();
+  UpdateProgress(context, context.state.ProgressStep);
+  context.host.Refresh();
+  context.host.yield();
 }
 
 /// Raises the count; whether this button is the selected one.
@@ -89,7 +89,7 @@ void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, 
       DrawTextObject(context, child, box.X, box.Y + textShift, tag);
       textShift = 0;
     }
-    if (number % ChildrenBetweenYields == 0) context.Host.Yield();
+    if (number % ChildrenBetweenYields == 0) context.host.yield();
   }
 }
 
@@ -98,26 +98,26 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
   const ObjectSection section(context, tag);
   const QString visible = section.Value(QStringLiteral("Visible"));
   if (visible == u"0") {
-    LeaveOut(context, tag, Reason::Hidden, QStringLiteral("Visible"), visible);
+    leaveOut(context, tag, Reason::Hidden, QStringLiteral("Visible"), visible);
     return;
   }
-  const bool selected = countButton(context.State);
-  const QString path = TexturePath(context, section);
+  const bool selected = countButton(context.state);
+  const QString path = texturePath(context, section);
   if (path.isEmpty()) return;
-  auto box = ThemeBox(context, section, screenStep());
+  auto box = themeBox(context, section, screenStep());
   if (!box) return;
   Look look{QStringLiteral("DColor"), QStringLiteral("DINT")};
   if (selected) {
     look = {QStringLiteral("Color"), QStringLiteral("INT")};
-    const auto selectedHeight = ThemeInt16(context, section, QStringLiteral("SelectH"), screenStep());
+    const auto selectedHeight = themeInt16(context, section, QStringLiteral("SelectH"), screenStep());
     if (!selectedHeight) return;
     if (*selectedHeight != 0) {
-      if (!platform::UpperCase(tag).contains(u"COLLECTION")) textShift = *selectedHeight - box->H;
+      if (!platform::upperCase(tag).contains(u"COLLECTION")) textShift = *selectedHeight - box->H;
       box->H = *selectedHeight;
     }
   }
   drawObject(context, section, path, *box, look);
-  const auto texts = ThemeInt16(context, section, QStringLiteral("TEXTS"), screenStep());
+  const auto texts = themeInt16(context, section, QStringLiteral("TEXTS"), screenStep());
   if (!texts) return;
   drawChildTexts(context, tag, *box, *texts, textShift);
   showObject(context);
@@ -126,33 +126,33 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
 }  // namespace
 
 bool isButton(const QString& tag) {
-  const QString upper = platform::UpperCase(tag);
+  const QString upper = platform::upperCase(tag);
   return holdsAny(upper, {u"BUTTON", u"SELECT", u"NAME"}) && !upper.contains(u"TEXT");
 }
 
 void DrawBackground(RenderContext& context, const QString& stem) {
   const QString section = stem + QStringLiteral("Background");
-  const QString path = TexturePath(context, ObjectSection(context, section));
-  context.Workspace.Wipe(platform::ColorOf(context.State.BackgroundColor));
+  const QString path = texturePath(context, ObjectSection(context, section));
+  context.Workspace.wipe(drawing::colorOf(context.state.BackgroundColor));
   if (path.isEmpty()) return;
   const QRect surface = context.Workspace.image().rect();
-  const PreparedPicture prepared = Prepare(context.pictures, {path, {}, surface});
+  const PreparedPicture prepared = prepare(context.pictures, {path, {}, surface});
   if (prepared.missing) {
-    LeaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
+    leaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
     return;
   }
-  context.Workspace.DrawImage(prepared.picture, 0, 0);
-  UpdateProgress(context, context.State.ProgressStep);
+  context.Workspace.drawImage(prepared.picture, 0, 0);
+  UpdateProgress(context, context.state.ProgressStep);
 }
 
 void DrawStatics(RenderContext& context) {
-  for (int row = 0; row < context.List1.ListCount(); ++row) {
-    const QString tag = context.List1.List(row);
-    if (!holdsAny(platform::UpperCase(tag), {u"STATIC", u"SONGVIDEOICON"})) continue;
+  for (int row = 0; row < context.tags.ListCount(); ++row) {
+    const QString tag = context.tags.List(row);
+    if (!holdsAny(platform::upperCase(tag), {u"STATIC", u"SONGVIDEOICON"})) continue;
     const ObjectSection section(context, tag);
-    const QString path = TexturePath(context, section);
+    const QString path = texturePath(context, section);
     if (path.isEmpty()) continue;
-    const auto box = ThemeBox(context, section, staticStep());
+    const auto box = themeBox(context, section, staticStep());
     if (!box) continue;
     drawObject(context, section, path, *box, {QStringLiteral("Color"), QString()});
     showObject(context);
@@ -160,9 +160,9 @@ void DrawStatics(RenderContext& context) {
 }
 
 void DrawTexts(RenderContext& context) {
-  for (int row = 0; row < context.List1.ListCount(); ++row) {
-    const QString tag = context.List1.List(row);
-    const QString upper = platform::UpperCase(tag);
+  for (int row = 0; row < context.tags.ListCount(); ++row) {
+    const QString tag = context.tags.List(row);
+    const QString upper = platform::upperCase(tag);
     if (holdsAny(upper, {u"BUTTON", u"NAME", u"TEXTURES"}) || !upper.contains(u"TEXT")) continue;
     DrawTextObject(context, ObjectSection(context, tag), 0, 0, {});
   }
@@ -170,8 +170,8 @@ void DrawTexts(RenderContext& context) {
 
 void DrawButtons(RenderContext& context) {
   int textShift = 0;
-  for (int row = 0; row < context.List1.ListCount(); ++row) {
-    const QString tag = context.List1.List(row);
+  for (int row = 0; row < context.tags.ListCount(); ++row) {
+    const QString tag = context.tags.List(row);
     if (isButton(tag)) drawButton(context, tag, textShift);
   }
 }

@@ -5,27 +5,27 @@
 
 namespace renderer {
 
-platform::BoxAnswer NoDialogs::MessageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
+platform::BoxAnswer NoDialogs::messageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
                                           platform::BoxKind kind) {
   status_.ShowStatus(text);
   return kind == platform::BoxKind::Error ? platform::BoxAnswer::Ok : platform::BoxAnswer::No;
 }
 
-QString NoDialogs::InputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) {
+QString NoDialogs::inputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) {
   return {};
 }
 
-QString NoDialogs::OpenFile(QWidget* /*parent*/, const platform::FileRequest& /*request*/) {
+QString NoDialogs::openFile(QWidget* /*parent*/, const platform::FileRequest& /*request*/) {
   return {};
 }
 
-std::optional<QColor> NoDialogs::ChooseColor(QWidget* /*parent*/, const QColor& /*present*/) {
+std::optional<QColor> NoDialogs::chooseColor(QWidget* /*parent*/, const QColor& /*present*/) {
   return std::nullopt;
 }
 
 PlainHost::PlainHost(QString screen, QString scheme) : screen_(std::move(screen)), scheme_(std::move(scheme)) {}
 
-void PlainHost::SetProgressValue(int value) {
+void PlainHost::setProgressValue(int value) {
   progress_ = std::clamp(value, 0, 100);
 }
 

@@ -18,11 +18,11 @@ namespace renderer {
 class NoDialogs : public platform::Dialogs {
  public:
   explicit NoDialogs(platform::StatusLine& status) : status_(status) {}
-  platform::BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title,
+  platform::BoxAnswer messageBox(QWidget* parent, const QString& text, const QString& title,
                                  platform::BoxKind kind) override;
-  QString InputBox(QWidget* parent, const QString& prompt, const QString& title) override;
-  QString OpenFile(QWidget* parent, const platform::FileRequest& request) override;
-  std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) override;
+  QString inputBox(QWidget* parent, const QString& prompt, const QString& title) override;
+  QString openFile(QWidget* parent, const platform::FileRequest& request) override;
+  std::optional<QColor> chooseColor(QWidget* parent, const QColor& present) override;
 
  private:
   platform::StatusLine& status_;
@@ -36,24 +36,24 @@ class NoMark : public CursorMark {
   void SetWidth(double /*width*/) override {}
   void SetHeight(double /*height*/) override {}
   void SetVisible(bool /*visible*/) override {}
-  void SetBlinking(bool /*blinking*/) override {}
+  void setBlinking(bool /*blinking*/) override {}
 };
 
 /// Answers for the chosen screen and scheme; shows no progress and no button list.
 class PlainHost : public RenderHost {
  public:
   PlainHost(QString screen, QString scheme);
-  int ProgressValue() const override { return progress_; }
-  void SetProgressValue(int value) override;
-  void SetProgressText(const QString& /*text*/) override {}
-  void SetProgressVisible(bool /*visible*/) override {}
+  int progressValue() const override { return progress_; }
+  void setProgressValue(int value) override;
+  void setProgressText(const QString& /*text*/) override {}
+  void setProgressVisible(bool /*visible*/) override {}
   void Refresh() override {}
-  void Yield() override {}
-  void FillButtonList(const QStringList& /*rows*/) override {}
-  void SelectFirstButton() override {}
-  void SetButtonListVisible(bool /*visible*/) override {}
-  QString ScreenName() const override { return screen_; }
-  QString SchemeName() const override { return scheme_; }
+  void yield() override {}
+  void fillButtonList(const QStringList& /*rows*/) override {}
+  void selectFirstButton() override {}
+  void setButtonListVisible(bool /*visible*/) override {}
+  QString screenName() const override { return screen_; }
+  QString schemeName() const override { return scheme_; }
 
  private:
   QString screen_;

@@ -3,28 +3,28 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/fitted_picture.h"
-#include "platform/pictures.h"
-#include "platform/surface.h"
+#include "drawing/fitted_picture.h"
+#include "drawing/pictures.h"
+#include "drawing/surface.h"
 
 namespace renderer {
 
 PreparedPictures::Source PreparedPictures::sourceOf(const PictureWish& wish) {
-  QImage picture = platform::LoadPicture(wish.path);
+  QImage picture = drawing::LoadPicture(wish.path);
   if (picture.isNull()) return {Reason::NoPicture, {}};
   const Recolouring& recolouring = wish.recolouring;
-  if (recolouring.type == Recolouring::Type::Colorized) Colorize(picture, recolouring.color);
+  if (recolouring.type == Recolouring::Type::Colorized) colorize(picture, recolouring.color);
   if (recolouring.type == Recolouring::Type::FontBlack &&
-      !RecolourFont(picture, recolouring.color, recolouring.intensity)) {
+      !recolourFont(picture, recolouring.color, recolouring.intensity)) {
     return {Reason::ColorRange, {}};
   }
   return {{}, std::move(picture)};
 }
 
 QRect PreparedPictures::partOf(const PictureWish& wish) {
-  if (!wish.ownSize) return platform::PartOnSurface(wish.place);
+  if (!wish.ownSize) return drawing::partOnSurface(wish.place);
   const QPoint hidden(std::max(0, -wish.place.x()), std::max(0, -wish.place.y()));
-  return {hidden, QSize(platform::Surface::Width, platform::Surface::Height)};
+  return {hidden, QSize(drawing::Surface::Width, drawing::Surface::Height)};
 }
 
 PreparedPicture PreparedPictures::fitted(Source source, const PictureWish& wish) {
@@ -32,21 +32,21 @@ PreparedPicture PreparedPictures::fitted(Source source, const PictureWish& wish)
   const QSize ownSize = source.picture.size();
   const QSize size = wish.ownSize ? ownSize : wish.place.size();
   const QRect part = partOf(wish) & QRect(QPoint(0, 0), size);
-  return {{}, ownSize, part.topLeft(), platform::FittedPicture(std::move(source.picture), size, part)};
+  return {{}, ownSize, part.topLeft(), drawing::fittedPicture(std::move(source.picture), size, part)};
 }
 
 PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   constexpr qsizetype Overhead = 512;
-  const auto file = platform::IdentityOf(wish.path);
+  const auto file = platform::identityOf(wish.path);
   if (!file) return fitted(sourceOf(wish), wish);
   const Key key{*file, wish.recolouring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
   if (const PreparedPicture* const kept = kept_.object(key)) return *kept;
   if (inHand && unscaled_ && unscaled_->file == *file && unscaled_->recolouring == wish.recolouring) {
     return fitted(unscaled_->source, wish);
   }
-  const bool settled = platform::IsSettled(*file);
+  const bool settled = platform::isSettled(*file);
   Source source = sourceOf(wish);
-  const bool keeps = settled && platform::IdentityOf(wish.path) == file;
+  const bool keeps = settled && platform::identityOf(wish.path) == file;
   if (keeps && inHand) {
     source.picture = std::move(source.picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     holdUnscaled({*file, wish.recolouring, source});
@@ -74,7 +74,7 @@ void PreparedPictures::clear() {
   kept_.clear();
 }
 
-PreparedPicture Prepare(PreparedPictures* store, const PictureWish& wish, bool inHand) {
+PreparedPicture prepare(PreparedPictures* store, const PictureWish& wish, bool inHand) {
   PreparedPicture prepared =
       store ? store->get(wish, inHand) : PreparedPictures::fitted(PreparedPictures::sourceOf(wish), wish);
   prepared.corner += wish.place.topLeft();

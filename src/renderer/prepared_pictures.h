@@ -79,7 +79,7 @@ class PreparedPictures {
     Source source;
   };
 
-  friend PreparedPicture Prepare(PreparedPictures* store, const PictureWish& wish, bool inHand);
+  friend PreparedPicture prepare(PreparedPictures* store, const PictureWish& wish, bool inHand);
   static Source sourceOf(const PictureWish& wish);
   static QRect partOf(const PictureWish& wish);
   static PreparedPicture fitted(Source source, const PictureWish& wish);
@@ -92,6 +92,6 @@ class PreparedPictures {
 };
 
 /// The picture from the store, or made for this once without one. Throws std::bad_alloc.
-PreparedPicture Prepare(PreparedPictures* store, const PictureWish& wish, bool inHand = false);
+PreparedPicture prepare(PreparedPictures* store, const PictureWish& wish, bool inHand = false);
 
 }  // namespace renderer

@@ -40,7 +40,7 @@ double hueToChannel(double m1, double m2, double h) {
 }
 
 quint32 byteOf(double channel) {
-  return platform::RoundToByte(static_cast<float>(std::max(channel, 0.0) * 255.0)).value_or(255);
+  return platform::roundToByte(static_cast<float>(std::max(channel, 0.0) * 255.0)).value_or(255);
 }
 
 /// The recoloured pixel, without alpha, of one whose largest and smallest channel are these: lightness and saturation
@@ -134,7 +134,7 @@ RGB HSLToRGB(double H, double L, double S) {
   return {hueToChannel(m1, m2, H + 120), hueToChannel(m1, m2, H), hueToChannel(m1, m2, H - 120)};
 }
 
-void Colorize(QImage& picture, const ColorNumbers& color) {
+void colorize(QImage& picture, const ColorNumbers& color) {
   const double hue = RGBToHSL(color.R, color.G, color.B).H;
   if (const auto steps = stepsOf(hue)) {
     recolourEach(picture, [&steps = *steps](quint32 largest, quint32 smallest) {
@@ -147,11 +147,11 @@ void Colorize(QImage& picture, const ColorNumbers& color) {
   }
 }
 
-bool RecolourFont(QImage& picture, const ColorNumbers& color, float intensity) {
+bool recolourFont(QImage& picture, const ColorNumbers& color, float intensity) {
   const float factor = intensity == NoIntensity ? 1.0F : intensity;
-  const auto r = platform::RoundToByte(color.R * factor);
-  const auto g = platform::RoundToByte(color.G * factor);
-  const auto b = platform::RoundToByte(color.B * factor);
+  const auto r = platform::roundToByte(color.R * factor);
+  const auto g = platform::roundToByte(color.G * factor);
+  const auto b = platform::roundToByte(color.B * factor);
   const bool fits = r && g && b;
   const quint32 bits = fits ? static_cast<quint32>(*r << 16U | *g << 8U | *b) : 0;
   for (int y = 0; y < picture.height(); ++y) {

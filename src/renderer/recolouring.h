@@ -35,10 +35,10 @@ HSL RGBToHSL(double r, double g, double b);
 RGB HSLToRGB(double H, double L, double S);
 
 /// Gives every pixel the hue of the colour; lightness and saturation stay, and so a grey pixel stays.
-void Colorize(QImage& picture, const ColorNumbers& color);
+void colorize(QImage& picture, const ColorNumbers& color);
 
 /// Puts the colour times the intensity (NoIntensity: the colour itself) into every pixel that isn't white, by a bitwise
 /// OR: black becomes the colour. False, and nothing changed, when a channel leaves 0 to 255 and a pixel would take it.
-bool RecolourFont(QImage& picture, const ColorNumbers& color, float intensity);
+bool recolourFont(QImage& picture, const ColorNumbers& color, float intensity);
 
 }  // namespace renderer

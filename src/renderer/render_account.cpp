@@ -27,10 +27,10 @@ constexpr std::array<Wording, 10> Wordings{{
 
 }  // namespace
 
-QString ReasonText(const LeftOut& entry) {
+QString reasonText(const LeftOut& entry) {
   for (const Wording& wording : Wordings) {
-    if (wording.reason != entry.Why) continue;
-    return wording.text.toString().replace(QLatin1String("%2"), entry.Key).replace(QLatin1String("%1"), entry.Value);
+    if (wording.reason != entry.why) continue;
+    return wording.text.toString().replace(QLatin1String("%2"), entry.key).replace(QLatin1String("%1"), entry.value);
   }
   return {};
 }

@@ -6,7 +6,7 @@
 #include <QRect>
 #include <QString>
 
-#include "platform/surface.h"
+#include "drawing/surface.h"
 
 namespace renderer {
 
@@ -26,27 +26,27 @@ enum class Reason {
 
 /// One object that the render left out: the section, and the key and value that decided it.
 struct LeftOut {
-  QString Section;
-  Reason Why;
-  QString Key;
-  QString Value;
+  QString section;
+  Reason why;
+  QString key;
+  QString value;
 };
 
 /// One object that the render drew, and where on the surface.
 struct Drawn {
-  QString Section;
-  QRect Place;
-  QString Owner;  ///< of a child text: its button
+  QString section;
+  QRect place;
+  QString owner;  ///< of a child text: its button
 };
 
 /// The renderer's own account of its last render, in the order of drawing.
 struct RenderAccount {
-  std::vector<Drawn> Objects;
-  std::vector<LeftOut> Missing;
-  std::optional<platform::Pen> startPen;  ///< as the render found it; none before the first one
+  std::vector<Drawn> objects;
+  std::vector<LeftOut> missing;
+  std::optional<drawing::Pen> startPen;  ///< as the render found it; none before the first one
 };
 
 /// The reason in words: "no file 'x.png'".
-QString ReasonText(const LeftOut& entry);
+QString reasonText(const LeftOut& entry);
 
 }  // namespace renderer

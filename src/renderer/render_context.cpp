@@ -3,9 +3,9 @@
 namespace renderer {
 
 void UpdateProgress(RenderContext& context, qint16 step) {
-  context.Host.SetProgressValue(context.Host.ProgressValue() + step);
-  context.Host.SetProgressText(QStringLiteral("%1%").arg(context.Host.ProgressValue()));
-  context.Host.Yield();
+  context.host.setProgressValue(context.host.progressValue() + step);
+  context.host.setProgressText(QStringLiteral("%1%").arg(context.host.progressValue()));
+  context.host.yield();
 }
 
 }  // namespace renderer

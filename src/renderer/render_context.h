@@ -1,9 +1,9 @@
 #pragma once
 
+#include "drawing/graphics.h"
+#include "drawing/surface.h"
 #include "platform/dialogs.h"
-#include "platform/graphics.h"
 #include "platform/status_line.h"
-#include "platform/surface.h"
 #include "renderer/prepared_pictures.h"
 #include "renderer/render_account.h"
 #include "renderer/render_host.h"
@@ -15,14 +15,14 @@ namespace renderer {
 
 /// All that a render works on.
 struct RenderContext {
-  themefiles::ModuleState& State;
-  const themefiles::TagList& List1;  ///< the screen's tags in the order of painting
-  platform::Surface& Workspace;
-  RenderHost& Host;
-  platform::StatusLine& Status;
-  platform::Dialogs& Dialogs;
-  platform::Graphics& Graphics;
-  RenderAccount& Account;
+  themefiles::ModuleState& state;
+  const themefiles::TagList& tags;  ///< the screen's tags in the order of painting
+  drawing::Surface& Workspace;
+  RenderHost& host;
+  platform::StatusLine& status;
+  platform::Dialogs& dialogs;
+  drawing::Graphics& graphics;
+  RenderAccount& account;
   PreparedPictures* pictures = nullptr;  ///< none: every picture is made anew
   TrialFrame* trial = nullptr;           ///< none: a render of what the files hold
   bool TextsOnly = false;                ///< leaves the pictures of statics and buttons undrawn and unaccounted

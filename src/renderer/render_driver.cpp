@@ -8,48 +8,48 @@ namespace renderer {
 namespace {
 
 void drawButtonsWithList(RenderContext& context) {
-  themefiles::ModuleState& state = context.State;
+  themefiles::ModuleState& state = context.state;
   state.ButtonCount = 0;
   if (state.ButtonListFilled) {
     DrawButtons(context);
     return;
   }
   state.SelectedButton = 1;
-  context.Host.FillButtonList({});
+  context.host.fillButtonList({});
   DrawButtons(context);
   if (state.ButtonCount == 0) {
-    context.Host.SetButtonListVisible(false);
+    context.host.setButtonListVisible(false);
     return;
   }
   QStringList rows;
   for (int button = 1; button <= state.ButtonCount; ++button) rows += QStringLiteral("Select Button %1").arg(button);
-  context.Host.FillButtonList(rows);
-  context.Host.SelectFirstButton();
-  context.Host.SetButtonListVisible(true);
+  context.host.fillButtonList(rows);
+  context.host.selectFirstButton();
+  context.host.setButtonListVisible(true);
   state.ButtonListFilled = true;
 }
 
 }  // namespace
 
-void DrawPasses(RenderContext& context) {
-  DrawBackground(context, themefiles::StemOf(context.State, context.Host.ScreenName()));
+void drawPasses(RenderContext& context) {
+  DrawBackground(context, themefiles::stemOf(context.state, context.host.screenName()));
   DrawStatics(context);
   DrawTexts(context);
   drawButtonsWithList(context);
 }
 
 void DrawScreen(RenderContext& context) {
-  context.Account = {};
-  context.Account.startPen = context.Workspace.pen();
+  context.account = {};
+  context.account.startPen = context.Workspace.pen();
   if (context.pictures) context.pictures->letGo();
-  context.Host.SetProgressValue(0);
-  context.Host.SetProgressVisible(true);
-  const int tags = context.List1.ListCount();
-  context.State.ProgressStep = tags == 0 ? qint16(0) : platform::RoundToInt16(100.0 / tags).value_or(0);
-  UpdateProgress(context, context.State.ProgressStep);
-  context.Host.Yield();
-  DrawPasses(context);
-  context.Host.SetProgressVisible(false);
+  context.host.setProgressValue(0);
+  context.host.setProgressVisible(true);
+  const int tags = context.tags.ListCount();
+  context.state.ProgressStep = tags == 0 ? qint16(0) : platform::roundToInt16(100.0 / tags).value_or(0);
+  UpdateProgress(context, context.state.ProgressStep);
+  context.host.yield();
+  drawPasses(context);
+  context.host.setProgressVisible(false);
 }
 
 }  // namespace renderer

@@ -11,6 +11,6 @@ namespace renderer {
 void DrawScreen(RenderContext& context);
 
 /// The passes of DrawScreen alone, behind its progress bar and the start of its account.
-void DrawPasses(RenderContext& context);
+void drawPasses(RenderContext& context);
 
 }  // namespace renderer

@@ -11,26 +11,26 @@ class RenderHost {
   virtual ~RenderHost() = default;
 
   /// Value of the progress bar in percent, as the bar keeps it between 0 and 100.
-  virtual int ProgressValue() const = 0;
-  virtual void SetProgressValue(int value) = 0;
-  virtual void SetProgressText(const QString& text) = 0;
-  virtual void SetProgressVisible(bool visible) = 0;
+  virtual int progressValue() const = 0;
+  virtual void setProgressValue(int value) = 0;
+  virtual void setProgressText(const QString& text) = 0;
+  virtual void setProgressVisible(bool visible) = 0;
 
   /// Shows the surface's present state.
   virtual void Refresh() = 0;
   /// Serves pending events. May throw to give the render up; the render then leaves everything as it stands.
-  virtual void Yield() = 0;
+  virtual void yield() = 0;
 
   /// Replaces the rows of the button list.
-  virtual void FillButtonList(const QStringList& rows) = 0;
+  virtual void fillButtonList(const QStringList& rows) = 0;
   /// Selects the list's first row, as code.
-  virtual void SelectFirstButton() = 0;
-  virtual void SetButtonListVisible(bool visible) = 0;
+  virtual void selectFirstButton() = 0;
+  virtual void setButtonListVisible(bool visible) = 0;
 
   /// Display name of the chosen screen.
-  virtual QString ScreenName() const = 0;
+  virtual QString screenName() const = 0;
   /// Name of the colour scheme in force.
-  virtual QString SchemeName() const = 0;
+  virtual QString schemeName() const = 0;
 };
 
 }  // namespace renderer

@@ -3,8 +3,8 @@
 #include <array>
 #include <cmath>
 
+#include "drawing/system_colours.h"
 #include "platform/numbers.h"
-#include "platform/system_colors.h"
 #include "themefiles/colour_tables.h"
 
 namespace renderer {
@@ -30,25 +30,25 @@ int channelOf(double fraction) {
 QColor colorOf(RenderContext& context, const ObjectSection& section) {
   const QString name = section.Value(QStringLiteral("Color"));
   if (!name.isEmpty()) {
-    const QString color = themefiles::ResolveColor(context.State, name, context.Host.SchemeName());
-    if (color.isEmpty()) LeaveOut(context, section.Name(), Reason::UnknownColor, QStringLiteral("Color"), name);
-    return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
+    const QString color = themefiles::ResolveColor(context.state, name, context.host.schemeName());
+    if (color.isEmpty()) leaveOut(context, section.Name(), Reason::UnknownColor, QStringLiteral("Color"), name);
+    return drawing::colorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
   }
-  return {channelOf(section.Number(QStringLiteral("ColR"))), channelOf(section.Number(QStringLiteral("ColG"))),
-          channelOf(section.Number(QStringLiteral("ColB")))};
+  return {channelOf(section.number(QStringLiteral("ColR"))), channelOf(section.number(QStringLiteral("ColG"))),
+          channelOf(section.number(QStringLiteral("ColB")))};
 }
 
 /// Sets face and size; false when the text asks for a size that no text has.
 bool setFont(RenderContext& context, const ObjectSection& section) {
-  const double fontNumber = section.Number(QStringLiteral("Font"));
+  const double fontNumber = section.number(QStringLiteral("Font"));
   const QString size = section.Value(QStringLiteral("Size"));
   for (const Face& face : Faces) {
     if (face.fontNumber != fontNumber) continue;
     context.Workspace.SetFontName(face.name.toString());
-    const auto points = static_cast<float>(platform::NumberOf(size) * face.pointsPerSize);
+    const auto points = static_cast<float>(platform::numberOf(size) * face.pointsPerSize);
     context.Workspace.SetFontSize(points);
     if (points > 0) return true;
-    LeaveOut(context, section.Name(), Reason::NoSize, QStringLiteral("Size"), size);
+    leaveOut(context, section.Name(), Reason::NoSize, QStringLiteral("Size"), size);
     return false;
   }
   return true;
@@ -57,12 +57,12 @@ bool setFont(RenderContext& context, const ObjectSection& section) {
 QString wordsOf(const RenderContext& context, const ObjectSection& section) {
   const QString key = section.Value(QStringLiteral("Text"), section.Name());
   if (key.isEmpty()) return section.Name();
-  return ReadSection(context, QStringLiteral("Text"), context.State.Paths.LanguageFile).Value(key, key);
+  return readSection(context, QStringLiteral("Text"), context.state.paths.LanguageFile).Value(key, key);
 }
 
 void printAligned(RenderContext& context, const ObjectSection& section, const QString& words, const QString& owner) {
-  platform::Surface& surface = context.Workspace;
-  const double align = section.Number(QStringLiteral("Align"));
+  drawing::Surface& surface = context.Workspace;
+  const double align = section.number(QStringLiteral("Align"));
   const double width = surface.TextWidth(words);
   const double height = surface.TextHeight(words);
   if (align == 1) surface.CurrentX = static_cast<float>(surface.CurrentX - width / 2);
@@ -70,19 +70,19 @@ void printAligned(RenderContext& context, const ObjectSection& section, const QS
   surface.CurrentY = static_cast<float>(surface.CurrentY + height / 5);
   const QRectF place = QRectF(surface.CurrentX, surface.CurrentY, width, height) & QRectF(surface.image().rect());
   surface.Print(words);
-  context.Account.Objects.push_back({section.Name(), place.toAlignedRect(), owner});
+  context.account.objects.push_back({section.Name(), place.toAlignedRect(), owner});
 }
 
 }  // namespace
 
 void DrawTextObject(RenderContext& context, const ObjectSection& section, int baseX, int baseY, const QString& owner) {
-  platform::Surface& surface = context.Workspace;
-  surface.CurrentX = static_cast<float>(section.Number(QStringLiteral("X")) + baseX);
-  surface.CurrentY = static_cast<float>(section.Number(QStringLiteral("Y")) + baseY);
+  drawing::Surface& surface = context.Workspace;
+  surface.CurrentX = static_cast<float>(section.number(QStringLiteral("X")) + baseX);
+  surface.CurrentY = static_cast<float>(section.number(QStringLiteral("Y")) + baseY);
   surface.ForeColor = colorOf(context, section);
   if (setFont(context, section)) printAligned(context, section, wordsOf(context, section), owner);
-  UpdateProgress(context, context.State.ProgressStep);
-  context.Host.Yield();
+  UpdateProgress(context, context.state.ProgressStep);
+  context.host.yield();
 }
 
 }  // namespace renderer

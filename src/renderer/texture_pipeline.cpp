@@ -8,32 +8,32 @@ namespace renderer {
 namespace {
 
 void tell(platform::Dialogs& dialogs, const QString& text) {
-  dialogs.MessageBox(nullptr, text, QString(), platform::BoxKind::Error);
+  dialogs.messageBox(nullptr, text, QString(), platform::BoxKind::Error);
 }
 
-void StartGraphics(platform::Surface& surface, platform::Graphics& graphics, platform::Dialogs& dialogs) {
-  if (graphics.Startup() != 0) {
+void StartGraphics(drawing::Surface& surface, drawing::Graphics& graphics, platform::Dialogs& dialogs) {
+  if (graphics.startup() != 0) {
     tell(dialogs, QStringLiteral("GDI+ could not be initialized"));
     return;
   }
-  if (graphics.CreateFrom(surface) != 0) tell(dialogs, QStringLiteral("Graphics object could not be created"));
+  if (graphics.createFrom(surface) != 0) tell(dialogs, QStringLiteral("Graphics object could not be created"));
 }
 
-void StopGraphics(platform::Graphics& graphics, platform::Dialogs& dialogs) {
-  if (graphics.created() && graphics.Delete() != 0) {
+void StopGraphics(drawing::Graphics& graphics, platform::Dialogs& dialogs) {
+  if (graphics.created() && graphics.deleteObject() != 0) {
     tell(dialogs, QStringLiteral("Graphics object could not be deleted"));
   }
-  graphics.Shutdown();
+  graphics.shutdown();
 }
 
 /// None for a colour of fewer than three fields.
 std::optional<Recolouring> recolouringOf(const Texture& texture) {
   using Type = Recolouring::Type;
-  const QStringList fields = platform::SplitAtBlanks(texture.color);
+  const QStringList fields = platform::splitAtBlanks(texture.color);
   if (fields.size() < 3) return std::nullopt;
-  const ColorNumbers color{static_cast<float>(platform::NumberOf(fields[0])),
-                           static_cast<float>(platform::NumberOf(fields[1])),
-                           static_cast<float>(platform::NumberOf(fields[2]))};
+  const ColorNumbers color{static_cast<float>(platform::numberOf(fields[0])),
+                           static_cast<float>(platform::numberOf(fields[1])),
+                           static_cast<float>(platform::numberOf(fields[2]))};
   if (texture.type == u"COLORIZED") return Recolouring{Type::Colorized, color};
   if (texture.type == u"FONT BLACK") return Recolouring{Type::FontBlack, color, texture.intensity};
   return Recolouring{};
@@ -49,13 +49,13 @@ TextureResult draw(RenderContext& context, const Texture& texture) {
   const auto recolouring = recolouringOf(texture);
   if (!recolouring) return {TextureOutcome::NoColor, {}};
   const PictureWish wish = wishOf(texture, *recolouring);
-  const PreparedPicture prepared = Prepare(context.pictures, wish, texture.inHand);
+  const PreparedPicture prepared = prepare(context.pictures, wish, texture.inHand);
   if (prepared.missing == Reason::NoPicture) return {TextureOutcome::NoPicture, {}};
   if (prepared.missing) return {TextureOutcome::ColorRange, {}};
-  if (!context.Graphics.created()) return {TextureOutcome::NoSession, {}};
+  if (!context.graphics.created()) return {TextureOutcome::NoSession, {}};
   const QRect place(wish.place.topLeft(), wish.ownSize ? prepared.ownSize : wish.place.size());
   if (place.isEmpty()) return {TextureOutcome::NoArea, place};
-  context.Graphics.DrawImage(prepared.picture, prepared.corner.x(), prepared.corner.y());
+  context.graphics.drawImage(prepared.picture, prepared.corner.x(), prepared.corner.y());
   return {TextureOutcome::Drawn, place};
 }
 
@@ -64,13 +64,13 @@ TextureResult draw(RenderContext& context, const Texture& texture) {
 TextureResult DrawTexture(RenderContext& context, const Texture& texture) {
   if (texture.path.isEmpty()) return {};
   TextureResult result;
-  StartGraphics(context.Workspace, context.Graphics, context.Dialogs);
+  StartGraphics(context.Workspace, context.graphics, context.dialogs);
   try {
     result = draw(context, texture);
   } catch (const std::bad_alloc&) {
     result.outcome = TextureOutcome::NoPicture;
   }
-  StopGraphics(context.Graphics, context.Dialogs);
+  StopGraphics(context.graphics, context.dialogs);
   return result;
 }
 

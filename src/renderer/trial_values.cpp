@@ -9,12 +9,12 @@
 namespace renderer {
 
 bool TrialValues::areOf(const QString& name) const {
-  return platform::SameName(name, section);
+  return platform::sameName(name, section);
 }
 
 const QString* TrialValues::find(const QString& key) const {
   const auto found = std::find_if(values.begin(), values.end(),
-                                  [&](const auto& value) { return platform::SameName(value.first, key); });
+                                  [&](const auto& value) { return platform::sameName(value.first, key); });
   return found == values.end() ? nullptr : &found->second;
 }
 
@@ -23,7 +23,7 @@ QByteArray TrialFrame::bytesOf(const QString& file) {
   if (known != files_.constEnd()) return *known;
   QByteArray bytes;
   try {
-    bytes = platform::ReadFile(file);
+    bytes = platform::readFile(file);
   } catch (const platform::Failure&) {
     // A file that can't be read holds no key.
   }

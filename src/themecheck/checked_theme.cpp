@@ -10,8 +10,8 @@ namespace themecheck {
 std::vector<const IniSection*> objectsOf(const IniFile& theme) {
   std::vector<const IniSection*> objects;
   for (const IniSection& section : theme.sections()) {
-    if (section.line != section.counted || platform::SameName(section.name, u"Theme") ||
-        platform::SameName(section.name, u"Colors")) {
+    if (section.line != section.counted || platform::sameName(section.name, u"Theme") ||
+        platform::sameName(section.name, u"Colors")) {
       continue;
     }
     objects.push_back(&section);
@@ -28,7 +28,7 @@ QStringList valuesOf(const IniFile& theme, themefiles::KeyGroup group) {
   QStringList values;
   for (const IniSection* object : objectsOf(theme)) {
     for (const IniKey& key : object->keys) {
-      if (themefiles::GroupOf(themefiles::KeyIdentity(key.name)) == group) values += key.value;
+      if (themefiles::groupOf(themefiles::keyIdentity(key.name)) == group) values += key.value;
     }
   }
   return values;
@@ -37,7 +37,7 @@ QStringList valuesOf(const IniFile& theme, themefiles::KeyGroup group) {
 themefiles::ModuleState openState(const CheckedTheme& theme, const QString& skin, const QString& language) {
   themefiles::ModuleState state;
   HeardReports reports;
-  state.Paths = themefiles::PathsOf(theme.gameFolder, theme.theme.name(), skin, language);
+  state.paths = themefiles::pathsOf(theme.gameFolder, theme.theme.name(), skin, language);
   themefiles::InitScreenTable(state);
   themefiles::ReadColors(state, reports);
   return state;

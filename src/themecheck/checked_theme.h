@@ -41,8 +41,10 @@ themefiles::ModuleState openState(const CheckedTheme& theme, const QString& skin
 /// Takes the reports of readers whose failures are told as findings.
 class HeardReports : public platform::StatusLine {
  public:
-  void ShowStatus(const QString& /*text*/) override { heard = true; }
   bool heard = false;
+
+ protected:
+  void showReport(const QString& /*text*/) override { heard = true; }
 };
 
 /// Told of each screen that is about to be drawn.

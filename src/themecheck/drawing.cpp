@@ -16,7 +16,7 @@
 namespace themecheck {
 namespace {
 
-constexpr QRect Shown(0, 0, platform::Surface::Width, platform::Surface::Height);
+constexpr QRect Shown(0, 0, drawing::Surface::Width, drawing::Surface::Height);
 
 /// One screen of a theme under one skin, drawn pass by pass as a render does, with a look at the account of each.
 class ScreenCheck {
@@ -27,7 +27,7 @@ class ScreenCheck {
         screen_(screen),
         skin_(std::move(skin)),
         findings_(findings),
-        chosen_(state, screen.Name, themefiles::SchemeNames(state).value(0), reports_) {}
+        chosen_(state, screen.Name, themefiles::schemeNames(state).value(0), reports_) {}
 
   void run();
 
@@ -51,14 +51,14 @@ class ScreenCheck {
 };
 
 void drawGround(renderer::RenderContext& context) {
-  renderer::DrawBackground(context, themefiles::StemOf(context.State, context.Host.ScreenName()));
+  renderer::DrawBackground(context, themefiles::stemOf(context.state, context.host.screenName()));
   renderer::DrawStatics(context);
 }
 
 /// The first of the buttons is the selected one.
 void drawButtons(renderer::RenderContext& context) {
-  context.State.SelectedButton = 1;
-  context.State.ButtonCount = 0;
+  context.state.SelectedButton = 1;
+  context.state.ButtonCount = 0;
   renderer::DrawButtons(context);
 }
 
@@ -79,8 +79,8 @@ void ScreenCheck::run() {
 /// Another language changes words only, so that pictures are drawn for one.
 void ScreenCheck::drawWords(const QString& language) {
   language_ = language;
-  chosen_.state.Paths.LanguageFile =
-      themefiles::PathsOf(theme_.gameFolder, theme_.theme.name(), skin_, language).LanguageFile;
+  chosen_.state.paths.LanguageFile =
+      themefiles::pathsOf(theme_.gameFolder, theme_.theme.name(), skin_, language).LanguageFile;
   draw(chosen_.context(), renderer::DrawTexts);
   draw(chosen_.context(), drawButtons);
   selectInTurn();
@@ -90,12 +90,12 @@ void ScreenCheck::drawWords(const QString& language) {
 /// has no text of its own to move by its growth, the next button with texts is drawn behind it.
 void ScreenCheck::selectInTurn() {
   QSet<QString> hidden;
-  for (const renderer::LeftOut& entry : chosen_.account.Missing) {
-    if (entry.Why == renderer::Reason::Hidden) hidden += entry.Section;
+  for (const renderer::LeftOut& entry : chosen_.account.missing) {
+    if (entry.why == renderer::Reason::Hidden) hidden += entry.section;
   }
   QSet<QString> withTexts;
-  for (const renderer::Drawn& object : chosen_.account.Objects) withTexts += object.Owner;
-  QStringList buttons = chosen_.tags.Rows();
+  for (const renderer::Drawn& object : chosen_.account.objects) withTexts += object.owner;
+  QStringList buttons = chosen_.tags.rows();
   buttons.removeIf([&](const QString& tag) { return !renderer::isButton(tag) || hidden.contains(tag); });
   buttons.resize(std::min(buttons.size(), qsizetype(chosen_.state.ButtonCount)));
   for (qsizetype button = 1; button < buttons.size(); ++button) {
@@ -112,43 +112,43 @@ void ScreenCheck::draw(renderer::RenderContext context, Pass pass) {
   context.TextsOnly = picturesDrawn_;
   chosen_.account = {};
   pass(context);
-  for (const renderer::LeftOut& entry : chosen_.account.Missing) tellMissing(entry);
-  for (const renderer::Drawn& object : chosen_.account.Objects) {
-    const bool isText = pass == renderer::DrawTexts || !object.Owner.isEmpty();
+  for (const renderer::LeftOut& entry : chosen_.account.missing) tellMissing(entry);
+  for (const renderer::Drawn& object : chosen_.account.objects) {
+    const bool isText = pass == renderer::DrawTexts || !object.owner.isEmpty();
     if (!isUnseen(object, isText)) continue;
-    findings_.add(Kind::OutsideSurface, theme_.theme.place(object.Section), {},
+    findings_.add(Kind::OutsideSurface, theme_.theme.place(object.section), {},
                   {skin_, isText ? language_ : QString()});
   }
 }
 
 /// A background that isn't there is none that is missing, and a screen's own section is no object.
 bool isNoFault(const renderer::LeftOut& entry, const QString& stem) {
-  return entry.Why == renderer::Reason::NoTexture && entry.Value.isEmpty() &&
-         (platform::SameName(entry.Section, stem) ||
-          platform::SameName(entry.Section, stem + QStringLiteral("Background")));
+  return entry.why == renderer::Reason::NoTexture && entry.value.isEmpty() &&
+         (platform::sameName(entry.section, stem) ||
+          platform::sameName(entry.section, stem + QStringLiteral("Background")));
 }
 
 void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
   if (isNoFault(entry, screen_.Stem)) return;
-  Place place = theme_.theme.place(entry.Section, entry.Key);
+  Place place = theme_.theme.place(entry.section, entry.key);
   // A width and a height are told together, where the first of them stands.
-  for (const QString& key : entry.Key.split(QStringLiteral(" x "))) {
-    const Place line = theme_.theme.place(entry.Section, key);
+  for (const QString& key : entry.key.split(QStringLiteral(" x "))) {
+    const Place line = theme_.theme.place(entry.section, key);
     if (line.line == place.line) continue;
     place.line = line.line;
     break;
   }
-  const Kind kind = entry.Why == renderer::Reason::Hidden ? Kind::Hidden : Kind::LeftOut;
-  findings_.add(kind, place, {renderer::ReasonText(entry)}, {skin_, {}});
+  const Kind kind = entry.why == renderer::Reason::Hidden ? Kind::Hidden : Kind::LeftOut;
+  findings_.add(kind, place, {renderer::reasonText(entry)}, {skin_, {}});
 }
 
 /// Whether nothing of it shows that would show elsewhere.
 bool ScreenCheck::isUnseen(const renderer::Drawn& object, bool isText) const {
-  if (object.Place.intersects(Shown)) return false;
+  if (object.place.intersects(Shown)) return false;
   if (!isText) return true;
-  const IniSection* section = theme_.theme.find(object.Section);
-  const QString key = section ? wordsKeyOf(*section) : object.Section;
-  return !themefiles::GetINI(QStringLiteral("Text"), key, key, chosen_.state.Paths.LanguageFile).isEmpty();
+  const IniSection* section = theme_.theme.find(object.section);
+  const QString key = section ? wordsKeyOf(*section) : object.section;
+  return !themefiles::GetINI(QStringLiteral("Text"), key, key, chosen_.state.paths.LanguageFile).isEmpty();
 }
 
 }  // namespace

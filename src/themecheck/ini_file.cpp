@@ -15,14 +15,14 @@ template <typename Named>
 void enter(QHash<QString, qsizetype>& byName, std::vector<Named>& all) {
   Named& last = all.back();
   const auto index = static_cast<qsizetype>(all.size()) - 1;
-  const auto found = byName.constFind(platform::UpperCase(last.name));
+  const auto found = byName.constFind(platform::upperCase(last.name));
   last.counted = found == byName.constEnd() ? last.line : all[static_cast<size_t>(*found)].line;
-  if (found == byName.constEnd()) byName.insert(platform::UpperCase(last.name), index);
+  if (found == byName.constEnd()) byName.insert(platform::upperCase(last.name), index);
 }
 
 template <typename Named>
 const Named* named(const QHash<QString, qsizetype>& byName, const std::vector<Named>& all, const QString& name) {
-  const auto found = byName.constFind(platform::UpperCase(name));
+  const auto found = byName.constFind(platform::upperCase(name));
   return found == byName.constEnd() ? nullptr : &all[static_cast<size_t>(*found)];
 }
 
@@ -34,8 +34,8 @@ QHash<QString, int> linesOfTags(const QByteArray& file) {
   while (const auto line = walk.next()) {
     ++number;
     if (!line->startsWith('[')) continue;
-    const QString text = platform::FromAnsi(*line);
-    const QString tag = platform::UpperCase(text.mid(1, text.size() - 2));
+    const QString text = platform::fromAnsi(*line);
+    const QString tag = platform::upperCase(text.mid(1, text.size() - 2));
     if (!lines.contains(tag)) lines.insert(tag, number);
   }
   return lines;
@@ -53,14 +53,14 @@ QString IniSection::value(const QString& key) const {
 }
 
 IniFile::IniFile(QString name, const QString& path, QString shown) : name_(std::move(name)), shown_(std::move(shown)) {
-  const QByteArray file = platform::ReadFile(path);
+  const QByteArray file = platform::readFile(path);
   tagLines_ = linesOfTags(file);
   for (const platform::OutlineSection& found : platform::profileOutline(file)) {
     IniSection& section = sections_.emplace_back();
-    section.name = platform::FromAnsi(found.name);
+    section.name = platform::fromAnsi(found.name);
     section.line = found.line;
     for (const platform::OutlineKey& key : found.keys) {
-      section.keys.push_back({platform::FromAnsi(key.name), platform::FromAnsi(key.value), key.line, 0});
+      section.keys.push_back({platform::fromAnsi(key.name), platform::fromAnsi(key.value), key.line, 0});
       enter(section.byName, section.keys);
     }
     enter(byName_, sections_);
@@ -77,7 +77,7 @@ Place IniFile::place(const QString& section, const QString& key) const {
     const IniKey* line = key.isEmpty() ? nullptr : found->find(key);
     place = {shown_, line ? line->line : found->line, found->name, line ? line->name : key};
   } else {
-    place.line = tagLines_.value(platform::UpperCase(section));
+    place.line = tagLines_.value(platform::upperCase(section));
   }
   return place;
 }

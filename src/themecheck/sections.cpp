@@ -21,7 +21,7 @@ QSet<QString> listedSections(const themefiles::ModuleState& state) {
     stems += screen.Stem;
     themefiles::SortedTags tags;
     themefiles::ReadTags(state, screen.Name, tags, reports, [] {});
-    for (const QString& tag : tags.Rows()) listed += platform::UpperCase(tag);
+    for (const QString& tag : tags.rows()) listed += platform::upperCase(tag);
   }
   return listed;
 }
@@ -33,8 +33,8 @@ void checkButtonText(const CheckedTheme& theme, const IniSection& object, Findin
   const QRegularExpressionMatch match = NumberedText.match(object.name);
   const IniSection* button = match.hasMatch() ? theme.theme.find(match.captured(1)) : nullptr;
   if (!button || !renderer::isButton(button->name)) return;
-  const auto texts = platform::RoundToInt16(platform::NumberOf(button->value(QStringLiteral("Texts"))));
-  if (!texts || platform::NumberOf(match.captured(2)) <= *texts) return;
+  const auto texts = platform::roundToInt16(platform::numberOf(button->value(QStringLiteral("Texts"))));
+  if (!texts || platform::numberOf(match.captured(2)) <= *texts) return;
   findings.add(Kind::BeyondTexts, theme.theme.place(object.name), {button->name, QString::number(*texts)});
 }
 
@@ -55,7 +55,7 @@ void checkDoubles(const IniFile& file, Findings& findings, const std::optional<Q
       continue;
     }
     for (const IniKey& key : section.keys) {
-      if (only && !only->contains(platform::UpperCase(key.name))) continue;
+      if (only && !only->contains(platform::upperCase(key.name))) continue;
       place.line = key.line;
       place.key = key.name;
       if (isDouble(key)) findings.add(Kind::DoubledKey, place, {QString::number(key.counted)});
@@ -66,7 +66,7 @@ void checkDoubles(const IniFile& file, Findings& findings, const std::optional<Q
 void checkSections(const CheckedTheme& theme, Findings& findings) {
   const QSet<QString> listed = listedSections(openState(theme, {}, {}));
   for (const IniSection* object : objectsOf(theme.theme)) {
-    if (!listed.contains(platform::UpperCase(object->name))) {
+    if (!listed.contains(platform::upperCase(object->name))) {
       findings.add(Kind::NoScreen, theme.theme.place(object->name));
     }
     checkButtonText(theme, *object, findings);

@@ -14,7 +14,7 @@
 namespace themecheck {
 namespace {
 
-using platform::UpperCase;
+using platform::upperCase;
 using themefiles::KeyGroup;
 
 const QString Textures = QStringLiteral("Textures");
@@ -43,8 +43,8 @@ void checkLacking(const CheckedTheme& theme, Findings& findings) {
   QSet<QString> seen;
   for (const IniFile& skin : theme.skins) {
     for (const IniKey* key : keysOf(skin, Textures)) {
-      if (seen.contains(UpperCase(key->name))) continue;
-      seen += UpperCase(key->name);
+      if (seen.contains(upperCase(key->name))) continue;
+      seen += upperCase(key->name);
       for (const IniFile& other : theme.skins) {
         if (has(other, key->name) || !theme.skinNames.contains(other.name())) continue;
         findings.add(Kind::LackingTexture, skin.place(Textures, key->name), {}, {other.name(), {}});
@@ -55,10 +55,10 @@ void checkLacking(const CheckedTheme& theme, Findings& findings) {
 
 void checkCase(const QString& folder, const IniFile& skin, const IniKey& key, Findings& findings) {
   if (key.value.isEmpty()) return;
-  const QString native = platform::NativePath(folder);
-  const QString plain = platform::PlainPath(native + u'\\' + key.value);
+  const QString native = platform::nativePath(folder);
+  const QString plain = platform::plainPath(native + u'\\' + key.value);
   if (QFileInfo::exists(plain)) return;
-  const QString found = platform::FindPath(plain);
+  const QString found = platform::findPath(plain);
   if (found == plain || !QFileInfo::exists(found)) return;
   findings.add(Kind::OtherCase, skin.place(Textures, key.name), {key.value, found.sliced(native.size() + 1)});
 }
@@ -66,11 +66,11 @@ void checkCase(const QString& folder, const IniFile& skin, const IniKey& key, Fi
 void checkPictures(const QString& folder, const CheckedTheme& theme, Findings& findings) {
   QSet<QString> named;
   for (const IniFile& skin : theme.skins) {
-    for (const IniKey* key : keysOf(skin, Textures)) named += UpperCase(key->value);
+    for (const IniKey* key : keysOf(skin, Textures)) named += upperCase(key->value);
   }
   for (const QStringView ending : PictureEndings) {
-    for (const QString& picture : platform::ListFiles(folder, ending.toString())) {
-      if (named.contains(UpperCase(picture))) continue;
+    for (const QString& picture : platform::listFiles(folder, ending.toString())) {
+      if (named.contains(upperCase(picture))) continue;
       findings.add(Kind::UnusedPicture, {QStringLiteral("Skins/%1/%2").arg(theme.theme.name(), picture), 0, {}, {}});
     }
   }
@@ -78,19 +78,19 @@ void checkPictures(const QString& folder, const CheckedTheme& theme, Findings& f
 
 QSet<QString> upperCase(const QStringList& names) {
   QSet<QString> upper;
-  for (const QString& name : names) upper += UpperCase(name);
+  for (const QString& name : names) upper += upperCase(name);
   return upper;
 }
 
 }  // namespace
 
 void checkSkins(const CheckedTheme& theme, Findings& findings) {
-  const QString folder = themefiles::PathsOf(theme.gameFolder, theme.theme.name(), {}, {}).SkinDirectory;
+  const QString folder = themefiles::pathsOf(theme.gameFolder, theme.theme.name(), {}, {}).SkinDirectory;
   const QSet<QString> used = upperCase(valuesOf(theme.theme, KeyGroup::Texture));
   for (const IniFile& skin : theme.skins) {
     if (!theme.skinNames.contains(skin.name())) continue;
     for (const IniKey* key : keysOf(skin, Textures)) {
-      if (!used.contains(UpperCase(key->name))) findings.add(Kind::UnusedTexture, skin.place(Textures, key->name));
+      if (!used.contains(upperCase(key->name))) findings.add(Kind::UnusedTexture, skin.place(Textures, key->name));
       checkCase(folder, skin, *key, findings);
     }
   }
@@ -115,7 +115,7 @@ void checkColors(const CheckedTheme& theme, Findings& findings) {
   const QSet<QString> used(values.begin(), values.end());
   for (const IniKey* key : keysOf(theme.theme, Colors)) {
     // A name of the program or of a player never leads to the theme's own colour.
-    const bool hides = themefiles::ProgramColorNames().contains(key->name, Qt::CaseInsensitive) ||
+    const bool hides = themefiles::programColorNames().contains(key->name, Qt::CaseInsensitive) ||
                        std::any_of(state.PlayerColors.begin(), state.PlayerColors.end(),
                                    [&](const themefiles::NamedColor& color) { return color.Name == key->name; });
     if (hides || !used.contains(key->name)) {

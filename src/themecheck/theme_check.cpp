@@ -19,7 +19,7 @@ QStringList chosen(const QStringList& names, const QStringList& asked, const QSt
   QStringList found;
   for (const QString& wish : asked) {
     const auto name =
-        std::find_if(names.begin(), names.end(), [&](const QString& known) { return platform::SameName(known, wish); });
+        std::find_if(names.begin(), names.end(), [&](const QString& known) { return platform::sameName(known, wish); });
     if (name == names.end()) {
       throw platform::Failure(
           QStringLiteral("no %1 '%2'; there are: %3").arg(what, wish, names.join(QStringLiteral(", "))));
@@ -60,26 +60,26 @@ class GameCheck {
 GameCheck::GameCheck(const Request& request, const Progress& progress) : request_(request), progress_(progress) {
   const QDir game(request.gameFolder);
   if (!game.exists()) throw platform::Failure(QStringLiteral("no folder '%1'").arg(request.gameFolder));
-  folder_ = platform::ProgramPath(game.absolutePath()) + u'\\';
-  const QStringList themes = themefiles::ThemesOf(folder_);
+  folder_ = platform::programPath(game.absolutePath()) + u'\\';
+  const QStringList themes = themefiles::themesOf(folder_);
   if (themes.isEmpty()) throw platform::Failure(QStringLiteral("no themes in '%1'").arg(request.gameFolder));
   themeNames_ = chosen(themes, request.themes, QStringLiteral("theme"));
-  const QStringList languages = themefiles::LanguagesOf(folder_);
+  const QStringList languages = themefiles::languagesOf(folder_);
   languageNames_ = chosen(languages, onlyName(request.language), QStringLiteral("language"));
   if (!request.skin.isEmpty()) {
     QStringList skins;
-    for (const QString& theme : themeNames_) skins += themefiles::SkinsOf(folder_, theme);
+    for (const QString& theme : themeNames_) skins += themefiles::skinsOf(folder_, theme);
     skins.removeDuplicates();
     chosen(skins, {request.skin}, QStringLiteral("skin"));
   }
   for (const QString& name : themes) {
-    auto theme = read(name, themefiles::PathsOf(folder_, name, {}, {}).ThemeFile, themeNames_.contains(name));
+    auto theme = read(name, themefiles::pathsOf(folder_, name, {}, {}).ThemeFile, themeNames_.contains(name));
     if (theme) themes_.push_back(std::move(*theme));
     complete_ = complete_ && theme;
   }
   for (const QString& name : languages) {
     const bool wanted = languageNames_.contains(name);
-    auto language = read(name, themefiles::PathsOf(folder_, {}, {}, name).LanguageFile, wanted);
+    auto language = read(name, themefiles::pathsOf(folder_, {}, {}, name).LanguageFile, wanted);
     if (language) {
       languages_.push_back(std::move(*language));
     } else {
@@ -90,7 +90,7 @@ GameCheck::GameCheck(const Request& request, const Progress& progress) : request
 
 /// The file; none, and a finding, when it can't be read.
 std::optional<IniFile> GameCheck::read(const QString& name, const QString& path, bool tells) {
-  const QString shown = QDir(platform::NativePath(folder_)).relativeFilePath(platform::NativePath(path));
+  const QString shown = QDir(platform::nativePath(folder_)).relativeFilePath(platform::nativePath(path));
   try {
     return IniFile(name, path, shown);
   } catch (const platform::Failure& failure) {
@@ -110,11 +110,11 @@ std::vector<Finding> GameCheck::run() {
 }
 
 void GameCheck::checkTheme(const IniFile& file) {
-  const QStringList skins = themefiles::SkinsOf(folder_, file.name());
+  const QStringList skins = themefiles::skinsOf(folder_, file.name());
   CheckedTheme theme{folder_, file, {}, languages_, {}, languageNames_, true};
   for (const QString& name : skins) {
-    const bool wanted = request_.skin.isEmpty() || platform::SameName(name, request_.skin);
-    auto skin = read(name, themefiles::PathsOf(folder_, file.name(), name, {}).SkinFile, wanted);
+    const bool wanted = request_.skin.isEmpty() || platform::sameName(name, request_.skin);
+    auto skin = read(name, themefiles::pathsOf(folder_, file.name(), name, {}).SkinFile, wanted);
     theme.complete = theme.complete && skin;
     if (!skin) continue;
     theme.skins.push_back(std::move(*skin));

@@ -14,19 +14,19 @@ using themefiles::KeyGroup;
 /// Whether the value is what an entry of a fixed list stands for; words in any case, numbers as numbers.
 bool isInList(const GroupRow& group, const QString& value) {
   return std::any_of(group.entries.begin(), group.entries.end(), [&](QStringView entry) {
-    const QString listed = platform::TrimBlanks(entry.toString().section(u'=', 0, 0));
-    return group.group == KeyGroup::Type ? platform::SameName(listed, value)
-                                         : platform::NumberOf(listed) == platform::NumberOf(value);
+    const QString listed = platform::trimBlanks(entry.toString().section(u'=', 0, 0));
+    return group.group == KeyGroup::Type ? platform::sameName(listed, value)
+                                         : platform::numberOf(listed) == platform::numberOf(value);
   });
 }
 
 void checkValue(const IniKey& key, const Place& place, Findings& findings) {
-  const auto group = themefiles::GroupOf(themefiles::KeyIdentity(key.name));
+  const auto group = themefiles::groupOf(themefiles::keyIdentity(key.name));
   if (!group) {
     findings.add(Kind::NoEditor, place);
     return;
   }
-  const GroupRow& row = themefiles::RowOf(*group);
+  const GroupRow& row = themefiles::rowOf(*group);
   const bool isList = row.frame == EditorFrame::Selection;
   const bool isNumeric = row.frame == EditorFrame::Numbers || row.frame == EditorFrame::FloatNumbers ||
                          (isList && *group != KeyGroup::Type);

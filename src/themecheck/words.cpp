@@ -33,7 +33,7 @@ void checkWords(const CheckedTheme& theme, Findings& findings) {
 
 QSet<QString> wordsOf(const IniFile& theme) {
   QSet<QString> words;
-  for (const IniSection* object : objectsOf(theme)) words += platform::UpperCase(wordsKeyOf(*object));
+  for (const IniSection* object : objectsOf(theme)) words += platform::upperCase(wordsKeyOf(*object));
   return words;
 }
 
@@ -41,7 +41,7 @@ void checkUnusedWords(const IniFile& language, const QSet<QString>& used, Findin
   const IniSection* words = language.find(Text);
   if (!words) return;
   for (const IniKey& key : words->keys) {
-    if (key.line != key.counted || used.contains(platform::UpperCase(key.name))) continue;
+    if (key.line != key.counted || used.contains(platform::upperCase(key.name))) continue;
     findings.add(Kind::UnusedWords, language.place(Text, key.name));
   }
 }

@@ -73,7 +73,7 @@ void fillBuiltInColors(ModuleState& state) {
 }
 
 void fillThemeColors(ModuleState& state) {
-  const QString& file = state.Paths.ThemeFile;
+  const QString& file = state.paths.ThemeFile;
   const QString list = GetINI(QStringLiteral("Colors"), std::nullopt, QString(), file, ListBufferSize);
   if (list.isEmpty()) return;
   auto row = state.ThemeColors.begin();
@@ -93,20 +93,20 @@ QString valueOf(const Table& table, const QString& name) {
 
 }  // namespace
 
-const QStringList& ProgramColorNames() {
+const QStringList& programColorNames() {
   static const QStringList names{QStringLiteral("ColorDark"), QStringLiteral("ColorLight"),
                                  QStringLiteral("ColorLightest")};
   return names;
 }
 
 void ReadColors(ModuleState& state, platform::StatusLine& status) {
-  platform::Guarded(status, QStringLiteral("Error while reading Colors"), [&] {
+  platform::guarded(status, QStringLiteral("Error while reading Colors"), [&] {
     fillThemeColors(state);
     fillBuiltInColors(state);
   });
 }
 
-QStringList SchemeNames(const ModuleState& state) {
+QStringList schemeNames(const ModuleState& state) {
   QStringList names;
   for (size_t row = 0; row < state.BaseColors.size(); row += RowsPerScheme) names += state.BaseColors[row].Name;
   return names;
@@ -122,7 +122,7 @@ QString GetBaseColor(const ModuleState& state, qint16 Offset, const QString& sch
 QString ResolveColor(const ModuleState& state, const QString& Name, const QString& scheme) {
   if (Name.isEmpty()) return {};
   for (int shade = 0; shade < RowsPerScheme; ++shade) {
-    if (platform::SameName(Name, ProgramColorNames()[shade])) {
+    if (platform::sameName(Name, programColorNames()[shade])) {
       return GetBaseColor(state, static_cast<qint16>(shade), scheme);
     }
   }
@@ -131,11 +131,11 @@ QString ResolveColor(const ModuleState& state, const QString& Name, const QStrin
 }
 
 qint32 ColorToRGB(const QString& Color) {
-  const QStringList fields = platform::SplitAtBlanks(Color);
+  const QStringList fields = platform::splitAtBlanks(Color);
   if (fields.size() < 3) return 0;
   quint32 sum = 0;
   for (int channel = 2; channel >= 0; --channel) {
-    const auto number = platform::RoundToInt16(platform::NumberOf(fields[channel]));
+    const auto number = platform::roundToInt16(platform::numberOf(fields[channel]));
     if (!number || *number < 0) return 0;
     sum = sum * 256 + static_cast<quint32>(*number);
   }

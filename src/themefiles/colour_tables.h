@@ -12,14 +12,14 @@ namespace themefiles {
 inline constexpr int RowsPerScheme = 3;
 
 /// The three names that stand for the dark, light and lightest colour of the scheme in force.
-const QStringList& ProgramColorNames();
+const QStringList& programColorNames();
 
 /// Reads the section Colors of the theme's working copy into ThemeColors and fills the built-in tables. More keys than
 /// 99 are reported and leave the built-in tables as they are.
 void ReadColors(ModuleState& state, platform::StatusLine& status);
 
 /// Names of the nine colour schemes in table order (empty ones while the tables are).
-QStringList SchemeNames(const ModuleState& state);
+QStringList schemeNames(const ModuleState& state);
 
 /// Value of a scheme by Offset: 0 the dark, 1 the light, 2 the lightest colour; empty for a scheme that isn't there.
 /// Throws std::out_of_range where another Offset leads out of the table.

@@ -36,33 +36,33 @@ class SectionReader {
 
 /// Sets the key's value in place, adds the key or the section; without a Value removes the key. All other bytes of the
 /// file stay. Text that the code page lacks, or with a line end or NUL in it, is not written; nor is anything when the
-/// file can't be read or written. Gives no result: who must know reads back (see PutINIChecked).
+/// file can't be read or written. Gives no result: who must know reads back (see putINIChecked).
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName);
 
 /// PutINI for edits in which a user would believe: throws platform::Failure where that would say nothing, and when the
 /// file doesn't give the value back.
-void PutINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
+void putINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
                    const QString& FileName);
 
 /// The two halves of it that touch no file or only read one, for who reads and writes the file himself. What PutINI
 /// makes of a file's text; throws platform::Failure for text that an ini file can't hold or would not give back.
-QByteArray ChangedText(const QByteArray& text, const QString& Section, const QString& Key,
+QByteArray changedText(const QByteArray& text, const QString& Section, const QString& Key,
                        const std::optional<QString>& Value);
 /// Throws platform::Failure unless the file gives back what was `written` for the key.
-void CheckReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName);
+void checkReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName);
 
 /// Whether the file has the key, for who must not take one that can't be read for one that lacks it: throws
 /// platform::Failure then.
-bool HoldsKey(const QString& Section, const QString& Key, const QString& FileName);
+bool holdsKey(const QString& Section, const QString& Key, const QString& FileName);
 
-/// ChangedText with the key's whole line, which has the key and "=" in it and no end of its own.
+/// changedText with the key's whole line, which has the key and "=" in it and no end of its own.
 QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line);
 
 /// Throws platform::Failure for text that an ini file can't hold on one line: a line end or NUL in it, or a letter
 /// outside the code page.
-void CheckLineText(const QString& text);
+void checkLineText(const QString& text);
 
 /// The keys of a section in file order, doubles too, as a key list of ListBufferSize shows them.
-QStringList KeyNames(const QString& Section, const QString& FileName);
+QStringList keyNames(const QString& Section, const QString& FileName);
 
 }  // namespace themefiles

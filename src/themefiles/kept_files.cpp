@@ -21,24 +21,24 @@ QStringList keptNames(const QString& head) {
 
 }  // namespace
 
-QString KeepBeside(const QString& path, const QByteArray& bytes, QStringView ending) {
+QString keepBeside(const QString& path, const QByteArray& bytes, QStringView ending) {
   QString place;
   std::vector<std::pair<qint64, QString>> others;
   for (const QString& name : keptNames(path + ending.toString())) {
-    const auto kept = platform::ReadIfThere(name, platform::AtLink::Replace);
+    const auto kept = platform::readIfThere(name, platform::AtLink::Replace);
     if (kept == bytes) return name;
     if (kept) {
-      others.emplace_back(platform::LastWritten(name), name);
+      others.emplace_back(platform::lastWritten(name), name);
     } else if (place.isEmpty()) {
       place = name;
     }
   }
   if (!place.isEmpty()) {
-    platform::WriteFile(place, bytes, platform::AtLink::Replace);
+    platform::writeFile(place, bytes, platform::AtLink::Replace);
     return place;
   }
   place = std::min_element(others.begin(), others.end())->second;
-  platform::WriteFile(place, bytes, platform::AtLink::Replace);
+  platform::writeFile(place, bytes, platform::AtLink::Replace);
   return place + QStringLiteral(" in place of the oldest of nine");
 }
 

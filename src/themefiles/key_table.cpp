@@ -90,17 +90,17 @@ constexpr std::array<GroupRow, 10> Groups{{
 
 }  // namespace
 
-QString KeyIdentity(const QString& key) {
-  return platform::UpperCase(platform::TrimBlanks(key));
+QString keyIdentity(const QString& key) {
+  return platform::upperCase(platform::trimBlanks(key));
 }
 
-std::optional<KeyGroup> GroupOf(QStringView key) {
+std::optional<KeyGroup> groupOf(QStringView key) {
   const auto row = std::find_if(Keys.begin(), Keys.end(), [&](const KeyRow& known) { return known.key == key; });
   if (row == Keys.end()) return std::nullopt;
   return row->group;
 }
 
-const GroupRow& RowOf(KeyGroup group) {
+const GroupRow& rowOf(KeyGroup group) {
   return Groups.at(static_cast<size_t>(group));
 }
 

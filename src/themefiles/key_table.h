@@ -22,11 +22,11 @@ struct GroupRow {
 };
 
 /// A key as its group is looked up by: without blanks at its ends, in upper case.
-QString KeyIdentity(const QString& key);
+QString keyIdentity(const QString& key);
 
 /// The group of a key, given by its identity; none for a key outside the table.
-std::optional<KeyGroup> GroupOf(QStringView key);
+std::optional<KeyGroup> groupOf(QStringView key);
 
-const GroupRow& RowOf(KeyGroup group);
+const GroupRow& rowOf(KeyGroup group);
 
 }  // namespace themefiles

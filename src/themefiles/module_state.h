@@ -45,13 +45,13 @@ struct CursorRecord {
 
 /// What the program holds beside the files and its windows; lives for the whole run.
 struct ModuleState {
-  ThemePaths Paths;
+  ThemePaths paths;
   bool ThemeOpened = false;  ///< the working copies exist and Paths name them
   bool Changed = false;      ///< a value has been committed since the last Save
   /// Digests of theme, skin and language file as they were at Open or the last Save.
-  std::array<QByteArray, 3> FileDigests;
+  std::array<QByteArray, 3> fileDigests;
   /// The working copies of the three as this program wrote them last: by them it sees that another one has, too.
-  std::array<QByteArray, 3> OwnCopies;
+  std::array<QByteArray, 3> ownCopies;
   /// The same as Open or Save last copied them: by them the user sees what differs, and gets it back.
   std::array<QByteArray, 3> savedCopies;
 

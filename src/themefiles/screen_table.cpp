@@ -104,13 +104,13 @@ void InitScreenTable(ModuleState& state) {
   });
 }
 
-QString StemOf(const ModuleState& state, const QString& name) {
+QString stemOf(const ModuleState& state, const QString& name) {
   const auto row = std::find_if(state.ScreenTable.begin(), state.ScreenTable.end(),
                                 [&](const ScreenRow& screen) { return screen.Name == name; });
   return row == state.ScreenTable.end() ? name : row->Stem;
 }
 
-TagFilter FilterOf(const QString& screenName) {
+TagFilter filterOf(const QString& screenName) {
   const auto filter =
       std::find_if(Filters.begin(), Filters.end(), [&](const ScreenFilter& row) { return row.screen == screenName; });
   if (filter == Filters.end()) return {};

@@ -11,9 +11,9 @@ namespace themefiles {
 void InitScreenTable(ModuleState& state);
 
 /// The stem of the screen shown as `name`; the name itself when no row has it.
-QString StemOf(const ModuleState& state, const QString& name);
+QString stemOf(const ModuleState& state, const QString& name);
 
 /// The filter that a screen asks for; empty for most.
-TagFilter FilterOf(const QString& screenName);
+TagFilter filterOf(const QString& screenName);
 
 }  // namespace themefiles

@@ -13,8 +13,8 @@ namespace {
 /// Whether an item of the comma list fits the tag, both in upper case.
 template <typename Fits>
 bool anyItem(const QString& list, const QString& tag, Fits fits) {
-  const QStringList items = platform::UpperCase(list).split(u',');
-  const QString upperTag = platform::UpperCase(tag);
+  const QStringList items = platform::upperCase(list).split(u',');
+  const QString upperTag = platform::upperCase(tag);
   return std::any_of(items.begin(), items.end(), [&](const QString& item) { return fits(item, upperTag); });
 }
 
@@ -34,16 +34,16 @@ bool endsRun(const ModuleState& state, const QString& stem, const QString& line)
 
 void listTags(const ModuleState& state, const QString& screenName, TagList& tags,
               const std::function<void()>& doEvents) {
-  const QString stem = StemOf(state, screenName);
-  const QString head = u'[' + platform::UpperCase(stem);
-  const QByteArray file = platform::ReadFile(state.Paths.ThemeFile);
+  const QString stem = stemOf(state, screenName);
+  const QString head = u'[' + platform::upperCase(stem);
+  const QByteArray file = platform::readFile(state.paths.ThemeFile);
   platform::TextLines lines(file);
   bool found = false;
   while (const auto bytes = lines.next()) {
     if (!bytes->startsWith('[')) continue;
-    const QString line = platform::FromAnsi(*bytes);
+    const QString line = platform::fromAnsi(*bytes);
     if (found && endsRun(state, stem, line)) break;
-    if (!platform::UpperCase(line).startsWith(head)) continue;
+    if (!platform::upperCase(line).startsWith(head)) continue;
     const QString tag = line.mid(1, line.size() - 2);
     if (SplitTags(state.Filter, tag)) continue;
     tags.AddItem(tag);
@@ -60,7 +60,7 @@ void SortedTags::Clear() {
 }
 
 void SortedTags::AddItem(const QString& tag) {
-  tags_.insert(std::upper_bound(tags_.begin(), tags_.end(), tag, platform::NameLess), tag);
+  tags_.insert(std::upper_bound(tags_.begin(), tags_.end(), tag, platform::nameLess), tag);
 }
 
 bool SplitTags(const TagFilter& filter, const QString& Tag) {
@@ -77,7 +77,7 @@ bool SplitTags(const TagFilter& filter, const QString& Tag) {
 
 int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
              const std::function<void()>& DoEvents) {
-  const bool read = platform::Guarded(status, QStringLiteral("Error while reading Tags"),
+  const bool read = platform::guarded(status, QStringLiteral("Error while reading Tags"),
                                       [&] { listTags(state, screenName, tags, DoEvents); });
   if (!read || tags.ListCount() == 0) return -1;
   const int picked = tags.ListIndex();

@@ -11,7 +11,7 @@
 namespace themefiles {
 
 /// The list of a screen's tags, with one selected row: the tool window's List1, or a plain list where there is no
-/// window. It keeps its rows sorted in the order of platform::NameLess, which is the order of painting.
+/// window. It keeps its rows sorted in the order of platform::nameLess, which is the order of painting.
 class TagList {
  public:
   virtual ~TagList() = default;
@@ -33,7 +33,7 @@ class SortedTags : public TagList {
   QString List(int row) const override { return tags_[row]; }
   int ListIndex() const override { return index_; }
   void SetListIndex(int row) override { index_ = row; }
-  const QStringList& Rows() const { return tags_; }
+  const QStringList& rows() const { return tags_; }
 
  private:
   QStringList tags_;

@@ -31,7 +31,7 @@ void storeNumber(Field& field, std::optional<Field> number, const QString& key, 
   if (number) {
     field = *number;
   } else {
-    status.ShowStatus(platform::ReportText(Step, QStringLiteral("%1=%2: the number is out of range").arg(key, value)));
+    status.ShowStatus(platform::reportText(Step, QStringLiteral("%1=%2: the number is out of range").arg(key, value)));
   }
 }
 
@@ -39,9 +39,9 @@ void updateRecord(CursorRecord& record, const QString& key, const QString& value
   if (QString* field = textField(record, key)) {
     *field = value;
   } else if (key == u"SIZE") {
-    storeNumber(record.Size, platform::RoundToInt16(platform::NumberOf(value)), key, value, status);
+    storeNumber(record.Size, platform::roundToInt16(platform::numberOf(value)), key, value, status);
   } else if (key == u"FONT") {
-    storeNumber(record.Font, platform::RoundToByte(platform::NumberOf(value)), key, value, status);
+    storeNumber(record.Font, platform::roundToByte(platform::numberOf(value)), key, value, status);
   }
 }
 
@@ -52,18 +52,18 @@ std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platfo
   state.CursorRect = {};
   state.CursorRect.Font = font;
   std::vector<ValueRow> rows;
-  platform::Guarded(status, Step, [&] {
-    const QByteArray file = platform::ReadFile(state.Paths.ThemeFile);
+  platform::guarded(status, Step, [&] {
+    const QByteArray file = platform::readFile(state.paths.ThemeFile);
     platform::TextLines lines(file);
-    const QString header = u'[' + platform::UpperCase(Section) + u']';
+    const QString header = u'[' + platform::upperCase(Section) + u']';
     auto line = lines.next();
-    while (line && platform::UpperCase(platform::FromAnsi(*line)) != header) line = lines.next();
+    while (line && platform::upperCase(platform::fromAnsi(*line)) != header) line = lines.next();
     if (!line) return;
     for (line = lines.next(); line && !line->startsWith('['); line = lines.next()) {
       if (!isKeyLine(*line)) continue;
-      const QStringList parts = platform::FromAnsi(*line).split(u'=');
-      rows.push_back({parts[0], platform::TrimBlanks(parts[1])});
-      updateRecord(state.CursorRect, platform::UpperCase(platform::TrimBlanks(parts[0])), parts[1], status);
+      const QStringList parts = platform::fromAnsi(*line).split(u'=');
+      rows.push_back({parts[0], platform::trimBlanks(parts[1])});
+      updateRecord(state.CursorRect, platform::upperCase(platform::trimBlanks(parts[0])), parts[1], status);
     }
   });
   return rows;

@@ -11,7 +11,7 @@ const QString Ending = QStringLiteral(".ini");
 QStringList namesIn(const QString& folder) {
   QStringList names;
   try {
-    names = platform::ListFiles(folder, Ending);
+    names = platform::listFiles(folder, Ending);
   } catch (const platform::Failure&) {
     // A folder that can't be listed has nothing to offer.
   }
@@ -21,19 +21,19 @@ QStringList namesIn(const QString& folder) {
 
 }  // namespace
 
-QStringList ThemesOf(const QString& gameFolder) {
+QStringList themesOf(const QString& gameFolder) {
   return namesIn(gameFolder + QStringLiteral("Themes\\"));
 }
 
-QStringList SkinsOf(const QString& gameFolder, const QString& theme) {
+QStringList skinsOf(const QString& gameFolder, const QString& theme) {
   return namesIn(gameFolder + QStringLiteral("Skins\\") + theme);
 }
 
-QStringList LanguagesOf(const QString& gameFolder) {
+QStringList languagesOf(const QString& gameFolder) {
   return namesIn(gameFolder + QStringLiteral("Languages"));
 }
 
-ThemePaths PathsOf(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language) {
+ThemePaths pathsOf(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language) {
   ThemePaths paths;
   paths.ExeDirectory = gameFolder;
   paths.LanguagesDirectory = gameFolder + QStringLiteral("\\Languages");

@@ -8,12 +8,12 @@
 /// are those of their files without ".ini".
 namespace themefiles {
 
-/// Names in the order of platform::ListFiles; none where the folder can't be read.
-QStringList ThemesOf(const QString& gameFolder);
-QStringList SkinsOf(const QString& gameFolder, const QString& theme);
-QStringList LanguagesOf(const QString& gameFolder);
+/// Names in the order of platform::listFiles; none where the folder can't be read.
+QStringList themesOf(const QString& gameFolder);
+QStringList skinsOf(const QString& gameFolder, const QString& theme);
+QStringList languagesOf(const QString& gameFolder);
 
 /// The game's own files, whether they are there or not.
-ThemePaths PathsOf(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language);
+ThemePaths pathsOf(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language);
 
 }  // namespace themefiles

@@ -39,19 +39,19 @@ void noteOtherChanges(QStringList& notes, const QString& path, const QString& ke
 }
 
 std::optional<QByteArray> readCopy(const QString& copy) {
-  return platform::ReadIfThere(copy, platform::AtLink::Replace);
+  return platform::readIfThere(copy, platform::AtLink::Replace);
 }
 
 void writeCopy(const QString& copy, const QByteArray& bytes) {
-  platform::WriteFile(copy, bytes, platform::AtLink::Replace);
+  platform::writeFile(copy, bytes, platform::AtLink::Replace);
 }
 
 /// Makes the working copy of a file; gives what stands in both.
 QByteArray makeCopy(const QString& file, QStringList& notes) {
   const QString copy = file + WorkingEnding.toString();
-  const QByteArray bytes = platform::ReadFile(file);
+  const QByteArray bytes = platform::readFile(file);
   const auto older = readCopy(copy);
-  if (older && older != bytes) noteOtherChanges(notes, copy, KeepBeside(copy, *older, u".old"));
+  if (older && older != bytes) noteOtherChanges(notes, copy, keepBeside(copy, *older, u".old"));
   writeCopy(copy, bytes);
   return bytes;
 }
@@ -66,19 +66,19 @@ struct Start {
 /// The program's own text is worth keeping only with edits in it. Of one that is gone or
 /// empty that is what the work starts from.
 Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
-  const QString& copy = state.Paths.*CopiedFiles.at(file);
+  const QString& copy = state.paths.*CopiedFiles.at(file);
   const auto standing = readCopy(copy);
   if (!state.ThemeOpened) return {standing.value_or(QByteArray()), standing.has_value()};
-  const QByteArray& own = state.OwnCopies.at(file);
+  const QByteArray& own = state.ownCopies.at(file);
   // A program that writes it piece by piece has it empty for a moment.
   const bool emptied = standing && standing->isEmpty() && !own.isEmpty();
   if (!standing || emptied) {
     notes += QStringLiteral("%1 was %2 and is made anew").arg(copy, emptied ? u"empty" : u"gone");
     return {own, false};
   }
-  if (standing != own && digest(own) != state.FileDigests.at(file)) {
+  if (standing != own && digest(own) != state.fileDigests.at(file)) {
     notes += QStringLiteral("%1 was changed by another program; what this one wrote is kept as %2")
-                 .arg(copy, KeepBeside(copy, own, u".old"));
+                 .arg(copy, keepBeside(copy, own, u".old"));
   }
   return {*standing};
 }
@@ -88,23 +88,23 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
 void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status, const QString& section,
               const QString& key, const std::function<QByteArray(const QByteArray& text)>& change) {
   const size_t file = copyNumber(copy);
-  const QString& path = state.Paths.*copy;
+  const QString& path = state.paths.*copy;
   telling(status, [&](QStringList& notes) {
     const Start start = startFrom(state, file, notes);
     const QByteArray changed = change(start.text);
     if (!start.isThere || changed != start.text) writeCopy(path, changed);
-    state.OwnCopies.at(file) = changed;
-    CheckReadsBack(changed, section, key, path);
+    state.ownCopies.at(file) = changed;
+    checkReadsBack(changed, section, key, path);
   });
 }
 
 /// Copies a text over the game's file.
 void saveCopy(const QString& file, const QByteArray& bytes, const QByteArray& knownDigest, QStringList& notes) {
-  const auto present = platform::ReadIfThere(file);
+  const auto present = platform::readIfThere(file);
   if (present && digest(*present) != knownDigest && present != bytes) {
-    noteOtherChanges(notes, file, KeepBeside(file, *present, u".bak"));
+    noteOtherChanges(notes, file, keepBeside(file, *present, u".bak"));
   }
-  platform::WriteFile(file, bytes);
+  platform::writeFile(file, bytes);
 }
 
 /// A file and what stood in it.
@@ -118,7 +118,7 @@ std::vector<KeptFile> openCopies(const ModuleState& state) {
   std::vector<KeptFile> copies;
   if (!state.ThemeOpened) return copies;
   for (const auto file : CopiedFiles) {
-    const QString& path = state.Paths.*file;
+    const QString& path = state.paths.*file;
     if (auto bytes = readCopy(path)) copies.push_back({path, std::move(*bytes)});
   }
   return copies;
@@ -147,9 +147,9 @@ void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::S
       throw;
     }
   });
-  state.Paths = opened;
-  std::transform(copies.begin(), copies.end(), state.FileDigests.begin(), digest);
-  state.OwnCopies = copies;
+  state.paths = opened;
+  std::transform(copies.begin(), copies.end(), state.fileDigests.begin(), digest);
+  state.ownCopies = copies;
   state.savedCopies = copies;
   state.ThemeOpened = true;
 }
@@ -158,10 +158,10 @@ size_t copyNumber(QString ThemePaths::*copy) {
   return static_cast<size_t>(std::find(CopiedFiles.begin(), CopiedFiles.end(), copy) - CopiedFiles.begin());
 }
 
-void PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
+void putInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status) {
   editCopy(state, copy, status, Section, Key,
-           [&](const QByteArray& text) { return ChangedText(text, Section, Key, Value); });
+           [&](const QByteArray& text) { return changedText(text, Section, Key, Value); });
 }
 
 void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
@@ -170,27 +170,27 @@ void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString&
            [&](const QByteArray& text) { return changedLine(text, section, key, line); });
 }
 
-void SaveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
+void saveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
   telling(status, [&](QStringList& notes) {
     for (size_t i = 0; i < CopiedFiles.size(); ++i) {
-      const QString& copy = state.Paths.*CopiedFiles.at(i);
+      const QString& copy = state.paths.*CopiedFiles.at(i);
       const Start start = startFrom(state, i, notes);
       if (!start.isThere) writeCopy(copy, start.text);
-      saveCopy(copy.chopped(WorkingEnding.size()), start.text, state.FileDigests.at(i), notes);
-      state.OwnCopies.at(i) = start.text;
-      state.FileDigests.at(i) = digest(start.text);
+      saveCopy(copy.chopped(WorkingEnding.size()), start.text, state.fileDigests.at(i), notes);
+      state.ownCopies.at(i) = start.text;
+      state.fileDigests.at(i) = digest(start.text);
       state.savedCopies.at(i) = start.text;
     }
   });
   state.Changed = false;
 }
 
-void ForgetTheme(ModuleState& state) {
+void forgetTheme(ModuleState& state) {
   state.Changed = false;
-  state.Paths = {};
+  state.paths = {};
   state.ThemeOpened = false;
-  state.FileDigests = {};
-  state.OwnCopies = {};
+  state.fileDigests = {};
+  state.ownCopies = {};
   state.savedCopies = {};
   state.ThemeColors = {};
   state.ScreenTable = {};

@@ -19,11 +19,11 @@ inline constexpr QStringView WorkingEnding = u".tmp";
 /// then, the state stays as it was, and so do the working copies of a theme that is open.
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status);
 
-/// ChangedText on a working copy of the open theme. One that is gone or empty is made anew with the edit in it. Of one
+/// changedText on a working copy of the open theme. One that is gone or empty is made anew with the edit in it. Of one
 /// that another program has written since this one did (a second editor of the theme), this program's own text is kept
 /// beside as ".old" (see kept_files.h); the edit goes into what stands there. `status` is told of that. Throws
 /// platform::Failure when the edit can't be written, or isn't there when the file is read again.
-void PutInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
+void putInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status);
 
 /// The same with changedLine.
@@ -35,11 +35,11 @@ size_t copyNumber(QString ThemePaths::*copy);
 
 /// Copies the three working copies over their files, in the order theme, skin, language, and clears Changed. A file
 /// that has changed on disk since it was opened or saved last is kept beside as ".bak", a working copy that another
-/// program has changed or removed is minded as by PutInCopy, and `status` told so. Throws platform::Failure when a copy
+/// program has changed or removed is minded as by putInCopy, and `status` told so. Throws platform::Failure when a copy
 /// fails; those behind it aren't made then, and Changed stays.
-void SaveWorkingCopies(ModuleState& state, platform::StatusLine& status);
+void saveWorkingCopies(ModuleState& state, platform::StatusLine& status);
 
 /// Takes the state back to no theme: paths, colours of the theme and screens emptied. The working copies stay on disk.
-void ForgetTheme(ModuleState& state);
+void forgetTheme(ModuleState& state);
 
 }  // namespace themefiles

@@ -40,14 +40,14 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
 
   QRect rect() const override {
     if (!isValid()) return {};
-    const Properties& values = model().Values();
+    const Properties& values = model().values();
     const ToolbarButton* const of = button();
     if (of == nullptr) {
       const QRect zone(bar_->width() - ChevronZone, bar_->height() - values.ButtonsHeight, ChevronWidth,
                        values.ButtonsHeight);
       return {bar_->mapToGlobal(zone.topLeft()), zone.size()};
     }
-    const QWidget* const surface = of->InChevron ? source_.PopupWindow() : bar_.data();
+    const QWidget* const surface = of->InChevron ? source_.popupWindow() : bar_.data();
     const int width = of->ButtonType == 0 ? values.ButtonsWidth : values.ButtonsSeperatorWidth;
     return {surface->mapToGlobal(QPoint(of->PosX, of->PosY)), QSize(width, values.ButtonsHeight)};
   }
@@ -62,7 +62,7 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
     state.invalid = !isValid();
     state.disabled = of != nullptr && !of->Enabled;
     state.pressed = of != nullptr && of->Pressed;
-    state.invisible = of != nullptr && of->InChevron && !source_.PopupWindow()->isVisible();
+    state.invisible = of != nullptr && of->InChevron && !source_.popupWindow()->isVisible();
     state.focusable = !state.disabled;
     state.focused = bar_ && bar_->hasFocus() && model().Button_Index() == number();
     return state;
@@ -75,13 +75,13 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
     return isValid() && !state().disabled ? QStringList{pressAction()} : QStringList();
   }
   void doAction(const QString& name) override {
-    if (name == pressAction() && isValid() && !state().disabled) source_.Press(number());
+    if (name == pressAction() && isValid() && !state().disabled) source_.press(number());
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
  private:
-  const Model& model() const { return source_.Inner().Buttons(); }
-  bool isChevron() const { return place_ == model().Button_Count() && hasChevron(source_.Inner()); }
+  const Model& model() const { return source_.inner().buttons(); }
+  bool isChevron() const { return place_ == model().Button_Count() && hasChevron(source_.inner()); }
   const ToolbarButton* button() const {
     return bar_ && place_ < model().Button_Count() ? &model().Button(place_ + 1) : nullptr;
   }
@@ -101,7 +101,7 @@ class AccessibleBar : public QAccessibleWidget {
   }
 
   int childCount() const override {
-    return source_.Inner().Buttons().Button_Count() + (hasChevron(source_.Inner()) ? 1 : 0);
+    return source_.inner().buttons().Button_Count() + (hasChevron(source_.inner()) ? 1 : 0);
   }
   QAccessibleInterface* child(int index) const override {
     if (index < 0 || index >= childCount()) return nullptr;
@@ -116,7 +116,7 @@ class AccessibleBar : public QAccessibleWidget {
     return found == ids_.end() ? -1 : int(found - ids_.begin());
   }
   QAccessibleInterface* focusChild() const override {
-    return bar_.hasFocus() ? child(AccessibleChildOf(source_.Inner())) : nullptr;
+    return bar_.hasFocus() ? child(accessibleChildOf(source_.inner())) : nullptr;
   }
   QAccessibleInterface* childAt(int x, int y) const override {
     for (int i = 0; i < childCount(); ++i) {
@@ -140,13 +140,13 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 
 }  // namespace
 
-void InstallAccessibility() {
+void installAccessibility() {
   QAccessible::installFactory(makeInterface);
 }
 
-int AccessibleChildOf(const Control& control) {
-  const int index = control.Buttons().Button_Index();
-  if (index == 0) return hasChevron(control) ? control.Buttons().Button_Count() : -1;
+int accessibleChildOf(const Control& control) {
+  const int index = control.buttons().Button_Index();
+  if (index == 0) return hasChevron(control) ? control.buttons().Button_Count() : -1;
   return index < 0 ? -1 : index - 1;
 }
 

@@ -10,18 +10,18 @@ namespace toolbar {
 class AccessibleSource {
  public:
   virtual ~AccessibleSource() = default;
-  virtual const Control& Inner() const = 0;
+  virtual const Control& inner() const = 0;
   /// The surface of the hidden buttons; null before its properties have been read.
-  virtual QWidget* PopupWindow() const = 0;
+  virtual QWidget* popupWindow() const = 0;
   /// Does what a click of the user on a button or on the chevron (0) would do.
-  virtual void Press(int ButtonIndex) = 0;
+  virtual void press(int ButtonIndex) = 0;
 };
 
 /// Lets assistive programs see widgets that are such a source, and their buttons; once for the program, further calls
 /// do nothing.
-void InstallAccessibility();
+void installAccessibility();
 
 /// Place among the accessible children of what Button_Index names, -1 for none.
-int AccessibleChildOf(const Control& control);
+int accessibleChildOf(const Control& control);
 
 }  // namespace toolbar

@@ -14,7 +14,7 @@ void SetValue(ToolbarButton& button, int propertyID, const QVariant& value) {
       button.Enabled = value.toBool();
       break;
     case IconProperty:
-      button.Icon = PictureOf(value);
+      button.Icon = pictureOf(value);
       break;
     case IconAlignmentProperty:
       button.IconAlignment = value.toInt();
@@ -33,7 +33,7 @@ void SetValue(ToolbarButton& button, int propertyID, const QVariant& value) {
   }
 }
 
-QVariant GetValue(const ToolbarButton& button, int propertyID) {
+QVariant getValue(const ToolbarButton& button, int propertyID) {
   switch (propertyID) {
     case ButtonTypeProperty:
       return button.ButtonType;

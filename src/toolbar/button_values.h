@@ -22,6 +22,6 @@ enum PropertyID {
 /// PictureReference, a QIcon, a QPixmap or a QImage.
 void SetValue(ToolbarButton& button, int propertyID, const QVariant& value);
 /// The field's value (an icon as PictureReference), none for another number.
-QVariant GetValue(const ToolbarButton& button, int propertyID);
+QVariant getValue(const ToolbarButton& button, int propertyID);
 
 }  // namespace toolbar

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "platform/fonts.h"
-#include "platform/raster_text.h"
+#include "drawing/fonts.h"
+#include "drawing/raster_text.h"
 #include "toolbar/whole.h"
 
 namespace toolbar {
@@ -64,15 +64,15 @@ QStringList WrapCaption(const QString& caption, int maxWidth, const std::functio
   return lines;
 }
 
-void DrawCaption(platform::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
+void DrawCaption(drawing::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
                  int shift) {
-  const QFont drawn = platform::DrawnFont(font);
-  const int lineHeight = platform::TextHeight(drawn);
+  const QFont drawn = drawing::drawnFont(font);
+  const int lineHeight = drawing::TextHeight(drawn);
   const QStringList lines = WrapCaption(caption, box.width() - SideMargin,
-                                        [&drawn](const QString& text) { return platform::TextWidth(drawn, text); });
-  int top = Nearest((box.height() - double(lines.size() + shift) * lineHeight) / 2 + box.y());
+                                        [&drawn](const QString& text) { return drawing::TextWidth(drawn, text); });
+  int top = nearest((box.height() - double(lines.size() + shift) * lineHeight) / 2 + box.y());
   for (const QString& line : lines) {
-    platform::DrawText(raster, drawn, line, QRect(box.x(), top, box.width(), raster.Height() - top), color);
+    drawing::drawText(raster, drawn, line, QRect(box.x(), top, box.width(), raster.Height() - top), color);
     top += lineHeight;
   }
 }

@@ -6,7 +6,7 @@
 #include <QRect>
 #include <QStringList>
 
-#include "platform/raster.h"
+#include "drawing/raster.h"
 
 namespace toolbar {
 
@@ -15,7 +15,7 @@ namespace toolbar {
 QStringList WrapCaption(const QString& caption, int maxWidth, const std::function<int(const QString&)>& textWidth);
 
 /// Draws the caption centred in the box, in lines; `shift` 1 lifts them by half a line, -1 lowers them as much.
-void DrawCaption(platform::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
+void DrawCaption(drawing::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
                  int shift);
 
 }  // namespace toolbar

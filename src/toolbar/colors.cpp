@@ -1,6 +1,6 @@
 #include "toolbar/colors.h"
 
-#include "platform/system_colors.h"
+#include "drawing/system_colours.h"
 #include "toolbar/whole.h"
 
 namespace toolbar {
@@ -9,13 +9,13 @@ namespace {
 
 int blend(int channel, int other, int weight) {
   constexpr double All = 255;
-  return Nearest((All - weight) * other / All + double(weight) * channel / All);
+  return nearest((All - weight) * other / All + double(weight) * channel / All);
 }
 
 }  // namespace
 
 QRgb TranslateColor(quint32 color) {
-  return platform::ColorOf(color).rgb();
+  return drawing::colorOf(color).rgb();
 }
 
 QRgb BlendColors(quint32 color, quint32 other, int weight) {

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "platform/property_bag.h"
+#include "propertybag/property_bag.h"
 #include "toolbar/layout.h"
 #include "toolbar/model.h"
 #include "toolbar/surface.h"
@@ -25,24 +25,24 @@ class Control : private ModelView {
  public:
   Control(Windows& windows, Events& events, const Ambient& ambient);
 
-  Model& Buttons() { return model_; }
-  const Model& Buttons() const { return model_; }
+  Model& buttons() { return model_; }
+  const Model& buttons() const { return model_; }
   const std::vector<int>& HiddenButtons() const { return layout_.HiddenButtons; }
-  const Surface& SurfaceOf(SurfaceName name) const { return name == SurfaceName::Main ? main_ : chevron_; }
-  SurfaceName PicDraw() const { return picDraw_; }
+  const Surface& surfaceOf(SurfaceName name) const { return name == SurfaceName::Main ? main_ : chevron_; }
+  SurfaceName picDraw() const { return picDraw_; }
   bool UserMode() const { return ambient_.UserMode; }
 
   /// A toolbar out of a bag. A bag with wrong values counts as an empty one and gives false.
-  bool UserControl_ReadProperties(const platform::PropertyBag& bag);
-  void UserControl_WriteProperties(platform::PropertyBag& bag) const;
+  bool UserControl_ReadProperties(const propertybag::PropertyBag& bag);
+  void UserControl_WriteProperties(propertybag::PropertyBag& bag) const;
 
   /// The host gives the control its inner size.
-  void Resize(const QSize& innerSize);
+  void resize(const QSize& innerSize);
   void UserControl_Resize();
   /// Draws the whole surface that buttons are drawn on at the moment.
   void Repaint();
 
-  // What the surfaces deliver. All but moves are taken from the surface of PicDraw only.
+  // What the surfaces deliver. All but moves are taken from the surface of picDraw only.
   void picMain_MouseMove(MouseArguments arguments);
   void picChevron_MouseMove(MouseArguments arguments);
   void picDraw_MouseDown(SurfaceName from, MouseArguments arguments);
@@ -58,23 +58,23 @@ class Control : private ModelView {
 
   // The keyboard's way through the buttons; its place looks like the pointer's.
   /// The buttons that keys reach (0 is the chevron): those of the popup while that is open and drawn on.
-  std::vector<int> KeyPlaces() const;
+  std::vector<int> keyPlaces() const;
   /// Moves on by so many places, round the ends; the first or last one from nowhere.
-  void StepByKey(int places);
+  void stepByKey(int places);
   /// The first or the last one.
-  void EndByKey(bool last);
-  void PointByKey(int index);
+  void endByKey(bool last);
+  void pointByKey(int index);
   /// Clicks the button, or opens the popup and goes to its first button.
-  void PressByKey();
+  void pressByKey();
   /// The keyboard comes: to the first place, unless one is pointed at. Whether it went there.
-  bool EnterByKey();
-  void LeaveByKey();
+  bool enterByKey();
+  void leaveByKey();
   /// Closes the popup and goes back to the chevron; whether it was open.
-  bool EscapeByKey();
+  bool escapeByKey();
 
  private:
   void PropertyChanged(QStringView name) override;
-  void React(Effect effect) override;
+  void react(Effect effect) override;
 
   Surface& drawn() { return picDraw_ == SurfaceName::Main ? main_ : chevron_; }
   void layOut();

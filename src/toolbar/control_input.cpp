@@ -14,9 +14,9 @@ constexpr int RectangularTip = 1;
 }  // namespace
 
 bool Control::canHover(int number, float x) const {
-  const int width = model_.Values().ButtonsWidth;
+  const int width = model_.values().ButtonsWidth;
   if (width == 0) throw std::domain_error("buttons without a width");
-  if (std::floor(double(x) / width) >= model_.Values().ButtonsPerRow) return false;
+  if (std::floor(double(x) / width) >= model_.values().ButtonsPerRow) return false;
   if (number < 1 || number > model_.Button_Count()) return false;
   const ToolbarButton& button = model_.Button(number);
   if (!button.Enabled || button.ButtonType == 1) return false;
@@ -25,8 +25,8 @@ bool Control::canHover(int number, float x) const {
 
 /// What the pointer is over now; none when that isn't to change.
 std::optional<int> Control::pointedAt(const MouseArguments& arguments) {
-  const int x = Nearest(double(arguments.X));
-  const int y = Nearest(double(arguments.Y));
+  const int x = nearest(double(arguments.X));
+  const int y = nearest(double(arguments.Y));
   int index = -1;
   if (arguments.Button == MouseArguments::FromPopup) {
     picDraw_ = SurfaceName::Chevron;
@@ -36,22 +36,22 @@ std::optional<int> Control::pointedAt(const MouseArguments& arguments) {
   } else {
     picDraw_ = SurfaceName::Main;
     const bool onChevron = double(arguments.X) > innerSize_.width() - ChevronZone &&
-                           double(arguments.Y) > double(innerSize_.height()) - model_.Values().ButtonsHeight;
+                           double(arguments.Y) > double(innerSize_.height()) - model_.values().ButtonsHeight;
     if (!layout_.HiddenButtons.empty() && onChevron) return 0;
     index = HitTest(model_, x, y, false);
   }
   const bool hovers = canHover(index, arguments.X);
-  windows_.SetHand(picDraw_, hovers);
+  windows_.setHand(picDraw_, hovers);
   return hovers ? index : -1;
 }
 
 void Control::pointAt(int index) {
   if (index == model_.Button_Index()) return;
-  model_.PointAt(index);
+  model_.pointAt(index);
   Repaint();
   if (index < 1) return;
   const bool isShown = picDraw_ == SurfaceName::Main && !model_.Button(index).InChevron;
-  if (isShown && windows_.IsPopupVisible()) windows_.SetPopupVisible(false);
+  if (isShown && windows_.isPopupVisible()) windows_.setPopupVisible(false);
   events_.Hover(index);
 }
 
@@ -112,7 +112,7 @@ void Control::zSubclass_Proc(int uMsg, SurfaceName surface, quint32 place) {
     case Move:
     case Size:
     case KillFocus:
-      windows_.SetPopupVisible(false);
+      windows_.setPopupVisible(false);
       break;
     case Timer:
       if (++timerTicks_ != TicksToTip) break;
@@ -146,7 +146,7 @@ void Control::movedTo(SurfaceName surface, quint32 place) {
 void Control::left() {
   mouseInside_ = false;
   buttonHeld_ = false;
-  model_.PointAt(-1);
+  model_.pointAt(-1);
   windows_.DestroyToolTip();
   Repaint();
   events_.MouseLeave();
@@ -157,7 +157,7 @@ void Control::showToolTip() {
   if (model_.Button_Index() < 1) return;
   const ToolbarButton& button = model_.Button(model_.Button_Index());
   if (button.ToolTipText.isEmpty()) return;
-  const Properties& values = model_.Values();
+  const Properties& values = model_.values();
   windows_.ShowToolTip({button.ToolTipText, button.Caption, button.Caption.isEmpty() ? 0 : button.ToolTipIcon,
                         values.TooTipStyle != RectangularTip, values.ToolTipBackCol, values.ToolTipForeCol});
 }

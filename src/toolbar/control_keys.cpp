@@ -12,8 +12,8 @@ bool isReached(const ToolbarButton& button, bool inPopup) {
 
 }  // namespace
 
-std::vector<int> Control::KeyPlaces() const {
-  const bool inPopup = picDraw_ == SurfaceName::Chevron && windows_.IsPopupVisible();
+std::vector<int> Control::keyPlaces() const {
+  const bool inPopup = picDraw_ == SurfaceName::Chevron && windows_.isPopupVisible();
   std::vector<int> places;
   for (int i = 1; i <= model_.Button_Count(); ++i) {
     if (isReached(model_.Button(i), inPopup)) places.push_back(i);
@@ -22,43 +22,43 @@ std::vector<int> Control::KeyPlaces() const {
   return places;
 }
 
-void Control::StepByKey(int places) {
-  const std::vector<int> all = KeyPlaces();
+void Control::stepByKey(int places) {
+  const std::vector<int> all = keyPlaces();
   if (all.empty()) return;
   const auto count = int(all.size());
   const auto present = std::find(all.begin(), all.end(), model_.Button_Index());
   int next = places > 0 ? 0 : count - 1;
   if (present != all.end()) next = ((int(present - all.begin()) + places) % count + count) % count;
-  PointByKey(all[size_t(next)]);
+  pointByKey(all[size_t(next)]);
 }
 
-void Control::EndByKey(bool last) {
-  const std::vector<int> all = KeyPlaces();
-  if (!all.empty()) PointByKey(last ? all.back() : all.front());
+void Control::endByKey(bool last) {
+  const std::vector<int> all = keyPlaces();
+  if (!all.empty()) pointByKey(last ? all.back() : all.front());
 }
 
-bool Control::EnterByKey() {
-  const std::vector<int> all = KeyPlaces();
+bool Control::enterByKey() {
+  const std::vector<int> all = keyPlaces();
   if (all.empty() || std::find(all.begin(), all.end(), model_.Button_Index()) != all.end()) return false;
-  EndByKey(false);
+  endByKey(false);
   return true;
 }
 
-void Control::LeaveByKey() {
+void Control::leaveByKey() {
   if (!byKey_) return;
   byKey_ = false;
-  model_.PointAt(-1);
+  model_.pointAt(-1);
   Repaint();
 }
 
-void Control::PointByKey(int index) {
+void Control::pointByKey(int index) {
   byKey_ = true;
-  if (!windows_.IsPopupVisible()) picDraw_ = SurfaceName::Main;
+  if (!windows_.isPopupVisible()) picDraw_ = SurfaceName::Main;
   pointAt(index);
 }
 
-void Control::PressByKey() {
-  if (!windows_.IsPopupVisible()) picDraw_ = SurfaceName::Main;
+void Control::pressByKey() {
+  if (!windows_.isPopupVisible()) picDraw_ = SurfaceName::Main;
   if (model_.Button_Index() > 0) {
     picDraw_Click(picDraw_);
     return;
@@ -67,14 +67,14 @@ void Control::PressByKey() {
   buttonHeld_ = true;
   Repaint();
   buttonHeld_ = false;
-  if (picDraw_ == SurfaceName::Chevron) StepByKey(1);
+  if (picDraw_ == SurfaceName::Chevron) stepByKey(1);
 }
 
-bool Control::EscapeByKey() {
-  if (!windows_.IsPopupVisible()) return false;
-  windows_.SetPopupVisible(false);
-  model_.PointAt(-1);
-  PointByKey(0);
+bool Control::escapeByKey() {
+  if (!windows_.isPopupVisible()) return false;
+  windows_.setPopupVisible(false);
+  model_.pointAt(-1);
+  pointByKey(0);
   return true;
 }
 

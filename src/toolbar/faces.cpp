@@ -1,6 +1,6 @@
 #include "toolbar/faces.h"
 
-#include "platform/ramps.h"
+#include "drawing/ramps.h"
 #include "toolbar/colors.h"
 #include "toolbar/whole.h"
 
@@ -8,7 +8,7 @@ namespace toolbar {
 
 namespace {
 
-using platform::Raster;
+using drawing::Raster;
 
 constexpr QRgb Black = 0xFF000000;
 constexpr int CornerDiameter = 6;
@@ -84,7 +84,7 @@ void Draw3DBox(Raster& raster, const Properties& values, quint32 color, const QR
                values.ButtonsGradientCol, values.ButtonsGradient);
 }
 
-Face DrawFace(Raster& raster, const Properties& values, const QRect& button, bool hover, bool pressed) {
+Face drawFace(Raster& raster, const Properties& values, const QRect& button, bool hover, bool pressed) {
   const QRect smaller = button.adjusted(0, 0, -1, -1);
   switch (values.ButtonsMode) {
     case 0:
@@ -122,14 +122,14 @@ void FillGradient(Raster& raster, const QRect& box, quint32 first, quint32 secon
   const QRgb start = TranslateColor(second);
   const QRgb end = TranslateColor(first);
   if (kind == 2) {
-    const int half = Nearest(w / 2.0);
-    platform::PaintRamp(raster, x, y, half, h, start, end, 1);
-    platform::PaintRamp(raster, Nearest(x + w / 2.0 - 1), y, half, h, end, start, 1);
+    const int half = nearest(w / 2.0);
+    drawing::PaintRamp(raster, x, y, half, h, start, end, 1);
+    drawing::PaintRamp(raster, nearest(x + w / 2.0 - 1), y, half, h, end, start, 1);
   } else if (kind == 4) {
-    platform::PaintRamp(raster, x, y, w, Nearest(h / 2.0), start, end, 3);
-    platform::PaintRamp(raster, x, Nearest(y + h / 2.0 - 1), w, Nearest(h / 2.0 + 1), end, start, 3);
+    drawing::PaintRamp(raster, x, y, w, nearest(h / 2.0), start, end, 3);
+    drawing::PaintRamp(raster, x, nearest(y + h / 2.0 - 1), w, nearest(h / 2.0 + 1), end, start, 3);
   } else {
-    platform::PaintRamp(raster, x, y, w, h, start, end, kind);
+    drawing::PaintRamp(raster, x, y, w, h, start, end, kind);
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/raster_pictures.h"
+#include "drawing/raster_pictures.h"
 #include "toolbar/whole.h"
 
 namespace toolbar {
@@ -23,37 +23,37 @@ void turnGrey(QByteArray& bytes) {
 
 }  // namespace
 
-bool PaintGrayScale(platform::Raster& raster, const Picture& picture, int left, int top, int width, int height) {
-  if (picture.Pixels.isNull()) return false;
+bool PaintGrayScale(drawing::Raster& raster, const Picture& picture, int left, int top, int width, int height) {
+  if (picture.pixels.isNull()) return false;
   if (width == -1) width = picture.Width();
   if (height == -1) height = picture.Height();
-  platform::PixelRows grey = platform::GetDIBits(picture.Pixels);
+  drawing::PixelRows grey = drawing::GetDIBits(picture.pixels);
   turnGrey(grey.Bytes);
   if (picture.Type != Picture::Icon) {
     StretchDIBits(raster, left, top, width, height, grey);
     return true;
   }
-  StretchDIBits(raster, left, top, width, height, platform::GetDIBits(picture.Mask), platform::RasterOperation::And);
-  StretchDIBits(raster, left, top, width, height, grey, platform::RasterOperation::Or);
+  StretchDIBits(raster, left, top, width, height, drawing::GetDIBits(picture.mask), drawing::RasterOperation::And);
+  StretchDIBits(raster, left, top, width, height, grey, drawing::RasterOperation::Or);
   return true;
 }
 
-void DrawIcon(platform::Raster& raster, const Picture& picture, const QRect& area, bool enabled, bool shadow) {
-  const int x = Nearest((double(area.width()) - picture.Width()) / 2 + area.x());
-  const int y = Nearest((double(area.height()) - picture.Height()) / 2 + area.y());
+void DrawIcon(drawing::Raster& raster, const Picture& picture, const QRect& area, bool enabled, bool shadow) {
+  const int x = nearest((double(area.width()) - picture.Width()) / 2 + area.x());
+  const int y = nearest((double(area.height()) - picture.Height()) / 2 + area.y());
   if (!enabled) {
     PaintGrayScale(raster, picture, x, y, picture.Width(), picture.Height());
   } else if (shadow) {
-    platform::PaintSilhouette(raster, picture.Pixels, x + 1, y + 1, ShadowColor);
-    platform::PaintPicture(raster, picture.Pixels, x - 1, y - 1);
+    drawing::paintSilhouette(raster, picture.pixels, x + 1, y + 1, ShadowColor);
+    drawing::PaintPicture(raster, picture.pixels, x - 1, y - 1);
   } else {
-    platform::PaintPicture(raster, picture.Pixels, x, y);
+    drawing::PaintPicture(raster, picture.pixels, x, y);
   }
 }
 
-void TilePicture(platform::Raster& raster, const Picture& picture) {
+void TilePicture(drawing::Raster& raster, const Picture& picture) {
   if (picture.Type != Picture::Bitmap) return;
-  platform::TileRect(raster, 0, 0, raster.Width(), raster.Height(), picture.Pixels);
+  drawing::tileRect(raster, 0, 0, raster.Width(), raster.Height(), picture.pixels);
 }
 
 }  // namespace toolbar

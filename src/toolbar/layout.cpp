@@ -16,7 +16,7 @@ constexpr int PopupExtraWidth = 4;
 constexpr int PopupExtraHeight = 7;
 
 int rowLength(const Model& model, bool inPopup) {
-  return inPopup ? model.Values().ButtonsPerRow_Chev : model.Values().ButtonsPerRow;
+  return inPopup ? model.values().ButtonsPerRow_Chev : model.values().ButtonsPerRow;
 }
 
 void check(int length) {
@@ -29,12 +29,12 @@ bool isMultiple(int number, int length) {
 }
 
 bool isFramed(const Model& model) {
-  return model.Values().BorderStyle != 0;
+  return model.values().BorderStyle != 0;
 }
 
 int itemWidth(const Model& model, int number, bool inPopup) {
   const bool isSeparator = model.Button(number).ButtonType != 0 && !inPopup;
-  return isSeparator ? model.Values().ButtonsSeperatorWidth : model.Values().ButtonsWidth;
+  return isSeparator ? model.values().ButtonsSeperatorWidth : model.values().ButtonsWidth;
 }
 
 qint64 rows(int items, int length) {
@@ -52,10 +52,10 @@ QPoint PlaceButton(const Model& model, int n, bool inPopup) {
   for (int k = 1; k < n; ++k) {
     x += itemWidth(model, k, inPopup);
     if (!isMultiple(k, length)) continue;
-    y += model.Values().ButtonsHeight;
+    y += model.values().ButtonsHeight;
     x = isInset ? FrameX : 0;
   }
-  return {Whole(x), Whole(y)};
+  return {whole(x), whole(y)};
 }
 
 int HitTest(const Model& model, int x, int y, bool inPopup) {
@@ -66,7 +66,7 @@ int HitTest(const Model& model, int x, int y, bool inPopup) {
   for (int i = 0; i < model.Button_Count(); ++i) {
     if (isMultiple(i, length)) {
       top = bottom;
-      bottom += model.Values().ButtonsHeight;
+      bottom += model.values().ButtonsHeight;
       right = 0;
     }
     const qint64 left = right;
@@ -76,17 +76,17 @@ int HitTest(const Model& model, int x, int y, bool inPopup) {
   return -1;
 }
 
-int LaidOutHeight(const Model& model) {
-  const qint64 height = rows(model.Button_Count(), rowLength(model, false)) * model.Values().ButtonsHeight;
-  return Whole(height + (isFramed(model) ? FramedExtraHeight : 0));
+int laidOutHeight(const Model& model) {
+  const qint64 height = rows(model.Button_Count(), rowLength(model, false)) * model.values().ButtonsHeight;
+  return whole(height + (isFramed(model) ? FramedExtraHeight : 0));
 }
 
-void LayOut(Model& model, int innerWidth, bool mayHide, Layout& layout) {
+void layOutButtons(Model& model, int innerWidth, bool mayHide, Layout& layout) {
   for (int i = 1; i <= model.Button_Count(); ++i) {
-    ToolbarButton& button = model.Place(i);
+    ToolbarButton& button = model.place(i);
     QPoint place = PlaceButton(model, i, false);
-    const bool overflows = innerWidth - ChevronZone < qint64(model.Values().ButtonsWidth) + place.x();
-    const bool hides = button.ButtonType == 0 && model.Values().ShowChevron && overflows && mayHide;
+    const bool overflows = innerWidth - ChevronZone < qint64(model.values().ButtonsWidth) + place.x();
+    const bool hides = button.ButtonType == 0 && model.values().ShowChevron && overflows && mayHide;
     if (hides) {
       layout.HiddenButtons.push_back(i);
       place = PlaceButton(model, int(layout.HiddenButtons.size()), true);
@@ -99,8 +99,8 @@ void LayOut(Model& model, int innerWidth, bool mayHide, Layout& layout) {
   if (hidden == 0) return;
   const int length = rowLength(model, true);
   const qint64 columns = std::min(hidden, length);
-  layout.Popup.setWidth(Whole(columns * model.Values().ButtonsWidth + PopupExtraWidth));
-  layout.Popup.setHeight(Whole(rows(hidden, length) * model.Values().ButtonsHeight + PopupExtraHeight));
+  layout.popup.setWidth(whole(columns * model.values().ButtonsWidth + PopupExtraWidth));
+  layout.popup.setHeight(whole(rows(hidden, length) * model.values().ButtonsHeight + PopupExtraHeight));
 }
 
 }  // namespace toolbar

@@ -14,7 +14,7 @@ namespace toolbar {
 /// What the layout finds besides the places of the buttons.
 struct Layout {
   std::vector<int> HiddenButtons;  ///< shown in the popup, in order
-  QSize Popup;                     ///< changed only with hidden buttons
+  QSize popup;                     ///< changed only with hidden buttons
 };
 
 /// The right part of the control that belongs to the chevron when there is one, and the width of its button.
@@ -28,9 +28,9 @@ QPoint PlaceButton(const Model& model, int n, bool inPopup);
 int HitTest(const Model& model, int x, int y, bool inPopup);
 
 /// The control's height.
-int LaidOutHeight(const Model& model);
+int laidOutHeight(const Model& model);
 /// Gives every button its place and moves those without room into the popup, if that is wished for (`mayHide`). What
 /// was done before a failure stays.
-void LayOut(Model& model, int innerWidth, bool mayHide, Layout& layout);
+void layOutButtons(Model& model, int innerWidth, bool mayHide, Layout& layout);
 
 }  // namespace toolbar

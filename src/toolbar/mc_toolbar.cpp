@@ -5,8 +5,8 @@
 #include <QKeyEvent>
 #include <QPainter>
 
-#include "platform/property_bag_bytes.h"
-#include "platform/stored_values.h"
+#include "propertybag/stored_bytes.h"
+#include "propertybag/stored_values.h"
 #include "toolbar/stored_form.h"
 
 namespace toolbar {
@@ -40,16 +40,16 @@ class Signals : public Events {
 
 void present(QWidget& window, const Surface& surface) {
   QPainter painter(&window);
-  platform::Show(painter, surface.Image());
+  drawing::Show(painter, surface.Image());
 }
 
 }  // namespace
 
-Ambient AmbientOf(const QWidget* parent) {
+Ambient ambientOf(const QWidget* parent) {
   return {true, parent == nullptr ? QApplication::font() : parent->font()};
 }
 
-McToolBar::McToolBar(QWidget* parent) : McToolBar(AmbientOf(parent), parent) {}
+McToolBar::McToolBar(QWidget* parent) : McToolBar(ambientOf(parent), parent) {}
 
 McToolBar::McToolBar(const Ambient& ambient, QWidget* parent)
     : QWidget(parent),
@@ -60,9 +60,9 @@ McToolBar::McToolBar(const Ambient& ambient, QWidget* parent)
   setFocusPolicy(ambient.UserMode ? Qt::TabFocus : Qt::NoFocus);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-  InstallAccessibility();
-  connect(&windows_.TimerObject(), &QTimer::timeout, this, [this] { control_.zSubclass_Proc(Control::Timer); });
-  control_.Resize(size());
+  installAccessibility();
+  connect(&windows_.timerObject(), &QTimer::timeout, this, [this] { control_.zSubclass_Proc(Control::Timer); });
+  control_.resize(size());
 }
 
 McToolBar::~McToolBar() {
@@ -71,20 +71,20 @@ McToolBar::~McToolBar() {
 }
 
 bool McToolBar::UserControl_ReadProperties(QByteArrayView bytes) {
-  const std::optional<platform::PropertyBag> bag = platform::BagOfBytes(bytes);
-  const bool isSound = control_.UserControl_ReadProperties(bag.value_or(platform::PropertyBag()));
-  if (bag && isSound) resize(platform::StoredSize(*bag).value_or(size()));
+  const std::optional<propertybag::PropertyBag> bag = propertybag::bagOfBytes(bytes);
+  const bool isSound = control_.UserControl_ReadProperties(bag.value_or(propertybag::PropertyBag()));
+  if (bag && isSound) resize(propertybag::storedSize(*bag).value_or(size()));
   // A hidden window hears of its size late.
-  control_.Resize(size());
+  control_.resize(size());
   watchForm();
   return bag && isSound;
 }
 
 QByteArray McToolBar::UserControl_WriteProperties() const {
-  platform::PropertyBag bag;
-  platform::StoreSize(bag, size());
+  propertybag::PropertyBag bag;
+  propertybag::storeSize(bag, size());
   control_.UserControl_WriteProperties(bag);
-  return platform::StoredBytes(bag);
+  return propertybag::storedBytes(bag);
 }
 
 void McToolBar::watchForm() {
@@ -96,29 +96,29 @@ void McToolBar::watchForm() {
 
 bool McToolBar::event(QEvent* event) {
   // A designer keeps the mouse to itself.
-  if (control_.UserMode() && mouse_.Deliver(SurfaceName::Main, rect(), event)) return true;
+  if (control_.UserMode() && mouse_.deliver(SurfaceName::Main, rect(), event)) return true;
   if (event->type() == QEvent::Show) watchForm();
   return QWidget::event(event);
 }
 
 bool McToolBar::eventFilter(QObject* object, QEvent* event) {
-  QWidget* const popup = windows_.Popup();
+  QWidget* const popup = windows_.popup();
   if (object == popup && event->type() == QEvent::Paint) {
-    present(*popup, control_.SurfaceOf(SurfaceName::Chevron));
+    present(*popup, control_.surfaceOf(SurfaceName::Chevron));
     return true;
   }
-  if (object == popup) return mouse_.Deliver(SurfaceName::Chevron, popup->rect(), event);
+  if (object == popup) return mouse_.deliver(SurfaceName::Chevron, popup->rect(), event);
   if (object == form_ && event->type() == QEvent::Move) control_.zSubclass_Proc(Control::Move);
   if (object == form_ && event->type() == QEvent::Resize) control_.zSubclass_Proc(Control::Size);
   return QWidget::eventFilter(object, event);
 }
 
 void McToolBar::paintEvent(QPaintEvent* /*event*/) {
-  present(*this, control_.SurfaceOf(SurfaceName::Main));
+  present(*this, control_.surfaceOf(SurfaceName::Main));
 }
 
 void McToolBar::resizeEvent(QResizeEvent* /*event*/) {
-  control_.Resize(size());
+  control_.resize(size());
 }
 
 void McToolBar::hideEvent(QHideEvent* /*event*/) {
@@ -130,26 +130,26 @@ void McToolBar::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Left:
     case Qt::Key_Up:
-      control_.StepByKey(-1);
+      control_.stepByKey(-1);
       break;
     case Qt::Key_Right:
     case Qt::Key_Down:
-      control_.StepByKey(1);
+      control_.stepByKey(1);
       break;
     case Qt::Key_Home:
-      control_.EndByKey(false);
+      control_.endByKey(false);
       break;
     case Qt::Key_End:
-      control_.EndByKey(true);
+      control_.endByKey(true);
       break;
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (event->isAutoRepeat()) return;
-      if (!control_.EnterByKey()) control_.PressByKey();
+      if (!control_.enterByKey()) control_.pressByKey();
       break;
     case Qt::Key_Escape:
-      if (control_.EscapeByKey()) break;
+      if (control_.escapeByKey()) break;
       [[fallthrough]];
     default:
       QWidget::keyPressEvent(event);
@@ -160,31 +160,31 @@ void McToolBar::keyPressEvent(QKeyEvent* event) {
 
 /// A focus that came with the window shows nowhere yet: Tab shows it before it goes on.
 bool McToolBar::focusNextPrevChild(bool next) {
-  if (!hasFocus() || !control_.EnterByKey()) return QWidget::focusNextPrevChild(next);
+  if (!hasFocus() || !control_.enterByKey()) return QWidget::focusNextPrevChild(next);
   tellKeyPlace();
   return true;
 }
 
 void McToolBar::focusInEvent(QFocusEvent* event) {
   const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-  if (byKey) control_.EnterByKey();
+  if (byKey) control_.enterByKey();
   tellKeyPlace();
 }
 
 void McToolBar::focusOutEvent(QFocusEvent* /*event*/) {
-  control_.LeaveByKey();
+  control_.leaveByKey();
   control_.zSubclass_Proc(Control::KillFocus);
 }
 
 void McToolBar::tellKeyPlace() {
   QAccessibleEvent event(this, QAccessible::Focus);
-  event.setChild(AccessibleChildOf(control_));
+  event.setChild(accessibleChildOf(control_));
   QAccessible::updateAccessibility(&event);
 }
 
-void McToolBar::Press(int ButtonIndex) {
-  control_.PointByKey(ButtonIndex);
-  control_.PressByKey();
+void McToolBar::press(int ButtonIndex) {
+  control_.pointByKey(ButtonIndex);
+  control_.pressByKey();
 }
 
 }  // namespace toolbar

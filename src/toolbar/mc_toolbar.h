@@ -29,25 +29,25 @@ class McToolBar : public QWidget, public AccessibleSource {
   QByteArray UserControl_WriteProperties() const;
 
   /// Properties, list of buttons and the operations on it.
-  Model& Buttons() { return control_.Buttons(); }
-  const Model& Buttons() const { return control_.Buttons(); }
+  Model& buttons() { return control_.buttons(); }
+  const Model& buttons() const { return control_.buttons(); }
 
-  int Button_Count() const { return Buttons().Button_Count(); }
-  void SetButton_Count(int count) { Buttons().SetButton_Count(count); }
+  int Button_Count() const { return buttons().Button_Count(); }
+  void SetButton_Count(int count) { buttons().SetButton_Count(count); }
   /// A field of a button by its number (see button_values.h). Throw std::out_of_range for a button that isn't there.
   void SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& Value) {
-    Buttons().SetButtonValue(ButtonIndex, PropertyID, Value);
+    buttons().SetButtonValue(ButtonIndex, PropertyID, Value);
   }
   QVariant GetButtonValue(int ButtonIndex, int PropertyID) const {
-    return Buttons().GetButtonValue(ButtonIndex, PropertyID);
+    return buttons().GetButtonValue(ButtonIndex, PropertyID);
   }
   /// In pixels.
   int Height() const { return height(); }
 
-  const Control& Inner() const override { return control_; }
-  QWidget* PopupWindow() const override { return windows_.Popup(); }
-  QSize sizeHint() const override { return control_.SurfaceOf(SurfaceName::Main).Image().image().size(); }
-  void Press(int ButtonIndex) override;
+  const Control& inner() const override { return control_; }
+  QWidget* popupWindow() const override { return windows_.popup(); }
+  QSize sizeHint() const override { return control_.surfaceOf(SurfaceName::Main).Image().image().size(); }
+  void press(int ButtonIndex) override;
 
  Q_SIGNALS:
   void PropertyChanged(const QString& name);
@@ -85,6 +85,6 @@ class McToolBar : public QWidget, public AccessibleSource {
 };
 
 /// What the place of a control on this parent gives it.
-Ambient AmbientOf(const QWidget* parent);
+Ambient ambientOf(const QWidget* parent);
 
 }  // namespace toolbar

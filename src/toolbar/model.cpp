@@ -28,17 +28,17 @@ Model::Model(ModelView& view, const QFont& ambientFont) : view_(view), buttons_(
   values_.Font = ambientFont;
 }
 
-void Model::Take(const Properties& values, std::vector<ToolbarButton> buttons) {
+void Model::take(const Properties& values, std::vector<ToolbarButton> buttons) {
   values_ = values;
   buttons_ = std::move(buttons);
   count_ = int(buttons_.size());
 }
 
 void Model::written(const Property& property) {
-  const PropertyRow& row = RowOf(property);
+  const PropertyRow& row = rowOf(property);
   view_.PropertyChanged(row.name);
   if (property == Property(&Properties::ButtonsMode)) ApplyButtonsMode(values_, values_.ButtonsMode);
-  view_.React(row.onWrite);
+  view_.react(row.onWrite);
 }
 
 void Model::check(int index) const {
@@ -52,7 +52,7 @@ void Model::SetButton_Count(int count) {
   count_ = count;
   index_ = count;
   view_.PropertyChanged(u"Button_Count");
-  view_.React(Effect::LayOut);
+  view_.react(Effect::LayOut);
 }
 
 void Model::SetButton_Index(int index) {
@@ -60,27 +60,27 @@ void Model::SetButton_Index(int index) {
   if (index == index_) return;
   index_ = index;
   view_.PropertyChanged(u"Button_Index");
-  view_.React(Effect::Repaint);
+  view_.react(Effect::Repaint);
 }
 
-QVariant Model::CurrentValue(PropertyID field) const {
-  return index_ < 1 ? GetValue(blank(), field) : GetValue(Button(index_), field);
+QVariant Model::currentValue(PropertyID field) const {
+  return index_ < 1 ? getValue(blank(), field) : getValue(Button(index_), field);
 }
 
-void Model::SetCurrentValue(PropertyID field, const QVariant& value) {
+void Model::setCurrentValue(PropertyID field, const QVariant& value) {
   if (index_ < 1) return;
-  SetValue(Place(index_), field, value);
+  SetValue(place(index_), field, value);
   view_.PropertyChanged(Fields[field].name);
-  view_.React(Fields[field].onWrite);
+  view_.react(Fields[field].onWrite);
 }
 
 QVariant Model::GetButtonValue(int ButtonIndex, int PropertyID) const {
-  return GetValue(Button(ButtonIndex), PropertyID);
+  return getValue(Button(ButtonIndex), PropertyID);
 }
 
 void Model::SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& newValue) {
-  SetValue(Place(ButtonIndex), PropertyID, newValue);
-  view_.React(Effect::Repaint);
+  SetValue(place(ButtonIndex), PropertyID, newValue);
+  view_.react(Effect::Repaint);
 }
 
 void Model::RemoveButton(int ButtonIndex) {
@@ -89,7 +89,7 @@ void Model::RemoveButton(int ButtonIndex) {
   std::move(buttons_.begin() + ButtonIndex, buttons_.begin() + count_, buttons_.begin() + ButtonIndex - 1);
   buttons_[size_t(count_) - 1] = blank();
   --count_;
-  view_.React(Effect::LayOut);
+  view_.react(Effect::LayOut);
 }
 
 void Model::InsertButtonTo(int ButtonIndex, int NewIndex) {
@@ -99,33 +99,33 @@ void Model::InsertButtonTo(int ButtonIndex, int NewIndex) {
   const auto to = buttons_.begin() + NewIndex - 1;
   if (from < to) std::rotate(from, from + 1, to + 1);
   if (to < from) std::rotate(to, from, from + 1);
-  view_.React(Effect::LayOut);
+  view_.react(Effect::LayOut);
 }
 
 void Model::MoveButtonTo(int ButtonIndex, int NewIndex) {
   check(ButtonIndex);
   check(NewIndex);
-  std::swap(Place(ButtonIndex), Place(NewIndex));
-  view_.React(Effect::LayOut);
+  std::swap(place(ButtonIndex), place(NewIndex));
+  view_.react(Effect::LayOut);
 }
 
 void Model::SetButtonRemove(int value) {
   if (value != 1) return;
   RemoveButton(index_);
   index_ = std::min(index_, count_);
-  view_.React(Effect::LayOut);
+  view_.react(Effect::LayOut);
 }
 
 void Model::SetButtonMoveTo(int index) {
   MoveButtonTo(index_, index);
   index_ = index;
-  view_.React(Effect::Repaint);
+  view_.react(Effect::Repaint);
 }
 
 void Model::SetButtonInsertTo(int index) {
   InsertButtonTo(index_, index);
   index_ = index;
-  view_.React(Effect::Repaint);
+  view_.react(Effect::Repaint);
 }
 
 }  // namespace toolbar

@@ -21,7 +21,7 @@ class ModelView {
  public:
   virtual ~ModelView() = default;
   virtual void PropertyChanged(QStringView name) = 0;
-  virtual void React(Effect effect) = 0;
+  virtual void react(Effect effect) = 0;
 };
 
 /// The toolbar less its surfaces and its input: properties and list of buttons, numbered from 1. Every write tells
@@ -30,11 +30,11 @@ class Model {
  public:
   Model(ModelView& view, const QFont& ambientFont);
 
-  const Properties& Values() const { return values_; }
+  const Properties& values() const { return values_; }
   /// The result of reading a stored toolbar: nothing is told.
-  void Take(const Properties& values, std::vector<ToolbarButton> buttons);
+  void take(const Properties& values, std::vector<ToolbarButton> buttons);
   template <typename T>
-  void Set(T Properties::*property, const std::type_identity_t<T>& value) {
+  void setValue(T Properties::*property, const std::type_identity_t<T>& value) {
     values_.*property = value;
     written(property);
   }
@@ -50,11 +50,11 @@ class Model {
   /// Throws RangeError outside 1 to Button_Count.
   void SetButton_Index(int index);
   /// The same without check and without telling.
-  void PointAt(int index) { index_ = index; }
+  void pointAt(int index) { index_ = index; }
 
   /// A field of the button that Button_Index names: no value while that is below 1, and a write does nothing then.
-  QVariant CurrentValue(PropertyID field) const;
-  void SetCurrentValue(PropertyID field, const QVariant& value);
+  QVariant currentValue(PropertyID field) const;
+  void setCurrentValue(PropertyID field, const QVariant& value);
 
   /// A field of any button. Throw std::out_of_range for a button that isn't there.
   QVariant GetButtonValue(int ButtonIndex, int PropertyID) const;
@@ -77,7 +77,7 @@ class Model {
 
   const ToolbarButton& Button(int number) const { return buttons_.at(size_t(number) - 1); }
   /// For the layout.
-  ToolbarButton& Place(int number) { return buttons_.at(size_t(number) - 1); }
+  ToolbarButton& place(int number) { return buttons_.at(size_t(number) - 1); }
 
  private:
   void written(const Property& property);

@@ -25,7 +25,7 @@ quint32 packed(QPoint place) {
 
 }  // namespace
 
-bool MouseDelivery::Deliver(SurfaceName surface, const QRect& area, QEvent* event) {
+bool MouseDelivery::deliver(SurfaceName surface, const QRect& area, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseMove:
       movedTo(surface, area, *static_cast<QMouseEvent*>(event));
@@ -71,7 +71,7 @@ void MouseDelivery::movedTo(SurfaceName surface, const QRect& area, const QMouse
 
 void MouseDelivery::pressed(SurfaceName surface, const QMouseEvent& event) {
   const QPoint place = placeOf(event);
-  if (lastMove_ != Place{surface, place} || control_.PicDraw() != surface) move(surface, event, place, 0);
+  if (lastMove_ != Place{surface, place} || control_.picDraw() != surface) move(surface, event, place, 0);
   windows_.DestroyToolTip();
   if (event.button() == Qt::LeftButton) clickBegan_ = surface;
   control_.picDraw_MouseDown(surface, argumentsOf(event, place, int(event.button())));
@@ -89,8 +89,8 @@ void MouseDelivery::released(SurfaceName surface, const QRect& area, const QMous
 
 void MouseDelivery::leave(SurfaceName surface) {
   lastMove_.reset();
-  if (windows_.Tracked != surface) return;
-  windows_.Tracked.reset();
+  if (windows_.tracked != surface) return;
+  windows_.tracked.reset();
   control_.zSubclass_Proc(Control::MouseLeave, surface);
 }
 

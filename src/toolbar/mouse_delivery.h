@@ -14,7 +14,7 @@ class MouseDelivery {
   MouseDelivery(Control& control, ToolBarWindows& windows) : control_(control), windows_(windows) {}
 
   /// Whether it was an event of the mouse.
-  bool Deliver(SurfaceName surface, const QRect& area, QEvent* event);
+  bool deliver(SurfaceName surface, const QRect& area, QEvent* event);
 
  private:
   void move(SurfaceName surface, const QMouseEvent& event, QPoint place, int buttons);

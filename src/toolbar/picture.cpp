@@ -4,8 +4,8 @@
 #include <QIcon>
 #include <QPixmap>
 
-#include "platform/icons.h"
-#include "platform/pictures.h"
+#include "drawing/icons.h"
+#include "drawing/pictures.h"
 
 namespace toolbar {
 
@@ -13,43 +13,43 @@ namespace {
 
 constexpr int IconSide = 16;
 
-Picture pictureOf(const platform::IconBitmaps& bitmaps) {
+Picture pictureOf(const drawing::IconBitmaps& bitmaps) {
   Picture picture{Picture::Bitmap, bitmaps.Color.convertToFormat(QImage::Format_ARGB32), {}, {}};
   for (int y = 0; y < picture.Height(); ++y) {
     for (int x = 0; x < picture.Width(); ++x) {
-      if ((bitmaps.Mask.pixel(x, y) & RGB_MASK) == 0) continue;
+      if ((bitmaps.mask.pixel(x, y) & RGB_MASK) == 0) continue;
       picture.Type = Picture::Icon;
-      picture.Pixels.setPixel(x, y, 0);
+      picture.pixels.setPixel(x, y, 0);
     }
   }
-  if (picture.Type == Picture::Icon) picture.Mask = bitmaps.Mask;
+  if (picture.Type == Picture::Icon) picture.mask = bitmaps.mask;
   return picture;
 }
 
 PictureReference reference(const QImage& image) {
-  return image.isNull() ? nullptr : PictureOfImage(image);
+  return image.isNull() ? nullptr : pictureOfImage(image);
 }
 
 }  // namespace
 
-PictureReference PictureOfImage(const QImage& image) {
-  return std::make_shared<Picture>(image.isNull() ? Picture() : pictureOf(platform::BitmapsOf(image)));
+PictureReference pictureOfImage(const QImage& image) {
+  return std::make_shared<Picture>(image.isNull() ? Picture() : pictureOf(drawing::bitmapsOf(image)));
 }
 
-PictureReference PictureOfFile(const QByteArray& file) {
+PictureReference pictureOfFile(const QByteArray& file) {
   Picture picture;
-  if (const auto icon = platform::ReadIcon(file)) {
+  if (const auto icon = drawing::readIcon(file)) {
     picture = pictureOf(*icon);
     picture.Type = Picture::Icon;
-    picture.Mask = icon->Mask;
+    picture.mask = icon->mask;
   } else {
-    picture = *PictureOfImage(platform::DecodePicture(file));
+    picture = *pictureOfImage(drawing::decodePicture(file));
   }
   picture.File = file;
   return std::make_shared<Picture>(picture);
 }
 
-PictureReference PictureOf(const QVariant& value) {
+PictureReference pictureOf(const QVariant& value) {
   if (value.typeId() == qMetaTypeId<PictureReference>()) return value.value<PictureReference>();
   if (value.typeId() == QMetaType::QImage) return reference(value.value<QImage>());
   if (value.typeId() == QMetaType::QPixmap) return reference(value.value<QPixmap>().toImage());
@@ -58,14 +58,14 @@ PictureReference PictureOf(const QVariant& value) {
   return nullptr;
 }
 
-QByteArray FileOf(const Picture& picture) {
-  if (!picture.File.isEmpty() || picture.Pixels.isNull()) return picture.File;
+QByteArray fileOf(const Picture& picture) {
+  if (!picture.File.isEmpty() || picture.pixels.isNull()) return picture.File;
   if (picture.Type == Picture::Icon) {
-    if (const auto icon = platform::WriteIcon(picture.Pixels)) return *icon;
+    if (const auto icon = drawing::writeIcon(picture.pixels)) return *icon;
   }
   QByteArray file;
   QBuffer buffer(&file);
-  picture.Pixels.save(&buffer, picture.Type == Picture::Icon ? "PNG" : "BMP");
+  picture.pixels.save(&buffer, picture.Type == Picture::Icon ? "PNG" : "BMP");
   return file;
 }
 

@@ -55,16 +55,16 @@ constexpr ModeRow Modes[] = {
     {1, 0, {}, {}, {}},
     {0, 0, 0xFF8080, {}, {}},
     {0, 3, 0x80C0FF, 0xE1F2F2, 0xFFFFFF},
-    {1, 3, 0x800000, MenuColor, platform::ButtonFaceColor},
+    {1, 3, 0x800000, MenuColor, drawing::ButtonFaceColor},
 };
 
 }  // namespace
 
-std::span<const PropertyRow> PropertyRows() {
+std::span<const PropertyRow> propertyRows() {
   return Rows;
 }
 
-const PropertyRow& RowOf(const Property& property) {
+const PropertyRow& rowOf(const Property& property) {
   return *std::find_if(std::begin(Rows), std::end(Rows),
                        [&property](const PropertyRow& row) { return row.property == property; });
 }
@@ -72,7 +72,7 @@ const PropertyRow& RowOf(const Property& property) {
 void ApplyButtonsMode(Properties& properties, int mode) {
   if (mode < 0 || mode >= int(std::size(Modes))) return;
   const ModeRow& row = Modes[mode];
-  properties.BackColor = platform::ButtonFaceColor;
+  properties.BackColor = drawing::ButtonFaceColor;
   properties.BackGradient = 0;
   properties.BorderStyle = row.BorderStyle;
   properties.ButtonsGradient = row.ButtonsGradient;

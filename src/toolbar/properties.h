@@ -5,7 +5,7 @@
 
 #include <QFont>
 
-#include "platform/system_colors.h"
+#include "drawing/system_colours.h"
 #include "toolbar/picture.h"
 
 namespace toolbar {
@@ -14,11 +14,11 @@ namespace toolbar {
 /// red in its low byte or names a system colour; measures are pixels.
 struct Properties {
   qint16 Appearance = 0;  ///< kept, and nothing else
-  quint32 BackColor = platform::ButtonFaceColor;
-  quint32 RectBorderColor = platform::ButtonFaceColor;  ///< border of the box of ButtonsMode 4
-  bool RectBorderColorAutoBlend = true;                 ///< takes that border from HoverColor instead
-  qint16 BorderStyle = 0;                               ///< 0 none, 1 raised frame, 2 sunken frame
-  bool Enabled = true;                                  ///< a look only
+  quint32 BackColor = drawing::ButtonFaceColor;
+  quint32 RectBorderColor = drawing::ButtonFaceColor;  ///< border of the box of ButtonsMode 4
+  bool RectBorderColorAutoBlend = true;                ///< takes that border from HoverColor instead
+  qint16 BorderStyle = 0;                              ///< 0 none, 1 raised frame, 2 sunken frame
+  bool Enabled = true;                                 ///< a look only
   QFont Font;
   quint32 ForeColor = 0;
   int ButtonsPerRow = 3;
@@ -29,16 +29,16 @@ struct Properties {
   int ButtonsSeperatorWidth = 10;
   bool ShowSeperator = true;
   PictureReference Background = std::make_shared<Picture>();  ///< tiled when BackGradient is 0
-  quint32 HoverColor = platform::ButtonFaceColor;
+  quint32 HoverColor = drawing::ButtonFaceColor;
   int TooTipStyle = 0;  ///< 1 rectangular tip, anything else balloon
   quint32 ToolTipBackCol = 0xE6FDFD;
   quint32 ToolTipForeCol = 0;
   int BackGradient = 0;  ///< kind 0 to 6
   quint32 BackGradientCol = 0xFFFFFF;
-  int ButtonsMode = 3;                                   ///< look of the buttons, 0 to 6
-  quint32 ButtonsBackColor = platform::ButtonFaceColor;  ///< also the end colour of a face gradient
-  quint32 ButtonsGradientCol = 0xFFFFFF;                 ///< the start colour
-  int ButtonsGradient = 0;                               ///< kind 0 to 6
+  int ButtonsMode = 3;                                  ///< look of the buttons, 0 to 6
+  quint32 ButtonsBackColor = drawing::ButtonFaceColor;  ///< also the end colour of a face gradient
+  quint32 ButtonsGradientCol = 0xFFFFFF;                ///< the start colour
+  int ButtonsGradient = 0;                              ///< kind 0 to 6
 };
 
 /// One property of any of the types in use.
@@ -55,9 +55,9 @@ struct PropertyRow {
 };
 
 /// All of them.
-std::span<const PropertyRow> PropertyRows();
+std::span<const PropertyRow> propertyRows();
 /// The row of a property.
-const PropertyRow& RowOf(const Property& property);
+const PropertyRow& rowOf(const Property& property);
 
 /// What choosing a look for the buttons does to the other properties; an unknown one does nothing.
 void ApplyButtonsMode(Properties& properties, int mode);

@@ -1,7 +1,7 @@
 #include "toolbar/repaint.h"
 
-#include "platform/fonts.h"
-#include "platform/raster_text.h"
+#include "drawing/fonts.h"
+#include "drawing/raster_text.h"
 #include "toolbar/captions.h"
 #include "toolbar/colors.h"
 #include "toolbar/faces.h"
@@ -64,44 +64,44 @@ std::optional<Areas> areasOf(const Drawn& button, int offset) {
 
 /// Measures beyond any surface would leave the range of an int.
 void checkRange(const QRect& box) {
-  constexpr int Limit = 1 << 24;
+  constexpr int limit = 1 << 24;
   for (const int measure : {box.x(), box.y(), box.width(), box.height()}) {
-    if (measure < -Limit || measure > Limit) throw std::overflow_error("a measure beyond any surface");
+    if (measure < -limit || measure > limit) throw std::overflow_error("a measure beyond any surface");
   }
 }
 
 class Painter {
  public:
   Painter(Surface& surface, const Scene& scene)
-      : surface_(surface), raster_(surface.Image()), scene_(scene), values_(scene.Buttons.Values()) {}
+      : surface_(surface), raster_(surface.Image()), scene_(scene), values_(scene.buttons.values()) {}
 
   void background() {
-    surface_.ClearPicture();
+    surface_.clearPicture();
     if (values_.BackGradient != 0) {
       FillGradient(raster_, raster_.rect(), values_.BackColor, values_.BackGradientCol, values_.BackGradient);
     } else if (values_.Background) {
       TilePicture(raster_, *values_.Background);
     }
-    surface_.KeepPicture();
+    surface_.keepPicture();
   }
 
   void frame() {
     constexpr int Raised = 1;
     constexpr int Sunken = 2;
-    const bool raised = values_.BorderStyle == Raised || !scene_.IsMain;
+    const bool raised = values_.BorderStyle == Raised || !scene_.isMain;
     if (!raised && values_.BorderStyle != Sunken) return;
     Draw3DBox(raster_, values_, values_.BackColor, raster_.rect(), !raised, 0);
   }
 
   void listButton(int number) {
-    const ToolbarButton& button = scene_.Buttons.Button(number);
-    const bool isHeld = number == scene_.Buttons.Button_Index() && scene_.ButtonHeld;
+    const ToolbarButton& button = scene_.buttons.Button(number);
+    const bool isHeld = number == scene_.buttons.Button_Index() && scene_.ButtonHeld;
     draw({number, button.Icon, button.Caption, button.Pressed || isHeld, button.Enabled,
           QRect(button.PosX, button.PosY, values_.ButtonsWidth, values_.ButtonsHeight), button.IconAlignment});
   }
 
   void item(int number) {
-    const ToolbarButton& button = scene_.Buttons.Button(number);
+    const ToolbarButton& button = scene_.buttons.Button(number);
     if (button.InChevron) return;
     if (button.ButtonType != 0) {
       separator(number);
@@ -112,10 +112,10 @@ class Painter {
 
   /// Whether it is pressed.
   bool chevron() {
-    const bool pressed = scene_.Buttons.Button_Index() == 0 && scene_.ButtonHeld;
+    const bool pressed = scene_.buttons.Button_Index() == 0 && scene_.ButtonHeld;
     const int frame = values_.BorderStyle == 0 ? 0 : 2;
     const QRect box(scene_.InnerSize.width() - ChevronZone,
-                    Whole(qint64(scene_.InnerSize.height()) - values_.ButtonsHeight - frame), ChevronWidth,
+                    whole(qint64(scene_.InnerSize.height()) - values_.ButtonsHeight - frame), ChevronWidth,
                     values_.ButtonsHeight);
     draw({0, nullptr, ChevronSign, pressed, true, box, 0});
     return pressed;
@@ -125,12 +125,12 @@ class Painter {
   void draw(Drawn button) {
     checkRange(button.box);
     const bool enabled = button.enabled && values_.Enabled;
-    const bool hover = button.index == scene_.Buttons.Button_Index();
-    const Face face = DrawFace(raster_, values_, button.box, hover, button.pressed);
+    const bool hover = button.index == scene_.buttons.Button_Index();
+    const Face face = drawFace(raster_, values_, button.box, hover, button.pressed);
     const QPoint corner = button.box.topLeft();
-    button.box.adjust(0, 0, -face.Shrink, -face.Shrink);
-    if (const auto areas = areasOf(button, face.Offset)) {
-      if (button.icon) DrawIcon(raster_, *button.icon, areas->icon, enabled, face.Shadow);
+    button.box.adjust(0, 0, -face.shrink, -face.shrink);
+    if (const auto areas = areasOf(button, face.offset)) {
+      if (button.icon) DrawIcon(raster_, *button.icon, areas->icon, enabled, face.shadow);
       const QRgb color = TranslateColor(enabled ? values_.ForeColor : GreyText);
       if (!button.caption.isEmpty()) {
         DrawCaption(raster_, values_.Font, color, areas->text, areas->caption, areas->shift);
@@ -140,12 +140,12 @@ class Painter {
   }
 
   void separator(int number) {
-    const ToolbarButton& button = scene_.Buttons.Button(number);
+    const ToolbarButton& button = scene_.buttons.Button(number);
     const int width = values_.ButtonsSeperatorWidth;
     const int height = values_.ButtonsHeight;
     checkRange(QRect(button.PosX, button.PosY, width, height));
     if (values_.ShowSeperator) {
-      const int x = Nearest(button.PosX + width / 2.0);
+      const int x = nearest(button.PosX + width / 2.0);
       const int y = button.PosY + 2;
       raster_.Line(x, y, x, y + height - 6, BlendColors(values_.BackColor, 0));
       raster_.Line(x + 1, y, x + 1, y + height - 6, BlendColors(values_.BackColor, 0xFFFFFF));
@@ -159,14 +159,14 @@ class Painter {
     const QRgb color = TranslateColor(values_.ForeColor);
     const int x = corner.x();
     const int y = corner.y();
-    platform::Print(raster_, platform::DrawnFont(values_.Font), QString::number(number), x, y + 2, color);
+    drawing::Print(raster_, drawing::drawnFont(values_.Font), QString::number(number), x, y + 2, color);
     const int mode = values_.ButtonsMode;
-    if (number != scene_.Buttons.Button_Index() || (mode != 0 && mode != 2 && mode != 3)) return;
+    if (number != scene_.buttons.Button_Index() || (mode != 0 && mode != 2 && mode != 3)) return;
     raster_.Rectangle(x + 1, y + 1, x + width - 2, y + 4, color, TranslateColor(values_.ButtonsBackColor));
   }
 
   Surface& surface_;
-  platform::Raster& raster_;
+  drawing::Raster& raster_;
   const Scene& scene_;
   const Properties& values_;
 };
@@ -183,23 +183,23 @@ void guarded(Part part) {
 
 }  // namespace
 
-bool Paint(Surface& surface, const Scene& scene, bool& backgroundDrawn) {
+bool paint(Surface& surface, const Scene& scene, bool& backgroundDrawn) {
   if (surface.Image().rect().isEmpty()) return false;
   Painter painter(surface, scene);
   bool opens = false;
   guarded([&] {
     surface.Cls();
-    surface.SetBackColor(TranslateColor(scene.Buttons.Values().BackColor));
+    surface.SetBackColor(TranslateColor(scene.buttons.values().BackColor));
     if (!backgroundDrawn) {
       painter.background();
       backgroundDrawn = true;
     }
     painter.frame();
-    if (!scene.IsMain) {
+    if (!scene.isMain) {
       for (const int number : scene.HiddenButtons) guarded([&] { painter.listButton(number); });
       return;
     }
-    for (int i = 1; i <= scene.Buttons.Button_Count(); ++i) guarded([&] { painter.item(i); });
+    for (int i = 1; i <= scene.buttons.Button_Count(); ++i) guarded([&] { painter.item(i); });
     if (!scene.HiddenButtons.empty()) guarded([&] { opens = painter.chevron(); });
   });
   return opens;

@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "platform/stored_values.h"
+#include "propertybag/stored_values.h"
 
 namespace toolbar {
 
 namespace {
 
-using platform::PropertyBag;
-using platform::StoredPicture;
+using propertybag::PropertyBag;
+using propertybag::StoredPicture;
 
 constexpr QStringView CountKey = u"Button_Count";
 constexpr QStringView IndexKey = u"Button_Index";
@@ -81,20 +81,20 @@ QVariant toStored(const auto& value) {
   return QVariant::fromValue(value);
 }
 QVariant toStored(const PictureReference& picture) {
-  const QByteArray file = picture ? FileOf(*picture) : QByteArray();
+  const QByteArray file = picture ? fileOf(*picture) : QByteArray();
   return file.isEmpty() ? QVariant() : QVariant::fromValue(StoredPicture{file});
 }
 
 /// Whether the value is of the member's type.
 template <typename T>
 bool fromStored(const QVariant& value, T& member) {
-  const std::optional<T> stored = platform::StoredAs<T>(value);
+  const std::optional<T> stored = propertybag::storedAs<T>(value);
   member = stored.value_or(member);
   return stored.has_value();
 }
 bool fromStored(const QVariant& value, PictureReference& member) {
-  const auto stored = platform::StoredAs<StoredPicture>(value);
-  if (stored) member = PictureOfFile(stored->File);
+  const auto stored = propertybag::storedAs<StoredPicture>(value);
+  if (stored) member = pictureOfFile(stored->File);
   return stored.has_value();
 }
 
@@ -108,7 +108,7 @@ void write(PropertyBag& bag, const QString& key, const auto& value, const auto& 
 }
 
 const Property& propertyOf(QStringView key) {
-  const auto rows = PropertyRows();
+  const auto rows = propertyRows();
   return std::find_if(rows.begin(), rows.end(),
                       [key](const PropertyRow& row) { return key.compare(row.name, Qt::CaseInsensitive) == 0; })
       ->property;
@@ -131,32 +131,32 @@ bool readControl(const PropertyBag& bag, Properties& values, int& count) {
 
 }  // namespace
 
-std::optional<StoredToolBar> ReadStoredForm(const PropertyBag& bag, const QFont& ambientFont) {
+std::optional<StoredToolBar> readStoredForm(const PropertyBag& bag, const QFont& ambientFont) {
   StoredToolBar toolBar{storedDefaults(ambientFont), {}};
   int count = 1;
-  if (!readControl(bag, toolBar.Values, count) || count < 1 || count > MostButtons) return std::nullopt;
-  toolBar.Buttons.resize(size_t(count), storedButton());
+  if (!readControl(bag, toolBar.values, count) || count < 1 || count > MostButtons) return std::nullopt;
+  toolBar.buttons.resize(size_t(count), storedButton());
   for (int number = 1; number <= count; ++number) {
-    if (!readButton(bag, QString::number(number), toolBar.Buttons[size_t(number) - 1])) return std::nullopt;
+    if (!readButton(bag, QString::number(number), toolBar.buttons[size_t(number) - 1])) return std::nullopt;
   }
   return toolBar;
 }
 
-void WriteStoredForm(PropertyBag& bag, const StoredToolBar& toolBar, const QFont& ambientFont) {
+void writeStoredForm(PropertyBag& bag, const StoredToolBar& toolBar, const QFont& ambientFont) {
   const Properties defaults = storedDefaults(ambientFont);
   for (const QStringView key : Keys) {
     if (key == CountKey) {
-      write(bag, key.toString(), int(toolBar.Buttons.size()), 1);
+      write(bag, key.toString(), int(toolBar.buttons.size()), 1);
     } else if (key == IndexKey) {
       write(bag, key.toString(), toolBar.Button_Index, 1);
     } else {
-      std::visit([&](const auto member) { write(bag, key.toString(), toolBar.Values.*member, defaults.*member); },
+      std::visit([&](const auto member) { write(bag, key.toString(), toolBar.values.*member, defaults.*member); },
                  propertyOf(key));
     }
   }
   const ToolbarButton plain = storedButton();
   int number = 0;
-  for (const ToolbarButton& button : toolBar.Buttons) {
+  for (const ToolbarButton& button : toolBar.buttons) {
     const QString suffix = QString::number(++number);
     for (const FieldRow& row : Fields) {
       std::visit([&](const auto field) { write(bag, row.stem.toString() + suffix, button.*field, plain.*field); },

@@ -7,31 +7,31 @@ namespace toolbar {
 namespace {
 
 /// The picture at the top left, as far as it fits.
-void copyOnto(platform::Raster& raster, const QImage& picture) {
+void copyOnto(drawing::Raster& raster, const QImage& picture) {
   for (int y = 0; y < std::min(raster.Height(), picture.height()); ++y) {
     const auto* const row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
-    std::copy_n(row, std::min(raster.Width(), picture.width()), raster.Row(y));
+    std::copy_n(row, std::min(raster.Width(), picture.width()), raster.pixelRow(y));
   }
 }
 
 }  // namespace
 
-void Surface::Resize(const QSize& size) {
+void Surface::resize(const QSize& size) {
   const QSize fitting(std::clamp(size.width(), 0, LargestSide), std::clamp(size.height(), 0, LargestSide));
   if (fitting == image_.image().size()) return;
   const QImage before = image_.image();
-  image_ = platform::Raster(fitting, backColor_);
+  image_ = drawing::Raster(fitting, backColor_);
   copyOnto(image_, before);
 }
 
 void Surface::Cls() {
-  if (picture_.size() != image_.image().size()) image_.Wipe(backColor_);
+  if (picture_.size() != image_.image().size()) image_.wipe(backColor_);
   copyOnto(image_, picture_);
 }
 
-void Surface::ClearPicture() {
+void Surface::clearPicture() {
   picture_ = QImage();
-  image_.Wipe(backColor_);
+  image_.wipe(backColor_);
 }
 
 }  // namespace toolbar

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/raster.h"
+#include "drawing/raster.h"
 
 namespace toolbar {
 
@@ -9,23 +9,23 @@ class Surface {
  public:
   static constexpr int LargestSide = 16384;
 
-  platform::Raster& Image() { return image_; }
-  const platform::Raster& Image() const { return image_; }
+  drawing::Raster& Image() { return image_; }
+  const drawing::Raster& Image() const { return image_; }
   int ScaleWidth() const { return image_.Width(); }
   int ScaleHeight() const { return image_.Height(); }
 
   /// Keeps what is drawn, as far as it fits. Sides above LargestSide are cut.
-  void Resize(const QSize& size);
+  void resize(const QSize& size);
   void SetBackColor(QRgb color) { backColor_ = color; }
   /// Back to the picture, or to the back colour without one.
   void Cls();
   /// Without a picture, all in the back colour.
-  void ClearPicture();
+  void clearPicture();
   /// What is drawn now becomes the picture.
-  void KeepPicture() { picture_ = image_.image(); }
+  void keepPicture() { picture_ = image_.image(); }
 
  private:
-  platform::Raster image_;
+  drawing::Raster image_;
   QImage picture_;
   QRgb backColor_ = 0xFFFFFFFF;
 };

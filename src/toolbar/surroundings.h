@@ -31,16 +31,16 @@ class Windows {
   virtual ~Windows() = default;
   virtual void SetHeight(int pixels) = 0;
   /// The surface's pixels or size are new.
-  virtual void Present(SurfaceName surface) = 0;
-  virtual QRect ControlOnScreen() const = 0;
+  virtual void present(SurfaceName surface) = 0;
+  virtual QRect controlOnScreen() const = 0;
   virtual void CreateChevronWindow() = 0;
-  virtual void MovePopup(const QRect& onScreen) = 0;
+  virtual void movePopup(const QRect& onScreen) = 0;
   /// Its top left stays.
-  virtual void ResizePopup(const QSize& size) = 0;
-  virtual void SetPopupVisible(bool visible) = 0;
-  virtual bool IsPopupVisible() const = 0;
+  virtual void resizePopup(const QSize& size) = 0;
+  virtual void setPopupVisible(bool visible) = 0;
+  virtual bool isPopupVisible() const = 0;
   /// The pointing hand or the system's arrow.
-  virtual void SetHand(SurfaceName surface, bool hand) = 0;
+  virtual void setHand(SurfaceName surface, bool hand) = 0;
   /// Starts the timer anew; its messages come until it is killed.
   virtual void SetTimer() = 0;
   virtual void KillTimer() = 0;

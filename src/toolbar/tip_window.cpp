@@ -9,7 +9,7 @@
 #include <QScreen>
 #include <QStyle>
 
-#include "platform/fonts.h"
+#include "drawing/fonts.h"
 #include "toolbar/colors.h"
 
 namespace toolbar {
@@ -28,7 +28,7 @@ constexpr int BelowPointer = 20;
 constexpr int WidestText = 400;
 
 QFont titleFont() {
-  QFont font = platform::ControlFont(QStringLiteral("MS Sans Serif"), TextPixels);
+  QFont font = drawing::controlFont(QStringLiteral("MS Sans Serif"), TextPixels);
   font.setBold(true);
   return font;
 }
@@ -46,7 +46,7 @@ TipWindow::TipWindow(const ToolTip& tip, QWidget* parent)
     : QWidget(parent, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowTransparentForInput), tip_(tip) {
   setAttribute(Qt::WA_ShowWithoutActivating);
   setFocusPolicy(Qt::NoFocus);
-  setFont(platform::ControlFont(QStringLiteral("MS Sans Serif"), TextPixels));
+  setFont(drawing::controlFont(QStringLiteral("MS Sans Serif"), TextPixels));
   setAccessibleName(tip.Text);
   const int stem = tip_.IsBalloon ? StemLength : 0;
   resize(contents() + QSize(2 * Margin, 2 * Margin + stem));
@@ -84,7 +84,7 @@ QPainterPath TipWindow::outline() const {
   return path.united(stem);
 }
 
-void TipWindow::ShowAt(const QPoint& pointer) {
+void TipWindow::showAt(const QPoint& pointer) {
   const QRect screen = parentWidget()->screen()->availableGeometry();
   const int distance = tip_.IsBalloon ? 2 : BelowPointer;
   isAbove_ = pointer.y() + distance + height() > screen.bottom();

@@ -12,7 +12,7 @@ class TipWindow : public QWidget {
   TipWindow(const ToolTip& tip, QWidget* parent);
 
   /// Shows it below this place on the screen, or above it where the screen ends.
-  void ShowAt(const QPoint& pointer);
+  void showAt(const QPoint& pointer);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

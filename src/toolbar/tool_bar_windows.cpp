@@ -21,7 +21,7 @@ void ToolBarWindows::SetHeight(int pixels) {
   bar_.updateGeometry();
 }
 
-void ToolBarWindows::Present(SurfaceName surface) {
+void ToolBarWindows::present(SurfaceName surface) {
   if (surface == SurfaceName::Main) {
     bar_.update();
   } else if (popup_) {
@@ -29,7 +29,7 @@ void ToolBarWindows::Present(SurfaceName surface) {
   }
 }
 
-QRect ToolBarWindows::ControlOnScreen() const {
+QRect ToolBarWindows::controlOnScreen() const {
   return {bar_.mapToGlobal(QPoint(0, 0)), bar_.size()};
 }
 
@@ -44,22 +44,22 @@ void ToolBarWindows::CreateChevronWindow() {
   popup_->installEventFilter(&bar_);
 }
 
-void ToolBarWindows::MovePopup(const QRect& onScreen) {
+void ToolBarWindows::movePopup(const QRect& onScreen) {
   if (popup_) popup_->setGeometry(onScreen);
 }
 
-void ToolBarWindows::ResizePopup(const QSize& size) {
+void ToolBarWindows::resizePopup(const QSize& size) {
   if (popup_) popup_->resize(size);
 }
 
-void ToolBarWindows::SetPopupVisible(bool visible) {
+void ToolBarWindows::setPopupVisible(bool visible) {
   if (!popup_) return;
   popup_->setVisible(visible);
   // So that the loss of the focus can close it.
   if (visible) bar_.setFocus(Qt::OtherFocusReason);
 }
 
-void ToolBarWindows::SetHand(SurfaceName surface, bool hand) {
+void ToolBarWindows::setHand(SurfaceName surface, bool hand) {
   QWidget* const window = surface == SurfaceName::Main ? &bar_ : popup_.get();
   if (window) window->setCursor(hand ? Qt::PointingHandCursor : Qt::ArrowCursor);
 }
@@ -70,7 +70,7 @@ void ToolBarWindows::SetTimer() {
 
 void ToolBarWindows::ShowToolTip(const ToolTip& tip) {
   tip_ = std::make_unique<TipWindow>(tip, &bar_);
-  tip_->ShowAt(QCursor::pos());
+  tip_->showAt(QCursor::pos());
 }
 
 }  // namespace toolbar

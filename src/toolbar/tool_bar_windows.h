@@ -15,25 +15,25 @@ class ToolBarWindows : public Windows {
  public:
   explicit ToolBarWindows(QWidget& bar) : bar_(bar) {}
 
-  QWidget* Popup() const { return popup_.get(); }
-  QTimer& TimerObject() { return timer_; }
+  QWidget* popup() const { return popup_.get(); }
+  QTimer& timerObject() { return timer_; }
   /// Ends popup and tip.
   void destroyAll();
   /// The surface whose leaving is still to be told.
-  std::optional<SurfaceName> Tracked;
+  std::optional<SurfaceName> tracked;
 
   void SetHeight(int pixels) override;
-  void Present(SurfaceName surface) override;
-  QRect ControlOnScreen() const override;
+  void present(SurfaceName surface) override;
+  QRect controlOnScreen() const override;
   void CreateChevronWindow() override;
-  void MovePopup(const QRect& onScreen) override;
-  void ResizePopup(const QSize& size) override;
-  void SetPopupVisible(bool visible) override;
-  bool IsPopupVisible() const override { return popup_ && popup_->isVisible(); }
-  void SetHand(SurfaceName surface, bool hand) override;
+  void movePopup(const QRect& onScreen) override;
+  void resizePopup(const QSize& size) override;
+  void setPopupVisible(bool visible) override;
+  bool isPopupVisible() const override { return popup_ && popup_->isVisible(); }
+  void setHand(SurfaceName surface, bool hand) override;
   void SetTimer() override;
   void KillTimer() override { timer_.stop(); }
-  void StartLeaveTracking(SurfaceName surface) override { Tracked = surface; }
+  void StartLeaveTracking(SurfaceName surface) override { tracked = surface; }
   void ShowToolTip(const ToolTip& tip) override;
   void DestroyToolTip() override { tip_.reset(); }
 

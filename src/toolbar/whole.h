@@ -9,7 +9,7 @@
 namespace toolbar {
 
 /// The number as an int; throws std::overflow_error when it doesn't fit.
-inline int Whole(qint64 number) {
+inline int whole(qint64 number) {
   if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max()) {
     throw std::overflow_error("a measure beyond its range");
   }
@@ -17,10 +17,10 @@ inline int Whole(qint64 number) {
 }
 
 /// The nearest whole number, a half to the even neighbour.
-inline int Nearest(double number) {
-  constexpr double Limit = 1e15;
-  if (!(std::abs(number) < Limit)) throw std::overflow_error("a measure beyond its range");
-  return Whole(qint64(std::nearbyint(number)));
+inline int nearest(double number) {
+  constexpr double limit = 1e15;
+  if (!(std::abs(number) < limit)) throw std::overflow_error("a measure beyond its range");
+  return whole(qint64(std::nearbyint(number)));
 }
 
 }  // namespace toolbar

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "drawing/system_colours.h"
 #include "platform/code_page.h"
-#include "platform/system_colors.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/working_copies.h"
@@ -29,7 +29,7 @@ QString newColor() {
 }
 
 QColor shownColor(const QString& color) {
-  return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
+  return drawing::colorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
 }
 
 template <typename Table>
@@ -47,14 +47,14 @@ QStringList namesOf(const Table& table) {
 }
 
 QStringList namesOfGroup(const themefiles::ModuleState& state, int group) {
-  if (group == ProgramGroup) return themefiles::ProgramColorNames();
+  if (group == ProgramGroup) return themefiles::programColorNames();
   return group == ThemeGroup ? namesOf(state.ThemeColors) : namesOf(state.PlayerColors);
 }
 
 /// The group that holds the name; -1 for none. An empty name is that of a free row.
 int groupOf(const themefiles::ModuleState& state, const QString& name) {
   if (rowNamed(state.ThemeColors, name) != state.ThemeColors.end()) return ThemeGroup;
-  if (themefiles::ProgramColorNames().contains(name)) return ProgramGroup;
+  if (themefiles::programColorNames().contains(name)) return ProgramGroup;
   return rowNamed(state.PlayerColors, name) != state.PlayerColors.end() ? PlayerGroup : -1;
 }
 
@@ -66,18 +66,18 @@ void listNames(Form2& form, const QStringList& names) {
 /// First row of the name as an ini file tells names apart: not by case.
 auto rowLike(themefiles::ModuleState& state, const QString& name) {
   return std::find_if(state.ThemeColors.begin(), state.ThemeColors.end(),
-                      [&](const NamedColor& row) { return platform::SameName(row.Name, name); });
+                      [&](const NamedColor& row) { return platform::sameName(row.Name, name); });
 }
 
 /// Gives all rows of the name a value: of equal keys an ini file shows the first.
 void setRowsLike(themefiles::ModuleState& state, const QString& name, const QString& value) {
   for (NamedColor& row : state.ThemeColors) {
-    if (platform::SameName(row.Name, name)) row.Value = value;
+    if (platform::sameName(row.Name, name)) row.Value = value;
   }
 }
 
 bool writeColor(Form2& form, QStringView step, const QString& name, const std::optional<QString>& value) {
-  return WriteAtOnce(form, step, &themefiles::ThemePaths::ThemeFile, section(), name, value);
+  return writeAtOnce(form, step, &themefiles::ThemePaths::ThemeFile, section(), name, value);
 }
 
 }  // namespace
@@ -85,13 +85,13 @@ bool writeColor(Form2& form, QStringView step, const QString& name, const std::o
 void FillColorEditor(Form2& form, const QString& Value) {
   form.Combo3->Clear();
   form.Command2->SetBackColor(shownColor(newColor()));
-  const int group = groupOf(form.Services.State, Value);
+  const int group = groupOf(form.services.state, Value);
   if (group < 0) return;
   form.Command3->setEnabled(true);
   form.Command5->setEnabled(true);
-  listNames(form, namesOfGroup(form.Services.State, group));
+  listNames(form, namesOfGroup(form.services.state, group));
   form.Combo4->SetListIndex(group);
-  form.Combo3->SelectText(Value);
+  form.Combo3->selectText(Value);
 }
 
 void Combo4_Click(Form2& form, controls::Cause cause) {
@@ -99,26 +99,26 @@ void Combo4_Click(Form2& form, controls::Cause cause) {
   const int group = form.Combo4->ListIndex();
   for (QPushButton* button : std::initializer_list<QPushButton*>{form.Command3, form.Command2, form.Command5})
     button->setEnabled(group == ThemeGroup);
-  listNames(form, namesOfGroup(form.Services.State, group));
+  listNames(form, namesOfGroup(form.services.state, group));
   if (form.Combo3->ListCount() > 0) form.Combo3->SetListIndex(0);
 }
 
 void Combo3_Click(Form2& form) {
-  const themefiles::ModuleState& state = form.Services.State;
+  const themefiles::ModuleState& state = form.services.state;
   const QString name = form.Combo3->Text();
   const int group = form.Combo4->ListIndex();
   if (group == ThemeGroup) {
     const auto row = rowNamed(state.ThemeColors, name);
     if (!name.isEmpty() && row != state.ThemeColors.end()) form.Command2->SetBackColor(shownColor(row->Value));
   } else if (group == ProgramGroup || group == PlayerGroup) {
-    form.Command2->SetBackColor(shownColor(themefiles::ResolveColor(state, name, form.Services.SchemeName())));
+    form.Command2->SetBackColor(shownColor(themefiles::ResolveColor(state, name, form.services.schemeName())));
   }
 }
 
 void Command2_Click(Form2& form) {
   if (form.Combo3->ListIndex() < 0) return;
-  themefiles::ModuleState& state = form.Services.State;
-  const auto color = form.Services.Dialogs.ChooseColor(&form, form.Command2->BackColor());
+  themefiles::ModuleState& state = form.services.state;
+  const auto color = form.services.dialogs.chooseColor(&form, form.Command2->BackColor());
   if (!color) return;
   const QString name = form.Combo3->Text();
   const auto row = rowNamed(state.ThemeColors, name);
@@ -134,65 +134,65 @@ void Command2_Click(Form2& form) {
 }
 
 void putSavedColorBack(Form2& form, const QString& name, const SavedValue& saved) {
-  ToolServices& services = form.Services;
+  ToolServices& services = form.services;
   const bool written = writeAtOnce(form, WriteStep, [&] {
     for (const SavedLine& line : saved.lines) {
-      themefiles::putLineInCopy(services.State, line.copy, line.section, line.key, line.line, services.Status);
+      themefiles::putLineInCopy(services.state, line.copy, line.section, line.key, line.line, services.status);
     }
   });
   if (!written) return;
-  const QString value = themefiles::GetINI(section(), name, newColor(), services.State.Paths.ThemeFile);
-  setRowsLike(services.State, name, value);
+  const QString value = themefiles::GetINI(section(), name, newColor(), services.state.paths.ThemeFile);
+  setRowsLike(services.state, name, value);
   form.Command2->SetBackColor(shownColor(value));
 }
 
 void Command3_Click(Form2& form) {
   const QStringView step = u"Error while adding colors";
   const QString name =
-      form.Services.Dialogs.InputBox(&form, QStringLiteral("Name of the New Color:"), QStringLiteral("New Color"));
+      form.services.dialogs.inputBox(&form, QStringLiteral("Name of the New Color:"), QStringLiteral("New Color"));
   if (name.isEmpty()) return;
-  if (form.Combo3->EntryLike(name) >= 0) {
-    ShowErrorBox(form, QStringLiteral("Color already exist!"));
+  if (form.Combo3->entryLike(name) >= 0) {
+    showErrorBox(form, QStringLiteral("Color already exist!"));
     return;
   }
-  if (!AcceptNewName(form, name)) return;
-  themefiles::ModuleState& state = form.Services.State;
+  if (!acceptNewName(form, name)) return;
+  themefiles::ModuleState& state = form.services.state;
   // Another group is on show, and the theme has the name: the one line of the file gets one row.
   auto row = rowLike(state, name);
   const QString replaced = row == state.ThemeColors.end() ? QString() : row->Value;
   if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
   if (row == state.ThemeColors.end()) {
-    form.Services.Status.ShowStatus(platform::ReportText(step.toString(), QString()));
+    form.services.status.ShowStatus(platform::reportText(step.toString(), QString()));
     return;
   }
-  const platform::Telling telling(form.Services.Status);
+  const platform::Telling telling(form.services.status);
   if (!writeColor(form, step, name, newColor())) return;
   if (row->Name.isEmpty()) row->Name = name;
   setRowsLike(state, name, newColor());
   form.Combo3->AddItem(row->Name);
-  form.Combo3->SetListIndex(form.Combo3->EntryLike(name));
+  form.Combo3->SetListIndex(form.Combo3->entryLike(name));
   if (replaced.isEmpty()) return;
-  form.Services.Status.note(QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced));
+  form.services.status.note(QStringLiteral("%1 was %2 and is a new colour now").arg(row->Name, replaced));
 }
 
 void Command5_Click(Form2& form) {
   const QString name = form.Combo3->Text();
   if (name.isEmpty()) return;
-  const auto answer = form.Services.Dialogs.MessageBox(
+  const auto answer = form.services.dialogs.messageBox(
       &form, QStringLiteral("Really delete this Color?") + QStringLiteral("\n\n") + name,
       QStringLiteral("Delete Color"), platform::BoxKind::YesNoDefaultNo);
   if (answer != platform::BoxAnswer::Yes) return;
-  themefiles::ModuleState& state = form.Services.State;
+  themefiles::ModuleState& state = form.services.state;
   if (rowNamed(state.ThemeColors, name) == state.ThemeColors.end()) return;
   if (!writeColor(form, WriteStep, name, std::nullopt)) return;
   // The row whose line has gone from the file, and its entry: not the selected one where two names differ in case only.
   const auto row = rowLike(state, name);
   const int entry = form.Combo3->findText(row->Name);
   *row = {};
-  setRowsLike(state, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.Paths.ThemeFile));
+  setRowsLike(state, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.paths.ThemeFile));
   form.Combo3->RemoveItem(entry >= 0 ? entry : form.Combo3->ListIndex());
   form.Combo3->SetListIndex(-1);
-  form.Command2->SetBackColor(platform::ColorOf(platform::ButtonFaceColor));
+  form.Command2->SetBackColor(drawing::colorOf(drawing::ButtonFaceColor));
 }
 
 }  // namespace toolwindow

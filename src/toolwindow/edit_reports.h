@@ -21,16 +21,16 @@ inline constexpr QStringView WriteStep = u"Error while writing tempfile";
 
 /// Writes a key of a working copy at once (without a value: removes it), and tells the user where that is kept. Gives
 /// whether the write reached the file; if not, it is reported as a failed `step`.
-bool WriteAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,
+bool writeAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,
                  const QString& key, const std::optional<QString>& value);
 
 /// The same by a `write` of its own.
 bool writeAtOnce(Form2& form, QStringView step, const std::function<void()>& write);
 
 /// An error box over the tool window.
-void ShowErrorBox(Form2& form, const QString& text);
+void showErrorBox(Form2& form, const QString& text);
 
 /// Whether an ini file gives `name` back as a key's name; tells the user when it doesn't.
-bool AcceptNewName(Form2& form, const QString& name);
+bool acceptNewName(Form2& form, const QString& name);
 
 }  // namespace toolwindow

@@ -39,7 +39,7 @@ struct Editor {
 
 Editor editorOf(const Form2& form, KeyEditor which) {
   const KeyEditorRow& row = Rows.at(static_cast<size_t>(which));
-  return {row.section.toString(), row.copy,         form.Services.State.Paths.*row.copy,
+  return {row.section.toString(), row.copy,         form.services.state.paths.*row.copy,
           *(form.*row.list),      *(form.*row.box), row.newKeyTitle.toString()};
 }
 
@@ -47,22 +47,22 @@ void fill(Form2& form, KeyEditor which, const QString& value) {
   const Editor editor = editorOf(form, which);
   editor.list.Clear();
   editor.box.SetText(QString());
-  for (const QString& key : themefiles::KeyNames(editor.section, editor.file)) editor.list.AddItem(key);
-  editor.list.SelectText(value);
+  for (const QString& key : themefiles::keyNames(editor.section, editor.file)) editor.list.AddItem(key);
+  editor.list.selectText(value);
 }
 
 bool writeKey(Form2& form, const Editor& editor, const QString& key, const std::optional<QString>& value) {
-  return WriteAtOnce(form, WriteStep, editor.copy, editor.section, key, value);
+  return writeAtOnce(form, WriteStep, editor.copy, editor.section, key, value);
 }
 
 /// Whether the section has the key, also one that its list was too short for.
 bool keyExists(const Editor& editor, const QString& key) {
-  return editor.list.EntryLike(key) >= 0 || themefiles::HoldsKey(editor.section, key, editor.file);
+  return editor.list.entryLike(key) >= 0 || themefiles::holdsKey(editor.section, key, editor.file);
 }
 
 }  // namespace
 
-Reference ShownReference(const Form2& form, KeyEditor which) {
+Reference shownReference(const Form2& form, KeyEditor which) {
   const Editor editor = editorOf(form, which);
   return {editor.copy, editor.section, editor.list.Text(), editor.box.Text()};
 }
@@ -85,18 +85,18 @@ void KeyList_Click(Form2& form, KeyEditor which) {
   if (fits) return;
   // Without a selected key nothing can be written over it.
   editor.list.SetListIndex(-1);
-  form.Services.Status.ShowStatus(platform::ReportText(ReadStep.toString(), tooLongText(key)));
+  form.services.status.ShowStatus(platform::reportText(ReadStep.toString(), tooLongText(key)));
 }
 
 void AddKey_Click(Form2& form, KeyEditor which) {
   const Editor editor = editorOf(form, which);
   const QString name =
-      form.Services.Dialogs.InputBox(&form, QStringLiteral("Name of the New Key:"), editor.newKeyTitle);
-  if (name.isEmpty() || !AcceptNewName(form, name)) return;
+      form.services.dialogs.inputBox(&form, QStringLiteral("Name of the New Key:"), editor.newKeyTitle);
+  if (name.isEmpty() || !acceptNewName(form, name)) return;
   bool exists = false;
-  if (!platform::Guarded(form.Services.Status, WriteStep.toString(), [&] { exists = keyExists(editor, name); })) return;
+  if (!platform::guarded(form.services.status, WriteStep.toString(), [&] { exists = keyExists(editor, name); })) return;
   if (exists) {
-    ShowErrorBox(form, QStringLiteral("Key already exist!"));
+    showErrorBox(form, QStringLiteral("Key already exist!"));
     return;
   }
   if (!writeKey(form, editor, name, QString())) return;
@@ -109,7 +109,7 @@ void RemoveKey_Click(Form2& form, KeyEditor which) {
   const QString key = editor.list.Text();
   if (key.isEmpty()) return;
   const auto answer =
-      form.Services.Dialogs.MessageBox(&form, QStringLiteral("Really delete this Key?") + QStringLiteral("\n\n") + key,
+      form.services.dialogs.messageBox(&form, QStringLiteral("Really delete this Key?") + QStringLiteral("\n\n") + key,
                                        QStringLiteral("Delete Key"), platform::BoxKind::YesNoDefaultNo);
   if (answer != platform::BoxAnswer::Yes) return;
   if (!writeKey(form, editor, key, std::nullopt)) return;
@@ -119,15 +119,15 @@ void RemoveKey_Click(Form2& form, KeyEditor which) {
 }
 
 void Command4_Click(Form2& form) {
-  const QString& skinFolder = form.Services.State.Paths.SkinDirectory;
-  const QString path = form.Services.Dialogs.OpenFile(
+  const QString& skinFolder = form.services.state.paths.SkinDirectory;
+  const QString path = form.services.dialogs.openFile(
       &form, {QStringLiteral("Change Filename"),
               QStringLiteral("All supported image files (*.bmp,*.gif,*.jpg,*.png)|*.bmp;*.gif;*.jpg;*.png"), QString(),
               skinFolder, true});
   if (path.isEmpty()) return;
   const qsizetype separator = path.lastIndexOf(u'\\');
-  if (!platform::SameFolder(path.left(separator), skinFolder)) {
-    ShowErrorBox(form, QStringLiteral("Image must be in ") + skinFolder);
+  if (!platform::sameFolder(path.left(separator), skinFolder)) {
+    showErrorBox(form, QStringLiteral("Image must be in ") + skinFolder);
     return;
   }
   form.Text3->SetText(path.mid(separator + 1));

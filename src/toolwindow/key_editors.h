@@ -21,7 +21,7 @@ struct Reference {
 };
 
 /// What the frame shows.
-Reference ShownReference(const Form2& form, KeyEditor which);
+Reference shownReference(const Form2& form, KeyEditor which);
 
 /// Lists the keys of the section anew and selects the one that equals Value, if any.
 void FillTextKeys(Form2& form, const QString& Value);

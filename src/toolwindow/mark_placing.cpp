@@ -9,15 +9,15 @@ namespace toolwindow {
 namespace {
 
 void drawCursor(Form2& form) {
-  ToolServices& services = form.Services;
-  renderer::DrawCursor(services.State, form.Tags, services.Workspace, services.Mark, services.Status);
+  ToolServices& services = form.services;
+  renderer::DrawCursor(services.state, form.tags, services.Workspace, services.mark, services.status);
 }
 
 }  // namespace
 
-void PlaceMark(Form2& form, MarkPen pen) {
-  ToolServices& services = form.Services;
-  if (pen == MarkPen::Left || !services.Queue.Busy()) {
+void placeMark(Form2& form, MarkPen pen) {
+  ToolServices& services = form.services;
+  if (pen == MarkPen::Left || !services.queue.busy()) {
     drawCursor(form);
     return;
   }
@@ -26,7 +26,7 @@ void PlaceMark(Form2& form, MarkPen pen) {
   drawCursor(form);
   services.Workspace.SetFontName(face);
   services.Workspace.SetFontSize(size);
-  services.Queue.SetAfterwork([open = QPointer<Form2>(&form)] {
+  services.queue.setAfterwork([open = QPointer<Form2>(&form)] {
     if (open) drawCursor(*open);
   });
 }

@@ -11,6 +11,6 @@ enum class MarkPen {
 };
 
 /// Places the mark on the selected object.
-void PlaceMark(Form2& form, MarkPen pen);
+void placeMark(Form2& form, MarkPen pen);
 
 }  // namespace toolwindow

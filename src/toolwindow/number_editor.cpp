@@ -57,12 +57,12 @@ class Counting : public QObject {
 }  // namespace
 
 void Text1_Change(Form2& form) {
-  const int limit = form.VScroll1->Limit();
-  const double number = platform::NumberOf(form.Text1->Text());
-  const auto rounded = platform::RoundToInt16(number);
+  const int limit = form.VScroll1->limit();
+  const double number = platform::numberOf(form.Text1->Text());
+  const auto rounded = platform::roundToInt16(number);
   const int value = rounded.value_or(static_cast<qint16>(number > 0 ? limit + 1 : -limit));
   if (value > limit) {
-    form.VScroll1->SetValueQuietly(limit);
+    form.VScroll1->setValueQuietly(limit);
   } else {
     form.VScroll1->SetValue(value);
   }

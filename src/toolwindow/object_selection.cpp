@@ -17,37 +17,37 @@ namespace toolwindow {
 namespace {
 
 void showTag(Form2& form, MarkPen pen) {
-  ToolServices& services = form.Services;
-  form.ListView1->ClearRows();
-  for (const themefiles::ValueRow& row : themefiles::ReadTag(services.State, form.List1->Text(), services.Status)) {
-    form.ListView1->AddRow(row.Item, row.Value);
+  ToolServices& services = form.services;
+  form.ListView1->clearRows();
+  for (const themefiles::ValueRow& row : themefiles::ReadTag(services.state, form.List1->Text(), services.status)) {
+    form.ListView1->addRow(row.Item, row.Value);
   }
-  if (services.State.EditorShown) form.CloseEditorFrame();
-  PlaceMark(form, pen);
+  if (services.state.EditorShown) form.closeEditorFrame();
+  placeMark(form, pen);
   form.Marking.start();
 }
 
 }  // namespace
 
-void ListScreen(Form2& form) {
-  ToolServices& services = form.Services;
-  themefiles::ModuleState& state = services.State;
+void listScreen(Form2& form) {
+  ToolServices& services = form.services;
+  themefiles::ModuleState& state = services.state;
   state.ButtonListFilled = false;
   form.List1->Clear();
   const QString screen = form.Combo1->Text();
-  state.Filter = themefiles::FilterOf(screen);
+  state.Filter = themefiles::filterOf(screen);
   const auto clearFilter = qScopeGuard([&] { state.Filter = {}; });
-  const int picked = themefiles::ReadTags(state, screen, form.Tags, services.Status, [&] { services.Queue.Yield(); });
+  const int picked = themefiles::ReadTags(state, screen, form.tags, services.status, [&] { services.queue.yield(); });
   if (picked < 0) return;
   // A tag that the user has picked while the list was filling stays picked.
-  PickTag(form, picked);
+  pickTag(form, picked);
 }
 
 void List1_Click(Form2& form, controls::Cause cause) {
   showTag(form, cause == controls::Cause::User ? MarkPen::Kept : MarkPen::Left);
 }
 
-void PickTag(Form2& form, int row) {
+void pickTag(Form2& form, int row) {
   {
     const QSignalBlocker quiet(form.List1);
     form.List1->SetListIndex(row);
@@ -55,21 +55,21 @@ void PickTag(Form2& form, int row) {
   List1_Click(form, controls::Cause::User);
 }
 
-void ShowReasons(Form2& form, const renderer::RenderAccount& account) {
+void showReasons(Form2& form, const renderer::RenderAccount& account) {
   std::map<QString, QStringList> reasons;
-  for (const renderer::LeftOut& entry : account.Missing) {
-    QStringList& texts = reasons[platform::UpperCase(entry.Section)];
-    const QString text = renderer::ReasonText(entry);
+  for (const renderer::LeftOut& entry : account.missing) {
+    QStringList& texts = reasons[platform::upperCase(entry.section)];
+    const QString text = renderer::reasonText(entry);
     if (!texts.contains(text)) texts += text;
   }
   std::set<QString> drawn;
-  for (const renderer::Drawn& object : account.Objects) drawn.insert(platform::UpperCase(object.Section));
+  for (const renderer::Drawn& object : account.objects) drawn.insert(platform::upperCase(object.section));
   form.Combo3->update();  // the squares may be those of another scheme
   for (int row = 0; row < form.List1->ListCount(); ++row) {
-    const QString name = platform::UpperCase(form.List1->List(row));
+    const QString name = platform::upperCase(form.List1->List(row));
     const auto found = reasons.find(name);
     form.List1->setGrey(row, found != reasons.end() && !drawn.contains(name));
-    form.List1->SetToolTip(row, found == reasons.end() ? QString() : found->second.join(u'\n'));
+    form.List1->setRowToolTip(row, found == reasons.end() ? QString() : found->second.join(u'\n'));
   }
 }
 

@@ -21,9 +21,9 @@ void popUp(Form2& form, const QPoint& place, const std::function<bool(Form2&)>& 
   menu->setAttribute(Qt::WA_DeleteOnClose);
   QAction* action = menu->addAction(QStringLiteral("Put the saved value back"));
   const auto chosen = [&form, stillMeant, putBack] {
-    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form), stillMeant, putBack] {
+    form.services.queue.runOutside([open = QPointer<Form2>(&form), stillMeant, putBack] {
       if (!open || !open->isVisible() || !stillMeant(*open)) return;
-      platform::GuardedSilently([&] { putBack(*open); });
+      platform::guardedSilently([&] { putBack(*open); });
     });
   };
   // Queued: the menu is gone by then.
@@ -37,21 +37,21 @@ std::optional<SavedValue> savedColor(const Form2& form) {
   const int themeGroup = 0;
   const QString name = form.Combo3->Text();
   if (form.Combo4->ListIndex() != themeGroup || name.isEmpty()) return std::nullopt;
-  return SavedState(form.Services.State).of(QStringLiteral("Colors"), name, std::nullopt);
+  return SavedState(form.services.state).of(QStringLiteral("Colors"), name, std::nullopt);
 }
 
 }  // namespace
 
 void markSaved(Form2& form) {
-  const SavedState saved(form.Services.State);
+  const SavedState saved(form.services.state);
   for (int row = 0; row < form.List1->ListCount(); ++row) {
     form.List1->setBold(row, saved.differsIn(form.List1->List(row)));
   }
   QSet<QString> seen;  // of doubled keys the first counts
-  for (int row = 0; row < form.ListView1->RowCount(); ++row) {
-    const QString key = themefiles::KeyIdentity(form.ListView1->RowText(row));
+  for (int row = 0; row < form.ListView1->rowCount(); ++row) {
+    const QString key = themefiles::keyIdentity(form.ListView1->rowText(row));
     std::optional<SavedValue> value;
-    if (!seen.contains(key)) value = saved.of(form.List1->Text(), key, themefiles::GroupOf(key));
+    if (!seen.contains(key)) value = saved.of(form.List1->Text(), key, themefiles::groupOf(key));
     seen += key;
     form.ListView1->setSaved(row, value ? QStringLiteral("saved: ") + value->told : QString());
   }
@@ -59,18 +59,18 @@ void markSaved(Form2& form) {
 
 void showRowMenu(Form2& form, int row, const QPoint& place) {
   const QString section = form.List1->Text();
-  const QString key = themefiles::KeyIdentity(form.ListView1->RowText(row));
+  const QString key = themefiles::keyIdentity(form.ListView1->rowText(row));
   for (int above = 0; above < row; ++above) {
-    if (themefiles::KeyIdentity(form.ListView1->RowText(above)) == key) return;
+    if (themefiles::keyIdentity(form.ListView1->rowText(above)) == key) return;
   }
-  const auto group = themefiles::GroupOf(key);
+  const auto group = themefiles::groupOf(key);
   if (!group) return;
-  const auto saved = SavedState(form.Services.State).of(section, key, group);
+  const auto saved = SavedState(form.services.state).of(section, key, group);
   if (!saved || saved->lines.empty()) return;
   popUp(
       form, place,
       [=](const Form2& open) {
-        return open.List1->Text() == section && themefiles::KeyIdentity(open.ListView1->RowText(row)) == key;
+        return open.List1->Text() == section && themefiles::keyIdentity(open.ListView1->rowText(row)) == key;
       },
       [=](Form2& open) { putSavedBack(open, row, *saved); });
 }

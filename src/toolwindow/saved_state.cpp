@@ -18,7 +18,7 @@ using themefiles::ThemePaths;
 /// What stands in the working copy. One that can't be read doesn't differ.
 QByteArray presentBytes(const QString& path, const QByteArray& saved) {
   try {
-    return platform::ReadFile(path);
+    return platform::readFile(path);
   } catch (const platform::Failure&) {
     return saved;
   }
@@ -35,7 +35,7 @@ bool differ(const ProfileLine* a, const ProfileLine* b) {
 }
 
 ProfileKeys keysOf(const platform::ProfileSections& sections, const QString& section) {
-  return platform::profileKeys(sections.lines(platform::ToAnsi(section).value_or(QByteArray())));
+  return platform::profileKeys(sections.lines(platform::toAnsi(section).value_or(QByteArray())));
 }
 
 QByteArray nameIn(const ProfileLine& reference) {
@@ -43,7 +43,7 @@ QByteArray nameIn(const ProfileLine& reference) {
 }
 
 QString shownValue(const ProfileLine& line) {
-  return platform::TrimBlanks(platform::FromAnsi(line.line).section(u'=', 1, 1));
+  return platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1, 1));
 }
 
 }  // namespace
@@ -59,9 +59,9 @@ SavedState::Target::Target(const File& file, QString ThemePaths::*working, const
       saved(platform::profileKeys(file.savedSections.lines(name))) {}
 
 SavedState::SavedState(const themefiles::ModuleState& state)
-    : theme_(state.Paths.ThemeFile, savedBytes(state, &ThemePaths::ThemeFile)),
-      skin_(state.Paths.SkinFile, savedBytes(state, &ThemePaths::SkinFile)),
-      language_(state.Paths.LanguageFile, savedBytes(state, &ThemePaths::LanguageFile)),
+    : theme_(state.paths.ThemeFile, savedBytes(state, &ThemePaths::ThemeFile)),
+      skin_(state.paths.SkinFile, savedBytes(state, &ThemePaths::SkinFile)),
+      language_(state.paths.LanguageFile, savedBytes(state, &ThemePaths::LanguageFile)),
       textures_(skin_, &ThemePaths::SkinFile, "Textures"),
       texts_(language_, &ThemePaths::LanguageFile, "Text") {}
 
@@ -80,15 +80,15 @@ bool SavedState::differsIn(const Target* target, const ProfileLine& reference) {
 void SavedState::addTarget(SavedValue& saved, const Target& target, const ProfileLine& reference) {
   const QByteArray name = nameIn(reference);
   const ProfileLine* line = platform::lineOf(target.saved, name);
-  saved.told += QStringLiteral(" = ") + (line == nullptr ? QStringLiteral("nothing") : platform::FromAnsi(line->value));
+  saved.told += QStringLiteral(" = ") + (line == nullptr ? QStringLiteral("nothing") : platform::fromAnsi(line->value));
   if (line == nullptr) return;
   saved.lines.push_back(
-      {target.copy, QLatin1StringView(target.section), platform::FromAnsi(name), line->line.toByteArray()});
+      {target.copy, QLatin1StringView(target.section), platform::fromAnsi(name), line->line.toByteArray()});
 }
 
 std::optional<SavedValue> SavedState::of(const QString& section, const QString& key,
                                          std::optional<themefiles::KeyGroup> group) const {
-  const QByteArray keyBytes = platform::ToAnsi(key).value_or(QByteArray());
+  const QByteArray keyBytes = platform::toAnsi(key).value_or(QByteArray());
   const ProfileKeys nowKeys = keysOf(theme_.nowSections, section);
   const ProfileKeys savedKeys = keysOf(theme_.savedSections, section);
   const ProfileLine* now = platform::lineOf(nowKeys, keyBytes);
@@ -105,14 +105,14 @@ std::optional<SavedValue> SavedState::of(const QString& section, const QString& 
 }
 
 bool SavedState::differsIn(const QString& section) const {
-  const QByteArray name = platform::ToAnsi(section).value_or(QByteArray());
+  const QByteArray name = platform::toAnsi(section).value_or(QByteArray());
   const bool sameLines = theme_.nowSections.lines(name) == theme_.savedSections.lines(name);
   if (sameLines && !textures_.differs && !texts_.differs) return false;
   const ProfileKeys now = keysOf(theme_.nowSections, section);
   const ProfileKeys saved = keysOf(theme_.savedSections, section);
   return std::any_of(now.begin(), now.end(), [&](const ProfileLine& line) {
     if (line.key.startsWith('#')) return false;  // no row of the grid
-    const Target* target = targetOf(themefiles::GroupOf(themefiles::KeyIdentity(platform::FromAnsi(line.key))));
+    const Target* target = targetOf(themefiles::groupOf(themefiles::keyIdentity(platform::fromAnsi(line.key))));
     return differ(&line, platform::lineOf(saved, line.key)) || differsIn(target, line);
   });
 }

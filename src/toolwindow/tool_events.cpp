@@ -27,15 +27,15 @@ template <typename Operation>
 void onClick(Form2& form, QPushButton* button, Operation operation, const ComboBox* shown = nullptr) {
   QObject::connect(button, &QPushButton::clicked, &form, [&form, operation, shown] {
     const QString entry = shown == nullptr ? QString() : shown->Text();
-    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form), operation, shown, entry] {
+    form.services.queue.runOutside([open = QPointer<Form2>(&form), operation, shown, entry] {
       if (!open || !open->isVisible() || (shown != nullptr && shown->Text() != entry)) return;
-      platform::GuardedSilently([&] { operation(*open); });
+      platform::guardedSilently([&] { operation(*open); });
     });
   });
 }
 
 void connectSelection(Form2& form) {
-  QObject::connect(form.Combo1, &ComboBox::Click, &form, [&form] { form.Services.Queue.Choose(); });
+  QObject::connect(form.Combo1, &ComboBox::Click, &form, [&form] { form.services.queue.choose(); });
   QObject::connect(form.List1, &controls::ListBox::Click, &form, [&form](Cause cause) { List1_Click(form, cause); });
   QObject::connect(form.ListView1, &controls::ListView::ItemClick, &form,
                    [&form](int row) { ListView1_ItemClick(form, row); });
@@ -43,11 +43,11 @@ void connectSelection(Form2& form) {
 
 void connectMarks(Form2& form) {
   QObject::connect(&form.Marking, &QTimer::timeout, &form, [&form] {
-    if (!form.Services.Queue.Busy()) {
+    if (!form.services.queue.busy()) {
       markSaved(form);
       return;
     }
-    form.Services.Queue.RunOutside([open = QPointer<Form2>(&form)] {
+    form.services.queue.runOutside([open = QPointer<Form2>(&form)] {
       if (open) open->Marking.start();
     });
   });
@@ -60,9 +60,9 @@ void connectMarks(Form2& form) {
     QContextMenuEvent asked(QContextMenuEvent::Keyboard, place, focus->mapToGlobal(place));
     QCoreApplication::sendEvent(focus, &asked);
   });
-  QObject::connect(form.ListView1, &controls::ListView::MenuAsked, &form,
+  QObject::connect(form.ListView1, &controls::ListView::menuAsked, &form,
                    [&form](int row, const QPoint& place) { showRowMenu(form, row, place); });
-  QObject::connect(form.Command2, &controls::SwatchButton::MenuAsked, &form,
+  QObject::connect(form.Command2, &controls::SwatchButton::menuAsked, &form,
                    [&form](const QPoint& place) { showColorMenu(form, place); });
 }
 
@@ -70,12 +70,12 @@ void connectCommit(Form2& form) {
   const auto update = [&form] { Command1_Click(form); };
   QObject::connect(form.Command1, &QPushButton::clicked, &form, update);
   QObject::connect(&form, &Form2::EnterPressed, &form, update);
-  for (TextBox* box : {form.Text1, form.Text4, form.Text2}) QObject::connect(box, &TextBox::Enter, &form, update);
+  for (TextBox* box : {form.Text1, form.Text4, form.Text2}) QObject::connect(box, &TextBox::enter, &form, update);
 }
 
 void connectNumbers(Form2& form) {
-  form.Text1->SetKeyFilter(QStringLiteral("0123456789"));
-  form.Text4->SetKeyFilter(QStringLiteral("0123456789."));
+  form.Text1->setKeyFilter(QStringLiteral("0123456789"));
+  form.Text4->setKeyFilter(QStringLiteral("0123456789."));
   QObject::connect(form.Text1, &TextBox::Change, &form, [&form] { Text1_Change(form); });
   connectCounting(form);
   QObject::connect(form.VScroll1, &controls::NumberBar::Change, &form, [&form] { VScroll1_Change(form); });
@@ -103,7 +103,7 @@ void connectKeys(Form2& form) {
 
 }  // namespace
 
-void ConnectEvents(Form2& form) {
+void connectEvents(Form2& form) {
   connectSelection(form);
   connectMarks(form);
   connectCommit(form);

@@ -84,17 +84,17 @@ bool carryOut(ToolLayout& layout, const Step& step) {
 
 }  // namespace
 
-ToolLayout LoadedLayout() {
+ToolLayout loadedLayout() {
   ToolLayout layout;
   layout.Frame1.Height = LoadedFrameHeight;
   for (const Control frame : {&TL::Selection, &TL::Texts, &TL::Color, &TL::Texture, &TL::FloatNumbers}) {
     (layout.*frame).Top = layout.Numbers.Top;
   }
-  LayOut(layout, layout.Width, LoadedHeight, false, false);
+  layOut(layout, layout.Width, LoadedHeight, false, false);
   return layout;
 }
 
-void LayOut(ToolLayout& layout, double width, double height, bool editorShown, bool sizingEditor) {
+void layOut(ToolLayout& layout, double width, double height, bool editorShown, bool sizingEditor) {
   layout.Width = width;
   layout.Height = height;
   const std::span<const Step> steps = editorShown ? std::span<const Step>(WithEditor) : WithoutEditor;
@@ -104,14 +104,14 @@ void LayOut(ToolLayout& layout, double width, double height, bool editorShown, b
   }
 }
 
-void LayOutOpening(ToolLayout& layout, const TwipsRect& frame) {
+void layOutOpening(ToolLayout& layout, const TwipsRect& frame) {
   layout.Frame1.Top = layout.List1.Height + layout.List1.Top + Gap;
   layout.Frame1.Height = frame.Height + FrameMargin;
-  LayOut(layout, layout.Width, layout.Frame1.Height + layout.Frame1.Top + BelowWindow, true, true);
+  layOut(layout, layout.Width, layout.Frame1.Height + layout.Frame1.Top + BelowWindow, true, true);
 }
 
-void LayOutClosing(ToolLayout& layout) {
-  LayOut(layout, layout.Width, layout.List1.Height + layout.List1.Top + BelowWindow, false, false);
+void layOutClosing(ToolLayout& layout) {
+  layOut(layout, layout.Width, layout.List1.Height + layout.List1.Top + BelowWindow, false, false);
 }
 
 }  // namespace toolwindow

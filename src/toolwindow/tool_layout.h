@@ -49,17 +49,17 @@ struct ToolLayout {
 };
 
 /// The layout of a window that has just been loaded: no editor area, the six frames one over the other.
-ToolLayout LoadedLayout();
+ToolLayout loadedLayout();
 
 /// Lays the controls out for the window's outer size. With an editor open the lists take what the editor area leaves,
 /// unless `sizingEditor` says that the editor area itself is changing the window's height. A step that would give a
 /// control a negative size ends the layout there.
-void LayOut(ToolLayout& layout, double width, double height, bool editorShown, bool sizingEditor);
+void layOut(ToolLayout& layout, double width, double height, bool editorShown, bool sizingEditor);
 
 /// Opens the editor area for a frame: the group box fits it and the window grows at the bottom.
-void LayOutOpening(ToolLayout& layout, const controls::TwipsRect& frame);
+void layOutOpening(ToolLayout& layout, const controls::TwipsRect& frame);
 
 /// Closes the editor area: the window shrinks to the lists.
-void LayOutClosing(ToolLayout& layout);
+void layOutClosing(ToolLayout& layout);
 
 }  // namespace toolwindow

@@ -8,7 +8,7 @@
 #include <QKeyEvent>
 
 #include "controls/assets.h"
-#include "platform/system_colors.h"
+#include "drawing/system_colours.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
 
@@ -39,21 +39,21 @@ const FrameRow& rowOf(themefiles::EditorFrame frame) {
 
 /// A colour as the preview shows it.
 QColor previewColor(const ToolServices& services, const QString& name) {
-  const QString color = themefiles::ResolveColor(services.State, name, services.SchemeName());
-  return platform::ColorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
+  const QString color = themefiles::ResolveColor(services.state, name, services.schemeName());
+  return drawing::colorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
 }
 
 /// Client size of a window, in pixels, from its outer size in twips.
 QSize clientSize(const ToolLayout& layout) {
-  return {controls::ToPixels(layout.Width - controls::FrameWidth),
-          controls::ToPixels(layout.Height - controls::FrameHeight)};
+  return {controls::toPixels(layout.Width - controls::FrameWidth),
+          controls::toPixels(layout.Height - controls::FrameHeight)};
 }
 
 }  // namespace
 
 Form2::Form2(ToolServices services, QWidget* owner)
     : QWidget(owner, Qt::Tool),
-      Services(std::move(services)),
+      services(std::move(services)),
       Combo1(new controls::ComboBox(this)),
       List1(new controls::ListBox(controls::ListBox::Order::Sorted, this)),
       ListView1(new controls::ListView(this)),
@@ -83,7 +83,7 @@ Form2::Form2(ToolServices services, QWidget* owner)
       Command6(iconButton(Texts, QStringLiteral("plus"), QStringLiteral("Add New Key"))),
       Command7(iconButton(Texts, QStringLiteral("minus"), QStringLiteral("Remove Key"))),
       Text2(new controls::TextBox(Texts)),
-      Tags(*List1) {
+      tags(*List1) {
   using TL = ToolLayout;
   placed_ = {
       {Combo1, &TL::Combo1, "Combo1", "Screen"},
@@ -129,22 +129,22 @@ Form2::Form2(ToolServices services, QWidget* owner)
   HideEditorFrames();
   Frame1->hide();
   Command1->hide();
-  themefiles::InitScreenTable(Services.State);
-  for (const themefiles::ScreenRow& row : Services.State.ScreenTable) {
+  themefiles::InitScreenTable(services.state);
+  for (const themefiles::ScreenRow& row : services.state.ScreenTable) {
     if (!row.Name.isEmpty()) Combo1->AddItem(row.Name);
   }
   for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
-  Combo3->setSwatches([this](const QString& name) { return previewColor(Services, name); });
+  Combo3->setSwatches([this](const QString& name) { return previewColor(this->services, name); });
   Marking.setSingleShot(true);
-  Services.State.EditorShown = false;
+  services.state.EditorShown = false;
   fitWindow();
-  ListView1->SetColumns({QStringLiteral("Item"), QStringLiteral("Value")},
-                        {controls::ToPixels(950), controls::ToPixels(1300)});
+  ListView1->setColumns({QStringLiteral("Item"), QStringLiteral("Value")},
+                        {controls::toPixels(950), controls::toPixels(1300)});
 }
 
 QPushButton* Form2::iconButton(QWidget* frame, const QString& icon, const QString& toolTip) {
   auto* button = new QPushButton(frame);
-  if (!icon.isEmpty()) button->setIcon(controls::AssetIcon(icon));
+  if (!icon.isEmpty()) button->setIcon(controls::assetIcon(icon));
   button->setToolTip(toolTip);
   return button;
 }
@@ -155,16 +155,16 @@ QWidget* Form2::frameOf(themefiles::EditorFrame frame) const {
 
 void Form2::ShowEditorFrame(themefiles::EditorFrame frame) {
   frameOf(frame)->show();
-  Services.State.EditorShown = true;
-  LayOutOpening(layout_, layout_.*rowOf(frame).place);
+  services.state.EditorShown = true;
+  layOutOpening(layout_, layout_.*rowOf(frame).place);
   Frame1->show();
   Command1->show();
   fitWindow();
 }
 
-void Form2::CloseEditorFrame() {
-  Services.State.EditorShown = false;
-  LayOutClosing(layout_);
+void Form2::closeEditorFrame() {
+  services.state.EditorShown = false;
+  layOutClosing(layout_);
   HideEditorFrames();
   Frame1->hide();
   Command1->hide();
@@ -182,7 +182,7 @@ void Form2::HideEditorFrames() {
 }
 
 void Form2::applyLayout() {
-  for (const PlacedControl& control : placed_) controls::Place(*control.widget, layout_.*control.place);
+  for (const PlacedControl& control : placed_) controls::place(*control.widget, layout_.*control.place);
 }
 
 /// Gives the window the layout's size, and the controls their places.
@@ -206,8 +206,8 @@ void Form2::resizeEvent(QResizeEvent* event) {
   if (isFitted(event->size())) {
     layout_ = fitted_;
   } else {
-    LayOut(layout_, event->size().width() * controls::TwipsPerPixel + controls::FrameWidth,
-           event->size().height() * controls::TwipsPerPixel + controls::FrameHeight, Services.State.EditorShown, false);
+    layOut(layout_, event->size().width() * controls::TwipsPerPixel + controls::FrameWidth,
+           event->size().height() * controls::TwipsPerPixel + controls::FrameHeight, services.state.EditorShown, false);
   }
   applyLayout();
 }

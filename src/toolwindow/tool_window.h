@@ -14,9 +14,9 @@
 #include "controls/swatch_button.h"
 #include "controls/text_box.h"
 #include "controls/work_queue.h"
+#include "drawing/surface.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "platform/surface.h"
 #include "renderer/highlight_cursor.h"
 #include "themefiles/key_table.h"
 #include "themefiles/module_state.h"
@@ -27,14 +27,14 @@ namespace toolwindow {
 
 /// What the tool window uses of the rest of the program.
 struct ToolServices {
-  themefiles::ModuleState& State;
-  platform::StatusLine& Status;
-  platform::Dialogs& Dialogs;
-  platform::Surface& Workspace;
-  renderer::CursorMark& Mark;
-  controls::WorkQueue& Queue;
-  std::function<void()> EnableSave;
-  std::function<QString()> SchemeName;  ///< the colour scheme in force
+  themefiles::ModuleState& state;
+  platform::StatusLine& status;
+  platform::Dialogs& dialogs;
+  drawing::Surface& Workspace;
+  renderer::CursorMark& mark;
+  controls::WorkQueue& queue;
+  std::function<void()> enableSave;
+  std::function<QString()> schemeName;  ///< the colour scheme in force
 };
 
 /// The window's own list of tags, as the readers and the renderer see it.
@@ -60,7 +60,7 @@ class Form2 : public QWidget {
  public:
   Form2(ToolServices services, QWidget* owner);
 
-  ToolServices Services;
+  ToolServices services;
 
   controls::ComboBox* Combo1;     ///< the screen
   controls::ListBox* List1;       ///< the screen's objects
@@ -98,17 +98,17 @@ class Form2 : public QWidget {
   QPushButton* Command7;       ///< remove the text key
   controls::TextBox* Text2;    ///< the words
 
-  ListedTags Tags;
+  ListedTags tags;
   QTimer Marking;  ///< started by what may change which rows are marked; they are when nothing else is to be done
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
   void ShowEditorFrame(themefiles::EditorFrame frame);
   /// Closes the editor area: the window shrinks to the lists.
-  void CloseEditorFrame();
+  void closeEditorFrame();
   /// Hides the six frames. A focus in the editor area goes to the grid; nothing else changes.
   void HideEditorFrames();
 
-  const ToolLayout& Layout() const { return layout_; }
+  const ToolLayout& layout() const { return layout_; }
 
  Q_SIGNALS:
   /// Enter was pressed in an editor that has no use of its own for it.
@@ -134,7 +134,7 @@ class Form2 : public QWidget {
   void fitWindow();
   bool isFitted(const QSize& size) const;
 
-  ToolLayout layout_ = LoadedLayout();
+  ToolLayout layout_ = loadedLayout();
   std::vector<PlacedControl> placed_;
   ToolLayout fitted_;  ///< the layout of the size that the window last gave itself
 };

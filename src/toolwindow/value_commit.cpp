@@ -26,7 +26,7 @@ struct Commit {
 
 Commit commitOf(const Form2& form, int row) {
   if (row < 0) throw platform::Failure(QStringLiteral("no row is selected"));
-  Commit commit{row, platform::TrimBlanks(form.List1->Text()), themefiles::KeyIdentity(form.ListView1->RowText(row))};
+  Commit commit{row, platform::trimBlanks(form.List1->Text()), themefiles::keyIdentity(form.ListView1->rowText(row))};
   if (commit.section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
   if (commit.section.contains(u']') || commit.section.startsWith(u'\t') || commit.section.endsWith(u'\t')) {
     throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(commit.section));
@@ -35,13 +35,13 @@ Commit commitOf(const Form2& form, int row) {
 }
 
 void SetSelectedRowValue(Form2& form, const QString& Value) {
-  form.ListView1->SetSubItem(form.ListView1->SelectedRow(), Value);
+  form.ListView1->setSubItem(form.ListView1->selectedRow(), Value);
 }
 
 /// The value that an entry of Combo2 stands for: what stands in front of its "=".
 QString selectedValue(const Form2& form) {
   if (form.Combo2->ListIndex() < 0) throw platform::Failure(QStringLiteral("nothing is selected"));
-  return platform::TrimBlanks(form.Combo2->Text().section(u'=', 0, 0));
+  return platform::trimBlanks(form.Combo2->Text().section(u'=', 0, 0));
 }
 
 /// A name that a list of names has selected.
@@ -52,7 +52,7 @@ QString selectedName(const QString& name) {
 
 void put(Form2& form, QString themefiles::ThemePaths::*copy, const QString& section, const QString& key,
          const QString& value) {
-  themefiles::PutInCopy(form.Services.State, copy, section, key, value, form.Services.Status);
+  themefiles::putInCopy(form.services.state, copy, section, key, value, form.services.status);
 }
 
 void commitValue(Form2& form, const Commit& commit, const QString& value) {
@@ -62,9 +62,9 @@ void commitValue(Form2& form, const Commit& commit, const QString& value) {
 
 /// Writes a reference into the theme, and what it refers to into the file that owns that.
 void commitReference(Form2& form, const Commit& commit, KeyEditor editor) {
-  const Reference shown = ShownReference(form, editor);
+  const Reference shown = shownReference(form, editor);
   const QString name = selectedName(shown.name);
-  themefiles::CheckLineText(shown.content);
+  themefiles::checkLineText(shown.content);
   put(form, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, name);
   put(form, shown.copy, shown.section, name, shown.content);
   SetSelectedRowValue(form, name);
@@ -72,22 +72,22 @@ void commitReference(Form2& form, const Commit& commit, KeyEditor editor) {
 
 /// Keeps the record that the mark is drawn from in step with five keys.
 void updateCursorRect(themefiles::CursorRecord& record, const QString& key, const QString& value) {
-  const double number = platform::NumberOf(value);
+  const double number = platform::numberOf(value);
   // One beyond all numbers stays as it is: the mark reports it.
-  const QString measure = std::isfinite(number) ? platform::NumberText(number) : value;
+  const QString measure = std::isfinite(number) ? platform::numberText(number) : value;
   if (key == u"X") record.X = measure;
   if (key == u"Y") record.Y = measure;
   if (key == u"W") record.W = measure;
   if (key == u"H") record.H = measure;
-  if (key == u"SIZE") record.Size = platform::RoundToInt16(number).value_or(record.Size);
+  if (key == u"SIZE") record.Size = platform::roundToInt16(number).value_or(record.Size);
 }
 
 /// Reads the editor of the group and writes its value.
 void writeEditor(Form2& form, const Commit& commit, themefiles::KeyGroup group) {
-  switch (themefiles::RowOf(group).frame) {
+  switch (themefiles::rowOf(group).frame) {
     case themefiles::EditorFrame::Numbers:
       commitValue(form, commit, form.Text1->Text());
-      updateCursorRect(form.Services.State.CursorRect, commit.key, form.Text1->Text());
+      updateCursorRect(form.services.state.CursorRect, commit.key, form.Text1->Text());
       break;
     case themefiles::EditorFrame::FloatNumbers:
       commitValue(form, commit, form.Text4->Text());
@@ -110,43 +110,43 @@ void writeEditor(Form2& form, const Commit& commit, themefiles::KeyGroup group) 
 /// A commit into a row of the grid: writes by `write`, and does all that follows. A failure is reported and leaves out
 /// the steps behind it.
 void commitRow(Form2& form, int row, const std::function<void(const Commit& commit)>& write) {
-  ToolServices& services = form.Services;
-  const auto telling = std::make_shared<platform::Telling>(services.Status);
-  platform::Guarded(services.Status, WriteStep.toString(), [&] {
+  ToolServices& services = form.services;
+  const auto telling = std::make_shared<platform::Telling>(services.status);
+  platform::guarded(services.status, WriteStep.toString(), [&] {
     const Commit commit = commitOf(form, row);
     write(commit);
-    services.State.Changed = true;
-    services.EnableSave();
-    const QString key = platform::TrimBlanks(form.ListView1->RowText(row));
-    services.Status.ShowStatus(QStringLiteral("%1: %2 = %3").arg(commit.section, key, form.ListView1->SubItem(row)));
-    services.Queue.Draw();
+    services.state.Changed = true;
+    services.enableSave();
+    const QString key = platform::trimBlanks(form.ListView1->rowText(row));
+    services.status.ShowStatus(QStringLiteral("%1: %2 = %3").arg(commit.section, key, form.ListView1->subItem(row)));
+    services.queue.draw();
     // Another object that was picked during the drawing has its mark.
-    if (platform::TrimBlanks(form.List1->Text()) == commit.section) PlaceMark(form, MarkPen::Kept);
+    if (platform::trimBlanks(form.List1->Text()) == commit.section) placeMark(form, MarkPen::Kept);
     form.ListView1->setFocus();
   });
   form.Marking.start();
   // A drawing that waits for a running one reports beside the notes, too.
-  services.Queue.RunOutside([telling] {});
+  services.queue.runOutside([telling] {});
 }
 
 }  // namespace
 
 void Command1_Click(Form2& form) {
-  commitRow(form, form.ListView1->SelectedRow(), [&](const Commit& commit) {
-    const auto group = themefiles::GroupOf(commit.key);
+  commitRow(form, form.ListView1->selectedRow(), [&](const Commit& commit) {
+    const auto group = themefiles::groupOf(commit.key);
     if (group) writeEditor(form, commit, *group);
   });
 }
 
 void putSavedBack(Form2& form, int row, const SavedValue& saved) {
   commitRow(form, row, [&](const Commit& commit) {
-    ToolServices& services = form.Services;
+    ToolServices& services = form.services;
     for (const SavedLine& line : saved.lines) {
-      themefiles::putLineInCopy(services.State, line.copy, line.section, line.key, line.line, services.Status);
+      themefiles::putLineInCopy(services.state, line.copy, line.section, line.key, line.line, services.status);
     }
-    form.ListView1->SetSubItem(row, saved.value);
-    updateCursorRect(services.State.CursorRect, commit.key, saved.value);
-    if (services.State.EditorShown && form.ListView1->SelectedRow() == row) ListView1_ItemClick(form, row);
+    form.ListView1->setSubItem(row, saved.value);
+    updateCursorRect(services.state.CursorRect, commit.key, saved.value);
+    if (services.state.EditorShown && form.ListView1->selectedRow() == row) ListView1_ItemClick(form, row);
   });
 }
 

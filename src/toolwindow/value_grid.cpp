@@ -18,7 +18,7 @@ void fillSelection(Form2& form, const themefiles::GroupRow& group) {
 
 /// Selects the entry whose number is the value.
 void selectNumbered(Form2& form, const QString& value) {
-  const auto index = platform::RoundToInt16(platform::NumberOf(value));
+  const auto index = platform::roundToInt16(platform::numberOf(value));
   if (!index) throw platform::Failure(QStringLiteral("%1 is outside the list").arg(value));
   form.Combo2->SetListIndex(*index);
 }
@@ -34,7 +34,7 @@ void loadEditor(Form2& form, const themefiles::GroupRow& group, const QString& v
     case themefiles::EditorFrame::Selection:
       fillSelection(form, group);
       // A type outside the list leaves nothing selected.
-      group.group == themefiles::KeyGroup::Type ? static_cast<void>(form.Combo2->SelectText(value))
+      group.group == themefiles::KeyGroup::Type ? static_cast<void>(form.Combo2->selectText(value))
                                                 : selectNumbered(form, value);
       break;
     case themefiles::EditorFrame::Color:
@@ -52,16 +52,16 @@ void loadEditor(Form2& form, const themefiles::GroupRow& group, const QString& v
 }  // namespace
 
 void ListView1_ItemClick(Form2& form, int row) {
-  platform::Guarded(form.Services.Status, ReadStep.toString(), [&] {
+  platform::guarded(form.services.status, ReadStep.toString(), [&] {
     form.HideEditorFrames();
-    const auto group = themefiles::GroupOf(themefiles::KeyIdentity(form.ListView1->RowText(row)));
+    const auto group = themefiles::groupOf(themefiles::keyIdentity(form.ListView1->rowText(row)));
     if (group) {
-      const QString value = form.ListView1->SubItem(row);
-      if (value.size() > controls::LongestText) throw platform::Failure(tooLongText(form.ListView1->RowText(row)));
-      loadEditor(form, themefiles::RowOf(*group), value);
-      form.ShowEditorFrame(themefiles::RowOf(*group).frame);
-    } else if (form.Services.State.EditorShown) {
-      form.CloseEditorFrame();
+      const QString value = form.ListView1->subItem(row);
+      if (value.size() > controls::LongestText) throw platform::Failure(tooLongText(form.ListView1->rowText(row)));
+      loadEditor(form, themefiles::rowOf(*group), value);
+      form.ShowEditorFrame(themefiles::rowOf(*group).frame);
+    } else if (form.services.state.EditorShown) {
+      form.closeEditorFrame();
     }
   });
 }

@@ -23,16 +23,16 @@ constexpr int Rows = 30;
 /// Both lists with the same thirty rows, a combo box, a number bar, and a widget that can have the focus instead.
 struct Window : QWidget {
   Window() {
-    ApplyLook(*qApp);
+    applyLook(*qApp);
     list.setGeometry(0, 0, 150, 100);
     view.setGeometry(150, 0, 150, 100);
     combo.setGeometry(0, 110, 90, 21);
     bar.setGeometry(100, 110, 17, 19);
     neighbour.setFocusPolicy(Qt::StrongFocus);
-    view.SetColumns({u"Item"_s, u"Value"_s}, {63, 87});
+    view.setColumns({u"Item"_s, u"Value"_s}, {63, 87});
     for (int i = 0; i < Rows; ++i) {
       list.AddItem(u"%1 row"_s.arg(QChar(u'O' - i / 2)));
-      view.AddRow(list.List(i), u"<b>a long value</b> %1"_s.arg(i));
+      view.addRow(list.List(i), u"<b>a long value</b> %1"_s.arg(i));
     }
     for (const QString& entry : {u"Main"_s, u"Score"_s, u"Song"_s, u"score"_s}) combo.AddItem(entry);
     show();
@@ -51,7 +51,7 @@ struct Window : QWidget {
   QSignalSpy changes{&bar, &NumberBar::Change};
   /// The selected row and the number of clicks so far, of the one list and of the other.
   QList<qsizetype> state() const {
-    return {list.ListIndex(), listClicks.size(), view.SelectedRow(), viewClicks.size()};
+    return {list.ListIndex(), listClicks.size(), view.selectedRow(), viewClicks.size()};
   }
   QPoint listPlace(int row) const { return list.visualItemRect(list.item(row)).center(); }
   QPoint viewPlace(int row) const { return view.visualItemRect(view.topLevelItem(row)).center(); }
@@ -87,7 +87,7 @@ class ChoiceControlsTest : public QObject {
     window.view.setFocus(Qt::TabFocusReason);
     QCOMPARE(window.state(), (QList<qsizetype>{-1, 0, -1, 0}));
     for (const int row : {3, 3, -1}) window.list.SetListIndex(row);
-    window.view.SelectRow(3);
+    window.view.selectRow(3);
     QCOMPARE(window.state(), (QList<qsizetype>{-1, 2, 3, 0}));
     QCOMPARE(window.listClicks.first().first().value<Cause>(), Cause::Code);
     QVERIFY_THROWS_EXCEPTION(platform::Failure, window.list.SetListIndex(Rows));
@@ -134,7 +134,7 @@ class ChoiceControlsTest : public QObject {
     for (const auto& row : rows) {
       Window window;
       if (row.before >= 0) window.list.setCurrentRow(row.before);
-      window.view.SelectRow(row.before);
+      window.view.selectRow(row.before);
       window.combo.setCurrentIndex(row.before);
       for (QWidget* widget : {static_cast<QWidget*>(&window.list), static_cast<QWidget*>(&window.view),
                               static_cast<QWidget*>(&window.combo)}) {
@@ -154,8 +154,8 @@ class ChoiceControlsTest : public QObject {
     QHelpEvent event(QEvent::ToolTip, value, window.view.viewport()->mapToGlobal(value));
     QApplication::sendEvent(window.view.viewport(), &event);
     QVERIFY(QToolTip::text().contains(u"&lt;b&gt;a long value&lt;/b&gt; 0"_s));
-    window.view.SetSubItem(0, QString(20'000'000, u'x'));
-    window.list.item(0)->setText(window.view.SubItem(0));
+    window.view.setSubItem(0, QString(20'000'000, u'x'));
+    window.list.item(0)->setText(window.view.subItem(0));
     window.grab();
     QApplication::sendEvent(window.view.viewport(), &event);
     QVERIFY(QToolTip::text().contains(u"xxx...<"_s));
@@ -164,7 +164,7 @@ class ChoiceControlsTest : public QObject {
     window.list.item(1)->setText(name);
     const std::pair<int, QString> tips[] = {{0, u"told"_s}, {1, name + u"\ntold"_s}, {2, QString()}};
     for (const auto& [row, tip] : tips) {
-      if (row < 2) window.list.SetToolTip(row, u"told"_s);
+      if (row < 2) window.list.setRowToolTip(row, u"told"_s);
       const QPoint place(10, window.listPlace(row).y());
       QHelpEvent help(QEvent::ToolTip, place, window.list.viewport()->mapToGlobal(place));
       QApplication::sendEvent(window.list.viewport(), &help);
@@ -219,7 +219,7 @@ class ChoiceControlsTest : public QObject {
     QTest::mouseClick(&window.bar, Qt::LeftButton, {}, {8, 16});
     QTest::keyClick(&window.bar, Qt::Key_Down);
     QCOMPARE(window.bar.Value(), 5);
-    window.bar.SetValueQuietly(32767);
+    window.bar.setValueQuietly(32767);
     QCOMPARE(window.bar.Value(), 10000);
     QCOMPARE(window.changes.size(), 4);
   }

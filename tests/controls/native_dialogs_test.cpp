@@ -22,7 +22,7 @@ namespace {
 
 /// Does something to the dialog that is about to come up.
 template <typename Dialog, typename Act>
-void WhenShown(Act act) {
+void whenShown(Act act) {
   QTimer::singleShot(50, [act] {
     auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr) qFatal("another dialog than expected");
@@ -38,12 +38,12 @@ class NativeDialogsTest : public QObject {
  private Q_SLOTS:
   void boxAnswers() {
     const auto answer = [](Qt::Key key) {
-      WhenShown<QMessageBox>([key](QMessageBox& box) {
+      whenShown<QMessageBox>([key](QMessageBox& box) {
         QCOMPARE(box.textFormat(), Qt::PlainText);
         if (key == Qt::Key_Y) return box.button(QMessageBox::Yes)->click();
         QTest::keyClick(&box, key);
       });
-      return NativeDialogs().MessageBox(nullptr, u"text"_s, QString(), BoxKind::YesNoDefaultNo);
+      return NativeDialogs().messageBox(nullptr, u"text"_s, QString(), BoxKind::YesNoDefaultNo);
     };
     QCOMPARE(answer(Qt::Key_Return), BoxAnswer::No);
     QCOMPARE(answer(Qt::Key_Y), BoxAnswer::Yes);
@@ -55,18 +55,18 @@ class NativeDialogsTest : public QObject {
     folder.put(u"Vocora.exe"_s, {});
     const platform::FileRequest request{
         {}, u"Pictures|*.bmp;*.gif|Game|Vocora.exe"_s, u"Vocora.exe"_s, folder.path({})};
-    WhenShown<QFileDialog>([](QFileDialog& dialog) {
+    whenShown<QFileDialog>([](QFileDialog& dialog) {
       QCOMPARE(dialog.nameFilters(), (QStringList{u"Pictures (*.bmp *.gif)"_s, u"Game (Vocora.exe)"_s}));
       QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    QCOMPARE(NativeDialogs().OpenFile(nullptr, request), folder.path(u"Vocora.exe"_s));
+    QCOMPARE(NativeDialogs().openFile(nullptr, request), folder.path(u"Vocora.exe"_s));
   }
 
   void imageDialogShowsItsColumnsWhole() {
     const support::Folder folder;
     folder.put(u"picture_with_a_long_name.png"_s, QByteArray(123456, 'x'));
     QStringList narrow{u"never shown"_s};
-    WhenShown<QFileDialog>([&narrow](QFileDialog& dialog) {
+    whenShown<QFileDialog>([&narrow](QFileDialog& dialog) {
       const auto& list = *dialog.findChild<QTreeView*>(u"treeView"_s);
       const auto isWide = [&] {
         narrow.clear();
@@ -81,17 +81,17 @@ class NativeDialogsTest : public QObject {
       static_cast<void>(QTest::qWaitFor(isWide));
       dialog.reject();
     });
-    QCOMPARE(NativeDialogs().OpenFile(nullptr, {{}, u"Pictures|*.png"_s, {}, folder.path({}), true}), QString());
+    QCOMPARE(NativeDialogs().openFile(nullptr, {{}, u"Pictures|*.png"_s, {}, folder.path({}), true}), QString());
     QCOMPARE(narrow, QStringList());
   }
 
   void colorOpensOnThePresentOne() {
     const QColor present(150, 20, 3);
-    WhenShown<QColorDialog>([present](QColorDialog& dialog) {
+    whenShown<QColorDialog>([present](QColorDialog& dialog) {
       QCOMPARE(dialog.currentColor(), present);
       dialog.reject();
     });
-    QVERIFY(!NativeDialogs().ChooseColor(nullptr, present));
+    QVERIFY(!NativeDialogs().chooseColor(nullptr, present));
   }
 };
 

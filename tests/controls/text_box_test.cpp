@@ -68,7 +68,7 @@ class TextBoxTest : public QObject {
     for (const auto& way : {type, paste, pasteSelection, drop, commit}) {
       const auto entered = [&](const QString& filter, const QString& text) {
         Window window;
-        window.box.SetKeyFilter(filter);
+        window.box.setKeyFilter(filter);
         window.box.SetText(u"7"_s);
         window.box.end(false);
         way(window.box, text);
@@ -81,7 +81,7 @@ class TextBoxTest : public QObject {
 
   void commandsPassTheFilter() {
     Window window;
-    window.box.SetKeyFilter(Digits);
+    window.box.setKeyFilter(Digits);
     window.box.SetText(u"-12"_s);
     QTest::keyClick(&window.box, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(&window.box, Qt::Key_X, Qt::ControlModifier);

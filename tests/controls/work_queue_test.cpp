@@ -13,14 +13,14 @@ namespace {
 /// A choice and a drawing that log what they do: "c" and "d" begin, "." is a yield survived, "C" and "D" an end.
 struct Bench {
   Bench() {
-    queue.SetWorks([this] { run(u'c'); }, [this] { run(u'd'); });
+    queue.setWorks([this] { run(u'c'); }, [this] { run(u'd'); });
   }
 
   void run(QChar name) {
     log += name;
     for (int i = 0; i < 3; ++i) {
       if (wish && log.size() >= wishAt) QTimer::singleShot(0, &queue, std::exchange(wish, nullptr));
-      queue.Yield();
+      queue.yield();
       log += u'.';
     }
     log += name.toUpper();
@@ -28,14 +28,14 @@ struct Bench {
 
   /// The wishes of these letters, as they come: a choice, a draw, a command, the ways to leave.
   void wishFor(QStringView letters) {
-    const auto command = [this] { log += queue.Busy() ? u'!' : u'x'; };
+    const auto command = [this] { log += queue.busy() ? u'!' : u'x'; };
     for (const QChar letter : letters) {
-      if (letter == u'c') queue.Choose();
-      if (letter == u'd') queue.Draw();
-      if (letter == u'x') queue.RunOutside(command);
-      if (letter == u'l' || letter == u'f') queue.RunOutside(command, true);
-      if (letter == u'f') queue.RunOutside([this] { queue.Forget(); });
-      if (letter == u'n') queue.RunOutside([this] { log += u'x', wishFor(u"dx"), log += u'X'; });
+      if (letter == u'c') queue.choose();
+      if (letter == u'd') queue.draw();
+      if (letter == u'x') queue.runOutside(command);
+      if (letter == u'l' || letter == u'f') queue.runOutside(command, true);
+      if (letter == u'f') queue.runOutside([this] { queue.forget(); });
+      if (letter == u'n') queue.runOutside([this] { log += u'x', wishFor(u"dx"), log += u'X'; });
     }
   }
 
@@ -52,7 +52,7 @@ QString logOf(const QString& begun, int at, const QString& wishes) {
   bench.wish = [&] { bench.wishFor(wishes); };
   bench.wishFor(begun);
   QCoreApplication::processEvents();
-  return bench.log + (bench.queue.Busy() ? u" busy"_s : QString());
+  return bench.log + (bench.queue.busy() ? u" busy"_s : QString());
 }
 
 }  // namespace

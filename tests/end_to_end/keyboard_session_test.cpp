@@ -23,7 +23,7 @@ void tabTo(QWidget& control) {
 }
 
 QString shown(const controls::ListView& grid) {
-  return grid.RowText(grid.SelectedRow());
+  return grid.rowText(grid.selectedRow());
 }
 template <typename List>
 QString shown(const List& list) {
@@ -43,7 +43,7 @@ void goDownTo(List& list, const char* text) {
 QStringList nameless(const QWidget& window) {
   QStringList found;
   for (QWidget* control : window.findChildren<QWidget*>()) {
-    if ((control->focusPolicy() & Qt::TabFocus) == 0) continue;
+    if ((control->focusPolicy() & Qt::TabFocus) == 0 || control->window() != &window) continue;
     if (QAccessible::queryAccessibleInterface(control)->text(QAccessible::Name).isEmpty())
       found += control->objectName();
   }
@@ -94,8 +94,8 @@ class KeyboardSessionTest : public QObject {
     QVERIFY(outside(form).isEmpty());
     key(form, Qt::Key_Tab);
     key(form, Qt::Key_Return);
-    QVERIFY(form.ToolWindow != nullptr);
-    toolwindow::Form2& tools = *form.ToolWindow;
+    QVERIFY(form.toolWindow != nullptr);
+    toolwindow::Form2& tools = *form.toolWindow;
     QCOMPARE(withoutName + nameless(tools) + nameless(form), QStringList());
     QVERIFY(&activeWindow(&tools) == &tools && tools.Combo1->hasFocus());
     goDownTo(*tools.Combo1, "Main Screen");
@@ -132,9 +132,9 @@ class KeyboardSessionTest : public QObject {
     QCOMPARE(themefiles::GetINI(u"MainStaticIcon"_s, u"Color"_s, QString(), theme), u"P1Light"_s);
     key(tools, Qt::Key_W, Qt::ControlModifier);
     settle();
-    QVERIFY(form.ToolWindow == nullptr);
+    QVERIFY(form.toolWindow == nullptr);
     key(activeWindow(&form), Qt::Key_Tab);
-    QCOMPARE(form.ToolBar->Buttons().Button_Index(), 1);
+    QCOMPARE(form.ToolBar->buttons().Button_Index(), 1);
   }
 
   void keyboardComesBack() {

@@ -32,7 +32,7 @@ class PreviewTest : public QObject {
 
   void markOnThePickedObject() {
     pickNamed(*tools().List1, "LoadingButtonB");
-    QCOMPARE(program->form.Workspace->Mark(), QRectF(100, 200, 100, 40));
+    QCOMPARE(program->form.Workspace->mark(), QRectF(100, 200, 100, 40));
     QTRY_COMPARE(screenPixel(100, 200), QColor(0xC0, 0, 0));
     QTRY_COMPARE(screenPixel(199, 239), QColor(0xFF, 0x80, 0x80));
     QCOMPARE(pixel(100, 200), QColor(0, 0, 250));

@@ -70,8 +70,8 @@ class WholeSessionTest : public QObject {
 
   void everyScreen() {
     open(*program, "Stagelight", "Neon", Qt::Key_Home);
-    QCOMPARE(program->state.Paths.LanguageFile.section(u'\\', -1), u"Deutsch.ini.tmp"_s);
-    QCOMPARE(program->state.Paths.SkinFile.section(u'\\', -1), u"Neon.ini.tmp"_s);
+    QCOMPARE(program->state.paths.LanguageFile.section(u'\\', -1), u"Deutsch.ini.tmp"_s);
+    QCOMPARE(program->state.paths.SkinFile.section(u'\\', -1), u"Neon.ini.tmp"_s);
     toolwindow::Form2& tools = program->tools();
     QStringList before;
     QImage pictureBefore;
@@ -123,10 +123,10 @@ class WholeSessionTest : public QObject {
 
     toolBar(*program, 3);
     settle();
-    QVERIFY(program->form.ToolWindow == nullptr && program->form.Label1->isVisible());
+    QVERIFY(program->form.toolWindow == nullptr && program->form.Label1->isVisible());
     QVERIFY(program->dialogs.asked.isEmpty());
     open(*program, "Workbench", "Grey", Qt::Key_End);
-    QCOMPARE(program->state.Paths.ThemeFile.section(u'\\', -1), u"Workbench.ini.tmp"_s);
+    QCOMPARE(program->state.paths.ThemeFile.section(u'\\', -1), u"Workbench.ini.tmp"_s);
     QVERIFY(program->form.Label1->isHidden());
     open(*program, "Stagelight", "Neon", Qt::Key_Home);
     chooseMainScreen(*program);

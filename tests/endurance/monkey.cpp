@@ -56,7 +56,7 @@ bool RandomDialogs::answered(const char* answer) {
   return given;
 }
 
-platform::BoxAnswer RandomDialogs::MessageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
+platform::BoxAnswer RandomDialogs::messageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
                                               platform::BoxKind kind) {
   for (const char* refusal : Refusals) counts_[QLatin1StringView(refusal)] += text.contains(QLatin1StringView(refusal));
   if (kind == platform::BoxKind::YesNoDefaultNo) {
@@ -67,21 +67,21 @@ platform::BoxAnswer RandomDialogs::MessageBox(QWidget* /*parent*/, const QString
   return platform::BoxAnswer::Ok;
 }
 
-QString RandomDialogs::InputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) {
+QString RandomDialogs::inputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) {
   if (!answered("name")) return {};
   const QString number = QString::number(chance_.below(100));
   return chance_.of(
       QStringList{u"New"_s + number, u"Old"_s + number, u"c"_s + number, u"Plate"_s, u"OKAY"_s, u" odd "_s, u"a=b"_s});
 }
 
-QString RandomDialogs::OpenFile(QWidget* /*parent*/, const platform::FileRequest& request) {
+QString RandomDialogs::openFile(QWidget* /*parent*/, const platform::FileRequest& request) {
   if (!answered("file")) return {};
   const QString folder = request.folder.isEmpty() ? u"C:\\nowhere"_s : request.folder;
   return folder +
          chance_.of(QStringList{u"\\plate.png"_s, u"\\..\\outside.png"_s, u"\\sub\\p.png"_s, u"\\\u0416.png"_s});
 }
 
-std::optional<QColor> RandomDialogs::ChooseColor(QWidget* /*parent*/, const QColor& /*present*/) {
+std::optional<QColor> RandomDialogs::chooseColor(QWidget* /*parent*/, const QColor& /*present*/) {
   if (!answered("colour")) return {};
   return QColor(chance_.below(256), chance_.below(256), chance_.below(256));
 }
@@ -110,11 +110,11 @@ void Monkey::start() {
       work(form());
     };
   };
-  form().Queue.SetWorks(counted([](mainwindows::Form1& form) {
-                          if (form.ToolWindow != nullptr) toolwindow::ListScreen(*form.ToolWindow);
+  form().queue.setWorks(counted([](mainwindows::Form1& form) {
+                          if (form.toolWindow != nullptr) toolwindow::listScreen(*form.toolWindow);
                         }),
                         counted([](mainwindows::Form1& form) { form.DrawScreen(); }));
-  QObject::connect(&form().Queue, &controls::WorkQueue::Yielding, &form(), [this] { checkYield(); });
+  QObject::connect(&form().queue, &controls::WorkQueue::Yielding, &form(), [this] { checkYield(); });
   // Both are told behind the program itself.
   QObject::connect(form().ToolBar, &toolbar::McToolBar::Click, &form(), [this](int button) {
     ++counts_[QLatin1StringView(Others.at(static_cast<size_t>(button - 1)))];
@@ -133,8 +133,8 @@ void Monkey::require(bool holds, const QString& what) {
 void Monkey::noteSave() {
   readStatus();
   if (!state().ThemeOpened) return;
-  for (const QString& copy : {state().Paths.ThemeFile, state().Paths.SkinFile, state().Paths.LanguageFile}) {
-    const QString native = platform::NativePath(copy).chopped(4);
+  for (const QString& copy : {state().paths.ThemeFile, state().paths.SkinFile, state().paths.LanguageFile}) {
+    const QString native = platform::nativePath(copy).chopped(4);
     const QString name = QDir(game_.native(QString())).relativeFilePath(native);
     const QByteArray bytes = game_.get(name);
     if (bytes == expected_[name]) continue;
@@ -168,18 +168,18 @@ void Monkey::checkYield() {
 
 /// What holds at any moment.
 void Monkey::checkTheme() {
-  require(form().findChildren<toolwindow::Form2*>().contains(form().ToolWindow) == (form().ToolWindow != nullptr),
+  require(form().findChildren<toolwindow::Form2*>().contains(form().toolWindow) == (form().toolWindow != nullptr),
           u"the tool window dangles"_s);
   require(state().Changed == program_->enabled(2), u"Changed and Save disagree"_s);
-  for (const QString& path : {state().Paths.ThemeFile, state().Paths.SkinFile, state().Paths.LanguageFile}) {
+  for (const QString& path : {state().paths.ThemeFile, state().paths.SkinFile, state().paths.LanguageFile}) {
     require(state().ThemeOpened ? path.endsWith(u".tmp") : path.isEmpty(), u"path "_s + path);
   }
 }
 
 void Monkey::checkColors() {
-  const QString& file = state().Paths.ThemeFile;
+  const QString& file = state().paths.ThemeFile;
   QStringList table;
-  QStringList section = themefiles::KeyNames(u"Colors"_s, file);
+  QStringList section = themefiles::keyNames(u"Colors"_s, file);
   for (const themefiles::NamedColor& row : state().ThemeColors) {
     if (row.Name.isEmpty()) continue;
     table += row.Name;
@@ -193,11 +193,11 @@ void Monkey::checkColors() {
 /// What holds when all is at rest.
 void Monkey::check() {
   readStatus();
-  require(!form().Queue.Busy() && works_ == 0 && nested_ == 0, u"a pass is left"_s);
+  require(!form().queue.busy() && works_ == 0 && nested_ == 0, u"a pass is left"_s);
   require(form().ProgressBar1->isHidden(), u"the progress bar is left"_s);
   checkTheme();
   const bool opened = state().ThemeOpened;
-  require(opened == (form().ToolWindow != nullptr), u"open without a tool window"_s);
+  require(opened == (form().toolWindow != nullptr), u"open without a tool window"_s);
   require(form().findChildren<toolwindow::Form2*>().size() == (opened ? 1 : 0), u"tool windows"_s);
   require(QApplication::activeModalWidget() == nullptr, u"a dialog is left"_s);
   require(program_->enabled(3) == opened && program_->enabled(4) == opened, u"buttons of an open theme"_s);
@@ -206,7 +206,7 @@ void Monkey::check() {
   }
   if (!opened) return;
   checkColors();
-  const toolwindow::Form2& tools = *form().ToolWindow;
+  const toolwindow::Form2& tools = *form().toolWindow;
   int shown = 0;
   for (QWidget* frame : {tools.Numbers, tools.FloatNumbers, tools.Selection, tools.Color, tools.Texture, tools.Texts}) {
     shown += frame->isHidden() ? 0 : 1;
@@ -220,7 +220,7 @@ void Monkey::step() {
   if (form().isHidden()) {
     // The program has ended: an event loop takes the wish to quit, which would end every later one at once.
     ++counts_[u"end"_s];
-    require(form().ToolWindow == nullptr, u"the tool window outlives the program"_s);
+    require(form().toolWindow == nullptr, u"the tool window outlives the program"_s);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
     QCoreApplication::exec();

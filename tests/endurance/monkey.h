@@ -33,11 +33,11 @@ class Chance {
 class RandomDialogs : public platform::Dialogs {
  public:
   RandomDialogs(Chance& chance, Counts& counts) : chance_(chance), counts_(counts) {}
-  platform::BoxAnswer MessageBox(QWidget* parent, const QString& text, const QString& title,
+  platform::BoxAnswer messageBox(QWidget* parent, const QString& text, const QString& title,
                                  platform::BoxKind kind) override;
-  QString InputBox(QWidget* parent, const QString& prompt, const QString& title) override;
-  QString OpenFile(QWidget* parent, const platform::FileRequest& request) override;
-  std::optional<QColor> ChooseColor(QWidget* parent, const QColor& present) override;
+  QString inputBox(QWidget* parent, const QString& prompt, const QString& title) override;
+  QString openFile(QWidget* parent, const platform::FileRequest& request) override;
+  std::optional<QColor> chooseColor(QWidget* parent, const QColor& present) override;
 
  private:
   bool answered(const char* answer);

@@ -103,19 +103,19 @@ class SecondEditorTest : public QObject {
     int told = 0;
     QString lost;
     for (int edit = 0; lost.isEmpty() && (edit < 1000 || (turns < 1000 && edit < 30'000)); ++edit) {
-      const QByteArray before = program.state.OwnCopies[0];
-      const auto expected = platform::SetProfileValue(before, "LoadingStaticA", "X", QByteArray::number(edit));
+      const QByteArray before = program.state.ownCopies[0];
+      const auto expected = platform::setProfileValue(before, "LoadingStaticA", "X", QByteArray::number(edit));
       support::Panel notes;
       QString failure;
       try {
-        themefiles::PutInCopy(program.state, &themefiles::ThemePaths::ThemeFile, u"LoadingStaticA"_s, u"X"_s,
+        themefiles::putInCopy(program.state, &themefiles::ThemePaths::ThemeFile, u"LoadingStaticA"_s, u"X"_s,
                               QString::number(edit), notes);
       } catch (const platform::Failure& thrown) {
         failure = thrown.description();
       }
       const QString note = notes.texts.join(u' ');
       told += !note.isEmpty() || !failure.isEmpty();
-      const QByteArray& after = program.state.OwnCopies[0];
+      const QByteArray& after = program.state.ownCopies[0];
       if (after == expected || (after == before && !failure.isEmpty())) continue;
       if (before == first && after.size() >= first.size()) continue;
       bool kept = game.get(Kept) == before;

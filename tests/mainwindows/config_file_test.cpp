@@ -23,7 +23,7 @@ class ConfigFileTest : public QObject {
     const ConfigFile made(folders);
     QCOMPARE(first.get(File), "[Setup]\r\nEXEDirectory=\r\n");
     QCOMPARE(made.GameFolder(), QString());
-    made.SetGameFolder(u"C:\\Games\\"_s);
+    made.setGameFolder(u"C:\\Games\\"_s);
     QCOMPARE(first.get(File), "[Setup]\r\nEXEDirectory=C:\\Games\\\r\n");
 
     const QByteArray foreign = "; mine\n[setup]\nexedirectory = \"D:\\x\\\"\nOther=1";
@@ -39,12 +39,12 @@ class ConfigFileTest : public QObject {
     for (const char* first : {"\\nowhere\\at all", "\\dev\\null", "\\usr\\local", "\\usr\\\\local\\bin"}) {
       const QString folder = QString::fromLatin1(first);
       const ConfigFile config({folder, next.path({})});
-      QVERIFY2(config.Path() == next.path({}) + u"\\config.ini"_s && config.Problem().isEmpty(), first);
+      QVERIFY2(config.path() == next.path({}) + u"\\config.ini"_s && config.problem().isEmpty(), first);
       const ConfigFile none({folder});
-      QVERIFY2(none.Path().isEmpty() && none.GameFolder().isEmpty(), first);
-      QVERIFY_THROWS_EXCEPTION(platform::Failure, none.SetGameFolder(u"C:\\Games\\"_s));
+      QVERIFY2(none.path().isEmpty() && none.GameFolder().isEmpty(), first);
+      QVERIFY_THROWS_EXCEPTION(platform::Failure, none.setGameFolder(u"C:\\Games\\"_s));
     }
-    QVERIFY(!ConfigFile({u"\\nowhere\\at all"_s}).Problem().isEmpty());
+    QVERIFY(!ConfigFile({u"\\nowhere\\at all"_s}).problem().isEmpty());
   }
 
   void folderOutsideTheCodePage() {
@@ -54,7 +54,7 @@ class ConfigFileTest : public QObject {
       QVERIFY(QDir(place.native({})).mkdir(name));
       place.put(name + u"/Vocora.exe"_s, "program");
       const QString folder = place.path(name) + u'\\';
-      ConfigFile({place.path({})}).SetGameFolder(folder);
+      ConfigFile({place.path({})}).setGameFolder(folder);
       QVERIFY2(place.get(File).contains('\\' + QByteArray(stored) + "\\\r\n"), place.get(File).constData());
       QCOMPARE(ConfigFile({place.path({})}).GameFolder(), folder);
     }

@@ -21,8 +21,8 @@ class OpenThemeTest : public QObject {
     for (const auto& [stored, chosen, dialogComes] : rows) {
       const GameFolder game;
       Program program(game, false);
-      if (*stored != '-') program.form.Config.SetGameFolder(game.path() + QLatin1StringView(stored));
-      const QString before = program.form.Config.GameFolder();
+      if (*stored != '-') program.form.config.setGameFolder(game.path() + QLatin1StringView(stored));
+      const QString before = program.form.config.GameFolder();
       program.dialogs.files = {chosen ? game.path() + u"Vocora.exe"_s : QString()};
       const bool came = program.openDialog([&](Form3& dialog) {
         QCOMPARE(dialog.windowTitle(), u"Open Theme ["_s + game.path() + u']');
@@ -30,8 +30,8 @@ class OpenThemeTest : public QObject {
       });
       QCOMPARE(came, dialogComes);
       QCOMPARE(program.dialogs.asked.size(), *stored == 0 ? 0 : 1);
-      QCOMPARE(program.form.Config.GameFolder(), dialogComes ? game.path() : before);
-      QVERIFY(program.form.ToolWindow == nullptr && !program.enabled(3));
+      QCOMPARE(program.form.config.GameFolder(), dialogComes ? game.path() : before);
+      QVERIFY(program.form.toolWindow == nullptr && !program.enabled(3));
       // The same folder without themes.
       program.dialogs.files = {game.path() + u"Vocora.exe"_s};
       QFile::remove(game.native(ThemeFile));
@@ -207,11 +207,11 @@ class OpenThemeTest : public QObject {
       QCOMPARE(differences(snapshot(program, game), before), QStringList());
       return;
     }
-    QVERIFY(program.state.Paths.ThemeFile.endsWith(u"Beta.ini.tmp"));
+    QVERIFY(program.state.paths.ThemeFile.endsWith(u"Beta.ini.tmp"));
     QVERIFY(!program.state.Changed && program.buttons() == u"+-++");
     QVERIFY(program.state.ThemeColors[0].Name.isEmpty() && program.state.ThemeColors[1].Name.isEmpty());
     QCOMPARE(program.tools().List1->ListCount(), 0);
-    QVERIFY2(!program.form.Workspace->MarkVisible(), "the mark of the theme before");
+    QVERIFY2(!program.form.Workspace->markVisible(), "the mark of the theme before");
     QVERIFY(program.form.Combo2->isHidden());
     QCOMPARE(program.picture().pixelColor(400, 300), QColor(Qt::white));
   }

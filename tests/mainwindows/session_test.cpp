@@ -22,9 +22,9 @@ void checkWithoutTheme(const Program& program, const QColor& back) {
   QCOMPARE(program.buttons(), u"+---"_s);
   QVERIFY(form.Label1->isVisible() && form.Label2->isVisible());
   QVERIFY(form.Combo1->isHidden() && form.Combo2->isHidden() && form.ProgressBar1->isHidden());
-  QVERIFY(form.ToolWindow == nullptr && form.findChildren<toolwindow::Form2*>().isEmpty());
-  QVERIFY(!form.Workspace->MarkVisible() && !form.Workspace->Blinking());
-  QVERIFY(!program.state.ThemeOpened && !program.state.Changed && program.state.Paths.ThemeFile.isEmpty());
+  QVERIFY(form.toolWindow == nullptr && form.findChildren<toolwindow::Form2*>().isEmpty());
+  QVERIFY(!form.Workspace->markVisible() && !form.Workspace->blinking());
+  QVERIFY(!program.state.ThemeOpened && !program.state.Changed && program.state.paths.ThemeFile.isEmpty());
   QImage expected(800, 600, QImage::Format_RGB32);
   expected.fill(back);
   QPainter(&expected).drawImage(0, 0, QImage(u":/assets/start.jpg"_s));
@@ -114,7 +114,7 @@ class SessionTest : public ProgramTest {
     QCOMPARE(program->state.ProgressStep, qint16(0));
     QVERIFY(form.ProgressBar1->isHidden() && form.Combo2->isHidden());
     QCOMPARE(pixel(60, 70), QColor(Qt::white));
-    QVERIFY2(form.Workspace->MarkVisible(), "it stays until an object is chosen");
+    QVERIFY2(form.Workspace->markVisible(), "it stays until an object is chosen");
     QCOMPARE(program->value(u"X"_s), u"40"_s);
     program->dialogs.colors = {QColor(10, 20, 30)};
     program->click(4);
@@ -157,14 +157,14 @@ class SessionTest : public ProgramTest {
       QCOMPARE(shownAt(*program, beside), picture.pixelColor(beside));
     }
     program->tag(u"LoadingTextFree"_s);
-    QVERIFY(preview.Mark().width() == 0 && preview.Mark().height() > 5);
+    QVERIFY(preview.mark().width() == 0 && preview.mark().height() > 5);
     const QColor line = shownAt(*program, {400, 103});
     QVERIFY(line == DarkRed || line == LightRed);
     for (const int x : {399, 401}) QCOMPARE(shownAt(*program, {x, 103}), picture.pixelColor(x, 103));
     program->tag(u"LoadingButtonGoText1"_s);
-    QCOMPARE(preview.Mark().topLeft(), QPointF(310, 205));
+    QCOMPARE(preview.mark().topLeft(), QPointF(310, 205));
     program->tag(u"LoadingBackground"_s);
-    QVERIFY(!preview.MarkVisible() && !preview.Blinking());
+    QVERIFY(!preview.markVisible() && !preview.blinking());
     QCOMPARE(program->picture(), picture);
     QVERIFY2(program->state.ProgressStep == 77, "drawn anew");
   }
@@ -191,7 +191,7 @@ class SessionTest : public ProgramTest {
     });
     QTimer::singleShot(5000, &program->form, [] { QCoreApplication::exit(1); });
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(program->form.isHidden() && program->form.ToolWindow == nullptr);
+    QVERIFY(program->form.isHidden() && program->form.toolWindow == nullptr);
     QCOMPARE(program->dialogs.asked.size(), 1);
     QCOMPARE(game->files(), files);
   }

@@ -10,8 +10,8 @@
 #include <QDir>
 #include <QTest>
 
+#include "drawing/pictures.h"
 #include "platform/failure.h"
-#include "platform/pictures.h"
 #include "support/theme_doubles.h"
 
 using namespace platform;
@@ -25,8 +25,8 @@ class FilesTest : public QObject {
 
   void readsWhatWasWritten() {
     for (const QByteArray& bytes : {QByteArray(5'000'000, 'x'), QByteArray("a\0\r\nb", 5), QByteArray()}) {
-      WriteFile(at(u"a.ini"_s), bytes);
-      QCOMPARE(ReadFile(at(u"A.INI"_s)), bytes);
+      writeFile(at(u"a.ini"_s), bytes);
+      QCOMPARE(readFile(at(u"A.INI"_s)), bytes);
       QCOMPARE(entries(), QStringList{u"a.ini"_s});
     }
   }
@@ -37,7 +37,7 @@ class FilesTest : public QObject {
     QFile::setPermissions(real, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup);
     const auto mode = QFile::permissions(real);
     QFile::link(u"real.ini"_s, folder_->native(u"link.ini"_s));
-    WriteFile(at(u"link.ini"_s), "new");
+    writeFile(at(u"link.ini"_s), "new");
     QVERIFY(QFileInfo(folder_->native(u"link.ini"_s)).isSymbolicLink());
     QCOMPARE(folder_->get(u"real.ini"_s), QByteArray("new"));
     QCOMPARE(QFile::permissions(real), mode);
@@ -56,14 +56,14 @@ class FilesTest : public QObject {
          {std::tuple{uid_t(0), Someone, 0640, Someone}, {Someone + 1, Someone, 0664, Someone + 1}}) {
       QVERIFY(::chown(name, owner, Shared) == 0 && ::chmod(name, mode_t(mode)) == 0);
       QVERIFY(::chown(place, writer, Shared) == 0 && ::setegid(Shared) == 0 && ::seteuid(writer) == 0);
-      WriteFile(at(u"a.ini"_s), "new");
+      writeFile(at(u"a.ini"_s), "new");
       QVERIFY(::seteuid(0) == 0 && ::setegid(0) == 0 && ::stat(name, &status) == 0);
       QCOMPARE(std::tuple(status.st_uid, status.st_gid, int(status.st_mode & 07777)), std::tuple(after, Shared, mode));
     }
     // A folder of one's own is no right to another one's file.
     for (const mode_t mode : {0644, 0600}) {
       QVERIFY(::chown(name, 0, 0) == 0 && ::chmod(name, mode) == 0 && ::seteuid(Someone + 1) == 0);
-      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(u"a.ini"_s), "stolen"));
+      QVERIFY_THROWS_EXCEPTION(Failure, writeFile(at(u"a.ini"_s), "stolen"));
       QVERIFY(::seteuid(0) == 0 && folder_->get(u"a.ini"_s) == "new");
       QCOMPARE(entries(), QStringList{u"a.ini"_s});
     }
@@ -75,15 +75,15 @@ class FilesTest : public QObject {
     for (const char* target : {"pipe", "/dev/zero", "sub", "nothing"}) {
       const QString name = QFileInfo(QLatin1StringView(target)).fileName() + u".ini"_s;
       QFile::link(QLatin1StringView(target), folder_->native(name));
-      QVERIFY2(!FileExists(at(name)) && LoadPicture(at(name)).isNull(), target);
-      QVERIFY_THROWS_EXCEPTION(Failure, ReadFile(at(name)));
+      QVERIFY2(!fileExists(at(name)) && drawing::LoadPicture(at(name)).isNull(), target);
+      QVERIFY_THROWS_EXCEPTION(Failure, readFile(at(name)));
       if (target == QByteArrayView("nothing")) continue;
-      QVERIFY_THROWS_EXCEPTION(Failure, ReadIfThere(at(name)));
-      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(name), "new"));
-      QVERIFY(!ReadIfThere(at(name), AtLink::Replace));
+      QVERIFY_THROWS_EXCEPTION(Failure, readIfThere(at(name)));
+      QVERIFY_THROWS_EXCEPTION(Failure, writeFile(at(name), "new"));
+      QVERIFY(!readIfThere(at(name), AtLink::Replace));
     }
-    QCOMPARE(ListFiles(at({}), u".ini"_s), QStringList());
-    QVERIFY(!FolderHoldsFiles(at({})));
+    QCOMPARE(listFiles(at({}), u".ini"_s), QStringList());
+    QVERIFY(!folderHoldsFiles(at({})));
   }
 
   void ownNamesFollowNoLink() {
@@ -93,8 +93,8 @@ class FilesTest : public QObject {
         QFile::remove(folder_->native(name));
         QFile::link(target, folder_->native(name));
       }
-      QVERIFY(!ReadIfThere(at(u"a.tmp"_s), AtLink::Replace));
-      WriteFile(at(u"a.tmp"_s), "new", AtLink::Replace);
+      QVERIFY(!readIfThere(at(u"a.tmp"_s), AtLink::Replace));
+      writeFile(at(u"a.tmp"_s), "new", AtLink::Replace);
       QVERIFY(!QFileInfo(folder_->native(u"a.tmp"_s)).isSymbolicLink() && folder_->get(u"a.tmp"_s) == "new");
       QCOMPARE(folder_->get(u"mine"_s), QByteArray("mine"));
       QCOMPARE(entries(), (QStringList{u"a.tmp"_s, u"mine"_s}));
@@ -106,10 +106,10 @@ class FilesTest : public QObject {
     folder_->put(u"a.ini.unfinished"_s, "of another program");
     const int other = ::open(folder_->native(u"a.ini.unfinished"_s).toUtf8(), O_RDONLY);
     QVERIFY(::flock(other, LOCK_EX) == 0);  // it is alive
-    QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(u"a.ini"_s), "new"));
+    QVERIFY_THROWS_EXCEPTION(Failure, writeFile(at(u"a.ini"_s), "new"));
     QCOMPARE(folder_->get(u"a.ini.unfinished"_s), QByteArray("of another program"));
     ::close(other);
-    WriteFile(at(u"a.ini"_s), "new");
+    writeFile(at(u"a.ini"_s), "new");
     QCOMPARE(entries(), QStringList{u"a.ini"_s});
   }
 
@@ -120,7 +120,7 @@ class FilesTest : public QObject {
     QDir(folder_->native({})).mkdir(u"sub"_s);
     const QStringList before = entries();
     for (const QString& target : {u"protected.ini"_s, u"link.ini"_s, u"none\\a.ini"_s, u"sub"_s}) {
-      QVERIFY_THROWS_EXCEPTION(Failure, WriteFile(at(target), "new"));
+      QVERIFY_THROWS_EXCEPTION(Failure, writeFile(at(target), "new"));
       QCOMPARE(folder_->get(u"protected.ini"_s), QByteArray("old"));
       QCOMPARE(entries(), before);
     }
@@ -128,13 +128,13 @@ class FilesTest : public QObject {
 
   void foldersAndTheirFiles() {
     QDir(folder_->native({})).mkdir(u"sub.ini"_s);
-    QVERIFY(!FolderHoldsFiles(at({})));
+    QVERIFY(!folderHoldsFiles(at({})));
     for (const QString& name : {u"b.ini"_s, u"B.INI"_s, u"_.ini"_s, u"a.Ini"_s, u"c.ini.tmp"_s}) {
       folder_->put(name, {});
     }
-    QVERIFY(FolderHoldsFiles(at({})));
-    QVERIFY(!FolderHoldsFiles(at({}).chopped(1)));
-    QCOMPARE(ListFiles(at({}), u".ini"_s), (QStringList{u"a.Ini"_s, u"B.INI"_s, u"b.ini"_s, u"_.ini"_s}));
+    QVERIFY(folderHoldsFiles(at({})));
+    QVERIFY(!folderHoldsFiles(at({}).chopped(1)));
+    QCOMPARE(listFiles(at({}), u".ini"_s), (QStringList{u"a.Ini"_s, u"B.INI"_s, u"b.ini"_s, u"_.ini"_s}));
   }
 
   void nativePaths() {
@@ -150,23 +150,23 @@ class FilesTest : public QObject {
                             "\\Themes\\..\\themes\\blue.ini /Themes/../Themes/Blue.INI",
                             "\\twins\\Case.ini /Twins/Case.ini", "\\twins\\cAsE.ini /Twins/CASE.ini"}) {
       const QStringList paths = QString::fromLatin1(row).split(u' ');
-      QCOMPARE(NativePath(ProgramPath(root) + paths[0]), root + paths[1]);
+      QCOMPARE(nativePath(programPath(root) + paths[0]), root + paths[1]);
     }
     QFile::link(folder_->native(u"Themes"_s), folder_->native(u"link"_s));
-    QVERIFY(SameFolder(root + u"\\Themes"_s, root + u"\\THEMES\\\\"_s));
-    QVERIFY(SameFolder(root + u"\\link"_s, root + u"\\Twins\\..\\Themes"_s));
-    QVERIFY(!SameFolder(root + u"\\Themes"_s, root + u"\\Twins"_s));
+    QVERIFY(sameFolder(root + u"\\Themes"_s, root + u"\\THEMES\\\\"_s));
+    QVERIFY(sameFolder(root + u"\\link"_s, root + u"\\Twins\\..\\Themes"_s));
+    QVERIFY(!sameFolder(root + u"\\Themes"_s, root + u"\\Twins"_s));
   }
 
   void guardReportsFailures() {
     support::Panel panel;
-    const auto guarded = [&panel](auto step) { return Guarded(panel, u"Error while reading Theme"_s, step); };
+    const auto runGuarded = [&panel](auto step) { return guarded(panel, u"Error while reading Theme"_s, step); };
     // An exception that tells a fault of the program passes.
-    QVERIFY_THROWS_EXCEPTION(std::logic_error, guarded([] { throw std::logic_error(""); }));
-    QVERIFY(guarded([] {}) && panel.texts.isEmpty());
-    QVERIFY(!guarded([this] { ReadFile(at(u"Missing.ini"_s)); }));
+    QVERIFY_THROWS_EXCEPTION(std::logic_error, runGuarded([] { throw std::logic_error(""); }));
+    QVERIFY(runGuarded([] {}) && panel.texts.isEmpty());
+    QVERIFY(!runGuarded([this] { readFile(at(u"Missing.ini"_s)); }));
     QVERIFY(panel.texts.first().startsWith(u"Error while reading Theme [Missing.ini: "_s));
-    QVERIFY(!guarded([] { throw std::bad_alloc(); }));
+    QVERIFY(!runGuarded([] { throw std::bad_alloc(); }));
   }
 
  private:

@@ -13,7 +13,7 @@ using Outcome = std::optional<QByteArray>;
 
 /// Checks cases like "file => outcome": "|" ends a line, as CR LF, and "none" is no outcome.
 template <std::size_t Count, typename Work>
-void CompareAll(const char* const (&cases)[Count], Work work) {
+void compareAll(const char* const (&cases)[Count], Work work) {
   for (const char* text : cases) {
     const qsizetype arrow = QByteArrayView(text).indexOf(" => ");
     const QByteArray expected = linesOf(text + arrow + 4);
@@ -30,23 +30,23 @@ class ProfileStringsTest : public QObject {
 
  private Q_SLOTS:
   void values() {
-    const auto valueOfK = [](const QByteArray& file) { return FindProfileValue(file, "S", "k"); };
+    const auto valueOfK = [](const QByteArray& file) { return findProfileValue(file, "S", "k"); };
     const char* const places[] = {"[S]|[S]|k=v => none", "[S]|[T]|k=v => none", "[S]k=v => none", "[S]|k=v|k=w => v",
                                   " \t[ \tS\t ]|k=v => v", "[MyS]|k=v|[S]|k=w => w", "[S]x]|k=v => v",
                                   "[A]|x=[S]|k=w|[S]|k=v => v", ";[S]|k=w|[S]|k=v => v", "[S]| ;k=v => none",
                                   "[R]\nk=u\n[S]\nk=v\nj=w => v", "[R]\rk=u\r[S]\rk=v\rj=w => v",
                                   // The mark of another encoding hides the first section only.
                                   "\xEF\xBB\xBF[S]|k=v|[T]|k=w => none", "\xEF\xBB\xBF[T]|k=v|[S]|k=w => w"};
-    CompareAll(places, valueOfK);
+    compareAll(places, valueOfK);
     const char* const texts[] = {
         "[S]|k=;v => ;v",   "[S]| k \t=  v\t  => v",        "[S]|k=\v\xA0v\xA0 => \v\xA0v\xA0",
         "[S]|k=|j=v => ",   "[S]|k=  \"  v  \"   =>   v  ", "[S]|k=''v'' => 'v'",
         "[S]|k=a=b => a=b",
     };
-    CompareAll(texts, valueOfK);
-    QCOMPARE(FindProfileValue("[S\xE4]\nk\xF6=v", " s\xC4 ", "  K\xD6"), QByteArray("v"));
-    QCOMPARE(FindProfileValue("[S]\n#k=v", "S", "#k"), QByteArray("v"));
-    QVERIFY(!FindProfileValue("k=v\n[S]\nj=w", "", "k"));
+    compareAll(texts, valueOfK);
+    QCOMPARE(findProfileValue("[S\xE4]\nk\xF6=v", " s\xC4 ", "  K\xD6"), QByteArray("v"));
+    QCOMPARE(findProfileValue("[S]\n#k=v", "S", "#k"), QByteArray("v"));
+    QVERIFY(!findProfileValue("k=v\n[S]\nj=w", "", "k"));
     // Of what is asked for, only blanks are cut off.
     for (const auto& [section, key, found] : {std::tuple("S", "\tk", false),
                                               {"S", "k\t ", false},
@@ -54,8 +54,8 @@ class ProfileStringsTest : public QObject {
                                               {"S\t", "k", false},
                                               {" S ", " k ", true}}) {
       for (const QByteArray file : {"[S]\nk=v", "[ S\t]\n\tk\t=v"}) {
-        QCOMPARE(FindProfileValue(file, section, key).has_value(), found);
-        QCOMPARE(SetProfileValue(file, section, key, "w").has_value(), found);
+        QCOMPARE(findProfileValue(file, section, key).has_value(), found);
+        QCOMPARE(setProfileValue(file, section, key, "w").has_value(), found);
       }
     }
   }
@@ -63,7 +63,7 @@ class ProfileStringsTest : public QObject {
   void keyLists() {
     const char* const cases[] = {"[T]|k=v => ", "[S]|;c=1|#d=2|e=3 => #d|e|", "[S]|k=1|j=2|k=3 => k|j|k|",
                                  "[S]|=1| = 2|k=3 => k|", "[S]|\ta b = 1|[ S ]|k=2 => a b|"};
-    CompareAll(cases, [](const QByteArray& file) { return ListProfileKeys(file, "s").replace('\0', "\r\n"); });
+    compareAll(cases, [](const QByteArray& file) { return listProfileKeys(file, "s").replace('\0', "\r\n"); });
   }
 
   void set() {
@@ -76,17 +76,17 @@ class ProfileStringsTest : public QObject {
         "[S]|k=old => [S]|k=v", "[S]|j=1 => [S]|j=1|k=v|", "[T]|[S => [T]|[S|k=v|", "[T]|j=1 => [T]|j=1|[S]|k=v|",
         // New lines take the first line end of the file, a changed one keeps its own.
         "[T]\nj=1| => [T]\nj=1|[S]\nk=v\n", "[T]\r[S]\rj=1\r => [T]\r[S]\rj=1\rk=v\r", "[S]\nk=1|j=2 => [S]\nk=v|j=2"};
-    CompareAll(cases, [](const QByteArray& file) { return SetProfileValue(file, "S", "k", "v"); });
-    QCOMPARE(SetProfileValue("[S]\nk=old\n", "S", "k", " \"v\" "), QByteArray("[S]\nk= \"v\" \n"));
-    QCOMPARE(SetProfileValue("[S]\nk=old\n", "S", "k", ""), QByteArray("[S]\nk=\n"));
-    QVERIFY(!SetProfileValue("[S]\nk=1\n", "S", "k", "v\nj=1"));
+    compareAll(cases, [](const QByteArray& file) { return setProfileValue(file, "S", "k", "v"); });
+    QCOMPARE(setProfileValue("[S]\nk=old\n", "S", "k", " \"v\" "), QByteArray("[S]\nk= \"v\" \n"));
+    QCOMPARE(setProfileValue("[S]\nk=old\n", "S", "k", ""), QByteArray("[S]\nk=\n"));
+    QVERIFY(!setProfileValue("[S]\nk=1\n", "S", "k", "v\nj=1"));
   }
 
   void sectionsAndLines() {
     const QByteArray file("k=0\n [ a\t]x\nk= \"v\" \nK=w\n[b\nj=1\n[A]\nk=2\n[]\ne=");
     const ProfileSections sections(file);
     for (const char* name : {"A", " b", "", "a\t", "c"}) {
-      const auto found = FindProfileSection(file, name);
+      const auto found = findProfileSection(file, name);
       QCOMPARE(sections.lines(name).data(), found ? found->data() : nullptr);
     }
     QCOMPARE(sections.lines("a"), QByteArrayView("k= \"v\" \nK=w\n"));
@@ -104,7 +104,7 @@ class ProfileStringsTest : public QObject {
         "[S]|k=v|[T]| => [S]|[T]|", "[S]|j=1| k = v |;c => [S]|j=1|;c", "[S]|k=v => [S]|",
         "[S]|k=1|k=2| => [S]|k=2|", "[S]\rk=1\rj=2\r => [S]\rj=2\r",    "[S]|j=1|[T]|k=2| => none",
         "[S]|;k=1| => none"};
-    CompareAll(cases, [](const QByteArray& file) { return RemoveProfileKey(file, "s", " K "); });
+    compareAll(cases, [](const QByteArray& file) { return removeProfileKey(file, "s", " K "); });
   }
 };
 

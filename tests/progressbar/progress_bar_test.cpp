@@ -3,18 +3,18 @@
 #include <QAccessible>
 #include <QTest>
 
-#include "platform/property_bag_bytes.h"
-#include "platform/raster_text.h"
+#include "drawing/raster_text.h"
+#include "mainwindows/main_window_progress_bar.h"
 #include "progressbar/caption.h"
 #include "progressbar/gradients.h"
-#include "progressbar/main_window_bar.h"
 #include "progressbar/painting.h"
 #include "progressbar/stored_form.h"
+#include "propertybag/stored_bytes.h"
 #include "support/pictures.h"
 
 using namespace progressbar;
-using platform::PropertyBag;
-using platform::Raster;
+using drawing::Raster;
+using propertybag::PropertyBag;
 
 namespace {
 
@@ -40,8 +40,8 @@ Properties plainBar() {
 Raster painted(const QSize& size, const Properties& bar) {
   Raster raster(size);
   Palette palette;
-  LoadPalette(palette, bar);
-  Paint(raster, bar, palette);
+  loadPalette(palette, bar);
+  paint(raster, bar, palette);
   return raster;
 }
 
@@ -113,15 +113,15 @@ class ProgressBarTest : public QObject {
   }
 
   void coloursOfThemes() {
-    QCOMPARE(GreyOf(0xFFFFFFU), 0xFFFFFFU);  // above the brightest
-    QCOMPARE(GreyOf(0x4ACC3EU), 0x727272U);  // lower channels count in the higher ones
+    QCOMPARE(greyOf(0xFFFFFFU), 0xFFFFFFU);  // above the brightest
+    QCOMPARE(greyOf(0x4ACC3EU), 0x727272U);  // lower channels count in the higher ones
     Properties bar = plainBar();
     const auto colors = [&bar](int theme) {
       Palette palette;
       bar.Theme = theme;
-      LoadPalette(palette, bar);
+      loadPalette(palette, bar);
       return QList<quint32>{palette.TrackFirst.End, palette.FilledFirst.Start, palette.FilledFirst.End,
-                            palette.FilledSecond.End, palette.Outline};
+                            palette.FilledSecond.End, palette.outline};
     };
     bar.PBSCustomeColor1 = 0x0050C8;
     QCOMPARE(colors(10), (QList<quint32>{0xF2F2F2, 0xB4FFFF, 0x3282FA, 0x50A0FF, 0x0050C8}));
@@ -137,21 +137,21 @@ class ProgressBarTest : public QObject {
     using Place = std::optional<QPoint>;
     const QSize wide(801, 20);
     const QSize caption(31, 13);
-    QCOMPARE(CaptionPlace(3, wide, caption), Place({1, 6}));
-    QCOMPARE(CaptionPlace(5, wide, caption), Place({384, 2}));
-    QCOMPARE(CaptionPlace(5, QSize(802, 22), caption), Place({384, 4}));  // up to the even pixel
-    QCOMPARE(CaptionPlace(9, wide, caption), Place({767, 6}));
-    QCOMPARE(CaptionPlace(10, wide, caption), Place());
+    QCOMPARE(captionPlace(3, wide, caption), Place({1, 6}));
+    QCOMPARE(captionPlace(5, wide, caption), Place({384, 2}));
+    QCOMPARE(captionPlace(5, QSize(802, 22), caption), Place({384, 4}));  // up to the even pixel
+    QCOMPARE(captionPlace(9, wide, caption), Place({767, 6}));
+    QCOMPARE(captionPlace(10, wide, caption), Place());
   }
 
   void textsOfTheCaption() {
     Properties bar = plainBar();
     bar.Value = 7;
     bar.TextStyle = 1;
-    QCOMPARE(CaptionText(bar, 50), QStringLiteral("7"));
+    QCOMPARE(captionText(bar, 50), QStringLiteral("7"));
     bar.TextStyle = 2;
-    QCOMPARE(CaptionText(bar, 100 / 3.0), QStringLiteral("33.3333333333333%"));
-    QCOMPARE(CaptionText(bar, 0.5), QStringLiteral("0.5%"));
+    QCOMPARE(captionText(bar, 100 / 3.0), QStringLiteral("33.3333333333333%"));
+    QCOMPARE(captionText(bar, 0.5), QStringLiteral("0.5%"));
   }
 
   // Printings in their order, the caption itself as the last one.
@@ -173,7 +173,7 @@ class ProgressBarTest : public QObject {
       const QSize size(60, 40);
       Raster expected = painted(size, bar);
       for (const auto& [place, color] : printings) {
-        platform::Print(expected, bar.TextFont, bar.Text, 1 + place.x(), place.y(), color);
+        drawing::Print(expected, bar.TextFont, bar.Text, 1 + place.x(), place.y(), color);
       }
       bar.TextStyle = 3;
       return painted(size, bar).image() == expected.image();
@@ -210,36 +210,36 @@ class ProgressBarTest : public QObject {
     ProgressBar bar;
     bar.setObjectName(QStringLiteral("ProgressBar1"));
     bar.SetValue(3);
-    ReadProperties(bar, PropertyBag());  // gives the stored defaults
+    readProperties(bar, PropertyBag());  // gives the stored defaults
     QCOMPARE(bar.Value(), 50);
     QCOMPARE(bar.TextEffectColor(), 0xC8C8C8U);
     QCOMPARE(bar.Text(), QStringLiteral("ProgressBar1"));
     // The value is read behind its range, and a key that fails is passed over.
-    ReadProperties(bar, bagOf({{"value", 700}, {"MIN", 300}, {"Theme", QStringLiteral("blue")}, {"max", 900}}));
+    readProperties(bar, bagOf({{"value", 700}, {"MIN", 300}, {"Theme", QStringLiteral("blue")}, {"max", 900}}));
     QCOMPARE((QList<int>{bar.min(), bar.max(), bar.Value()}), (QList<int>{300, 900, 700}));
     const QAccessibleValueInterface& seen = *QAccessible::queryAccessibleInterface(&bar)->valueInterface();
     QCOMPARE((QVariantList{seen.minimumValue(), seen.maximumValue(), seen.currentValue()}),
              (QVariantList{300, 900, 700}));
-    ReadProperties(bar, bagOf({{"Max", 3000000000U}, {"value", 7}}));
+    readProperties(bar, bagOf({{"Max", 3000000000U}, {"value", 7}}));
     QCOMPARE(bar.Value(), 7);
   }
 
   // Colours come as negative numbers when they are the system's.
   void bytesGoRound() {
-    const QByteArray own = platform::StoredBytes(bagOf(
+    const QByteArray own = propertybag::storedBytes(bagOf(
         {{"_extentx", 265}, {"_extenty", 529}, {"Text", QStringLiteral("bar")}, {"PBSCustomeColor2", -2147483633}}));
     const struct {
       QByteArray stored;
       QSize size;
       quint32 track;
-    } rows[] = {{MainWindowBar(), QSize(801, 20), 0xC0C0C0U}, {own, QSize(10, 20), 0x8000000FU}};
+    } rows[] = {{mainwindows::mainWindowBar(), QSize(801, 20), 0xC0C0C0U}, {own, QSize(10, 20), 0x8000000FU}};
     for (const auto& [stored, size, track] : rows) {
       ProgressBar bar;
-      QVERIFY(ReadProperties(bar, stored));
-      QCOMPARE(WriteProperties(bar).toHex(' '), stored.toHex(' '));
+      QVERIFY(readProperties(bar, stored));
+      QCOMPARE(writeProperties(bar).toHex(' '), stored.toHex(' '));
       QCOMPARE(bar.size(), size);
       QCOMPARE(bar.PBSCustomeColor2(), track);
-      QVERIFY(!ReadProperties(bar, stored.chopped(1)));
+      QVERIFY(!readProperties(bar, stored.chopped(1)));
       QCOMPARE(bar.RoundedValue(), 5);
     }
   }

@@ -20,8 +20,8 @@ struct Look {
 };
 
 QImage pictureOf(const Look& look) {
-  platform::Surface surface;
-  surface.Wipe(Qt::white);
+  drawing::Surface surface;
+  surface.wipe(Qt::white);
   surface.SetFontName(QString::fromLatin1(look.face));
   surface.SetFontSize(look.points);
   surface.ForeColor = QColor(look.color);
@@ -48,7 +48,7 @@ struct Mark : renderer::CursorMark {
   void SetWidth(double width) override { note("W", width); }
   void SetHeight(double height) override { note("H", height); }
   void SetVisible(bool visible) override { calls += visible ? "shown " : "hidden "; }
-  void SetBlinking(bool blinking) override { calls += blinking ? "blinks " : "still "; }
+  void setBlinking(bool blinking) override { calls += blinking ? "blinks " : "still "; }
   void note(const char* side, double value) { calls += side + QByteArray::number(value) + ' '; }
   QByteArray calls;
 };
@@ -99,7 +99,7 @@ class ObjectsTest : public QObject {
                                               {"[MainBackground]|Tex=NoFile|", plain, 0}}) {
       Stage stage;
       stage.state.BackgroundColor = 0x00030201;
-      stage.surface.Wipe(Qt::green);
+      stage.surface.wipe(Qt::green);
       stage.setTheme(theme);
       stage.draw();
       QVERIFY2(inkOf(stage.surface.image(), color).isNull() && stage.steps() == steps, theme);
@@ -135,7 +135,7 @@ class ObjectsTest : public QObject {
 
   void markOverAText() {
     const auto height = [](const char* face, float points) {
-      platform::Surface measuring;
+      drawing::Surface measuring;
       measuring.SetFontName(QString::fromLatin1(face));
       measuring.SetFontSize(points);
       return "H" + QByteArray::number(measuring.TextHeight({}) * 1.5) + ' ';
@@ -159,7 +159,7 @@ class ObjectsTest : public QObject {
     QCOMPARE(stage.steps(), steps);
     QCOMPARE(stage.host.refreshes, steps);
     // Besides the screen's background exactly the static that didn't show is accounted.
-    QCOMPARE(stage.account.Missing.size(), std::size_t(ink.isEmpty() ? 2 : 1));
+    QCOMPARE(stage.account.missing.size(), std::size_t(ink.isEmpty() ? 2 : 1));
     const QString head = QString::fromLatin1("Error while drawing Static! [mainSongVideoIcon: " + keys.left(9));
     QCOMPARE(stage.panel.texts.filter(head).size(), keys.contains("32767.5") ? 1 : 0);
   }

@@ -6,7 +6,7 @@
 
 #include <QRandomGenerator>
 
-#include "platform/fitted_picture.h"
+#include "drawing/fitted_picture.h"
 #include "support/row_name.h"
 #include "support/stage.h"
 #include "themefiles/theme_paths.h"
@@ -57,12 +57,12 @@ class PreparedPicturesTest : public QObject {
                                 QRect(9, 9, 1, 1), QRect(800, 0, 9, 9), QRect(9, 9, -9, 9), QRect(9, 9, 0, 9)}) {
       const RowName name(QByteArray::number(target.x()) + ' ' + QByteArray::number(target.width()));
       for (const QImage& picture : {noise(64, 48), noise(512, 20)}) {
-        platform::Surface stretched, blended;
-        stretched.DrawImageRect(picture, target.x(), target.y(), target.width(), target.height());
-        const QRect part = platform::PartOnSurface(target);
-        const QImage fitted = platform::FittedPicture(picture, target.size(), part);
+        drawing::Surface stretched, blended;
+        stretched.drawImageRect(picture, target.x(), target.y(), target.width(), target.height());
+        const QRect part = drawing::partOnSurface(target);
+        const QImage fitted = drawing::fittedPicture(picture, target.size(), part);
         QVERIFY(fitted.width() <= 800 && fitted.height() <= 600);
-        blended.DrawImage(fitted, target.x() + part.x(), target.y() + part.y());
+        blended.drawImage(fitted, target.x() + part.x(), target.y() + part.y());
         QCOMPARE(blended.image(), stretched.image());
       }
     }
@@ -105,7 +105,7 @@ class PreparedPicturesTest : public QObject {
            fs::create_directory(other);
            write(other / "A.bmp", green);
            copyTimes(file, other / "A.bmp");
-           stage.state.Paths.SkinDirectory = stage.folder.path(u"other"_s);
+           stage.state.paths.SkinDirectory = stage.folder.path(u"other"_s);
          },
          New},
     };
@@ -118,7 +118,7 @@ class PreparedPicturesTest : public QObject {
       const fs::path folder = stage.folder.native(u"skin"_s).toStdString();
       fs::create_directory(folder);
       write(folder / "A.bmp", red);
-      stage.state.Paths.SkinDirectory = stage.folder.path(u"skin"_s);
+      stage.state.paths.SkinDirectory = stage.folder.path(u"skin"_s);
       stage.skin = "A=A.bmp|";
       stage.setTheme("[MainBackground]|Tex=A|[MainStatic]|Tex=A|Color=P1Dark|X=5|Y=5|W=8|H=8|");
       stage.draw();
@@ -136,26 +136,26 @@ class PreparedPicturesTest : public QObject {
         stage.draw();
         QCOMPARE(stage.pixel(700, 9), color.value_or(qRgb(255, 255, 255)));
         QCOMPARE(stage.pixel(9, 9), color.value_or(qRgb(255, 255, 255)));
-        QCOMPARE(stage.account.Missing.size(), color ? 0U : 2U);
+        QCOMPARE(stage.account.missing.size(), color ? 0U : 2U);
       }
     }
   }
 
   /// Every screen of every theme and skin, made anew, then kept, then from a store with room for little.
   void sampleScreens() {
-    const QString game = platform::ProgramPath(QStringLiteral(SAMPLE_FOLDER)) + u'\\';
+    const QString game = platform::programPath(QStringLiteral(SAMPLE_FOLDER)) + u'\\';
     constexpr qsizetype Little = 3'000'000;
     renderer::PreparedPictures store, small(Little);
     qsizetype most = 0;
     for (const QString& theme : {u"Stagelight"_s, u"Workbench"_s, u"Without Skin"_s}) {
-      for (const QString& skin : themefiles::SkinsOf(game, theme) + QStringList(QString())) {
+      for (const QString& skin : themefiles::skinsOf(game, theme) + QStringList(QString())) {
         Stage stage;
-        stage.state.Paths = themefiles::PathsOf(game, theme, skin, u"English"_s);
+        stage.state.paths = themefiles::pathsOf(game, theme, skin, u"English"_s);
         themefiles::ReadColors(stage.state, stage.panel);
         for (const themefiles::ScreenRow& screen : stage.state.ScreenTable) {
           const RowName name((theme + u' ' + skin + u' ' + screen.Name).toLatin1());
           stage.host.screen = screen.Name;
-          stage.state.Filter = themefiles::FilterOf(screen.Name);
+          stage.state.Filter = themefiles::filterOf(screen.Name);
           stage.tags.Clear();
           themefiles::ReadTags(stage.state, screen.Name, stage.tags, stage.panel, [] {});
           std::vector<std::pair<QImage, QStringList>> drawings;
@@ -163,11 +163,11 @@ class PreparedPicturesTest : public QObject {
                std::initializer_list<renderer::PreparedPictures*>{nullptr, &store, &store, &small}) {
             stage.pictures = pictures;
             stage.state.ButtonListFilled = false;
-            stage.surface.setPen(platform::Surface().pen());
+            stage.surface.setPen(drawing::Surface().pen());
             stage.draw();
             QStringList account;
-            for (const auto& left : stage.account.Missing) account += left.Section + renderer::ReasonText(left);
-            for (const auto& drawn : stage.account.Objects) account += drawn.Section;
+            for (const auto& left : stage.account.missing) account += left.section + renderer::reasonText(left);
+            for (const auto& drawn : stage.account.objects) account += drawn.section;
             drawings.emplace_back(stage.surface.image(), account);
             QVERIFY(small.bytes() <= Little && store.bytes() <= renderer::PreparedPictures::MostBytes);
           }
@@ -192,7 +192,7 @@ class PreparedPicturesTest : public QObject {
     for (const int width : {30, 40}) QVERIFY(!store.get(wish(width), false).picture.isNull());
     QVERIFY(store.bytes() > 70 * 40 * 4);
     for (const int width : {50, 51, 52}) {
-      QCOMPARE(store.get(wish(width), true).picture, renderer::Prepare(nullptr, wish(width)).picture);
+      QCOMPARE(store.get(wish(width), true).picture, renderer::prepare(nullptr, wish(width)).picture);
       QVERIFY(store.bytes() >= 64 * 48 * 4 && store.bytes() <= 64 * 48 * 4 + 9000);
     }
     store.letGo();

@@ -20,7 +20,7 @@ QList<int> topsOfTexts(const QByteArray& keys, const QByteArray& tag = "MainButt
                    "Text3]|X=5|Y=30|Size=10|[MainButtonZTEXT1]|X=5|Y=2000|Size=10|");
   QList<int> tops;
   stage.host.yielded = [&] {
-    if (stage.account.Objects.size() == std::size_t(tops.size())) return;
+    if (stage.account.objects.size() == std::size_t(tops.size())) return;
     tops += qRound(double(stage.surface.CurrentY) - stage.surface.TextHeight({}) / 5 - 50);
   };
   stage.draw();
@@ -39,7 +39,7 @@ struct Mark : renderer::CursorMark {
   void SetWidth(double width) override { place[2] = width; }
   void SetHeight(double height) override { place[3] = height; }
   void SetVisible(bool) override {}
-  void SetBlinking(bool) override {}
+  void setBlinking(bool) override {}
   std::array<double, 4> place = {};
 };
 
@@ -127,29 +127,29 @@ class RenderStepsTest : public QObject {
       stage.pictures = &pictures;
       stage.setTheme(AllKinds);
       stage.addToTheme("[MainButton1Text1]|X=5|Y=5|Size=12|");
-      stage.tags.SetListIndex(int(stage.tags.Rows().indexOf(u"MainText"_s)));
+      stage.tags.SetListIndex(int(stage.tags.rows().indexOf(u"MainText"_s)));
       stage.state.CursorRect = {u"300"_s, u"300"_s, {}, {}, {}, 9, 0};
       stage.draw();
       const QImage before = stage.surface.image();
-      const platform::Pen start = *stage.account.startPen;
+      const drawing::Pen start = *stage.account.startPen;
       stage.surface.setPen({1, 2, Qt::red, u"Arial Black"_s, 33});
       stage.host.yielded = [] { QFAIL("a frame on trial served events"); };
       const QStringList shown = stage.host.percents + stage.host.buttons + stage.panel.texts + stage.dialogs.asked;
       const QByteArray theme = stage.folder.get(u"theme.ini"_s);
       Mark tried, real;
-      const renderer::RenderAccount account = renderer::DrawTrial(stage.context(), {section, values});
-      renderer::DrawTrialCursor(stage.state, stage.tags, stage.surface, tried, {section, values});
+      const renderer::RenderAccount account = renderer::drawTrial(stage.context(), {section, values});
+      renderer::drawTrialCursor(stage.state, stage.tags, stage.surface, tried, {section, values});
       const QImage trial = stage.surface.image();
       QVERIFY(trial != before && stage.folder.get(u"theme.ini"_s) == theme);
       QCOMPARE(stage.host.percents + stage.host.buttons + stage.panel.texts + stage.dialogs.asked, shown);
       QVERIFY(stage.host.refreshes == 2 && stage.host.selections == 1 && !stage.host.barVisible);
       QVERIFY(stage.surface.CurrentX == 1 && stage.surface.CurrentY == 2 && stage.surface.ForeColor == Qt::red);
       QVERIFY(stage.surface.FontName() == u"Arial Black" && stage.surface.FontSize() == 33);
-      QCOMPARE(renderer::DrawTrial(stage.context(), {}).Objects.size(), stage.account.Objects.size());
+      QCOMPARE(renderer::drawTrial(stage.context(), {}).objects.size(), stage.account.objects.size());
       QCOMPARE(stage.surface.image(), before);
       stage.host.yielded = nullptr;
       for (const auto& [key, value] : values) {
-        themefiles::PutINI(section, key, value, stage.state.Paths.ThemeFile);
+        themefiles::PutINI(section, key, value, stage.state.paths.ThemeFile);
         if (key == u"X") stage.state.CursorRect.X = value;
         if (key == u"Y") stage.state.CursorRect.Y = value;
         if (key == u"W" || key == u"w") stage.state.CursorRect.W = value;
@@ -160,9 +160,9 @@ class RenderStepsTest : public QObject {
       QCOMPARE(trial, stage.surface.image());
       renderer::DrawCursor(stage.state, stage.tags, stage.surface, real, stage.panel);
       QCOMPARE(tried.place, real.place);
-      QVERIFY(std::equal(account.Objects.begin(), account.Objects.end(), stage.account.Objects.begin(),
-                         stage.account.Objects.end(),
-                         [](const auto& a, const auto& b) { return a.Section == b.Section && a.Place == b.Place; }));
+      QVERIFY(std::equal(account.objects.begin(), account.objects.end(), stage.account.objects.begin(),
+                         stage.account.objects.end(),
+                         [](const auto& a, const auto& b) { return a.section == b.section && a.place == b.place; }));
     }
   }
 

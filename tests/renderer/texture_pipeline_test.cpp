@@ -50,13 +50,13 @@ QRgb colorizedPlainly(QRgb pixel, double hue) {
 }
 
 /// A session of which one step fails.
-struct FailingGraphics : platform::Graphics {
-  int Startup() override { return fails(u"Startup"_s) || Graphics::Startup() != 0; }
-  int CreateFrom(platform::Surface& to) override { return fails(u"CreateFrom"_s) || Graphics::CreateFrom(to) != 0; }
-  int Delete() override { return fails(u"Delete"_s) || Graphics::Delete() != 0; }
-  void Shutdown() override {
+struct FailingGraphics : drawing::Graphics {
+  int startup() override { return fails(u"Startup"_s) || Graphics::startup() != 0; }
+  int createFrom(drawing::Surface& to) override { return fails(u"CreateFrom"_s) || Graphics::createFrom(to) != 0; }
+  int deleteObject() override { return fails(u"Delete"_s) || Graphics::deleteObject() != 0; }
+  void shutdown() override {
     steps += u"Shutdown"_s;
-    Graphics::Shutdown();
+    Graphics::shutdown();
   }
   bool fails(const QString& step) { return (steps += step).last() == failing; }
   QString failing;
@@ -86,7 +86,7 @@ class TexturePipelineTest : public QObject {
       const QByteArrayList fields = QByteArray(color).split(' ');
       const double hue = shadeOf(fields[0].toDouble(), fields[1].toDouble(), fields[2].toDouble()).h;
       QImage picture = before.copy();
-      Colorize(picture, {fields[0].toFloat(), fields[1].toFloat(), fields[2].toFloat()});
+      colorize(picture, {fields[0].toFloat(), fields[1].toFloat(), fields[2].toFloat()});
       for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
           if (picture.pixel(x, y) != colorizedPlainly(before.pixel(x, y), hue)) QFAIL(qPrintable(QString::number(x)));
@@ -100,7 +100,7 @@ class TexturePipelineTest : public QObject {
     const QRgb black = qRgb(0, 0, 0);
     const auto font = [](QRgb pixel, float intensity) {
       QImage picture = plainPicture(1, 1, pixel);
-      return RecolourFont(picture, {200, 100, 50}, intensity) ? picture.pixel(0, 0) : QRgb(0);
+      return recolourFont(picture, {200, 100, 50}, intensity) ? picture.pixel(0, 0) : QRgb(0);
     };
     QCOMPARE(font(black, -1), qRgb(200, 100, 50));
     QCOMPARE(font(white, 9), white);
@@ -119,7 +119,7 @@ class TexturePipelineTest : public QObject {
          }) {
       const RowName name(failing.toLatin1());
       Stage stage;
-      stage.surface.Wipe(Qt::white);
+      stage.surface.wipe(Qt::white);
       FailingGraphics graphics;
       graphics.failing = failing;
       RenderContext context{stage.state, stage.tags,    stage.surface, stage.host,

@@ -15,7 +15,7 @@ class Folder {
  public:
   QString native(const QString& name) const { return folder_.filePath(name); }
   /// The program's path of a file.
-  QString path(const QString& name) const { return platform::ProgramPath(native(name)); }
+  QString path(const QString& name) const { return platform::programPath(native(name)); }
   void put(const QString& name, const QByteArray& bytes) const {
     QFile file(native(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) qFatal("can't write a test file");

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "drawing/graphics.h"
+#include "drawing/surface.h"
 #include "platform/code_page.h"
-#include "platform/graphics.h"
-#include "platform/surface.h"
 #include "renderer/render_driver.h"
 #include "renderer/render_host.h"
 #include "support/pictures.h"
@@ -16,19 +16,19 @@ namespace support {
 /// A window that a render shows itself in: keeps what it is told, and runs `yielded` at each yield.
 class Host : public renderer::RenderHost {
  public:
-  int ProgressValue() const override { return progress; }
-  void SetProgressValue(int value) override { progress = qBound(0, value, 100); }
-  void SetProgressText(const QString& text) override { percents += text; }
-  void SetProgressVisible(bool visible) override { barVisible = visible; }
+  int progressValue() const override { return progress; }
+  void setProgressValue(int value) override { progress = qBound(0, value, 100); }
+  void setProgressText(const QString& text) override { percents += text; }
+  void setProgressVisible(bool visible) override { barVisible = visible; }
   void Refresh() override { ++refreshes; }
-  void Yield() override {
+  void yield() override {
     if (yielded) yielded();
   }
-  void FillButtonList(const QStringList& rows) override { buttons = rows; }
-  void SelectFirstButton() override { ++selections; }
-  void SetButtonListVisible(bool visible) override { buttonsVisible = visible; }
-  QString ScreenName() const override { return screen; }
-  QString SchemeName() const override { return QStringLiteral("Blue"); }
+  void fillButtonList(const QStringList& rows) override { buttons = rows; }
+  void selectFirstButton() override { ++selections; }
+  void setButtonListVisible(bool visible) override { buttonsVisible = visible; }
+  QString screenName() const override { return screen; }
+  QString schemeName() const override { return QStringLiteral("Blue"); }
 
   QString screen = QStringLiteral("Main Screen");
   std::function<void()> yielded;
@@ -42,10 +42,10 @@ class Stage {
  public:
   Stage() {
     themefiles::InitScreenTable(state);
-    state.Paths.ThemeFile = folder.path(QStringLiteral("theme.ini"));
-    state.Paths.SkinFile = folder.path(QStringLiteral("skin.ini"));
-    state.Paths.LanguageFile = folder.path(QStringLiteral("language.ini"));
-    state.Paths.SkinDirectory = folder.path({});
+    state.paths.ThemeFile = folder.path(QStringLiteral("theme.ini"));
+    state.paths.SkinFile = folder.path(QStringLiteral("skin.ini"));
+    state.paths.LanguageFile = folder.path(QStringLiteral("language.ini"));
+    state.paths.SkinDirectory = folder.path({});
     for (const auto& [name, color] : {std::pair{"Red", 0xFFFF0000U},
                                       {"Black", 0xFF000000U},
                                       {"Blue", 0xFF0000FFU},
@@ -71,7 +71,7 @@ class Stage {
     tags.Clear();
     for (const QByteArray& line : theme.split('|')) {
       if (!line.startsWith('[') || line == "[Colors]" || line.endsWith("Background]")) continue;
-      tags.AddItem(platform::FromAnsi(line.mid(1, line.size() - 2)));
+      tags.AddItem(platform::fromAnsi(line.mid(1, line.size() - 2)));
     }
   }
 
@@ -96,11 +96,11 @@ class Stage {
   QByteArray skin;
   themefiles::ModuleState state;
   themefiles::SortedTags tags;
-  platform::Surface surface;
+  drawing::Surface surface;
   Host host;
   Panel panel;
   ScriptedDialogs dialogs;
-  platform::Graphics graphics;
+  drawing::Graphics graphics;
   renderer::RenderAccount account;
   renderer::PreparedPictures* pictures = nullptr;
 };

@@ -27,20 +27,20 @@ class ScriptedDialogs : public platform::Dialogs {
   std::deque<std::optional<QColor>> colors;
   QStringList asked;  ///< "title: text" of each dialog
 
-  platform::BoxAnswer MessageBox(QWidget*, const QString& text, const QString& title, platform::BoxKind kind) override {
+  platform::BoxAnswer messageBox(QWidget*, const QString& text, const QString& title, platform::BoxKind kind) override {
     asked += title + u": "_s + text;
     const bool question = kind == platform::BoxKind::YesNoDefaultNo;
     return question ? next(boxes, platform::BoxAnswer::No) : platform::BoxAnswer::Ok;
   }
-  QString InputBox(QWidget*, const QString& prompt, const QString& title) override {
+  QString inputBox(QWidget*, const QString& prompt, const QString& title) override {
     asked += title + u": "_s + prompt;
     return next(inputs);
   }
-  QString OpenFile(QWidget*, const platform::FileRequest& request) override {
+  QString openFile(QWidget*, const platform::FileRequest& request) override {
     asked += request.title + u": "_s + request.folder;
     return next(files);
   }
-  std::optional<QColor> ChooseColor(QWidget*, const QColor& present) override {
+  std::optional<QColor> chooseColor(QWidget*, const QColor& present) override {
     asked += u"colour: "_s + present.name();
     return next(colors);
   }

@@ -39,7 +39,7 @@ inline QStringList contentsOf(const QString& folder) {
   while (walk.hasNext()) {
     const QString entry = walk.next();
     const QFileInfo info = walk.fileInfo();
-    const QByteArray bytes = info.isFile() ? platform::ReadFile(entry) : QByteArray();
+    const QByteArray bytes = info.isFile() ? platform::readFile(entry) : QByteArray();
     entries += entry + info.lastModified().toString(Qt::ISODateWithMs) +
                QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex());
   }

@@ -111,25 +111,25 @@ class Program {
   /// config.ini in a folder of its own; the game folder is stored in it unless that is asked away. Dialogs answer by
   /// script, or those given.
   explicit Program(const GameFolder& game, bool storeFolder = true, platform::Dialogs* answering = nullptr)
-      : form({state, answering != nullptr ? *answering : dialogs, graphics, {platform::ProgramPath(settings.path())}}) {
-    if (storeFolder) form.Config.SetGameFolder(game.path());
-    mainwindows::ConnectEvents(form);
+      : form({state, answering != nullptr ? *answering : dialogs, graphics, {platform::programPath(settings.path())}}) {
+    if (storeFolder) form.config.setGameFolder(game.path());
+    mainwindows::connectEvents(form);
     form.show();
   }
   ~Program() {
-    delete form.ToolWindow;
-    form.ToolWindow = nullptr;
+    delete form.toolWindow;
+    form.toolWindow = nullptr;
     settle();
   }
 
   themefiles::ModuleState state;
   ScriptedDialogs dialogs;
-  platform::Graphics graphics;
+  drawing::Graphics graphics;
   QTemporaryDir settings;
   mainwindows::Form1 form;
 
-  toolwindow::Form2& tools() const { return *form.ToolWindow; }
-  const QImage& picture() const { return form.Workspace->Surface().image(); }
+  toolwindow::Form2& tools() const { return *form.toolWindow; }
+  const QImage& picture() const { return form.Workspace->surface().image(); }
   QString status() const { return form.StatusBar->Panel(1).mid(11); }  ///< without the time
   bool enabled(int button) const { return form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool(); }
   /// Which of the toolbar's buttons are enabled: "+--+".
@@ -143,7 +143,7 @@ class Program {
   QStringList rows() const {
     QStringList all;
     const controls::ListView& grid = *tools().ListView1;
-    for (int row = 0; row < grid.RowCount(); ++row) all += grid.RowText(row) + u'=' + grid.SubItem(row);
+    for (int row = 0; row < grid.rowCount(); ++row) all += grid.rowText(row) + u'=' + grid.subItem(row);
     return all;
   }
   QStringList colors() const {
@@ -185,13 +185,13 @@ class Program {
   void row(const QString& key) {
     const int row = rowOf(key);
     if (row < 0) qFatal("no row %s", qPrintable(key));
-    tools().ListView1->SelectRow(row);
+    tools().ListView1->selectRow(row);
     Q_EMIT tools().ListView1->ItemClick(row);
   }
   /// A grid of this one row, and a click on it.
   void soleRow(const QString& key, const QString& value) {
-    tools().ListView1->ClearRows();
-    tools().ListView1->AddRow(key, value);
+    tools().ListView1->clearRows();
+    tools().ListView1->addRow(key, value);
     row(key);
   }
   /// Enters a number for a key, or changes one of LoadingStaticA.
@@ -206,7 +206,7 @@ class Program {
   }
   /// The value that the grid shows for the key.
   QString value(const QString& key) const {
-    return rowOf(key) < 0 ? u"no row"_s : tools().ListView1->SubItem(rowOf(key));
+    return rowOf(key) < 0 ? u"no row"_s : tools().ListView1->subItem(rowOf(key));
   }
 
  private:
@@ -220,34 +220,34 @@ class Program {
 inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
   const mainwindows::Form1& form = program.form;
   const themefiles::ModuleState& state = program.state;
-  const themefiles::ThemePaths& files = state.Paths;
+  const themefiles::ThemePaths& files = state.paths;
   QStringList paths{files.ExeDirectory, files.LanguagesDirectory, files.ThemeFile,
                     files.SkinFile,     files.SkinDirectory,      files.LanguageFile};
   QVariantMap all{{u"state"_s, QVariantList{state.ThemeOpened, state.Changed, form.isVisible()}},
                   {u"paths"_s, paths.replaceInStrings(game.path().chopped(1), u"game"_s)},
                   {u"colours"_s, program.colors()},
-                  {u"busy"_s, form.Queue.Busy() || form.ProgressBar1->isVisible()},
+                  {u"busy"_s, form.queue.busy() || form.ProgressBar1->isVisible()},
                   {u"windows"_s, form.findChildren<toolwindow::Form2*>().size()},
                   {u"files"_s, QVariant::fromValue(game.files())}};
   if (!form.isVisible()) return all;
   mainwindows::Workspace& preview = *form.Workspace;
   all.insert({{u"lists shown"_s, QVariantList{form.Combo1->isVisible(), form.Combo2->isVisible()}},
               {u"scheme"_s, form.Combo1->Text()},
-              {u"blinking"_s, preview.Blinking()},
-              {u"mark"_s, preview.MarkVisible() ? preview.Mark() : QRectF()},
+              {u"blinking"_s, preview.blinking()},
+              {u"mark"_s, preview.markVisible() ? preview.mark() : QRectF()},
               {u"enabled"_s, program.buttons()},
               {u"picture"_s, program.picture()}});
-  if (!state.ThemeOpened || form.ToolWindow == nullptr) return all;
+  if (!state.ThemeOpened || form.toolWindow == nullptr) return all;
   const toolwindow::Form2& tools = program.tools();
   all.insert(
       {{u"lists"_s, entries(*form.Combo2) + entries(*tools.List1) + program.rows()},
        {u"editors"_s, QStringList{listing(*tools.Combo3), listing(*tools.Combo5), listing(*tools.Combo6),
                                   tools.Text2->Text(), tools.Text3->Text(), tools.Command2->BackColor().name()}},
        {u"chosen"_s, QVariantList{form.Combo2->ListIndex(), tools.Combo1->Text(), tools.List1->ListIndex(),
-                                  tools.ListView1->SelectedRow()}},
+                                  tools.ListView1->selectedRow()}},
        {u"flags"_s, QVariantList{state.EditorShown, state.ButtonListFilled, state.SelectedButton, state.ButtonCount,
                                  state.ProgressStep, state.Filter.OnlyTags + state.Filter.SkipTags}},
-       {u"pen"_s, preview.Surface().FontName() + QString::number(preview.Surface().FontSize())},
+       {u"pen"_s, preview.surface().FontName() + QString::number(preview.surface().FontSize())},
        {u"height"_s, tools.height()}});
   return all;
 }
@@ -273,7 +273,7 @@ class ProgramTest : public QObject {
     game = std::make_unique<GameFolder>();
     program = std::make_unique<Program>(*game);
     program->open();
-    QVERIFY(program->form.ToolWindow != nullptr);
+    QVERIFY(program->form.toolWindow != nullptr);
   }
   void cleanup() { program.reset(); }
 };

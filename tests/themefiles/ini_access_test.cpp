@@ -34,7 +34,7 @@ class IniAccessTest : public QObject {
     QCOMPARE(GetINI(Section, u"x"_s, u"  d  "_s, file), u"  d"_s);
     QCOMPARE(GetINI(Section, Key, u"d"_s, folder.path(u"b.ini"_s)), u"d"_s);
     QCOMPARE(GetINI(Section, u"e"_s, u"d"_s, file), QString());
-    QCOMPARE(KeyNames(Section, file), QStringList({Key, u"e"_s}));
+    QCOMPARE(keyNames(Section, file), QStringList({Key, u"e"_s}));
   }
 
   void writesAndReadsBack() {
@@ -45,13 +45,13 @@ class IniAccessTest : public QObject {
                                       {u"' w' "_s, u" w"_s},
                                       {QString(), QString()},
                                       {QString(40000, u'x'), QString(31999, u'x')}}) {
-      PutINIChecked(Section, Key, value, file);
+      putINIChecked(Section, Key, value, file);
       QCOMPARE(GetINI(Section, Key, u"d"_s, file, ListBufferSize), read);
     }
-    PutINIChecked(Section, Key, std::nullopt, file);  // of doubles the first
+    putINIChecked(Section, Key, std::nullopt, file);  // of doubles the first
     QCOMPARE(folder.get(Name), linesOf("[S]|k=w|"));
     folder.protect(Name);
-    QVERIFY_THROWS_EXCEPTION(platform::Failure, PutINIChecked(Section, Key, u"x"_s, file));
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, putINIChecked(Section, Key, u"x"_s, file));
   }
 
   void refusals() {
@@ -62,7 +62,7 @@ class IniAccessTest : public QObject {
                                 u"S/a=b/c"_s, u"S/[a/c"_s, u"S/ ;a/c"_s, u"S]/k/c"_s, u"S\t/k/c"_s, u"S/\tk/c"_s}) {
       const QStringList parts = line.split(u'/');
       PutINI(parts[0], parts[1], parts[2], folder.path(Name));
-      QVERIFY_THROWS_EXCEPTION(platform::Failure, PutINIChecked(parts[0], parts[1], parts[2], folder.path(Name)));
+      QVERIFY_THROWS_EXCEPTION(platform::Failure, putINIChecked(parts[0], parts[1], parts[2], folder.path(Name)));
       QCOMPARE(folder.get(Name), QByteArray("[S]\nk=v\n"));
     }
   }

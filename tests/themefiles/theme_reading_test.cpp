@@ -15,7 +15,7 @@ namespace {
 struct Theme {
   explicit Theme(const QByteArray& theme) {
     put(theme);
-    state.Paths.ThemeFile = folder.path(u"a.ini"_s);
+    state.paths.ThemeFile = folder.path(u"a.ini"_s);
     InitScreenTable(state);
   }
   void put(const QByteArray& theme) const { folder.put(u"a.ini"_s, linesOf(theme)); }
@@ -23,7 +23,7 @@ struct Theme {
   /// What is listed of the screen, joined by "/", and the reports.
   QString tagsOf(const QString& screen) {
     ReadTags(state, screen, tags, panel, [] {});
-    return tags.Rows().join(u'/') + panel.texts.join(u' ');
+    return tags.rows().join(u'/') + panel.texts.join(u' ');
   }
   /// "item:value" of each row of the section "S", joined by "/".
   QString rowsOfS() {
@@ -60,7 +60,7 @@ class ThemeReadingTest : public QObject {
     ReadColors(theme.state, theme.panel);
     QVERIFY(theme.color(98).Name == u"c99" && theme.color(98).Value == u"99 0 0");
     QVERIFY(theme.color(99).Name.isEmpty() && theme.color(99).Value == u"0 0 0");
-    QCOMPARE(SchemeNames(theme.state).join(u' '), u"Blue Green Pink Red Violet Orange Yellow Brown Black"_s);
+    QCOMPARE(schemeNames(theme.state).join(u' '), u"Blue Green Pink Red Violet Orange Yellow Brown Black"_s);
     // A shorter list leaves the rows behind it, none at all leaves every row.
     for (const char* shorter : {"[Colors]|new=|", "[Color]|a=1 1 1|"}) {
       theme.put(shorter);
@@ -74,7 +74,7 @@ class ThemeReadingTest : public QObject {
     ReadColors(oneTooMany.state, oneTooMany.panel);
     QVERIFY(oneTooMany.reported(1, u"Colors"_s));
     QCOMPARE(oneTooMany.color(99).Name, u"c100"_s);
-    QCOMPARE(SchemeNames(oneTooMany.state), QStringList(9, QString()));
+    QCOMPARE(schemeNames(oneTooMany.state), QStringList(9, QString()));
   }
 
   void colourNames() {
@@ -122,7 +122,7 @@ class ThemeReadingTest : public QObject {
     };
     QCOMPARE(ReadTags(theme.state, u"Main Screen"_s, theme.tags, theme.panel, pickTheSecond), 1);
     QCOMPARE(theme.tags.ListIndex(), 0);
-    theme.state.Paths.ThemeFile.chop(1);
+    theme.state.paths.ThemeFile.chop(1);
     theme.tags.Clear();
     QCOMPARE(ReadTags(theme.state, u"Main Screen"_s, theme.tags, theme.panel, pickTheSecond), -1);
     QVERIFY(theme.reported(1, u"Tags"_s) && theme.tags.ListIndex() == -1);
@@ -150,7 +150,7 @@ class ThemeReadingTest : public QObject {
          }) {
       for (const QByteArray& tag : QByteArray(tags).split(' ')) {
         const bool leftOut = tag.startsWith('-');
-        QVERIFY2(SplitTags(FilterOf(screen), QString::fromLatin1(tag.mid(leftOut ? 1 : 0))) == leftOut, tag);
+        QVERIFY2(SplitTags(filterOf(screen), QString::fromLatin1(tag.mid(leftOut ? 1 : 0))) == leftOut, tag);
       }
     }
   }
@@ -174,7 +174,7 @@ class ThemeReadingTest : public QObject {
     QVERIFY(record.Size == 14 && record.Font == 1);
     QVERIFY(theme.reported(3, u"Tag"_s));
     // Of the tag before only the font stays, also where the file is missing.
-    theme.state.Paths.ThemeFile.chop(1);
+    theme.state.paths.ThemeFile.chop(1);
     QCOMPARE(theme.rowsOfS(), QString());
     QVERIFY((record.X + record.Y + record.W + record.H + record.Text).isEmpty() && record.Size == 0);
     QVERIFY(record.Font == 1 && theme.reported(4, u"Tag"_s));

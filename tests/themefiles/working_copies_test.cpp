@@ -27,10 +27,10 @@ struct Game {
     chosen.LanguageFile = folder.path(Language);
   }
   bool open() {
-    return platform::Guarded(panel, QString(), [&] { MakeWorkingCopies(state, chosen, panel); });
+    return platform::guarded(panel, QString(), [&] { MakeWorkingCopies(state, chosen, panel); });
   }
   bool save() {
-    return platform::Guarded(panel, QString(), [&] { SaveWorkingCopies(state, panel); });
+    return platform::guarded(panel, QString(), [&] { saveWorkingCopies(state, panel); });
   }
 
   Folder folder;
@@ -48,7 +48,7 @@ class WorkingCopiesTest : public QObject {
   void copiesByteForByteThereAndBack() {
     Game game;
     QVERIFY(game.open());
-    QVERIFY(game.state.ThemeOpened && game.state.Paths.SkinFile == game.chosen.SkinFile + Copy);
+    QVERIFY(game.state.ThemeOpened && game.state.paths.SkinFile == game.chosen.SkinFile + Copy);
     QCOMPARE(game.folder.get(Theme + Copy), Bytes);
     game.folder.put(Theme + Copy, "edited" + Bytes);
     game.state.Changed = true;

@@ -34,17 +34,17 @@ struct Record : toolbar::Events, toolbar::Windows {
   }
 
   void SetHeight(int /*pixels*/) override {}
-  void Present(SurfaceName /*surface*/) override {}
-  QRect ControlOnScreen() const override { return {100, 200, width, 32}; }
+  void present(SurfaceName /*surface*/) override {}
+  QRect controlOnScreen() const override { return {100, 200, width, 32}; }
   void CreateChevronWindow() override {}
-  void MovePopup(const QRect& onScreen) override { popup = onScreen; }
-  void ResizePopup(const QSize& size) override { popup.setSize(size); }
-  void SetPopupVisible(bool visible) override {
+  void movePopup(const QRect& onScreen) override { popup = onScreen; }
+  void resizePopup(const QSize& size) override { popup.setSize(size); }
+  void setPopupVisible(bool visible) override {
     if (visible != popupVisible) note(visible ? "open" : "close");
     popupVisible = visible;
   }
-  bool IsPopupVisible() const override { return popupVisible; }
-  void SetHand(SurfaceName /*surface*/, bool /*isHand*/) override {}
+  bool isPopupVisible() const override { return popupVisible; }
+  void setHand(SurfaceName /*surface*/, bool /*isHand*/) override {}
   void SetTimer() override {}
   void KillTimer() override {}
   void StartLeaveTracking(SurfaceName /*surface*/) override {}
@@ -65,14 +65,14 @@ struct Strip {
   explicit Strip(int width = 800) {
     record.width = width;
     control.UserControl_ReadProperties({});
-    control.Resize(QSize(width, 32));
-    Model& model = control.Buttons();
-    model.Set(&Properties::ButtonsPerRow, 10);
-    model.Set(&Properties::ShowChevron, true);
+    control.resize(QSize(width, 32));
+    Model& model = control.buttons();
+    model.setValue(&Properties::ButtonsPerRow, 10);
+    model.setValue(&Properties::ShowChevron, true);
     model.SetButton_Count(6);
     model.SetButtonValue(2, toolbar::EnabledProperty, false);
     model.SetButtonValue(3, toolbar::ButtonTypeProperty, 1);
-    model.PointAt(-1);
+    model.pointAt(-1);
     control.UserControl_Resize();
     record.words.clear();
   }
@@ -107,7 +107,7 @@ struct Strip {
 /// Writes down what a model tells.
 struct Told : toolbar::ModelView {
   void PropertyChanged(QStringView name) override { words += name.toString(); }
-  void React(toolbar::Effect effect) override {
+  void react(toolbar::Effect effect) override {
     constexpr const char* Names[] = {"-", "R", "B", "L"};
     words += QString::fromLatin1(Names[int(effect)]);
   }
@@ -123,7 +123,7 @@ struct Bar {
       button.Caption = letter;
       button.ButtonType = letter.isUpper() ? 1 : 0;
     }
-    model.Take(Properties(), buttons);
+    model.take(Properties(), buttons);
   }
   QString letters() const {
     QString text;
@@ -137,19 +137,19 @@ struct Bar {
 /// Of every button its corner, behind an h when it is hidden; the height, and the size of the popup.
 QByteArray placesOf(const char* letters, qint16 border, int perRow, int width) {
   Bar bar(QString::fromLatin1(letters));
-  bar.model.Set(&Properties::BorderStyle, border);
-  bar.model.Set(&Properties::ButtonsPerRow, perRow);
-  bar.model.Set(&Properties::ShowChevron, true);
+  bar.model.setValue(&Properties::BorderStyle, border);
+  bar.model.setValue(&Properties::ButtonsPerRow, perRow);
+  bar.model.setValue(&Properties::ShowChevron, true);
   toolbar::Layout layout;
-  toolbar::LayOut(bar.model, width, true, layout);
+  toolbar::layOutButtons(bar.model, width, true, layout);
   const auto pair = [](int x, int y) { return QByteArray::number(x) + ',' + QByteArray::number(y) + ' '; };
   QByteArray text;
   for (int i = 1; i <= bar.model.Button_Count(); ++i) {
     const ToolbarButton& button = bar.model.Button(i);
     text += (button.InChevron ? "h" : "") + pair(button.PosX, button.PosY);
   }
-  if (!layout.HiddenButtons.empty()) text += "popup " + pair(layout.Popup.width(), layout.Popup.height());
-  return text + "height " + QByteArray::number(toolbar::LaidOutHeight(bar.model));
+  if (!layout.HiddenButtons.empty()) text += "popup " + pair(layout.popup.width(), layout.popup.height());
+  return text + "height " + QByteArray::number(toolbar::laidOutHeight(bar.model));
 }
 
 }  // namespace
@@ -161,9 +161,9 @@ class ControlTest : public QObject {
   void eventsInOrder() {
     const auto told = [](const char* steps) {
       Strip strip(149);
-      strip.control.Buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
-      strip.control.Buttons().SetButtonValue(1, toolbar::ToolTipIconProperty, 2);
-      strip.control.Buttons().Set(&Properties::TooTipStyle, 2);
+      strip.control.buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
+      strip.control.buttons().SetButtonValue(1, toolbar::ToolTipIconProperty, 2);
+      strip.control.buttons().setValue(&Properties::TooTipStyle, 2);
       strip.record.words.clear();
       return strip.run(QString::fromLatin1(steps)).toLatin1();
     };
@@ -189,7 +189,7 @@ class ControlTest : public QObject {
     QCOMPARE(strip.record.lastButton, qint16(999));
     // While the pointer is back on the strip, the open popup takes the size of its new layout.
     strip.run(QStringLiteral("m40,5"));
-    strip.control.Buttons().Set(&Properties::ButtonsPerRow_Chev, 1);
+    strip.control.buttons().setValue(&Properties::ButtonsPerRow_Chev, 1);
     QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 36, 71));
     strip.run(QStringLiteral("p5,5"));
     // A layout moves the surface that is drawn on, and that one only.
@@ -215,7 +215,7 @@ class ControlTest : public QObject {
   void operations() {
     const auto after = [](void (*run)(Model & model)) {
       Bar bar(QStringLiteral("abcd"));
-      bar.model.PointAt(2);
+      bar.model.pointAt(2);
       QString error;
       try {
         run(bar.model);
@@ -239,19 +239,19 @@ class ControlTest : public QObject {
     QCOMPARE(after([](Model& m) { m.SetButtonInsertTo(4); }), QByteArray("acdb 4 L R"));
     QCOMPARE(after([](Model& m) { m.SetButtonMoveTo(4); }), QByteArray("adcb 4 L R"));
     QCOMPARE(after([](Model& m) { m.SetButtonRemove(1); }), QByteArray("acd 2 L L"));
-    QCOMPARE(after([](Model& m) { m.SetCurrentValue(toolbar::CaptionProperty, QLatin1String("x")); }),
+    QCOMPARE(after([](Model& m) { m.setCurrentValue(toolbar::CaptionProperty, QLatin1String("x")); }),
              QByteArray("axcd 2 ButtonCaption R"));
-    QCOMPARE(after([](Model& m) { m.Set(&Properties::ButtonsMode, 2); }), QByteArray("abcd 2 ButtonsMode L"));
-    QCOMPARE(after([](Model& m) { m.Set(&Properties::BackColor, 5U); }), QByteArray("abcd 2 BackColor B"));
+    QCOMPARE(after([](Model& m) { m.setValue(&Properties::ButtonsMode, 2); }), QByteArray("abcd 2 ButtonsMode L"));
+    QCOMPARE(after([](Model& m) { m.setValue(&Properties::BackColor, 5U); }), QByteArray("abcd 2 BackColor B"));
   }
 
   void looksOverwriteProperties() {
     Bar bar(QStringLiteral("a"));
-    bar.model.Set(&Properties::BackColor, 1U);
-    bar.model.Set(&Properties::BackGradient, 4);
-    bar.model.Set(&Properties::ButtonsMode, 6);
-    bar.model.Set(&Properties::ButtonsMode, 4);
-    const Properties& values = bar.model.Values();
+    bar.model.setValue(&Properties::BackColor, 1U);
+    bar.model.setValue(&Properties::BackGradient, 4);
+    bar.model.setValue(&Properties::ButtonsMode, 6);
+    bar.model.setValue(&Properties::ButtonsMode, 4);
+    const Properties& values = bar.model.values();
     QCOMPARE((QList<quint32>{values.BackColor, values.HoverColor, values.ButtonsBackColor, values.ButtonsGradientCol}),
              (QList<quint32>{0x8000000F, 0xFF8080, 0x80000004, 0x8000000F}));
     QCOMPARE(values.BackGradient, 0);
@@ -269,7 +269,7 @@ class ControlTest : public QObject {
   void hits() {
     const auto hit = [](const char* letters, qint16 border, int x, int y, bool inPopup = false) {
       Bar bar(QString::fromLatin1(letters));
-      bar.model.Set(&Properties::BorderStyle, border);
+      bar.model.setValue(&Properties::BorderStyle, border);
       return toolbar::HitTest(bar.model, x, y, inPopup);
     };
     QCOMPARE(hit("abcd", 0, 32, 5), -1);

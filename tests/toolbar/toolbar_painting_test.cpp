@@ -1,7 +1,7 @@
 #include <map>
 
-#include "platform/fonts.h"
-#include "platform/raster_text.h"
+#include "drawing/fonts.h"
+#include "drawing/raster_text.h"
 #include "support/pictures.h"
 #include "support/row_name.h"
 #include "toolbar/faces.h"
@@ -28,7 +28,7 @@ constexpr quint32 Face = 0x0000C8;
 constexpr quint32 Ramp = 0xA00000;
 
 /// The pixels as rows of letters of the palette.
-QByteArrayList lettersOf(const platform::Raster& raster) {
+QByteArrayList lettersOf(const drawing::Raster& raster) {
   QHash<QRgb, char> letters;
   for (const auto& [letter, color] : Palette) letters[color | ~RGB_MASK] = letter;
   return support::lettersOf(raster.image(), letters);
@@ -60,25 +60,25 @@ struct Sheet : toolbar::ModelView {
     values.ButtonsHeight = 8;
     for (ToolbarButton& button : buttons) {
       button.Caption.clear();
-      button.Icon = toolbar::PictureOfImage(pictureOf("R.R\n.B.\nR.R"));
+      button.Icon = toolbar::pictureOfImage(pictureOf("R.R\n.B.\nR.R"));
     }
     buttons[2].Pressed = true;
     buttons[3].Enabled = false;
   }
 
   void paint() {
-    model.Take(values, buttons);
-    model.PointAt(index);
+    model.take(values, buttons);
+    model.pointAt(index);
     toolbar::Layout layout;
-    toolbar::LayOut(model, size.width(), true, layout);
-    surface.Resize(size);
+    toolbar::layOutButtons(model, size.width(), true, layout);
+    surface.resize(size);
     bool backgroundDrawn = false;
-    toolbar::Paint(surface, {model, layout.HiddenButtons, size, isMain, false, true}, backgroundDrawn);
+    toolbar::paint(surface, {model, layout.HiddenButtons, size, isMain, false, true}, backgroundDrawn);
   }
   QByteArrayList letters() const { return lettersOf(surface.Image()); }
 
   void PropertyChanged(QStringView /*name*/) override {}
-  void React(toolbar::Effect /*effect*/) override {}
+  void react(toolbar::Effect /*effect*/) override {}
 
   toolbar::Model model{*this, QFont()};
   Properties values;
@@ -199,7 +199,7 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
 ....... g75368f g5f9ag. fffffff aaaaaaa i3jkmnf gbcei3j #######
 )");
     for (int kind = 0; kind <= 7; ++kind) {
-      platform::Raster raster(QSize(7, 5), Back);
+      drawing::Raster raster(QSize(7, 5), Back);
       toolbar::FillGradient(raster, raster.rect(), Face, Ramp, kind);
       QByteArrayList rows;
       for (const QByteArray& row : expected) rows += row.mid(kind * 8, 7);
@@ -210,8 +210,8 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
   // The walk takes three bytes at a time, over the bytes that fill up a row too.
   void greyWalk() {
     const auto grey = [](const char* picture) {
-      const auto bitmap = toolbar::PictureOfImage(pictureOf(picture));
-      platform::Raster raster(QSize(bitmap->Width(), bitmap->Height()), Back);
+      const auto bitmap = toolbar::pictureOfImage(pictureOf(picture));
+      drawing::Raster raster(QSize(bitmap->Width(), bitmap->Height()), Back);
       if (!toolbar::PaintGrayScale(raster, *bitmap, 0, 0)) return QByteArray();
       return lettersOf(raster).join('\n');
     };
@@ -225,7 +225,7 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
 
   // On a button of 80 x 60 with an icon of 3 x 3, in lines of 17.
   void captions() {
-    const QFont font = platform::ControlFont(QStringLiteral("Liberation Sans"), 16);
+    const QFont font = drawing::controlFont(QStringLiteral("Liberation Sans"), 16);
     const struct {
       int alignment;
       const char* caption;
@@ -249,10 +249,10 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
       sheet.buttons[0].IconAlignment = row.alignment;
       sheet.buttons[0].Enabled = row.enabled;
       sheet.paint();
-      platform::Raster expected = sheet.surface.Image();
+      drawing::Raster expected = sheet.surface.Image();
       const QRgb color = row.enabled ? qRgb(200, 0, 0) : qRgb(128, 128, 128);
       for (const auto& [line, area] : row.lines) {
-        platform::DrawText(expected, font, QString::fromLatin1(line), area, color);
+        drawing::drawText(expected, font, QString::fromLatin1(line), area, color);
       }
       sheet.buttons[0].Caption = QString::fromLatin1(row.caption);
       sheet.paint();
@@ -264,7 +264,7 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
     Sheet sheet;
     sheet.buttons.resize(1);
     sheet.buttons[0].Icon = nullptr;
-    sheet.values.Background = toolbar::PictureOfImage(pictureOf("Rg\nBf"));
+    sheet.values.Background = toolbar::pictureOfImage(pictureOf("Rg\nBf"));
     sheet.paint();
     QCOMPARE(sheet.letters().mid(14), (QByteArrayList{QByteArray("Rg").repeated(12), QByteArray("Bf").repeated(12)}));
   }

@@ -4,8 +4,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-#include "platform/property_bag_bytes.h"
-#include "toolbar/main_window_tool_bar.h"
+#include "mainwindows/main_window_tool_bar.h"
+#include "propertybag/stored_bytes.h"
 #include "toolbar/mc_toolbar.h"
 
 using toolbar::McToolBar;
@@ -17,11 +17,11 @@ namespace {
 struct Form {
   explicit Form(int width = 800) {
     bar.UserControl_ReadProperties({});
-    bar.Buttons().Set(&Properties::ButtonsPerRow, 10);
-    bar.Buttons().Set(&Properties::ShowChevron, true);
+    bar.buttons().setValue(&Properties::ButtonsPerRow, 10);
+    bar.buttons().setValue(&Properties::ShowChevron, true);
     bar.SetButton_Count(4);
     bar.SetButtonValue(3, toolbar::EnabledProperty, false);
-    bar.Buttons().PointAt(-1);
+    bar.buttons().pointAt(-1);
     bar.move(0, 0);
     bar.resize(width, 32);
     form.resize(900, 200);
@@ -29,7 +29,7 @@ struct Form {
     form.activateWindow();
   }
   QWidget form;
-  McToolBar bar{toolbar::AmbientOf(nullptr), &form};
+  McToolBar bar{toolbar::ambientOf(nullptr), &form};
   QSignalSpy clicks{&bar, &McToolBar::Click};
   QSignalSpy hovers{&bar, &McToolBar::Hover};
   QSignalSpy leaves{&bar, &McToolBar::MouseLeave};
@@ -48,7 +48,7 @@ class WidgetTest : public QObject {
 
  private Q_SLOTS:
   void valuesOfAButtonByNumber() {
-    McToolBar bar(toolbar::AmbientOf(nullptr), nullptr);
+    McToolBar bar(toolbar::ambientOf(nullptr), nullptr);
     bar.UserControl_ReadProperties({});
     const QVariant values[] = {1,    QStringLiteral("Go"),  false, QImage(3, 2, QImage::Format_RGB32), 2,
                                true, QStringLiteral("tip"), 3};
@@ -79,7 +79,7 @@ class WidgetTest : public QObject {
     }
     QTest::mouseRelease(&form.bar, Qt::LeftButton, {}, {-6, 5});
     QCOMPARE(form.leaves.size(), 1);
-    QCOMPARE(form.bar.Buttons().Button_Index(), -1);
+    QCOMPARE(form.bar.buttons().Button_Index(), -1);
     QCOMPARE(form.clicks.size(), 1);
   }
 
@@ -90,7 +90,7 @@ class WidgetTest : public QObject {
       other.show();
       QVERIFY(QTest::qWaitForWindowActive(&form.form));
       QTest::mousePress(&form.bar, Qt::LeftButton, {}, {75, 5});
-      QWidget& popup = *form.bar.PopupWindow();
+      QWidget& popup = *form.bar.popupWindow();
       QVERIFY(popup.isVisible());
       QCOMPARE(popup.geometry().topLeft(), form.bar.mapToGlobal(QPoint(80 - 68, 33)));
       QTest::mouseClick(&popup, Qt::LeftButton, {}, {5, 5});
@@ -119,15 +119,15 @@ class WidgetTest : public QObject {
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QTest::keyClick(&form.bar, Qt::Key_End);
     QTest::keyClick(&form.bar, Qt::Key_Space);
-    QVERIFY(form.bar.PopupWindow()->isVisible() && !bar->child(3)->state().invisible);
+    QVERIFY(form.bar.popupWindow()->isVisible() && !bar->child(3)->state().invisible);
     QTest::keyClick(&form.bar, Qt::Key_Space);
     QTest::keyClick(&form.bar, Qt::Key_Escape);
-    QVERIFY(!form.bar.PopupWindow()->isVisible());
+    QVERIFY(!form.bar.popupWindow()->isVisible());
     QCOMPARE(numbers(form.hovers) + u' ' + numbers(form.clicks), QStringLiteral("124 224"));
   }
 
   void mainWindowBarGoesRound() {
-    const QByteArray stored = toolbar::MainWindowToolBar();
+    const QByteArray stored = mainwindows::mainWindowToolBar();
     McToolBar bar({false, QFont()});
     QVERIFY(bar.UserControl_ReadProperties(stored));
     QCOMPARE(bar.UserControl_WriteProperties(), stored);
@@ -160,12 +160,12 @@ class WidgetTest : public QObject {
                                                      {"ButtonIcon1", 5},
                                                      {"BorderStyle", 70000}};
     for (const auto& [key, value] : rows) {
-      platform::PropertyBag bag;
+      propertybag::PropertyBag bag;
       bag.WriteProperty(QStringLiteral("ButtonsMode"), 5, {});
       bag.WriteProperty(QString::fromLatin1(key), value, {});
-      McToolBar bar(toolbar::AmbientOf(nullptr));
-      QVERIFY2(!bar.UserControl_ReadProperties(platform::StoredBytes(bag)), key);
-      QVERIFY2(bar.Buttons().Values().ButtonsMode == 3 && bar.Button_Count() == 1, key);
+      McToolBar bar(toolbar::ambientOf(nullptr));
+      QVERIFY2(!bar.UserControl_ReadProperties(propertybag::storedBytes(bag)), key);
+      QVERIFY2(bar.buttons().values().ButtonsMode == 3 && bar.Button_Count() == 1, key);
     }
   }
 };

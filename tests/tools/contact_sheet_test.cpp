@@ -7,8 +7,8 @@
 #include "support/pictures.h"
 #include "support/tool_runs.h"
 
-using platform::ReadFile;
-using platform::WriteFile;
+using platform::readFile;
+using platform::writeFile;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -37,7 +37,7 @@ class ContactSheetTest : public QObject {
     QSet<QByteArray> pictures;
     for (int screen = 1; screen <= 32; ++screen) {
       QCOMPARE(QImage(pictureOf(sheet_, screen)).size(), QSize(800, 600));
-      pictures += ReadFile(pictureOf(sheet_, screen));
+      pictures += readFile(pictureOf(sheet_, screen));
     }
     QCOMPARE(pictures.size(), 32);
     QVERIFY(!QImage(sheet_ + u"/overview.png"_s).isNull());
@@ -50,7 +50,7 @@ class ContactSheetTest : public QObject {
     draw(0, sampleTheme(output.path()),
          {u"DISPLAY=:4711"_s, u"QT_QPA_PLATFORM=xcb"_s, u"QT_SCALE_FACTOR=2"_s, u"QT_FONT_DPI=192"_s});
     for (const QString& file : QDir(sheet_).entryList(QDir::Files)) {
-      QVERIFY2(ReadFile(output.filePath(file)) == ReadFile(sheet_ + u'/' + file), qPrintable(file));
+      QVERIFY2(readFile(output.filePath(file)) == readFile(sheet_ + u'/' + file), qPrintable(file));
     }
   }
 
@@ -58,20 +58,20 @@ class ContactSheetTest : public QObject {
     for (const QString& option : {u"--scheme Red"_s, u"--selected=3"_s}) {
       const QTemporaryDir output;
       draw(0, sampleTheme(output.path()) + option.split(u' '));
-      QVERIFY2(ReadFile(pictureOf(output.path(), 2)) != ReadFile(pictureOf(sheet_, 2)), qPrintable(option));
+      QVERIFY2(readFile(pictureOf(output.path(), 2)) != readFile(pictureOf(sheet_, 2)), qPrintable(option));
     }
   }
 
   void reports() {
     const QDir game(folder_.filePath(u"game"_s));
     for (const auto& part : {u"Themes"_s, u"Skins/Small"_s, u"Languages"_s}) QVERIFY(game.mkpath(part));
-    WriteFile(game.filePath(u"Themes/Small.ini"_s), QByteArray(SmallTheme).replace("|", "\r\n"));
-    WriteFile(game.filePath(u"Skins/Small/Only.ini"_s), "[Textures]\r\nBlock=block.png\r\nGone=gone.png\r\n");
-    WriteFile(game.filePath(u"Languages/Some.ini"_s), "[Text]\r\n");
+    writeFile(game.filePath(u"Themes/Small.ini"_s), QByteArray(SmallTheme).replace("|", "\r\n"));
+    writeFile(game.filePath(u"Skins/Small/Only.ini"_s), "[Textures]\r\nBlock=block.png\r\nGone=gone.png\r\n");
+    writeFile(game.filePath(u"Languages/Some.ini"_s), "[Text]\r\n");
     QVERIFY(support::plainPicture(4, 4, qRgb(0, 0, 0)).save(game.filePath(u"Skins/Small/block.png"_s)));
     const QString output = folder_.filePath(u"small"_s);
     draw(0, {game.path(), u"Small"_s, u"Only"_s, u"Some"_s, output});
-    const QByteArrayList lines = ReadFile(output + u"/report.tsv"_s).split('\n');
+    const QByteArrayList lines = readFile(output + u"/report.tsv"_s).split('\n');
     for (const char* line :
          {"screen\tsection\tresult\treason", "1\tLoadingBackground\tleft out\tno file 'gone.png'",
           "2\tMainBackground\tleft out\ttexture '' has no entry in the skin",

@@ -13,8 +13,8 @@
 #include "support/row_name.h"
 #include "support/tool_runs.h"
 
-using platform::ReadFile;
-using platform::WriteFile;
+using platform::readFile;
+using platform::writeFile;
 using support::ToolRun;
 using namespace Qt::StringLiterals;
 
@@ -43,7 +43,7 @@ class Game {
   QString file(const QString& name) const { return folder_.filePath(name); }
   void put(const QByteArray& told) const {
     const qsizetype colon = told.indexOf(": ");
-    WriteFile(file(QString::fromLatin1(told.first(colon))), support::linesOf(told.sliced(colon + 2)));
+    writeFile(file(QString::fromLatin1(told.first(colon))), support::linesOf(told.sliced(colon + 2)));
   }
 
  private:
@@ -68,7 +68,7 @@ class ThemeCheckTest : public QObject {
   void findsInSample() {
     const ToolRun run = check(1, {Sample});
     const QByteArrayList found = run.output.split('\n');
-    const QByteArrayList expected = ReadFile(QStringLiteral(FINDINGS_OF_SAMPLE)).split('\n');
+    const QByteArrayList expected = readFile(QStringLiteral(FINDINGS_OF_SAMPLE)).split('\n');
     for (qsizetype line = 0; line < expected.size(); ++line) QCOMPARE(found.value(line), expected[line]);
     QCOMPARE(found.size(), expected.size());
     QVERIFY(!run.errors.contains("Screen"));  // no progress where there is no terminal
@@ -93,7 +93,7 @@ class ThemeCheckTest : public QObject {
     const QByteArray findings = check(1, {Sample, u"workbench"_s, u"--skin=Grey"_s, u"--language=English"_s}).output;
     QVERIFY(!findings.contains(" (Grey)"));
     int reasons = 0;
-    for (const QByteArray& line : ReadFile(sheet.filePath(u"report.tsv"_s)).split('\n').sliced(1)) {
+    for (const QByteArray& line : readFile(sheet.filePath(u"report.tsv"_s)).split('\n').sliced(1)) {
       const QByteArrayList fields = line.split('\t');
       if (fields.size() != 4 || fields[3].isEmpty() || fields[3] == "not part of the preview" ||
           (fields[1].endsWith("ackground") && fields[3].startsWith("texture ''")) || fields[1] == "Name") {
@@ -208,11 +208,11 @@ class ThemeCheckTest : public QObject {
       const Game game;
       for (const char* name : {"Themes/T.ini", "Skins/T/Dusk.ini", "Languages/English.ini"}) {
         QByteArray bytes =
-            ReadFile(Sample + (name[0] == 'T' ? u"/Themes/Workbench.ini"_s : u"/Skins/Workbench/Grey.ini"_s));
+            readFile(Sample + (name[0] == 'T' ? u"/Themes/Workbench.ini"_s : u"/Skins/Workbench/Grey.ini"_s));
         for (char& byte : bytes) {
           if (random() % (turn < 4 ? 1 : 40) == 0) byte = static_cast<char>(random());
         }
-        WriteFile(game.file(QString::fromLatin1(name)), bytes);
+        writeFile(game.file(QString::fromLatin1(name)), bytes);
       }
       const QByteArray counts = check(support::Either, {game.path()}).output.trimmed().split('\n').last();
       QVERIFY2(counts.contains(" error"), counts);

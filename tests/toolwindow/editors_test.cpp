@@ -30,7 +30,7 @@ QString shownValue(const Form2& form) {
 }
 
 const std::pair<const char*, void (*)(Program&)> RefusedUpdates[] = {
-    {"no row", [](Program& p) { p.tools().ListView1->SelectRow(-1); }},
+    {"no row", [](Program& p) { p.tools().ListView1->selectRow(-1); }},
     {"no such choice", [](Program& p) { p.soleRow(u"TYPE"_s, u"plain"_s); }},
     {"no such texture", [](Program& p) { p.soleRow(u"TEX"_s, u"Lost"_s); }},
     {"no object", [](Program& p) { p.tools().List1->SetListIndex(-1); }},
@@ -150,7 +150,7 @@ class EditorsTest : public ProgramTest {
                 {5, "-10001", "0", 0}, {5, "10001", "10001", 10000}};
     Form2& tools = program->tools();
     for (const auto& [bar, text, shown, barAfter] : rows) {
-      tools.VScroll1->SetValueQuietly(bar);
+      tools.VScroll1->setValueQuietly(bar);
       program->soleRow(u"X"_s, QLatin1StringView(text));
       QCOMPARE(tools.Text1->Text(), QLatin1StringView(shown));
       QCOMPARE(tools.VScroll1->Value(), barAfter);
@@ -203,7 +203,7 @@ class EditorsTest : public ProgramTest {
       files[ThemeCopy].replace(before, after);
       program->state.ProgressStep = 77;
       program->state.Changed = false;
-      program->form.EnableButton(2, false);
+      program->form.enableButton(2, false);
       tools.Command1->click();
       QCOMPARE(game->files(), files);
       QVERIFY(program->state.Changed && program->enabled(2) && program->state.ProgressStep != 77);
@@ -232,15 +232,15 @@ class EditorsTest : public ProgramTest {
   void theMarkFollowsFiveKeys() {
     const mainwindows::Workspace& preview = *program->form.Workspace;
     program->tag(Static);
-    QCOMPARE(preview.Mark(), QRectF(40, 50, 100, 60));
+    QCOMPARE(preview.mark(), QRectF(40, 50, 100, 60));
     program->change(u"X"_s, u"45"_s);
     program->change(u"W"_s, u"120"_s);
-    QCOMPARE(preview.Mark(), QRectF(45, 50, 120, 60));
+    QCOMPARE(preview.mark(), QRectF(45, 50, 120, 60));
     program->tag(u"LoadingTextFree"_s);
-    const double line = preview.Mark().height();
+    const double line = preview.mark().height();
     for (const char* size : {"24", "70000"}) {  // the second is none for the mark
       program->change(u"Size"_s, QLatin1StringView(size));
-      QVERIFY(line > 12 && preview.Mark().width() == 0 && qAbs(preview.Mark().height() - 2 * line) < 6);
+      QVERIFY(line > 12 && preview.mark().width() == 0 && qAbs(preview.mark().height() - 2 * line) < 6);
     }
   }
 

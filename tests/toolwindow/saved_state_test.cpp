@@ -18,9 +18,9 @@ class SavedStateTest : public ProgramTest {
     for (int row = 0; row < tools.List1->count(); ++row) {
       if (tools.List1->item(row)->font().bold()) all += tools.List1->List(row);
     }
-    for (int row = 0; row < tools.ListView1->RowCount(); ++row) {
+    for (int row = 0; row < tools.ListView1->rowCount(); ++row) {
       const QTreeWidgetItem& item = *tools.ListView1->topLevelItem(row);
-      if (item.font(1).bold()) all += item.text(0) + u' ' + item.data(0, Qt::UserRole).toString();
+      if (item.font(1).bold()) all += item.text(0) + u' ' + item.toolTip(0);
     }
     return all.join(u'|');
   }
@@ -77,7 +77,7 @@ class SavedStateTest : public ProgramTest {
     QVERIFY(putRowBack(u"X"_s));
     QVERIFY(game->get(ThemeCopy).contains("X= 40 \r\n") && program->state.Changed && program->enabled(2));
     QCOMPARE(program->value(u"X"_s) + program->tools().Text1->Text(), u"4040"_s);
-    QCOMPARE(program->form.Workspace->Mark().x(), 40.0);
+    QCOMPARE(program->form.Workspace->mark().x(), 40.0);
     QCOMPARE(program->status(), u"LoadingStaticA: X = 40"_s);
     QCOMPARE(marked(), QString());
     // A reference with its words; the line of these is gone.

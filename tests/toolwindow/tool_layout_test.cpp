@@ -40,7 +40,7 @@ class ToolLayoutTest : public QObject {
 
  private Q_SLOTS:
   void loadOpenAndClose() {
-    ToolLayout layout = toolwindow::LoadedLayout();
+    ToolLayout layout = toolwindow::loadedLayout();
     QCOMPARE(layout.Width, 5895.0);
     QCOMPARE(layout.Height, 3105.0);
     const QString lists =
@@ -48,15 +48,15 @@ class ToolLayoutTest : public QObject {
         "ListView1 height 2385, Combo1 width 5785, Frame1 top 2775, Frame1 width 4795, Command1 top 2865"_s;
     compare(layout, lists);
     compare(layout, u"Frame1 height 735, Command1 left 4920, Texts top 240, FloatNumbers top 240"_s);
-    LayOutOpening(layout, layout.Selection);
+    layOutOpening(layout, layout.Selection);
     QCOMPARE(layout.Height, 3835.0);
     compare(layout, lists);
     compare(layout, u"Frame1 height 700, Command1 left 4895, Numbers width 4625, Combo6 width 3425"_s);
-    LayOutOpening(layout, layout.Texts);
+    layOutOpening(layout, layout.Texts);
     QCOMPARE(layout.Height, 4235.0);
     compare(layout, lists);
     compare(layout, u"Frame1 height 1100"_s);
-    LayOutClosing(layout);
+    layOutClosing(layout);
     QCOMPARE(layout.Height, 3105.0);
     compare(layout, lists);
   }
@@ -79,9 +79,9 @@ class ToolLayoutTest : public QObject {
         {5000, 1400, true, "Frame1 top 310, List1 height 2385, Frame1 width 4795, List1 width 2837.5"},
         {3900, 3835, true, "Texts width 2630, Combo5 width 1430, Combo3 width 1965, Texture width 4625"}};
     for (const auto& [width, height, editor, sides] : rows) {
-      ToolLayout layout = toolwindow::LoadedLayout();
-      if (editor) LayOutOpening(layout, layout.Color);
-      LayOut(layout, width, height, editor, false);
+      ToolLayout layout = toolwindow::loadedLayout();
+      if (editor) layOutOpening(layout, layout.Color);
+      layOut(layout, width, height, editor, false);
       compare(layout, QLatin1StringView(sides));
     }
   }

@@ -35,7 +35,7 @@ void refuseOutputInGame(const Arguments& arguments) {
 
 }  // namespace
 
-Arguments ParseArguments(const QStringList& words) {
+Arguments parseArguments(const QStringList& words) {
   const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
   const QCommandLineOption scheme(QStringLiteral("scheme"), QString(), QStringLiteral("NAME"));
   const QCommandLineOption selected(QStringLiteral("selected"), QString(), QStringLiteral("N"));
@@ -49,7 +49,7 @@ Arguments ParseArguments(const QStringList& words) {
   const QStringList names = parser.positionalArguments();
   if (names.size() != Names) {
     throw platform::Failure(QStringLiteral("%1 names given where %2 are wanted\n").arg(names.size()).arg(Names) +
-                            Usage());
+                            usage());
   }
   arguments.gameFolder = names[0];
   arguments.theme = names[1];
@@ -62,7 +62,7 @@ Arguments ParseArguments(const QStringList& words) {
   return arguments;
 }
 
-QString Usage() {
+QString usage() {
   return QStringLiteral(
       "Usage: cantorama-contact-sheet GAME_FOLDER THEME SKIN LANGUAGE OUTPUT_FOLDER [--scheme NAME] [--selected N]\n"
       "Draws the 32 screens of a theme into OUTPUT_FOLDER: 01.png to 32.png, overview.png with all of them, and\n"

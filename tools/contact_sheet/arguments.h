@@ -20,8 +20,8 @@ struct Arguments {
 };
 
 /// Throws platform::Failure for a command line that isn't one of this tool. The first of `words` is the program.
-Arguments ParseArguments(const QStringList& words);
+Arguments parseArguments(const QStringList& words);
 
-QString Usage();
+QString usage();
 
 }  // namespace contactsheet

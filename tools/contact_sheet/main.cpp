@@ -23,44 +23,44 @@ class ErrorOutput : public platform::StatusLine {
 /// The path of a file of the output folder, which is made when it isn't there.
 QString outputPath(const QString& folder, const QString& name) {
   if (!QDir().mkpath(folder)) throw platform::Failure(QStringLiteral("can't make the folder ") + folder);
-  return platform::ProgramPath(QDir(folder).absoluteFilePath(name));
+  return platform::programPath(QDir(folder).absoluteFilePath(name));
 }
 
 void drawSheet(const contactsheet::Arguments& arguments) {
   ErrorOutput status;
   const contactsheet::Theme theme(arguments.gameFolder, arguments.theme, arguments.skin, arguments.language, status);
-  const QString scheme = theme.SchemeNamed(arguments.scheme);
+  const QString scheme = theme.schemeNamed(arguments.scheme);
   renderer::PreparedPictures pictures;
   std::vector<contactsheet::Screen> screens;
   std::vector<std::vector<contactsheet::ReportRow>> report;
-  for (const themefiles::ScreenRow& row : theme.State().ScreenTable) {
+  for (const themefiles::ScreenRow& row : theme.state().ScreenTable) {
     const contactsheet::Screen& screen =
         screens.emplace_back(contactsheet::DrawScreen(theme, row, scheme, arguments.selected, pictures, status));
     report.push_back(screen.rows);
     const QString number = QStringLiteral("%1").arg(screens.size(), 2, 10, QChar(u'0'));
-    contactsheet::WritePng(screen.picture, outputPath(arguments.outputFolder, number + QStringLiteral(".png")));
+    contactsheet::writePng(screen.picture, outputPath(arguments.outputFolder, number + QStringLiteral(".png")));
     const auto drawn =
         std::count_if(screen.rows.begin(), screen.rows.end(), [](const auto& line) { return line.drawn; });
     print(stderr, QStringLiteral("%1/%2 %3: %4 drawn, %5 left out")
                       .arg(number)
-                      .arg(theme.State().ScreenTable.size())
+                      .arg(theme.state().ScreenTable.size())
                       .arg(screen.name)
                       .arg(drawn)
                       .arg(static_cast<qsizetype>(screen.rows.size()) - drawn));
   }
-  contactsheet::WritePng(contactsheet::Overview(screens),
+  contactsheet::writePng(contactsheet::overview(screens),
                          outputPath(arguments.outputFolder, QStringLiteral("overview.png")));
-  platform::WriteFile(outputPath(arguments.outputFolder, QStringLiteral("report.tsv")),
-                      contactsheet::ReportText(report));
+  platform::writeFile(outputPath(arguments.outputFolder, QStringLiteral("report.tsv")),
+                      contactsheet::reportText(report));
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   return windowless::runTool(QStringLiteral("cantorama-contact-sheet"), argc, argv, [](const QStringList& words) {
-    const contactsheet::Arguments arguments = contactsheet::ParseArguments(words);
+    const contactsheet::Arguments arguments = contactsheet::parseArguments(words);
     if (arguments.help) {
-      print(stdout, contactsheet::Usage());
+      print(stdout, contactsheet::usage());
     } else {
       drawSheet(arguments);
     }

@@ -13,16 +13,16 @@ namespace {
 class Outcomes {
  public:
   explicit Outcomes(const renderer::RenderAccount& account) {
-    for (const renderer::Drawn& object : account.Objects) drawn_.insert(platform::UpperCase(object.Section));
-    for (const renderer::LeftOut& entry : account.Missing) {
-      QStringList& reasons = reasons_[platform::UpperCase(entry.Section)];
-      const QString reason = renderer::ReasonText(entry);
+    for (const renderer::Drawn& object : account.objects) drawn_.insert(platform::upperCase(object.section));
+    for (const renderer::LeftOut& entry : account.missing) {
+      QStringList& reasons = reasons_[platform::upperCase(entry.section)];
+      const QString reason = renderer::reasonText(entry);
       if (!reasons.contains(reason)) reasons += reason;
     }
   }
 
   ReportRow rowOf(const QString& section, bool isBackground) const {
-    const QString name = platform::UpperCase(section);
+    const QString name = platform::upperCase(section);
     const QStringList reasons = reasons_.value(name);
     // The background isn't in the account's list of objects: it is no object that can be picked.
     const bool drawn = drawn_.contains(name) || (isBackground && reasons.isEmpty());
@@ -42,24 +42,24 @@ QString field(QString text) {
 
 }  // namespace
 
-std::vector<ReportRow> RowsOf(const QString& background, const themefiles::TagList& tags,
+std::vector<ReportRow> rowsOf(const QString& background, const themefiles::TagList& tags,
                               const renderer::RenderAccount& account) {
   QStringList sections{background};
   for (int row = 0; row < tags.ListCount(); ++row) sections += tags.List(row);
-  for (const renderer::Drawn& object : account.Objects) sections += object.Section;
-  for (const renderer::LeftOut& entry : account.Missing) sections += entry.Section;
+  for (const renderer::Drawn& object : account.objects) sections += object.section;
+  for (const renderer::LeftOut& entry : account.missing) sections += entry.section;
   const Outcomes outcomes(account);
   QSet<QString> told;
   std::vector<ReportRow> rows;
   for (const QString& section : sections) {
     const qsizetype before = told.size();
-    told.insert(platform::UpperCase(section));
+    told.insert(platform::upperCase(section));
     if (told.size() > before) rows.push_back(outcomes.rowOf(section, rows.empty()));
   }
   return rows;
 }
 
-QByteArray ReportText(const std::vector<std::vector<ReportRow>>& screens) {
+QByteArray reportText(const std::vector<std::vector<ReportRow>>& screens) {
   QString text = QStringLiteral("screen\tsection\tresult\treason\n");
   int number = 0;
   for (const std::vector<ReportRow>& rows : screens) {

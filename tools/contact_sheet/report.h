@@ -19,10 +19,10 @@ struct ReportRow {
 
 /// One row a section: the background, which every screen asks for, the rows of the tag list in the order of painting,
 /// and what was drawn without being listed.
-std::vector<ReportRow> RowsOf(const QString& background, const themefiles::TagList& tags,
+std::vector<ReportRow> rowsOf(const QString& background, const themefiles::TagList& tags,
                               const renderer::RenderAccount& account);
 
 /// The rows of every screen, in the order of the screens, as a table with a header line, UTF-8.
-QByteArray ReportText(const std::vector<std::vector<ReportRow>>& screens);
+QByteArray reportText(const std::vector<std::vector<ReportRow>>& screens);
 
 }  // namespace contactsheet

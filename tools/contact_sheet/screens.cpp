@@ -7,7 +7,7 @@ namespace contactsheet {
 
 Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const QString& scheme,
                   std::optional<quint8> selected, renderer::PreparedPictures& pictures, platform::StatusLine& status) {
-  renderer::ChosenScreen chosen(theme.State(), screen.Name, scheme, status);
+  renderer::ChosenScreen chosen(theme.state(), screen.Name, scheme, status);
   chosen.pictures = &pictures;
   renderer::RenderContext context = chosen.context();
   renderer::DrawScreen(context);
@@ -17,7 +17,7 @@ Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const
     renderer::DrawScreen(context);
   }
   return {screen.Name, chosen.workspace.image(),
-          RowsOf(screen.Stem + QStringLiteral("Background"), chosen.tags, chosen.account)};
+          rowsOf(screen.Stem + QStringLiteral("Background"), chosen.tags, chosen.account)};
 }
 
 }  // namespace contactsheet

@@ -3,9 +3,9 @@
 #include <QBuffer>
 #include <QPainter>
 
+#include "drawing/fonts.h"
 #include "platform/failure.h"
 #include "platform/files.h"
-#include "platform/fonts.h"
 
 namespace contactsheet {
 namespace {
@@ -20,14 +20,14 @@ constexpr QColor Ink(235, 235, 235);
 
 }  // namespace
 
-QImage Overview(const std::vector<Screen>& screens) {
+QImage overview(const std::vector<Screen>& screens) {
   const int cellWidth = Small.width() + Gap;
   const int cellHeight = Small.height() + LabelHeight + Gap;
   const int rows = (static_cast<int>(screens.size()) + Columns - 1) / Columns;
   QImage sheet(Columns * cellWidth + Gap, rows * cellHeight + Gap, QImage::Format_RGB32);
   sheet.fill(Paper);
   QPainter painter(&sheet);
-  painter.setFont(platform::ControlFont(QStringLiteral("Arial"), LabelPixels));
+  painter.setFont(drawing::controlFont(QStringLiteral("Arial"), LabelPixels));
   painter.setPen(Ink);
   int number = 0;
   for (const Screen& screen : screens) {
@@ -40,12 +40,12 @@ QImage Overview(const std::vector<Screen>& screens) {
   return sheet;
 }
 
-void WritePng(const QImage& picture, const QString& path) {
+void writePng(const QImage& picture, const QString& path) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   if (!picture.save(&buffer, "PNG")) throw platform::Failure(QStringLiteral("can't make the picture ") + path);
-  platform::WriteFile(path, bytes);
+  platform::writeFile(path, bytes);
 }
 
 }  // namespace contactsheet

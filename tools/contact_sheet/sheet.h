@@ -10,9 +10,9 @@
 namespace contactsheet {
 
 /// All screens in small, each over its name.
-QImage Overview(const std::vector<Screen>& screens);
+QImage overview(const std::vector<Screen>& screens);
 
 /// Throws platform::Failure when the file can't be written.
-void WritePng(const QImage& picture, const QString& path);
+void writePng(const QImage& picture, const QString& path);
 
 }  // namespace contactsheet

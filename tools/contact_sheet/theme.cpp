@@ -15,12 +15,12 @@ namespace {
 void copyFile(const QString& from, const QString& to) {
   QByteArray bytes;
   try {
-    bytes = platform::ReadFile(from);
+    bytes = platform::readFile(from);
   } catch (const platform::Failure& failure) {
     throw platform::Failure(
-        QStringLiteral("can't read %1 [%2]").arg(platform::NativePath(from), failure.description()));
+        QStringLiteral("can't read %1 [%2]").arg(platform::nativePath(from), failure.description()));
   }
-  platform::WriteFile(to, bytes);
+  platform::writeFile(to, bytes);
 }
 
 }  // namespace
@@ -28,10 +28,10 @@ void copyFile(const QString& from, const QString& to) {
 Theme::Theme(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language,
              platform::StatusLine& status) {
   if (!folder_.isValid()) throw platform::Failure(QStringLiteral("no temporary folder: ") + folder_.errorString());
-  const QString copies = platform::ProgramPath(folder_.path());
-  const QString game = platform::ProgramPath(QDir(gameFolder).absolutePath()) + u'\\';
-  const themefiles::ThemePaths chosen = themefiles::PathsOf(game, theme, skin, language);
-  themefiles::ThemePaths& paths = state_.Paths = chosen;
+  const QString copies = platform::programPath(folder_.path());
+  const QString game = platform::programPath(QDir(gameFolder).absolutePath()) + u'\\';
+  const themefiles::ThemePaths chosen = themefiles::pathsOf(game, theme, skin, language);
+  themefiles::ThemePaths& paths = state_.paths = chosen;
   paths.ThemeFile = copies + QStringLiteral("\\theme.ini");
   paths.SkinFile = copies + QStringLiteral("\\skin.ini");
   paths.LanguageFile = copies + QStringLiteral("\\language.ini");
@@ -43,8 +43,8 @@ Theme::Theme(const QString& gameFolder, const QString& theme, const QString& ski
   themefiles::ReadColors(state_, status);
 }
 
-QString Theme::SchemeNamed(const QString& name) const {
-  const QStringList schemes = themefiles::SchemeNames(state_);
+QString Theme::schemeNamed(const QString& name) const {
+  const QStringList schemes = themefiles::schemeNames(state_);
   if (name.isEmpty()) return schemes.value(0);
   if (schemes.contains(name)) return name;
   throw platform::Failure(

@@ -17,10 +17,10 @@ class Theme {
         platform::StatusLine& status);
 
   /// The state of an editor that has just opened the theme.
-  const themefiles::ModuleState& State() const { return state_; }
+  const themefiles::ModuleState& state() const { return state_; }
 
   /// The colour scheme of that name, the first one for an empty name. Throws platform::Failure for an unknown one.
-  QString SchemeNamed(const QString& name) const;
+  QString schemeNamed(const QString& name) const;
 
  private:
   QTemporaryDir folder_;

@@ -13,8 +13,8 @@ namespace {
 std::unique_ptr<QWidget> makeGallery() {
   auto gallery = std::make_unique<QWidget>();
   auto* const columns = new QHBoxLayout(gallery.get());
-  columns->addWidget(gallery::MakeToolBarPage().release(), 0, Qt::AlignTop);
-  columns->addWidget(gallery::MakeProgressPage().release(), 0, Qt::AlignTop);
+  columns->addWidget(gallery::makeToolBarPage().release(), 0, Qt::AlignTop);
+  columns->addWidget(gallery::makeProgressPage().release(), 0, Qt::AlignTop);
   return gallery;
 }
 
@@ -30,7 +30,7 @@ int save(QWidget& gallery, const QString& path) {
 int main(int argc, char** argv) {
   if (argc > 1) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  controls::ApplyLook(application);
+  controls::applyLook(application);
   std::unique_ptr<QWidget> gallery = makeGallery();
   if (argc > 1) return save(*gallery, application.arguments().at(1));
   QScrollArea window;

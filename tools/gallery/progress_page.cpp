@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "platform/fonts.h"
-#include "progressbar/main_window_bar.h"
+#include "drawing/fonts.h"
+#include "mainwindows/main_window_progress_bar.h"
 #include "progressbar/progress_bar.h"
 #include "progressbar/stored_form.h"
 
@@ -46,7 +46,7 @@ void verticalDisabled(ProgressBar& bar) {
 
 void large(ProgressBar& bar) {
   bar.SetText(QStringLiteral("Effect"));
-  bar.SetTextFont(platform::ControlFont(QStringLiteral("Arial"), 24));
+  bar.SetTextFont(drawing::controlFont(QStringLiteral("Arial"), 24));
   bar.SetTextForeColor(0x0000C0);
   bar.SetTextEffectColor(0xFFC000);
 }
@@ -84,7 +84,7 @@ std::unique_ptr<ProgressBar> barOf(const Row& row, int value) {
   auto bar = std::make_unique<ProgressBar>();
   bar->setFixedSize(row.size);
   bar->SetText(QStringLiteral("Text"));
-  bar->SetTextFont(platform::ControlFont(QStringLiteral("Arial"), 11));
+  bar->SetTextFont(drawing::controlFont(QStringLiteral("Arial"), 11));
   bar->SetPBSCustomeColor1(0x404040);
   bar->SetPBSCustomeColor2(0xC0C0C0);
   if (row.rest) row.rest(*bar);
@@ -95,7 +95,7 @@ std::unique_ptr<ProgressBar> barOf(const Row& row, int value) {
 
 }  // namespace
 
-std::unique_ptr<QWidget> MakeProgressPage() {
+std::unique_ptr<QWidget> makeProgressPage() {
   auto page = std::make_unique<QWidget>();
   auto* const column = new QVBoxLayout(page.get());
   auto* const grid = new QGridLayout;
@@ -111,7 +111,7 @@ std::unique_ptr<QWidget> MakeProgressPage() {
     grid->addLayout(bars, line, 1);
   }
   auto* const own = new ProgressBar;
-  progressbar::ReadProperties(*own, progressbar::MainWindowBar());
+  progressbar::readProperties(*own, mainwindows::mainWindowBar());
   own->setFixedSize(own->size());
   column->addWidget(own);
   column->addStretch();

@@ -7,6 +7,6 @@
 namespace gallery {
 
 /// The progress bar in every theme, direction, effect, alignment and style, enabled and disabled.
-std::unique_ptr<QWidget> MakeProgressPage();
+std::unique_ptr<QWidget> makeProgressPage();
 
 }  // namespace gallery

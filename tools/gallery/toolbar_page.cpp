@@ -7,8 +7,8 @@
 #include <QLabel>
 
 #include "controls/assets.h"
-#include "platform/fonts.h"
-#include "toolbar/main_window_tool_bar.h"
+#include "drawing/fonts.h"
+#include "mainwindows/main_window_tool_bar.h"
 #include "toolbar/mc_toolbar.h"
 
 namespace gallery {
@@ -25,9 +25,9 @@ constexpr int ButtonHeight = 44;
 
 /// Five buttons and a separator: as they are, hovered, pressed, disabled, and without a caption.
 void fill(Model& model) {
-  model.Set(&Properties::ButtonsPerRow, 10);
-  model.Set(&Properties::ButtonsWidth, ButtonWidth);
-  model.Set(&Properties::ButtonsHeight, ButtonHeight);
+  model.setValue(&Properties::ButtonsPerRow, 10);
+  model.setValue(&Properties::ButtonsWidth, ButtonWidth);
+  model.setValue(&Properties::ButtonsHeight, ButtonHeight);
   model.SetButton_Count(6);
   const std::pair<const char*, const char*> faces[] = {{"Open", "open"},      {"Hover", "save"}, {"Pressed", "close"},
                                                        {"Off", "background"}, {"", ""},          {"", "open"}};
@@ -38,7 +38,7 @@ void fill(Model& model) {
     model.SetButtonValue(number, toolbar::ToolTipTextProperty, QStringLiteral("Button %1").arg(number));
     model.SetButtonValue(number, toolbar::IconAlignmentProperty, 2);
     model.SetButtonValue(number, toolbar::IconProperty,
-                         controls::AssetPicture(QString::fromLatin1(icon) + QStringLiteral(".png")));
+                         controls::assetPicture(QString::fromLatin1(icon) + QStringLiteral(".png")));
   }
   model.SetButtonValue(3, toolbar::PressedProperty, true);
   model.SetButtonValue(4, toolbar::EnabledProperty, false);
@@ -57,14 +57,14 @@ class Rows {
   explicit Rows(QWidget& page) : page_(page), grid_(new QGridLayout(&page)) { grid_->setColumnStretch(2, 1); }
 
   void add(const QString& title, const std::function<void(Model&)>& change, int width = 460, bool userMode = true) {
-    auto* const bar = new McToolBar({userMode, platform::ControlFont(QStringLiteral("MS Sans Serif"), 11)}, &page_);
+    auto* const bar = new McToolBar({userMode, drawing::controlFont(QStringLiteral("MS Sans Serif"), 11)}, &page_);
     bar->UserControl_ReadProperties({});
-    fill(bar->Buttons());
-    change(bar->Buttons());
+    fill(bar->buttons());
+    change(bar->buttons());
     bar->resize(width, bar->height());
     bar->setFixedWidth(width);
-    bar->Buttons().PointAt(Hovered);
-    bar->Buttons().Set(&Properties::ButtonsWidth, ButtonWidth);
+    bar->buttons().pointAt(Hovered);
+    bar->buttons().setValue(&Properties::ButtonsWidth, ButtonWidth);
     put(title, bar);
   }
   void put(const QString& title, QWidget* bar) {
@@ -83,11 +83,11 @@ class Rows {
 void addGradients(Rows& rows) {
   for (int kind = 1; kind <= 6; ++kind) {
     rows.add(QStringLiteral("BackGradient, ButtonsGradient %1").arg(kind), [kind](Model& model) {
-      model.Set(&Properties::ButtonsMode, 5);
-      model.Set(&Properties::BackColor, 0x808080U);
-      model.Set(&Properties::BackGradient, kind);
-      model.Set(&Properties::ButtonsBackColor, 0xC08040U);
-      model.Set(&Properties::ButtonsGradient, kind);
+      model.setValue(&Properties::ButtonsMode, 5);
+      model.setValue(&Properties::BackColor, 0x808080U);
+      model.setValue(&Properties::BackGradient, kind);
+      model.setValue(&Properties::ButtonsBackColor, 0xC08040U);
+      model.setValue(&Properties::ButtonsGradient, kind);
     });
   }
 }
@@ -105,28 +105,29 @@ void addAlignments(Rows& rows) {
 
 }  // namespace
 
-std::unique_ptr<QWidget> MakeToolBarPage() {
+std::unique_ptr<QWidget> makeToolBarPage() {
   auto page = std::make_unique<QWidget>();
   Rows rows(*page);
-  auto* const own = new McToolBar(toolbar::AmbientOf(page.get()), page.get());
-  own->UserControl_ReadProperties(toolbar::MainWindowToolBar());
+  auto* const own = new McToolBar(toolbar::ambientOf(page.get()), page.get());
+  own->UserControl_ReadProperties(mainwindows::mainWindowToolBar());
   own->setFixedWidth(460);
   rows.put(QStringLiteral("Main window"), own);
   for (int mode = 0; mode <= 6; ++mode) {
     rows.add(QStringLiteral("ButtonsMode %1").arg(mode),
-             [mode](Model& model) { model.Set(&Properties::ButtonsMode, mode); });
+             [mode](Model& model) { model.setValue(&Properties::ButtonsMode, mode); });
   }
   addGradients(rows);
   addAlignments(rows);
-  rows.add(QStringLiteral("Disabled"), [](Model& model) { model.Set(&Properties::Enabled, false); });
+  rows.add(QStringLiteral("Disabled"), [](Model& model) { model.setValue(&Properties::Enabled, false); });
   rows.add(QStringLiteral("Sunken frame, tiled background"), [](Model& model) {
-    model.Set(&Properties::BorderStyle, 2);
-    model.Set(&Properties::Background, toolbar::PictureOfImage(checks()));
+    model.setValue(&Properties::BorderStyle, 2);
+    model.setValue(&Properties::Background, toolbar::pictureOfImage(checks()));
   });
   rows.add(
-      QStringLiteral("Chevron"), [](Model& model) { model.Set(&Properties::ShowChevron, true); }, 300);
+      QStringLiteral("Chevron"), [](Model& model) { model.setValue(&Properties::ShowChevron, true); }, 300);
   rows.add(
-      QStringLiteral("In a designer"), [](Model& model) { model.Set(&Properties::ShowSeperator, false); }, 460, false);
+      QStringLiteral("In a designer"), [](Model& model) { model.setValue(&Properties::ShowSeperator, false); }, 460,
+      false);
   return page;
 }
 

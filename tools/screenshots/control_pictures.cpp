@@ -10,7 +10,7 @@
 namespace screenshots {
 namespace {
 
-constexpr int Buttons = 4;
+constexpr int buttons = 4;
 constexpr int SaveButton = 2;
 constexpr int ButtonWidth = 32;
 constexpr QRect Strip(0, 0, 800, 32);
@@ -42,8 +42,8 @@ QPoint middleOf(int button) {
 
 }  // namespace
 
-void ControlPictures::ShowToolBar(const QString& name) const {
-  save_(form_.Client->grab(Strip), name);
+void ControlPictures::showToolBar(const QString& name) const {
+  save_(form_.client->grab(Strip), name);
 }
 
 void ControlPictures::pointAt(int button) const {
@@ -58,11 +58,11 @@ void ControlPictures::leave() const {
 
 void ControlPictures::stack(const QString& name, const std::function<void(int button)>& reach) const {
   QPixmap all;
-  for (int button = 1; button <= Buttons; ++button) {
+  for (int button = 1; button <= buttons; ++button) {
     reach(button);
-    const QPixmap strip = form_.Client->grab(ButtonsOfStrip);
+    const QPixmap strip = form_.client->grab(ButtonsOfStrip);
     if (all.isNull()) {
-      all = QPixmap(strip.width(), strip.height() * Buttons);
+      all = QPixmap(strip.width(), strip.height() * buttons);
       all.setDevicePixelRatio(strip.devicePixelRatio());
     }
     QPainter(&all).drawPixmap(0, (button - 1) * ButtonsOfStrip.height(), strip);
@@ -70,9 +70,9 @@ void ControlPictures::stack(const QString& name, const std::function<void(int bu
   save_(all, name);
 }
 
-void ControlPictures::ShowToolBarStates() const {
-  form_.EnableButton(SaveButton, true);
-  ShowToolBar(QStringLiteral("toolbar-normal"));
+void ControlPictures::showToolBarStates() const {
+  form_.enableButton(SaveButton, true);
+  showToolBar(QStringLiteral("toolbar-normal"));
   stack(QStringLiteral("toolbar-hover"), [this](int button) { pointAt(button); });
   leave();
   stack(QStringLiteral("toolbar-pressed"), [this](int button) {
@@ -85,10 +85,10 @@ void ControlPictures::ShowToolBarStates() const {
     sendKey(*form_.ToolBar, button == 1 ? Qt::Key_Home : Qt::Key_Right);
   });
   sendFocus(*form_.ToolBar, QEvent::FocusOut);
-  form_.EnableButton(SaveButton, false);
+  form_.enableButton(SaveButton, false);
 }
 
-void ControlPictures::ShowProgress(const std::function<void()>& render) const {
+void ControlPictures::showProgress(const std::function<void()>& render) const {
   progressbar::ProgressBar& bar = *form_.ProgressBar1;
   QList<int> waiting = {0, 1, 50, 99, 100};
   int yields = 0;
@@ -98,12 +98,12 @@ void ControlPictures::ShowProgress(const std::function<void()>& render) const {
     const int present = bar.Value();
     bar.SetValue(percent);
     bar.SetText(QStringLiteral("%1%").arg(percent));
-    WaitFor(FrameTime, QEventLoop::ExcludeUserInputEvents);
-    save_(form_.Client->grab(ProgressArea), QStringLiteral("progress-%1").arg(percent));
+    waitFor(FrameTime, QEventLoop::ExcludeUserInputEvents);
+    save_(form_.client->grab(ProgressArea), QStringLiteral("progress-%1").arg(percent));
     bar.SetValue(present);
     bar.SetText(QStringLiteral("%1%").arg(present));
   };
-  const auto watched = QObject::connect(&form_.Queue, &controls::WorkQueue::Yielding, show);
+  const auto watched = QObject::connect(&form_.queue, &controls::WorkQueue::Yielding, show);
   render();
   QObject::disconnect(watched);
   if (!waiting.isEmpty()) throw platform::Failure(QStringLiteral("the render yields too seldom"));

@@ -17,11 +17,11 @@ class ControlPictures {
   ControlPictures(mainwindows::Form1& form, Save save) : form_(form), save_(std::move(save)) {}
 
   /// The toolbar as it is.
-  void ShowToolBar(const QString& name) const;
+  void showToolBar(const QString& name) const;
   /// All its buttons enabled; each one hovered, pressed and reached by keyboard, one strip below the other.
-  void ShowToolBarStates() const;
+  void showToolBarStates() const;
   /// The progress bar in the middle of a render. `render` draws a screen that yields often enough for all pictures.
-  void ShowProgress(const std::function<void()>& render) const;
+  void showProgress(const std::function<void()>& render) const;
 
  private:
   void pointAt(int button) const;

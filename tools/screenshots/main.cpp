@@ -19,18 +19,18 @@ int main(int argc, char** argv) {
     std::fputs("usage: cantorama-screenshots GAME_FOLDER OUTPUT_FOLDER\n", stderr);
     return 2;
   }
-  controls::ApplyLook(application);
+  controls::applyLook(application);
   const QTemporaryDir configFolder;
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
-  platform::Graphics graphics;
-  mainwindows::Form1 form({state, dialogs, graphics, {platform::ProgramPath(configFolder.path())}});
-  mainwindows::ConnectEvents(form);
+  drawing::Graphics graphics;
+  mainwindows::Form1 form({state, dialogs, graphics, {platform::programPath(configFolder.path())}});
+  mainwindows::connectEvents(form);
   try {
     const QString output = QDir(arguments[2]).absolutePath();
     // The dialog for the game's program file opens there.
     QDir::setCurrent(arguments[1]);
-    screenshots::Session(form, output).Run();
+    screenshots::Session(form, output).run();
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "cantorama-screenshots: %s\n", failure.what());
     return 2;

@@ -13,7 +13,7 @@ constexpr int LongestWait = 10000;  // ms
 
 }  // namespace
 
-void ModalScript::Run(std::deque<ModalStep> steps, const std::function<void()>& cause) {
+void ModalScript::run(std::deque<ModalStep> steps, const std::function<void()>& cause) {
   steps_ = std::move(steps);
   seen_ = nullptr;
   const int timer = startTimer(Interval);

@@ -23,7 +23,7 @@ class ModalScript : public QObject {
   explicit ModalScript(Save save) : save_(std::move(save)) {}
   /// Runs `cause`, which opens the dialogs, and comes back when all steps are done. Throws platform::Failure when a
   /// dialog doesn't come.
-  void Run(std::deque<ModalStep> steps, const std::function<void()>& cause);
+  void run(std::deque<ModalStep> steps, const std::function<void()>& cause);
 
  private:
   void timerEvent(QTimerEvent* event) override;

@@ -50,7 +50,7 @@ constexpr std::array<EditorRow, 6> Editors{{
 
 /// Lets the windows come to rest.
 void settle() {
-  WaitFor(SettleTime);
+  waitFor(SettleTime);
 }
 
 template <typename List>
@@ -64,9 +64,9 @@ int rowOf(const List& list, const QString& text) {
 /// Picks the object and clicks the key's row in the grid.
 void openEditor(toolwindow::Form2& tools, const Row& wanted) {
   tools.List1->SetListIndex(rowOf(*tools.List1, wanted.tag.toString()));
-  for (int row = 0; row < tools.ListView1->RowCount(); ++row) {
-    if (tools.ListView1->RowText(row) != wanted.key) continue;
-    tools.ListView1->SelectRow(row);
+  for (int row = 0; row < tools.ListView1->rowCount(); ++row) {
+    if (tools.ListView1->rowText(row) != wanted.key) continue;
+    tools.ListView1->selectRow(row);
     toolwindow::ListView1_ItemClick(tools, row);
     settle();
     return;
@@ -106,16 +106,16 @@ Session::Session(mainwindows::Form1& form, QString outputFolder)
       dialogs_([this](QWidget& window, const QString& name) { save(window, name); }),
       controls_(form, [this](const QPixmap& picture, const QString& name) { savePicture(picture, name); }) {}
 
-void Session::Run() {
+void Session::run() {
   form_.show();
   settle();
   save(form_, QStringLiteral("start"));
-  controls_.ShowToolBar(QStringLiteral("toolbar-start"));
+  controls_.showToolBar(QStringLiteral("toolbar-start"));
   openTheme();
   showScreen(QStringLiteral("Main Screen"));
   save(form_, QStringLiteral("main-window"));
-  controls_.ShowToolBarStates();
-  controls_.ShowProgress([this] { form_.Queue.Draw(); });
+  controls_.showToolBarStates();
+  controls_.showProgress([this] { form_.queue.draw(); });
   showEditors();
   saveScreen(QStringLiteral("editor"));
   showColorBoxes();
@@ -125,58 +125,58 @@ void Session::Run() {
 
 void Session::openTheme() {
   const auto open = [](QDialog& dialog) { dynamic_cast<mainwindows::Form3&>(dialog).Command1->click(); };
-  dialogs_.Run({{QStringLiteral("box-game-folder"), choosing(QDir::current().filePath(QStringLiteral("Vocora.exe")))},
+  dialogs_.run({{QStringLiteral("box-game-folder"), choosing(QDir::current().filePath(QStringLiteral("Vocora.exe")))},
                 {QStringLiteral("open-theme"), open}},
                [this] { Q_EMIT form_.ToolBar->Click(OpenButton); });
-  if (form_.ToolWindow == nullptr) throw platform::Failure(QStringLiteral("no theme was opened"));
+  if (form_.toolWindow == nullptr) throw platform::Failure(QStringLiteral("no theme was opened"));
 }
 
 void Session::showScreen(const QString& name) {
-  controls::ComboBox& screens = *form_.ToolWindow->Combo1;
+  controls::ComboBox& screens = *form_.toolWindow->Combo1;
   screens.SetListIndex(rowOf(screens, name));
   settle();
 }
 
 void Session::showEditors() {
   for (const EditorRow& editor : Editors) {
-    openEditor(*form_.ToolWindow, editor.row);
-    save(*form_.ToolWindow, editor.picture.toString());
+    openEditor(*form_.toolWindow, editor.row);
+    save(*form_.toolWindow, editor.picture.toString());
   }
 }
 
 void Session::showColorBoxes() {
-  toolwindow::Form2& tools = *form_.ToolWindow;
+  toolwindow::Form2& tools = *form_.toolWindow;
   openEditor(tools, ThemeColorRow);
   const QString present = tools.Combo3->Text();
   const auto add = [&tools] { tools.Command3->click(); };
-  dialogs_.Run({{QStringLiteral("box-color-dialog"), cancel}}, [&tools] { tools.Command2->click(); });
-  dialogs_.Run({{QStringLiteral("box-new-color"), entering(present)}, {QStringLiteral("box-color-exists"), accept}},
+  dialogs_.run({{QStringLiteral("box-color-dialog"), cancel}}, [&tools] { tools.Command2->click(); });
+  dialogs_.run({{QStringLiteral("box-new-color"), entering(present)}, {QStringLiteral("box-color-exists"), accept}},
                add);
-  dialogs_.Run({{QString(), entering(QStringLiteral("a=b"))}, {QStringLiteral("box-name-unusable"), accept}}, add);
-  dialogs_.Run({{QStringLiteral("box-delete-color"), cancel}}, [&tools] { tools.Command5->click(); });
+  dialogs_.run({{QString(), entering(QStringLiteral("a=b"))}, {QStringLiteral("box-name-unusable"), accept}}, add);
+  dialogs_.run({{QStringLiteral("box-delete-color"), cancel}}, [&tools] { tools.Command5->click(); });
 }
 
 void Session::showKeyBoxes() {
-  toolwindow::Form2& tools = *form_.ToolWindow;
+  toolwindow::Form2& tools = *form_.toolWindow;
   openEditor(tools, TextRow);
   const QString present = tools.Combo5->Text();
-  dialogs_.Run({{QStringLiteral("box-new-textkey"), entering(present)}, {QStringLiteral("box-key-exists"), accept}},
+  dialogs_.run({{QStringLiteral("box-new-textkey"), entering(present)}, {QStringLiteral("box-key-exists"), accept}},
                [&tools] { tools.Command6->click(); });
-  dialogs_.Run({{QStringLiteral("box-delete-key"), cancel}}, [&tools] { tools.Command7->click(); });
+  dialogs_.run({{QStringLiteral("box-delete-key"), cancel}}, [&tools] { tools.Command7->click(); });
   openEditor(tools, TextureRow);
-  dialogs_.Run({{QStringLiteral("box-new-texturekey"), cancel}}, [&tools] { tools.Command8->click(); });
+  dialogs_.run({{QStringLiteral("box-new-texturekey"), cancel}}, [&tools] { tools.Command8->click(); });
   const auto changeImage = [&tools] { tools.Command4->click(); };
-  dialogs_.Run({{QStringLiteral("box-image-dialog"), cancel}}, changeImage);
+  dialogs_.run({{QStringLiteral("box-image-dialog"), cancel}}, changeImage);
   const QString elsewhere =
-      platform::NativePath(form_.Services.State.Paths.SkinDirectory + QStringLiteral("\\..\\Workbench\\plate.png"));
-  dialogs_.Run({{QString(), choosing(elsewhere)}, {QStringLiteral("box-image-elsewhere"), accept}}, changeImage);
+      platform::nativePath(form_.services.state.paths.SkinDirectory + QStringLiteral("\\..\\Workbench\\plate.png"));
+  dialogs_.run({{QString(), choosing(elsewhere)}, {QStringLiteral("box-image-elsewhere"), accept}}, changeImage);
 }
 
 void Session::showCloseQuestion() {
-  openEditor(*form_.ToolWindow, NumberRow);
-  form_.ToolWindow->Command1->click();
+  openEditor(*form_.toolWindow, NumberRow);
+  form_.toolWindow->Command1->click();
   settle();
-  dialogs_.Run({{QStringLiteral("box-close"), cancel}}, [this] { Q_EMIT form_.ToolBar->Click(CloseButton); });
+  dialogs_.run({{QStringLiteral("box-close"), cancel}}, [this] { Q_EMIT form_.ToolBar->Click(CloseButton); });
 }
 
 void Session::save(QWidget& window, const QString& name) const {
@@ -191,7 +191,7 @@ void Session::savePicture(const QPixmap& picture, const QString& name) const {
 
 /// The main window with what lies over it, as the screen shows them.
 void Session::saveScreen(const QString& name) const {
-  const QRect place = form_.frameGeometry().united(form_.ToolWindow->frameGeometry());
+  const QRect place = form_.frameGeometry().united(form_.toolWindow->frameGeometry());
   savePicture(form_.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height()), name);
 }
 

@@ -14,7 +14,7 @@ class Session {
  public:
   Session(mainwindows::Form1& form, QString outputFolder);
 
-  void Run();
+  void run();
 
  private:
   void openTheme();

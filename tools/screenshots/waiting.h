@@ -6,7 +6,7 @@
 namespace screenshots {
 
 /// Lets the program run on for some milliseconds.
-inline void WaitFor(int milliseconds, QEventLoop::ProcessEventsFlags events = QEventLoop::AllEvents) {
+inline void waitFor(int milliseconds, QEventLoop::ProcessEventsFlags events = QEventLoop::AllEvents) {
   QEventLoop loop;
   QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
   loop.exec(events);

@@ -56,13 +56,13 @@ void paintBoard(Canvas& canvas) {
   canvas.fill(roundBox(QRectF(330, 120, 380, 44), 14), rgb(0x22163f));
   canvas.fill(roundBox(QRectF(390, 136, 150, 12), 6), rgb(0xfff0dc));
   canvas.fill(star({358, 143}, 14), rgb(0xffd05c));
-  constexpr unsigned Buttons[] = {0x47aff7, 0x3fbf3f, 0xf76a6a, 0xffb030};
+  constexpr unsigned buttons[] = {0x47aff7, 0x3fbf3f, 0xf76a6a, 0xffb030};
   for (int button = 0; button < 4; ++button) {
     const int row = button / 2;
     const QRectF box(356 + button % 2 * 172, 188 + row * 88, 156, 62);
     canvas.fill(moved(roundBox(box, 16), 0, 3), rgb(0x0c0618, 0.5), 8);
     canvas.fill(roundBox(box, 16), [&](double, double y) {
-      return mix(rgb(Buttons[button]), rgb(0x241444), 0.1 + 0.45 * (y - box.top()) / box.height());
+      return mix(rgb(buttons[button]), rgb(0x241444), 0.1 + 0.45 * (y - box.top()) / box.height());
     });
     canvas.fill(roundBox(QRectF(box.left() + 24, box.top() + 20, 84, 10), 5), rgb(0xffffff, 0.92));
     canvas.fill(roundBox(QRectF(box.left() + 24, box.top() + 38, 54, 7), 3), rgb(0xffffff, 0.5));

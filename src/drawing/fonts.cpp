@@ -1,0 +1,75 @@
+#include "drawing/fonts.h"
+
+#include <algorithm>
+
+#include <QFontInfo>
+
+namespace drawing {
+
+namespace {
+
+struct Substitute {
+  const char* face;
+  const char* family;
+  QFont::Weight weight;
+};
+
+/// What stands in for a face that isn't installed: open fonts from the distribution's packages. The last row serves
+/// every other face.
+constexpr Substitute Substitutes[] = {
+    {"Eurostar Regular Extended", "DejaVu Sans", QFont::Normal},
+    {"Eurostar Black", "Lato", QFont::Black},
+    {"Arial Black", "Lato", QFont::Black},
+    {"MS Sans Serif", "Liberation Sans", QFont::Normal},
+    {"Arial", "Liberation Sans", QFont::Normal},
+    {"Courier New", "Liberation Mono", QFont::Normal},
+    {nullptr, "Liberation Sans", QFont::Normal},
+};
+
+/// Whether the machine has the face itself. The font's own answer takes a hundredth of the time of a list of families;
+/// a family that two makers offer has the maker behind its name.
+bool isInstalled(const QString& face) {
+  const QString family = QFontInfo(QFont(face)).family();
+  return family.compare(face, Qt::CaseInsensitive) == 0 ||
+         family.startsWith(face + QStringLiteral(" ["), Qt::CaseInsensitive);
+}
+
+QFont fontOf(const QString& face) {
+  if (isInstalled(face)) return QFont(face);
+  const Substitute* row = Substitutes;
+  while (row->face && face.compare(QLatin1String(row->face), Qt::CaseInsensitive) != 0) ++row;
+  return QFont(QString::fromLatin1(row->family), -1, row->weight);
+}
+
+}  // namespace
+
+QFont inGreySteps(const QFont& font) {
+  constexpr auto GreySteps = QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias);
+  if (font.hintingPreference() == QFont::PreferNoHinting && font.styleStrategy() == GreySteps) return font;
+  QFont grey = font;
+  grey.setHintingPreference(QFont::PreferNoHinting);
+  grey.setStyleStrategy(GreySteps);
+  return grey;
+}
+
+QFont faceFont(const QString& face) {
+  return inGreySteps(fontOf(face));
+}
+
+QFont controlFont(const QString& face, int pixels) {
+  QFont font = faceFont(face);
+  font.setPixelSize(pixels);
+  return font;
+}
+
+QFont drawnFont(const QFont& font) {
+  QFont drawn = faceFont(font.family());
+  if (drawn.weight() == QFont::Normal) drawn.setWeight(font.weight());
+  drawn.setItalic(font.italic());
+  drawn.setUnderline(font.underline());
+  if (font.pointSizeF() > 0) drawn.setPointSizeF(std::min(font.pointSizeF(), LargestPoints));
+  if (font.pixelSize() > 0) drawn.setPixelSize(font.pixelSize());
+  return drawn;
+}
+
+}  // namespace drawing

@@ -1,0 +1,84 @@
+#include "drawing/pictures.h"
+
+#include <cstdlib>
+
+#include <QBuffer>
+#include <QColorSpace>
+#include <QFile>
+#include <QImageReader>
+
+#include "drawing/jpeg_pictures.h"
+#include "drawing/picture_ends.h"
+#include "platform/failure.h"
+#include "platform/files.h"
+
+namespace drawing {
+
+namespace {
+
+/// The largest picture that is decoded, and the largest file that is read for one: 256 MB, as 32-bit pixels and on
+/// disk.
+constexpr int LargestMegabytes = 256;
+constexpr qint64 LargestBytes = qint64(LargestMegabytes) * 1024 * 1024;
+constexpr qint64 LargestPixels = LargestBytes / 4;
+
+struct Kind {
+  const char* mark;  ///< the bytes at the head of such a file
+  const char* format;
+  bool (*isWhole)(QByteArrayView bytes);
+};
+
+// JPEG has a decoder of its own, which tells itself what is missing.
+constexpr Kind Kinds[] = {
+    {"BM", "bmp", isWholeBmp},
+    {"GIF8", "gif", isWholeGif},
+    {"\xFF\xD8\xFF", "jpeg", nullptr},
+    {"\x89PNG\r\n\x1A\n", "png", isWholePng},
+};
+constexpr qint64 LongestMark = 8;
+
+const Kind* kindOf(QByteArrayView bytes) {
+  for (const Kind& kind : Kinds) {
+    if (bytes.startsWith(kind.mark)) return &kind;
+  }
+  return nullptr;
+}
+
+/// Whether the file can be a picture by its size and head: nothing more is read of it for that.
+bool mayBePicture(QFile& file) {
+  return file.size() <= LargestBytes && kindOf(file.peek(LongestMark));
+}
+
+}  // namespace
+
+QImage decodePicture(QByteArrayView bytes) {
+  const Kind* const kind = kindOf(bytes);
+  if (!kind) return {};
+  if (!kind->isWhole) return decodeJpeg(bytes, LargestPixels);
+  if (!kind->isWhole(bytes)) return {};
+  QByteArray data = QByteArray::fromRawData(bytes.data(), bytes.size());
+  QBuffer buffer(&data);
+  QImageReader::setAllocationLimit(LargestMegabytes);
+  QImageReader reader(&buffer, kind->format);
+  reader.setAutoDetectImageFormat(false);
+  reader.setAutoTransform(false);
+  const QSize size = reader.size();
+  if (std::abs(qint64(size.width()) * size.height()) > LargestPixels) return {};  // rows from top down: below 0
+  QImage picture = reader.read();
+  if (picture.isNull()) return {};
+  picture.setColorSpace({});
+  return std::move(picture).convertToFormat(QImage::Format_ARGB32);
+}
+
+QImage LoadPicture(const QString& path) {
+  try {
+    const auto file = platform::openFile(path);
+    if (!mayBePicture(*file)) return {};
+    const QByteArray bytes = file->readAll();
+    return file->error() == QFileDevice::NoError ? decodePicture(bytes) : QImage();
+  } catch (const platform::Failure&) {
+    return {};
+  }
+}
+
+}  // namespace drawing

@@ -1,0 +1,115 @@
+#include "drawing/surface.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include "drawing/fonts.h"
+
+namespace drawing {
+
+namespace {
+
+constexpr int DotsPerMeter = 3780;  // 96 an inch
+constexpr float StartPoints = 8.25F;
+
+QFont fontOf(const QString& face, float points) {
+  QFont font = faceFont(face);
+  font.setPointSizeF(double(points));
+  return font;
+}
+
+}  // namespace
+
+Surface::Surface() : ForeColor(Qt::black), image_(Width, Height, QImage::Format_RGB32) {
+  image_.setDotsPerMeterX(DotsPerMeter);
+  image_.setDotsPerMeterY(DotsPerMeter);
+  image_.fill(Qt::black);
+  SetFontName(QStringLiteral("MS Sans Serif"));
+  SetFontSize(StartPoints);
+}
+
+void Surface::wipe(const QColor& color) {
+  image_.fill(color);
+  mark(image_.rect());
+}
+
+void Surface::drawImageRect(const QImage& picture, int x, int y, int w, int h) {
+  const QRectF target(x, y, w, h);
+  const QRectF shown = target & QRectF(image_.rect());
+  if (picture.isNull() || w <= 0 || h <= 0 || shown.isEmpty()) return;
+  QImage source = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  source.setDevicePixelRatio(1);
+  QPainter painter(&image_);
+  if (source.width() == w && source.height() == h) {
+    painter.drawImage(x, y, source);
+  } else {
+    painter.setClipRect(image_.rect());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, source);
+  }
+  mark(shown.toRect());
+}
+
+void Surface::drawImage(const QImage& picture, int x, int y) {
+  drawImageRect(picture, x, y, picture.width(), picture.height());
+}
+
+void Surface::SetFontName(const QString& face) {
+  if (face != fontName_) font_.reset();
+  fontName_ = face;
+}
+
+void Surface::SetFontSize(float points) {
+  if (!(points > 0)) return;
+  const float size = std::min(points, float(LargestPoints));
+  if (size != fontSize_) font_.reset();
+  fontSize_ = size;
+}
+
+void Surface::setPen(const Pen& pen) {
+  CurrentX = pen.x;
+  CurrentY = pen.y;
+  ForeColor = pen.color;
+  SetFontName(pen.face);
+  SetFontSize(pen.points);
+}
+
+const QFont& Surface::font() const {
+  if (!font_) font_ = fontOf(fontName_, fontSize_);
+  return *font_;
+}
+
+double Surface::TextWidth(const QString& text) const {
+  return QFontMetricsF(font(), &image_).horizontalAdvance(text);
+}
+
+double Surface::TextHeight(const QString&) const {
+  return QFontMetricsF(font(), &image_).height();
+}
+
+void Surface::Print(const QString& text) {
+  const QFontMetricsF metrics(font(), &image_);
+  const QPointF baseline(double(CurrentX), double(CurrentY) + metrics.ascent());
+  // A pixel more on each side, for the soft edges.
+  const QRectF ink = metrics.boundingRect(text).translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
+  if (ink.isEmpty()) return;
+  QPainter painter(&image_);
+  painter.setFont(font());
+  painter.setPen(ForeColor);
+  painter.setRenderHint(QPainter::TextAntialiasing);
+  painter.drawText(baseline, text);
+  mark(ink.toAlignedRect());
+}
+
+QRect Surface::takeDirty() {
+  return std::exchange(dirty_, QRect());
+}
+
+void Surface::mark(const QRect& rectangle) {
+  dirty_ |= rectangle & image_.rect();
+}
+
+}  // namespace drawing

@@ -1,0 +1,148 @@
+#include <cmath>
+
+#include <QFontInfo>
+#include <QTest>
+
+#include "drawing/fonts.h"
+#include "drawing/raster_pictures.h"
+#include "drawing/raster_text.h"
+#include "drawing/surface.h"
+#include "support/pictures.h"
+
+using namespace drawing;
+using namespace support;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QRgb Ground = qRgb(255, 255, 255);
+constexpr QRgb Edge = qRgb(10, 20, 30);
+constexpr QRgb Inside = qRgb(200, 150, 100);
+
+/// # edge, o inside, . untouched.
+QByteArrayList letters(const Raster& raster) {
+  return lettersOf(raster.image(), {{Ground, '.'}, {Edge, '#'}, {Inside, 'o'}});
+}
+
+QImage picture(const QList<QRgb>& pixels, int width) {
+  return pictureOf(width, int(pixels.size()) / width, [&](int x, int y) { return pixels[y * width + x]; });
+}
+
+/// A white surface that nothing has been drawn on.
+struct Sheet : Surface {
+  Sheet() {
+    wipe(Qt::white);
+    takeDirty();
+  }
+};
+
+}  // namespace
+
+class DrawingTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void roundedBox() {
+    Raster raster(QSize(12, 7), Ground);
+    raster.RoundRect(0, 0, 12, 7, 100, Edge, Inside);
+    QCOMPARE(letters(raster), (QByteArrayList{"....####....", ".###oooo###.", ".#oooooooo#.", "#oooooooooo#",
+                                              ".#oooooooo#.", ".###oooo###.", "....####...."}));
+  }
+
+  void pixelRowsKeepTheirBytes() {
+    const QImage bitmap = picture({qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(7, 8, 9), qRgba(9, 9, 9, 0)}, 2);
+    QCOMPARE(GetDIBits(bitmap).Bytes, QByteArray("\x09\x08\x07\0\0\0\0\0\x03\x02\x01\x06\x05\x04\0\0", 16));
+    Raster raster(QSize(6, 4), qRgb(8, 8, 8));
+    StretchDIBits(raster, -1, 0, 4, 4, GetDIBits(bitmap));
+    const QList<QRgb> expected = {qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(4, 5, 6), qRgb(8, 8, 8)};
+    for (int x = 0; x < 4; ++x) QCOMPARE(raster.image().pixel(x, 1), expected[x]);
+  }
+
+  void shapesOfPictures() {
+    const QImage half = picture({qRgba(0, 0, 0, 255), qRgba(0, 0, 0, 128), qRgba(0, 0, 0, 0)}, 3);
+    Raster raster(QSize(5, 3), Ground);
+    paintSilhouette(raster, half, 3, 1, Edge);
+    paintSilhouette(raster, half.convertToFormat(QImage::Format_RGB32), 0, 1, Inside);
+    tileRect(raster, 1, 2, 4, 3, picture({Edge, Inside}, 2));
+    PaintPicture(raster, picture({Inside}, 1), 0, 0, 2, 1);
+    raster.Line(2, 0, 4, 2, Edge);  // without its end
+    QCOMPARE(letters(raster), (QByteArrayList{"oo#..", "ooo##", ".#o#."}));
+  }
+
+  void textStandsInItsRectangle() {
+    const QFont font(QStringLiteral("Liberation Sans"), 9);
+    const QString text = QStringLiteral("Hog");
+    Raster drawn(QSize(300, 40), Ground);
+    drawText(drawn, font, text, QRect(20, 10, 200 + TextWidth(font, text), 8), Edge);
+    Raster printed(QSize(300, 40), Ground);
+    Print(printed, font, text, 120, 10, Edge);
+    QVERIFY(printed.image() != drawn.image());  // it is cut at the lower edge
+    printed.FillRect(0, 18, 300, 40, Ground);
+    QCOMPARE(drawn.image(), printed.image());
+  }
+
+  void stretchedPicturesHaveCleanEdges() {
+    // Its own size; over the corner; the far end of an enormous one; none.
+    for (const QRect& target :
+         {QRect(5, 5, 7, 5), QRect(-50, -20, 300, 100), QRect(-32000, 0, 32767, 3), QRect(10, 10, -5, 20)}) {
+      Sheet surface;
+      surface.drawImageRect(plainPicture(7, 5, Inside), target.x(), target.y(), target.width(), target.height());
+      const QRect shown = target.isEmpty() ? QRect() : target & surface.image().rect();
+      QCOMPARE(surface.takeDirty(), shown);
+      QCOMPARE(inkOf(surface.image()), shown);
+      if (!shown.isEmpty()) QVERIFY(inkOf(surface.image().copy(shown), Inside).isNull());
+    }
+  }
+
+  void blendsAndScales() {
+    Sheet surface;
+    surface.drawImage(picture({qRgba(0, 0, 0, 128), qRgba(1, 2, 3, 255), qRgba(1, 2, 3, 0)}, 3), 10, 10);
+    QCOMPARE(qRed(surface.image().pixel(10, 10)), 127);
+    QCOMPARE(surface.image().pixel(11, 10), qRgb(1, 2, 3));
+    QCOMPARE(surface.image().pixel(12, 10), Ground);
+    surface.drawImageRect(picture({qRgb(0, 0, 0), Ground}, 2), 0, 0, 16, 2);
+    for (int x = 0; x < 16; ++x) {
+      const double expected = std::clamp((x + 0.5) / 8 - 0.5, 0.0, 1.0) * 255;
+      QVERIFY(std::abs(qRed(surface.image().pixel(x, 1)) - expected) < 3);
+    }
+  }
+
+  void textStandsAtThePen() {
+    Sheet surface;
+    surface.SetFontName(u"Eurostar Black"_s);
+    surface.SetFontSize(48);
+    surface.CurrentX = 100;
+    surface.CurrentY = 50;
+    surface.Print(u"Hg"_s);
+    const QRect ink = inkOf(surface.image());
+    QVERIFY(surface.takeDirty().contains(ink));
+    const QRectF cell(100, 50, surface.TextWidth(u"Hg"_s), surface.TextHeight(u"Hg"_s));
+    QVERIFY(cell.adjusted(-3, -3, 3, 3).contains(QRectF(ink)) && ink.height() > cell.height() / 2);
+    // No colour fringes.
+    for (int x = ink.left(); x <= ink.right(); ++x) QVERIFY(qIsGray(surface.image().pixel(x, ink.center().y())));
+  }
+
+  void sizesInWholePixels() {
+    Surface surface;
+    const auto widthAt = [&](float points) {
+      surface.SetFontSize(points);
+      return surface.TextWidth(u"wide words"_s);
+    };
+    QCOMPARE(widthAt(14), widthAt(14.25F));  // 18.67 and 19 pixels
+    QVERIFY(widthAt(13.5F) < widthAt(14));
+  }
+
+  void facesOfTheTexts() {
+    const auto stands = [](const QString& family, const QString& face, bool black = false) {
+      const QFontInfo info(faceFont(face));
+      const bool machineHasIt = info.family().compare(face, Qt::CaseInsensitive) == 0;
+      return machineHasIt || (info.family() == family && (info.weight() >= QFont::Black) == black);
+    };
+    QVERIFY(stands(u"DejaVu Sans"_s, u"Eurostar Regular Extended"_s));
+    QVERIFY(stands(u"Lato"_s, u"Eurostar Black"_s, true));
+    QVERIFY(stands(u"Liberation Sans"_s, u"No such face at all"_s));
+  }
+};
+
+QTEST_MAIN(DrawingTest)
+#include "drawing_test.moc"

@@ -1,0 +1,103 @@
+#include <QFont>
+#include <QTest>
+
+#include "drawing/icons.h"
+#include "platform/failure.h"
+#include "propertybag/stored_bytes.h"
+
+using propertybag::bagOfBytes;
+using propertybag::PropertyBag;
+using propertybag::storedBytes;
+
+namespace {
+
+QVariant fontOf(const QString& face) {
+  QFont font;
+  font.setFamilies({face});
+  font.setPointSizeF(8.25);
+  return font;
+}
+
+}  // namespace
+
+class PropertyBagTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  // Whatever single byte is wrong, nothing of the bag is taken, or the bag says what the bytes say.
+  void bytesSoundAndDamaged() {
+    const auto fromHex = &QByteArray::fromHex;
+    const struct {
+      QVariant value;
+      const char* tag;
+      const char* stored;  // behind the head of a record with the key "aB"
+    } rows[] = {
+        {QVariant::fromValue(qint16(-2)), "0200", "feff0000"},
+        {0x8000000FU, "0300", "0f000080"},
+        {true, "0b00", "ffff0000"},
+        {QStringLiteral("\u20ac"), "0800", "01000000 ac200000"},
+        {fontOf(QStringLiteral("Ab")), "0d00",
+         "0352e30b918fce119de300aa004bb851 01 0000 00 9001 44420100 02 4162 000000"},
+        {QVariant::fromValue(propertybag::StoredPicture{"xyz"}), "0d00",
+         "0452e30b918fce119de300aa004bb851 6c740000 03000000 78797a 00"},
+    };
+    for (const auto& [value, tag, stored] : rows) {
+      PropertyBag bag;
+      bag.WriteProperty(QStringLiteral("aB"), value, {});
+      const QByteArray record = fromHex(tag) + fromHex("0200 62200c00 00000000 61006200") + fromHex(stored);
+      const QByteArray count = QByteArray(1, char(record.size() + 8)) + QByteArray(3, '\0');
+      const QByteArray bytes = fromHex("2d4c420900") + count + fromHex("93b20000") + count + record;
+      QCOMPARE(storedBytes(bag).toHex(' '), bytes.toHex(' '));
+      QCOMPARE(storedBytes(*bagOfBytes(bytes)), bytes);
+      for (qsizetype i = 0; i < bytes.size(); ++i) {
+        QVERIFY(!bagOfBytes(bytes.first(i)));
+        QByteArray damaged = bytes;
+        damaged[i] = char(damaged[i] ^ 0x41);
+        const auto read = bagOfBytes(damaged);
+        const QByteArray again = read ? storedBytes(*read) : damaged;
+        // A font's character set and flags are passed over.
+        if (again != damaged) QCOMPARE(again, bytes);
+      }
+    }
+  }
+
+  void whatCantBeStored() {
+    PropertyBag bag;
+    bag.WriteProperty(QStringLiteral("key"), fontOf(QString(300, u'a')), {});
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, storedBytes(bag));
+  }
+
+  void iconsGoRound() {
+    QImage picture(16, 16, QImage::Format_ARGB32);
+    for (int i = 0; i < 256; ++i) picture.setPixel(i % 16, i / 16, qRgba(i, 255 - i, i / 2, i % 3 == 0 ? 127 : 128));
+    const auto file = drawing::writeIcon(picture);
+    QCOMPARE(file->size(), 1406);
+    const auto icon = drawing::readIcon(*file);
+    for (int i = 0; i < 256; ++i) {
+      const bool isClear = i % 3 == 0;
+      QCOMPARE(icon->mask.pixel(i % 16, i / 16), isClear ? 0xFFFFFFFFU : 0xFF000000U);
+      QCOMPARE(icon->Color.pixel(i % 16, i / 16), isClear ? 0xFF000000U : qRgb(i, 255 - i, i / 2));
+    }
+    for (qsizetype i = 0; i < file->size(); ++i) QVERIFY(!drawing::readIcon(file->first(i)));
+  }
+
+  // Red, green and a clear pixel.
+  void iconDepths() {
+    const std::pair<const char*, const char*> rows[] = {
+        {"0400", "03000000 00000000 00000000 0000ff00 00ff0000 12100000 20000000"},
+        {"2000", "00000000 00000000 0000ff00 00ff0000 0000ff00 20000000"},
+    };
+    for (const auto& [depth, behind] : rows) {
+      const auto icon = drawing::readIcon(QByteArray::fromHex(
+          QByteArray("0000 0100 0100 03010000 0100 0000 00000000 16000000 28000000 03000000 02000000 0100") + depth +
+          "00000000 00000000 00000000 00000000" + behind));
+      QVERIFY2(icon, depth);
+      QCOMPARE(icon->Color.pixel(1, 0), qRgb(0, 255, 0));
+      QCOMPARE(icon->Color.pixel(2, 0), qRgb(0, 0, 0));  // under the mask
+      QCOMPARE(icon->mask.pixel(2, 0), 0xFFFFFFFFU);
+    }
+  }
+};
+
+QTEST_MAIN(PropertyBagTest)
+#include "property_bag_test.moc"
