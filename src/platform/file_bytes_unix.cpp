@@ -74,6 +74,7 @@ std::optional<FileError> lookAt(const QString& native, AtLink atLink, Look& foun
   struct stat status;
   const int result = atLink == AtLink::Follow ? ::stat(name.constData(), &status) : ::lstat(name.constData(), &status);
   found = {};
+  if (result < 0 && errno == ELOOP) return std::nullopt;  // links that lead nowhere
   const auto error = errorOf(errorNumber(result));
   if (error) return error->missing ? std::nullopt : error;
   found = {true, S_ISREG(status.st_mode), lastWritten(status)};

@@ -93,7 +93,8 @@ QStringList listFiles(const QString& folder, const QString& ending) {
     if (name.startsWith(u'.') || name.size() < ending.size()) return true;
     if (!sameName(QStringView(name).last(ending.size()), ending)) return true;
     Look found;
-    return lookAt(native + u'/' + name, AtLink::Follow, found) || !found.isFile;
+    // One that can't be looked at stays: reading it will tell why, and no other one is taken for it.
+    return !lookAt(native + u'/' + name, AtLink::Follow, found) && !found.isFile;
   });
   std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
     return sameName(a, b) ? QFile::encodeName(a) < QFile::encodeName(b) : nameLess(a, b);

@@ -173,7 +173,8 @@ class FileFailuresTest : public QObject {
         Stage stage(operation);
         stage.run(operation, fault, number);
         Standing now = standing(stage.program, stage.game);
-        QVERIFY2(torn(now.files, stage.before.files, after.files, false).isEmpty(), where);
+        const QString damage = torn(now.files, stage.before.files, after.files, false);
+        QVERIFY2(damage.isEmpty(), where + ' ' + qPrintable(damage));
         const bool failed = stage.program.status().startsWith(QLatin1StringView(operation.failure));
         // Open may find nothing to open: no folder, theme, skin or language can be seen.
         const bool untouched = operation.failure == copying && now.files == stage.before.files;

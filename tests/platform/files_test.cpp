@@ -72,7 +72,8 @@ class FilesTest : public QObject {
   void onlyRegularFilesAreFiles() {
     QVERIFY(::mkfifo(folder_->native(u"pipe"_s).toUtf8(), 0666) == 0);
     QDir(folder_->native({})).mkdir(u"sub"_s);
-    for (const char* target : {"pipe", "/dev/zero", "sub", "nothing"}) {
+    QFile::link(u"loop"_s, folder_->native(u"loop"_s));
+    for (const char* target : {"pipe", "/dev/zero", "sub", "loop", "nothing"}) {
       const QString name = QFileInfo(QLatin1StringView(target)).fileName() + u".ini"_s;
       QFile::link(QLatin1StringView(target), folder_->native(name));
       QVERIFY2(!fileExists(at(name)) && drawing::LoadPicture(at(name)).isNull(), target);
