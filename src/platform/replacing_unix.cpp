@@ -116,7 +116,7 @@ int makeInTurn(const QByteArray& name, int& file) {
     const int error = make(name, file);
     if (error != EAGAIN) return error;
   }
-  return EBUSY;
+  return EAGAIN;
 }
 
 }  // namespace
@@ -135,7 +135,10 @@ std::optional<FileError> replaceBytes(const QString& native, QByteArrayView byte
 
   const QByteArray name = target + TemporaryEnding;
   int file = -1;
-  if (const int error = makeInTurn(name, file)) return errorOf(error);
+  if (const int error = makeInTurn(name, file)) {
+    if (error == EAGAIN) return FileError{QStringLiteral("Another program is writing this file")};
+    return errorOf(error);
+  }
   int error = replaces ? keepOwnerAndMode(file, old) : 0;
   if (error == 0) error = writeAll(file, bytes);
   if (error == 0) error = flush(file);

@@ -115,16 +115,18 @@ QByteArray changedText(const QByteArray& text, const QString& Section, const QSt
 void checkReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName) {
   const QByteArray section = lineBytes(Section);
   const QByteArray key = lineBytes(Key);
-  const QString what = QStringLiteral("%1 in [%2] was written, but ").arg(Key, Section);
   std::optional<QByteArray> now;
   try {
     now = platform::readIfThere(FileName);
   } catch (const platform::Failure& failure) {
-    throw platform::Failure(what + QStringLiteral("can't be read back: ") + failure.description());
+    throw platform::Failure(
+        QStringLiteral("%1 in [%2] was written, but can't be read back: %3").arg(Key, Section, failure.description()));
   }
   const bool same = now && (*now == written || platform::findProfileValue(*now, section, key) ==
                                                    platform::findProfileValue(written, section, key));
-  if (!same) throw platform::Failure(what + QStringLiteral("another program has changed the file since"));
+  if (same) return;
+  throw platform::Failure(
+      QStringLiteral("%1 in [%2] was written, but another program has changed the file since").arg(Key, Section));
 }
 
 QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line) {

@@ -39,7 +39,7 @@ QString keepBeside(const QString& path, const QByteArray& bytes, QStringView end
   }
   place = std::min_element(others.begin(), others.end())->second;
   platform::writeFile(place, bytes, platform::AtLink::Replace);
-  return place + QStringLiteral(" in place of the oldest of nine");
+  return QStringLiteral("%1 in place of the oldest of nine").arg(place);
 }
 
 }  // namespace themefiles

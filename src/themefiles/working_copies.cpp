@@ -73,7 +73,9 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   // A program that writes it piece by piece has it empty for a moment.
   const bool emptied = standing && standing->isEmpty() && !own.isEmpty();
   if (!standing || emptied) {
-    notes += QStringLiteral("%1 was %2 and is made anew").arg(copy, emptied ? u"empty" : u"gone");
+    const QString note =
+        emptied ? QStringLiteral("%1 was empty and is made anew") : QStringLiteral("%1 was gone and is made anew");
+    notes += note.arg(copy);
     return {own, false};
   }
   if (standing != own && digest(own) != state.fileDigests.at(file)) {
