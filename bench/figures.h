@@ -33,5 +33,8 @@ void registerScreen(const std::shared_ptr<SampleScreen>& screen);
 /// whether that is little enough.
 bool drawHeavyDrag();
 void registerShownScreen(const std::shared_ptr<SampleScreen>& screen);
+void registerListing();
+/// The screen in a large theme; gives it for its gap.
+std::shared_ptr<SampleScreen> registerLargeTheme(const SampleScreen& screen);
 
 }  // namespace bench

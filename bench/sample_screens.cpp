@@ -13,6 +13,7 @@
 #include "renderer/trial_drawing.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/screen_table.h"
+#include "themefiles/tag_reader.h"
 #include "themefiles/theme_paths.h"
 
 namespace bench {
@@ -22,16 +23,23 @@ using Clock = std::chrono::steady_clock;
 
 }  // namespace
 
-SampleScreen::SampleScreen(const QString& theme, const QString& screen) : theme_(theme) {
-  const QString game = platform::programPath(QDir(QStringLiteral(SAMPLE_FOLDER)).absolutePath()) + u'\\';
+SampleScreen::SampleScreen(const QString& gameFolder, const QString& theme, const QString& screen) : theme_(theme) {
+  const QString game = platform::programPath(QDir(gameFolder).absolutePath()) + u'\\';
   const QString skin = themefiles::skinsOf(game, theme).value(0);
   state_.paths = themefiles::pathsOf(game, theme, skin, QStringLiteral("English"));
   themefiles::InitScreenTable(state_);
   themefiles::ReadColors(state_, panel_);
   host_.screen = screen;
-  state_.Filter = themefiles::filterOf(screen);
-  themefiles::ReadTags(state_, screen, tags_, panel_, [] {});
+  choose();
   draw();
+}
+
+void SampleScreen::choose() {
+  tags_.Clear();
+  state_.ButtonListFilled = false;
+  state_.Filter = themefiles::filterOf(host_.screen);
+  themefiles::ReadTags(state_, host_.screen, tags_, panel_, [this] { yield(); });
+  if (tags_.ListIndex() >= 0) themefiles::ReadTag(state_, tags_.List(tags_.ListIndex()), panel_);
 }
 
 renderer::RenderContext SampleScreen::context(renderer::PreparedPictures* store) {
@@ -56,7 +64,7 @@ void SampleScreen::drawFrame() {
   renderer::drawTrial(context(&store_), {section, {{QStringLiteral("X"), QString::number(frame_)}}});
 }
 
-void SampleScreen::drawForGap() {
+void SampleScreen::runForGap() {
   Clock::time_point last = Clock::now();
   const auto note = [&] {
     const Clock::time_point now = Clock::now();
@@ -64,6 +72,7 @@ void SampleScreen::drawForGap() {
     last = now;
   };
   host_.yielded = note;
+  choose();
   draw();
   note();
   host_.yielded = nullptr;
@@ -122,7 +131,7 @@ std::shared_ptr<SampleScreen> fullestScreen() {
   for (const QString& file : themes.entryList({QStringLiteral("*.ini")}, QDir::Files)) {
     for (const themefiles::ScreenRow& row : state.ScreenTable) {
       const QString theme = file.chopped(4);
-      auto screen = std::make_shared<SampleScreen>(theme, row.Name);
+      auto screen = std::make_shared<SampleScreen>(QStringLiteral(SAMPLE_FOLDER), theme, row.Name);
       if (fullest && fullest->objects() >= screen->objects()) continue;
       fullest = screen;
     }

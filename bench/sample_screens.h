@@ -25,26 +25,29 @@ struct Text {
   drawing::Pen pen;
 };
 
-/// One screen of a sample theme, drawn on a surface without a window.
+/// One screen of a theme, the sample's or another, drawn on a surface without a window.
 class SampleScreen {
  public:
-  SampleScreen(const QString& theme, const QString& screen);
+  SampleScreen(const QString& gameFolder, const QString& theme, const QString& screen);
 
   const QString& theme() const { return theme_; }
   const QString& name() const { return host_.screen; }
 
+  /// Lists the screen's objects, and reads the first one.
+  void choose();
   /// Draws with every picture made anew.
   void draw();
   /// Draws with the pictures kept from the times before.
   void redraw();
   /// Draws a frame in which a picture of the middle is moved to another place than in the frame before.
   void drawFrame();
-  /// Draws once more, with an eye on the time between two yields.
-  void drawForGap();
+  /// Chooses and draws once more, with an eye on the time between two yields.
+  void runForGap();
   /// The longest of these times so far, in milliseconds.
   double longestGap() const { return longestGap_; }
 
   std::size_t objects() const { return account_.objects.size(); }
+  const QString& themeFile() const { return state_.paths.ThemeFile; }
 
   /// The pictures that the last render drew.
   std::vector<Picture> pictures() const;
@@ -56,6 +59,10 @@ class SampleScreen {
   QString fileOf(const QString& section) const;
   QString valueOf(const QString& section, const char* key) const;
   void add(std::vector<Picture>& drawn, const QString& section, const QRect& place) const;
+
+  void yield() {
+    if (host_.yielded) host_.yielded();
+  }
 
   QString theme_;
   themefiles::ModuleState state_;

@@ -35,7 +35,7 @@ void registerScreen(const std::shared_ptr<SampleScreen>& screen) {
       {"DrawScreen", 1.25, Held::AtMost},
       [screen](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) screen->draw();
-        screen->drawForGap();
+        screen->runForGap();
       },
       [pictures = screen->pictures()](benchmark::State& state) {
         drawing::Surface surface;

@@ -1,5 +1,7 @@
 #include "controls/list_box.h"
 
+
+#include "controls/shown_text.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
 
@@ -8,6 +10,7 @@ namespace controls {
 ListBox::ListBox(Order order, QWidget* parent) : RowPicking(parent), order_(order) {
   setSelectionMode(QAbstractItemView::SingleSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setItemDelegate(new ShownTexts(this));
   setUniformItemSizes(true);
 }
 
@@ -28,6 +31,9 @@ void ListBox::AddItem(const QString& text) {
     }
   }
   insertItem(from, text);
+  // The view lays out and paints all rows anew for each new one, in a list that grows one by one for each of them.
+  setUpdatesEnabled(false);
+  frame_.request();
 }
 
 QString ListBox::List(int index) const {
@@ -66,6 +72,11 @@ void ListBox::setGrey(int index, bool grey) {
   if (row == nullptr || row->data(Qt::ForegroundRole).isValid() == grey) return;
   const QBrush brush = palette().brush(QPalette::Disabled, QPalette::Text);
   row->setData(Qt::ForegroundRole, grey ? QVariant(brush) : QVariant());
+}
+
+void ListBox::timerEvent(QTimerEvent* event) {
+  // Until the frame: a view's timers come again until they are served.
+  if (updatesEnabled()) RowPicking::timerEvent(event);
 }
 
 void ListBox::picked(int) {

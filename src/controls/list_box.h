@@ -3,6 +3,7 @@
 #include <QListWidget>
 
 #include "controls/cause.h"
+#include "controls/frame_pacer.h"
 #include "controls/row_picking.h"
 
 namespace controls {
@@ -39,9 +40,11 @@ class ListBox : public RowPicking<QListWidget> {
 
  protected:
   void picked(int row) override;
+  void timerEvent(QTimerEvent* event) override;
 
  private:
   Order order_;
+  FramePacer frame_{[this] { setUpdatesEnabled(true); }};  ///< shows the rows that have come
 };
 
 }  // namespace controls

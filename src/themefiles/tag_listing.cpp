@@ -28,8 +28,10 @@ bool occursIn(const QString& item, const QString& tag) {
 
 /// Whether the line is the bare section of another screen than `stem`'s: the end of the run.
 bool endsRun(const ModuleState& state, const QString& stem, const QString& line) {
+  if (!line.endsWith(u']')) return false;
+  const QStringView name = QStringView(line).sliced(1).chopped(1);
   return std::any_of(state.ScreenTable.begin(), state.ScreenTable.end(),
-                     [&](const ScreenRow& row) { return row.Stem != stem && line == u'[' + row.Stem + u']'; });
+                     [&](const ScreenRow& row) { return row.Stem != stem && row.Stem == name; });
 }
 
 void listTags(const ModuleState& state, const QString& screenName, TagList& tags,
@@ -41,9 +43,11 @@ void listTags(const ModuleState& state, const QString& screenName, TagList& tags
   bool found = false;
   while (const auto bytes = lines.next()) {
     if (!bytes->startsWith('[')) continue;
+    if (found && endsRun(state, stem, platform::fromAnsi(*bytes))) break;
+    // A letter is a byte, in upper case too: most lines of a large theme go by their first ones.
+    const QByteArrayView first = bytes->first(std::min(bytes->size(), head.size()));
+    if (platform::upperCase(platform::fromAnsi(first)) != head) continue;
     const QString line = platform::fromAnsi(*bytes);
-    if (found && endsRun(state, stem, line)) break;
-    if (!platform::upperCase(line).startsWith(head)) continue;
     const QString tag = line.mid(1, line.size() - 2);
     if (SplitTags(state.Filter, tag)) continue;
     tags.AddItem(tag);

@@ -56,8 +56,11 @@ std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platfo
     const QByteArray file = platform::readFile(state.paths.ThemeFile);
     platform::TextLines lines(file);
     const QString header = u'[' + platform::upperCase(Section) + u']';
+    const auto isHeader = [&header](QByteArrayView text) {
+      return text.size() == header.size() && platform::upperCase(platform::fromAnsi(text)) == header;
+    };
     auto line = lines.next();
-    while (line && platform::upperCase(platform::fromAnsi(*line)) != header) line = lines.next();
+    while (line && !isHeader(*line)) line = lines.next();
     if (!line) return;
     for (line = lines.next(); line && !line->startsWith('['); line = lines.next()) {
       if (!isKeyLine(*line)) continue;

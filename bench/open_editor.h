@@ -1,0 +1,50 @@
+#pragma once
+
+#include <functional>
+
+#include <QApplication>
+#include <QTimer>
+
+#include "mainwindows/main_events.h"
+#include "mainwindows/main_window.h"
+#include "mainwindows/open_theme_dialog.h"
+#include "platform/paths.h"
+#include "sample_screens.h"
+
+namespace bench {
+
+/// The program's main window on a copy of the sample game, with a theme open in it and a screen chosen. `addFiles` may
+/// put a theme into the copy before.
+struct OpenEditor {
+  OpenEditor(
+      const QString& theme, const QString& screen,
+      const std::function<void(const QString& folder)>& addFiles = [](const QString&) {})
+      : form({state, boxes, graphics, {platform::programPath(settings.path())}}) {
+    addFiles(game.path());
+    form.Config.setGameFolder(platform::programPath(game.path()) + u'\\');
+    mainwindows::connectEvents(form);
+    form.show();
+    QTimer::singleShot(0, &form, [&theme] {
+      auto& dialog = dynamic_cast<mainwindows::Form3&>(*QApplication::activeModalWidget());
+      dialog.List1->SetListIndex(dialog.List1->row(dialog.List1->findItems(theme, Qt::MatchExactly).first()));
+      dialog.Command1->click();
+    });
+    Q_EMIT form.ToolBar->Click(1);
+    choose(screen);
+  }
+
+  /// Lists and draws the screen.
+  void choose(const QString& screen) const {
+    form.toolWindow->Combo1->SetText(screen);
+    QApplication::processEvents();
+  }
+
+  CopiedSample game;
+  QTemporaryDir settings;
+  themefiles::ModuleState state;
+  support::ScriptedDialogs boxes;
+  drawing::Graphics graphics;
+  mainwindows::Form1 form;
+};
+
+}  // namespace bench
