@@ -21,7 +21,7 @@ struct OpenEditor {
       const std::function<void(const QString& folder)>& addFiles = [](const QString&) {})
       : form({state, boxes, graphics, {platform::programPath(settings.path())}}) {
     addFiles(game.path());
-    form.Config.setGameFolder(platform::programPath(game.path()) + u'\\');
+    form.config.setGameFolder(platform::programPath(game.path()) + u'\\');
     mainwindows::connectEvents(form);
     form.show();
     QTimer::singleShot(0, &form, [&theme] {
