@@ -32,6 +32,7 @@ void registerScreen(const std::shared_ptr<SampleScreen>& screen);
 /// A drag on a screen of many large pictures. Prints the share of its frames that a display of 60 a second would miss;
 /// whether that is little enough.
 bool drawHeavyDrag();
+void registerThemeCheck();
 void registerShownScreen(const std::shared_ptr<SampleScreen>& screen);
 void registerListing();
 /// The screen in a large theme; gives it for its gap.

@@ -106,6 +106,7 @@ int main(int argc, char** argv) {
   bench::registerShownScreen(screen);
   bench::registerListing();
   const std::shared_ptr<bench::SampleScreen> large = bench::registerLargeTheme(*screen);
+  bench::registerThemeCheck();
   bench::Medians medians;
   benchmark::RunSpecifiedBenchmarks(&medians);
   bool reached = bench::printTable(medians, {screen, large});

@@ -1,5 +1,7 @@
 #include <optional>
 
+#include <QSet>
+
 #include "input.h"
 #include "platform/code_page.h"
 #include "platform/profile_strings.h"
@@ -51,6 +53,21 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   const QByteArrayView key = input.line();
   const QByteArrayView file = input.rest();
   fuzz::require(findProfileValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
+
+  QSet<QString> counted;
+  for (const ProfileSection& found : profileOutline(file)) {
+    const QString name = upperCase(fromAnsi(found.name));
+    const bool isFirst = !counted.contains(name);
+    counted += name;
+    QSet<QString> keys;
+    for (const ProfileKey& line : found.keys) {
+      const QString keyName = upperCase(fromAnsi(line.name));
+      if (isFirst && !keys.contains(keyName)) {
+        fuzz::require(findProfileValue(file, found.name, line.name) == line.value, "the outline has what is found");
+      }
+      keys += keyName;
+    }
+  }
 
   const QByteArray keys = listProfileKeys(file, section);
   fuzz::require(keys.isEmpty() || keys.endsWith('\0'), "every key is ended");

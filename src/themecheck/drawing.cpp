@@ -148,7 +148,9 @@ bool ScreenCheck::isUnseen(const renderer::Drawn& object, bool isText) const {
   if (!isText) return true;
   const IniSection* section = theme_.theme.find(object.section);
   const QString key = section ? wordsKeyOf(*section) : object.section;
-  return !themefiles::GetINI(QStringLiteral("Text"), key, key, chosen_.state.paths.LanguageFile).isEmpty();
+  // Without a key the object's name is drawn.
+  return key.isEmpty() ||
+         !themefiles::GetINI(QStringLiteral("Text"), key, key, chosen_.state.paths.LanguageFile).isEmpty();
 }
 
 }  // namespace

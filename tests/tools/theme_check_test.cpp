@@ -139,6 +139,10 @@ class ThemeCheckTest : public QObject {
         {button + "[MainTextA]|X=-90|Size=9|Text=A|",
          "Languages/Deutsch.ini: [Text]|A=more than fits into ninety pixels|", "Languages/English.ini: [Text]|A=A|"},
         {"Themes/T.ini:10: warning: MainTextA: -: lies wholly outside the 800 x 600 (English)"});
+    row("a text without words shows nothing, one without a key its name",
+        {button + "[MainTextA]|X=900|Size=9|Text=A|[MainTextB]|X=900|Size=9|Text=|",
+         "Languages/English.ini: [Text]|A=|", "Languages/Deutsch.ini: [Text]|A=|"},
+        {"Themes/T.ini:14: warning: MainTextB: -: lies wholly outside the 800 x 600"});
     row("the growth of a button moves the text of the next one out",
         {button + "[MainButtonB]|Tex=A|X=1|Y=1|W=9|H=9|SelectH=900|Color=P1Dark|DColor=P1Dark|"
                   "[MainButtonC]|Tex=A|X=1|Y=1|W=9|H=9|Texts=1|Color=P1Dark|DColor=P1Dark|[MainButtonCText1]|X=1|Size="
