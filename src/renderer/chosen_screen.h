@@ -11,7 +11,7 @@ namespace renderer {
 /// listed, the first one selected, and that tag's font on the surface.
 class ChosenScreen {
  public:
-  ChosenScreen(themefiles::ModuleState state, const QString& screen, const QString& scheme,
+  ChosenScreen(themefiles::ModuleState opened, const QString& screen, const QString& scheme,
                platform::StatusLine& status);
   Q_DISABLE_COPY_MOVE(ChosenScreen)
 

@@ -41,7 +41,7 @@ class GameCheck {
 
  private:
   std::optional<IniFile> read(const QString& name, const QString& path, bool tells);
-  void checkTheme(const IniFile& theme);
+  void checkTheme(const IniFile& file);
   void checkLanguages();
   void take(const Findings& findings, const QStringList& skins, const QStringList& languages);
 
