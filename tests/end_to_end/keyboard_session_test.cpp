@@ -173,9 +173,14 @@ class KeyboardSessionTest : public QObject {
     tools.activateWindow();
     activeWindow(&tools);
     QVERIFY(tools.Text1->hasFocus());
-    pickNamed(*tools.List1, "LoadingTextFree");
-    QTest::qWait(200);
-    QCOMPARE(tools.List1->height(), height);
+    // However often an editor opens and closes, the lists keep their height.
+    for (const char* row : {"Color", "Tex", "Tex", "X"}) {
+      pickNamed(*tools.ListView1, row);
+      QTest::qWait(100);
+      pickNamed(*tools.List1, "LoadingStaticA");
+      QTest::qWait(100);
+      QCOMPARE(tools.List1->height(), height);
+    }
   }
 };
 
