@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStandardItemModel>
 
 #include "platform/code_page.h"
 #include "platform/failure.h"
@@ -19,25 +18,17 @@ namespace {
 constexpr int ShownRows = 20;
 constexpr int SquareSide = 11;
 
-/// Entries with a square of a colour beside each.
-class SwatchModel : public QStandardItemModel {
- public:
-  SwatchModel(const std::function<QColor(const QString& entry)>& colorOf, QObject* parent)
-      : QStandardItemModel(0, 1, parent), colorOf_(colorOf) {}
-
-  QVariant data(const QModelIndex& index, int role) const override {
-    if (role != Qt::DecorationRole) return QStandardItemModel::data(index, role);
-    QPixmap square(SquareSide, SquareSide);
-    square.fill(colorOf_(index.data().toString()));
-    QPainter painter(&square);
-    painter.setPen(Qt::gray);
-    painter.drawRect(square.rect().adjusted(0, 0, -1, -1));
-    return QIcon(square);
-  }
-
- private:
-  std::function<QColor(const QString& entry)> colorOf_;
-};
+/// A square of the colour in a thin frame.
+QIcon square(const QColor& color) {
+  QPixmap picture(SquareSide, SquareSide);
+  picture.fill(color);
+  QPainter painter(&picture);
+  painter.setPen(Qt::gray);
+  painter.drawRect(picture.rect().adjusted(0, 0, -1, -1));
+  QIcon icon(picture);
+  icon.addPixmap(picture, QIcon::Selected);  // not tinted
+  return icon;
+}
 
 }  // namespace
 
@@ -54,6 +45,7 @@ void ComboBox::Clear() {
 void ComboBox::AddItem(const QString& text) {
   const int selected = currentIndex();
   addItem(text);
+  if (colorOf_) setItemIcon(count() - 1, square(colorOf_(text)));
   setCurrentIndex(selected);
 }
 
@@ -86,11 +78,15 @@ void ComboBox::SetText(const QString& text) {
 }
 
 void ComboBox::setSwatches(const std::function<QColor(const QString& entry)>& colorOf) {
-  setModel(new SwatchModel(colorOf, this));
-  setIconSize({SquareSide, SquareSide});
+  colorOf_ = colorOf;
+}
+
+void ComboBox::updateSwatches() {
+  for (int entry = 0; colorOf_ && entry < count(); ++entry) setItemIcon(entry, square(colorOf_(List(entry))));
 }
 
 void ComboBox::showPopup() {
+  updateSwatches();
   const QRect desktop = screen()->availableGeometry();
   const int frame = 2 * view()->frameWidth() + 2;
   const int bar = count() > ShownRows ? view()->verticalScrollBar()->sizeHint().width() : 0;

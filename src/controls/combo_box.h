@@ -37,14 +37,19 @@ class ComboBox : public WheelWithFocus<QComboBox> {
   /// The same, throwing platform::Failure without one.
   void SetText(const QString& text);
 
-  /// Shows a square of its colour beside each entry; `colorOf` tells it whenever the entry is painted.
+  /// Shows a square of its colour beside each entry. The colours are asked for anew when the list drops down, and by
+  /// updateSwatches.
   void setSwatches(const std::function<QColor(const QString& entry)>& colorOf);
+  void updateSwatches();
 
   /// Twenty rows, as wide as the longest entry.
   void showPopup() override;
 
  Q_SIGNALS:
   void Click(controls::Cause cause);
+
+ private:
+  std::function<QColor(const QString& entry)> colorOf_;
 };
 
 }  // namespace controls

@@ -18,7 +18,7 @@ FramePacer::FramePacer(std::function<void()> present) {
   next_.callOnTimeout(std::move(present));
 }
 
-void FramePacer::Request() {
+void FramePacer::request() {
   if (next_.isActive()) return;
   const auto now = std::chrono::steady_clock::now().time_since_epoch();
   next_.start(FrameTime - std::chrono::duration_cast<std::chrono::milliseconds>(now) % FrameTime);

@@ -15,7 +15,7 @@ class FramePacer {
   explicit FramePacer(std::function<void()> present);
 
   /// Presents in the next frame.
-  void Request();
+  void request();
 
  private:
   QTimer next_;

@@ -1,6 +1,5 @@
 #include "controls/list_box.h"
 
-
 #include "controls/shown_text.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"

@@ -21,7 +21,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
   /// Shows what has been drawn on the surface since the last call, with the next paint event.
   void Refresh();
   /// The same in the next frame of the screen; for long work that draws on the surface bit by bit.
-  void refreshPaced() { pacer_.Request(); }
+  void refreshPaced() { pacer_.request(); }
 
   void SetLeft(double left) override;
   void SetTop(double top) override;

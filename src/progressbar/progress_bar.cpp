@@ -25,7 +25,7 @@ void ProgressBar::write(T& member, const T& value, QStringView key) {
   member = value;
   Q_EMIT PropertyChanged(key.toString());
   loadPalette(palette_, state_);
-  pacer_.Request();
+  pacer_.request();
 }
 
 void ProgressBar::SetValue(int value) {
@@ -113,7 +113,7 @@ void ProgressBar::InitProperties() {
 void ProgressBar::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   setUpdatesEnabled(false);
-  pacer_.Request();
+  pacer_.request();
 }
 
 void ProgressBar::paintEvent(QPaintEvent* /*event*/) {

@@ -70,10 +70,11 @@ auto rowLike(themefiles::ModuleState& state, const QString& name) {
 }
 
 /// Gives all rows of the name a value: of equal keys an ini file shows the first.
-void setRowsLike(themefiles::ModuleState& state, const QString& name, const QString& value) {
-  for (NamedColor& row : state.ThemeColors) {
+void setRowsLike(Form2& form, const QString& name, const QString& value) {
+  for (NamedColor& row : form.services.state.ThemeColors) {
     if (platform::sameName(row.Name, name)) row.Value = value;
   }
+  form.Combo3->updateSwatches();
 }
 
 bool writeColor(Form2& form, QStringView step, const QString& name, const std::optional<QString>& value) {
@@ -130,7 +131,7 @@ void Command2_Click(Form2& form) {
   }
   if (!writeColor(form, WriteStep, name, text)) return;
   form.Command2->SetBackColor(*color);
-  setRowsLike(state, name, text);
+  setRowsLike(form, name, text);
 }
 
 void putSavedColorBack(Form2& form, const QString& name, const SavedValue& saved) {
@@ -142,7 +143,7 @@ void putSavedColorBack(Form2& form, const QString& name, const SavedValue& saved
   });
   if (!written) return;
   const QString value = themefiles::GetINI(section(), name, newColor(), services.state.paths.ThemeFile);
-  setRowsLike(services.state, name, value);
+  setRowsLike(form, name, value);
   form.Command2->SetBackColor(shownColor(value));
 }
 
@@ -168,7 +169,7 @@ void Command3_Click(Form2& form) {
   const platform::Telling telling(form.services.status);
   if (!writeColor(form, step, name, newColor())) return;
   if (row->Name.isEmpty()) row->Name = name;
-  setRowsLike(state, name, newColor());
+  setRowsLike(form, name, newColor());
   form.Combo3->AddItem(row->Name);
   form.Combo3->SetListIndex(form.Combo3->entryLike(name));
   if (replaced.isEmpty()) return;
@@ -189,7 +190,7 @@ void Command5_Click(Form2& form) {
   const auto row = rowLike(state, name);
   const int entry = form.Combo3->findText(row->Name);
   *row = {};
-  setRowsLike(state, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.paths.ThemeFile));
+  setRowsLike(form, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.paths.ThemeFile));
   form.Combo3->RemoveItem(entry >= 0 ? entry : form.Combo3->ListIndex());
   form.Combo3->SetListIndex(-1);
   form.Command2->SetBackColor(drawing::colorOf(drawing::ButtonFaceColor));

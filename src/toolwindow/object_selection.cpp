@@ -64,7 +64,7 @@ void showReasons(Form2& form, const renderer::RenderAccount& account) {
   }
   std::set<QString> drawn;
   for (const renderer::Drawn& object : account.objects) drawn.insert(platform::upperCase(object.section));
-  form.Combo3->update();  // the squares may be those of another scheme
+  form.Combo3->updateSwatches();  // the squares may be those of another scheme
   for (int row = 0; row < form.List1->ListCount(); ++row) {
     const QString name = platform::upperCase(form.List1->List(row));
     const auto found = reasons.find(name);

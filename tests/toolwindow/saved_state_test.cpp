@@ -109,6 +109,7 @@ class SavedStateTest : public ProgramTest {
     QVERIFY(putBackBy(*tools.Command2, true));
     QCOMPARE(game->files(), before);
     QCOMPARE(tools.Command2->BackColor(), QColor(200, 40, 40));
+    QCOMPARE(tools.Combo3->itemIcon(0).pixmap(11, 11).toImage().pixelColor(5, 5), QColor(200, 40, 40));
     QVERIFY(program->colors().contains(u"Red=200 40 40"_s) && !program->state.Changed);
     QVERIFY(program->status().startsWith(u"Kept in the working copy"));
   }
