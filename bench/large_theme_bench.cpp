@@ -69,10 +69,10 @@ void registerListing() {
   const auto many = editorOfCrowd(Many);
   registerBenchmark(
       {"Listing", 1.5, Held::AtMost},
-      [many](benchmark::state& state) {
+      [many](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) chooseOften(*many, Many, 1);
       },
-      [few](benchmark::state& state) {
+      [few](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) chooseOften(*few, Tenth, Many / Tenth);
       });
 }
@@ -82,14 +82,14 @@ std::shared_ptr<SampleScreen> registerLargeTheme(const SampleScreen& screen) {
   const auto small = std::make_shared<PaddedScreen>(screen, Few);
   registerBenchmark(
       {"LargeTheme", 1.5, Held::AtMost},
-      [large](benchmark::state& state) {
+      [large](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) {
           large->screen.choose();
           large->screen.draw();
         }
         large->screen.runForGap();
       },
-      [small, large](benchmark::state& state) {
+      [small, large](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) {
           small->screen.choose();
           small->screen.draw();

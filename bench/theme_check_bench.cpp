@@ -15,8 +15,8 @@ namespace {
 
 /// Reports that nobody reads.
 class Unread : public platform::StatusLine {
- public:
-  void ShowStatus(const QString& /*text*/) override {}
+ protected:
+  void showReport(const QString& /*text*/) override {}
 };
 
 /// A screen that keeps its pictures as they are drawn.
@@ -28,7 +28,7 @@ class KeptScreen {
     renderer::DrawScreen(context);
     kept_.push_back({QPoint(), chosen_.workspace.image().convertToFormat(QImage::Format_ARGB32)});
     for (const renderer::Drawn& object : chosen_.account.objects) {
-      const QRect shown = object.Place & chosen_.workspace.image().rect();
+      const QRect shown = object.place & chosen_.workspace.image().rect();
       const QString tex = themefiles::GetINI(object.section, QStringLiteral("Tex"), {}, state.paths.ThemeFile);
       if (!tex.isEmpty()) kept_.push_back({shown.topLeft(), kept_.front().picture.copy(shown)});
     }
@@ -81,13 +81,13 @@ std::vector<std::unique_ptr<KeptScreen>> allScreens() {
 void registerThemeCheck() {
   registerBenchmark(
       {"theme check", 1.5, Held::AtMost},
-      [](benchmark::state& state) {
+      [](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) {
           const auto findings = themecheck::checkGame({QStringLiteral(SAMPLE_FOLDER), {}, {}, {}}, [](auto&&...) {});
           benchmark::DoNotOptimize(findings.data());
         }
       },
-      [](benchmark::state& state) {
+      [](benchmark::State& state) {
         const auto screens = allScreens();
         for ([[maybe_unused]] auto turn : state) {
           for (const auto& screen : screens) screen->draw();

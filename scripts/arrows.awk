@@ -1,20 +1,55 @@
 # Reads all sources; see check_arrows.
 
 BEGIN {
-  # Each room and the rooms that it may include directly; what those may include it may include too.
-  arrows["app"] = "mainwindows"
-  arrows["mainwindows"] = "toolwindow controls toolbar progressbar"
-  arrows["toolwindow"] = "renderer controls"
-  arrows["toolbar"] = "controls platform"
-  arrows["progressbar"] = "controls platform"
-  arrows["controls"] = "platform"
-  arrows["renderer"] = "themefiles"
-  arrows["themecheck"] = "renderer"
-  arrows["themefiles"] = "platform"
-  arrows["platform"] = ""
-  for (room in arrows) reach(room, room)
-  windowless["platform"] = windowless["themefiles"] = windowless["renderer"] = windowless["themecheck"] = 1
+  for (file = 1; file < ARGC; ++file) {
+    if (ARGV[file] ~ /CMakeLists\.txt$/) readBuild(ARGV[file])
+  }
+  for (room in isRoom) reach(room, room)
   listWidgetHeaders()
+}
+
+# The build tells each room, the rooms that it uses (what those use it may use too), and whether it has windows.
+function readBuild(file,    line, name) {
+  name = file
+  gsub(/^src\/|\/CMakeLists\.txt$/, "", name)
+  isRoom[name] = 1
+  windowless[name] = 1
+  while ((getline line < file) > 0) {
+    if (line ~ /^ *QT .*Widgets/) delete windowless[name]
+    if (line ~ /^ *USES / || line ~ /^target_link_libraries\(cantorama-theme-edit /) {
+      gsub(/^ *USES |^.* assets |\)/, "", line)
+      arrows[name] = line
+      if (line ~ /mainwindows/) delete windowless[name]
+    }
+  }
+  close(file)
+}
+
+# The picture of the rooms in the documents has the arrows of the build, and no other.
+FILENAME ~ /\.md$/ {
+  if ($2 == "-->" && NF == 3) drawn[$1, $3] = FILENAME ":" FNR
+  next
+}
+
+FILENAME ~ /CMakeLists\.txt$/ { next }
+
+function comparePicture(    room, count, targets, i, pair, ends) {
+  for (room in isRoom) {
+    count = split(arrows[room], targets, " ")
+    for (i = 1; i <= count; ++i) {
+      if (!((room, targets[i]) in drawn)) say("the picture of the rooms lacks " room " --> " targets[i])
+      delete drawn[room, targets[i]]
+    }
+  }
+  for (pair in drawn) {
+    split(pair, ends, SUBSEP)
+    say(drawn[pair] ": the build has no arrow " ends[1] " --> " ends[2])
+  }
+}
+
+function say(text) {
+  print text
+  failed = 1
 }
 
 function reach(from, room,    count, next_rooms, i) {
@@ -34,8 +69,7 @@ function listWidgetHeaders(    command, name) {
 }
 
 function complain(text) {
-  printf "%s:%d: %s\n", FILENAME, FNR, text
-  failed = 1
+  say(FILENAME ":" FNR ": " text)
 }
 
 FNR == 1 {
@@ -44,7 +78,7 @@ FNR == 1 {
   room = FILENAME
   sub(/^src\//, "", room)
   room = part == "src" ? substr(room, 1, index(room, "/") - 1) : ""
-  if (part == "src" && !(room in arrows)) complain("'" room "' is no room")
+  if (part == "src" && !(room in isRoom)) complain("'" room "' is no room")
 }
 
 /^[ \t]*#[ \t]*include[ \t]*"[a-z_]+\// {
@@ -52,7 +86,7 @@ FNR == 1 {
   gsub(/^[^"]*"|".*$/, "", header)
   target = header
   sub(/\/.*/, "", target)
-  if (!(target in arrows)) next  # a tool's own folder
+  if (!(target in isRoom)) next  # a tool's own folder
   if (room != "" && !((room, target) in allowed)) complain("no arrow leads from " room " to " target ": " header)
   if (target == "app") complain("nothing includes app: " header)
   if (part == "src") addEdge(unit(FILENAME), unit("src/" header), FILENAME ":" FNR)
@@ -95,6 +129,7 @@ function walk(file, path,    count, targets, i) {
 }
 
 END {
+  comparePicture()
   for (file in edges) if (state[file] == "") walk(file, "")
   exit failed
 }

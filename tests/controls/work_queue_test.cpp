@@ -77,11 +77,11 @@ class WorkQueueTest : public QObject {
     int step = 0;
     QList<int> shown;
     controls::FramePacer pacer([&] { shown << step; });
-    while (++step < 100) pacer.Request();
+    while (++step < 100) pacer.request();
     QTRY_COMPARE(shown, QList<int>{100});
     // Work that never rests is shown all the same.
     for (const QDeadlineTimer end(5000); shown.size() < 4 && !end.hasExpired(); ++step) {
-      pacer.Request();
+      pacer.request();
       QCoreApplication::processEvents();
     }
     QCOMPARE(shown.size(), 4);
