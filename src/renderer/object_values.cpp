@@ -9,7 +9,7 @@
 namespace renderer {
 
 themefiles::SectionReader readSection(const RenderContext& context, const QString& section, const QString& file) {
-  if (context.trial) return {section, context.trial->bytesOf(file)};
+  if (context.trial) return context.trial->section(section, file);
   return {section, file};
 }
 

@@ -3,8 +3,6 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
-#include "platform/failure.h"
-#include "platform/files.h"
 
 namespace renderer {
 
@@ -18,17 +16,15 @@ const QString* TrialValues::find(const QString& key) const {
   return found == values.end() ? nullptr : &found->second;
 }
 
-QByteArray TrialFrame::bytesOf(const QString& file) {
-  const auto known = files_.constFind(file);
-  if (known != files_.constEnd()) return *known;
-  QByteArray bytes;
-  try {
-    bytes = platform::readFile(file);
-  } catch (const platform::Failure&) {
-    // A file that can't be read holds no key.
-  }
-  files_.insert(file, bytes);
-  return bytes;
+themefiles::SectionReader TrialFrame::section(const QString& name, const QString& file) {
+  auto seen = files_.find(file);
+  if (seen == files_.end()) seen = files_.try_emplace(file, themefiles::bytesOrNone(file)).first;
+  SeenFile& all = seen->second;
+  const auto known = all.readers.find(name);
+  if (known != all.readers.end()) return known->second;
+  const auto bytes = platform::toAnsi(name);
+  const QByteArrayView lines = bytes ? all.sections.lines(*bytes) : QByteArrayView();
+  return all.readers.try_emplace(name, all.bytes, platform::profileKeys(lines)).first->second;
 }
 
 }  // namespace renderer

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <map>
 #include <utility>
 #include <vector>
 
 #include <QByteArray>
-#include <QHash>
 #include <QString>
+
+#include "platform/profile_strings.h"
+#include "themefiles/ini_access.h"
 
 namespace renderer {
 
@@ -27,12 +30,22 @@ class TrialFrame {
 
   /// The values on trial in a section; null without any.
   const TrialValues* valuesOf(const QString& section) const { return values_.areOf(section) ? &values_ : nullptr; }
-  /// The bytes of a file; none of one that can't be read.
-  QByteArray bytesOf(const QString& file);
+  /// A section of a file; without keys for one that isn't there or can't be read.
+  themefiles::SectionReader section(const QString& name, const QString& file);
 
  private:
+  /// A file with its sections found once: a frame asks for many values.
+  struct SeenFile {
+    explicit SeenFile(const QByteArray& bytes) : bytes(bytes), sections(this->bytes) {}
+    Q_DISABLE_COPY_MOVE(SeenFile)
+
+    QByteArray bytes;
+    platform::ProfileSections sections;
+    std::map<QString, themefiles::SectionReader> readers;
+  };
+
   const TrialValues& values_;
-  QHash<QString, QByteArray> files_;
+  std::map<QString, SeenFile> files_;
 };
 
 }  // namespace renderer

@@ -34,15 +34,6 @@ QByteArray lineBytes(const QString& text) {
   return *bytes;
 }
 
-/// The bytes of a file; one that can't be read holds nothing.
-QByteArray bytesOrNone(const QString& fileName) {
-  try {
-    return platform::readFile(fileName);
-  } catch (const platform::Failure&) {
-    return {};
-  }
-}
-
 /// The key list of a section as a buffer of that size takes it: a longer one loses what the two NULs at its end need.
 QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 bufferSize) {
   const QByteArray keys = platform::listProfileKeys(file, section);
@@ -56,6 +47,14 @@ std::optional<QByteArray> givenBack(const QByteArray& value) {
 
 }  // namespace
 
+QByteArray bytesOrNone(const QString& fileName) {
+  try {
+    return platform::readFile(fileName);
+  } catch (const platform::Failure&) {
+    return {};
+  }
+}
+
 QString GetINI(const QString& Section, const std::optional<QString>& Key, const QString& Default,
                const QString& FileName, qint16 BufferSize) {
   if (BufferSize < 1) return {};
@@ -68,17 +67,18 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
   return shown(found, Default, BufferSize);
 }
 
-SectionReader::SectionReader(const QString& Section, const QString& FileName)
-    : SectionReader(Section, bytesOrNone(FileName)) {}
-
-SectionReader::SectionReader(const QString& Section, QByteArray file) : file_(std::move(file)) {
+SectionReader::SectionReader(const QString& Section, const QString& FileName) : file_(bytesOrNone(FileName)) {
   if (const auto section = platform::toAnsi(Section)) lines_ = platform::findProfileSection(file_, *section);
 }
 
 QString SectionReader::Value(const QString& Key, const QString& Default) const {
   const auto key = platform::toAnsi(Key);
-  const bool asked = lines_ && key && !key->isEmpty();
-  return shown(asked ? platform::findProfileValue(*lines_, *key) : std::nullopt, Default, ValueBufferSize);
+  std::optional<QByteArray> found;
+  if (key && !key->isEmpty() && lines_) found = platform::findProfileValue(*lines_, *key);
+  if (const auto* const line = key && keys_ ? platform::lineOf(*keys_, *key) : nullptr) {
+    found = platform::unquoted(line->value).toByteArray();
+  }
+  return shown(found, Default, ValueBufferSize);
 }
 
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName) {
@@ -137,6 +137,12 @@ QByteArray changedLine(const QByteArray& text, const QString& section, const QSt
     throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(key, section));
   }
   return changed;
+}
+
+QString wholeValue(const QString& section, const QString& key, const QString& fileName) {
+  const auto file = platform::readIfThere(fileName);
+  const auto value = file ? platform::findProfileValue(*file, lineBytes(section), lineBytes(key)) : std::nullopt;
+  return platform::fromAnsi(value.value_or(QByteArray()));
 }
 
 bool holdsKey(const QString& Section, const QString& Key, const QString& FileName) {

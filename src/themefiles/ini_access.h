@@ -1,11 +1,14 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include <QByteArray>
 #include <QByteArrayView>
 #include <QString>
 #include <QStringList>
+
+#include "platform/profile_strings.h"
 
 /// All keyed access to the ini files: the file on disk is read or changed anew by each call.
 namespace themefiles {
@@ -13,6 +16,9 @@ namespace themefiles {
 /// Buffer sizes in use: for key lists and long texts, and for every other read.
 inline constexpr qint16 ListBufferSize = 32000;
 inline constexpr qint16 ValueBufferSize = 256;
+
+/// The bytes of a file; one that can't be read holds nothing.
+QByteArray bytesOrNone(const QString& fileName);
 
 /// The value of a key, at most BufferSize - 1 characters of it; Default (less the blanks behind it) when file, section
 /// or key is missing. Without a Key: all keys of the section, each ended by a NUL, a list that is too long cut at
@@ -25,13 +31,14 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
 class SectionReader {
  public:
   SectionReader(const QString& Section, const QString& FileName);
-  /// The same from the file's bytes.
-  SectionReader(const QString& Section, QByteArray file);
+  /// The same from the keys of the section, `file` being the bytes that they lie in.
+  SectionReader(QByteArray file, platform::ProfileKeys keys) : file_(std::move(file)), keys_(std::move(keys)) {}
   QString Value(const QString& Key, const QString& Default = QString()) const;
 
  private:
   QByteArray file_;
-  std::optional<QByteArrayView> lines_;  ///< of file_; none without the section
+  std::optional<QByteArrayView> lines_;        ///< of file_; none without the section
+  std::optional<platform::ProfileKeys> keys_;  ///< instead of the lines
 };
 
 /// Sets the key's value in place, adds the key or the section; without a Value removes the key. All other bytes of the
@@ -50,6 +57,10 @@ QByteArray changedText(const QByteArray& text, const QString& Section, const QSt
                        const std::optional<QString>& Value);
 /// Throws platform::Failure unless the file gives back what was `written` for the key.
 void checkReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName);
+
+/// The value of a key, whole; empty without one. Throws platform::Failure when the file can't be read, for who must not
+/// take that for an empty value.
+QString wholeValue(const QString& section, const QString& key, const QString& fileName);
 
 /// Whether the file has the key, for who must not take one that can't be read for one that lacks it: throws
 /// platform::Failure then.

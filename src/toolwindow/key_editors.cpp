@@ -78,14 +78,14 @@ void FillTextureKeys(Form2& form, const QString& Value) {
 void KeyList_Click(Form2& form, KeyEditor which) {
   const Editor editor = editorOf(form, which);
   const QString key = editor.list.Text();
-  constexpr qint16 LetterMore = controls::LongestText + 2;
-  const QString content = themefiles::GetINI(editor.section, key, QString(), editor.file, LetterMore);
-  const bool fits = content.size() <= controls::LongestText;
-  editor.box.SetText(fits ? content : QString());
-  if (fits) return;
+  QString content;
+  const bool read = platform::guarded(form.services.status, ReadStep.toString(), [&] {
+    content = themefiles::wholeValue(editor.section, key, editor.file);
+    if (content.size() > controls::LongestText) throw platform::Failure(tooLongText(key));
+  });
+  editor.box.SetText(read ? content : QString());
   // Without a selected key nothing can be written over it.
-  editor.list.SetListIndex(-1);
-  form.services.status.ShowStatus(platform::reportText(ReadStep.toString(), tooLongText(key)));
+  if (!read) editor.list.SetListIndex(-1);
 }
 
 void AddKey_Click(Form2& form, KeyEditor which) {

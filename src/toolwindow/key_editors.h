@@ -27,8 +27,8 @@ Reference shownReference(const Form2& form, KeyEditor which);
 void FillTextKeys(Form2& form, const QString& Value);
 void FillTextureKeys(Form2& form, const QString& Value);
 
-/// A key has been selected: shows what it stands for. One that is too long for the box is reported, and no key is
-/// selected then.
+/// A key has been selected: shows what it stands for. One that is too long for the box or can't be read is
+/// reported, and no key is selected then.
 void KeyList_Click(Form2& form, KeyEditor which);
 
 /// Adds a key with an empty value.
