@@ -37,8 +37,7 @@ SampleScreen::SampleScreen(const QString& gameFolder, const QString& theme, cons
 void SampleScreen::choose() {
   tags_.Clear();
   state_.ButtonListFilled = false;
-  state_.Filter = themefiles::filterOf(host_.screen);
-  themefiles::ReadTags(state_, host_.screen, tags_, panel_, [this] { yield(); });
+  themefiles::listScreenTags(state_, host_.screen, tags_, panel_, [this] { yield(); });
   if (tags_.ListIndex() >= 0) themefiles::ReadTag(state_, tags_.List(tags_.ListIndex()), panel_);
 }
 

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "themefiles/screen_table.h"
 #include "themefiles/tag_reader.h"
 
 namespace renderer {
@@ -10,9 +9,7 @@ namespace renderer {
 ChosenScreen::ChosenScreen(themefiles::ModuleState opened, const QString& screen, const QString& scheme,
                            platform::StatusLine& status)
     : state(std::move(opened)), status_(status), host_(screen, scheme), dialogs_(status) {
-  state.Filter = themefiles::filterOf(screen);
-  themefiles::ReadTags(state, screen, tags, status, [] {});
-  state.Filter = {};
+  themefiles::listScreenTags(state, screen, tags, status, [] {});
   if (tags.ListIndex() < 0) return;
   NoMark mark;
   themefiles::ReadTag(state, tags.List(tags.ListIndex()), status);

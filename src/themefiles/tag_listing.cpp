@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QScopeGuard>
+
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "platform/text_lines.h"
@@ -87,6 +89,13 @@ int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags,
   const int picked = tags.ListIndex();
   tags.SetListIndex(0);
   return picked;
+}
+
+int listScreenTags(ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
+                   const std::function<void()>& DoEvents) {
+  state.Filter = filterOf(screenName);
+  const auto clearFilter = qScopeGuard([&] { state.Filter = {}; });
+  return ReadTags(state, screenName, tags, status, DoEvents);
 }
 
 }  // namespace themefiles

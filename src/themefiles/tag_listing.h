@@ -46,6 +46,10 @@ class SortedTags : public TagList {
 int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
              const std::function<void()>& DoEvents);
 
+/// ReadTags with the filter that the screen asks for; the state has none before and after.
+int listScreenTags(ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
+                   const std::function<void()>& DoEvents);
+
 /// Whether the filter leaves the tag out.
 bool SplitTags(const TagFilter& filter, const QString& Tag);
 

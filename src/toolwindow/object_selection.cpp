@@ -3,11 +3,9 @@
 #include <map>
 #include <set>
 
-#include <QScopeGuard>
 #include <QSignalBlocker>
 
 #include "platform/code_page.h"
-#include "themefiles/screen_table.h"
 #include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
 #include "toolwindow/mark_placing.h"
@@ -35,9 +33,8 @@ void listScreen(Form2& form) {
   state.ButtonListFilled = false;
   form.List1->Clear();
   const QString screen = form.Combo1->Text();
-  state.Filter = themefiles::filterOf(screen);
-  const auto clearFilter = qScopeGuard([&] { state.Filter = {}; });
-  const int picked = themefiles::ReadTags(state, screen, form.tags, services.status, [&] { services.queue.yield(); });
+  const int picked =
+      themefiles::listScreenTags(state, screen, form.tags, services.status, [&] { services.queue.yield(); });
   if (picked < 0) return;
   // A tag that the user has picked while the list was filling stays picked.
   pickTag(form, picked);

@@ -155,9 +155,8 @@ class PreparedPicturesTest : public QObject {
         for (const themefiles::ScreenRow& screen : stage.state.ScreenTable) {
           const RowName name((theme + u' ' + skin + u' ' + screen.Name).toLatin1());
           stage.host.screen = screen.Name;
-          stage.state.Filter = themefiles::filterOf(screen.Name);
           stage.tags.Clear();
-          themefiles::ReadTags(stage.state, screen.Name, stage.tags, stage.panel, [] {});
+          themefiles::listScreenTags(stage.state, screen.Name, stage.tags, stage.panel, [] {});
           std::vector<std::pair<QImage, QStringList>> drawings;
           for (renderer::PreparedPictures* pictures :
                std::initializer_list<renderer::PreparedPictures*>{nullptr, &store, &store, &small}) {
