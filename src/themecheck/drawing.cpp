@@ -7,6 +7,7 @@
 #include "platform/code_page.h"
 #include "renderer/chosen_screen.h"
 #include "renderer/object_passes.h"
+#include "renderer/prepared_pictures.h"
 #include "themecheck/checked_theme.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
@@ -22,12 +23,14 @@ constexpr QRect Shown(0, 0, drawing::Surface::Width, drawing::Surface::Height);
 class ScreenCheck {
  public:
   ScreenCheck(const CheckedTheme& theme, const themefiles::ModuleState& state, const themefiles::ScreenRow& screen,
-              QString skin, Findings& findings)
+              QString skin, renderer::PreparedPictures& pictures, Findings& findings)
       : theme_(theme),
         screen_(screen),
         skin_(std::move(skin)),
         findings_(findings),
-        chosen_(state, screen.Name, themefiles::schemeNames(state).value(0), reports_) {}
+        chosen_(state, screen.Name, themefiles::schemeNames(state).value(0), reports_) {
+    chosen_.pictures = &pictures;
+  }
 
   void run();
 
@@ -64,13 +67,11 @@ void drawButtons(renderer::RenderContext& context) {
 
 void ScreenCheck::run() {
   draw(chosen_.context(), drawGround);
-  const QString face = chosen_.workspace.FontName();
-  const float size = chosen_.workspace.FontSize();
+  const drawing::Pen pen = chosen_.workspace.pen();
   // A game without a language shows the keys of its words.
   const QStringList none{QString()};
   for (const QString& language : theme_.languageNames.isEmpty() ? none : theme_.languageNames) {
-    chosen_.workspace.SetFontName(face);
-    chosen_.workspace.SetFontSize(size);
+    chosen_.workspace.setPen(pen);
     drawWords(language);
     picturesDrawn_ = true;
   }
@@ -156,11 +157,12 @@ bool ScreenCheck::isUnseen(const renderer::Drawn& object, bool isText) const {
 }  // namespace
 
 void checkDrawing(const CheckedTheme& theme, Findings& findings, const Progress& progress) {
+  renderer::PreparedPictures pictures;
   for (const QString& skin : theme.skinNames) {
     const themefiles::ModuleState state = openState(theme, skin, theme.languageNames.value(0));
     for (const themefiles::ScreenRow& screen : state.ScreenTable) {
       progress(theme.theme.name(), skin, screen.Name);
-      ScreenCheck(theme, state, screen, skin, findings).run();
+      ScreenCheck(theme, state, screen, skin, pictures, findings).run();
     }
   }
 }
