@@ -81,7 +81,7 @@ std::vector<Picture> SampleScreen::pictures() const {
   std::vector<Picture> drawn;
   const QString stem = themefiles::stemOf(state_, host_.screen);
   add(drawn, stem + QStringLiteral("Background"), QRect(0, 0, drawing::Surface::Width, drawing::Surface::Height));
-  for (const renderer::Drawn& object : account_.objects) add(drawn, object.section, object.place);
+  for (const renderer::DrawnObject& object : account_.objects) add(drawn, object.section, object.place);
   return drawn;
 }
 
@@ -89,7 +89,7 @@ std::vector<Text> SampleScreen::texts() const {
   constexpr std::array<std::pair<const char*, float>, 2> Faces{
       {{"Eurostar Regular Extended", 1.4F}, {"Eurostar Black", 2.0F}}};
   std::vector<Text> printed;
-  for (const renderer::Drawn& object : account_.objects) {
+  for (const renderer::DrawnObject& object : account_.objects) {
     if (!fileOf(object.section).isEmpty()) continue;
     const QString key = valueOf(object.section, "Text").isEmpty() ? object.section : valueOf(object.section, "Text");
     const auto& [face, points] = Faces[valueOf(object.section, "Font") == u"1" ? 1 : 0];

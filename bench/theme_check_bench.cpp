@@ -27,7 +27,7 @@ class KeptScreen {
     renderer::RenderContext context = chosen_.context();
     renderer::DrawScreen(context);
     kept_.push_back({QPoint(), chosen_.workspace.image().convertToFormat(QImage::Format_ARGB32)});
-    for (const renderer::Drawn& object : chosen_.account.objects) {
+    for (const renderer::DrawnObject& object : chosen_.account.objects) {
       const QRect shown = object.place & chosen_.workspace.image().rect();
       const QString tex = themefiles::GetINI(object.section, QStringLiteral("Tex"), {}, state.paths.ThemeFile);
       if (!tex.isEmpty()) kept_.push_back({shown.topLeft(), kept_.front().picture.copy(shown)});
@@ -37,7 +37,7 @@ class KeptScreen {
   /// Draws the screen once for every button number, or once without a button.
   void draw() {
     renderer::RenderContext context = chosen_.context();
-    context.TextsOnly = true;
+    context.textsOnly = true;
     for (int number = 1; number == 1 || number <= chosen_.state.ButtonCount; ++number) {
       for (const Kept& picture : kept_) {
         chosen_.workspace.drawImage(picture.picture, picture.corner.x(), picture.corner.y());

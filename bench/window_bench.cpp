@@ -37,7 +37,7 @@ void registerShownScreen(const std::shared_ptr<SampleScreen>& screen) {
     return [editor, bar](benchmark::State& state) {
       editor->form.ProgressBar1->resize(bar);
       for ([[maybe_unused]] auto turn : state) {
-        editor->form.Pictures.clear();
+        editor->form.pictures.clear();
         editor->form.queue.draw();
         QApplication::processEvents();
       }

@@ -16,7 +16,7 @@ void checkBag(const propertybag::PropertyBag& bag, QByteArrayView bytes) {
   fuzz::require(copy && propertybag::storedBytes(*copy) == again, "what is written reads back the same");
   for (const auto& [key, value] : bag.records()) {
     if (value.typeId() != qMetaTypeId<propertybag::StoredPicture>()) continue;
-    const auto icon = drawing::readIcon(value.value<propertybag::StoredPicture>().File);
+    const auto icon = drawing::readIcon(value.value<propertybag::StoredPicture>().file);
     fuzz::require(!icon || icon->Color.size() == icon->Mask.size(), "an icon's bitmaps are of one size");
   }
 }

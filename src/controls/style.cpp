@@ -14,25 +14,37 @@ namespace {
 constexpr int ArrowWidth = 16;
 constexpr int TitleIndent = 8;
 constexpr int TitleMargin = 2;
-constexpr int InactiveSelection = 15;  // system colours
-constexpr int InactiveSelectionText = 18;
+using drawing::SystemColor;
 
-/// What each part of a control takes of the system colours, by index; disabled controls, too.
+constexpr SystemColor InactiveSelection = SystemColor::ButtonFace;
+constexpr SystemColor InactiveSelectionText = SystemColor::ButtonText;
+
+/// What each part of a control takes of the system colours; disabled controls, too.
 constexpr struct {
   QPalette::ColorRole role;
-  int color;
-  int disabled;
+  SystemColor color;
+  SystemColor disabled;
 } Roles[] = {
-    {QPalette::Window, 15, 15},      {QPalette::WindowText, 18, 17},
-    {QPalette::Base, 5, 15},         {QPalette::AlternateBase, 5, 15},
-    {QPalette::Text, 8, 17},         {QPalette::PlaceholderText, 17, 17},
-    {QPalette::Button, 15, 15},      {QPalette::ButtonText, 18, 17},
-    {QPalette::BrightText, 14, 14},  {QPalette::Light, 20, 20},
-    {QPalette::Midlight, 22, 22},    {QPalette::Mid, 16, 16},
-    {QPalette::Dark, 16, 16},        {QPalette::Shadow, 21, 21},
-    {QPalette::Highlight, 13, 16},   {QPalette::HighlightedText, 14, 14},
-    {QPalette::Link, 13, 17},        {QPalette::LinkVisited, 13, 17},
-    {QPalette::ToolTipBase, 24, 24}, {QPalette::ToolTipText, 23, 23},
+    {QPalette::Window, SystemColor::ButtonFace, SystemColor::ButtonFace},
+    {QPalette::WindowText, SystemColor::ButtonText, SystemColor::GreyText},
+    {QPalette::Base, SystemColor::Window, SystemColor::ButtonFace},
+    {QPalette::AlternateBase, SystemColor::Window, SystemColor::ButtonFace},
+    {QPalette::Text, SystemColor::WindowText, SystemColor::GreyText},
+    {QPalette::PlaceholderText, SystemColor::GreyText, SystemColor::GreyText},
+    {QPalette::Button, SystemColor::ButtonFace, SystemColor::ButtonFace},
+    {QPalette::ButtonText, SystemColor::ButtonText, SystemColor::GreyText},
+    {QPalette::BrightText, SystemColor::HighlightText, SystemColor::HighlightText},
+    {QPalette::Light, SystemColor::ButtonHighlight, SystemColor::ButtonHighlight},
+    {QPalette::Midlight, SystemColor::Light, SystemColor::Light},
+    {QPalette::Mid, SystemColor::ButtonShadow, SystemColor::ButtonShadow},
+    {QPalette::Dark, SystemColor::ButtonShadow, SystemColor::ButtonShadow},
+    {QPalette::Shadow, SystemColor::DarkShadow, SystemColor::DarkShadow},
+    {QPalette::Highlight, SystemColor::Highlight, SystemColor::ButtonShadow},
+    {QPalette::HighlightedText, SystemColor::HighlightText, SystemColor::HighlightText},
+    {QPalette::Link, SystemColor::Highlight, SystemColor::GreyText},
+    {QPalette::LinkVisited, SystemColor::Highlight, SystemColor::GreyText},
+    {QPalette::ToolTipBase, SystemColor::Tip, SystemColor::Tip},
+    {QPalette::ToolTipText, SystemColor::TipText, SystemColor::TipText},
 };
 
 /// A frame with its title on the upper line.

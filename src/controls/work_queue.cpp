@@ -48,7 +48,7 @@ void WorkQueue::work() {
 
 void WorkQueue::yield() {
   const Stage caller = running_;
-  Q_EMIT Yielding();
+  Q_EMIT yielding();
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   if (leaving_ || noted_ == Stage::Choose || (caller == Stage::Draw && noted_ == Stage::Draw)) throw WorkAbandoned{};
 }

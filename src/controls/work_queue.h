@@ -42,7 +42,7 @@ class WorkQueue : public QObject {
 
  Q_SIGNALS:
   /// A yield begins: pending events are about to be served.
-  void Yielding();
+  void yielding();
 
  private:
   enum class Stage { None, Draw, Choose };

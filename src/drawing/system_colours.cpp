@@ -36,12 +36,15 @@ constexpr std::array<QRgb, 25> Palette = {
 
 }  // namespace
 
-QColor systemColor(int index) {
-  return index >= 0 && index < int(Palette.size()) ? QColor(Palette[std::size_t(index)]) : QColor(0, 0, 0);
+QColor systemColor(SystemColor color) {
+  return QColor(Palette.at(static_cast<std::size_t>(color)));
 }
 
 QColor colorOf(quint32 value) {
-  if (value & SystemColorBit) return systemColor(int(value & 0xFF));
+  if (value & SystemColorBit) {
+    const std::size_t index = value & 0xFF;
+    return index < Palette.size() ? QColor(Palette.at(index)) : QColor(0, 0, 0);
+  }
   return QColor(int(value & 0xFF), int(value >> 8 & 0xFF), int(value >> 16 & 0xFF));
 }
 

@@ -57,7 +57,7 @@ ConfigFile::ConfigFile(const QStringList& folders) {
   }
 }
 
-QString ConfigFile::GameFolder() const {
+QString ConfigFile::gameFolder() const {
   if (path_.isEmpty()) return {};
   const QString stored = themefiles::GetINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), QString(), path_,
                                             themefiles::ListBufferSize);

@@ -20,7 +20,7 @@ class ConfigFile {
   const QString& problem() const { return problem_; }
 
   /// The stored game folder; empty until one was stored.
-  QString GameFolder() const;
+  QString gameFolder() const;
   /// Stores the game folder. One whose letters the code page lacks is stored as its UTF-8 bytes.
   /// Throws platform::Failure when it can't be stored.
   void setGameFolder(const QString& folder) const;

@@ -91,7 +91,7 @@ void connectEvents(Form1& form) {
       [&form] { form.DrawScreen(); });
   connectToolBar(form);
   onShortcut(form, QKeySequence(Qt::Key_F6), [&form] { goToOtherWindow(form); });
-  QObject::connect(&form, &Form1::CloseAsked, &form, [&form] { end(form); });
+  QObject::connect(&form, &Form1::closeAsked, &form, [&form] { end(form); });
   QObject::connect(form.Combo1, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
     if (cause == controls::Cause::User) form.queue.draw();
   });

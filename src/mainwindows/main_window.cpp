@@ -166,7 +166,7 @@ void Form1::DrawScreen() {
   if (toolWindow == nullptr) return;
   drawing::Surface& surface = Workspace->surface();
   renderer::RenderContext context{services.state,   toolWindow->tags,  surface, host_,    *this,
-                                  services.dialogs, services.graphics, account, &Pictures};
+                                  services.dialogs, services.graphics, account, &pictures};
   const drawing::Pen pen = surface.pen();
   try {
     platform::guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
@@ -186,7 +186,7 @@ void Form1::enableButton(int button, bool enabled) {
 
 void Form1::closeEvent(QCloseEvent* event) {
   event->ignore();
-  Q_EMIT CloseAsked();
+  Q_EMIT closeAsked();
 }
 
 }  // namespace mainwindows

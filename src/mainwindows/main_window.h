@@ -54,7 +54,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   progressbar::ProgressBar* ProgressBar1;
   toolwindow::Form2* toolWindow = nullptr;  ///< Form2 while a theme is open
   renderer::RenderAccount account;          ///< what the last render drew and left out
-  renderer::PreparedPictures Pictures;      ///< what the renders keep of the picture files
+  renderer::PreparedPictures pictures;      ///< what the renders keep of the picture files
   PreviewPicking picking;
 
   /// Shows the mouse's place in the status bar, counted from 1.
@@ -67,7 +67,7 @@ class Form1 : public QWidget, public platform::StatusLine {
 
  Q_SIGNALS:
   /// The user, or the session's end, wants the window closed.
-  void CloseAsked();
+  void closeAsked();
 
  protected:
   void showReport(const QString& text) override;

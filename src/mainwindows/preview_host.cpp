@@ -45,7 +45,7 @@ QString PreviewHost::screenName() const {
 }
 
 QString PreviewHost::schemeName() const {
-  return controls_.Schemes.Text();
+  return controls_.schemes.Text();
 }
 
 }  // namespace mainwindows

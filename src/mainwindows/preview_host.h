@@ -14,7 +14,7 @@ namespace mainwindows {
 struct PreviewControls {
   mainwindows::Workspace& Workspace;
   progressbar::ProgressBar& ProgressBar1;
-  controls::ComboBox& Schemes;
+  controls::ComboBox& schemes;
   controls::ComboBox& buttons;
   controls::WorkQueue& queue;
   std::function<QString()> screenName;

@@ -15,7 +15,7 @@ class StatusBar : public QWidget {
   explicit StatusBar(QWidget* parent);
 
   void setPanel(int panel, const QString& text);  ///< panels count from 1
-  const QString& Panel(int panel) const { return panels_[panel - 1]->whole(); }
+  const QString& panel(int panel) const { return panels_[panel - 1]->whole(); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

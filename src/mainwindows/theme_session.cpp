@@ -33,7 +33,7 @@ bool mayDropChanges(Form1& form) {
 
 /// The stored game folder, or the one that the user points at, which is then stored; empty when there is none.
 QString findGameFolder(Form1& form) {
-  const QString stored = form.config.GameFolder();
+  const QString stored = form.config.gameFolder();
   if (!stored.isEmpty() && platform::folderHoldsFiles(stored)) return stored;
   const QString program = QStringLiteral("Vocora.exe");
   const QString chosen =
@@ -151,7 +151,7 @@ void SaveTheme(Form1& form) {
     themefiles::saveWorkingCopies(form.services.state, form);
     form.enableButton(SaveButton, false);
     telling.success(QStringLiteral("Saved"));
-    form.toolWindow->Marking.start();
+    form.toolWindow->marking.start();
   });
 }
 

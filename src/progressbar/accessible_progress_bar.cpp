@@ -8,7 +8,7 @@ namespace {
 
 class AccessibleProgressBar : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
-  AccessibleProgressBar(QWidget& bar, AccessibleSource& source)
+  AccessibleProgressBar(QWidget& bar, AccessibleBarSource& source)
       : QAccessibleWidget(&bar, QAccessible::ProgressBar), source_(source) {}
 
   void* interface_cast(QAccessible::InterfaceType type) override {
@@ -22,11 +22,11 @@ class AccessibleProgressBar : public QAccessibleWidget, public QAccessibleValueI
   QVariant minimumStepSize() const override { return 1; }
 
  private:
-  AccessibleSource& source_;
+  AccessibleBarSource& source_;
 };
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
-  auto* const source = dynamic_cast<AccessibleSource*>(object);
+  auto* const source = dynamic_cast<AccessibleBarSource*>(object);
   auto* const bar = qobject_cast<QWidget*>(object);
   return source == nullptr || bar == nullptr ? nullptr : new AccessibleProgressBar(*bar, *source);
 }

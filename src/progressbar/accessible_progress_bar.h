@@ -5,9 +5,9 @@
 namespace progressbar {
 
 /// What assistive programs need of a progress bar's widget.
-class AccessibleSource {
+class AccessibleBarSource {
  public:
-  virtual ~AccessibleSource() = default;
+  virtual ~AccessibleBarSource() = default;
   virtual const Properties& state() const = 0;
 };
 

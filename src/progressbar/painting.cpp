@@ -33,16 +33,16 @@ void clear(const Sheet& sheet) {
 void bandsAcross(const Sheet& sheet, int length, const Band& upper, const Band& lower) {
   const int height = sheet.raster.Height();
   const int middle = rounded(height / 2.0);
-  GradientTwoColour(sheet.raster, 1, upper.Start, upper.End, 0, 0, length, middle);
-  GradientTwoColour(sheet.raster, 1, lower.Start, lower.End, 0, middle, length, height);
+  GradientTwoColour(sheet.raster, 1, upper.start, upper.end, 0, 0, length, middle);
+  GradientTwoColour(sheet.raster, 1, lower.start, lower.end, 0, middle, length, height);
 }
 
 /// Two bands side by side, from the top edge to `length`.
 void bandsDown(const Sheet& sheet, int length, const Band& left, const Band& right) {
   const int width = sheet.raster.Width();
   const int middle = rounded(width / 2.0);
-  GradientTwoColour(sheet.raster, 0, left.Start, left.End, 0, 0, middle, length);
-  GradientTwoColour(sheet.raster, 0, right.Start, right.End, middle, 0, width, length);
+  GradientTwoColour(sheet.raster, 0, left.start, left.end, 0, 0, middle, length);
+  GradientTwoColour(sheet.raster, 0, right.start, right.end, middle, 0, width, length);
 }
 
 void fill(const Sheet& sheet) {
@@ -50,9 +50,9 @@ void fill(const Sheet& sheet) {
   if (!across && sheet.bar.Orientations != Vertical) return;
   const auto bands = across ? bandsAcross : bandsDown;
   const int length = across ? sheet.raster.Width() : sheet.raster.Height();
-  bands(sheet, length, sheet.palette.TrackFirst, sheet.palette.TrackSecond);
+  bands(sheet, length, sheet.palette.trackFirst, sheet.palette.trackSecond);
   if (sheet.bar.Value < 1) return;
-  bands(sheet, rounded(sheet.percent * length / 100), sheet.palette.FilledFirst, sheet.palette.FilledSecond);
+  bands(sheet, rounded(sheet.percent * length / 100), sheet.palette.filledFirst, sheet.palette.filledSecond);
 }
 
 void outline(const Sheet& sheet) {

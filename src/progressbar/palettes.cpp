@@ -108,8 +108,8 @@ quint32 greyOf(quint32 color) {
 }
 
 Palette greyOf(const Palette& palette) {
-  const auto grey = [](const Band& band) { return Band{greyOf(band.Start), greyOf(band.End)}; };
-  return {grey(palette.TrackFirst), grey(palette.TrackSecond), grey(palette.FilledFirst), grey(palette.FilledSecond),
+  const auto grey = [](const Band& band) { return Band{greyOf(band.start), greyOf(band.end)}; };
+  return {grey(palette.trackFirst), grey(palette.trackSecond), grey(palette.filledFirst), grey(palette.filledSecond),
           greyOf(palette.outline)};
 }
 

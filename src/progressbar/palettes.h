@@ -8,16 +8,16 @@ namespace progressbar {
 
 /// The two ends of a ramp.
 struct Band {
-  quint32 Start;
-  quint32 End;
+  quint32 start;
+  quint32 end;
 };
 
 /// The colours of a bar: each of its two parts has two bands, above each other or side by side.
 struct Palette {
-  Band TrackFirst{};
-  Band TrackSecond{};
-  Band FilledFirst{};
-  Band FilledSecond{};
+  Band trackFirst{};
+  Band trackSecond{};
+  Band filledFirst{};
+  Band filledSecond{};
   quint32 outline = 0;
 };
 

@@ -12,7 +12,7 @@ namespace progressbar {
 /// A bar that shows how far a piece of work has come, with a caption. Every write of a member tells so by
 /// PropertyChanged, with the key under which the member is stored, and repaints the bar in the next frame of the
 /// screen.
-class ProgressBar : public QWidget, public AccessibleSource {
+class ProgressBar : public QWidget, public AccessibleBarSource {
   Q_OBJECT
 
  public:

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
 
 /// What the reader and the writer of stored bags have in common; all numbers little endian.
 namespace propertybag::bag {
@@ -25,8 +24,5 @@ inline constexpr char FontClass[] = "\x03\x52\xE3\x0B\x91\x8F\xCE\x11\x9D\xE3\x0
 inline constexpr quint32 PictureMark = 0x746C;
 inline constexpr quint8 FontVersion = 1;
 inline constexpr double SizesPerPoint = 10000;
-
-/// Of a key in lower case.
-quint32 keyHash(QStringView key);
 
 }  // namespace propertybag::bag

@@ -3,6 +3,7 @@
 
 #include "platform/code_page.h"
 #include "propertybag/bag_format.h"
+#include "propertybag/name_hash.h"
 #include "propertybag/stored_bytes.h"
 
 namespace propertybag {
@@ -103,7 +104,7 @@ bool readRecord(QByteArrayView records, qsizetype& from, PropertyBag& bag) {
   const auto hash = reader.number<quint32>();
   const auto distance = reader.number<qint32>();
   const QString key = reader.text(keyLength);
-  require(!key.isEmpty() && key == key.toLower() && hash == bag::keyHash(key) && !bag.contains(key));
+  require(!key.isEmpty() && key == key.toLower() && hash == nameHash(key) && !bag.contains(key));
   bag.WriteProperty(key, valueOf(tag, reader), {});
   while (reader.at() % bag::Alignment != 0) require(reader.number<quint8>() == 0);
   const bool isLast = distance <= 0;

@@ -1,5 +1,3 @@
-#include <bit>
-
 #include <QFont>
 #include <QtEndian>
 
@@ -7,20 +5,10 @@
 #include "platform/failure.h"
 #include "platform/little_endian.h"
 #include "propertybag/bag_format.h"
+#include "propertybag/name_hash.h"
 #include "propertybag/stored_bytes.h"
 
 namespace propertybag {
-
-namespace bag {
-
-quint32 keyHash(QStringView key) {
-  constexpr int Turn = 13;
-  quint32 hash = 0;
-  for (const QChar unit : key) hash = std::rotl(hash, Turn) ^ unit.unicode();
-  return hash;
-}
-
-}  // namespace bag
 
 namespace {
 
@@ -85,7 +73,7 @@ StoredValue storedValue(const PropertyBag::Record& record) {
       return {bag::ObjectTag, fontBytes(record.key, value.value<QFont>())};
     default:
       if (value.typeId() != qMetaTypeId<StoredPicture>()) refuse(record.key);
-      return {bag::ObjectTag, pictureBytes(value.value<StoredPicture>().File)};
+      return {bag::ObjectTag, pictureBytes(value.value<StoredPicture>().file)};
   }
 }
 
@@ -99,7 +87,7 @@ QByteArray storedRecord(const PropertyBag::Record& record) {
   QByteArray bytes;
   platform::appendLittle<quint16>(bytes, tag);
   platform::appendLittle<quint16>(bytes, quint16(key.size()));
-  platform::appendLittle<quint32>(bytes, bag::keyHash(key));
+  platform::appendLittle<quint32>(bytes, nameHash(key));
   platform::appendLittle<qint32>(bytes, qint32(bare + padding));
   appendText(bytes, key);
   return bytes + value + QByteArray(padding, '\0');

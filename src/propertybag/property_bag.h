@@ -10,7 +10,7 @@ namespace propertybag {
 
 /// A picture as a bag keeps it: the bytes of an image file.
 struct StoredPicture {
-  QByteArray File;
+  QByteArray file;
   bool operator==(const StoredPicture&) const = default;
 };
 

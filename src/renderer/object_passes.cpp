@@ -37,7 +37,7 @@ struct Look {
 /// Draws the object's texture and accounts what came of it.
 void drawObject(RenderContext& context, const ObjectSection& section, const QString& path, const Box& box,
                 const Look& look) {
-  if (context.TextsOnly) return;
+  if (context.textsOnly) return;
   const QString colorName = section.Value(look.colorKey);
   const QString color = themefiles::ResolveColor(context.state, colorName, context.host.schemeName());
   const float intensity =

@@ -33,7 +33,7 @@ struct LeftOut {
 };
 
 /// One object that the render drew, and where on the surface.
-struct Drawn {
+struct DrawnObject {
   QString section;
   QRect place;
   QString owner;  ///< of a child text: its button
@@ -41,7 +41,7 @@ struct Drawn {
 
 /// The renderer's own account of its last render, in the order of drawing.
 struct RenderAccount {
-  std::vector<Drawn> objects;
+  std::vector<DrawnObject> objects;
   std::vector<LeftOut> missing;
   std::optional<drawing::Pen> startPen;  ///< as the render found it; none before the first one
 };

@@ -25,7 +25,7 @@ struct RenderContext {
   RenderAccount& account;
   PreparedPictures* pictures = nullptr;  ///< none: every picture is made anew
   TrialFrame* trial = nullptr;           ///< none: a render of what the files hold
-  bool TextsOnly = false;                ///< leaves the pictures of statics and buttons undrawn and unaccounted
+  bool textsOnly = false;                ///< leaves the pictures of statics and buttons undrawn and unaccounted
 };
 
 /// Advances the progress bar by `step` percent and lets events through.

@@ -10,13 +10,13 @@
 namespace renderer {
 namespace {
 
-struct Face {
+struct TextFace {
   double fontNumber;
   QStringView name;
   double pointsPerSize;
 };
 
-constexpr std::array<Face, 2> Faces{{
+constexpr std::array<TextFace, 2> Faces{{
     {0, u"Eurostar Regular Extended", 1.4},
     {1, u"Eurostar Black", 2},
 }};
@@ -42,7 +42,7 @@ QColor colorOf(RenderContext& context, const ObjectSection& section) {
 bool setFont(RenderContext& context, const ObjectSection& section) {
   const double fontNumber = section.number(QStringLiteral("Font"));
   const QString size = section.Value(QStringLiteral("Size"));
-  for (const Face& face : Faces) {
+  for (const TextFace& face : Faces) {
     if (face.fontNumber != fontNumber) continue;
     context.Workspace.SetFontName(face.name.toString());
     const auto points = static_cast<float>(platform::numberOf(size) * face.pointsPerSize);

@@ -41,7 +41,7 @@ class ScreenCheck {
   void drawWords(const QString& language);
   void selectInTurn();
   void tellMissing(const renderer::LeftOut& entry);
-  bool isUnseen(const renderer::Drawn& object, bool isText) const;
+  bool isUnseen(const renderer::DrawnObject& object, bool isText) const;
 
   const CheckedTheme& theme_;
   const themefiles::ScreenRow& screen_;
@@ -95,7 +95,7 @@ void ScreenCheck::selectInTurn() {
     if (entry.why == renderer::Reason::Hidden) hidden += entry.section;
   }
   QSet<QString> withTexts;
-  for (const renderer::Drawn& object : chosen_.account.objects) withTexts += object.owner;
+  for (const renderer::DrawnObject& object : chosen_.account.objects) withTexts += object.owner;
   QStringList buttons = chosen_.tags.rows();
   buttons.removeIf([&](const QString& tag) { return !renderer::isButton(tag) || hidden.contains(tag); });
   buttons.resize(std::min(buttons.size(), qsizetype(chosen_.state.ButtonCount)));
@@ -110,11 +110,11 @@ void ScreenCheck::selectInTurn() {
 }
 
 void ScreenCheck::draw(renderer::RenderContext context, Pass pass) {
-  context.TextsOnly = picturesDrawn_;
+  context.textsOnly = picturesDrawn_;
   chosen_.account = {};
   pass(context);
   for (const renderer::LeftOut& entry : chosen_.account.missing) tellMissing(entry);
-  for (const renderer::Drawn& object : chosen_.account.objects) {
+  for (const renderer::DrawnObject& object : chosen_.account.objects) {
     const bool isText = pass == renderer::DrawTexts || !object.owner.isEmpty();
     if (!isUnseen(object, isText)) continue;
     findings_.add(Kind::OutsideSurface, theme_.theme.place(object.section), {},
@@ -144,7 +144,7 @@ void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
 }
 
 /// Whether nothing of it shows that would show elsewhere.
-bool ScreenCheck::isUnseen(const renderer::Drawn& object, bool isText) const {
+bool ScreenCheck::isUnseen(const renderer::DrawnObject& object, bool isText) const {
   if (object.place.intersects(Shown)) return false;
   if (!isText) return true;
   const IniSection* section = theme_.theme.find(object.section);

@@ -18,7 +18,8 @@ bool hasChevron(const Control& control) {
 /// A button of the bar, or its chevron.
 class AccessibleButton : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  AccessibleButton(QWidget& bar, AccessibleSource& source, int place) : bar_(&bar), source_(source), place_(place) {}
+  AccessibleButton(QWidget& bar, AccessibleToolBarSource& source, int place)
+      : bar_(&bar), source_(source), place_(place) {}
 
   bool isValid() const override { return bar_ && (button() || isChevron()); }
   QObject* object() const override { return nullptr; }
@@ -88,13 +89,13 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
   int number() const { return isChevron() ? 0 : place_ + 1; }
 
   QPointer<QWidget> bar_;
-  AccessibleSource& source_;
+  AccessibleToolBarSource& source_;
   int place_;
 };
 
 class AccessibleBar : public QAccessibleWidget {
  public:
-  AccessibleBar(QWidget& bar, AccessibleSource& source)
+  AccessibleBar(QWidget& bar, AccessibleToolBarSource& source)
       : QAccessibleWidget(&bar, QAccessible::ToolBar), bar_(bar), source_(source) {}
   ~AccessibleBar() override {
     for (const QAccessible::Id id : ids_) QAccessible::deleteAccessibleInterface(id);
@@ -128,12 +129,12 @@ class AccessibleBar : public QAccessibleWidget {
 
  private:
   QWidget& bar_;
-  AccessibleSource& source_;
+  AccessibleToolBarSource& source_;
   mutable std::vector<QAccessible::Id> ids_;
 };
 
 QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
-  auto* const source = dynamic_cast<AccessibleSource*>(object);
+  auto* const source = dynamic_cast<AccessibleToolBarSource*>(object);
   auto* const bar = qobject_cast<QWidget*>(object);
   return source == nullptr || bar == nullptr ? nullptr : new AccessibleBar(*bar, *source);
 }

@@ -7,9 +7,9 @@
 namespace toolbar {
 
 /// What assistive programs need of a toolbar's widget.
-class AccessibleSource {
+class AccessibleToolBarSource {
  public:
-  virtual ~AccessibleSource() = default;
+  virtual ~AccessibleToolBarSource() = default;
   virtual const Control& inner() const = 0;
   /// The surface of the hidden buttons; null before its properties have been read.
   virtual QWidget* popupWindow() const = 0;

@@ -4,7 +4,8 @@
 
 #include "drawing/fonts.h"
 #include "drawing/raster_text.h"
-#include "toolbar/whole.h"
+#include "platform/numbers.h"
+#include "toolbar/checked_numbers.h"
 
 namespace toolbar {
 
@@ -15,14 +16,6 @@ constexpr int SideMargin = 5;
 
 bool isBreakChar(QChar letter) {
   return !((letter >= u'A' && letter <= u'Z') || (letter >= u'a' && letter <= u'z') || letter == u'_');
-}
-
-QString trimmed(const QString& text) {
-  qsizetype from = 0;
-  qsizetype to = text.size();
-  while (from < to && text[from] == Blank) ++from;
-  while (from < to && text[to - 1] == Blank) --to;
-  return text.sliced(from, to - from);
 }
 
 /// The blanks at the end, which stand between the line and letters that follow.
@@ -48,7 +41,7 @@ QStringList WrapCaption(const QString& caption, int maxWidth, const std::functio
     if (textWidth(buffer + letter) >= maxWidth || place == text.size()) {
       if (cut == 0) cut = place - consumed - 1;
       cutOff = buffer.first(cut);
-      lines += trimmed(cutOff);
+      lines += platform::trimBlanks(cutOff);
       buffer.remove(0, cut);
       consumed += cut;
       cut = 0;
@@ -57,9 +50,9 @@ QStringList WrapCaption(const QString& caption, int maxWidth, const std::functio
   }
   // The last letter still has to go out.
   if (lines.size() == 1 && buffer.size() > 1) {
-    lines += trimmed(buffer);
+    lines += platform::trimBlanks(buffer);
   } else {
-    lines.last() = trimmed(cutOff) + blanksBehind(cutOff) + buffer;
+    lines.last() = platform::trimBlanks(cutOff) + blanksBehind(cutOff) + buffer;
   }
   return lines;
 }
@@ -70,7 +63,7 @@ void DrawCaption(drawing::Raster& raster, const QFont& font, QRgb color, const Q
   const int lineHeight = drawing::TextHeight(drawn);
   const QStringList lines = WrapCaption(caption, box.width() - SideMargin,
                                         [&drawn](const QString& text) { return drawing::TextWidth(drawn, text); });
-  int top = nearest((box.height() - double(lines.size() + shift) * lineHeight) / 2 + box.y());
+  int top = nearestInt((box.height() - double(lines.size() + shift) * lineHeight) / 2 + box.y());
   for (const QString& line : lines) {
     drawing::drawText(raster, drawn, line, QRect(box.x(), top, box.width(), raster.Height() - top), color);
     top += lineHeight;

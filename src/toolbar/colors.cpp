@@ -1,7 +1,7 @@
 #include "toolbar/colors.h"
 
 #include "drawing/system_colours.h"
-#include "toolbar/whole.h"
+#include "toolbar/checked_numbers.h"
 
 namespace toolbar {
 
@@ -9,7 +9,7 @@ namespace {
 
 int blend(int channel, int other, int weight) {
   constexpr double All = 255;
-  return nearest((All - weight) * other / All + double(weight) * channel / All);
+  return nearestInt((All - weight) * other / All + double(weight) * channel / All);
 }
 
 }  // namespace

@@ -60,7 +60,7 @@ void Control::resize(const QSize& innerSize) {
 void Control::layOut() {
   const int height = laidOutHeight(model_);
   if (height < 0) throw std::domain_error("a height below 0");
-  innerSize_.setHeight(std::min(height, Surface::LargestSide));
+  innerSize_.setHeight(std::min(height, ButtonSurface::LargestSide));
   windows_.SetHeight(innerSize_.height());
   layout_.HiddenButtons.clear();
   layOutButtons(model_, innerSize_.width(), ambient_.UserMode, layout_);
@@ -101,7 +101,7 @@ void Control::Repaint() {
 
 void Control::showChevronPopup() {
   const QRect control = windows_.controlOnScreen();
-  const QSize popup = chevron_.Image().image().size();
+  const QSize popup = chevron_.raster().image().size();
   windows_.movePopup(
       QRect(QPoint(control.x() + control.width() - popup.width(), control.y() + control.height() + 1), popup));
   picDraw_ = SurfaceName::Chevron;

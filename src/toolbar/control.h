@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "propertybag/property_bag.h"
+#include "toolbar/button_surface.h"
 #include "toolbar/layout.h"
 #include "toolbar/model.h"
-#include "toolbar/surface.h"
 #include "toolbar/surroundings.h"
 
 namespace toolbar {
@@ -28,7 +28,7 @@ class Control : private ModelView {
   Model& buttons() { return model_; }
   const Model& buttons() const { return model_; }
   const std::vector<int>& HiddenButtons() const { return layout_.HiddenButtons; }
-  const Surface& surfaceOf(SurfaceName name) const { return name == SurfaceName::Main ? main_ : chevron_; }
+  const ButtonSurface& surfaceOf(SurfaceName name) const { return name == SurfaceName::Main ? main_ : chevron_; }
   SurfaceName picDraw() const { return picDraw_; }
   bool UserMode() const { return ambient_.UserMode; }
 
@@ -76,7 +76,7 @@ class Control : private ModelView {
   void PropertyChanged(QStringView name) override;
   void react(Effect effect) override;
 
-  Surface& drawn() { return picDraw_ == SurfaceName::Main ? main_ : chevron_; }
+  ButtonSurface& drawn() { return picDraw_ == SurfaceName::Main ? main_ : chevron_; }
   void layOut();
   void showChevronPopup();
   std::optional<int> pointedAt(const MouseArguments& arguments);
@@ -90,8 +90,8 @@ class Control : private ModelView {
   Events& events_;
   Ambient ambient_;
   Model model_;
-  Surface main_;
-  Surface chevron_;
+  ButtonSurface main_;
+  ButtonSurface chevron_;
   SurfaceName picDraw_ = SurfaceName::Main;
   QSize innerSize_;
   Layout layout_;

@@ -1,8 +1,8 @@
 #include <cmath>
 #include <stdexcept>
 
+#include "toolbar/checked_numbers.h"
 #include "toolbar/control.h"
-#include "toolbar/whole.h"
 
 namespace toolbar {
 
@@ -25,8 +25,8 @@ bool Control::canHover(int number, float x) const {
 
 /// What the pointer is over now; none when that isn't to change.
 std::optional<int> Control::pointedAt(const MouseArguments& arguments) {
-  const int x = nearest(double(arguments.X));
-  const int y = nearest(double(arguments.Y));
+  const int x = nearestInt(double(arguments.X));
+  const int y = nearestInt(double(arguments.Y));
   int index = -1;
   if (arguments.Button == MouseArguments::FromPopup) {
     picDraw_ = SurfaceName::Chevron;

@@ -1,8 +1,8 @@
 #include "toolbar/faces.h"
 
 #include "drawing/ramps.h"
+#include "toolbar/checked_numbers.h"
 #include "toolbar/colors.h"
-#include "toolbar/whole.h"
 
 namespace toolbar {
 
@@ -122,12 +122,12 @@ void FillGradient(Raster& raster, const QRect& box, quint32 first, quint32 secon
   const QRgb start = TranslateColor(second);
   const QRgb end = TranslateColor(first);
   if (kind == 2) {
-    const int half = nearest(w / 2.0);
+    const int half = nearestInt(w / 2.0);
     drawing::PaintRamp(raster, x, y, half, h, start, end, 1);
-    drawing::PaintRamp(raster, nearest(x + w / 2.0 - 1), y, half, h, end, start, 1);
+    drawing::PaintRamp(raster, nearestInt(x + w / 2.0 - 1), y, half, h, end, start, 1);
   } else if (kind == 4) {
-    drawing::PaintRamp(raster, x, y, w, nearest(h / 2.0), start, end, 3);
-    drawing::PaintRamp(raster, x, nearest(y + h / 2.0 - 1), w, nearest(h / 2.0 + 1), end, start, 3);
+    drawing::PaintRamp(raster, x, y, w, nearestInt(h / 2.0), start, end, 3);
+    drawing::PaintRamp(raster, x, nearestInt(y + h / 2.0 - 1), w, nearestInt(h / 2.0 + 1), end, start, 3);
   } else {
     drawing::PaintRamp(raster, x, y, w, h, start, end, kind);
   }

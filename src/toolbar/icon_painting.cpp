@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "drawing/raster_pictures.h"
-#include "toolbar/whole.h"
+#include "toolbar/checked_numbers.h"
 
 namespace toolbar {
 
@@ -39,8 +39,8 @@ bool PaintGrayScale(drawing::Raster& raster, const Picture& picture, int left, i
 }
 
 void DrawIcon(drawing::Raster& raster, const Picture& picture, const QRect& area, bool enabled, bool shadow) {
-  const int x = nearest((double(area.width()) - picture.Width()) / 2 + area.x());
-  const int y = nearest((double(area.height()) - picture.Height()) / 2 + area.y());
+  const int x = nearestInt((double(area.width()) - picture.Width()) / 2 + area.x());
+  const int y = nearestInt((double(area.height()) - picture.Height()) / 2 + area.y());
   if (!enabled) {
     PaintGrayScale(raster, picture, x, y, picture.Width(), picture.Height());
   } else if (shadow) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "toolbar/whole.h"
+#include "toolbar/checked_numbers.h"
 
 namespace toolbar {
 
@@ -55,7 +55,7 @@ QPoint PlaceButton(const Model& model, int n, bool inPopup) {
     y += model.values().ButtonsHeight;
     x = isInset ? FrameX : 0;
   }
-  return {whole(x), whole(y)};
+  return {checkedInt(x), checkedInt(y)};
 }
 
 int HitTest(const Model& model, int x, int y, bool inPopup) {
@@ -78,7 +78,7 @@ int HitTest(const Model& model, int x, int y, bool inPopup) {
 
 int laidOutHeight(const Model& model) {
   const qint64 height = rows(model.Button_Count(), rowLength(model, false)) * model.values().ButtonsHeight;
-  return whole(height + (isFramed(model) ? FramedExtraHeight : 0));
+  return checkedInt(height + (isFramed(model) ? FramedExtraHeight : 0));
 }
 
 void layOutButtons(Model& model, int innerWidth, bool mayHide, Layout& layout) {
@@ -99,8 +99,8 @@ void layOutButtons(Model& model, int innerWidth, bool mayHide, Layout& layout) {
   if (hidden == 0) return;
   const int length = rowLength(model, true);
   const qint64 columns = std::min(hidden, length);
-  layout.popup.setWidth(whole(columns * model.values().ButtonsWidth + PopupExtraWidth));
-  layout.popup.setHeight(whole(rows(hidden, length) * model.values().ButtonsHeight + PopupExtraHeight));
+  layout.popup.setWidth(checkedInt(columns * model.values().ButtonsWidth + PopupExtraWidth));
+  layout.popup.setHeight(checkedInt(rows(hidden, length) * model.values().ButtonsHeight + PopupExtraHeight));
 }
 
 }  // namespace toolbar

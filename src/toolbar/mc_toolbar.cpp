@@ -38,9 +38,9 @@ class Signals : public Events {
   McToolBar& bar_;
 };
 
-void present(QWidget& window, const Surface& surface) {
+void present(QWidget& window, const ButtonSurface& surface) {
   QPainter painter(&window);
-  drawing::Show(painter, surface.Image());
+  drawing::Show(painter, surface.raster());
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace toolbar {
 
 /// A strip of icon and text buttons in rows, numbered from 1, with separators, and a popup for what has no room. Its
 /// height follows from its buttons. By keyboard: Tab, arrows, Home, End, Enter and Space, Esc for the popup.
-class McToolBar : public QWidget, public AccessibleSource {
+class McToolBar : public QWidget, public AccessibleToolBarSource {
   Q_OBJECT
 
  public:
@@ -46,7 +46,7 @@ class McToolBar : public QWidget, public AccessibleSource {
 
   const Control& inner() const override { return control_; }
   QWidget* popupWindow() const override { return windows_.popup(); }
-  QSize sizeHint() const override { return control_.surfaceOf(SurfaceName::Main).Image().image().size(); }
+  QSize sizeHint() const override { return control_.surfaceOf(SurfaceName::Main).raster().image().size(); }
   void press(int ButtonIndex) override;
 
  Q_SIGNALS:

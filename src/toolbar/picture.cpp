@@ -45,7 +45,7 @@ PictureReference pictureOfFile(const QByteArray& file) {
   } else {
     picture = *pictureOfImage(drawing::decodePicture(file));
   }
-  picture.File = file;
+  picture.file = file;
   return std::make_shared<Picture>(picture);
 }
 
@@ -59,7 +59,7 @@ PictureReference pictureOf(const QVariant& value) {
 }
 
 QByteArray fileOf(const Picture& picture) {
-  if (!picture.File.isEmpty() || picture.pixels.isNull()) return picture.File;
+  if (!picture.file.isEmpty() || picture.pixels.isNull()) return picture.file;
   if (picture.Type == Picture::Icon) {
     if (const auto icon = drawing::writeIcon(picture.pixels)) return *icon;
   }

@@ -14,7 +14,7 @@ struct Picture {
   Kind Type = Empty;
   QImage pixels;    ///< Format_ARGB32; wholly opaque, or clear and black
   QImage mask;      ///< of an icon: white where it lets through what lies behind it, else black
-  QByteArray File;  ///< the image file that it came from; empty when it came from pixels
+  QByteArray file;  ///< the image file that it came from; empty when it came from pixels
 
   int Width() const { return pixels.width(); }
   int Height() const { return pixels.height(); }

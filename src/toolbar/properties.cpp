@@ -47,7 +47,7 @@ struct ModeRow {
   std::optional<quint32> ButtonsBackColor;
   std::optional<quint32> ButtonsGradientCol;
 };
-constexpr quint32 MenuColor = 0x80000004;
+constexpr quint32 MenuColor = drawing::colorValue(drawing::SystemColor::Menu);
 constexpr ModeRow Modes[] = {
     {0, 0, {}, {}, {}},
     {0, 0, {}, {}, {}},

@@ -3,22 +3,22 @@
 #include "drawing/fonts.h"
 #include "drawing/raster_text.h"
 #include "toolbar/captions.h"
+#include "toolbar/checked_numbers.h"
 #include "toolbar/colors.h"
 #include "toolbar/faces.h"
 #include "toolbar/icon_painting.h"
 #include "toolbar/layout.h"
-#include "toolbar/whole.h"
 
 namespace toolbar {
 
 namespace {
 
-constexpr quint32 GreyText = 0x80000011;
+constexpr quint32 GreyText = drawing::colorValue(drawing::SystemColor::GreyText);
 constexpr int IconMargin = 10;
 constexpr QChar ChevronSign = u'\u00BB';
 
 /// A button as it is to be drawn.
-struct Drawn {
+struct ShownButton {
   int index = 0;  ///< 0 for the chevron
   PictureReference icon;
   QString caption;
@@ -37,7 +37,7 @@ struct Areas {
 };
 
 /// No icon and no caption for an unknown alignment.
-std::optional<Areas> areasOf(const Drawn& button, int offset) {
+std::optional<Areas> areasOf(const ShownButton& button, int offset) {
   const int x = button.box.x();
   const int y = button.box.y();
   const int w = button.box.width();
@@ -72,8 +72,8 @@ void checkRange(const QRect& box) {
 
 class Painter {
  public:
-  Painter(Surface& surface, const Scene& scene)
-      : surface_(surface), raster_(surface.Image()), scene_(scene), values_(scene.buttons.values()) {}
+  Painter(ButtonSurface& surface, const Scene& scene)
+      : surface_(surface), raster_(surface.raster()), scene_(scene), values_(scene.buttons.values()) {}
 
   void background() {
     surface_.clearPicture();
@@ -114,15 +114,15 @@ class Painter {
   bool chevron() {
     const bool pressed = scene_.buttons.Button_Index() == 0 && scene_.ButtonHeld;
     const int frame = values_.BorderStyle == 0 ? 0 : 2;
-    const QRect box(scene_.InnerSize.width() - ChevronZone,
-                    whole(qint64(scene_.InnerSize.height()) - values_.ButtonsHeight - frame), ChevronWidth,
+    const QRect box(scene_.innerSize.width() - ChevronZone,
+                    checkedInt(qint64(scene_.innerSize.height()) - values_.ButtonsHeight - frame), ChevronWidth,
                     values_.ButtonsHeight);
     draw({0, nullptr, ChevronSign, pressed, true, box, 0});
     return pressed;
   }
 
  private:
-  void draw(Drawn button) {
+  void draw(ShownButton button) {
     checkRange(button.box);
     const bool enabled = button.enabled && values_.Enabled;
     const bool hover = button.index == scene_.buttons.Button_Index();
@@ -145,7 +145,7 @@ class Painter {
     const int height = values_.ButtonsHeight;
     checkRange(QRect(button.PosX, button.PosY, width, height));
     if (values_.ShowSeperator) {
-      const int x = nearest(button.PosX + width / 2.0);
+      const int x = nearestInt(button.PosX + width / 2.0);
       const int y = button.PosY + 2;
       raster_.Line(x, y, x, y + height - 6, BlendColors(values_.BackColor, 0));
       raster_.Line(x + 1, y, x + 1, y + height - 6, BlendColors(values_.BackColor, 0xFFFFFF));
@@ -165,7 +165,7 @@ class Painter {
     raster_.Rectangle(x + 1, y + 1, x + width - 2, y + 4, color, TranslateColor(values_.ButtonsBackColor));
   }
 
-  Surface& surface_;
+  ButtonSurface& surface_;
   drawing::Raster& raster_;
   const Scene& scene_;
   const Properties& values_;
@@ -183,8 +183,8 @@ void guarded(Part part) {
 
 }  // namespace
 
-bool paint(Surface& surface, const Scene& scene, bool& backgroundDrawn) {
-  if (surface.Image().rect().isEmpty()) return false;
+bool paint(ButtonSurface& surface, const Scene& scene, bool& backgroundDrawn) {
+  if (surface.raster().rect().isEmpty()) return false;
   Painter painter(surface, scene);
   bool opens = false;
   guarded([&] {

@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "toolbar/button_surface.h"
 #include "toolbar/model.h"
-#include "toolbar/surface.h"
 
 namespace toolbar {
 
@@ -11,7 +11,7 @@ namespace toolbar {
 struct Scene {
   const Model& buttons;
   const std::vector<int>& HiddenButtons;
-  QSize InnerSize;  ///< of the control
+  QSize innerSize;  ///< of the control
   bool isMain = true;
   bool ButtonHeld = false;
   bool UserMode = true;
@@ -19,6 +19,6 @@ struct Scene {
 
 /// Draws the whole surface; the background only unless `backgroundDrawn`, which is true then. Whether the pressed
 /// chevron was drawn. A failure ends the drawing of its part in silence.
-bool paint(Surface& surface, const Scene& scene, bool& backgroundDrawn);
+bool paint(ButtonSurface& surface, const Scene& scene, bool& backgroundDrawn);
 
 }  // namespace toolbar

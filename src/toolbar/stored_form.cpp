@@ -94,7 +94,7 @@ bool fromStored(const QVariant& value, T& member) {
 }
 bool fromStored(const QVariant& value, PictureReference& member) {
   const auto stored = propertybag::storedAs<StoredPicture>(value);
-  if (stored) member = pictureOfFile(stored->File);
+  if (stored) member = pictureOfFile(stored->file);
   return stored.has_value();
 }
 

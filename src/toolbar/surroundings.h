@@ -18,9 +18,9 @@ enum class SurfaceName { Main, Chevron };
 /// A tip in the manner of the platform: a text under a title with an icon.
 struct ToolTip {
   QString Text;
-  QString Title;
+  QString title;
   int Icon = 0;  ///< 0 none, 1 information, 2 warning, 3 error
-  bool IsBalloon = true;
+  bool isBalloon = true;
   quint32 BackColor = 0;
   quint32 ForeColor = 0;
 };

@@ -48,30 +48,30 @@ TipWindow::TipWindow(const ToolTip& tip, QWidget* parent)
   setFocusPolicy(Qt::NoFocus);
   setFont(drawing::controlFont(QStringLiteral("MS Sans Serif"), TextPixels));
   setAccessibleName(tip.Text);
-  const int stem = tip_.IsBalloon ? StemLength : 0;
+  const int stem = tip_.isBalloon ? StemLength : 0;
   resize(contents() + QSize(2 * Margin, 2 * Margin + stem));
 }
 
 QSize TipWindow::contents() const {
   QSize size =
       fontMetrics().boundingRect(QRect(0, 0, WidestText, 0), Qt::TextWordWrap | Qt::TextExpandTabs, tip_.Text).size();
-  if (!tip_.Title.isEmpty()) {
+  if (!tip_.title.isEmpty()) {
     const int icon = tip_.Icon == 0 ? 0 : IconSide + Gap;
-    size.setWidth(std::max(size.width(), icon + QFontMetrics(titleFont()).horizontalAdvance(tip_.Title)));
+    size.setWidth(std::max(size.width(), icon + QFontMetrics(titleFont()).horizontalAdvance(tip_.title)));
     size.rheight() += IconSide + Gap;
   }
   return size + QSize(1, 1);
 }
 
 QRect TipWindow::body() const {
-  if (!tip_.IsBalloon) return rect();
+  if (!tip_.isBalloon) return rect();
   return isAbove_ ? rect().adjusted(0, 0, 0, -StemLength) : rect().adjusted(0, StemLength, 0, 0);
 }
 
 QPainterPath TipWindow::outline() const {
   const QRectF frame = QRectF(body()).adjusted(0.5, 0.5, -0.5, -0.5);
   QPainterPath path;
-  if (!tip_.IsBalloon) {
+  if (!tip_.isBalloon) {
     path.addRect(frame);
     return path;
   }
@@ -86,14 +86,14 @@ QPainterPath TipWindow::outline() const {
 
 void TipWindow::showAt(const QPoint& pointer) {
   const QRect screen = parentWidget()->screen()->availableGeometry();
-  const int distance = tip_.IsBalloon ? 2 : BelowPointer;
+  const int distance = tip_.isBalloon ? 2 : BelowPointer;
   isAbove_ = pointer.y() + distance + height() > screen.bottom();
   const int y = isAbove_ ? pointer.y() - 2 - height() : pointer.y() + distance;
-  const int wanted = tip_.IsBalloon ? pointer.x() - StemPlace : pointer.x();
+  const int wanted = tip_.isBalloon ? pointer.x() - StemPlace : pointer.x();
   const int x = std::max(screen.left(), std::min(wanted, screen.right() - width()));
   stem_ = std::clamp(pointer.x() - x, Roundness, std::max(Roundness, width() - StemWidth - Roundness));
   move(x, y);
-  if (tip_.IsBalloon) {
+  if (tip_.isBalloon) {
     QBitmap shape(size());
     shape.clear();
     QPainter painter(&shape);
@@ -111,7 +111,7 @@ void TipWindow::paintEvent(QPaintEvent* /*event*/) {
   painter.fillPath(outline(), QColor(TranslateColor(tip_.BackColor)));
   painter.drawPath(outline());
   QRect area = body().adjusted(Margin, Margin, -Margin, -Margin);
-  if (!tip_.Title.isEmpty()) {
+  if (!tip_.title.isEmpty()) {
     QRect title = area;
     title.setHeight(IconSide);
     if (tip_.Icon != 0) {
@@ -119,7 +119,7 @@ void TipWindow::paintEvent(QPaintEvent* /*event*/) {
       title.setLeft(title.left() + IconSide + Gap);
     }
     painter.setFont(titleFont());
-    painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, tip_.Title);
+    painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, tip_.title);
     painter.setFont(font());
     area.setTop(area.top() + IconSide + Gap);
   }

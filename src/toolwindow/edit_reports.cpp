@@ -32,7 +32,7 @@ bool writeAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::
 
 bool writeAtOnce(Form2& form, QStringView step, const std::function<void()>& write) {
   platform::StatusLine& status = form.services.status;
-  form.Marking.start();
+  form.marking.start();
   return platform::guarded(status, step.toString(), [&] {
     write();
     const QString kept = QStringLiteral("Kept in the working copy; the next Update makes Save available");

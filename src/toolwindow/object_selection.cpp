@@ -22,7 +22,7 @@ void showTag(Form2& form, MarkPen pen) {
   }
   if (services.state.EditorShown) form.closeEditorFrame();
   placeMark(form, pen);
-  form.Marking.start();
+  form.marking.start();
 }
 
 }  // namespace
@@ -60,7 +60,7 @@ void showReasons(Form2& form, const renderer::RenderAccount& account) {
     if (!texts.contains(text)) texts += text;
   }
   std::set<QString> drawn;
-  for (const renderer::Drawn& object : account.objects) drawn.insert(platform::upperCase(object.section));
+  for (const renderer::DrawnObject& object : account.objects) drawn.insert(platform::upperCase(object.section));
   form.Combo3->updateSwatches();  // the squares may be those of another scheme
   for (int row = 0; row < form.List1->ListCount(); ++row) {
     const QString name = platform::upperCase(form.List1->List(row));

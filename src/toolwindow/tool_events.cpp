@@ -42,13 +42,13 @@ void connectSelection(Form2& form) {
 }
 
 void connectMarks(Form2& form) {
-  QObject::connect(&form.Marking, &QTimer::timeout, &form, [&form] {
+  QObject::connect(&form.marking, &QTimer::timeout, &form, [&form] {
     if (!form.services.queue.busy()) {
       markSaved(form);
       return;
     }
     form.services.queue.runOutside([open = QPointer<Form2>(&form)] {
-      if (open) open->Marking.start();
+      if (open) open->marking.start();
     });
   });
   // The menu key comes as this event by itself.
@@ -69,7 +69,7 @@ void connectMarks(Form2& form) {
 void connectCommit(Form2& form) {
   const auto update = [&form] { Command1_Click(form); };
   QObject::connect(form.Command1, &QPushButton::clicked, &form, update);
-  QObject::connect(&form, &Form2::EnterPressed, &form, update);
+  QObject::connect(&form, &Form2::enterPressed, &form, update);
   for (TextBox* box : {form.Text1, form.Text4, form.Text2}) QObject::connect(box, &TextBox::enter, &form, update);
 }
 

@@ -135,7 +135,7 @@ Form2::Form2(ToolServices services, QWidget* owner)
   }
   for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
   Combo3->setSwatches([this](const QString& name) { return previewColor(this->services, name); });
-  Marking.setSingleShot(true);
+  marking.setSingleShot(true);
   services.state.EditorShown = false;
   fitWindow();
   ListView1->setColumns({QStringLiteral("Item"), QStringLiteral("Value")},
@@ -222,7 +222,7 @@ void Form2::keyPressEvent(QKeyEvent* event) {
   if (!enter || !inEditorArea(focus)) return QWidget::keyPressEvent(event);
   if (event->isAutoRepeat()) return;
   auto* const button = qobject_cast<QPushButton*>(focus);
-  button != nullptr ? button->click() : Q_EMIT EnterPressed();
+  button != nullptr ? button->click() : Q_EMIT enterPressed();
 }
 
 }  // namespace toolwindow

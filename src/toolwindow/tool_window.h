@@ -99,7 +99,7 @@ class Form2 : public QWidget {
   controls::TextBox* Text2;    ///< the words
 
   ListedTags tags;
-  QTimer Marking;  ///< started by what may change which rows are marked; they are when nothing else is to be done
+  QTimer marking;  ///< started by what may change which rows are marked; they are when nothing else is to be done
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
   void ShowEditorFrame(themefiles::EditorFrame frame);
@@ -112,7 +112,7 @@ class Form2 : public QWidget {
 
  Q_SIGNALS:
   /// Enter was pressed in an editor that has no use of its own for it.
-  void EnterPressed();
+  void enterPressed();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

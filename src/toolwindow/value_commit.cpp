@@ -124,7 +124,7 @@ void commitRow(Form2& form, int row, const std::function<void(const Commit& comm
     if (platform::trimBlanks(form.List1->Text()) == commit.section) placeMark(form, MarkPen::Kept);
     form.ListView1->setFocus();
   });
-  form.Marking.start();
+  form.marking.start();
   // A drawing that waits for a running one reports beside the notes, too.
   services.queue.runOutside([telling] {});
 }

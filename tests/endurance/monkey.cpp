@@ -114,7 +114,7 @@ void Monkey::start() {
                           if (form.toolWindow != nullptr) toolwindow::listScreen(*form.toolWindow);
                         }),
                         counted([](mainwindows::Form1& form) { form.DrawScreen(); }));
-  QObject::connect(&form().queue, &controls::WorkQueue::Yielding, &form(), [this] { checkYield(); });
+  QObject::connect(&form().queue, &controls::WorkQueue::yielding, &form(), [this] { checkYield(); });
   // Both are told behind the program itself.
   QObject::connect(form().ToolBar, &toolbar::McToolBar::Click, &form(), [this](int button) {
     ++counts_[QLatin1StringView(Others.at(static_cast<size_t>(button - 1)))];
@@ -144,7 +144,7 @@ void Monkey::noteSave() {
 }
 
 void Monkey::readStatus() {
-  const QString status = form().StatusBar->Panel(1);
+  const QString status = form().StatusBar->panel(1);
   if (status == lastStatus_) return;
   lastStatus_ = status;
   for (const char* refusal : Refusals)

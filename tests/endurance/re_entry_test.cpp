@@ -146,7 +146,7 @@ Run run(const Order& wishes, bool choice, bool single, const std::vector<int>& a
   };
   QObject life;
   int yields = 0;
-  QObject::connect(&program.form.queue, &controls::WorkQueue::Yielding, &life, [&] {
+  QObject::connect(&program.form.queue, &controls::WorkQueue::yielding, &life, [&] {
     ++yields;
     for (size_t i = 0; i < at.size(); ++i) {
       if (at[i] != yields) continue;

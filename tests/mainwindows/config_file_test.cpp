@@ -22,13 +22,13 @@ class ConfigFileTest : public QObject {
     const QStringList folders{first.path({}), second.path({})};
     const ConfigFile made(folders);
     QCOMPARE(first.get(File), "[Setup]\r\nEXEDirectory=\r\n");
-    QCOMPARE(made.GameFolder(), QString());
+    QCOMPARE(made.gameFolder(), QString());
     made.setGameFolder(u"C:\\Games\\"_s);
     QCOMPARE(first.get(File), "[Setup]\r\nEXEDirectory=C:\\Games\\\r\n");
 
     const QByteArray foreign = "; mine\n[setup]\nexedirectory = \"D:\\x\\\"\nOther=1";
     first.put(File, foreign);
-    QCOMPARE(ConfigFile(folders).GameFolder(), u"D:\\x\\"_s);
+    QCOMPARE(ConfigFile(folders).gameFolder(), u"D:\\x\\"_s);
     QCOMPARE(first.get(File), foreign);
     QVERIFY(!second.has(File));
   }
@@ -41,7 +41,7 @@ class ConfigFileTest : public QObject {
       const ConfigFile config({folder, next.path({})});
       QVERIFY2(config.path() == next.path({}) + u"\\config.ini"_s && config.problem().isEmpty(), first);
       const ConfigFile none({folder});
-      QVERIFY2(none.path().isEmpty() && none.GameFolder().isEmpty(), first);
+      QVERIFY2(none.path().isEmpty() && none.gameFolder().isEmpty(), first);
       QVERIFY_THROWS_EXCEPTION(platform::Failure, none.setGameFolder(u"C:\\Games\\"_s));
     }
     QVERIFY(!ConfigFile({u"\\nowhere\\at all"_s}).problem().isEmpty());
@@ -56,7 +56,7 @@ class ConfigFileTest : public QObject {
       const QString folder = place.path(name) + u'\\';
       ConfigFile({place.path({})}).setGameFolder(folder);
       QVERIFY2(place.get(File).contains('\\' + QByteArray(stored) + "\\\r\n"), place.get(File).constData());
-      QCOMPARE(ConfigFile({place.path({})}).GameFolder(), folder);
+      QCOMPARE(ConfigFile({place.path({})}).gameFolder(), folder);
     }
   }
 };

@@ -22,7 +22,7 @@ class OpenThemeTest : public QObject {
       const GameFolder game;
       Program program(game, false);
       if (*stored != '-') program.form.config.setGameFolder(game.path() + QLatin1StringView(stored));
-      const QString before = program.form.config.GameFolder();
+      const QString before = program.form.config.gameFolder();
       program.dialogs.files = {chosen ? game.path() + u"Vocora.exe"_s : QString()};
       const bool came = program.openDialog([&](Form3& dialog) {
         QCOMPARE(dialog.windowTitle(), u"Open Theme ["_s + game.path() + u']');
@@ -30,7 +30,7 @@ class OpenThemeTest : public QObject {
       });
       QCOMPARE(came, dialogComes);
       QCOMPARE(program.dialogs.asked.size(), *stored == 0 ? 0 : 1);
-      QCOMPARE(program.form.config.GameFolder(), dialogComes ? game.path() : before);
+      QCOMPARE(program.form.config.gameFolder(), dialogComes ? game.path() : before);
       QVERIFY(program.form.toolWindow == nullptr && !program.enabled(3));
       // The same folder without themes.
       program.dialogs.files = {game.path() + u"Vocora.exe"_s};

@@ -175,7 +175,7 @@ class SessionTest : public ProgramTest {
     for (const auto& [place, text] : places) {  // the first lies on the mark
       QMouseEvent move(QEvent::MouseMove, place, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
       QApplication::sendEvent(program->form.Workspace, &move);
-      QCOMPARE(program->form.StatusBar->Panel(2), QLatin1StringView(text));
+      QCOMPARE(program->form.StatusBar->panel(2), QLatin1StringView(text));
     }
   }
 

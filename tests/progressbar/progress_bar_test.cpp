@@ -120,8 +120,8 @@ class ProgressBarTest : public QObject {
       Palette palette;
       bar.Theme = theme;
       loadPalette(palette, bar);
-      return QList<quint32>{palette.TrackFirst.End, palette.FilledFirst.Start, palette.FilledFirst.End,
-                            palette.FilledSecond.End, palette.outline};
+      return QList<quint32>{palette.trackFirst.end, palette.filledFirst.start, palette.filledFirst.end,
+                            palette.filledSecond.end, palette.outline};
     };
     bar.PBSCustomeColor1 = 0x0050C8;
     QCOMPARE(colors(10), (QList<quint32>{0xF2F2F2, 0xB4FFFF, 0x3282FA, 0x50A0FF, 0x0050C8}));

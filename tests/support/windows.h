@@ -130,7 +130,7 @@ class Program {
 
   toolwindow::Form2& tools() const { return *form.toolWindow; }
   const QImage& picture() const { return form.Workspace->surface().image(); }
-  QString status() const { return form.StatusBar->Panel(1).mid(11); }  ///< without the time
+  QString status() const { return form.StatusBar->panel(1).mid(11); }  ///< without the time
   bool enabled(int button) const { return form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool(); }
   /// Which of the toolbar's buttons are enabled: "+--+".
   QString buttons() const {

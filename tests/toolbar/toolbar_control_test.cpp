@@ -49,7 +49,7 @@ struct Record : toolbar::Events, toolbar::Windows {
   void KillTimer() override {}
   void StartLeaveTracking(SurfaceName /*surface*/) override {}
   void ShowToolTip(const toolbar::ToolTip& tip) override {
-    words += QStringLiteral("tip|%1|%2|%3|%4").arg(tip.Title, tip.Text).arg(tip.Icon).arg(tip.IsBalloon);
+    words += QStringLiteral("tip|%1|%2|%3|%4").arg(tip.title, tip.Text).arg(tip.Icon).arg(tip.isBalloon);
   }
   void DestroyToolTip() override {}
 

@@ -75,7 +75,7 @@ struct Sheet : toolbar::ModelView {
     bool backgroundDrawn = false;
     toolbar::paint(surface, {model, layout.HiddenButtons, size, isMain, false, true}, backgroundDrawn);
   }
-  QByteArrayList letters() const { return lettersOf(surface.Image()); }
+  QByteArrayList letters() const { return lettersOf(surface.raster()); }
 
   void PropertyChanged(QStringView /*name*/) override {}
   void react(toolbar::Effect /*effect*/) override {}
@@ -83,7 +83,7 @@ struct Sheet : toolbar::ModelView {
   toolbar::Model model{*this, QFont()};
   Properties values;
   std::vector<ToolbarButton> buttons{4};
-  toolbar::Surface surface;
+  toolbar::ButtonSurface surface;
   QSize size{24, 16};
   int index = 2;
   bool isMain = true;
@@ -249,14 +249,14 @@ LLLLLLLLLLLLLLLLLLLLLLLL ........................ ........................
       sheet.buttons[0].IconAlignment = row.alignment;
       sheet.buttons[0].Enabled = row.enabled;
       sheet.paint();
-      drawing::Raster expected = sheet.surface.Image();
+      drawing::Raster expected = sheet.surface.raster();
       const QRgb color = row.enabled ? qRgb(200, 0, 0) : qRgb(128, 128, 128);
       for (const auto& [line, area] : row.lines) {
         drawing::drawText(expected, font, QString::fromLatin1(line), area, color);
       }
       sheet.buttons[0].Caption = QString::fromLatin1(row.caption);
       sheet.paint();
-      QVERIFY2(sheet.surface.Image().image() == expected.image(), qPrintable(QString::number(row.alignment)));
+      QVERIFY2(sheet.surface.raster().image() == expected.image(), qPrintable(QString::number(row.alignment)));
     }
   }
 

@@ -13,7 +13,7 @@ namespace {
 class Outcomes {
  public:
   explicit Outcomes(const renderer::RenderAccount& account) {
-    for (const renderer::Drawn& object : account.objects) drawn_.insert(platform::upperCase(object.section));
+    for (const renderer::DrawnObject& object : account.objects) drawn_.insert(platform::upperCase(object.section));
     for (const renderer::LeftOut& entry : account.missing) {
       QStringList& reasons = reasons_[platform::upperCase(entry.section)];
       const QString reason = renderer::reasonText(entry);
@@ -46,7 +46,7 @@ std::vector<ReportRow> rowsOf(const QString& background, const themefiles::TagLi
                               const renderer::RenderAccount& account) {
   QStringList sections{background};
   for (int row = 0; row < tags.ListCount(); ++row) sections += tags.List(row);
-  for (const renderer::Drawn& object : account.objects) sections += object.section;
+  for (const renderer::DrawnObject& object : account.objects) sections += object.section;
   for (const renderer::LeftOut& entry : account.missing) sections += entry.section;
   const Outcomes outcomes(account);
   QSet<QString> told;

@@ -103,7 +103,7 @@ void ControlPictures::showProgress(const std::function<void()>& render) const {
     bar.SetValue(present);
     bar.SetText(QStringLiteral("%1%").arg(present));
   };
-  const auto watched = QObject::connect(&form_.queue, &controls::WorkQueue::Yielding, show);
+  const auto watched = QObject::connect(&form_.queue, &controls::WorkQueue::yielding, show);
   render();
   QObject::disconnect(watched);
   if (!waiting.isEmpty()) throw platform::Failure(QStringLiteral("the render yields too seldom"));

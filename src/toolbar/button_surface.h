@@ -5,12 +5,12 @@
 namespace toolbar {
 
 /// The pixels that buttons are drawn on, and what a wipe restores.
-class Surface {
+class ButtonSurface {
  public:
   static constexpr int LargestSide = 16384;
 
-  drawing::Raster& Image() { return image_; }
-  const drawing::Raster& Image() const { return image_; }
+  drawing::Raster& raster() { return image_; }
+  const drawing::Raster& raster() const { return image_; }
   int ScaleWidth() const { return image_.Width(); }
   int ScaleHeight() const { return image_.Height(); }
 

@@ -9,7 +9,7 @@
 namespace toolbar {
 
 /// The number as an int; throws std::overflow_error when it doesn't fit.
-inline int whole(qint64 number) {
+inline int checkedInt(qint64 number) {
   if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max()) {
     throw std::overflow_error("a measure beyond its range");
   }
@@ -17,10 +17,10 @@ inline int whole(qint64 number) {
 }
 
 /// The nearest whole number, a half to the even neighbour.
-inline int nearest(double number) {
+inline int nearestInt(double number) {
   constexpr double limit = 1e15;
   if (!(std::abs(number) < limit)) throw std::overflow_error("a measure beyond its range");
-  return whole(qint64(std::nearbyint(number)));
+  return checkedInt(qint64(std::nearbyint(number)));
 }
 
 }  // namespace toolbar

@@ -1,4 +1,4 @@
-#include "toolbar/surface.h"
+#include "toolbar/button_surface.h"
 
 #include <algorithm>
 
@@ -16,7 +16,7 @@ void copyOnto(drawing::Raster& raster, const QImage& picture) {
 
 }  // namespace
 
-void Surface::resize(const QSize& size) {
+void ButtonSurface::resize(const QSize& size) {
   const QSize fitting(std::clamp(size.width(), 0, LargestSide), std::clamp(size.height(), 0, LargestSide));
   if (fitting == image_.image().size()) return;
   const QImage before = image_.image();
@@ -24,12 +24,12 @@ void Surface::resize(const QSize& size) {
   copyOnto(image_, before);
 }
 
-void Surface::Cls() {
+void ButtonSurface::Cls() {
   if (picture_.size() != image_.image().size()) image_.wipe(backColor_);
   copyOnto(image_, picture_);
 }
 
-void Surface::clearPicture() {
+void ButtonSurface::clearPicture() {
   picture_ = QImage();
   image_.wipe(backColor_);
 }
