@@ -36,14 +36,14 @@ bool endsRun(const ModuleState& state, const QString& stem, const QString& line)
                      [&](const ScreenRow& row) { return row.Stem != stem && row.Stem == name; });
 }
 
-void listTags(const ModuleState& state, const QString& screenName, TagList& tags,
-              const std::function<void()>& doEvents) {
+/// Calls `add` with each tag of the screen's run that the filter lets through. `next` gives the theme's lines, or only
+/// those that start with "[".
+template <typename Next, typename Add>
+void listTags(const ModuleState& state, const TagFilter& filter, const QString& screenName, Next next, Add add) {
   const QString stem = stemOf(state, screenName);
   const QString head = u'[' + platform::upperCase(stem);
-  const QByteArray file = platform::readFile(state.paths.ThemeFile);
-  platform::TextLines lines(file);
   bool found = false;
-  while (const auto bytes = lines.next()) {
+  while (const std::optional<QByteArrayView> bytes = next()) {
     if (!bytes->startsWith('[')) continue;
     if (found && endsRun(state, stem, platform::fromAnsi(*bytes))) break;
     // A letter is a byte, in upper case too: most lines of a large theme go by their first ones.
@@ -51,9 +51,8 @@ void listTags(const ModuleState& state, const QString& screenName, TagList& tags
     if (platform::upperCase(platform::fromAnsi(first)) != head) continue;
     const QString line = platform::fromAnsi(*bytes);
     const QString tag = line.mid(1, line.size() - 2);
-    if (SplitTags(state.Filter, tag)) continue;
-    tags.AddItem(tag);
-    doEvents();
+    if (SplitTags(filter, tag)) continue;
+    add(tag);
     found = true;
   }
 }
@@ -81,10 +80,35 @@ bool SplitTags(const TagFilter& filter, const QString& Tag) {
   return leftOut;
 }
 
+ScreenTags::ScreenTags(QByteArrayView theme) {
+  platform::TextLines lines(theme);
+  while (const auto line = lines.next()) {
+    if (line->startsWith('[')) heads_.push_back(*line);
+  }
+}
+
+QStringList ScreenTags::of(const ModuleState& state, const QString& screenName) const {
+  SortedTags tags;
+  auto head = heads_.begin();
+  listTags(
+      state, filterOf(screenName), screenName,
+      [&] { return head == heads_.end() ? std::nullopt : std::optional(*head++); },
+      [&](const QString& tag) { tags.AddItem(tag); });
+  return tags.rows();
+}
+
 int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
              const std::function<void()>& DoEvents) {
-  const bool read = platform::guarded(status, QStringLiteral("Error while reading Tags"),
-                                      [&] { listTags(state, screenName, tags, DoEvents); });
+  const bool read = platform::guarded(status, QStringLiteral("Error while reading Tags"), [&] {
+    const QByteArray file = platform::readFile(state.paths.ThemeFile);
+    platform::TextLines lines(file);
+    listTags(
+        state, state.Filter, screenName, [&] { return lines.next(); },
+        [&](const QString& tag) {
+          tags.AddItem(tag);
+          DoEvents();
+        });
+  });
   if (!read || tags.ListCount() == 0) return -1;
   const int picked = tags.ListIndex();
   tags.SetListIndex(0);

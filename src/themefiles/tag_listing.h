@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
+#include <QByteArrayView>
 #include <QStringList>
 
 #include "platform/status_line.h"
@@ -49,6 +51,18 @@ int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags,
 /// ReadTags with the filter that the screen asks for; the state has none before and after.
 int listScreenTags(ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
                    const std::function<void()>& DoEvents);
+
+
+/// What ReadTags lists of each screen under the screen's own filter, for who asks for many screens.
+class ScreenTags {
+ public:
+  /// Of a theme's bytes, which have to stay.
+  explicit ScreenTags(QByteArrayView theme);
+  QStringList of(const ModuleState& state, const QString& screenName) const;
+
+ private:
+  std::vector<QByteArrayView> heads_;  ///< the lines that start with "["
+};
 
 /// Whether the filter leaves the tag out.
 bool SplitTags(const TagFilter& filter, const QString& Tag);

@@ -14,6 +14,11 @@ bool isKeyLine(QByteArrayView line) {
   return !line.isEmpty() && line.front() != '#' && line.front() != ';' && line.contains('=');
 }
 
+/// A key line as the grid shows it; `parts` are those of the line at its "=".
+ValueRow rowOf(const QStringList& parts) {
+  return {parts[0], platform::trimBlanks(parts[1])};
+}
+
 /// Where a key's text goes in the record; null for a key that the record lacks.
 QString* textField(CursorRecord& record, const QString& key) {
   if (key == u"X") return &record.X;
@@ -65,11 +70,28 @@ std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platfo
     for (line = lines.next(); line && !line->startsWith('['); line = lines.next()) {
       if (!isKeyLine(*line)) continue;
       const QStringList parts = platform::fromAnsi(*line).split(u'=');
-      rows.push_back({parts[0], platform::trimBlanks(parts[1])});
+      rows.push_back(rowOf(parts));
       updateRecord(state.CursorRect, platform::upperCase(platform::trimBlanks(parts[0])), parts[1], status);
     }
   });
   return rows;
+}
+
+QHash<QString, std::vector<ValueRow>> allTags(QByteArrayView theme) {
+  QHash<QString, std::vector<ValueRow>> tags;
+  std::vector<ValueRow>* rows = nullptr;
+  platform::TextLines lines(theme);
+  while (const auto line = lines.next()) {
+    if (line->startsWith('[')) {
+      rows = nullptr;
+      if (line->size() < 2 || !line->endsWith(']')) continue;
+      const QString name = platform::upperCase(platform::fromAnsi(line->sliced(1).chopped(1)));
+      if (!tags.contains(name)) rows = &tags[name];
+    } else if (rows != nullptr && isKeyLine(*line)) {
+      rows->push_back(rowOf(platform::fromAnsi(*line).split(u'=')));
+    }
+  }
+  return tags;
 }
 
 }  // namespace themefiles

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include <QByteArrayView>
+#include <QHash>
 #include <QString>
 
 #include "platform/status_line.h"
@@ -20,5 +22,8 @@ struct ValueRow {
 /// isn't there gives no rows. A file that can't be read, a SIZE beyond 16 bits and a FONT outside a byte are reported;
 /// the record's field then stays.
 std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platform::StatusLine& status);
+
+/// The rows of all sections of a theme, as ReadTag gives them; by the name in upper case.
+QHash<QString, std::vector<ValueRow>> allTags(QByteArrayView theme);
 
 }  // namespace themefiles

@@ -5,6 +5,7 @@
 #include "themefiles/screen_table.h"
 #include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
+#include "themefiles/theme_search.h"
 
 using namespace themefiles;
 using namespace support;
@@ -163,6 +164,49 @@ class ThemeReadingTest : public QObject {
              {"[S] |a=1|[S]|b=2|[S]|c=3", u"b:2"_s},
          }) {
       QCOMPARE(Theme(theme).rowsOfS(), rows);
+    }
+  }
+
+  void finds() {
+    Theme theme(
+        "[Main]|[MainStaticBar]|X=120|x=7|#Y=1|Color=Red=|[MainTextGo]|Size=9|Text=\"Go\"|Text=OWN|[MainTextOwn]|X=1|"
+        "[MainStaticBar]|X=5|[Song]|[SongStaticParty]|X=1|[SongTextGo]|text= "
+        "GO|[SongMenu]|[ErrorPopup]|Text=|[Stray]|");
+    theme.folder.put(u"l.ini"_s, linesOf("[Text]|GO='Los, gr\xFC\xDF Gott'|go=other|MAINTEXTOWN=own words|SPARE=x|"));
+    theme.state.paths.LanguageFile = theme.folder.path(u"l.ini"_s);
+    const ThemeSearch search(theme.state);
+    // What is typed, and the hits with their rows.
+    for (const auto& [typed, found] : {
+             std::pair(u" "_s, QString()),
+             {u"spare"_s, QString()},
+             {u"stray"_s, QString()},
+             {u"Y=1"_s, QString()},
+             {u"main red nosuch"_s, QString()},
+             {u" STATICBAR  x=120 "_s, u"Main Screen, MainStaticBar: X = 120 @0"_s},
+             {u"x=7"_s, u"Main Screen, MainStaticBar: x = 7 @1"_s},
+             {u"x=5"_s, QString()},
+             {u"120 red"_s, u"Main Screen, MainStaticBar: X = 120 @0"_s},
+             {u"red 120 color"_s, u"Main Screen, MainStaticBar: Color = Red @2"_s},
+             {u"GRÜß los"_s,
+              u"Main Screen, MainTextGo: Text = \"Go\", Los, grüß Gott @1|"
+              "Song Screen (Single), SongTextGo: text = GO, Los, grüß Gott @0|"
+              "Song Screen (Party), SongTextGo: text = GO, Los, grüß Gott @0"_s},
+             {u"words"_s, u"Main Screen, MainTextOwn: own words @-1"_s},
+             {u"staticparty"_s, u"Song Screen (Party), SongStaticParty @-1"_s},
+             {u"errorpopup"_s, u"Error Popup, ErrorPopup @-1"_s},
+             {u"song menu"_s, u"Song Menu @-1|Song Menu, SongMenu @-1"_s},
+             {u"single song"_s,
+              u"Song Screen (Single) @-1|Song Screen (Single), Song @-1|"
+              "Song Screen (Single), SongTextGo @-1|and 1"_s},
+             {u"song"_s,
+              u"Song Screen (Single), Song @-1|Song Screen (Party), Song @-1|"
+              "Song Screen (Single) @-1|and 9"_s},
+         }) {
+      const Hits hits = search.find(typed, 3);
+      QStringList shown;
+      for (const Hit& hit : hits.first) shown += hit.shown + u" @%1"_s.arg(hit.row);
+      if (hits.count > 3) shown += u"and %1"_s.arg(hits.count - 3);
+      QCOMPARE(shown.join(u'|'), found);
     }
   }
 

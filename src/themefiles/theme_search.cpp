@@ -1,0 +1,144 @@
+#include "themefiles/theme_search.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/code_page.h"
+#include "platform/files.h"
+#include "platform/profile_strings.h"
+#include "themefiles/key_table.h"
+#include "themefiles/tag_listing.h"
+#include "themefiles/tag_reader.h"
+
+namespace themefiles {
+namespace {
+
+// How well an entry fits, the best first.
+enum Rank { SameName, InNames, InLines, NoHit };
+
+bool inLines(const auto& lines, const QString& word) {
+  return std::any_of(lines.begin(), lines.end(), [&](const auto& line) { return line.upper.contains(word); });
+}
+
+}  // namespace
+
+/// The files while they are read.
+class ThemeSearch::Reading {
+ public:
+  explicit Reading(const ModuleState& state)
+      : theme_(platform::readFile(state.paths.ThemeFile)),
+        language_(platform::readFile(state.paths.LanguageFile)),
+        tags_(theme_),
+        rows_(allTags(theme_)),
+        sections_(theme_),
+        words_(platform::profileKeys(platform::ProfileSections(language_).lines("Text"))) {}
+
+  const ScreenTags& tags() const { return tags_; }
+  /// The lines of an object. Screens share them.
+  std::shared_ptr<const Lines> linesOf(const QString& object) {
+    std::shared_ptr<const Lines>& known = lines_[object];
+    if (!known) known = std::make_shared<const Lines>(newLines(object));
+    return known;
+  }
+
+ private:
+  Lines newLines(const QString& object) const {
+    Lines lines;
+    const QString words = wordsOf(object);
+    bool told = words.isEmpty();
+    int number = 0;
+    for (const ValueRow& row : rows_.value(platform::upperCase(object))) {
+      Line line{number++, row.Item, row.Item + QStringLiteral(" = ") + row.Value, row.Item + u'=' + row.Value};
+      if (!told && keyIdentity(row.Item) == u"TEXT") {
+        line.shown += QStringLiteral(", ") + words;
+        line.upper += u'\n' + words;
+        told = true;
+      }
+      line.upper = platform::upperCase(line.upper);
+      lines.push_back(std::move(line));
+    }
+    if (!told) lines.push_back({-1, {}, words, platform::upperCase(words)});
+    return lines;
+  }
+
+  /// What the language has for the object: under its Text, or under its name without one.
+  QString wordsOf(const QString& object) const {
+    const QByteArray name = platform::toAnsi(object).value_or(QByteArray());
+    const QByteArray key = platform::findProfileValue(sections_.lines(name), "Text").value_or(name);
+    const platform::ProfileLine* line = key.isEmpty() ? nullptr : platform::lineOf(words_, key);
+    return line == nullptr ? QString() : platform::fromAnsi(platform::unquoted(line->value));
+  }
+
+  QByteArray theme_, language_;
+  ScreenTags tags_;
+  QHash<QString, std::vector<ValueRow>> rows_;
+  platform::ProfileSections sections_;
+  platform::ProfileKeys words_;
+  QHash<QString, std::shared_ptr<const Lines>> lines_;
+};
+
+ThemeSearch::ThemeSearch(const ModuleState& state) {
+  Reading files(state);
+  for (const ScreenRow& screen : state.ScreenTable) {
+    const QString upperScreen = platform::upperCase(screen.Name);
+    entries_.push_back({screen.Name, {}, upperScreen, {}, std::make_shared<const Lines>()});
+    for (const QString& object : files.tags().of(state, screen.Name)) {
+      if (entries_.back().object == object) continue;  // a section that is there twice
+      entries_.push_back({screen.Name, object, upperScreen, platform::upperCase(object), files.linesOf(object)});
+    }
+  }
+}
+
+int ThemeSearch::rankOf(const Entry& entry, const QStringList& words) {
+  int rank = InNames;
+  for (const QString& word : words) {
+    if (entry.upperScreen.contains(word) || entry.upperObject.contains(word)) continue;
+    if (!inLines(*entry.lines, word)) return NoHit;
+    rank = InLines;
+  }
+  const QString whole = words.join(u' ');
+  return whole == entry.upperObject || (entry.object.isEmpty() && whole == entry.upperScreen) ? SameName : rank;
+}
+
+Hit ThemeSearch::hitOf(const Entry& entry, const QStringList& words) {
+  Hit hit{entry.screen, entry.object, -1, {}, entry.screen};
+  if (!entry.object.isEmpty()) hit.shown += QStringLiteral(", ") + entry.object;
+  // The line that has most of what the names don't have.
+  const Line* best = nullptr;
+  qsizetype bestCount = 0;
+  for (const Line& line : *entry.lines) {
+    const qsizetype count = std::count_if(words.begin(), words.end(), [&](const QString& word) {
+      return line.upper.contains(word) && !entry.upperScreen.contains(word) && !entry.upperObject.contains(word);
+    });
+    if (count <= bestCount) continue;
+    best = &line;
+    bestCount = count;
+  }
+  if (best == nullptr) return hit;
+  hit.row = best->row;
+  hit.key = best->key;
+  hit.shown += QStringLiteral(": ") + best->shown;
+  return hit;
+}
+
+Hits ThemeSearch::find(const QString& typed, int most) const {
+  const QStringList words = platform::upperCase(typed).split(u' ', Qt::SkipEmptyParts);
+  if (words.isEmpty()) return {};
+  std::array<std::vector<const Entry*>, NoHit> found;
+  Hits hits;
+  for (const Entry& entry : entries_) {
+    const int rank = rankOf(entry, words);
+    if (rank == NoHit) continue;
+    found.at(rank).push_back(&entry);
+    ++hits.count;
+  }
+  for (const auto& entries : found) {
+    for (const Entry* entry : entries) {
+      if (static_cast<int>(hits.first.size()) == most) return hits;
+      hits.first.push_back(hitOf(*entry, words));
+    }
+  }
+  return hits;
+}
+
+}  // namespace themefiles
