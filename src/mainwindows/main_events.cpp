@@ -12,6 +12,7 @@
 #include "mainwindows/theme_session.h"
 #include "platform/numbers.h"
 #include "toolbar/button_values.h"
+#include "toolwindow/finder_window.h"
 #include "toolwindow/object_selection.h"
 
 namespace mainwindows {
@@ -92,6 +93,9 @@ void connectEvents(Form1& form) {
   connectToolBar(form);
   onShortcut(form, QKeySequence(Qt::Key_F6), [&form] { goToOtherWindow(form); });
   QObject::connect(&form, &Form1::closeAsked, &form, [&form] { end(form); });
+  onShortcut(form, QKeySequence(QStringLiteral("Ctrl+F")), [&form] {
+    if (form.toolWindow != nullptr) toolwindow::showFinder(*form.toolWindow);
+  });
   QObject::connect(form.Combo1, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
     if (cause == controls::Cause::User) form.queue.draw();
   });

@@ -16,6 +16,9 @@ inline constexpr QStringView ReadStep = u"Error while reading Value";
 /// What it says of one that is too long (see controls::LongestText).
 QString tooLongText(const QString& key);
 
+/// Report of a find that leads nowhere.
+inline constexpr QStringView FindStep = u"Error while finding";
+
 /// Report of a write that did not reach the file.
 inline constexpr QStringView WriteStep = u"Error while writing tempfile";
 

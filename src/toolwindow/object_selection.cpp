@@ -2,14 +2,18 @@
 
 #include <map>
 #include <set>
+#include <utility>
 
 #include <QSignalBlocker>
 
 #include "platform/code_page.h"
+#include "platform/failure.h"
 #include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
+#include "toolwindow/edit_reports.h"
 #include "toolwindow/mark_placing.h"
 #include "toolwindow/tool_window.h"
+#include "toolwindow/value_grid.h"
 
 namespace toolwindow {
 namespace {
@@ -25,6 +29,37 @@ void showTag(Form2& form, MarkPen pen) {
   form.marking.start();
 }
 
+void pickObject(Form2& form, const themefiles::Hit& hit) {
+  int row = 0;
+  while (row < form.List1->ListCount() && form.List1->List(row) != hit.object) ++row;
+  if (row == form.List1->ListCount()) throw platform::Failure(QStringLiteral("%1 is gone").arg(hit.object));
+  pickTag(form, row);
+}
+
+void pickRow(Form2& form, const themefiles::Hit& hit) {
+  if (hit.row >= form.ListView1->rowCount() || form.ListView1->rowText(hit.row) != hit.key) {
+    throw platform::Failure(QStringLiteral("%1 of %2 is gone").arg(hit.key, hit.object));
+  }
+  form.ListView1->selectRow(hit.row);
+  ListView1_ItemClick(form, hit.row);
+}
+
+QWidget* focusFor(const Form2& form, const themefiles::Hit& hit) {
+  if (hit.row >= 0) return form.ListView1;
+  return hit.object.isEmpty() ? static_cast<QWidget*>(form.Combo1) : form.List1;
+}
+
+/// The list of the present screen is complete: picks the object and the row that are waited for.
+void pickAwaited(Form2& form) {
+  if (!form.awaited) return;
+  const themefiles::Hit hit = *std::exchange(form.awaited, std::nullopt);
+  if (hit.screen != form.Combo1->Text() || hit.object.isEmpty()) return;
+  platform::guarded(form.services.status, FindStep.toString(), [&] {
+    pickObject(form, hit);
+    if (hit.row >= 0) pickRow(form, hit);
+  });
+}
+
 }  // namespace
 
 void listScreen(Form2& form) {
@@ -32,15 +67,18 @@ void listScreen(Form2& form) {
   themefiles::ModuleState& state = services.state;
   state.ButtonListFilled = false;
   form.List1->Clear();
+  form.listed.clear();
   const QString screen = form.Combo1->Text();
   const int picked =
       themefiles::listScreenTags(state, screen, form.tags, services.status, [&] { services.queue.yield(); });
-  if (picked < 0) return;
-  // A tag that the user has picked while the list was filling stays picked.
-  pickTag(form, picked);
+  form.listed = screen;
+  // A tag that the user has picked while the list was filling stays picked, and outranks what is waited for.
+  if (picked >= 0 && !form.awaited) pickTag(form, picked);
+  pickAwaited(form);
 }
 
 void List1_Click(Form2& form, controls::Cause cause) {
+  if (cause == controls::Cause::User) form.awaited.reset();
   showTag(form, cause == controls::Cause::User ? MarkPen::Kept : MarkPen::Left);
 }
 
@@ -50,6 +88,17 @@ void pickTag(Form2& form, int row) {
     form.List1->SetListIndex(row);
   }
   List1_Click(form, controls::Cause::User);
+}
+
+void goToHit(Form2& form, const themefiles::Hit& hit) {
+  form.activateWindow();
+  focusFor(form, hit)->setFocus();
+  form.awaited = hit;
+  if (form.Combo1->Text() != hit.screen) {
+    platform::guarded(form.services.status, FindStep.toString(), [&] { form.Combo1->SetText(hit.screen); });
+  } else if (form.listed == hit.screen) {
+    pickAwaited(form);
+  }
 }
 
 void showReasons(Form2& form, const renderer::RenderAccount& account) {

@@ -2,6 +2,7 @@
 
 #include "controls/cause.h"
 #include "renderer/render_account.h"
+#include "themefiles/theme_search.h"
 
 namespace toolwindow {
 
@@ -16,6 +17,11 @@ void List1_Click(Form2& form, controls::Cause cause);
 
 /// Chooses the object of the row as the user's click in the list would.
 void pickTag(Form2& form, int row);
+
+/// Goes to a screen, an object and a row of the grid as the user's clicks on them would; the present screen isn't
+/// chosen again. Object and row follow when the screen's list is there, unless the user has chosen something else by
+/// then. What isn't there any more is reported.
+void goToHit(Form2& form, const themefiles::Hit& hit);
 
 /// Tells on each row why its object isn't drawn, as a tool tip, and shows the rows of those that weren't in grey.
 void showReasons(Form2& form, const renderer::RenderAccount& account);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QGroupBox>
@@ -21,6 +22,7 @@
 #include "themefiles/key_table.h"
 #include "themefiles/module_state.h"
 #include "themefiles/tag_listing.h"
+#include "themefiles/theme_search.h"
 #include "toolwindow/tool_layout.h"
 
 namespace toolwindow {
@@ -99,6 +101,8 @@ class Form2 : public QWidget {
   controls::TextBox* Text2;    ///< the words
 
   ListedTags tags;
+  QString listed;                          ///< the screen whose list is complete; empty while one is filling
+  std::optional<themefiles::Hit> awaited;  ///< is gone to when its screen's list is complete
   QTimer marking;  ///< started by what may change which rows are marked; they are when nothing else is to be done
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.

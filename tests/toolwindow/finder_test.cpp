@@ -1,0 +1,115 @@
+#include <QSignalSpy>
+
+#include "support/real_input.h"
+#include "toolwindow/finder_window.h"
+
+using namespace support;
+using toolwindow::FinderWindow;
+using toolwindow::Form2;
+
+/// The way from words to the screen, the object and the row that have them.
+class FinderTest : public ProgramTest {
+  Q_OBJECT
+
+ private:
+  /// Opens the finder by its keys and types.
+  FinderWindow& find(const char* text) const {
+    key(program->tools(), Qt::Key_F, Qt::ControlModifier);
+    auto* finder = program->tools().findChild<FinderWindow*>();
+    if (finder == nullptr || !QTest::qWaitForWindowActive(finder)) qFatal("no finder");
+    letters(*finder, text);
+    return *finder;
+  }
+  /// Screen, object and row that are chosen: "Main Screen/MainStaticA/X".
+  QString place() const {
+    const Form2& tools = program->tools();
+    const QString row = tools.ListView1->rowText(tools.ListView1->selectedRow());
+    return QStringList{tools.Combo1->Text(), tools.List1->Text(), row}.join(u'/');
+  }
+
+ private Q_SLOTS:
+  void goes() {
+    const Form2& tools = program->tools();
+    QSignalSpy chosen(tools.Combo1, &controls::ComboBox::Click);
+    for (const auto& [typed, downs, expected, choices] :
+         {std::tuple{"there hello textfree", 0, u"Loading Screen/LoadingTextFree/Text"_s, 0},
+          {"there hello textfree", 1, u"Main Screen/MainTextFree/Text"_s, 1},
+          {"x=10 static", 0, u"Main Screen/MainStaticA/X"_s, 0},
+          {"mainstatica", 9, u"Main Screen/MainStaticA/"_s, 0},
+          {"check pop", 0, u"Check Popup//"_s, 1},
+          {"colr", 0, u"Loading Screen/LoadingStaticA/ColR"_s, 1}}) {
+      chosen.clear();
+      FinderWindow& finder = find(typed);
+      for (int i = 0; i < downs; ++i) key(finder, Qt::Key_Down);
+      key(finder, Qt::Key_Return);
+      QVERIFY(!finder.isVisible());
+      QCOMPARE(place(), expected);
+      QCOMPARE(chosen.size(), choices);
+      if (expected.endsWith(u"Text")) QCOMPARE(tools.Text2->Text(), u"Hello there"_s);
+      if (expected.endsWith(u"X") || expected.endsWith(u"ColR")) QVERIFY(tools.focusWidget() == tools.ListView1);
+    }
+    FinderWindow& finder = find("selecth");
+    const QRect row = finder.List->visualItemRect(finder.List->item(0));
+    QTest::mouseDClick(finder.List->viewport(), Qt::LeftButton, {}, row.center());
+    QCOMPARE(place(), u"Loading Screen/LoadingButtonGo/SelectH"_s);
+  }
+
+  /// A hit that is chosen while a screen is listed or drawn, at each of its yields; a later choice outranks it.
+  void goesDuringWork() {
+    for (const auto& [screen, later] : {std::pair{u"Main Screen"_s, QString()},
+                                        {u"Level Screen"_s, QString()},
+                                        {u"Level Screen"_s, u"Loading Screen"_s}}) {
+      for (int at = 1; at <= 12; ++at) {
+        program->screen(u"Loading Screen"_s);
+        int yields = 0;
+        QObject life;
+        connect(&program->form.queue, &controls::WorkQueue::Yielding, &life, [&] {
+          if (++yields != at) return;
+          key(find("mainstatica x=10"), Qt::Key_Return);
+          if (!later.isEmpty()) program->screen(later);
+        });
+        program->screen(screen);
+        if (yields < at) break;
+        QCOMPARE(place(), later.isEmpty() ? u"Main Screen/MainStaticA/X"_s : u"Loading Screen/Loading/"_s);
+      }
+    }
+  }
+
+  void tellsWhatIsGone() {
+    for (const auto& [section, told] :
+         {std::pair{"[MainStaticA]\r\nY=1\r\n", u"X of MainStaticA"_s}, {"[Main]\r\n", u"MainStaticA"_s}}) {
+      program->screen(u"Loading Screen"_s);
+      FinderWindow& finder = find("mainstatica x=10");
+      const QByteArray before = game->get(ThemeCopy);
+      game->put(ThemeCopy, section);
+      key(finder, Qt::Key_Return);
+      QVERIFY2(program->status().startsWith(u"Error while finding [%1 is gone]"_s.arg(told)),
+               qPrintable(program->status()));
+      game->put(ThemeCopy, before);
+    }
+  }
+
+  void comesAndGoes() {
+    Form2& tools = program->tools();
+    tools.ListView1->setFocus();
+    FinderWindow& finder = find("hello");
+    QCOMPARE(finder.windowTitle(), u"Find: 2"_s);
+    key(finder, Qt::Key_Escape);
+    QVERIFY(!finder.isVisible() && QTest::qWaitForWindowActive(&tools) && tools.ListView1->hasFocus());
+    QByteArray many = "[Main]|";
+    for (int i = 0; i < 400; ++i) many += "[MainObject" + QByteArray::number(i) + "]|";
+    game->put(ThemeCopy, linesOf(many));
+    find("mainobject");  // in place of the words that are there
+    QCOMPARE(finder.windowTitle(), u"Find: the first 300 of 400"_s);
+    QCOMPARE(finder.List->ListCount(), 300);
+    const QPointer<FinderWindow> open = &finder;
+    program->click(3);
+    settle();
+    QVERIFY(open == nullptr || !open->isVisible());
+    key(program->form, Qt::Key_F, Qt::ControlModifier);
+    QVERIFY(program->form.findChild<FinderWindow*>() == nullptr);
+  }
+};
+
+QTEST_MAIN(FinderTest)
+#include "finder_test.moc"
