@@ -33,6 +33,7 @@ void registerScreen(const std::shared_ptr<SampleScreen>& screen);
 /// whether that is little enough.
 bool drawHeavyDrag();
 void registerThemeCheck();
+void registerFinding();
 void registerShownScreen(const std::shared_ptr<SampleScreen>& screen);
 void registerListing();
 /// The screen in a large theme; gives it for its gap.

@@ -107,6 +107,7 @@ int main(int argc, char** argv) {
   bench::registerListing();
   const std::shared_ptr<bench::SampleScreen> large = bench::registerLargeTheme(*screen);
   bench::registerThemeCheck();
+  bench::registerFinding();
   bench::Medians medians;
   benchmark::RunSpecifiedBenchmarks(&medians);
   bool reached = bench::printTable(medians, {screen, large});

@@ -19,8 +19,8 @@ constexpr QSize Size(460, 320);
 QString titleOf(const themefiles::Hits& hits, bool asked) {
   const int shown = static_cast<int>(hits.first.size());
   if (!asked) return QStringLiteral("Find");
-  if (shown < hits.count) return QStringLiteral("Find: the first %1 of %2").arg(shown).arg(hits.count);
-  return QStringLiteral("Find: %1").arg(hits.count);
+  return shown < hits.count ? QStringLiteral("Find: the first %1 of %2").arg(shown).arg(hits.count)
+                            : QStringLiteral("Find: %1").arg(hits.count);
 }
 
 }  // namespace
