@@ -196,11 +196,9 @@ class ThemeReadingTest : public QObject {
              {u"errorpopup"_s, u"Error Popup, ErrorPopup @-1"_s},
              {u"song menu"_s, u"Song Menu @-1|Song Menu, SongMenu @-1"_s},
              {u"single song"_s,
-              u"Song Screen (Single) @-1|Song Screen (Single), Song @-1|"
-              "Song Screen (Single), SongTextGo @-1|and 1"_s},
+              u"Song Screen (Single) @-1|Song Screen (Single), Song @-1|Song Screen (Single), SongTextGo @-1"_s},
              {u"song"_s,
-              u"Song Screen (Single), Song @-1|Song Screen (Party), Song @-1|"
-              "Song Screen (Single) @-1|and 9"_s},
+              u"Song Screen (Single), Song @-1|Song Screen (Party), Song @-1|Song Screen (Single) @-1|and 7"_s},
          }) {
       const Hits hits = search.find(typed, 3);
       QStringList shown;
