@@ -9,6 +9,7 @@
 #include <QShortcut>
 
 #include "mainwindows/main_window.h"
+#include "mainwindows/preview_hand.h"
 #include "mainwindows/theme_session.h"
 #include "platform/numbers.h"
 #include "toolbar/button_values.h"
@@ -40,11 +41,13 @@ bool leavesAtOnce(const Form1& form, const CommandRow& command) {
 
 void run(Form1& form, int button) {
   const CommandRow& command = Commands.at(button - 1);
+  form.hand->settle();
   if (command.atOnce) {
     command.run(form);
     return;
   }
   const auto ifStillEnabled = [&form, button, &command] {
+    form.hand->settle();
     if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) command.run(form);
   };
   form.queue.runOutside(ifStillEnabled, leavesAtOnce(form, command));
@@ -53,7 +56,13 @@ void run(Form1& form, int button) {
 /// The window's end waits for a running pass and takes the place of an open dialog, which gets Cancel.
 void end(Form1& form) {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  form.queue.runOutside([&form] { Form_Unload(form); }, true);
+  form.hand->settle();
+  form.queue.runOutside(
+      [&form] {
+        form.hand->settle();
+        Form_Unload(form);
+      },
+      true);
   if (dialog != nullptr) dialog->reject();
 }
 
@@ -69,6 +78,7 @@ void connectToolBar(Form1& form) {
     if (Commands.at(i).shortcut.isEmpty()) continue;
     const int button = static_cast<int>(i) + 1;
     onShortcut(form, QKeySequence(Commands.at(i).shortcut.toString()), [&form, button] {
+      form.hand->settle();
       if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) run(form, button);
     });
   }
@@ -84,12 +94,17 @@ void goToOtherWindow(Form1& form) {
 }  // namespace
 
 void connectEvents(Form1& form) {
+  form.hand = new PreviewHand(form);
   form.queue.setWorks(
       [&form] {
+        form.hand->settle();
         form.picking = {};
         if (form.toolWindow != nullptr) toolwindow::listScreen(*form.toolWindow);
       },
-      [&form] { form.DrawScreen(); });
+      [&form] {
+        form.hand->giveUpDrag();
+        form.DrawScreen();
+      });
   connectToolBar(form);
   onShortcut(form, QKeySequence(Qt::Key_F6), [&form] { goToOtherWindow(form); });
   QObject::connect(&form, &Form1::closeAsked, &form, [&form] { end(form); });
@@ -103,13 +118,6 @@ void connectEvents(Form1& form) {
     if (cause != controls::Cause::User) return;
     form.services.state.SelectedButton = static_cast<quint8>(form.Combo2->ListIndex() + 1);
     form.queue.draw();
-  });
-  QObject::connect(form.Workspace, &Workspace::Pressed, &form, [&form](const QPoint& place) {
-    if (form.toolWindow == nullptr) return;
-    const int row = form.picking.rowAt(place, form.account, form.toolWindow->tags);
-    if (row < 0) return;
-    form.toolWindow->List1->setFocus();
-    toolwindow::pickTag(*form.toolWindow, row);
   });
   QObject::connect(form.Workspace, &Workspace::MouseMove, &form, [&form](float X, float Y) {
     form.ShowMousePosition(platform::roundToInt16(std::floor(X)).value_or(0),

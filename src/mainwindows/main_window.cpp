@@ -114,6 +114,7 @@ void Form1::placeControls() {
     control->setAccessibleName(QLatin1StringView(spoken));
   }
   setTabOrder(Combo2, Combo1);  // from left to right
+  setTabOrder(Combo1, Workspace);
   controls::centreOnScreen(*this);
 }
 
@@ -162,11 +163,15 @@ void Form1::ShowMousePosition(qint16 X, qint16 Y) {
   StatusBar->setPanel(2, QStringLiteral("x: %1  y: %2").arg(X + 1).arg(Y + 1));
 }
 
+renderer::RenderContext Form1::renderContext() {
+  return {services.state, toolWindow->tags, Workspace->surface(), host_, *this, services.dialogs, services.graphics,
+          account,        &pictures};
+}
+
 void Form1::DrawScreen() {
   if (toolWindow == nullptr) return;
   drawing::Surface& surface = Workspace->surface();
-  renderer::RenderContext context{services.state,   toolWindow->tags,  surface, host_,    *this,
-                                  services.dialogs, services.graphics, account, &pictures};
+  renderer::RenderContext context = renderContext();
   const drawing::Pen pen = surface.pen();
   try {
     platform::guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });

@@ -16,11 +16,14 @@
 #include "progressbar/progress_bar.h"
 #include "renderer/prepared_pictures.h"
 #include "renderer/render_account.h"
+#include "renderer/render_context.h"
 #include "themefiles/module_state.h"
 #include "toolbar/mc_toolbar.h"
 #include "toolwindow/tool_window.h"
 
 namespace mainwindows {
+
+class PreviewHand;
 
 /// What the main window gets from its surroundings; tests give their own.
 struct MainServices {
@@ -56,6 +59,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   renderer::RenderAccount account;          ///< what the last render drew and left out
   renderer::PreparedPictures pictures;      ///< what the renders keep of the picture files
   PreviewPicking picking;
+  PreviewHand* hand = nullptr;  ///< moves and sizes objects on the preview; comes with the events
 
   /// Shows the mouse's place in the status bar, counted from 1.
   void ShowMousePosition(qint16 X, qint16 Y);
@@ -64,6 +68,8 @@ class Form1 : public QWidget, public platform::StatusLine {
   /// Draws the chosen screen; called by the work queue.
   void DrawScreen();
   void enableButton(int button, bool enabled);
+  /// What a drawing of the chosen screen works on; only with a theme open.
+  renderer::RenderContext renderContext();
 
  Q_SIGNALS:
   /// The user, or the session's end, wants the window closed.

@@ -9,6 +9,7 @@
 #include "drawing/system_colours.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/open_theme_dialog.h"
+#include "mainwindows/preview_hand.h"
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "themefiles/colour_tables.h"
@@ -55,6 +56,7 @@ bool openCopies(Form1& form, const themefiles::ThemePaths& chosen) {
 /// The tool window goes when control is back in the event loop: one of its own events may be on the way.
 void unloadToolWindow(Form1& form) {
   if (form.toolWindow == nullptr) return;
+  form.hand->letGo();
   form.toolWindow->hide();
   form.toolWindow->deleteLater();
   form.toolWindow = nullptr;
@@ -79,10 +81,11 @@ void dropEarlierTheme(Form1& form) {
 }
 
 void showToolWindow(Form1& form) {
-  form.toolWindow = new toolwindow::Form2(
-      {form.services.state, form, form.services.dialogs, form.Workspace->surface(), *form.Workspace, form.queue,
-       [&form] { form.enableButton(SaveButton, true); }, [&form] { return form.Combo1->Text(); }},
-      &form);
+  form.toolWindow =
+      new toolwindow::Form2({form.services.state, form, form.services.dialogs, form.Workspace->surface(),
+                             *form.Workspace, form.queue, [&form] { form.enableButton(SaveButton, true); },
+                             [&form] { return form.Combo1->Text(); }, [&form] { form.hand->settle(); }},
+                            &form);
   toolwindow::connectEvents(*form.toolWindow);
   // The lower right corner of the main window, by the outer sizes of both.
   const double formRight =
@@ -93,6 +96,7 @@ void showToolWindow(Form1& form) {
   form.toolWindow->move(controls::toPixels(formRight - layout.Width - 200),
                         controls::toPixels(formBottom - layout.Height - 450));
   form.toolWindow->show();
+  form.Workspace->setFocusPolicy(Qt::StrongFocus);
 }
 
 void ReadTheme(Form1& form) {

@@ -17,7 +17,10 @@ constexpr int BlinkInterval = 100;        // ms
 constexpr quint32 MarkBorder = 0xFFFFFF;  // until the first blink
 constexpr quint32 MarkDark = 0x0000C0;    // fill colour
 constexpr quint32 MarkLight = 0x8080FF;   // back colour
-constexpr double FarAway = 1 << 20;       // pixels: beyond any screen, and safe to reckon with
+constexpr quint32 LabelColor = 0xE1FFFF;
+constexpr QSize LabelMargin(10, 4);
+constexpr QPoint LabelOffset(12, 20);
+constexpr double FarAway = 1 << 20;  // pixels: beyond any screen, and safe to reckon with
 
 int pixel(double length) {
   return static_cast<int>(std::floor(std::clamp(length, -FarAway, FarAway) + 0.5));
@@ -78,11 +81,29 @@ void Workspace::Timer1_Timer() {
   updateMark();
 }
 
-/// The mark's outer pixels: at least one each way.
 QRect Workspace::markRect() const {
   const int left = pixel(mark_.left());
   const int top = pixel(mark_.top());
   return {left, top, std::max(pixel(mark_.width()), 1), std::max(pixel(mark_.height()), 1)};
+}
+
+/// Below the place on its right, above it where there is no room below, and inside the preview.
+QRect Workspace::labelRect() const {
+  const QFontMetrics letters = fontMetrics();
+  QRect label({}, QSize(letters.horizontalAdvance(handLabel_), letters.height()) + LabelMargin);
+  label.moveTopLeft(labelled_ + LabelOffset);
+  if (label.bottom() > rect().bottom()) label.moveBottom(labelled_.y() - LabelOffset.y() / 4);
+  label.moveLeft(std::clamp(label.left(), 0, std::max(0, width() - label.width())));
+  label.moveTop(std::clamp(label.top(), 0, std::max(0, height() - label.height())));
+  return label;
+}
+
+void Workspace::setHandLabel(const QString& text, const QPoint& place) {
+  if (!handLabel_.isEmpty()) update(labelRect());
+  handLabel_ = text;
+  labelled_ = place;
+  if (!handLabel_.isEmpty()) update(labelRect());
+  if (accessibleDescription() != text) setAccessibleDescription(text);
 }
 
 void Workspace::updateMark() {
@@ -95,7 +116,12 @@ void Workspace::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
   painter.setClipRegion(event->region());
   painter.drawImage(QRect(0, 0, drawing::Surface::Width, drawing::Surface::Height), surface_.image());
-  if (!markVisible_) return;
+  if (markVisible_) paintMark(painter);
+  if (!handLabel_.isEmpty()) paintLabel(painter);
+  if (hasFocus()) paintFocus(painter);
+}
+
+void Workspace::paintMark(QPainter& painter) const {
   const QRect outer = markRect();
   const std::array<QRect, 4> edges{{{outer.left(), outer.top(), outer.width(), 1},
                                     {outer.left(), outer.bottom(), outer.width(), 1},
@@ -104,15 +130,26 @@ void Workspace::paintEvent(QPaintEvent* event) {
   for (const QRect& edge : edges) painter.fillRect(edge, borderColor_);
 }
 
+void Workspace::paintLabel(QPainter& painter) const {
+  const QRect label = labelRect();
+  painter.fillRect(label, Qt::black);
+  painter.fillRect(label.adjusted(1, 1, -1, -1), drawing::colorOf(LabelColor));
+  painter.setPen(Qt::black);
+  painter.drawText(label, Qt::AlignCenter, handLabel_);
+}
+
+/// Dots of two colours show on any picture.
+void Workspace::paintFocus(QPainter& painter) const {
+  const QRect edge = rect().adjusted(0, 0, -1, -1);
+  for (const QPen& pen : {QPen(Qt::white), QPen(Qt::black, 1, Qt::DotLine)}) {
+    painter.setPen(pen);
+    painter.drawRect(edge);
+  }
+}
+
 void Workspace::mouseMoveEvent(QMouseEvent* event) {
   Q_EMIT MouseMove(static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
   event->ignore();
-}
-
-void Workspace::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const QPointF place = event->position();
-  Q_EMIT Pressed({static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))});
 }
 
 }  // namespace mainwindows

@@ -30,26 +30,32 @@ class Workspace : public QWidget, public renderer::CursorMark {
   void SetVisible(bool visible) override;
   void setBlinking(bool blinking) override;
 
+  /// Shows what the hand does, beside a pixel of the surface and for assistive programs; nothing with an empty text.
+  void setHandLabel(const QString& text, const QPoint& place = {});
+  const QString& handLabel() const { return handLabel_; }
+
   /// The mark as it stands, in pixels of the surface.
   const QRectF& mark() const { return mark_; }
   bool markVisible() const { return markVisible_; }
+  /// Its outer pixels: at least one each way.
+  QRect markRect() const;
   bool blinking() const { return timer1_.isActive(); }
 
  Q_SIGNALS:
   /// The mouse has moved: its place in pixels of the surface.
   void MouseMove(float X, float Y);
-  /// The left mouse button was pressed on this pixel of the surface.
-  void Pressed(const QPoint& place);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   void Timer1_Timer();
   void updateMark();
-  QRect markRect() const;
+  QRect labelRect() const;
+  void paintMark(QPainter& painter) const;
+  void paintLabel(QPainter& painter) const;
+  void paintFocus(QPainter& painter) const;
 
   drawing::Surface surface_;
   controls::FramePacer pacer_;
@@ -58,6 +64,8 @@ class Workspace : public QWidget, public renderer::CursorMark {
   bool markVisible_ = false;
   bool blinkPhase_ = false;
   QColor borderColor_;
+  QString handLabel_;
+  QPoint labelled_;  ///< the place that the label stands beside
 };
 
 }  // namespace mainwindows

@@ -28,10 +28,11 @@ QString screenStep() {
   return QStringLiteral("Error while Draw Screen");
 }
 
-/// The keys that hold an object's colour and intensity in its present state.
+/// The keys that hold an object's colour, intensity and height in its present state.
 struct Look {
   QString colorKey;
   QString intensityKey;  ///< empty for an object without one
+  QString heightKey = QStringLiteral("H");
 };
 
 /// Draws the object's texture and accounts what came of it.
@@ -46,7 +47,7 @@ void drawObject(RenderContext& context, const ObjectSection& section, const QStr
   const TextureResult result = DrawTexture(context, {path, type, box, color, intensity, section.inHand()});
   switch (result.outcome) {
     case TextureOutcome::Drawn:
-      context.account.objects.push_back({section.Name(), result.place, {}});
+      context.account.objects.push_back({section.Name(), result.place, {}, look.heightKey});
       break;
     case TextureOutcome::NoSession:
       break;
@@ -108,12 +109,14 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
   if (!box) return;
   Look look{QStringLiteral("DColor"), QStringLiteral("DINT")};
   if (selected) {
-    look = {QStringLiteral("Color"), QStringLiteral("INT")};
+    look.colorKey = QStringLiteral("Color");
+    look.intensityKey = QStringLiteral("INT");
     const auto selectedHeight = themeInt16(context, section, QStringLiteral("SelectH"), screenStep());
     if (!selectedHeight) return;
     if (*selectedHeight != 0) {
       if (!platform::upperCase(tag).contains(u"COLLECTION")) textShift = *selectedHeight - box->H;
       box->H = *selectedHeight;
+      look.heightKey = QStringLiteral("SelectH");
     }
   }
   drawObject(context, section, path, *box, look);

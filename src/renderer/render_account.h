@@ -36,7 +36,8 @@ struct LeftOut {
 struct DrawnObject {
   QString section;
   QRect place;
-  QString owner;  ///< of a child text: its button
+  QString owner;      ///< of a child text: its button
+  QString heightKey;  ///< the key that held its height: H or SelectH; empty for a text
 };
 
 /// The renderer's own account of its last render, in the order of drawing.

@@ -70,7 +70,7 @@ void printAligned(RenderContext& context, const ObjectSection& section, const QS
   surface.CurrentY = static_cast<float>(surface.CurrentY + height / 5);
   const QRectF place = QRectF(surface.CurrentX, surface.CurrentY, width, height) & QRectF(surface.image().rect());
   surface.Print(words);
-  context.account.objects.push_back({section.Name(), place.toAlignedRect(), owner});
+  context.account.objects.push_back({section.Name(), place.toAlignedRect(), owner, {}});
 }
 
 }  // namespace

@@ -33,6 +33,8 @@ class SectionReader {
   SectionReader(const QString& Section, const QString& FileName);
   /// The same from the keys of the section, `file` being the bytes that they lie in.
   SectionReader(QByteArray file, platform::ProfileKeys keys) : file_(std::move(file)), keys_(std::move(keys)) {}
+  /// Whether the file has the section.
+  bool isThere() const { return lines_.has_value(); }
   QString Value(const QString& Key, const QString& Default = QString()) const;
 
  private:

@@ -85,10 +85,10 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   return {*standing};
 }
 
-/// Puts what `change` makes of a working copy's text in its place, by one whole-file write, and looks for the key in
-/// the written file.
+/// Puts what `change` makes of a working copy's text in its place, by one whole-file write, and looks for the keys
+/// in the written file.
 void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status, const QString& section,
-              const QString& key, const std::function<QByteArray(const QByteArray& text)>& change) {
+              const QStringList& keys, const std::function<QByteArray(const QByteArray& text)>& change) {
   const size_t file = copyNumber(copy);
   const QString& path = state.paths.*copy;
   telling(status, [&](QStringList& notes) {
@@ -96,7 +96,7 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
     const QByteArray changed = change(start.text);
     if (!start.isThere || changed != start.text) writeCopy(path, changed);
     state.ownCopies.at(file) = changed;
-    checkReadsBack(changed, section, key, path);
+    for (const QString& key : keys) checkReadsBack(changed, section, key, path);
   });
 }
 
@@ -162,13 +162,23 @@ size_t copyNumber(QString ThemePaths::*copy) {
 
 void putInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status) {
-  editCopy(state, copy, status, Section, Key,
+  editCopy(state, copy, status, Section, {Key},
            [&](const QByteArray& text) { return changedText(text, Section, Key, Value); });
+}
+
+void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section,
+                     const std::vector<std::pair<QString, QString>>& values, platform::StatusLine& status) {
+  QStringList keys;
+  for (const auto& [key, value] : values) keys += key;
+  editCopy(state, copy, status, section, keys, [&](QByteArray text) {
+    for (const auto& [key, value] : values) text = changedText(text, section, key, value);
+    return text;
+  });
 }
 
 void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
                    const QByteArray& line, platform::StatusLine& status) {
-  editCopy(state, copy, status, section, key,
+  editCopy(state, copy, status, section, {key},
            [&](const QByteArray& text) { return changedLine(text, section, key, line); });
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include <QString>
 
@@ -25,6 +27,11 @@ void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::S
 /// platform::Failure when the edit can't be written, or isn't there when the file is read again.
 void putInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status);
+
+/// changedText for one value after the other, by a single write: keys of one section with their values. All of them are
+/// written, or none.
+void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section,
+                     const std::vector<std::pair<QString, QString>>& values, platform::StatusLine& status);
 
 /// The same with changedLine.
 void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,

@@ -79,6 +79,7 @@ void listScreen(Form2& form) {
 
 void List1_Click(Form2& form, controls::Cause cause) {
   if (cause == controls::Cause::User) form.awaited.reset();
+  form.services.settleHand();
   showTag(form, cause == controls::Cause::User ? MarkPen::Kept : MarkPen::Left);
 }
 

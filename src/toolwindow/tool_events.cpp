@@ -26,6 +26,7 @@ using controls::TextBox;
 template <typename Operation>
 void onClick(Form2& form, QPushButton* button, Operation operation, const ComboBox* shown = nullptr) {
   QObject::connect(button, &QPushButton::clicked, &form, [&form, operation, shown] {
+    form.services.settleHand();
     const QString entry = shown == nullptr ? QString() : shown->Text();
     form.services.queue.runOutside([open = QPointer<Form2>(&form), operation, shown, entry] {
       if (!open || !open->isVisible() || (shown != nullptr && shown->Text() != entry)) return;

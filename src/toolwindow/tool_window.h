@@ -36,7 +36,8 @@ struct ToolServices {
   renderer::CursorMark& mark;
   controls::WorkQueue& queue;
   std::function<void()> enableSave;
-  std::function<QString()> schemeName;  ///< the colour scheme in force
+  std::function<QString()> schemeName;       ///< the colour scheme in force
+  std::function<void()> settleHand = [] {};  ///< brings what is under way in the preview to its end
 };
 
 /// The window's own list of tags, as the readers and the renderer see it.

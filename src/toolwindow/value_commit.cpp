@@ -24,13 +24,18 @@ struct Commit {
   QString key;  ///< identity of the row's key
 };
 
+/// Throws platform::Failure for a section that can't be written into.
+void checkSection(const QString& section) {
+  if (section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
+  if (section.contains(u']') || section.startsWith(u'\t') || section.endsWith(u'\t')) {
+    throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(section));
+  }
+}
+
 Commit commitOf(const Form2& form, int row) {
   if (row < 0) throw platform::Failure(QStringLiteral("no row is selected"));
   Commit commit{row, platform::trimBlanks(form.List1->Text()), themefiles::keyIdentity(form.ListView1->rowText(row))};
-  if (commit.section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
-  if (commit.section.contains(u']') || commit.section.startsWith(u'\t') || commit.section.endsWith(u'\t')) {
-    throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(commit.section));
-  }
+  checkSection(commit.section);
   return commit;
 }
 
@@ -107,26 +112,65 @@ void writeEditor(Form2& form, const Commit& commit, themefiles::KeyGroup group) 
   }
 }
 
-/// A commit into a row of the grid: writes by `write`, and does all that follows. A failure is reported and leaves out
-/// the steps behind it.
-void commitRow(Form2& form, int row, const std::function<void(const Commit& commit)>& write) {
+bool isShown(const Form2& form, const QString& section) {
+  return platform::trimBlanks(form.List1->Text()) == section;
+}
+
+/// The steps of a commit behind its writes; `assignments` is what it tells: "X = 1".
+void finishCommit(Form2& form, const QString& section, const QString& assignments) {
+  ToolServices& services = form.services;
+  services.state.Changed = true;
+  services.enableSave();
+  services.status.ShowStatus(section + QStringLiteral(": ") + assignments);
+  services.queue.draw();
+  // Another object that was picked during the drawing has its mark.
+  if (isShown(form, section)) placeMark(form, MarkPen::Kept);
+}
+
+QString assignment(const QString& key, const QString& value) {
+  return key + QStringLiteral(" = ") + value;
+}
+
+/// Runs a commit. A failure is reported and leaves out the steps behind it.
+void runCommit(Form2& form, const std::function<void()>& commit) {
   ToolServices& services = form.services;
   const auto telling = std::make_shared<platform::Telling>(services.status);
-  platform::guarded(services.status, WriteStep.toString(), [&] {
-    const Commit commit = commitOf(form, row);
-    write(commit);
-    services.state.Changed = true;
-    services.enableSave();
-    const QString key = platform::trimBlanks(form.ListView1->rowText(row));
-    services.status.ShowStatus(QStringLiteral("%1: %2 = %3").arg(commit.section, key, form.ListView1->subItem(row)));
-    services.queue.draw();
-    // Another object that was picked during the drawing has its mark.
-    if (platform::trimBlanks(form.List1->Text()) == commit.section) placeMark(form, MarkPen::Kept);
-    form.ListView1->setFocus();
-  });
+  platform::guarded(services.status, WriteStep.toString(), commit);
   form.marking.start();
   // A drawing that waits for a running one reports beside the notes, too.
   services.queue.runOutside([telling] {});
+}
+
+/// A commit into a row of the grid: writes by `write`, and does all that follows.
+void commitRow(Form2& form, int row, const std::function<void(const Commit& commit)>& write) {
+  form.services.settleHand();
+  runCommit(form, [&] {
+    const Commit commit = commitOf(form, row);
+    write(commit);
+    const QString key = platform::trimBlanks(form.ListView1->rowText(row));
+    finishCommit(form, commit.section, assignment(key, form.ListView1->subItem(row)));
+    form.ListView1->setFocus();
+  });
+}
+
+/// The first row of the key; -1 without one.
+int firstRowOf(const Form2& form, const QString& key) {
+  for (int row = 0; row < form.ListView1->rowCount(); ++row) {
+    if (themefiles::keyIdentity(form.ListView1->rowText(row)) == key) return row;
+  }
+  return -1;
+}
+
+/// Brings a committed value into grid and record. The focus stays where it is.
+void showValue(Form2& form, const QString& key, const QString& value) {
+  updateCursorRect(form.services.state.CursorRect, key, value);
+  const int row = firstRowOf(form, key);
+  if (row < 0) return;
+  form.ListView1->setSubItem(row, value);
+  if (!form.services.state.EditorShown || form.ListView1->selectedRow() != row) return;
+  QWidget* const focus = form.focusWidget();
+  ListView1_ItemClick(form, row);
+  if (focus != nullptr) focus->setFocus();
 }
 
 }  // namespace
@@ -136,6 +180,25 @@ void Command1_Click(Form2& form) {
     const auto group = themefiles::groupOf(commit.key);
     if (group) writeEditor(form, commit, *group);
   });
+}
+
+bool commitValues(Form2& form, const QString& section, const std::vector<std::pair<QString, QString>>& values) {
+  bool done = false;
+  runCommit(form, [&] {
+    checkSection(section);
+    auto written = values;
+    for (auto& [key, value] : written) key = themefiles::keyIdentity(key);
+    themefiles::putValuesInCopy(form.services.state, &themefiles::ThemePaths::ThemeFile, section, written,
+                                form.services.status);
+    done = true;
+    if (isShown(form, section)) {
+      for (const auto& [key, value] : written) showValue(form, key, value);
+    }
+    QStringList assignments;
+    for (const auto& [key, value] : values) assignments += assignment(key, value);
+    finishCommit(form, section, assignments.join(QStringLiteral(", ")));
+  });
+  return done;
 }
 
 void putSavedBack(Form2& form, int row, const SavedValue& saved) {

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <utility>
+#include <vector>
+
+#include <QPoint>
+#include <QRect>
+#include <QString>
+
+#include "themefiles/ini_access.h"
+
+/// What moving and sizing an object by hand makes of its numbers.
+namespace mainwindows {
+
+/// Which edges of an object the hand holds; none of them: it moves the object.
+struct Grip {
+  int across = 0;  ///< -1 the left edge, 1 the right one
+  int down = 0;    ///< -1 the upper edge, 1 the lower one
+  bool sizes() const { return across != 0 || down != 0; }
+  bool operator==(const Grip&) const = default;
+};
+
+/// The grip of a rectangle at a pixel: along the inner side of its edges.
+Grip gripAt(const QRect& place, const QPoint& pixel);
+
+/// The shape of the pointer over a grip.
+Qt::CursorShape shapeOf(Grip grip);
+
+/// An object's numbers as the theme holds them when the hand takes it. Those that the grip doesn't concern are 0.
+struct HeldNumbers {
+  int X = 0;
+  int Y = 0;
+  int W = 0;
+  int H = 0;
+  QString heightKey;  ///< H, or SelectH of a button that is drawn with that
+};
+
+/// Reads the numbers of a section. `heightKey` is empty for a text. Throws platform::Failure with the reason why the
+/// object can't be moved or sized.
+HeldNumbers readHeld(const themefiles::SectionReader& section, Grip grip, const QString& heightKey);
+
+/// The numbers after a movement of the grip: whole, 0 to 10,000, sizes from 1. An edge that isn't held stays.
+HeldNumbers moved(const HeldNumbers& start, Grip grip, const QPoint& movement);
+
+/// Keys with values that differ.
+std::vector<std::pair<QString, QString>> changedValues(const HeldNumbers& start, const HeldNumbers& now);
+
+/// The numbers that a grip changes: "X 120, Y 48" or "W 300, H 60".
+QString labelOf(const HeldNumbers& numbers, Grip grip);
+
+}  // namespace mainwindows

@@ -1,0 +1,271 @@
+#include "mainwindows/preview_hand.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <utility>
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+#include "mainwindows/main_window.h"
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "renderer/trial_drawing.h"
+#include "toolwindow/object_selection.h"
+#include "toolwindow/value_commit.h"
+
+namespace mainwindows {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int DragDistance = 4;  // pixels either way
+constexpr auto RestTime = 333ms;
+constexpr int LongStep = 10;
+constexpr Grip SizingKeys{1, 1};  // Ctrl and an arrow
+
+struct Arrow {
+  int key;
+  QPoint step;
+};
+constexpr std::array<Arrow, 4> Arrows{
+    {{Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}}};
+
+QPoint pixelOf(const QMouseEvent& event) {
+  const QPointF place = event.position();
+  return {static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))};
+}
+
+/// The movement along its longer direction.
+QPoint held(const QPoint& movement) {
+  return std::abs(movement.x()) >= std::abs(movement.y()) ? QPoint(movement.x(), 0) : QPoint(0, movement.y());
+}
+
+}  // namespace
+
+PreviewHand::PreviewHand(Form1& form) : QObject(&form), form_(form), pacer_([this] { showFrame(); }) {
+  form.Workspace->installEventFilter(this);
+  rest_.setSingleShot(true);
+  rest_.setInterval(RestTime);
+  rest_.callOnTimeout([this] {
+    if (heldKeys_.isEmpty()) settle();
+  });
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+    if (state != Qt::ApplicationActive) settle();
+  });
+}
+
+void PreviewHand::settle() {
+  stage_ == Stage::Keys ? commit() : giveUpDrag();
+}
+
+void PreviewHand::giveUpDrag() {
+  if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
+}
+
+void PreviewHand::letGo() {
+  stage_ = Stage::None;
+  heldKeys_.clear();
+  form_.Workspace->setHandLabel({});
+  form_.Workspace->unsetCursor();
+  form_.Workspace->setFocusPolicy(Qt::NoFocus);
+  form_.Workspace->clearFocus();
+}
+
+bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
+  if (form_.toolWindow == nullptr) return false;
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+      return press(static_cast<QMouseEvent&>(*event));
+    case QEvent::MouseMove:
+      move(static_cast<QMouseEvent&>(*event));
+      return false;
+    case QEvent::MouseButtonRelease:
+      return release(static_cast<QMouseEvent&>(*event));
+    case QEvent::KeyPress:
+      return keyPress(static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyRelease:
+      keyRelease(static_cast<QKeyEvent&>(*event));
+      return false;
+    case QEvent::FocusOut:
+    case QEvent::WindowDeactivate:
+      heldKeys_.clear();
+      settle();
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool PreviewHand::press(const QMouseEvent& event) {
+  settle();
+  // Edits that were settled have drawn the screen and let events through.
+  if (event.button() != Qt::LeftButton || form_.toolWindow == nullptr) return false;
+  pressed_ = mouse_ = pixelOf(event);
+  const bool free = event.buttons() == Qt::LeftButton && !form_.queue.busy();
+  picksAtRelease_ = free && selectedAt(pressed_).under;
+  if ((picksAtRelease_ || pick(pressed_)) && free) stage_ = Stage::Pressed;
+  return true;
+}
+
+/// Chooses the object at the place; false where there is none.
+bool PreviewHand::pick(const QPoint& place) {
+  const int row = form_.picking.rowAt(place, form_.account, form_.toolWindow->tags);
+  if (row < 0) return false;
+  form_.toolWindow->List1->setFocus();
+  form_.Workspace->setFocus();  // the keys go on here
+  toolwindow::pickTag(*form_.toolWindow, row);
+  return true;
+}
+
+void PreviewHand::move(const QMouseEvent& event) {
+  const bool down = (event.buttons() & Qt::LeftButton) != 0;
+  const bool byMouse = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
+  if (!byMouse) return hover(pixelOf(event), event.buttons() == Qt::NoButton);
+  if (!down) return giveUp();
+  mouse_ = pixelOf(event);
+  const QPoint way = mouse_ - pressed_;
+  if (stage_ == Stage::Pressed) {
+    if (std::max(std::abs(way.x()), std::abs(way.y())) < DragDistance) return;
+    const Selected selected = selectedAt(pressed_);
+    if (!take(selected, gripAt(selected.place, pressed_), true)) return;
+    stage_ = Stage::Dragging;
+  }
+  now_ = moved(start_, grip_, (event.modifiers() & Qt::ControlModifier) != 0 ? held(way) : way);
+  pacer_.request();
+}
+
+bool PreviewHand::release(const QMouseEvent& event) {
+  if (event.button() != Qt::LeftButton) return false;
+  if (stage_ == Stage::Pressed) {
+    stage_ = Stage::None;
+    if (picksAtRelease_) pick(pressed_);
+  } else if (stage_ == Stage::Dragging) {
+    move(QMouseEvent(QEvent::MouseMove, event.position(), event.globalPosition(), Qt::NoButton, Qt::LeftButton,
+                     event.modifiers()));
+    commit();
+  }
+  return true;
+}
+
+/// The pointer tells what a press would take.
+void PreviewHand::hover(const QPoint& place, bool free) {
+  if (!free) return;
+  const Selected selected = form_.queue.busy() ? Selected() : selectedAt(place);
+  const Qt::CursorShape shape = selected.under ? shapeOf(gripAt(selected.place, place)) : Qt::ArrowCursor;
+  if (form_.Workspace->cursor().shape() != shape) form_.Workspace->setCursor(shape);
+}
+
+PreviewHand::Selected PreviewHand::selectedAt(const QPoint& place) const {
+  const QString name = form_.toolWindow->List1->Text();
+  Selected selected{platform::trimBlanks(name), {}, {}, false};
+  if (selected.section.isEmpty()) return selected;
+  const bool marked = form_.Workspace->markVisible();
+  const QRect mark = form_.Workspace->markRect();
+  selected.under = marked && mark.contains(place);
+  for (const renderer::Drawn& object : form_.account.objects) {
+    if (!platform::sameName(object.section, name)) continue;
+    selected.heightKey = object.heightKey;
+    if (!object.heightKey.isEmpty()) selected.place = object.place;
+    selected.under = selected.under || object.place.contains(place);
+    return selected;
+  }
+  // One that isn't drawn has a rectangle when its mark is a frame.
+  const themefiles::CursorRecord& record = form_.services.state.CursorRect;
+  if (record.W.isEmpty() && record.H.isEmpty()) return selected;
+  selected.heightKey = QStringLiteral("H");
+  if (marked) selected.place = mark;
+  return selected;
+}
+
+/// Takes an object by a grip; a refusal is told, unless that is asked away.
+bool PreviewHand::take(const Selected& selected, Grip grip, bool tells) {
+  stage_ = Stage::None;
+  if (selected.section.isEmpty()) return false;
+  section_ = selected.section;
+  grip_ = grip;
+  const auto read = [&] {
+    start_ = readHeld({section_, form_.services.state.paths.ThemeFile}, grip, selected.heightKey);
+    now_ = start_;
+  };
+  if (!tells) return platform::guardedSilently(read);
+  return platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), read);
+}
+
+bool PreviewHand::keyPress(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Escape) {
+    if (stage_ == Stage::None) return false;
+    giveUp();
+    return true;
+  }
+  const auto* const found =
+      std::find_if(Arrows.begin(), Arrows.end(), [&](const Arrow& arrow) { return arrow.key == event.key(); });
+  if (found == Arrows.end() || (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+  if (stage_ == Stage::None || stage_ == Stage::Keys) arrow(event, found->step);
+  return true;
+}
+
+void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
+  const Grip grip = (event.modifiers() & Qt::ControlModifier) != 0 ? SizingKeys : Grip();
+  if (stage_ == Stage::Keys && grip != grip_) settle();
+  if (form_.toolWindow == nullptr) return;
+  if (stage_ == Stage::None && !take(selectedAt({}), grip, !event.isAutoRepeat())) return;
+  stage_ = Stage::Keys;
+  heldKeys_.insert(event.key());
+  now_ = moved(now_, grip_, (event.modifiers() & Qt::ShiftModifier) != 0 ? step * LongStep : step);
+  rest_.start();
+  pacer_.request();
+}
+
+void PreviewHand::keyRelease(const QKeyEvent& event) {
+  if (event.isAutoRepeat()) return;
+  heldKeys_.remove(event.key());
+  if (stage_ == Stage::Keys && heldKeys_.isEmpty() && !rest_.isActive()) settle();
+}
+
+/// Draws a frame with the values on trial; after a running drawing, when one is running.
+void PreviewHand::showFrame() {
+  if (stage_ != Stage::Dragging && stage_ != Stage::Keys) return;
+  if (form_.queue.busy()) return pacer_.request();
+  const renderer::TrialValues values{section_, changedValues(start_, now_)};
+  Workspace& preview = *form_.Workspace;
+  renderer::drawTrial(form_.renderContext(), values);
+  renderer::drawTrialCursor(form_.services.state, form_.toolWindow->tags, preview.surface(), preview, values);
+  preview.Refresh();
+  preview.setHandLabel(labelOf(now_, grip_), stage_ == Stage::Dragging ? mouse_ : preview.markRect().bottomRight());
+}
+
+void PreviewHand::commit() {
+  stage_ = Stage::None;
+  form_.Workspace->setHandLabel({});
+  const auto values = changedValues(start_, now_);
+  if (values.empty()) return restore();
+  // Another program may have taken the section away meanwhile.
+  const bool stands = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), [&] {
+    readHeld({section_, form_.services.state.paths.ThemeFile}, grip_, start_.heightKey);
+  });
+  const QString section = section_;
+  if (!stands || !toolwindow::commitValues(*form_.toolWindow, section, values)) restore();
+}
+
+void PreviewHand::giveUp() {
+  const bool shown = stage_ != Stage::Pressed;
+  stage_ = Stage::None;
+  form_.Workspace->setHandLabel({});
+  if (shown) restore();
+}
+
+/// Shows what the files hold. A drawing that is running does so itself.
+void PreviewHand::restore() {
+  if (form_.toolWindow == nullptr) return;
+  Workspace& preview = *form_.Workspace;
+  if (!form_.queue.busy()) renderer::drawTrial(form_.renderContext(), {});
+  renderer::drawTrialCursor(form_.services.state, form_.toolWindow->tags, preview.surface(), preview, {});
+  preview.Refresh();
+}
+
+}  // namespace mainwindows

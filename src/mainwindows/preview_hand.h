@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QMouseEvent>
+#include <QObject>
+#include <QSet>
+#include <QTimer>
+
+#include "controls/frame_pacer.h"
+#include "mainwindows/hand_geometry.h"
+
+class QKeyEvent;
+
+namespace mainwindows {
+
+class Form1;
+
+/// The hand on the preview: picks objects, and moves and sizes the selected one, by the mouse and by the arrow keys.
+/// While it does, picture and mark follow with values on trial; its end commits them as one edit.
+class PreviewHand : public QObject {
+ public:
+  explicit PreviewHand(Form1& form);
+
+  /// Something else is about to happen: commits what the keys have done, and gives up a drag.
+  void settle();
+  /// Gives up a drag: all is as before.
+  void giveUpDrag();
+  /// Forgets all; for the end of the theme.
+  void letGo();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  enum class Stage {
+    None,
+    Pressed,   ///< the button is down, and the mouse hasn't moved far
+    Dragging,  ///< by the mouse
+    Keys,      ///< arrow keys that aren't committed yet
+  };
+  /// The selected object as the preview has it.
+  struct Selected {
+    QString section;     ///< empty without one
+    QString heightKey;   ///< empty for a text
+    QRect place;         ///< of an object with a rectangle
+    bool under = false;  ///< whether it lies under the pixel asked for
+  };
+
+  bool press(const QMouseEvent& event);
+  void move(const QMouseEvent& event);
+  bool release(const QMouseEvent& event);
+  bool keyPress(const QKeyEvent& event);
+  void keyRelease(const QKeyEvent& event);
+  void arrow(const QKeyEvent& event, const QPoint& step);
+  void hover(const QPoint& place, bool free);
+  bool pick(const QPoint& place);
+  Selected selectedAt(const QPoint& place) const;
+  bool take(const Selected& selected, Grip grip, bool tells);
+  void showFrame();
+  void commit();
+  void giveUp();
+  void restore();
+
+  Form1& form_;
+  Stage stage_ = Stage::None;
+  bool picksAtRelease_ = false;
+  QPoint pressed_;  ///< where the button went down
+  QPoint mouse_;    ///< where it is now
+  QString section_;
+  Grip grip_;
+  HeldNumbers start_;
+  HeldNumbers now_;
+  QSet<int> heldKeys_;
+  QTimer rest_;  ///< runs out when the keys have rested
+  controls::FramePacer pacer_;
+};
+
+}  // namespace mainwindows
