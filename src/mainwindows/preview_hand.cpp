@@ -167,7 +167,7 @@ PreviewHand::Selected PreviewHand::selectedAt(const QPoint& place) const {
   const bool marked = form_.Workspace->markVisible();
   const QRect mark = form_.Workspace->markRect();
   selected.under = marked && mark.contains(place);
-  for (const renderer::Drawn& object : form_.account.objects) {
+  for (const renderer::DrawnObject& object : form_.account.objects) {
     if (!platform::sameName(object.section, name)) continue;
     selected.heightKey = object.heightKey;
     if (!object.heightKey.isEmpty()) selected.place = object.place;

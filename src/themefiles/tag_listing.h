@@ -52,7 +52,6 @@ int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags,
 int listScreenTags(ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
                    const std::function<void()>& DoEvents);
 
-
 /// What ReadTags lists of each screen under the screen's own filter, for who asks for many screens.
 class ScreenTags {
  public:
