@@ -6,6 +6,7 @@
 #include <QPoint>
 #include <QRect>
 #include <QString>
+#include <Qt>
 
 #include "themefiles/ini_access.h"
 

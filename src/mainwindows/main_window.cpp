@@ -69,6 +69,7 @@ Form1::Form1(const MainServices& services)
 
 Form1::~Form1() {
   delete toolWindow;
+  toolWindow = nullptr;  // the preview may still lose the focus
 }
 
 QLabel* Form1::startLabel(int pixels, double left, double top) {
