@@ -58,6 +58,7 @@ ConfigFile::ConfigFile(const QStringList& folders) {
 }
 
 QString ConfigFile::gameFolder() const {
+  if (!folderOfThisRun_.isEmpty()) return folderOfThisRun_;
   if (path_.isEmpty()) return {};
   const QString stored = themefiles::GetINI(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), QString(), path_,
                                             themefiles::ListBufferSize);
@@ -67,10 +68,13 @@ QString ConfigFile::gameFolder() const {
   return platform::folderHoldsFiles(fromUtf8) ? fromUtf8 : stored;
 }
 
-void ConfigFile::setGameFolder(const QString& folder) const {
+void ConfigFile::setGameFolder(const QString& folder) {
+  // The choice outranks the folder that the run began with, even if it can't be stored.
+  if (!folderOfThisRun_.isEmpty()) folderOfThisRun_ = folder;
   if (path_.isEmpty()) throw platform::Failure(problem_);
   const QString text = platform::toAnsi(folder) ? folder : asBytes(folder);
   themefiles::putINIChecked(QStringLiteral("Setup"), QStringLiteral("EXEDirectory"), text, path_);
+  folderOfThisRun_.clear();
 }
 
 QStringList configFolders() {

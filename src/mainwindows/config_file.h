@@ -19,15 +19,18 @@ class ConfigFile {
   /// What kept the file from being made; empty when it stands.
   const QString& problem() const { return problem_; }
 
-  /// The stored game folder; empty until one was stored.
+  /// The game folder of this run, else the stored one; empty until one was stored.
   QString gameFolder() const;
   /// Stores the game folder. One whose letters the code page lacks is stored as its UTF-8 bytes.
   /// Throws platform::Failure when it can't be stored.
-  void setGameFolder(const QString& folder) const;
+  void setGameFolder(const QString& folder);
+  /// A game folder that counts until the next one is chosen, and isn't stored.
+  void setFolderOfThisRun(const QString& folder) { folderOfThisRun_ = folder; }
 
  private:
   QString path_;
   QString problem_;
+  QString folderOfThisRun_;
 };
 
 /// The program's folder, unless the program is installed, then the user's configuration folder.

@@ -10,6 +10,8 @@
 
 #include "mainwindows/main_window.h"
 #include "mainwindows/preview_hand.h"
+#include "mainwindows/preview_menu.h"
+#include "mainwindows/screen_refresh.h"
 #include "mainwindows/theme_session.h"
 #include "platform/numbers.h"
 #include "toolbar/button_values.h"
@@ -98,14 +100,23 @@ void connectEvents(Form1& form) {
   form.queue.setWorks(
       [&form] {
         form.hand->settle();
-        form.picking = {};
-        if (form.toolWindow != nullptr) toolwindow::listScreen(*form.toolWindow);
+        listScreen(form);
       },
       [&form] {
         form.hand->giveUpDrag();
-        form.DrawScreen();
+        drawScreen(form);
       });
   connectToolBar(form);
+  onShortcut(form, QKeySequence(QStringLiteral("Ctrl+Shift+O")), [&form] {
+    form.hand->settle();
+    askAnotherFolder(form);
+  });
+  onShortcut(form, QKeySequence(Qt::Key_F5), [&form] {
+    form.hand->settle();
+    refreshScreen(form);
+  });
+  QObject::connect(form.Workspace, &Workspace::menuAsked, &form,
+                   [&form](const QPoint& place) { showPreviewMenu(form, place); });
   onShortcut(form, QKeySequence(Qt::Key_F6), [&form] { goToOtherWindow(form); });
   QObject::connect(&form, &Form1::closeAsked, &form, [&form] { end(form); });
   onShortcut(form, QKeySequence(QStringLiteral("Ctrl+F")), [&form] {
@@ -117,6 +128,7 @@ void connectEvents(Form1& form) {
   QObject::connect(form.Combo2, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
     if (cause != controls::Cause::User) return;
     form.services.state.SelectedButton = static_cast<quint8>(form.Combo2->ListIndex() + 1);
+    if (form.kept) form.kept->button = form.services.state.SelectedButton;
     form.queue.draw();
   });
   QObject::connect(form.Workspace, &Workspace::MouseMove, &form, [&form](float X, float Y) {

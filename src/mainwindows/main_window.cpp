@@ -16,6 +16,7 @@
 #include "drawing/system_colours.h"
 #include "mainwindows/main_window_progress_bar.h"
 #include "mainwindows/main_window_tool_bar.h"
+#include "mainwindows/version.h"
 #include "progressbar/stored_form.h"
 #include "renderer/render_driver.h"
 #include "toolbar/button_values.h"
@@ -28,7 +29,6 @@ constexpr QSize ClientSize(800, 650);
 constexpr int ToolBarHeight = 32;
 constexpr int StatusBarHeight = 18;
 constexpr QSize ProgressBarSize(801, 20);
-constexpr QStringView Version = u"0.3a";
 constexpr quint32 FormColor = 0xC0C0C0;
 constexpr quint32 StartBackColor = 0x808080;
 

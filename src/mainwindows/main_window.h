@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QLabel>
 #include <QWidget>
 
@@ -33,6 +35,13 @@ struct MainServices {
   QStringList configFolders;  ///< where config.ini may lie
 };
 
+/// What is chosen on the screen while it is listed and drawn anew.
+struct KeptChoices {
+  QString screen;
+  QString object;
+  quint8 button = 1;
+};
+
 /// The main window: the preview with its toolbar, status bar and the choices of colour scheme and button. It is there
 /// from the program's start to its end.
 class Form1 : public QWidget, public platform::StatusLine {
@@ -59,7 +68,8 @@ class Form1 : public QWidget, public platform::StatusLine {
   renderer::RenderAccount account;          ///< what the last render drew and left out
   renderer::PreparedPictures pictures;      ///< what the renders keep of the picture files
   PreviewPicking picking;
-  PreviewHand* hand = nullptr;  ///< moves and sizes objects on the preview; comes with the events
+  PreviewHand* hand = nullptr;      ///< moves and sizes objects on the preview; comes with the events
+  std::optional<KeptChoices> kept;  ///< while a refresh of the screen is on its way
 
   /// Shows the mouse's place in the status bar, counted from 1.
   void ShowMousePosition(qint16 X, qint16 Y);

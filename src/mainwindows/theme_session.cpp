@@ -32,10 +32,8 @@ bool mayDropChanges(Form1& form) {
   return answer == platform::BoxAnswer::Yes;
 }
 
-/// The stored game folder, or the one that the user points at, which is then stored; empty when there is none.
-QString findGameFolder(Form1& form) {
-  const QString stored = form.config.gameFolder();
-  if (!stored.isEmpty() && platform::folderHoldsFiles(stored)) return stored;
+/// The game folder that the user points at, which is then stored; empty when there is none.
+QString askGameFolder(Form1& form) {
   const QString program = QStringLiteral("Vocora.exe");
   const QString chosen =
       form.services.dialogs.openFile(&form, {QStringLiteral("Where is the game's program file, Vocora.exe?"),
@@ -45,6 +43,12 @@ QString findGameFolder(Form1& form) {
   platform::guarded(form, QStringLiteral("The game folder can't be kept in config.ini"),
                     [&] { form.config.setGameFolder(folder); });
   return folder;
+}
+
+/// The stored game folder, or the one that the user points at.
+QString findGameFolder(Form1& form) {
+  const QString stored = form.config.gameFolder();
+  return !stored.isEmpty() && platform::folderHoldsFiles(stored) ? stored : askGameFolder(form);
 }
 
 /// Makes the working copies of the choice and opens them; a failure is reported.
@@ -60,6 +64,7 @@ void unloadToolWindow(Form1& form) {
   form.toolWindow->hide();
   form.toolWindow->deleteLater();
   form.toolWindow = nullptr;
+  form.kept.reset();
   form.services.state.EditorShown = false;
 }
 
@@ -117,17 +122,16 @@ void ReadTheme(Form1& form) {
   });
 }
 
-}  // namespace
-
-void OpenTheme(Form1& form) {
+void openFrom(Form1& form, QString (*folderOf)(Form1& form)) {
   platform::guardedSilently([&] {
     if (!mayDropChanges(form)) return;
-    const QString gameFolder = findGameFolder(form);
+    const QString gameFolder = folderOf(form);
     if (gameFolder.isEmpty()) return;
     const QStringList themes = themefiles::themesOf(gameFolder);
     if (themes.isEmpty()) {
       form.services.dialogs.messageBox(&form, QStringLiteral("No Themes Found"), QStringLiteral("Error"),
                                        platform::BoxKind::Error);
+      form.ShowStatus(QStringLiteral("Ctrl+Shift+O asks for another game folder"));
       return;
     }
     std::optional<platform::Telling> telling;
@@ -147,6 +151,16 @@ void OpenTheme(Form1& form) {
     const QStringList opened{dialog.List1->Text(), dialog.List2->Text(), dialog.Combo1->Text()};
     telling->success(opened.join(QStringLiteral(", ")));
   });
+}
+
+}  // namespace
+
+void OpenTheme(Form1& form) {
+  openFrom(form, findGameFolder);
+}
+
+void OpenAnotherFolder(Form1& form) {
+  openFrom(form, askGameFolder);
 }
 
 void SaveTheme(Form1& form) {

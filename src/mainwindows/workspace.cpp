@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -150,6 +151,10 @@ void Workspace::paintFocus(QPainter& painter) const {
 void Workspace::mouseMoveEvent(QMouseEvent* event) {
   Q_EMIT MouseMove(static_cast<float>(event->position().x()), static_cast<float>(event->position().y()));
   event->ignore();
+}
+
+void Workspace::contextMenuEvent(QContextMenuEvent* event) {
+  Q_EMIT menuAsked(event->globalPos());
 }
 
 }  // namespace mainwindows

@@ -44,10 +44,13 @@ class Workspace : public QWidget, public renderer::CursorMark {
  Q_SIGNALS:
   /// The mouse has moved: its place in pixels of the surface.
   void MouseMove(float X, float Y);
+  /// The user wants the menu at this place of the screen.
+  void menuAsked(const QPoint& place);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   void Timer1_Timer();

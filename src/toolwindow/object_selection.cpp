@@ -62,7 +62,7 @@ void pickAwaited(Form2& form) {
 
 }  // namespace
 
-void listScreen(Form2& form) {
+void listScreen(Form2& form, const QString& kept) {
   ToolServices& services = form.services;
   themefiles::ModuleState& state = services.state;
   state.ButtonListFilled = false;
@@ -73,7 +73,9 @@ void listScreen(Form2& form) {
       themefiles::listScreenTags(state, screen, form.tags, services.status, [&] { services.queue.yield(); });
   form.listed = screen;
   // A tag that the user has picked while the list was filling stays picked, and outranks what is waited for.
-  if (picked >= 0 && !form.awaited) pickTag(form, picked);
+  const auto again = form.List1->findItems(kept, Qt::MatchExactly);
+  const int row = picked >= 0 || again.isEmpty() ? picked : form.List1->row(again.constFirst());
+  if (row >= 0 && !form.awaited) pickTag(form, row);
   pickAwaited(form);
 }
 

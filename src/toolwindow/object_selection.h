@@ -8,9 +8,9 @@ namespace toolwindow {
 
 class Form2;
 
-/// Fills the tag list for the chosen screen and selects its first tag. The drawing of the screen follows in the work
-/// queue. Lets events through; what the queue's yield throws passes through.
-void listScreen(Form2& form);
+/// Fills the tag list for the chosen screen and selects the tag `kept`, or the first one if it isn't there. The drawing
+/// of the screen follows in the work queue. Lets events through; what the queue's yield throws passes through.
+void listScreen(Form2& form, const QString& kept = {});
 
 /// An object has been chosen: shows its keys, closes an open editor and places the mark. Draws nothing.
 void List1_Click(Form2& form, controls::Cause cause);

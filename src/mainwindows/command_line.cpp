@@ -1,0 +1,52 @@
+#include "mainwindows/command_line.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+
+#include "mainwindows/version.h"
+#include "platform/failure.h"
+#include "platform/paths.h"
+
+namespace mainwindows {
+namespace {
+
+constexpr QStringView Usage =
+    u"Usage: cantorama-theme-edit [GAME_FOLDER]\n"
+    u"Edits the themes of the game. GAME_FOLDER, the folder of the game's program file, counts for this run only.\n"
+    u"  -h, --help   print this and end\n"
+    u"  --version    print the version and end";
+
+const QString Help = QStringLiteral("help");
+const QString VersionOption = QStringLiteral("version");
+
+void addOptions(QCommandLineParser& parser) {
+  parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+  parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), Help}));
+  parser.addOption(QCommandLineOption(VersionOption));
+}
+
+}  // namespace
+
+QString commandLineAnswer(const QStringList& words) {
+  QCommandLineParser parser;
+  addOptions(parser);
+  // What is wrong besides may be the toolkit's own options.
+  parser.parse(words);
+  if (parser.isSet(Help)) return Usage.toString();
+  if (parser.isSet(VersionOption)) return QStringLiteral("cantorama-theme-edit ") + Version.toString();
+  return {};
+}
+
+CommandLine parseCommandLine(const QStringList& words) {
+  QCommandLineParser parser;
+  addOptions(parser);
+  if (!parser.parse(words)) throw platform::Failure(parser.errorText());
+  const QStringList names = parser.positionalArguments();
+  if (names.isEmpty()) return {};
+  if (names.size() > 1) throw platform::Failure(QStringLiteral("more than one game folder is named"));
+  const QString& folder = names.constFirst();
+  if (folder.isEmpty() || !QDir(folder).exists()) throw platform::Failure(QStringLiteral("no folder '%1'").arg(folder));
+  return {platform::programPath(QDir(folder).absolutePath()) + u'\\'};
+}
+
+}  // namespace mainwindows
