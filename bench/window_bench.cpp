@@ -16,13 +16,13 @@ class PlainPreview : public QWidget {
     setFixedSize(drawing::Surface::Width, drawing::Surface::Height);
     setAttribute(Qt::WA_OpaquePaintEvent);
   }
-  drawing::Surface Surface;
+  drawing::Surface surface;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.drawImage(0, 0, Surface.image());
+    painter.drawImage(0, 0, surface.image());
   }
 };
 
@@ -48,8 +48,8 @@ void registerShownScreen(const std::shared_ptr<SampleScreen>& screen) {
   registerBenchmark({"ShownScreen", 1.25, Held::AtMost}, draw(shown),
                     [preview, pictures = screen->pictures()](benchmark::State& state) {
                       for ([[maybe_unused]] auto turn : state) {
-                        for (const Picture& picture : pictures) drawPlainly(picture, preview->Surface);
-                        preview->repaint(preview->Surface.takeDirty());
+                        for (const Picture& picture : pictures) drawPlainly(picture, preview->surface);
+                        preview->repaint(preview->surface.takeDirty());
                       }
                     });
 }

@@ -8,7 +8,7 @@
 namespace mainwindows {
 
 void askAnotherFolder(Form1& form) {
-  form.queue.runOutside([&form] { OpenAnotherFolder(form); });
+  form.queue.runOutside([&form] { openAnotherFolder(form); });
 }
 
 void showPreviewMenu(Form1& form, const QPoint& place) {

@@ -159,7 +159,7 @@ void OpenTheme(Form1& form) {
   openFrom(form, findGameFolder);
 }
 
-void OpenAnotherFolder(Form1& form) {
+void openAnotherFolder(Form1& form) {
   openFrom(form, askGameFolder);
 }
 

@@ -12,7 +12,7 @@ class Form1;
 void OpenTheme(Form1& form);
 
 /// The same, but asks for the game folder first; the one that was stored is kept until another is chosen.
-void OpenAnotherFolder(Form1& form);
+void openAnotherFolder(Form1& form);
 
 /// Copies the working copies over the theme's files. A failure is reported and leaves the theme changed.
 void SaveTheme(Form1& form);

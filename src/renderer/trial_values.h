@@ -36,7 +36,7 @@ class TrialFrame {
  private:
   /// A file with its sections found once: a frame asks for many values.
   struct SeenFile {
-    explicit SeenFile(const QByteArray& bytes) : bytes(bytes), sections(this->bytes) {}
+    explicit SeenFile(QByteArray all) : bytes(std::move(all)), sections(bytes) {}
     Q_DISABLE_COPY_MOVE(SeenFile)
 
     QByteArray bytes;

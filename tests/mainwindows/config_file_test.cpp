@@ -20,7 +20,7 @@ class ConfigFileTest : public QObject {
     const Folder first;
     const Folder second;
     const QStringList folders{first.path({}), second.path({})};
-    const ConfigFile made(folders);
+    ConfigFile made(folders);
     QCOMPARE(first.get(File), "[Setup]\r\nEXEDirectory=\r\n");
     QCOMPARE(made.gameFolder(), QString());
     made.setGameFolder(u"C:\\Games\\"_s);
@@ -38,9 +38,9 @@ class ConfigFileTest : public QObject {
     // No folder, a file, a system folder, and one of system programs, otherwise written.
     for (const char* first : {"\\nowhere\\at all", "\\dev\\null", "\\usr\\local", "\\usr\\\\local\\bin"}) {
       const QString folder = QString::fromLatin1(first);
-      const ConfigFile config({folder, next.path({})});
+      ConfigFile config({folder, next.path({})});
       QVERIFY2(config.path() == next.path({}) + u"\\config.ini"_s && config.problem().isEmpty(), first);
-      const ConfigFile none({folder});
+      ConfigFile none({folder});
       QVERIFY2(none.path().isEmpty() && none.gameFolder().isEmpty(), first);
       QVERIFY_THROWS_EXCEPTION(platform::Failure, none.setGameFolder(u"C:\\Games\\"_s));
     }

@@ -1,6 +1,8 @@
 #include <QCloseEvent>
 #include <QScreen>
 
+#include "mainwindows/command_line.h"
+#include "platform/failure.h"
 #include "support/row_name.h"
 #include "support/windows.h"
 
@@ -214,6 +216,60 @@ class OpenThemeTest : public QObject {
     QVERIFY2(!program.form.Workspace->markVisible(), "the mark of the theme before");
     QVERIFY(program.form.Combo2->isHidden());
     QCOMPARE(program.picture().pixelColor(400, 300), QColor(Qt::white));
+  }
+
+ private Q_SLOTS:
+  void anotherGameFolder() {
+    const GameFolder first;
+    const GameFolder second;
+    second.put(u"Themes/Beta.ini"_s, "[Theme]\r\n");
+    Program program(first);
+    program.form.config.setFolderOfThisRun(u"C:\\elsewhere\\"_s);
+    QCOMPARE(program.form.config.gameFolder(), u"C:\\elsewhere\\"_s);
+    program.dialogs.files = {second.path() + u"Vocora.exe"_s};
+    QStringList themes;
+    QTimer watch;
+    watch.callOnTimeout([&] {
+      auto* dialog = qobject_cast<Form3*>(QApplication::activeModalWidget());
+      if (dialog == nullptr) return;
+      watch.stop();
+      themes = entries(*dialog->List1);
+      dialog->reject();
+    });
+    program.form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&program.form));
+    watch.start(5);
+    QTest::keyClick(&program.form, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    settle();
+    QCOMPARE(program.dialogs.asked.size(), 1);
+    QCOMPARE(themes, (QStringList{u"Alpha"_s, u"Beta"_s}));
+    QCOMPARE(program.form.config.gameFolder(), second.path());
+  }
+
+  void screenAnew() {
+    const GameFolder game;
+    Program program(game);
+    program.open();
+    program.tag(u"LoadingTextFree"_s);
+    game.addPicture("plate.png", Qt::green, {10, 8});
+    QTest::keyClick(&program.form, Qt::Key_F5);
+    settle();
+    QCOMPARE(program.tools().List1->Text(), u"LoadingTextFree"_s);
+    QCOMPARE(program.picture().pixelColor(90, 80), QColor(Qt::green));
+  }
+
+  void commandLine() {
+    const auto answer = [](const QStringList& words) {
+      return mainwindows::commandLineAnswer(QStringList{u"program"_s} + words);
+    };
+    QVERIFY(answer({u"--help"_s}).startsWith(u"Usage: cantorama-theme-edit [GAME_FOLDER]"_s));
+    QVERIFY(answer({u"--version"_s}).endsWith(u"0.3a"_s) && answer({u"-platform"_s}).isEmpty());
+    const QTemporaryDir folder;
+    const QStringList named{u"program"_s, folder.path()};
+    QCOMPARE(mainwindows::parseCommandLine(named).gameFolder, platform::programPath(folder.path()) + u'\\');
+    for (const QString& wrong : {u"/no/such/folder"_s, u"--unknown"_s}) {
+      QVERIFY_THROWS_EXCEPTION(platform::Failure, mainwindows::parseCommandLine({u"program"_s, wrong}));
+    }
   }
 };
 
