@@ -32,14 +32,14 @@ QRgb combined(QRgb ground, QRgb pixel, RasterOperation operation) {
 PixelRows GetDIBits(const QImage& bitmap) {
   const QImage pixels = bitmap.convertToFormat(QImage::Format_ARGB32);
   PixelRows rows{pixels.width(), pixels.height(), {}};
-  rows.Bytes.reserve(rowLength(rows.Width) * rows.Height);
+  rows.bytes.reserve(rowLength(rows.Width) * rows.Height);
   for (int y = rows.Height - 1; y >= 0; --y) {
     for (int x = 0; x < rows.Width; ++x) {
       const QRgb pixel = pixels.pixel(x, y);
       const QRgb color = qAlpha(pixel) == 0 ? 0 : pixel;
-      rows.Bytes.append(char(qBlue(color))).append(char(qGreen(color))).append(char(qRed(color)));
+      rows.bytes.append(char(qBlue(color))).append(char(qGreen(color))).append(char(qRed(color)));
     }
-    rows.Bytes.append(rowLength(rows.Width) - qsizetype(BytesPerPixel) * rows.Width, '\0');
+    rows.bytes.append(rowLength(rows.Width) - qsizetype(BytesPerPixel) * rows.Width, '\0');
   }
   return rows;
 }
@@ -48,10 +48,10 @@ void StretchDIBits(Raster& raster, int x, int y, int width, int height, const Pi
                    RasterOperation operation) {
   const QRect shown = QRect(x, y, width, height) & raster.rect();
   const qsizetype length = rowLength(rows.Width);
-  if (width < 1 || height < 1 || rows.Bytes.size() < length * rows.Height || rows.Bytes.isEmpty()) return;
+  if (width < 1 || height < 1 || rows.bytes.size() < length * rows.Height || rows.bytes.isEmpty()) return;
   for (int row = shown.top(); row <= shown.bottom(); ++row) {
     const qint64 line = rows.Height - 1 - (qint64(row) - y) * rows.Height / height;
-    const char* const source = rows.Bytes.constData() + line * length;
+    const char* const source = rows.bytes.constData() + line * length;
     QRgb* const pixels = raster.pixelRow(row);
     for (int column = shown.left(); column <= shown.right(); ++column) {
       const char* const bytes = source + (qint64(column) - x) * rows.Width / width * BytesPerPixel;

@@ -11,7 +11,7 @@ namespace drawing {
 struct PixelRows {
   int Width = 0;
   int Height = 0;
-  QByteArray Bytes;
+  QByteArray bytes;
 };
 
 /// The bytes of a bitmap; the alignment bytes are 0, and so is the colour of a pixel that is wholly transparent.

@@ -28,7 +28,7 @@ bool PaintGrayScale(drawing::Raster& raster, const Picture& picture, int left, i
   if (width == -1) width = picture.Width();
   if (height == -1) height = picture.Height();
   drawing::PixelRows grey = drawing::GetDIBits(picture.pixels);
-  turnGrey(grey.Bytes);
+  turnGrey(grey.bytes);
   if (picture.Type != Picture::Icon) {
     StretchDIBits(raster, left, top, width, height, grey);
     return true;

@@ -51,9 +51,9 @@ QSize clientSize(const ToolLayout& layout) {
 
 }  // namespace
 
-Form2::Form2(ToolServices services, QWidget* owner)
+Form2::Form2(ToolServices given, QWidget* owner)
     : QWidget(owner, Qt::Tool),
-      services(std::move(services)),
+      services(std::move(given)),
       Combo1(new controls::ComboBox(this)),
       List1(new controls::ListBox(controls::ListBox::Order::Sorted, this)),
       ListView1(new controls::ListView(this)),
@@ -134,7 +134,7 @@ Form2::Form2(ToolServices services, QWidget* owner)
     if (!row.Name.isEmpty()) Combo1->AddItem(row.Name);
   }
   for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
-  Combo3->setSwatches([this](const QString& name) { return previewColor(this->services, name); });
+  Combo3->setSwatches([this](const QString& name) { return previewColor(services, name); });
   marking.setSingleShot(true);
   services.state.EditorShown = false;
   fitWindow();

@@ -51,7 +51,7 @@ class DrawingTest : public QObject {
 
   void pixelRowsKeepTheirBytes() {
     const QImage bitmap = picture({qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(7, 8, 9), qRgba(9, 9, 9, 0)}, 2);
-    QCOMPARE(GetDIBits(bitmap).Bytes, QByteArray("\x09\x08\x07\0\0\0\0\0\x03\x02\x01\x06\x05\x04\0\0", 16));
+    QCOMPARE(GetDIBits(bitmap).bytes, QByteArray("\x09\x08\x07\0\0\0\0\0\x03\x02\x01\x06\x05\x04\0\0", 16));
     Raster raster(QSize(6, 4), qRgb(8, 8, 8));
     StretchDIBits(raster, -1, 0, 4, 4, GetDIBits(bitmap));
     const QList<QRgb> expected = {qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(4, 5, 6), qRgb(8, 8, 8)};

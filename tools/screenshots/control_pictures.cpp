@@ -10,7 +10,7 @@
 namespace screenshots {
 namespace {
 
-constexpr int buttons = 4;
+constexpr int Buttons = 4;
 constexpr int SaveButton = 2;
 constexpr int ButtonWidth = 32;
 constexpr QRect Strip(0, 0, 800, 32);
@@ -58,11 +58,11 @@ void ControlPictures::leave() const {
 
 void ControlPictures::stack(const QString& name, const std::function<void(int button)>& reach) const {
   QPixmap all;
-  for (int button = 1; button <= buttons; ++button) {
+  for (int button = 1; button <= Buttons; ++button) {
     reach(button);
     const QPixmap strip = form_.client->grab(ButtonsOfStrip);
     if (all.isNull()) {
-      all = QPixmap(strip.width(), strip.height() * buttons);
+      all = QPixmap(strip.width(), strip.height() * Buttons);
       all.setDevicePixelRatio(strip.devicePixelRatio());
     }
     QPainter(&all).drawPixmap(0, (button - 1) * ButtonsOfStrip.height(), strip);
