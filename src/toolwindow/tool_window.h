@@ -61,7 +61,7 @@ class Form2 : public QWidget {
   Q_OBJECT
 
  public:
-  Form2(ToolServices services, QWidget* owner);
+  Form2(ToolServices given, QWidget* owner);
 
   ToolServices services;
 
