@@ -13,8 +13,8 @@ namespace {
 
 /// What the place of a bar gives to members that aren't stored.
 struct Ambient {
-  QString DisplayName;
-  QFont Font;
+  QString displayName;
+  QFont font;
 };
 
 /// One member as it is stored.
@@ -40,10 +40,10 @@ QVariant fixed(const Ambient& /*ambient*/) {
   return QVariant::fromValue(Value);
 }
 QVariant Name(const Ambient& ambient) {
-  return ambient.DisplayName;
+  return ambient.displayName;
 }
 QVariant Font(const Ambient& ambient) {
-  return ambient.Font;
+  return ambient.font;
 }
 
 constexpr quint32 Black = 0;
