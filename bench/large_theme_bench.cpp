@@ -1,6 +1,7 @@
 #include "figures.h"
 #include "open_editor.h"
 #include "platform/files.h"
+#include "toolwindow/tool_window.h"
 
 namespace bench {
 namespace {
@@ -35,7 +36,7 @@ std::shared_ptr<OpenEditor> editorOfCrowd(int objects) {
 
 void chooseOften(const OpenEditor& editor, int objects, int times) {
   for (int i = 0; i < times; ++i) editor.choose(QStringLiteral("Loading Screen"));
-  if (editor.form.toolWindow->List1->ListCount() != objects + 1) qFatal("not all objects are listed");
+  if (editor.form.toolWindow()->List1->ListCount() != objects + 1) qFatal("not all objects are listed");
 }
 
 /// The theme with sections of no screen before and behind its own, as many in all.

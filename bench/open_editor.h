@@ -10,6 +10,8 @@
 #include "mainwindows/open_theme_dialog.h"
 #include "platform/paths.h"
 #include "sample_screens.h"
+#include "toolbar/mc_toolbar.h"
+#include "toolwindow/tool_window.h"
 
 namespace bench {
 
@@ -19,10 +21,10 @@ struct OpenEditor {
   OpenEditor(
       const QString& theme, const QString& screen,
       const std::function<void(const QString& folder)>& addFiles = [](const QString&) {})
-      : form({state, boxes, graphics, {platform::programPath(settings.path())}}) {
+      : whole(mainwindows::makeForm1({state, boxes, graphics, {platform::programPath(settings.path())}})),
+        form(*whole) {
     addFiles(game.path());
-    form.config.setGameFolder(platform::programPath(game.path()) + u'\\');
-    mainwindows::connectEvents(form);
+    form.config().setGameFolder(platform::programPath(game.path()) + u'\\');
     form.show();
     QTimer::singleShot(0, &form, [&theme] {
       auto& dialog = dynamic_cast<mainwindows::Form3&>(*QApplication::activeModalWidget());
@@ -35,7 +37,7 @@ struct OpenEditor {
 
   /// Lists and draws the screen.
   void choose(const QString& screen) const {
-    form.toolWindow->Combo1->SetText(screen);
+    form.toolWindow()->Combo1->SetText(screen);
     QApplication::processEvents();
   }
 
@@ -44,7 +46,8 @@ struct OpenEditor {
   themefiles::ModuleState state;
   support::ScriptedDialogs boxes;
   drawing::Graphics graphics;
-  mainwindows::Form1 form;
+  std::unique_ptr<mainwindows::Form1> whole;
+  mainwindows::Form1& form;
 };
 
 }  // namespace bench

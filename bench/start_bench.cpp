@@ -10,9 +10,12 @@
 
 #include "controls/look.h"
 #include "controls/native_dialogs.h"
+#include "drawing/graphics.h"
 #include "mainwindows/main_events.h"
 #include "mainwindows/main_window.h"
+#include "mainwindows/workspace.h"
 #include "platform/paths.h"
+#include "themefiles/module_state.h"
 
 namespace {
 
@@ -43,10 +46,9 @@ int showEditor(QApplication& application, const QString& settings) {
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
   drawing::Graphics graphics;
-  mainwindows::Form1 form({state, dialogs, graphics, {platform::programPath(settings)}});
-  mainwindows::connectEvents(form);
-  form.Workspace->installEventFilter(&first);
-  form.show();
+  const auto form = mainwindows::makeForm1({state, dialogs, graphics, {platform::programPath(settings)}});
+  form->Workspace->installEventFilter(&first);
+  form->show();
   return QApplication::exec();
 }
 

@@ -5,6 +5,7 @@
 
 #include "figures.h"
 #include "open_editor.h"
+#include "progressbar/progress_bar.h"
 
 namespace bench {
 namespace {
@@ -37,8 +38,8 @@ void registerShownScreen(const std::shared_ptr<SampleScreen>& screen) {
     return [editor, bar](benchmark::State& state) {
       editor->form.ProgressBar1->resize(bar);
       for ([[maybe_unused]] auto turn : state) {
-        editor->form.pictures.clear();
-        editor->form.queue.draw();
+        editor->form.forgetPictures();
+        editor->form.queue().draw();
         QApplication::processEvents();
       }
     };

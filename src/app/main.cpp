@@ -49,9 +49,8 @@ int main(int argc, char** argv) {
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
   drawing::Graphics graphics;
-  mainwindows::Form1 form({state, dialogs, graphics, mainwindows::configFolders()});
-  form.config.setFolderOfThisRun(commandLine.gameFolder);
-  mainwindows::connectEvents(form);
-  form.show();
+  const auto form = mainwindows::makeForm1({state, dialogs, graphics, mainwindows::configFolders()});
+  form->config().setFolderOfThisRun(commandLine.gameFolder);
+  form->show();
   return QApplication::exec();
 }

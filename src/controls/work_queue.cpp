@@ -1,5 +1,6 @@
 #include "controls/work_queue.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QCoreApplication>
@@ -7,20 +8,17 @@
 
 namespace controls {
 
-void WorkQueue::setWorks(Work choose, Work draw) {
-  choose_ = std::move(choose);
-  draw_ = std::move(draw);
-}
-
 void WorkQueue::choose() {
-  if (afterwork_) forework_ = std::exchange(afterwork_, {});
-  noted_ = Stage::Choose;
-  work();
+  want(Stage::Choose);
 }
 
 void WorkQueue::draw() {
-  if (afterwork_) forework_ = std::exchange(afterwork_, {});
-  if (noted_ == Stage::None) noted_ = Stage::Draw;
+  want(Stage::Draw);
+}
+
+void WorkQueue::want(Stage stage) {
+  if (closing_) overdueClosing_ = std::exchange(closing_, {});
+  wanted_ = std::max(wanted_, stage);
   work();
 }
 
@@ -29,47 +27,48 @@ void WorkQueue::work() {
   const auto commands = qScopeGuard([this] {
     if (!commands_.empty()) postCommands();
   });
-  while (noted_ != Stage::None && !leaving_) {
-    // A choice ends in a draw: a draw noted while the list still fills is that one.
-    if (forework_) std::exchange(forework_, {})();
-    running_ = std::exchange(noted_, noted_ == Stage::Choose ? Stage::Draw : Stage::None);
-    try {
-      running_ == Stage::Choose ? choose_() : draw_();
-    } catch (const WorkAbandoned&) {
-      if (leaving_ && noted_ < running_) noted_ = running_;
-    } catch (...) {
-      running_ = Stage::None;
-      throw;
-    }
-    running_ = Stage::None;
+  while (wanted_ != Stage::None && !givesWay_) {
+    if (overdueClosing_) std::exchange(overdueClosing_, {})();
+    const Stage stage = wanted_;
+    // A drawing that is wished for while the list still fills is the one that the choice ends in.
+    wanted_ = stage == Stage::Choose ? Stage::Draw : Stage::None;
+    run(stage);
   }
-  if (afterwork_ && noted_ == Stage::None) std::exchange(afterwork_, {})();
+  if (closing_ && wanted_ == Stage::None) std::exchange(closing_, {})();
+}
+
+void WorkQueue::run(Stage stage) {
+  running_ = stage;
+  const auto done = qScopeGuard([this] { running_ = Stage::None; });
+  try {
+    const Work& operation = stage == Stage::Choose ? operations_.choose : operations_.draw;
+    operation();
+  } catch (const WorkAbandoned&) {
+    if (givesWay_) wanted_ = std::max(wanted_, stage);
+  }
 }
 
 void WorkQueue::yield() {
   const Stage caller = running_;
   Q_EMIT yielding();
   QCoreApplication::processEvents(QEventLoop::AllEvents);
-  if (leaving_ || noted_ == Stage::Choose || (caller == Stage::Draw && noted_ == Stage::Draw)) throw WorkAbandoned{};
+  const bool drawnAnew = caller == Stage::Draw && wanted_ == Stage::Draw;
+  if (givesWay_ || wanted_ == Stage::Choose || drawnAnew) throw WorkAbandoned{};
 }
 
-void WorkQueue::runOutside(Work command, bool leaving) {
+void WorkQueue::runOutside(Work command, RunningWork running) {
   commands_.push_back(std::move(command));
-  if (busy() || commanding_) {
-    leaving_ = leaving_ || leaving;
+  if (busy() || runningCommand_) {
+    givesWay_ = givesWay_ || running == RunningWork::GivesWay;
     return;
   }
   runCommands();
 }
 
-void WorkQueue::setAfterwork(Work afterwork) {
-  afterwork_ = std::move(afterwork);
-}
-
 void WorkQueue::forget() {
-  noted_ = Stage::None;
-  forework_ = {};
-  afterwork_ = {};
+  wanted_ = Stage::None;
+  overdueClosing_ = {};
+  closing_ = {};
 }
 
 void WorkQueue::postCommands() {
@@ -77,13 +76,13 @@ void WorkQueue::postCommands() {
 }
 
 void WorkQueue::runCommands() {
-  if (busy() || commanding_) return;
-  commanding_ = true;
-  const auto done = qScopeGuard([this] { commanding_ = false; });
+  if (busy() || runningCommand_) return;
+  runningCommand_ = true;
+  const auto done = qScopeGuard([this] { runningCommand_ = false; });
   while (!commands_.empty()) {
     const Work command = std::move(commands_.front());
     commands_.pop_front();
-    leaving_ = false;
+    givesWay_ = false;
     command();
   }
   work();

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <functional>
+#include <utility>
 
 #include <QObject>
 
@@ -9,6 +10,9 @@ namespace controls {
 
 /// Thrown out of a yield to unwind the running work: a later wish has made it pointless. Never leaves the work queue.
 struct WorkAbandoned {};
+
+/// What becomes of the running work when a command waits for it.
+enum class RunningWork { Finishes, GivesWay };
 
 /// Keeps the long work (the choice of a screen, the drawing of one) from nesting while it lets events through.
 /// Of the wishes that come in the meantime the latest wins, and a choice, which ends in a draw of its own, outranks a
@@ -18,9 +22,14 @@ class WorkQueue : public QObject {
 
  public:
   using Work = std::function<void()>;
+  /// The long work itself; both call yield.
+  struct Operations {
+    Work choose;  ///< fills the tag list of the chosen screen
+    Work draw;    ///< draws it
+  };
 
-  /// `choose` fills the tag list of the chosen screen, `draw` draws it; both call Yield.
-  void setWorks(Work choose, Work draw);
+  void setOperations(Operations operations) { operations_ = std::move(operations); }
+  const Operations& operations() const { return operations_; }
 
   /// Chooses the screen, then draws it: now, or after the running work when there is one.
   void choose();
@@ -32,12 +41,12 @@ class WorkQueue : public QObject {
   bool busy() const { return running_ != Stage::None; }
 
   /// Runs `command` at once when no work is running and no command either, else as soon as that is over.
-  /// With `leaving` the running work is given up at its next yield; it is taken up anew after the command unless the
-  /// command called Forget.
-  void runOutside(Work command, bool leaving = false);
-  /// Runs once behind the work that is running now; work that is wished for later begins after it.
-  void setAfterwork(Work afterwork);
-  /// Drops noted work and afterwork: what they were for is gone.
+  /// Work that gives way is given up at its next yield. It is begun anew after the command, unless the command called
+  /// forget.
+  void runOutside(Work command, RunningWork running = RunningWork::Finishes);
+  /// Runs `closing` once, at the end of the work that is running now and before any other.
+  void runBehind(Work closing) { closing_ = std::move(closing); }
+  /// Drops the work that is still wanted, and what was to run behind it: what they were for is gone.
   void forget();
 
  Q_SIGNALS:
@@ -45,21 +54,23 @@ class WorkQueue : public QObject {
   void yielding();
 
  private:
+  /// A later one includes the earlier ones: a choice ends in a drawing.
   enum class Stage { None, Draw, Choose };
 
+  void want(Stage stage);
   void work();
+  void run(Stage stage);
   void runCommands();
   void postCommands();
 
-  Work choose_;
-  Work draw_;
+  Operations operations_;
   Stage running_ = Stage::None;
-  Stage noted_ = Stage::None;
-  bool leaving_ = false;
-  bool commanding_ = false;
-  std::deque<Work> commands_;
-  Work forework_;  ///< the afterwork of work that was given up for what comes next
-  Work afterwork_;
+  Stage wanted_ = Stage::None;  ///< comes next
+  Work closing_;                ///< runs behind the running work
+  Work overdueClosing_;         ///< the same of work that was given up for a later wish: runs before the next work
+  std::deque<Work> commands_;   ///< wait for the end of the running work or command
+  bool runningCommand_ = false;
+  bool givesWay_ = false;  ///< the running work, for the first of the commands
 };
 
 }  // namespace controls

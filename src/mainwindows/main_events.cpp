@@ -1,140 +1,122 @@
 #include "mainwindows/main_events.h"
 
-#include <array>
 #include <cmath>
-#include <functional>
 
 #include <QApplication>
 #include <QDialog>
 #include <QShortcut>
 
+#include "controls/combo_box.h"
+#include "controls/work_queue.h"
+#include "mainwindows/commands.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/preview_hand.h"
 #include "mainwindows/preview_menu.h"
 #include "mainwindows/screen_refresh.h"
 #include "mainwindows/theme_session.h"
+#include "mainwindows/workspace.h"
 #include "platform/numbers.h"
-#include "toolbar/button_values.h"
-#include "toolwindow/finder_window.h"
-#include "toolwindow/object_selection.h"
+#include "toolbar/mc_toolbar.h"
 
 namespace mainwindows {
 namespace {
 
-/// A command of the toolbar.
-struct CommandRow {
-  void (*run)(Form1& form);
-  bool atOnce;           ///< runs in the middle of a render, too
-  QStringView shortcut;  ///< empty for none
+class ConnectedForm1 final : public Form1 {
+ public:
+  explicit ConnectedForm1(const MainServices& services);
+
+ private:
+  void connectCommands();
+  void connectLists();
+  void connectPreview();
+  void run(const CommandRow& row) { runCommand(targets_, row); }
+  void end();
+
+  PreviewHand hand_{*this};
+  ScreenRefresh refresh_{*this};
+  const CommandTargets targets_{*this, hand_, refresh_};
 };
 
-// Buttons 1 to 4.
-constexpr std::array<CommandRow, 4> Commands{{
-    {OpenTheme, false, u"Ctrl+O"},
-    {SaveTheme, true, u"Ctrl+S"},
-    {CloseTheme, false, u"Ctrl+W"},
-    {ChooseBackgroundColor, false, {}},
-}};
-
-/// A theme without changes closes without a question: a running render is given up for it.
-bool leavesAtOnce(const Form1& form, const CommandRow& command) {
-  return command.run == CloseTheme && !form.services.state.Changed;
+ConnectedForm1::ConnectedForm1(const MainServices& services) : Form1(services, commandRows()) {
+  queue().setOperations({
+      [this] {
+        hand_.settle();
+        hand_.forgetPlaces();
+        refresh_.list();
+      },
+      [this] {
+        hand_.giveUpDrag();
+        refresh_.draw();
+      },
+  });
+  connectCommands();
+  connectLists();
+  connectPreview();
+  connect(this, &Form1::settling, this, [this] { hand_.settle(); });
+  connect(this, &Form1::themeLeft, this, [this] {
+    hand_.letGo();
+    refresh_.forget();
+  });
+  connect(this, &Form1::closeAsked, this, [this] { end(); });
 }
 
-void run(Form1& form, int button) {
-  const CommandRow& command = Commands.at(button - 1);
-  form.hand->settle();
-  if (command.atOnce) {
-    command.run(form);
-    return;
+void ConnectedForm1::connectCommands() {
+  for (const CommandRow& row : commandRows()) {
+    if (row.keys.isEmpty()) continue;
+    auto* shortcut = new QShortcut(QKeySequence(row.keys.toString()), this);
+    shortcut->setContext(Qt::ApplicationShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this, &row] { run(row); });
   }
-  const auto ifStillEnabled = [&form, button, &command] {
-    form.hand->settle();
-    if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) command.run(form);
-  };
-  form.queue.runOutside(ifStillEnabled, leavesAtOnce(form, command));
+  connect(ToolBar, &toolbar::McToolBar::Click, this, [this](int button) {
+    for (const CommandRow& row : commandRows()) {
+      if (row.button == button) run(row);
+    }
+  });
+}
+
+void ConnectedForm1::connectLists() {
+  connect(Combo1, &controls::ComboBox::Click, this, [this](controls::Cause cause) {
+    if (cause == controls::Cause::User) queue().draw();
+  });
+  connect(Combo2, &controls::ComboBox::Click, this, [this](controls::Cause cause) {
+    if (cause != controls::Cause::User) return;
+    this->services.state.SelectedButton = static_cast<quint8>(Combo2->ListIndex() + 1);
+    refresh_.keepButton(this->services.state.SelectedButton);
+    queue().draw();
+  });
+}
+
+void ConnectedForm1::connectPreview() {
+  connect(Workspace, &Workspace::MouseMove, this, [this](float X, float Y) {
+    ShowMousePosition(platform::roundToInt16(std::floor(X)).value_or(0),
+                      platform::roundToInt16(std::floor(Y)).value_or(0));
+  });
+  connect(Workspace, &Workspace::menuAsked, this, [this](const QPoint& place) {
+    showPreviewMenu(*this, place, [this](Command command) {
+      for (const CommandRow& row : commandRows()) {
+        if (row.command == command) run(row);
+      }
+    });
+  });
 }
 
 /// The window's end waits for a running pass and takes the place of an open dialog, which gets Cancel.
-void end(Form1& form) {
+void ConnectedForm1::end() {
   auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-  form.hand->settle();
-  form.queue.runOutside(
-      [&form] {
-        form.hand->settle();
-        Form_Unload(form);
+  hand_.settle();
+  queue().runOutside(
+      [this] {
+        hand_.settle();
+        Form_Unload(*this);
       },
-      true);
+      controls::RunningWork::GivesWay);
   if (dialog != nullptr) dialog->reject();
-}
-
-void onShortcut(Form1& form, const QKeySequence& keys, const std::function<void()>& act) {
-  auto* shortcut = new QShortcut(keys, &form);
-  shortcut->setContext(Qt::ApplicationShortcut);
-  QObject::connect(shortcut, &QShortcut::activated, &form, act);
-}
-
-void connectToolBar(Form1& form) {
-  QObject::connect(form.ToolBar, &toolbar::McToolBar::Click, &form, [&form](int button) { run(form, button); });
-  for (size_t i = 0; i < Commands.size(); ++i) {
-    if (Commands.at(i).shortcut.isEmpty()) continue;
-    const int button = static_cast<int>(i) + 1;
-    onShortcut(form, QKeySequence(Commands.at(i).shortcut.toString()), [&form, button] {
-      form.hand->settle();
-      if (form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool()) run(form, button);
-    });
-  }
-}
-
-/// The keyboard's way from one window to the other.
-void goToOtherWindow(Form1& form) {
-  QWidget* other = form.toolWindow != nullptr && form.isActiveWindow() ? form.toolWindow : static_cast<QWidget*>(&form);
-  other->activateWindow();
-  other->raise();
 }
 
 }  // namespace
 
-void connectEvents(Form1& form) {
-  form.hand = new PreviewHand(form);
-  form.queue.setWorks(
-      [&form] {
-        form.hand->settle();
-        listScreen(form);
-      },
-      [&form] {
-        form.hand->giveUpDrag();
-        drawScreen(form);
-      });
-  connectToolBar(form);
-  onShortcut(form, QKeySequence(QStringLiteral("Ctrl+Shift+O")), [&form] {
-    form.hand->settle();
-    askAnotherFolder(form);
-  });
-  onShortcut(form, QKeySequence(Qt::Key_F5), [&form] {
-    form.hand->settle();
-    refreshScreen(form);
-  });
-  QObject::connect(form.Workspace, &Workspace::menuAsked, &form,
-                   [&form](const QPoint& place) { showPreviewMenu(form, place); });
-  onShortcut(form, QKeySequence(Qt::Key_F6), [&form] { goToOtherWindow(form); });
-  QObject::connect(&form, &Form1::closeAsked, &form, [&form] { end(form); });
-  onShortcut(form, QKeySequence(QStringLiteral("Ctrl+F")), [&form] {
-    if (form.toolWindow != nullptr) toolwindow::showFinder(*form.toolWindow);
-  });
-  QObject::connect(form.Combo1, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
-    if (cause == controls::Cause::User) form.queue.draw();
-  });
-  QObject::connect(form.Combo2, &controls::ComboBox::Click, &form, [&form](controls::Cause cause) {
-    if (cause != controls::Cause::User) return;
-    form.services.state.SelectedButton = static_cast<quint8>(form.Combo2->ListIndex() + 1);
-    if (form.kept) form.kept->button = form.services.state.SelectedButton;
-    form.queue.draw();
-  });
-  QObject::connect(form.Workspace, &Workspace::MouseMove, &form, [&form](float X, float Y) {
-    form.ShowMousePosition(platform::roundToInt16(std::floor(X)).value_or(0),
-                           platform::roundToInt16(std::floor(Y)).value_or(0));
-  });
+std::unique_ptr<Form1> makeForm1(const MainServices& services) {
+  return std::make_unique<ConnectedForm1>(services);
 }
 
 }  // namespace mainwindows

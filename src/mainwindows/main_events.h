@@ -1,10 +1,13 @@
 #pragma once
 
+#include <memory>
+
 namespace mainwindows {
 
 class Form1;
+struct MainServices;
 
-/// Ties the events of the main window to its commands, and the work queue to its two works.
-void connectEvents(Form1& form);
+/// The main window with its commands and events; it isn't shown yet.
+std::unique_ptr<Form1> makeForm1(const MainServices& services);
 
 }  // namespace mainwindows

@@ -1,26 +1,35 @@
 #include "mainwindows/main_window.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QCloseEvent>
 #include <QIcon>
+#include <QLabel>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStyle>
 #include <QTime>
 
 #include "controls/assets.h"
+#include "controls/combo_box.h"
 #include "controls/twips.h"
 #include "drawing/fonts.h"
 #include "drawing/system_colours.h"
 #include "mainwindows/main_window_progress_bar.h"
 #include "mainwindows/main_window_tool_bar.h"
+#include "mainwindows/preview_host.h"
+#include "mainwindows/status_bar.h"
 #include "mainwindows/version.h"
+#include "mainwindows/workspace.h"
+#include "progressbar/progress_bar.h"
 #include "progressbar/stored_form.h"
+#include "renderer/render_context.h"
 #include "renderer/render_driver.h"
+#include "themefiles/module_state.h"
 #include "toolbar/button_values.h"
+#include "toolbar/mc_toolbar.h"
 #include "toolwindow/object_selection.h"
+#include "toolwindow/tool_window.h"
 
 namespace mainwindows {
 namespace {
@@ -32,9 +41,6 @@ constexpr QSize ProgressBarSize(801, 20);
 constexpr quint32 FormColor = 0xC0C0C0;
 constexpr quint32 StartBackColor = 0x808080;
 
-/// Tool tips of the toolbar's four commands, buttons 1 to 4.
-constexpr std::array<QStringView, 4> CommandTips{u"Open", u"Save", u"Close", u"Background Color"};
-
 void setBackground(QWidget& widget, quint32 color) {
   QPalette palette = widget.palette();
   palette.setColor(QPalette::Window, drawing::colorOf(color));
@@ -44,11 +50,10 @@ void setBackground(QWidget& widget, quint32 color) {
 
 }  // namespace
 
-Form1::Form1(const MainServices& services)
+Form1::Form1(const MainServices& services, CommandRows commands)
     : QWidget(nullptr, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
       services(services),
-      config(services.configFolders),
       client(new QWidget(this)),
       Workspace(new mainwindows::Workspace(client)),
       ToolBar(new toolbar::McToolBar(client)),
@@ -58,18 +63,21 @@ Form1::Form1(const MainServices& services)
       Label1(startLabel(19, 10800, 7800)),
       Label2(startLabel(11, 8160, 8160)),
       ProgressBar1(new progressbar::ProgressBar(client)),
-      host_({*Workspace, *ProgressBar1, *Combo1, *Combo2, queue, [this] { return toolWindow->Combo1->Text(); }}) {
+      commands_(commands),
+      config_(services.configFolders),
+      host_(std::make_unique<PreviewHost>(PreviewControls{*Workspace, *ProgressBar1, *Combo1, *Combo2, queue_,
+                                                          [this] { return toolWindow_->Combo1->Text(); }})) {
   setObjectName(QStringLiteral("Form1"));
   setWindowIcon(controls::assetIcon(QStringLiteral("app")));
-  ToolBar->UserControl_ReadProperties(mainWindowToolBar());
+  ToolBar->UserControl_ReadProperties(mainWindowToolBar(commands_));
   progressbar::readProperties(*ProgressBar1, mainWindowBar());
   placeControls();
   Form_Load();
 }
 
 Form1::~Form1() {
-  delete toolWindow;
-  toolWindow = nullptr;  // the preview may still lose the focus
+  delete toolWindow_;
+  toolWindow_ = nullptr;
 }
 
 QLabel* Form1::startLabel(int pixels, double left, double top) {
@@ -137,12 +145,12 @@ void Form1::Form_Load() {
   Label1->adjustSize();
   Label2->adjustSize();
   ProgressBar1->move(0, ToolBar->Height());
-  for (size_t i = 0; i < CommandTips.size(); ++i) {
-    ToolBar->SetButtonValue(static_cast<int>(i) + 1, toolbar::ToolTipTextProperty, CommandTips.at(i).toString());
+  for (const CommandRow& row : commands_) {
+    if (row.button != 0) ToolBar->SetButtonValue(row.button, toolbar::ToolTipTextProperty, row.toolTip.toString());
   }
   services.state.BackgroundColor = 0xFFFFFF;
-  if (config.path().isEmpty()) {
-    ShowStatus(platform::reportText(QStringLiteral("The game folder can't be kept in config.ini"), config.problem()));
+  if (config_.path().isEmpty()) {
+    ShowStatus(platform::reportText(QStringLiteral("The game folder can't be kept in config.ini"), config_.problem()));
   }
 }
 
@@ -165,12 +173,12 @@ void Form1::ShowMousePosition(qint16 X, qint16 Y) {
 }
 
 renderer::RenderContext Form1::renderContext() {
-  return {services.state, toolWindow->tags, Workspace->surface(), host_, *this, services.dialogs, services.graphics,
-          account,        &pictures};
+  return {services.state, toolWindow_->tags, Workspace->surface(), *host_, *this, services.dialogs, services.graphics,
+          account_,       &pictures_};
 }
 
 void Form1::DrawScreen() {
-  if (toolWindow == nullptr) return;
+  if (toolWindow_ == nullptr) return;
   drawing::Surface& surface = Workspace->surface();
   renderer::RenderContext context = renderContext();
   const drawing::Pen pen = surface.pen();
@@ -183,11 +191,32 @@ void Form1::DrawScreen() {
   }
   ProgressBar1->hide();
   Workspace->Refresh();
-  toolwindow::showReasons(*toolWindow, account);
+  toolwindow::showReasons(*toolWindow_, account_);
 }
 
-void Form1::enableButton(int button, bool enabled) {
-  ToolBar->SetButtonValue(button, toolbar::EnabledProperty, enabled);
+int Form1::buttonOf(Command command) const {
+  const auto row =
+      std::find_if(commands_.begin(), commands_.end(), [&](const CommandRow& each) { return each.command == command; });
+  return row == commands_.end() ? 0 : row->button;
+}
+
+void Form1::enableCommand(Command command, bool enabled) {
+  ToolBar->SetButtonValue(buttonOf(command), toolbar::EnabledProperty, enabled);
+}
+
+bool Form1::commandEnabled(Command command) const {
+  const int button = buttonOf(command);
+  return button == 0 || ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool();
+}
+
+void Form1::unloadToolWindow() {
+  if (toolWindow_ == nullptr) return;
+  // It goes when control is back in the event loop: one of its own events may be on the way.
+  toolWindow_->hide();
+  toolWindow_->deleteLater();
+  toolWindow_ = nullptr;
+  services.state.EditorShown = false;
+  Q_EMIT themeLeft();
 }
 
 void Form1::closeEvent(QCloseEvent* event) {

@@ -1,31 +1,48 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 
-#include <QLabel>
 #include <QWidget>
 
-#include "controls/combo_box.h"
 #include "controls/work_queue.h"
-#include "drawing/graphics.h"
+#include "mainwindows/command.h"
 #include "mainwindows/config_file.h"
-#include "mainwindows/preview_host.h"
-#include "mainwindows/preview_picking.h"
-#include "mainwindows/status_bar.h"
-#include "mainwindows/workspace.h"
-#include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "progressbar/progress_bar.h"
 #include "renderer/prepared_pictures.h"
 #include "renderer/render_account.h"
-#include "renderer/render_context.h"
-#include "themefiles/module_state.h"
-#include "toolbar/mc_toolbar.h"
-#include "toolwindow/tool_window.h"
+
+class QLabel;
+
+namespace controls {
+class ComboBox;
+}
+namespace drawing {
+class Graphics;
+}
+namespace platform {
+class Dialogs;
+}
+namespace progressbar {
+class ProgressBar;
+}
+namespace renderer {
+class RenderHost;
+struct RenderContext;
+}  // namespace renderer
+namespace themefiles {
+struct ModuleState;
+}
+namespace toolbar {
+class McToolBar;
+}
+namespace toolwindow {
+class Form2;
+}
 
 namespace mainwindows {
 
-class PreviewHand;
+class StatusBar;
+class Workspace;
 
 /// What the main window gets from its surroundings; tests give their own.
 struct MainServices {
@@ -35,25 +52,15 @@ struct MainServices {
   QStringList configFolders;  ///< where config.ini may lie
 };
 
-/// What is chosen on the screen while it is listed and drawn anew.
-struct KeptChoices {
-  QString screen;
-  QString object;
-  quint8 button = 1;
-};
-
 /// The main window: the preview with its toolbar, status bar and the choices of colour scheme and button. It is there
 /// from the program's start to its end.
 class Form1 : public QWidget, public platform::StatusLine {
   Q_OBJECT
 
  public:
-  explicit Form1(const MainServices& services);
   ~Form1() override;
 
-  MainServices services;
-  ConfigFile config;
-  controls::WorkQueue queue;
+  const MainServices services;
 
   QWidget* client;  ///< the client area: 800 x 650, or what the screen has room for
   mainwindows::Workspace* Workspace;
@@ -64,28 +71,47 @@ class Form1 : public QWidget, public platform::StatusLine {
   QLabel* Label1;              ///< version
   QLabel* Label2;              ///< credit
   progressbar::ProgressBar* ProgressBar1;
-  toolwindow::Form2* toolWindow = nullptr;  ///< Form2 while a theme is open
-  renderer::RenderAccount account;          ///< what the last render drew and left out
-  renderer::PreparedPictures pictures;      ///< what the renders keep of the picture files
-  PreviewPicking picking;
-  PreviewHand* hand = nullptr;      ///< moves and sizes objects on the preview; comes with the events
-  std::optional<KeptChoices> kept;  ///< while a refresh of the screen is on its way
+
+  ConfigFile& config() { return config_; }
+  controls::WorkQueue& queue() { return queue_; }
+  const controls::WorkQueue& queue() const { return queue_; }
+  /// Form2 while a theme is open, else null.
+  toolwindow::Form2* toolWindow() const { return toolWindow_; }
+  /// Takes over the tool window of a theme that is being opened; its parent is this window.
+  void setToolWindow(toolwindow::Form2* window) { toolWindow_ = window; }
+  /// Unloads the tool window of a theme that is being left.
+  void unloadToolWindow();
+
+  /// What the last render drew and left out.
+  const renderer::RenderAccount& account() const { return account_; }
+  /// What a drawing of the chosen screen works on; only with a theme open.
+  renderer::RenderContext renderContext();
+  /// Has the next render read all pictures from their files.
+  void forgetPictures() { pictures_.clear(); }
+  /// Draws the chosen screen; called by the work queue.
+  void DrawScreen();
 
   /// Shows the mouse's place in the status bar, counted from 1.
   void ShowMousePosition(qint16 X, qint16 Y);
   /// Shows the start picture with the two labels, on a back colour value.
   void showStartPicture(quint32 backColor);
-  /// Draws the chosen screen; called by the work queue.
-  void DrawScreen();
-  void enableButton(int button, bool enabled);
-  /// What a drawing of the chosen screen works on; only with a theme open.
-  renderer::RenderContext renderContext();
+  /// Enables the button of a command.
+  void enableCommand(Command command, bool enabled);
+  /// Whether the button of a command is enabled; true for a command without one.
+  bool commandEnabled(Command command) const;
 
  Q_SIGNALS:
+  /// Something else is about to happen: what is under way on the preview has to come to its end.
+  void settling();
+  /// The theme's tool window is gone.
+  void themeLeft();
   /// The user, or the session's end, wants the window closed.
   void closeAsked();
 
  protected:
+  /// The window without its events, see makeForm1.
+  Form1(const MainServices& services, CommandRows commands);
+
   void showReport(const QString& text) override;
   void closeEvent(QCloseEvent* event) override;
 
@@ -94,8 +120,15 @@ class Form1 : public QWidget, public platform::StatusLine {
   void placeControls();
   QSize windowSize() const;
   void Form_Load();
+  int buttonOf(Command command) const;
 
-  PreviewHost host_;
+  CommandRows commands_;
+  ConfigFile config_;
+  controls::WorkQueue queue_;
+  toolwindow::Form2* toolWindow_ = nullptr;
+  renderer::RenderAccount account_;
+  renderer::PreparedPictures pictures_;
+  std::unique_ptr<renderer::RenderHost> host_;
 };
 
 }  // namespace mainwindows

@@ -36,12 +36,13 @@ toolbar::Properties values() {
 
 }  // namespace
 
-QByteArray mainWindowToolBar() {
+QByteArray mainWindowToolBar(CommandRows commands) {
   toolbar::StoredToolBar toolBar{values(), {}};
-  for (const char* icon : {"open", "save", "close", "background"}) {
+  for (const CommandRow& row : commands) {
+    if (row.button == 0) continue;
     toolbar::ToolbarButton button;
     button.Caption.clear();
-    button.Icon = iconOf(QString::fromLatin1(icon));
+    button.Icon = iconOf(row.icon.toString());
     button.Enabled = toolBar.buttons.empty();
     toolBar.buttons.push_back(button);
   }

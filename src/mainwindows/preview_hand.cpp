@@ -9,12 +9,18 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 
+#include "controls/list_box.h"
+#include "controls/work_queue.h"
 #include "mainwindows/main_window.h"
+#include "mainwindows/workspace.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
+#include "renderer/render_context.h"
 #include "renderer/trial_drawing.h"
+#include "themefiles/module_state.h"
 #include "toolwindow/object_selection.h"
+#include "toolwindow/tool_window.h"
 #include "toolwindow/value_commit.h"
 
 namespace mainwindows {
@@ -66,6 +72,10 @@ void PreviewHand::giveUpDrag() {
   if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
 }
 
+void PreviewHand::forgetPlaces() {
+  picking_ = {};
+}
+
 void PreviewHand::letGo() {
   stage_ = Stage::None;
   heldKeys_.clear();
@@ -76,7 +86,7 @@ void PreviewHand::letGo() {
 }
 
 bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
-  if (form_.toolWindow == nullptr) return false;
+  if (form_.toolWindow() == nullptr) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -104,9 +114,9 @@ bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
 bool PreviewHand::press(const QMouseEvent& event) {
   settle();
   // Edits that were settled have drawn the screen and let events through.
-  if (event.button() != Qt::LeftButton || form_.toolWindow == nullptr) return false;
+  if (event.button() != Qt::LeftButton || form_.toolWindow() == nullptr) return false;
   pressed_ = mouse_ = pixelOf(event);
-  const bool free = event.buttons() == Qt::LeftButton && !form_.queue.busy();
+  const bool free = event.buttons() == Qt::LeftButton && !form_.queue().busy();
   picksAtRelease_ = free && selectedAt(pressed_).under;
   if ((picksAtRelease_ || pick(pressed_)) && free) stage_ = Stage::Pressed;
   return true;
@@ -114,11 +124,11 @@ bool PreviewHand::press(const QMouseEvent& event) {
 
 /// Chooses the object at the place; false where there is none.
 bool PreviewHand::pick(const QPoint& place) {
-  const int row = form_.picking.rowAt(place, form_.account, form_.toolWindow->tags);
+  const int row = picking_.rowAt(place, form_.account(), form_.toolWindow()->tags);
   if (row < 0) return false;
-  form_.toolWindow->List1->setFocus();
+  form_.toolWindow()->List1->setFocus();
   form_.Workspace->setFocus();  // the keys go on here
-  toolwindow::pickTag(*form_.toolWindow, row);
+  toolwindow::pickTag(*form_.toolWindow(), row);
   return true;
 }
 
@@ -155,19 +165,19 @@ bool PreviewHand::release(const QMouseEvent& event) {
 /// The pointer tells what a press would take.
 void PreviewHand::hover(const QPoint& place, bool free) {
   if (!free) return;
-  const Selected selected = form_.queue.busy() ? Selected() : selectedAt(place);
+  const Selected selected = form_.queue().busy() ? Selected() : selectedAt(place);
   const Qt::CursorShape shape = selected.under ? shapeOf(gripAt(selected.place, place)) : Qt::ArrowCursor;
   if (form_.Workspace->cursor().shape() != shape) form_.Workspace->setCursor(shape);
 }
 
 PreviewHand::Selected PreviewHand::selectedAt(const QPoint& place) const {
-  const QString name = form_.toolWindow->List1->Text();
+  const QString name = form_.toolWindow()->List1->Text();
   Selected selected{platform::trimBlanks(name), {}, {}, false};
   if (selected.section.isEmpty()) return selected;
   const bool marked = form_.Workspace->markVisible();
   const QRect mark = form_.Workspace->markRect();
   selected.under = marked && mark.contains(place);
-  for (const renderer::DrawnObject& object : form_.account.objects) {
+  for (const renderer::DrawnObject& object : form_.account().objects) {
     if (!platform::sameName(object.section, name)) continue;
     selected.heightKey = object.heightKey;
     if (!object.heightKey.isEmpty()) selected.place = object.place;
@@ -212,7 +222,7 @@ bool PreviewHand::keyPress(const QKeyEvent& event) {
 void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
   const Grip grip = (event.modifiers() & Qt::ControlModifier) != 0 ? SizingKeys : Grip();
   if (stage_ == Stage::Keys && grip != grip_) settle();
-  if (form_.toolWindow == nullptr) return;
+  if (form_.toolWindow() == nullptr) return;
   if (stage_ == Stage::None && !take(selectedAt({}), grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
   heldKeys_.insert(event.key());
@@ -230,11 +240,11 @@ void PreviewHand::keyRelease(const QKeyEvent& event) {
 /// Draws a frame with the values on trial; after a running drawing, when one is running.
 void PreviewHand::showFrame() {
   if (stage_ != Stage::Dragging && stage_ != Stage::Keys) return;
-  if (form_.queue.busy()) return pacer_.request();
+  if (form_.queue().busy()) return pacer_.request();
   const renderer::TrialValues values{section_, changedValues(start_, now_)};
   Workspace& preview = *form_.Workspace;
   renderer::drawTrial(form_.renderContext(), values);
-  renderer::drawTrialCursor(form_.services.state, form_.toolWindow->tags, preview.surface(), preview, values);
+  renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, values);
   preview.Refresh();
   preview.setHandLabel(labelOf(now_, grip_), stage_ == Stage::Dragging ? mouse_ : preview.markRect().bottomRight());
 }
@@ -249,7 +259,7 @@ void PreviewHand::commit() {
     readHeld({section_, form_.services.state.paths.ThemeFile}, grip_, start_.heightKey);
   });
   const QString section = section_;
-  if (!stands || !toolwindow::commitValues(*form_.toolWindow, section, values)) restore();
+  if (!stands || !toolwindow::commitValues(*form_.toolWindow(), section, values)) restore();
 }
 
 void PreviewHand::giveUp() {
@@ -261,10 +271,10 @@ void PreviewHand::giveUp() {
 
 /// Shows what the files hold. A drawing that is running does so itself.
 void PreviewHand::restore() {
-  if (form_.toolWindow == nullptr) return;
+  if (form_.toolWindow() == nullptr) return;
   Workspace& preview = *form_.Workspace;
-  if (!form_.queue.busy()) renderer::drawTrial(form_.renderContext(), {});
-  renderer::drawTrialCursor(form_.services.state, form_.toolWindow->tags, preview.surface(), preview, {});
+  if (!form_.queue().busy()) renderer::drawTrial(form_.renderContext(), {});
+  renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, {});
   preview.Refresh();
 }
 

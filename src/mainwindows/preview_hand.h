@@ -7,6 +7,7 @@
 
 #include "controls/frame_pacer.h"
 #include "mainwindows/hand_geometry.h"
+#include "mainwindows/preview_picking.h"
 
 class QKeyEvent;
 
@@ -24,6 +25,8 @@ class PreviewHand : public QObject {
   void settle();
   /// Gives up a drag: all is as before.
   void giveUpDrag();
+  /// Another screen is about to be listed: the next click starts with the topmost object again.
+  void forgetPlaces();
   /// Forgets all; for the end of the theme.
   void letGo();
 
@@ -61,6 +64,7 @@ class PreviewHand : public QObject {
   void restore();
 
   Form1& form_;
+  PreviewPicking picking_;
   Stage stage_ = Stage::None;
   bool picksAtRelease_ = false;
   QPoint pressed_;  ///< where the button went down

@@ -2,22 +2,14 @@
 
 #include <QMenu>
 
-#include "mainwindows/main_window.h"
-#include "mainwindows/theme_session.h"
-
 namespace mainwindows {
 
-void askAnotherFolder(Form1& form) {
-  form.queue.runOutside([&form] { openAnotherFolder(form); });
-}
-
-void showPreviewMenu(Form1& form, const QPoint& place) {
+void showPreviewMenu(QWidget& form, const QPoint& place, const std::function<void(Command command)>& run) {
   auto* menu = new QMenu(&form);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   const QAction* action = menu->addAction(QStringLiteral("Another game folder..."));
-  // Queued: the menu is gone by then.
   QObject::connect(
-      action, &QAction::triggered, &form, [&form] { askAnotherFolder(form); }, Qt::QueuedConnection);
+      action, &QAction::triggered, &form, [run] { run(Command::AnotherFolder); }, Qt::QueuedConnection);
   menu->popup(place);
 }
 

@@ -1,15 +1,16 @@
 #pragma once
 
+#include <functional>
+
+#include "mainwindows/command.h"
+
 class QPoint;
+class QWidget;
 
 namespace mainwindows {
 
-class Form1;
-
-/// Shows the menu of the start picture and of the preview at a place of the screen.
-void showPreviewMenu(Form1& form, const QPoint& place);
-
-/// Asks for another game folder, and goes on as Open does, when no work is running.
-void askAnotherFolder(Form1& form);
+/// Shows the menu of the start picture and of the preview at a place of the screen. It doesn't block; `run` gets the
+/// command that was chosen when the menu is gone.
+void showPreviewMenu(QWidget& form, const QPoint& place, const std::function<void(Command command)>& run);
 
 }  // namespace mainwindows

@@ -2,43 +2,50 @@
 
 #include <utility>
 
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/work_queue.h"
 #include "mainwindows/main_window.h"
+#include "themefiles/module_state.h"
 #include "toolwindow/object_selection.h"
+#include "toolwindow/tool_window.h"
 
 namespace mainwindows {
-namespace {
+
+void ScreenRefresh::list() {
+  toolwindow::Form2* tools = form_.toolWindow();
+  if (tools == nullptr) return;
+  if (kept_ && kept_->screen != tools->Combo1->Text()) kept_.reset();
+  toolwindow::listScreen(*tools, kept_ ? kept_->object : QString());
+}
+
+void ScreenRefresh::draw() {
+  form_.DrawScreen();
+  if (const auto kept = std::exchange(kept_, {})) selectButtonAgain(kept->button);
+}
+
+void ScreenRefresh::refresh() {
+  const toolwindow::Form2* tools = form_.toolWindow();
+  if (tools == nullptr) return;
+  form_.forgetPictures();
+  const QString screen = tools->Combo1->Text();
+  // While an earlier wish is on its way, its choices are those to keep: the lists may be empty.
+  if (!kept_ || kept_->screen != screen) {
+    kept_ = {screen, tools->List1->Text(), form_.services.state.SelectedButton};
+  }
+  form_.queue().choose();
+}
+
+void ScreenRefresh::keepButton(quint8 button) {
+  if (kept_) kept_->button = button;
+}
 
 /// Selects the button that was selected before the list of buttons was filled anew, and has it drawn so.
-void selectButtonAgain(Form1& form, quint8 button) {
-  if (button == form.services.state.SelectedButton || button > form.Combo2->ListCount()) return;
-  form.services.state.SelectedButton = button;
-  form.Combo2->SetListIndex(button - 1);
-  form.queue.draw();
-}
-
-}  // namespace
-
-void refreshScreen(Form1& form) {
-  if (form.toolWindow == nullptr) return;
-  form.pictures.clear();
-  const QString screen = form.toolWindow->Combo1->Text();
-  // While an earlier wish is on its way, its choices are those to keep: the lists may be empty.
-  if (!form.kept || form.kept->screen != screen) {
-    form.kept = {screen, form.toolWindow->List1->Text(), form.services.state.SelectedButton};
-  }
-  form.queue.choose();
-}
-
-void listScreen(Form1& form) {
-  form.picking = {};
-  if (form.toolWindow == nullptr) return;
-  if (form.kept && form.kept->screen != form.toolWindow->Combo1->Text()) form.kept.reset();
-  toolwindow::listScreen(*form.toolWindow, form.kept ? form.kept->object : QString());
-}
-
-void drawScreen(Form1& form) {
-  form.DrawScreen();
-  if (const auto kept = std::exchange(form.kept, {})) selectButtonAgain(form, kept->button);
+void ScreenRefresh::selectButtonAgain(quint8 button) {
+  if (button == form_.services.state.SelectedButton || button > form_.Combo2->ListCount()) return;
+  form_.services.state.SelectedButton = button;
+  form_.Combo2->SetListIndex(button - 1);
+  form_.queue().draw();
 }
 
 }  // namespace mainwindows

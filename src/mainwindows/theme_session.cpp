@@ -3,26 +3,30 @@
 #include <optional>
 
 #include <QApplication>
+#include <QLabel>
 
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
 #include "controls/modal.h"
 #include "controls/twips.h"
 #include "drawing/system_colours.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/open_theme_dialog.h"
-#include "mainwindows/preview_hand.h"
+#include "mainwindows/workspace.h"
+#include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/files.h"
+#include "progressbar/progress_bar.h"
 #include "themefiles/colour_tables.h"
+#include "themefiles/module_state.h"
 #include "themefiles/theme_paths.h"
 #include "themefiles/working_copies.h"
 #include "toolwindow/tool_events.h"
+#include "toolwindow/tool_window.h"
 
 namespace mainwindows {
 namespace {
-
-constexpr int SaveButton = 2;
-constexpr int CloseButton = 3;
-constexpr int BackgroundButton = 4;
 
 bool mayDropChanges(Form1& form) {
   if (!form.services.state.Changed) return true;
@@ -41,13 +45,13 @@ QString askGameFolder(Form1& form) {
   if (chosen.isEmpty()) return {};
   const QString folder = chosen.left(chosen.lastIndexOf(u'\\') + 1);
   platform::guarded(form, QStringLiteral("The game folder can't be kept in config.ini"),
-                    [&] { form.config.setGameFolder(folder); });
+                    [&] { form.config().setGameFolder(folder); });
   return folder;
 }
 
 /// The stored game folder, or the one that the user points at.
 QString findGameFolder(Form1& form) {
-  const QString stored = form.config.gameFolder();
+  const QString stored = form.config().gameFolder();
   return !stored.isEmpty() && platform::folderHoldsFiles(stored) ? stored : askGameFolder(form);
 }
 
@@ -55,17 +59,6 @@ QString findGameFolder(Form1& form) {
 bool openCopies(Form1& form, const themefiles::ThemePaths& chosen) {
   return platform::guarded(form, QStringLiteral("Error while saving temporary files"),
                            [&] { themefiles::MakeWorkingCopies(form.services.state, chosen, form); });
-}
-
-/// The tool window goes when control is back in the event loop: one of its own events may be on the way.
-void unloadToolWindow(Form1& form) {
-  if (form.toolWindow == nullptr) return;
-  form.hand->letGo();
-  form.toolWindow->hide();
-  form.toolWindow->deleteLater();
-  form.toolWindow = nullptr;
-  form.kept.reset();
-  form.services.state.EditorShown = false;
 }
 
 void hideMark(Form1& form) {
@@ -76,31 +69,30 @@ void hideMark(Form1& form) {
 /// What an earlier theme has left when another one takes its place.
 void dropEarlierTheme(Form1& form) {
   themefiles::ModuleState& state = form.services.state;
-  form.queue.forget();
+  form.queue().forget();
   hideMark(form);
-  unloadToolWindow(form);
+  form.unloadToolWindow();
   state.ThemeColors = {};
   state.ScreenTable = {};
   state.Changed = false;
-  form.enableButton(SaveButton, false);
+  form.enableCommand(Command::Save, false);
 }
 
 void showToolWindow(Form1& form) {
-  form.toolWindow =
-      new toolwindow::Form2({form.services.state, form, form.services.dialogs, form.Workspace->surface(),
-                             *form.Workspace, form.queue, [&form] { form.enableButton(SaveButton, true); },
-                             [&form] { return form.Combo1->Text(); }, [&form] { form.hand->settle(); }},
-                            &form);
-  toolwindow::connectEvents(*form.toolWindow);
+  form.setToolWindow(
+      toolwindow::makeForm2({form.services.state, form, form.services.dialogs, form.Workspace->surface(),
+                             *form.Workspace, form.queue(), [&form] { form.enableCommand(Command::Save, true); },
+                             [&form] { return form.Combo1->Text(); }, [&form] { Q_EMIT form.settling(); }},
+                            &form));
   // The lower right corner of the main window, by the outer sizes of both.
   const double formRight =
       form.x() * controls::TwipsPerPixel + form.width() * controls::TwipsPerPixel + controls::FrameWidth;
   const double formBottom =
       form.y() * controls::TwipsPerPixel + form.height() * controls::TwipsPerPixel + controls::FrameHeight;
-  const toolwindow::ToolLayout& layout = form.toolWindow->layout();
-  form.toolWindow->move(controls::toPixels(formRight - layout.Width - 200),
-                        controls::toPixels(formBottom - layout.Height - 450));
-  form.toolWindow->show();
+  const toolwindow::ToolLayout& layout = form.toolWindow()->layout();
+  form.toolWindow()->move(controls::toPixels(formRight - layout.Width - 200),
+                          controls::toPixels(formBottom - layout.Height - 450));
+  form.toolWindow()->show();
   form.Workspace->setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -112,7 +104,7 @@ void ReadTheme(Form1& form) {
     form.Combo1->Clear();
     for (const QString& scheme : themefiles::schemeNames(form.services.state)) form.Combo1->AddItem(scheme);
     form.Combo1->SetListIndex(0);
-    toolwindow::Form2& tools = *form.toolWindow;
+    toolwindow::Form2& tools = *form.toolWindow();
     for (QWidget* control : std::initializer_list<QWidget*>{tools.Combo1, tools.List1, tools.ListView1}) {
       control->setEnabled(true);
     }
@@ -145,8 +137,8 @@ void openFrom(Form1& form, QString (*folderOf)(Form1& form)) {
     dropEarlierTheme(form);
     showToolWindow(form);
     ReadTheme(form);
-    form.enableButton(CloseButton, true);
-    form.enableButton(BackgroundButton, true);
+    form.enableCommand(Command::Close, true);
+    form.enableCommand(Command::BackgroundColor, true);
     form.Combo1->show();
     const QStringList opened{dialog.List1->Text(), dialog.List2->Text(), dialog.Combo1->Text()};
     telling->success(opened.join(QStringLiteral(", ")));
@@ -167,24 +159,26 @@ void SaveTheme(Form1& form) {
   platform::guarded(form, QStringLiteral("Error while saving files"), [&] {
     platform::Telling telling(form);
     themefiles::saveWorkingCopies(form.services.state, form);
-    form.enableButton(SaveButton, false);
+    form.enableCommand(Command::Save, false);
     telling.success(QStringLiteral("Saved"));
-    form.toolWindow->marking.start();
+    form.toolWindow()->markLater();
   });
 }
 
 void CloseTheme(Form1& form) {
   platform::Telling telling(form);
   if (!mayDropChanges(form)) return;
-  form.queue.forget();
+  form.queue().forget();
   themefiles::forgetTheme(form.services.state);
   hideMark(form);
   for (QWidget* control : std::initializer_list<QWidget*>{form.Combo1, form.Combo2, form.ProgressBar1}) {
     control->hide();
   }
-  unloadToolWindow(form);
+  form.unloadToolWindow();
   form.showStartPicture(drawing::ButtonFaceColor);
-  for (const int button : {SaveButton, CloseButton, BackgroundButton}) form.enableButton(button, false);
+  for (const Command command : {Command::Save, Command::Close, Command::BackgroundColor}) {
+    form.enableCommand(command, false);
+  }
   telling.success(QStringLiteral("Closed"));
 }
 
@@ -194,14 +188,14 @@ void ChooseBackgroundColor(Form1& form) {
     const auto color = form.services.dialogs.chooseColor(&form, drawing::colorOf(background));
     if (!color) return;
     background = drawing::colorValue(*color);
-    form.queue.draw();
+    form.queue().draw();
   });
 }
 
 void Form_Unload(Form1& form) {
-  form.queue.forget();
+  form.queue().forget();
   form.Workspace->setBlinking(false);
-  unloadToolWindow(form);
+  form.unloadToolWindow();
   form.hide();
   QApplication::quit();
 }

@@ -2,8 +2,13 @@
 
 #include <algorithm>
 
+#include <QPushButton>
+
+#include "controls/combo_box.h"
+#include "controls/swatch_button.h"
 #include "drawing/system_colours.h"
 #include "platform/code_page.h"
+#include "platform/dialogs.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/working_copies.h"
@@ -135,7 +140,7 @@ void Command2_Click(Form2& form) {
 }
 
 void putSavedColorBack(Form2& form, const QString& name, const SavedValue& saved) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   const bool written = writeAtOnce(form, WriteStep, [&] {
     for (const SavedLine& line : saved.lines) {
       themefiles::putLineInCopy(services.state, line.copy, line.section, line.key, line.line, services.status);

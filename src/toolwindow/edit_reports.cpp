@@ -1,6 +1,7 @@
 #include "toolwindow/edit_reports.h"
 
 #include "platform/code_page.h"
+#include "platform/dialogs.h"
 #include "platform/numbers.h"
 #include "themefiles/working_copies.h"
 #include "toolwindow/tool_window.h"
@@ -25,14 +26,14 @@ QString tooLongText(const QString& key) {
 
 bool writeAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,
                  const QString& key, const std::optional<QString>& value) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   return writeAtOnce(form, step,
                      [&] { themefiles::putInCopy(services.state, copy, section, key, value, services.status); });
 }
 
 bool writeAtOnce(Form2& form, QStringView step, const std::function<void()>& write) {
   platform::StatusLine& status = form.services.status;
-  form.marking.start();
+  form.markLater();
   return platform::guarded(status, step.toString(), [&] {
     write();
     const QString kept = QStringLiteral("Kept in the working copy; the next Update makes Save available");

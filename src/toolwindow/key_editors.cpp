@@ -2,7 +2,10 @@
 
 #include <array>
 
+#include "controls/combo_box.h"
 #include "controls/shown_text.h"
+#include "controls/text_box.h"
+#include "platform/dialogs.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "themefiles/ini_access.h"

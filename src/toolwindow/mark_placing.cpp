@@ -2,6 +2,7 @@
 
 #include <QPointer>
 
+#include "controls/work_queue.h"
 #include "renderer/highlight_cursor.h"
 #include "toolwindow/tool_window.h"
 
@@ -9,14 +10,14 @@ namespace toolwindow {
 namespace {
 
 void drawCursor(Form2& form) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   renderer::DrawCursor(services.state, form.tags, services.Workspace, services.mark, services.status);
 }
 
 }  // namespace
 
 void placeMark(Form2& form, MarkPen pen) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   if (pen == MarkPen::Left || !services.queue.busy()) {
     drawCursor(form);
     return;
@@ -26,7 +27,7 @@ void placeMark(Form2& form, MarkPen pen) {
   drawCursor(form);
   services.Workspace.SetFontName(face);
   services.Workspace.SetFontSize(size);
-  services.queue.setAfterwork([open = QPointer<Form2>(&form)] {
+  services.queue.runBehind([open = QPointer<Form2>(&form)] {
     if (open) drawCursor(*open);
   });
 }

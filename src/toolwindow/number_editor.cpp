@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QWheelEvent>
 
+#include "controls/number_bar.h"
+#include "controls/text_box.h"
 #include "platform/numbers.h"
 #include "toolwindow/tool_window.h"
 

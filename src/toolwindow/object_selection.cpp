@@ -6,6 +6,10 @@
 
 #include <QSignalBlocker>
 
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/work_queue.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "themefiles/tag_listing.h"
@@ -19,14 +23,14 @@ namespace toolwindow {
 namespace {
 
 void showTag(Form2& form, MarkPen pen) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   form.ListView1->clearRows();
   for (const themefiles::ValueRow& row : themefiles::ReadTag(services.state, form.List1->Text(), services.status)) {
     form.ListView1->addRow(row.Item, row.Value);
   }
   if (services.state.EditorShown) form.closeEditorFrame();
   placeMark(form, pen);
-  form.marking.start();
+  form.markLater();
 }
 
 void pickObject(Form2& form, const themefiles::Hit& hit) {
@@ -51,8 +55,9 @@ QWidget* focusFor(const Form2& form, const themefiles::Hit& hit) {
 
 /// The list of the present screen is complete: picks the object and the row that are waited for.
 void pickAwaited(Form2& form) {
-  if (!form.awaited) return;
-  const themefiles::Hit hit = *std::exchange(form.awaited, std::nullopt);
+  if (!form.awaited()) return;
+  const themefiles::Hit hit = *form.awaited();
+  form.await({});
   if (hit.screen != form.Combo1->Text() || hit.object.isEmpty()) return;
   platform::guarded(form.services.status, FindStep.toString(), [&] {
     pickObject(form, hit);
@@ -63,24 +68,22 @@ void pickAwaited(Form2& form) {
 }  // namespace
 
 void listScreen(Form2& form, const QString& kept) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   themefiles::ModuleState& state = services.state;
   state.ButtonListFilled = false;
-  form.List1->Clear();
-  form.listed.clear();
-  const QString screen = form.Combo1->Text();
-  const int picked =
-      themefiles::listScreenTags(state, screen, form.tags, services.status, [&] { services.queue.yield(); });
-  form.listed = screen;
+  form.beginList();
+  const int picked = themefiles::listScreenTags(state, form.Combo1->Text(), form.tags, services.status,
+                                                [&] { services.queue.yield(); });
+  form.endList();
   // A tag that the user has picked while the list was filling stays picked, and outranks what is waited for.
   const auto again = form.List1->findItems(kept, Qt::MatchExactly);
   const int row = picked >= 0 || again.isEmpty() ? picked : form.List1->row(again.constFirst());
-  if (row >= 0 && !form.awaited) pickTag(form, row);
+  if (row >= 0 && !form.awaited()) pickTag(form, row);
   pickAwaited(form);
 }
 
 void List1_Click(Form2& form, controls::Cause cause) {
-  if (cause == controls::Cause::User) form.awaited.reset();
+  if (cause == controls::Cause::User) form.await({});
   form.services.settleHand();
   showTag(form, cause == controls::Cause::User ? MarkPen::Kept : MarkPen::Left);
 }
@@ -96,10 +99,10 @@ void pickTag(Form2& form, int row) {
 void goToHit(Form2& form, const themefiles::Hit& hit) {
   form.activateWindow();
   focusFor(form, hit)->setFocus();
-  form.awaited = hit;
+  form.await(hit);
   if (form.Combo1->Text() != hit.screen) {
     platform::guarded(form.services.status, FindStep.toString(), [&] { form.Combo1->SetText(hit.screen); });
-  } else if (form.listed == hit.screen) {
+  } else if (form.listIsComplete()) {
     pickAwaited(form);
   }
 }

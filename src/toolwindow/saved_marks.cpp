@@ -4,6 +4,10 @@
 #include <QPointer>
 #include <QSet>
 
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/work_queue.h"
 #include "platform/failure.h"
 #include "toolwindow/colour_editor.h"
 #include "toolwindow/saved_state.h"

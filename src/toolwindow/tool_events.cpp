@@ -3,8 +3,17 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QPointer>
+#include <QPushButton>
 #include <QShortcut>
 
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/number_bar.h"
+#include "controls/swatch_button.h"
+#include "controls/text_box.h"
+#include "controls/work_queue.h"
+#include "platform/failure.h"
 #include "toolwindow/colour_editor.h"
 #include "toolwindow/key_editors.h"
 #include "toolwindow/number_editor.h"
@@ -43,13 +52,13 @@ void connectSelection(Form2& form) {
 }
 
 void connectMarks(Form2& form) {
-  QObject::connect(&form.marking, &QTimer::timeout, &form, [&form] {
+  QObject::connect(&form, &Form2::markingDue, &form, [&form] {
     if (!form.services.queue.busy()) {
       markSaved(form);
       return;
     }
     form.services.queue.runOutside([open = QPointer<Form2>(&form)] {
-      if (open) open->marking.start();
+      if (open) open->markLater();
     });
   });
   // The menu key comes as this event by itself.
@@ -102,15 +111,22 @@ void connectKeys(Form2& form) {
   onClick(form, form.Command4, Command4_Click, form.Combo6);
 }
 
+class ConnectedForm2 final : public Form2 {
+ public:
+  ConnectedForm2(const ToolServices& services, QWidget* owner) : Form2(services, owner) {
+    connectSelection(*this);
+    connectMarks(*this);
+    connectCommit(*this);
+    connectNumbers(*this);
+    connectColors(*this);
+    connectKeys(*this);
+  }
+};
+
 }  // namespace
 
-void connectEvents(Form2& form) {
-  connectSelection(form);
-  connectMarks(form);
-  connectCommit(form);
-  connectNumbers(form);
-  connectColors(form);
-  connectKeys(form);
+Form2* makeForm2(const ToolServices& services, QWidget* owner) {
+  return new ConnectedForm2(services, owner);
 }
 
 }  // namespace toolwindow

@@ -1,10 +1,13 @@
 #pragma once
 
+class QWidget;
+
 namespace toolwindow {
 
 class Form2;
+struct ToolServices;
 
-/// Ties the events of the tool window's controls to what they do.
-void connectEvents(Form2& form);
+/// The tool window with its events; it isn't shown yet. It belongs to its owner.
+Form2* makeForm2(const ToolServices& services, QWidget* owner);
 
 }  // namespace toolwindow

@@ -5,11 +5,20 @@
 #include <cstdlib>
 
 #include <QCloseEvent>
+#include <QGroupBox>
 #include <QKeyEvent>
+#include <QPushButton>
 
 #include "controls/assets.h"
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/number_bar.h"
+#include "controls/swatch_button.h"
+#include "controls/text_box.h"
 #include "drawing/system_colours.h"
 #include "themefiles/colour_tables.h"
+#include "themefiles/module_state.h"
 #include "themefiles/screen_table.h"
 
 namespace toolwindow {
@@ -135,7 +144,8 @@ Form2::Form2(ToolServices given, QWidget* owner)
   }
   for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
   Combo3->setSwatches([this](const QString& name) { return previewColor(services, name); });
-  marking.setSingleShot(true);
+  marking_.setSingleShot(true);
+  connect(&marking_, &QTimer::timeout, this, &Form2::markingDue);
   services.state.EditorShown = false;
   fitWindow();
   ListView1->setColumns({QStringLiteral("Item"), QStringLiteral("Value")},
@@ -147,6 +157,19 @@ QPushButton* Form2::iconButton(QWidget* frame, const QString& icon, const QStrin
   if (!icon.isEmpty()) button->setIcon(controls::assetIcon(icon));
   button->setToolTip(toolTip);
   return button;
+}
+
+void Form2::beginList() {
+  List1->Clear();
+  listed_.reset();
+}
+
+void Form2::endList() {
+  listed_ = Combo1->Text();
+}
+
+bool Form2::listIsComplete() const {
+  return listed_ == Combo1->Text();
 }
 
 QWidget* Form2::frameOf(themefiles::EditorFrame frame) const {

@@ -4,26 +4,39 @@
 #include <optional>
 #include <vector>
 
-#include <QGroupBox>
-#include <QPushButton>
 #include <QTimer>
+#include <QWidget>
 
-#include "controls/combo_box.h"
-#include "controls/list_box.h"
-#include "controls/list_view.h"
-#include "controls/number_bar.h"
-#include "controls/swatch_button.h"
-#include "controls/text_box.h"
-#include "controls/work_queue.h"
-#include "drawing/surface.h"
-#include "platform/dialogs.h"
-#include "platform/status_line.h"
-#include "renderer/highlight_cursor.h"
 #include "themefiles/key_table.h"
-#include "themefiles/module_state.h"
-#include "themefiles/tag_listing.h"
 #include "themefiles/theme_search.h"
+#include "toolwindow/listed_tags.h"
 #include "toolwindow/tool_layout.h"
+
+class QGroupBox;
+class QPushButton;
+
+namespace controls {
+class ComboBox;
+class ListBox;
+class ListView;
+class NumberBar;
+class SwatchButton;
+class TextBox;
+class WorkQueue;
+}  // namespace controls
+namespace drawing {
+class Surface;
+}
+namespace platform {
+class Dialogs;
+class StatusLine;
+}  // namespace platform
+namespace renderer {
+class CursorMark;
+}
+namespace themefiles {
+struct ModuleState;
+}
 
 namespace toolwindow {
 
@@ -40,30 +53,13 @@ struct ToolServices {
   std::function<void()> settleHand = [] {};  ///< brings what is under way in the preview to its end
 };
 
-/// The window's own list of tags, as the readers and the renderer see it.
-class ListedTags : public themefiles::TagList {
- public:
-  explicit ListedTags(controls::ListBox& list) : list_(list) {}
-  void Clear() override { list_.Clear(); }
-  void AddItem(const QString& tag) override { list_.AddItem(tag); }
-  int ListCount() const override { return list_.ListCount(); }
-  QString List(int row) const override { return list_.List(row); }
-  int ListIndex() const override { return list_.ListIndex(); }
-  void SetListIndex(int row) override { list_.SetListIndex(row); }
-
- private:
-  controls::ListBox& list_;
-};
-
 /// The tool window: the choice of screen and object, the values of the object, and the editor of one value. It floats
 /// over the main window while a theme is open; its user can't close it by itself.
 class Form2 : public QWidget {
   Q_OBJECT
 
  public:
-  Form2(ToolServices given, QWidget* owner);
-
-  ToolServices services;
+  const ToolServices services;
 
   controls::ComboBox* Combo1;     ///< the screen
   controls::ListBox* List1;       ///< the screen's objects
@@ -101,10 +97,21 @@ class Form2 : public QWidget {
   QPushButton* Command7;       ///< remove the text key
   controls::TextBox* Text2;    ///< the words
 
-  ListedTags tags;
-  QString listed;                          ///< the screen whose list is complete; empty while one is filling
-  std::optional<themefiles::Hit> awaited;  ///< is gone to when its screen's list is complete
-  QTimer marking;  ///< started by what may change which rows are marked; they are when nothing else is to be done
+  ListedTags tags;  ///< List1, as the readers and the renderer see it
+
+  /// Starts a list of tags that fills while events are served.
+  void beginList();
+  /// Tells that the list of the chosen screen is complete.
+  void endList();
+  /// Whether the list is complete and that of the chosen screen.
+  bool listIsComplete() const;
+  /// Has a hit of the finder picked when its screen's list is complete; none drops one that still waits.
+  void await(const std::optional<themefiles::Hit>& hit) { awaited_ = hit; }
+  /// The hit that waits.
+  const std::optional<themefiles::Hit>& awaited() const { return awaited_; }
+
+  /// What is marked as differing from the saved files may have changed: asks for the marks, see markingDue.
+  void markLater() { marking_.start(); }
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
   void ShowEditorFrame(themefiles::EditorFrame frame);
@@ -118,8 +125,13 @@ class Form2 : public QWidget {
  Q_SIGNALS:
   /// Enter was pressed in an editor that has no use of its own for it.
   void enterPressed();
+  /// Rows are to be marked, now that no event waits.
+  void markingDue();
 
  protected:
+  /// The window without its events, see makeForm2.
+  Form2(ToolServices given, QWidget* owner);
+
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -139,6 +151,9 @@ class Form2 : public QWidget {
   void fitWindow();
   bool isFitted(const QSize& size) const;
 
+  std::optional<QString> listed_;  ///< the screen whose list is complete
+  std::optional<themefiles::Hit> awaited_;
+  QTimer marking_;
   ToolLayout layout_ = loadedLayout();
   std::vector<PlacedControl> placed_;
   ToolLayout fitted_;  ///< the layout of the size that the window last gave itself

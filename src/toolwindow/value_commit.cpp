@@ -4,6 +4,11 @@
 #include <functional>
 #include <memory>
 
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/text_box.h"
+#include "controls/work_queue.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
@@ -118,7 +123,7 @@ bool isShown(const Form2& form, const QString& section) {
 
 /// The steps of a commit behind its writes; `assignments` is what it tells: "X = 1".
 void finishCommit(Form2& form, const QString& section, const QString& assignments) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   services.state.Changed = true;
   services.enableSave();
   services.status.ShowStatus(section + QStringLiteral(": ") + assignments);
@@ -133,10 +138,10 @@ QString assignment(const QString& key, const QString& value) {
 
 /// Runs a commit. A failure is reported and leaves out the steps behind it.
 void runCommit(Form2& form, const std::function<void()>& commit) {
-  ToolServices& services = form.services;
+  const ToolServices& services = form.services;
   const auto telling = std::make_shared<platform::Telling>(services.status);
   platform::guarded(services.status, WriteStep.toString(), commit);
-  form.marking.start();
+  form.markLater();
   // A drawing that waits for a running one reports beside the notes, too.
   services.queue.runOutside([telling] {});
 }
@@ -203,7 +208,7 @@ bool commitValues(Form2& form, const QString& section, const std::vector<std::pa
 
 void putSavedBack(Form2& form, int row, const SavedValue& saved) {
   commitRow(form, row, [&](const Commit& commit) {
-    ToolServices& services = form.services;
+    const ToolServices& services = form.services;
     for (const SavedLine& line : saved.lines) {
       themefiles::putLineInCopy(services.state, line.copy, line.section, line.key, line.line, services.status);
     }

@@ -1,6 +1,9 @@
 #include "toolwindow/value_grid.h"
 
+#include "controls/combo_box.h"
+#include "controls/list_view.h"
 #include "controls/shown_text.h"
+#include "controls/text_box.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "toolwindow/colour_editor.h"

@@ -13,7 +13,7 @@ namespace {
 /// A choice and a drawing that log what they do: "c" and "d" begin, "." is a yield survived, "C" and "D" an end.
 struct Bench {
   Bench() {
-    queue.setWorks([this] { run(u'c'); }, [this] { run(u'd'); });
+    queue.setOperations({[this] { run(u'c'); }, [this] { run(u'd'); }});
   }
 
   void run(QChar name) {
@@ -33,7 +33,7 @@ struct Bench {
       if (letter == u'c') queue.choose();
       if (letter == u'd') queue.draw();
       if (letter == u'x') queue.runOutside(command);
-      if (letter == u'l' || letter == u'f') queue.runOutside(command, true);
+      if (letter == u'l' || letter == u'f') queue.runOutside(command, controls::RunningWork::GivesWay);
       if (letter == u'f') queue.runOutside([this] { queue.forget(); });
       if (letter == u'n') queue.runOutside([this] { log += u'x', wishFor(u"dx"), log += u'X'; });
     }

@@ -94,8 +94,8 @@ class KeyboardSessionTest : public QObject {
     QVERIFY(outside(form).isEmpty());
     key(form, Qt::Key_Tab);
     key(form, Qt::Key_Return);
-    QVERIFY(form.toolWindow != nullptr);
-    toolwindow::Form2& tools = *form.toolWindow;
+    QVERIFY(form.toolWindow() != nullptr);
+    toolwindow::Form2& tools = *form.toolWindow();
     QCOMPARE(withoutName + nameless(tools) + nameless(form), QStringList());
     QVERIFY(&activeWindow(&tools) == &tools && tools.Combo1->hasFocus());
     goDownTo(*tools.Combo1, "Main Screen");
@@ -132,7 +132,7 @@ class KeyboardSessionTest : public QObject {
     QCOMPARE(themefiles::GetINI(u"MainStaticIcon"_s, u"Color"_s, QString(), theme), u"P1Light"_s);
     key(tools, Qt::Key_W, Qt::ControlModifier);
     settle();
-    QVERIFY(form.toolWindow == nullptr);
+    QVERIFY(form.toolWindow() == nullptr);
     key(activeWindow(&form), Qt::Key_Tab);
     QCOMPARE(form.ToolBar->buttons().Button_Index(), 1);
   }

@@ -123,7 +123,7 @@ class WholeSessionTest : public QObject {
 
     toolBar(*program, 3);
     settle();
-    QVERIFY(program->form.toolWindow == nullptr && program->form.Label1->isVisible());
+    QVERIFY(program->form.toolWindow() == nullptr && program->form.Label1->isVisible());
     QVERIFY(program->dialogs.asked.isEmpty());
     open(*program, "Workbench", "Grey", Qt::Key_End);
     QCOMPARE(program->state.paths.ThemeFile.section(u'\\', -1), u"Workbench.ini.tmp"_s);

@@ -113,7 +113,7 @@ class FileFailuresTest : public QObject {
     /// Gives the calls behind the moment at which `armed` was called.
     std::vector<Kind> run(const Operation& operation, const std::function<void()>& armed) {
       // What a render reads behind a write is no part of it.
-      const auto life = QObject::connect(&program.form.queue, &controls::WorkQueue::yielding, &system_calls::disarm);
+      const auto life = QObject::connect(&program.form.queue(), &controls::WorkQueue::yielding, &system_calls::disarm);
       operation.act(program, armed);
       QObject::disconnect(life);
       return system_calls::disarm();

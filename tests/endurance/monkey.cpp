@@ -103,18 +103,16 @@ void Monkey::start() {
   program_.reset();
   game_.put(Crowd, expected_[Crowd] = crowdedTheme());
   program_ = std::make_unique<support::Program>(game_, true, &dialogs_);
-  const auto counted = [this](void (*work)(mainwindows::Form1&)) {
+  const auto counted = [this](const controls::WorkQueue::Work& work) {
     return [this, work] {
       require(++works_ == 1, u"a pass runs inside a pass"_s);
       const auto done = qScopeGuard([this] { --works_; });
-      work(form());
+      work();
     };
   };
-  form().queue.setWorks(counted([](mainwindows::Form1& form) {
-                          if (form.toolWindow != nullptr) toolwindow::listScreen(*form.toolWindow);
-                        }),
-                        counted([](mainwindows::Form1& form) { form.DrawScreen(); }));
-  QObject::connect(&form().queue, &controls::WorkQueue::yielding, &form(), [this] { checkYield(); });
+  controls::WorkQueue& queue = form().queue();
+  queue.setOperations({counted(queue.operations().choose), counted(queue.operations().draw)});
+  QObject::connect(&form().queue(), &controls::WorkQueue::yielding, &form(), [this] { checkYield(); });
   // Both are told behind the program itself.
   QObject::connect(form().ToolBar, &toolbar::McToolBar::Click, &form(), [this](int button) {
     ++counts_[QLatin1StringView(Others.at(static_cast<size_t>(button - 1)))];
@@ -168,7 +166,7 @@ void Monkey::checkYield() {
 
 /// What holds at any moment.
 void Monkey::checkTheme() {
-  require(form().findChildren<toolwindow::Form2*>().contains(form().toolWindow) == (form().toolWindow != nullptr),
+  require(form().findChildren<toolwindow::Form2*>().contains(form().toolWindow()) == (form().toolWindow() != nullptr),
           u"the tool window dangles"_s);
   require(state().Changed == program_->enabled(2), u"Changed and Save disagree"_s);
   for (const QString& path : {state().paths.ThemeFile, state().paths.SkinFile, state().paths.LanguageFile}) {
@@ -193,11 +191,11 @@ void Monkey::checkColors() {
 /// What holds when all is at rest.
 void Monkey::check() {
   readStatus();
-  require(!form().queue.busy() && works_ == 0 && nested_ == 0, u"a pass is left"_s);
+  require(!form().queue().busy() && works_ == 0 && nested_ == 0, u"a pass is left"_s);
   require(form().ProgressBar1->isHidden(), u"the progress bar is left"_s);
   checkTheme();
   const bool opened = state().ThemeOpened;
-  require(opened == (form().toolWindow != nullptr), u"open without a tool window"_s);
+  require(opened == (form().toolWindow() != nullptr), u"open without a tool window"_s);
   require(form().findChildren<toolwindow::Form2*>().size() == (opened ? 1 : 0), u"tool windows"_s);
   require(QApplication::activeModalWidget() == nullptr, u"a dialog is left"_s);
   require(program_->enabled(3) == opened && program_->enabled(4) == opened, u"buttons of an open theme"_s);
@@ -206,7 +204,7 @@ void Monkey::check() {
   }
   if (!opened) return;
   checkColors();
-  const toolwindow::Form2& tools = *form().toolWindow;
+  const toolwindow::Form2& tools = *form().toolWindow();
   int shown = 0;
   for (QWidget* frame : {tools.Numbers, tools.FloatNumbers, tools.Selection, tools.Color, tools.Texture, tools.Texts}) {
     shown += frame->isHidden() ? 0 : 1;
@@ -220,7 +218,7 @@ void Monkey::step() {
   if (form().isHidden()) {
     // The program has ended: an event loop takes the wish to quit, which would end every later one at once.
     ++counts_[u"end"_s];
-    require(form().toolWindow == nullptr, u"the tool window outlives the program"_s);
+    require(form().toolWindow() == nullptr, u"the tool window outlives the program"_s);
     QMetaObject::invokeMethod(
         QCoreApplication::instance(), [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
     QCoreApplication::exec();

@@ -10,7 +10,7 @@ namespace endurance {
 
 void Monkey::act() {
   form().ShowStatus(QString());
-  toolwindow::Form2* const tools = form().toolWindow;
+  toolwindow::Form2* const tools = form().toolWindow();
   if (tools == nullptr && !chance_.one(6)) {
     click(*form().ToolBar, {16, 16});
   } else if (chance_.one(70)) {
@@ -82,8 +82,8 @@ void Monkey::pick(QAbstractItemView& list) {
     list.scrollTo(index);
     click(*list.viewport(), list.visualRect(index).center());
   }
-  if (form().toolWindow == nullptr || &list != form().toolWindow->ListView1) return;
-  for (const QWidget* frame : form().toolWindow->Frame1->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+  if (form().toolWindow() == nullptr || &list != form().toolWindow()->ListView1) return;
+  for (const QWidget* frame : form().toolWindow()->Frame1->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (frame->isVisible()) ++counts_[frame->objectName()];
   }
 }
@@ -106,15 +106,15 @@ void Monkey::type(QLineEdit& box) {
 
 void Monkey::shortcut() {
   QWidget* window = &form();
-  if (form().toolWindow != nullptr && chance_.one(2)) window = form().toolWindow;
+  if (form().toolWindow() != nullptr && chance_.one(2)) window = form().toolWindow();
   key(*window, chance_.of(std::array{Qt::Key_O, Qt::Key_S, Qt::Key_S, Qt::Key_W}), Qt::ControlModifier);
 }
 
 void Monkey::resize() {
   QTest::qWait(chance_.below(4));
-  if (form().toolWindow == nullptr) return;
-  form().toolWindow->resize(60 + chance_.below(500), 60 + chance_.below(700));
-  key(*form().toolWindow, Qt::Key_Tab);
+  if (form().toolWindow() == nullptr) return;
+  form().toolWindow()->resize(60 + chance_.below(500), 60 + chance_.below(700));
+  key(*form().toolWindow(), Qt::Key_Tab);
 }
 
 /// Files that can't be written: those of the game at Save, or working copies at Open and Update.
@@ -125,15 +125,15 @@ void Monkey::protectFiles() {
     if (name.endsWith(u".ini")) names += game_.has(copy) && chance_.one(2) ? copy : name;
   }
   for (const QString& name : names) game_.protect(name);
-  if (form().toolWindow != nullptr) touch(*form().toolWindow);
+  if (form().toolWindow() != nullptr) touch(*form().toolWindow());
   click(*form().ToolBar, {chance_.one(2) ? 16 : 48, 16});
   for (const QString& name : names) game_.protect(name, false);
 }
 
 void Monkey::loseFolder() {
-  form().config.setGameFolder(platform::programPath(noThemes_.path()) + u'\\');
+  form().config().setGameFolder(platform::programPath(noThemes_.path()) + u'\\');
   click(*form().ToolBar, {16, 16});
-  form().config.setGameFolder(game_.path());
+  form().config().setGameFolder(game_.path());
 }
 
 void Monkey::key(QWidget& widget, int key, Qt::KeyboardModifiers modifiers) {

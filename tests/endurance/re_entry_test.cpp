@@ -55,7 +55,7 @@ bool update(Program& program) {
 }
 
 bool screen(Program& program, const QString& name = u"Main Screen"_s) {
-  if (program.form.toolWindow == nullptr) return false;
+  if (program.form.toolWindow() == nullptr) return false;
   program.screen(name);
   return true;
 }
@@ -89,7 +89,7 @@ constexpr int Paired = 14;
 /// False when the windows don't allow the wish at the moment.
 bool make(const Wish& wish, Program& program) {
   if (wish.other != nullptr) return wish.other(program);
-  if (program.form.toolWindow == nullptr || !program.tools().isVisible()) return false;
+  if (program.form.toolWindow() == nullptr || !program.tools().isVisible()) return false;
   // While the list fills nothing is selected, and what is picked then ends with its editor closed.
   if (program.tools().List1->ListIndex() < 0 || !pickTag(program, wish.tag)) return false;
   program.row(QLatin1StringView(wish.key));
@@ -146,7 +146,7 @@ Run run(const Order& wishes, bool choice, bool single, const std::vector<int>& a
   };
   QObject life;
   int yields = 0;
-  QObject::connect(&program.form.queue, &controls::WorkQueue::yielding, &life, [&] {
+  QObject::connect(&program.form.queue(), &controls::WorkQueue::yielding, &life, [&] {
     ++yields;
     for (size_t i = 0; i < at.size(); ++i) {
       if (at[i] != yields) continue;
@@ -154,7 +154,7 @@ Run run(const Order& wishes, bool choice, bool single, const std::vector<int>& a
           &life, [&makeOne, wish = wishes[i]] { makeOne(wish); }, Qt::QueuedConnection);
     }
   });
-  choice ? program.screen(u"Loading Screen"_s) : program.form.queue.draw();
+  choice ? program.screen(u"Loading Screen"_s) : program.form.queue().draw();
   settle();
   result.reached = made == wishes.size();
   result.single = single;

@@ -23,8 +23,8 @@ class OpenThemeTest : public QObject {
     for (const auto& [stored, chosen, dialogComes] : rows) {
       const GameFolder game;
       Program program(game, false);
-      if (*stored != '-') program.form.config.setGameFolder(game.path() + QLatin1StringView(stored));
-      const QString before = program.form.config.gameFolder();
+      if (*stored != '-') program.form.config().setGameFolder(game.path() + QLatin1StringView(stored));
+      const QString before = program.form.config().gameFolder();
       program.dialogs.files = {chosen ? game.path() + u"Vocora.exe"_s : QString()};
       const bool came = program.openDialog([&](Form3& dialog) {
         QCOMPARE(dialog.windowTitle(), u"Open Theme ["_s + game.path() + u']');
@@ -32,8 +32,8 @@ class OpenThemeTest : public QObject {
       });
       QCOMPARE(came, dialogComes);
       QCOMPARE(program.dialogs.asked.size(), *stored == 0 ? 0 : 1);
-      QCOMPARE(program.form.config.gameFolder(), dialogComes ? game.path() : before);
-      QVERIFY(program.form.toolWindow == nullptr && !program.enabled(3));
+      QCOMPARE(program.form.config().gameFolder(), dialogComes ? game.path() : before);
+      QVERIFY(program.form.toolWindow() == nullptr && !program.enabled(3));
       // The same folder without themes.
       program.dialogs.files = {game.path() + u"Vocora.exe"_s};
       QFile::remove(game.native(ThemeFile));
@@ -224,8 +224,8 @@ class OpenThemeTest : public QObject {
     const GameFolder second;
     second.put(u"Themes/Beta.ini"_s, "[Theme]\r\n");
     Program program(first);
-    program.form.config.setFolderOfThisRun(u"C:\\elsewhere\\"_s);
-    QCOMPARE(program.form.config.gameFolder(), u"C:\\elsewhere\\"_s);
+    program.form.config().setFolderOfThisRun(u"C:\\elsewhere\\"_s);
+    QCOMPARE(program.form.config().gameFolder(), u"C:\\elsewhere\\"_s);
     program.dialogs.files = {second.path() + u"Vocora.exe"_s};
     QStringList themes;
     QTimer watch;
@@ -243,7 +243,7 @@ class OpenThemeTest : public QObject {
     settle();
     QCOMPARE(program.dialogs.asked.size(), 1);
     QCOMPARE(themes, (QStringList{u"Alpha"_s, u"Beta"_s}));
-    QCOMPARE(program.form.config.gameFolder(), second.path());
+    QCOMPARE(program.form.config().gameFolder(), second.path());
   }
 
   void screenAnew() {

@@ -137,7 +137,7 @@ class PreviewHandTest : public ProgramTest {
   void pickingGoesThroughWhatIsSelected() {
     themefiles::PutINI(u"LoadingStaticA"_s, u"W"_s, u"800"_s, program->state.paths.ThemeFile);
     themefiles::PutINI(u"LoadingStaticA"_s, u"H"_s, u"600"_s, program->state.paths.ThemeFile);
-    program->form.queue.draw();
+    program->form.queue().draw();
     program->tag(u"LoadingStaticA"_s);
     QTest::mouseClick(&preview(), Qt::LeftButton, {}, {340, 320});
     QCOMPARE(program->tools().List1->Text(), u"LoadingButtonLast"_s);

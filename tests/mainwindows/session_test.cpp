@@ -22,7 +22,7 @@ void checkWithoutTheme(const Program& program, const QColor& back) {
   QCOMPARE(program.buttons(), u"+---"_s);
   QVERIFY(form.Label1->isVisible() && form.Label2->isVisible());
   QVERIFY(form.Combo1->isHidden() && form.Combo2->isHidden() && form.ProgressBar1->isHidden());
-  QVERIFY(form.toolWindow == nullptr && form.findChildren<toolwindow::Form2*>().isEmpty());
+  QVERIFY(form.toolWindow() == nullptr && form.findChildren<toolwindow::Form2*>().isEmpty());
   QVERIFY(!form.Workspace->markVisible() && !form.Workspace->blinking());
   QVERIFY(!program.state.ThemeOpened && !program.state.Changed && program.state.paths.ThemeFile.isEmpty());
   QImage expected(800, 600, QImage::Format_RGB32);
@@ -191,7 +191,7 @@ class SessionTest : public ProgramTest {
     });
     QTimer::singleShot(5000, &program->form, [] { QCoreApplication::exit(1); });
     QCOMPARE(QApplication::exec(), 0);
-    QVERIFY(program->form.isHidden() && program->form.toolWindow == nullptr);
+    QVERIFY(program->form.isHidden() && program->form.toolWindow() == nullptr);
     QCOMPARE(program->dialogs.asked.size(), 1);
     QCOMPARE(game->files(), files);
   }

@@ -73,7 +73,8 @@ inline void open(Program& program, const char* theme, const char* skin, Qt::Key 
     key(dialog, language);
     press(*dialog.Command1);
   });
-  if (program.form.toolWindow == nullptr || !QTest::qWaitForWindowExposed(program.form.toolWindow)) qFatal("not open");
+  if (program.form.toolWindow() == nullptr || !QTest::qWaitForWindowExposed(program.form.toolWindow()))
+    qFatal("not open");
 }
 
 }  // namespace support

@@ -5,16 +5,31 @@
 
 #include <QApplication>
 #include <QDirIterator>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTimer>
 
+#include "controls/combo_box.h"
+#include "controls/list_box.h"
+#include "controls/list_view.h"
+#include "controls/number_bar.h"
+#include "controls/swatch_button.h"
+#include "controls/text_box.h"
+#include "drawing/graphics.h"
 #include "mainwindows/main_events.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/open_theme_dialog.h"
+#include "mainwindows/status_bar.h"
+#include "mainwindows/workspace.h"
+#include "progressbar/progress_bar.h"
 #include "support/pictures.h"
 #include "support/theme_doubles.h"
 #include "toolbar/button_values.h"
+#include "toolbar/mc_toolbar.h"
+#include "toolwindow/tool_window.h"
 
 /// What the tests of the windows share: dialogs that answer by script, a game folder, and the program on it.
 namespace support {
@@ -111,14 +126,14 @@ class Program {
   /// config.ini in a folder of its own; the game folder is stored in it unless that is asked away. Dialogs answer by
   /// script, or those given.
   explicit Program(const GameFolder& game, bool storeFolder = true, platform::Dialogs* answering = nullptr)
-      : form({state, answering != nullptr ? *answering : dialogs, graphics, {platform::programPath(settings.path())}}) {
-    if (storeFolder) form.config.setGameFolder(game.path());
-    mainwindows::connectEvents(form);
+      : whole_(mainwindows::makeForm1(
+            {state, answering != nullptr ? *answering : dialogs, graphics, {platform::programPath(settings.path())}})),
+        form(*whole_) {
+    if (storeFolder) form.config().setGameFolder(game.path());
     form.show();
   }
   ~Program() {
-    delete form.toolWindow;
-    form.toolWindow = nullptr;
+    form.unloadToolWindow();
     settle();
   }
 
@@ -126,9 +141,14 @@ class Program {
   ScriptedDialogs dialogs;
   drawing::Graphics graphics;
   QTemporaryDir settings;
-  mainwindows::Form1 form;
 
-  toolwindow::Form2& tools() const { return *form.toolWindow; }
+ private:
+  std::unique_ptr<mainwindows::Form1> whole_;
+
+ public:
+  mainwindows::Form1& form;
+
+  toolwindow::Form2& tools() const { return *form.toolWindow(); }
   const QImage& picture() const { return form.Workspace->surface().image(); }
   QString status() const { return form.StatusBar->panel(1).mid(11); }  ///< without the time
   bool enabled(int button) const { return form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool(); }
@@ -226,7 +246,7 @@ inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
   QVariantMap all{{u"state"_s, QVariantList{state.ThemeOpened, state.Changed, form.isVisible()}},
                   {u"paths"_s, paths.replaceInStrings(game.path().chopped(1), u"game"_s)},
                   {u"colours"_s, program.colors()},
-                  {u"busy"_s, form.queue.busy() || form.ProgressBar1->isVisible()},
+                  {u"busy"_s, form.queue().busy() || form.ProgressBar1->isVisible()},
                   {u"windows"_s, form.findChildren<toolwindow::Form2*>().size()},
                   {u"files"_s, QVariant::fromValue(game.files())}};
   if (!form.isVisible()) return all;
@@ -237,7 +257,7 @@ inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
               {u"mark"_s, preview.markVisible() ? preview.mark() : QRectF()},
               {u"enabled"_s, program.buttons()},
               {u"picture"_s, program.picture()}});
-  if (!state.ThemeOpened || form.toolWindow == nullptr) return all;
+  if (!state.ThemeOpened || form.toolWindow() == nullptr) return all;
   const toolwindow::Form2& tools = program.tools();
   all.insert(
       {{u"lists"_s, entries(*form.Combo2) + entries(*tools.List1) + program.rows()},
@@ -273,7 +293,7 @@ class ProgramTest : public QObject {
     game = std::make_unique<GameFolder>();
     program = std::make_unique<Program>(*game);
     program->open();
-    QVERIFY(program->form.toolWindow != nullptr);
+    QVERIFY(program->form.toolWindow() != nullptr);
   }
   void cleanup() { program.reset(); }
 };

@@ -4,6 +4,7 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "mainwindows/commands.h"
 #include "mainwindows/main_window_tool_bar.h"
 #include "propertybag/stored_bytes.h"
 #include "toolbar/mc_toolbar.h"
@@ -127,7 +128,7 @@ class WidgetTest : public QObject {
   }
 
   void mainWindowBarGoesRound() {
-    const QByteArray stored = mainwindows::mainWindowToolBar();
+    const QByteArray stored = mainwindows::mainWindowToolBar(mainwindows::commandRows());
     McToolBar bar({false, QFont()});
     QVERIFY(bar.UserControl_ReadProperties(stored));
     QCOMPARE(bar.UserControl_WriteProperties(), stored);

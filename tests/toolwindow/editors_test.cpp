@@ -203,7 +203,7 @@ class EditorsTest : public ProgramTest {
       files[ThemeCopy].replace(before, after);
       program->state.ProgressStep = 77;
       program->state.Changed = false;
-      program->form.enableButton(2, false);
+      program->form.enableCommand(mainwindows::Command::Save, false);
       tools.Command1->click();
       QCOMPARE(game->files(), files);
       QVERIFY(program->state.Changed && program->enabled(2) && program->state.ProgressStep != 77);

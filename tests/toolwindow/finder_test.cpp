@@ -63,7 +63,7 @@ class FinderTest : public ProgramTest {
         program->screen(u"Loading Screen"_s);
         int yields = 0;
         QObject life;
-        connect(&program->form.queue, &controls::WorkQueue::yielding, &life, [&] {
+        connect(&program->form.queue(), &controls::WorkQueue::yielding, &life, [&] {
           if (++yields != at) return;
           key(find("mainstatica x=10"), Qt::Key_Return);
           if (!later.isEmpty()) program->screen(later);

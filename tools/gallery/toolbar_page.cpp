@@ -8,6 +8,7 @@
 
 #include "controls/assets.h"
 #include "drawing/fonts.h"
+#include "mainwindows/commands.h"
 #include "mainwindows/main_window_tool_bar.h"
 #include "toolbar/mc_toolbar.h"
 
@@ -109,7 +110,7 @@ std::unique_ptr<QWidget> makeToolBarPage() {
   auto page = std::make_unique<QWidget>();
   Rows rows(*page);
   auto* const own = new McToolBar(toolbar::ambientOf(page.get()), page.get());
-  own->UserControl_ReadProperties(mainwindows::mainWindowToolBar());
+  own->UserControl_ReadProperties(mainwindows::mainWindowToolBar(mainwindows::commandRows()));
   own->setFixedWidth(460);
   rows.put(QStringLiteral("Main window"), own);
   for (int mode = 0; mode <= 6; ++mode) {

@@ -5,13 +5,14 @@
 #include <QPainter>
 
 #include "platform/failure.h"
+#include "progressbar/progress_bar.h"
+#include "toolbar/mc_toolbar.h"
 #include "waiting.h"
 
 namespace screenshots {
 namespace {
 
 constexpr int Buttons = 4;
-constexpr int SaveButton = 2;
 constexpr int ButtonWidth = 32;
 constexpr QRect Strip(0, 0, 800, 32);
 constexpr QRect ButtonsOfStrip(0, 0, 160, 32);
@@ -71,7 +72,7 @@ void ControlPictures::stack(const QString& name, const std::function<void(int bu
 }
 
 void ControlPictures::showToolBarStates() const {
-  form_.enableButton(SaveButton, true);
+  form_.enableCommand(mainwindows::Command::Save, true);
   showToolBar(QStringLiteral("toolbar-normal"));
   stack(QStringLiteral("toolbar-hover"), [this](int button) { pointAt(button); });
   leave();
@@ -85,7 +86,7 @@ void ControlPictures::showToolBarStates() const {
     sendKey(*form_.ToolBar, button == 1 ? Qt::Key_Home : Qt::Key_Right);
   });
   sendFocus(*form_.ToolBar, QEvent::FocusOut);
-  form_.enableButton(SaveButton, false);
+  form_.enableCommand(mainwindows::Command::Save, false);
 }
 
 void ControlPictures::showProgress(const std::function<void()>& render) const {
@@ -103,7 +104,7 @@ void ControlPictures::showProgress(const std::function<void()>& render) const {
     bar.SetValue(present);
     bar.SetText(QStringLiteral("%1%").arg(present));
   };
-  const auto watched = QObject::connect(&form_.queue, &controls::WorkQueue::yielding, show);
+  const auto watched = QObject::connect(&form_.queue(), &controls::WorkQueue::yielding, show);
   render();
   QObject::disconnect(watched);
   if (!waiting.isEmpty()) throw platform::Failure(QStringLiteral("the render yields too seldom"));

@@ -6,10 +6,13 @@
 
 #include "controls/look.h"
 #include "controls/native_dialogs.h"
+#include "drawing/graphics.h"
 #include "mainwindows/main_events.h"
+#include "mainwindows/main_window.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "session.h"
+#include "themefiles/module_state.h"
 
 /// cantorama-screenshots GAME_FOLDER OUTPUT_FOLDER: opens the first theme of the folder and saves the pictures.
 int main(int argc, char** argv) {
@@ -24,13 +27,12 @@ int main(int argc, char** argv) {
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
   drawing::Graphics graphics;
-  mainwindows::Form1 form({state, dialogs, graphics, {platform::programPath(configFolder.path())}});
-  mainwindows::connectEvents(form);
+  const auto form = mainwindows::makeForm1({state, dialogs, graphics, {platform::programPath(configFolder.path())}});
   try {
     const QString output = QDir(arguments[2]).absolutePath();
     // The dialog for the game's program file opens there.
     QDir::setCurrent(arguments[1]);
-    screenshots::Session(form, output).run();
+    screenshots::Session(*form, output).run();
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "cantorama-screenshots: %s\n", failure.what());
     return 2;

@@ -8,9 +8,13 @@
 #include <QLineEdit>
 #include <QScreen>
 
+#include "controls/list_view.h"
+#include "controls/swatch_button.h"
 #include "mainwindows/open_theme_dialog.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
+#include "toolbar/mc_toolbar.h"
+#include "toolwindow/tool_window.h"
 #include "toolwindow/value_grid.h"
 #include "waiting.h"
 
@@ -115,7 +119,7 @@ void Session::run() {
   showScreen(QStringLiteral("Main Screen"));
   save(form_, QStringLiteral("main-window"));
   controls_.showToolBarStates();
-  controls_.showProgress([this] { form_.queue.draw(); });
+  controls_.showProgress([this] { form_.queue().draw(); });
   showEditors();
   saveScreen(QStringLiteral("editor"));
   showColorBoxes();
@@ -128,24 +132,24 @@ void Session::openTheme() {
   dialogs_.run({{QStringLiteral("box-game-folder"), choosing(QDir::current().filePath(QStringLiteral("Vocora.exe")))},
                 {QStringLiteral("open-theme"), open}},
                [this] { Q_EMIT form_.ToolBar->Click(OpenButton); });
-  if (form_.toolWindow == nullptr) throw platform::Failure(QStringLiteral("no theme was opened"));
+  if (form_.toolWindow() == nullptr) throw platform::Failure(QStringLiteral("no theme was opened"));
 }
 
 void Session::showScreen(const QString& name) {
-  controls::ComboBox& screens = *form_.toolWindow->Combo1;
+  controls::ComboBox& screens = *form_.toolWindow()->Combo1;
   screens.SetListIndex(rowOf(screens, name));
   settle();
 }
 
 void Session::showEditors() {
   for (const EditorRow& editor : Editors) {
-    openEditor(*form_.toolWindow, editor.row);
-    save(*form_.toolWindow, editor.picture.toString());
+    openEditor(*form_.toolWindow(), editor.row);
+    save(*form_.toolWindow(), editor.picture.toString());
   }
 }
 
 void Session::showColorBoxes() {
-  toolwindow::Form2& tools = *form_.toolWindow;
+  toolwindow::Form2& tools = *form_.toolWindow();
   openEditor(tools, ThemeColorRow);
   const QString present = tools.Combo3->Text();
   const auto add = [&tools] { tools.Command3->click(); };
@@ -157,7 +161,7 @@ void Session::showColorBoxes() {
 }
 
 void Session::showKeyBoxes() {
-  toolwindow::Form2& tools = *form_.toolWindow;
+  toolwindow::Form2& tools = *form_.toolWindow();
   openEditor(tools, TextRow);
   const QString present = tools.Combo5->Text();
   dialogs_.run({{QStringLiteral("box-new-textkey"), entering(present)}, {QStringLiteral("box-key-exists"), accept}},
@@ -173,8 +177,8 @@ void Session::showKeyBoxes() {
 }
 
 void Session::showCloseQuestion() {
-  openEditor(*form_.toolWindow, NumberRow);
-  form_.toolWindow->Command1->click();
+  openEditor(*form_.toolWindow(), NumberRow);
+  form_.toolWindow()->Command1->click();
   settle();
   dialogs_.run({{QStringLiteral("box-close"), cancel}}, [this] { Q_EMIT form_.ToolBar->Click(CloseButton); });
 }
@@ -191,7 +195,7 @@ void Session::savePicture(const QPixmap& picture, const QString& name) const {
 
 /// The main window with what lies over it, as the screen shows them.
 void Session::saveScreen(const QString& name) const {
-  const QRect place = form_.frameGeometry().united(form_.toolWindow->frameGeometry());
+  const QRect place = form_.frameGeometry().united(form_.toolWindow()->frameGeometry());
   savePicture(form_.screen()->grabWindow(0, place.x(), place.y(), place.width(), place.height()), name);
 }
 

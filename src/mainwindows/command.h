@@ -1,0 +1,36 @@
+#pragma once
+
+#include <span>
+
+#include <QStringView>
+
+namespace mainwindows {
+
+class Form1;
+class PreviewHand;
+class ScreenRefresh;
+
+/// What the main window can be told to do.
+enum class Command { Open, Save, Close, BackgroundColor, AnotherFolder, Refresh, OtherWindow, Find };
+
+/// What a command works on.
+struct CommandTargets {
+  Form1& form;
+  PreviewHand& hand;
+  ScreenRefresh& refresh;
+};
+
+/// All that the program knows of a command.
+struct CommandRow {
+  Command command;
+  void (*run)(const CommandTargets& targets);
+  bool atOnce;                ///< runs in the middle of a drawing, too; others wait for its end
+  QStringView keys;           ///< empty for none
+  int button = 0;             ///< its number on the toolbar, from 1; 0 for none
+  QStringView icon = u"";     ///< the button's, by the name of the asset
+  QStringView toolTip = u"";  ///< the button's
+};
+
+using CommandRows = std::span<const CommandRow>;
+
+}  // namespace mainwindows

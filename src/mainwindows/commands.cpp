@@ -1,0 +1,69 @@
+#include "mainwindows/commands.h"
+
+#include <array>
+
+#include "controls/work_queue.h"
+#include "mainwindows/main_window.h"
+#include "mainwindows/preview_hand.h"
+#include "mainwindows/screen_refresh.h"
+#include "mainwindows/theme_session.h"
+#include "themefiles/module_state.h"
+#include "toolwindow/finder_window.h"
+#include "toolwindow/tool_window.h"
+
+namespace mainwindows {
+namespace {
+
+using Targets = CommandTargets;
+
+void goToOtherWindow(Form1& form) {
+  QWidget* other = &form;
+  if (form.toolWindow() != nullptr && form.isActiveWindow()) other = form.toolWindow();
+  other->activateWindow();
+  other->raise();
+}
+
+void find(Form1& form) {
+  if (form.toolWindow() != nullptr) toolwindow::showFinder(*form.toolWindow());
+}
+
+constexpr bool AtOnce = true;
+constexpr bool Waits = false;
+
+constexpr std::array<CommandRow, 8> Rows{{
+    {Command::Open, [](const Targets& to) { OpenTheme(to.form); }, Waits, u"Ctrl+O", 1, u"open", u"Open"},
+    {Command::Save, [](const Targets& to) { SaveTheme(to.form); }, AtOnce, u"Ctrl+S", 2, u"save", u"Save"},
+    {Command::Close, [](const Targets& to) { CloseTheme(to.form); }, Waits, u"Ctrl+W", 3, u"close", u"Close"},
+    {Command::BackgroundColor, [](const Targets& to) { ChooseBackgroundColor(to.form); }, Waits, u"", 4, u"background",
+     u"Background Color"},
+    {Command::AnotherFolder, [](const Targets& to) { openAnotherFolder(to.form); }, Waits, u"Ctrl+Shift+O"},
+    {Command::Refresh, [](const Targets& to) { to.refresh.refresh(); }, AtOnce, u"F5"},
+    {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, u"F6"},
+    {Command::Find, [](const Targets& to) { find(to.form); }, AtOnce, u"Ctrl+F"},
+}};
+
+/// A theme without changes closes without a question: the running work is given up for it.
+bool endsWork(const Form1& form, Command command) {
+  return command == Command::Close && !form.services.state.Changed;
+}
+
+}  // namespace
+
+CommandRows commandRows() {
+  return Rows;
+}
+
+void runCommand(const CommandTargets& targets, const CommandRow& row) {
+  const auto ifEnabled = [targets, &row] {
+    targets.hand.settle();
+    if (targets.form.commandEnabled(row.command)) row.run(targets);
+  };
+  if (row.atOnce) return ifEnabled();
+  targets.hand.settle();
+  if (!targets.form.commandEnabled(row.command)) return;
+  using controls::RunningWork;
+  targets.form.queue().runOutside(ifEnabled,
+                                  endsWork(targets.form, row.command) ? RunningWork::GivesWay : RunningWork::Finishes);
+}
+
+}  // namespace mainwindows
