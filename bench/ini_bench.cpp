@@ -36,7 +36,8 @@ QByteArray readPlainly(const char* path) {
   struct stat status {};
   ::fstat(file, &status);
   QByteArray bytes(status.st_size, Qt::Uninitialized);
-  if (::read(file, bytes.data(), std::size_t(bytes.size())) != bytes.size()) qFatal("can't read the theme");
+  if (::read(file, bytes.data(), static_cast<std::size_t>(bytes.size())) != bytes.size())
+    qFatal("can't read the theme");
   ::close(file);
   return bytes;
 }
@@ -45,7 +46,7 @@ QByteArray readPlainly(const char* path) {
 void writePlainly(const QByteArray& path, const QByteArray& bytes) {
   const QByteArray fresh = path + ".new";
   const int file = ::open(fresh.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-  const bool written = ::write(file, bytes.constData(), std::size_t(bytes.size())) == bytes.size();
+  const bool written = ::write(file, bytes.constData(), static_cast<std::size_t>(bytes.size())) == bytes.size();
   if (!written || ::fsync(file) != 0 || ::close(file) != 0 || ::rename(fresh.constData(), path.constData()) != 0) {
     qFatal("can't write the theme");
   }

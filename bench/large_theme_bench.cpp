@@ -42,7 +42,7 @@ void chooseOften(const OpenEditor& editor, int objects, int times) {
 /// The theme with sections of no screen before and behind its own, as many in all.
 QByteArray padded(const QByteArray& theme, int sections) {
   QByteArray half;
-  for (int i = int(theme.count("\n[")); i < sections; i += 2) {
+  for (int i = static_cast<int>(theme.count("\n[")); i < sections; i += 2) {
     half += "[Spare" + QByteArray::number(i) + "]\r\nTex=Button\r\nX=100\r\nY=200\r\nW=64\r\nH=24\r\n\r\n";
   }
   return half + theme + "\r\n" + half;

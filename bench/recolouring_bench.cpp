@@ -59,7 +59,7 @@ Body recolouring(void (*recolour)(QImage&)) {
     QImage picture(Side, Side, original.format());
     for ([[maybe_unused]] auto turn : state) {
       state.PauseTiming();
-      std::memcpy(picture.bits(), original.constBits(), std::size_t(original.sizeInBytes()));
+      std::memcpy(picture.bits(), original.constBits(), static_cast<std::size_t>(original.sizeInBytes()));
       state.ResumeTiming();
       recolour(picture);
     }
@@ -81,7 +81,7 @@ void registerRecolouring() {
       [picture = photograph()](benchmark::State& state) {
         QImage copy(Side, Side, picture.format());
         for ([[maybe_unused]] auto turn : state) {
-          std::memcpy(copy.bits(), picture.constBits(), std::size_t(picture.sizeInBytes()));
+          std::memcpy(copy.bits(), picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes()));
           benchmark::ClobberMemory();
         }
       });

@@ -4,8 +4,8 @@
 #include <QImage>
 #include <QString>
 
-/// The pictures compiled into the program. They are decoded by name of their format: the toolkit's own way would load
-/// every image plug-in of the machine at the start.
+/// The pictures compiled into the program. The decoder is chosen by the file's ending: letting the toolkit guess would
+/// load every image plug-in of the machine at the start.
 namespace controls {
 
 /// The picture of that file name ("start.jpg"); null without one.

@@ -2,7 +2,8 @@
 
 namespace controls {
 
-/// What set off a Click: the user's own input, or a value that code wrote. "Is the active control" asks for this.
+/// What set off a Click: the user's own input, or a value that code wrote. Where the program asks whether a control is
+/// the active one, this is what it asks for.
 enum class Cause { Code, User };
 
 }  // namespace controls

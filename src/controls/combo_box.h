@@ -29,20 +29,20 @@ class ComboBox : public WheelWithFocus<QComboBox> {
   void SetListIndex(int index);
   /// Text of the selected entry, empty without one.
   QString Text() const { return currentText(); }
-  /// First entry that names the same but for case; -1 without one.
+  /// The first entry equal to a name, in any case; -1 if there is none.
   int entryLike(const QString& name) const;
-  /// Selects the first entry equal to `text`, case included, as SetListIndex does; false, and nothing else, without
-  /// one.
+  /// Selects the first entry equal to `text`, case included, as SetListIndex does. Returns false and does nothing if
+  /// there is none.
   bool selectText(const QString& text);
-  /// The same, throwing platform::Failure without one.
+  /// The same, but throws platform::Failure if there is none.
   void SetText(const QString& text);
 
-  /// Shows a square of its colour beside each entry. The colours are asked for anew when the list drops down, and by
+  /// Shows a square of an entry's colour beside it. `colorOf` is asked again each time the list drops down, and by
   /// updateSwatches.
   void setSwatches(const std::function<QColor(const QString& entry)>& colorOf);
   void updateSwatches();
 
-  /// Twenty rows, as wide as the longest entry.
+  /// The list shows up to twenty rows and is as wide as its longest entry.
   void showPopup() override;
 
  Q_SIGNALS:

@@ -4,7 +4,7 @@
 
 namespace controls {
 
-/// One line of plain text. What has no room is cut with "..." and shows whole as a tool tip.
+/// A line of plain text. A text that is too long is cut with "...", and the tool tip shows it whole.
 class CutLabel : public QLabel {
   Q_OBJECT
 
@@ -12,7 +12,7 @@ class CutLabel : public QLabel {
   explicit CutLabel(QWidget* parent);
 
   void setWhole(const QString& text);
-  /// The text as it was set.
+  /// The text as it was set, uncut.
   const QString& whole() const { return whole_; }
 
  protected:

@@ -30,7 +30,7 @@ void ListBox::AddItem(const QString& text) {
     }
   }
   insertItem(from, text);
-  // The view lays out and paints all rows anew for each new one, in a list that grows one by one for each of them.
+  // The view would lay out and paint all rows again for each row that is added.
   setUpdatesEnabled(false);
   frame_.request();
 }
@@ -74,7 +74,7 @@ void ListBox::setGrey(int index, bool grey) {
 }
 
 void ListBox::timerEvent(QTimerEvent* event) {
-  // Until the frame: a view's timers come again until they are served.
+  // The view's layout timer would fire at each yield until the frame is shown.
   if (updatesEnabled()) RowPicking::timerEvent(event);
 }
 

@@ -29,7 +29,7 @@ class ListBox : public RowPicking<QListWidget> {
   void SetListIndex(int index);
   /// Text of the selected row, empty without one.
   QString Text() const;
-  /// What the tip of a row tells, as plain text, behind the name if that is cut; empty removes it.
+  /// Sets a row's tool tip, plain text; an empty one removes it. If the row's name is cut, the tip begins with it.
   void setRowToolTip(int index, const QString& text);
   /// Shows the text of a row in bold letters, or in grey ones unless the row is selected.
   void setBold(int index, bool bold);
@@ -44,7 +44,7 @@ class ListBox : public RowPicking<QListWidget> {
 
  private:
   Order order_;
-  FramePacer frame_{[this] { setUpdatesEnabled(true); }};  ///< shows the rows that have come
+  FramePacer frame_{[this] { setUpdatesEnabled(true); }};  ///< shows the added rows, once a frame
 };
 
 }  // namespace controls

@@ -44,8 +44,8 @@ class ListView : public RowPicking<QTreeWidget> {
  private:
   int gain() const { return std::max(0, width() - widthAsTold_); }
 
-  int widthAsTold_ = 0;  ///< of the list, when its columns were set
-  int given_ = 0;        ///< what the last column has taken of the width since then
+  int widthAsTold_ = 0;  ///< width of the list when its columns were set
+  int given_ = 0;        ///< pixels that the last column has been widened by since then
 };
 
 }  // namespace controls

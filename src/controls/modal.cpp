@@ -9,7 +9,7 @@ namespace controls {
 int runModal(QDialog& dialog) {
   QPointer<QWidget> window = QApplication::activeWindow();
   const QPointer<QWidget> control = QApplication::focusWidget();
-  // Right behind another dialog no window is active yet.
+  // If another dialog has just been closed, no window is active yet.
   if (window == nullptr || !window->isVisible()) window = dialog.parentWidget();
   const int result = dialog.exec();
   if (window != nullptr && window->isVisible()) window->activateWindow();

@@ -4,8 +4,8 @@ class QDialog;
 
 namespace controls {
 
-/// Runs the dialog and gives its result. Then the window and the control that had the keyboard have it again: left to
-/// itself, a window manager gives it to the main window.
+/// Runs the dialog and returns its result. Afterwards it gives the focus back to the window and control that had it:
+/// window managers would give it to the main window.
 int runModal(QDialog& dialog);
 
 }  // namespace controls

@@ -4,8 +4,8 @@
 
 namespace controls {
 
-/// The dialogs of the toolkit and the desktop. Texts are plain, whatever they hold. On the closing of the main window
-/// each dialog gets Cancel (an ordinary reject of the active modal window).
+/// The dialogs of the toolkit and the desktop. All texts are shown as plain text. When the main window is closed, an
+/// open dialog is cancelled: the active modal window is rejected.
 class NativeDialogs : public platform::Dialogs {
  public:
   platform::BoxAnswer messageBox(QWidget* parent, const QString& text, const QString& title,

@@ -18,7 +18,7 @@ class NumberBar : public WheelWithFocus<QScrollBar> {
   int Value() const { return -value(); }
   /// Fires Change when the value differs. A value beyond the range goes to its end.
   void SetValue(int value);
-  /// The same without a Change.
+  /// Sets the value without firing Change.
   void setValueQuietly(int value);
 
  Q_SIGNALS:

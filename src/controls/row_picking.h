@@ -12,12 +12,11 @@
 
 namespace controls {
 
-/// The row that a key leads to from the selected one (-1 without one) in a list that shows `page` rows; none for a key
-/// that doesn't move the selection, and in an empty list.
+/// The row that a key moves the selection to, in a list that shows `page` rows. `selected` is -1 if no row is selected.
+/// None if the key doesn't move the selection or the list is empty.
 std::optional<int> rowForKey(int key, int selected, int rows, int page);
 
-/// Shows the tip of the cell under the mouse: its text when that is cut, then what its tool tip role holds. Both are
-/// plain text.
+/// Shows the tool tip of the cell under the mouse, as plain text: the cell's text if it is cut, then its tool tip role.
 void showCellTip(const QAbstractItemView& view, const QHelpEvent& help);
 
 /// A view of rows in which the user picks one: by a press of the left button, also on the row that is selected, or by a
@@ -37,7 +36,7 @@ class RowPicking : public View {
     return cells.isEmpty() ? -1 : cells.first().row();
   }
 
-  /// Selects the row as code would; none for a row outside the list.
+  /// Selects a row without an event; a row outside the list selects nothing.
   void select(int row) {
     this->selectionModel()->setCurrentIndex(this->model()->index(row, 0),
                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
@@ -82,7 +81,7 @@ class RowPicking : public View {
     if (now >= 0 && now != before) picked(now);
   }
 
-  /// Ctrl takes the selection off a row elsewhere, not here.
+  /// Ctrl doesn't take the selection off a row, as it does in the toolkit.
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override {
     const QItemSelectionModel::SelectionFlags command = View::selectionCommand(index, event);
     return command.testFlag(QItemSelectionModel::Deselect) ? QItemSelectionModel::NoUpdate : command;

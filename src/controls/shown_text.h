@@ -4,14 +4,14 @@
 
 namespace controls {
 
-/// The longest text that controls show whole and text boxes are given. The toolkit cuts longer ones in a box without a
-/// word, and takes seconds to lay out a line of megabytes.
+/// Length of the longest text that a control shows whole. The toolkit cuts longer ones in a text box without telling,
+/// and needs seconds to lay out a line of megabytes.
 inline constexpr qsizetype LongestText = 32'000;
 
-/// The text, a longer one cut with "...".
+/// The text, cut with "..." if it is longer than LongestText.
 QString shownText(const QString& text);
 
-/// Shows the texts of a list so; its rows keep them whole.
+/// Paints the rows of a list with their texts cut so. The rows themselves keep the whole texts.
 class ShownTexts : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;

@@ -19,7 +19,7 @@ using drawing::SystemColor;
 constexpr SystemColor InactiveSelection = SystemColor::ButtonFace;
 constexpr SystemColor InactiveSelectionText = SystemColor::ButtonText;
 
-/// What each part of a control takes of the system colours; disabled controls, too.
+/// The system colour of each part of a control, also of disabled ones.
 constexpr struct {
   QPalette::ColorRole role;
   SystemColor color;
@@ -64,7 +64,8 @@ void drawGroupBox(const QStyleOptionGroupBox& box, QPainter& painter, const QSty
                      QPalette::WindowText);
 }
 
-/// The border of a list. Drawn as a line, its lower side would go under the rows at a fractional scale.
+/// The border of a list, as four filled rectangles. A line's lower side would be hidden by the rows at a fractional
+/// scale.
 void drawListFrame(const QStyleOption& list, QPainter& painter) {
   constexpr int Darker = 140;  // per cent
   constexpr int Lighter = 108;
@@ -97,7 +98,7 @@ QPalette Style::standardPalette() const {
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* result) const {
   switch (hint) {
-    case SH_ComboBox_Popup:  // no: a list below the box, of limited height
+    case SH_ComboBox_Popup:  // off: the list drops down below the box and has a limited height
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_ItemView_ActivateItemOnSingleClick:
       return 0;

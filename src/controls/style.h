@@ -4,7 +4,7 @@
 
 namespace controls {
 
-/// The Fusion style, less what it takes from the desktop, and fitted to low boxes and to frames with controls close to
+/// The Fusion style without what it takes from the desktop. Boxes may be lower, and frames may have controls close to
 /// their title.
 class Style : public QProxyStyle {
   Q_OBJECT

@@ -5,7 +5,7 @@
 
 namespace controls {
 
-/// A graphical button whose face is one colour.
+/// A button whose face is filled with one colour.
 class SwatchButton : public QPushButton {
   Q_OBJECT
 

@@ -17,7 +17,7 @@ TextBox::TextBox(QWidget* parent) : QLineEdit(parent) {
 
 void TextBox::SetText(const QString& text) {
   if (text == this->text()) return;
-  // While the user types, what stands behind the caret stays behind it; else the head of the text shows.
+  // While the user types, the caret keeps its distance from the text's end. Otherwise the beginning is shown.
   const auto behind = this->text().size() - cursorPosition();
   {
     const QSignalBlocker quiet(this);
@@ -87,7 +87,7 @@ void TextBox::dropEvent(QDropEvent* event) {
 void TextBox::contextMenuEvent(QContextMenuEvent* event) {
   const bool writes = !isReadOnly();
   const bool pastes = writes && !filtered(QGuiApplication::clipboard()->text()).isEmpty();
-  // It doesn't wait for the answer: this box, or running work, may come to its end first.
+  // Non-modal: this box may be deleted while the menu is open.
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   const auto add = [menu, this](const QString& caption, bool enabled, auto command) {

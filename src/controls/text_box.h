@@ -5,18 +5,18 @@
 
 namespace controls {
 
-/// A text box of one line. With a filter it takes only the letters named, whether typed, pasted, dropped or from an
-/// input method; line ends in foreign text become blanks.
+/// A text box of one line. A filter limits the letters that can be typed, pasted, dropped or entered by an input
+/// method. Line ends in pasted or dropped text become blanks.
 class TextBox : public QLineEdit {
   Q_OBJECT
 
  public:
   explicit TextBox(QWidget* parent = nullptr);
 
-  /// The letters that the user can enter; empty lets all through. Text set by code isn't filtered.
+  /// Sets the letters that the user can enter; an empty filter allows all. Text set by code isn't filtered.
   void setKeyFilter(const QString& letters) { letters_ = letters; }
   QString Text() const { return text(); }
-  /// Sets the text and, on a difference only, fires Change.
+  /// Sets the text. Fires Change only if it differs from the present one.
   void SetText(const QString& text);
 
  Q_SIGNALS:
@@ -34,7 +34,7 @@ class TextBox : public QLineEdit {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  /// Foreign text as this box takes it.
+  /// Pasted or dropped text as the box takes it: filtered, without line ends.
   QString filtered(QString text) const;
   void pasteFiltered(QClipboard::Mode source);
 

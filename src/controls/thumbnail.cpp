@@ -21,7 +21,7 @@ QPixmap thumbnailOf(const QString& path) {
   return QPixmap::fromImage(fits ? picture : picture.scaled(Side, Side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
-/// Gives the columns of the list what they hold, and the dialog the width for that.
+/// Fits the list's columns to their contents and widens the dialog for them.
 void widen(QFileDialog& dialog) {
   const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
   if (list != nullptr) {

@@ -4,8 +4,8 @@ class QFileDialog;
 
 namespace controls {
 
-/// Shows a thumbnail of the file that is current in the dialog, beside its list. A dialog of the desktop has no place
-/// for it and stays as it is.
+/// Shows a thumbnail of the dialog's current file beside its list of files. Does nothing for a dialog of the desktop,
+/// which has no place for it.
 void addThumbnail(QFileDialog& dialog);
 
 }  // namespace controls

@@ -3,12 +3,11 @@
 #include <QRect>
 #include <QWidget>
 
-/// Measures of forms: twips, 15 to a pixel. The tables of forms are in twips; here, and nowhere else, they become
-/// pixels.
+/// Forms are laid out in twips, 15 to a pixel. Only the functions here turn them into pixels.
 namespace controls {
 
 inline constexpr double TwipsPerPixel = 15;
-/// What a window's frame adds to its client size in the rules of sizes, whatever the window manager draws.
+/// Size of a window's frame in the layout rules, in twips. The frame that the window manager draws doesn't count.
 inline constexpr double FrameWidth = 120;
 inline constexpr double FrameHeight = 360;
 
@@ -22,11 +21,11 @@ struct TwipsRect {
 
 /// A length rounded to whole pixels.
 int toPixels(double twips);
-/// The four edges rounded, the sizes their differences.
+/// A place in pixels: each edge is rounded, and the size is the difference of the edges.
 QRect toPixels(const TwipsRect& place);
 /// Puts the widget at its place.
 void place(QWidget& widget, const TwipsRect& place);
-/// Moves the window, with the caption that the rules give it, to the middle of its screen.
+/// Moves the window to the middle of its screen, counting the frame's size from above.
 void centreOnScreen(QWidget& window);
 
 }  // namespace controls

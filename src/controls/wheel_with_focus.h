@@ -4,8 +4,8 @@
 
 namespace controls {
 
-/// A widget that answers the wheel only while it has the focus, so that a turn over it doesn't change its value
-/// unasked.
+/// A widget that ignores the mouse wheel unless it has the focus: turning the wheel over it mustn't change its value by
+/// accident.
 template <typename Widget>
 class WheelWithFocus : public Widget {
  protected:

@@ -30,7 +30,7 @@ void WorkQueue::work() {
   while (wanted_ != Stage::None && !givesWay_) {
     if (overdueClosing_) std::exchange(overdueClosing_, {})();
     const Stage stage = wanted_;
-    // A drawing that is wished for while the list still fills is the one that the choice ends in.
+    // A choice ends in a drawing. One that is asked for while the list fills is the same drawing.
     wanted_ = stage == Stage::Choose ? Stage::Draw : Stage::None;
     run(stage);
   }

@@ -10,10 +10,10 @@ struct CommandLine {
   QString gameFolder;  ///< absolute, with its separator; empty when none is named
 };
 
-/// What --help or --version answers; empty when neither is asked for. Needs no application.
+/// The answer to --help or --version; empty if neither is given. Works before there is an application.
 QString commandLineAnswer(const QStringList& words);
 
-/// Throws platform::Failure for a command line that isn't one of this program. The first of `words` is the program.
+/// Reads the command line; the first of `words` is the program's name. Throws platform::Failure if it is wrong.
 CommandLine parseCommandLine(const QStringList& words);
 
 }  // namespace mainwindows

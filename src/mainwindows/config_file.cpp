@@ -18,7 +18,7 @@ namespace {
 
 constexpr QByteArrayView FirstContent = "[Setup]\r\nEXEDirectory=\r\n";
 
-/// Folders that hold a system's programs: no place for a user's settings, even where they can be written.
+/// System folders for programs. Settings don't belong there, even if the user may write them.
 bool isSystemFolder(const QString& folder) {
   constexpr std::array<QStringView, 6> Heads{u"/usr/", u"/bin/",          u"/sbin/",
                                              u"/opt/", u"/Applications/", u"C:/Program Files"};
@@ -27,7 +27,7 @@ bool isSystemFolder(const QString& folder) {
                      [&](QStringView head) { return native.startsWith(head, Qt::CaseInsensitive); });
 }
 
-/// An installed program shares its folder with others, wherever it was installed: its data lies beside that folder.
+/// Whether the program is installed, wherever that is: its data then lies in a folder beside the program's.
 bool isInstalled(const QString& programFolder) {
   return QDir(programFolder + QStringLiteral("/../share/cantorama-theme-edit")).exists();
 }
@@ -69,7 +69,7 @@ QString ConfigFile::gameFolder() const {
 }
 
 void ConfigFile::setGameFolder(const QString& folder) {
-  // The choice outranks the folder that the run began with, even if it can't be stored.
+  // The choice replaces the folder of the command line, even if it can't be stored.
   if (!folderOfThisRun_.isEmpty()) folderOfThisRun_ = folder;
   if (path_.isEmpty()) throw platform::Failure(problem_);
   const QString text = platform::toAnsi(folder) ? folder : asBytes(folder);

@@ -16,7 +16,7 @@ class ConfigFile {
 
   /// Path of the file; empty when no folder took it.
   const QString& path() const { return path_; }
-  /// What kept the file from being made; empty when it stands.
+  /// Why the file can't be made; empty if it is there.
   const QString& problem() const { return problem_; }
 
   /// The game folder of this run, else the stored one; empty until one was stored.
@@ -24,7 +24,7 @@ class ConfigFile {
   /// Stores the game folder. One whose letters the code page lacks is stored as its UTF-8 bytes.
   /// Throws platform::Failure when it can't be stored.
   void setGameFolder(const QString& folder);
-  /// A game folder that counts until the next one is chosen, and isn't stored.
+  /// Sets a game folder that isn't stored and holds until another one is chosen.
   void setFolderOfThisRun(const QString& folder) { folderOfThisRun_ = folder; }
 
  private:

@@ -10,10 +10,10 @@
 
 #include "themefiles/ini_access.h"
 
-/// What moving and sizing an object by hand makes of its numbers.
+/// The numbers of an object that is moved or sized by hand.
 namespace mainwindows {
 
-/// Which edges of an object the hand holds; none of them: it moves the object.
+/// The edges of an object that are dragged. Without any the object is moved.
 struct Grip {
   int across = 0;  ///< -1 the left edge, 1 the right one
   int down = 0;    ///< -1 the upper edge, 1 the lower one
@@ -27,7 +27,7 @@ Grip gripAt(const QRect& place, const QPoint& pixel);
 /// The shape of the pointer over a grip.
 Qt::CursorShape shapeOf(Grip grip);
 
-/// An object's numbers as the theme holds them when the hand takes it. Those that the grip doesn't concern are 0.
+/// An object's numbers in the theme when a drag begins. Those that the grip doesn't change are 0.
 struct HeldNumbers {
   int X = 0;
   int Y = 0;

@@ -127,7 +127,7 @@ void Form1::placeControls() {
   controls::centreOnScreen(*this);
 }
 
-/// That of the client area; on a screen that is too small for it, what the screen has, with room for scroll bars.
+/// The client area's size. On a screen that is too small for it, the room there is, with scroll bars.
 QSize Form1::windowSize() const {
   const QSize room = screen()->availableSize() - QSize(0, controls::toPixels(controls::FrameHeight));
   const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -185,7 +185,7 @@ void Form1::DrawScreen() {
   try {
     platform::guarded(*this, QStringLiteral("Error while Draw Screen"), [&] { renderer::DrawScreen(context); });
   } catch (const controls::WorkAbandoned&) {
-    // The render that takes this one's place begins with the pen that this one found.
+    // The drawing that replaces this one has to begin with the same pen.
     surface.setPen(pen);
     throw;
   }
@@ -211,7 +211,7 @@ bool Form1::commandEnabled(Command command) const {
 
 void Form1::unloadToolWindow() {
   if (toolWindow_ == nullptr) return;
-  // It goes when control is back in the event loop: one of its own events may be on the way.
+  // It is deleted from the event loop: one of its own events may be running.
   toolWindow_->hide();
   toolWindow_->deleteLater();
   toolWindow_ = nullptr;

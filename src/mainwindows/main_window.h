@@ -86,7 +86,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   const renderer::RenderAccount& account() const { return account_; }
   /// What a drawing of the chosen screen works on; only with a theme open.
   renderer::RenderContext renderContext();
-  /// Has the next render read all pictures from their files.
+  /// Makes the next drawing read all pictures from their files.
   void forgetPictures() { pictures_.clear(); }
   /// Draws the chosen screen; called by the work queue.
   void DrawScreen();
@@ -101,11 +101,11 @@ class Form1 : public QWidget, public platform::StatusLine {
   bool commandEnabled(Command command) const;
 
  Q_SIGNALS:
-  /// Something else is about to happen: what is under way on the preview has to come to its end.
+  /// Something else is about to happen: a drag has to end, and moves by the arrow keys are to be committed.
   void settling();
   /// The theme's tool window is gone.
   void themeLeft();
-  /// The user, or the session's end, wants the window closed.
+  /// The user or the end of the desktop session asks to close the window.
   void closeAsked();
 
  protected:

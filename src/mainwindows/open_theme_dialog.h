@@ -12,8 +12,8 @@
 
 namespace mainwindows {
 
-/// The Open Theme dialog: one theme, one of its skins, one language. It tells their paths and touches nothing else of
-/// the program.
+/// The Open Theme dialog: chooses a theme, one of its skins, and a language. Its result is their paths; it changes
+/// nothing else in the program.
 class Form3 : public QDialog {
   Q_OBJECT
 

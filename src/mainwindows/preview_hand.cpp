@@ -113,7 +113,7 @@ bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
 
 bool PreviewHand::press(const QMouseEvent& event) {
   settle();
-  // Edits that were settled have drawn the screen and let events through.
+  // Committing has drawn the screen and served events: the theme may be closed by now.
   if (event.button() != Qt::LeftButton || form_.toolWindow() == nullptr) return false;
   pressed_ = mouse_ = pixelOf(event);
   const bool free = event.buttons() == Qt::LeftButton && !form_.queue().busy();
@@ -162,7 +162,7 @@ bool PreviewHand::release(const QMouseEvent& event) {
   return true;
 }
 
-/// The pointer tells what a press would take.
+/// Gives the pointer the shape of what a press would do here.
 void PreviewHand::hover(const QPoint& place, bool free) {
   if (!free) return;
   const Selected selected = form_.queue().busy() ? Selected() : selectedAt(place);
@@ -184,7 +184,7 @@ PreviewHand::Selected PreviewHand::selectedAt(const QPoint& place) const {
     selected.under = selected.under || object.place.contains(place);
     return selected;
   }
-  // One that isn't drawn has a rectangle when its mark is a frame.
+  // An object that isn't drawn can be sized by its mark, unless that is a line under a text.
   const themefiles::CursorRecord& record = form_.services.state.CursorRect;
   if (record.W.isEmpty() && record.H.isEmpty()) return selected;
   selected.heightKey = QStringLiteral("H");
@@ -192,7 +192,7 @@ PreviewHand::Selected PreviewHand::selectedAt(const QPoint& place) const {
   return selected;
 }
 
-/// Takes an object by a grip; a refusal is told, unless that is asked away.
+/// Begins to move or size an object. Returns false if it can't be; `tells` has the reason reported.
 bool PreviewHand::take(const Selected& selected, Grip grip, bool tells) {
   stage_ = Stage::None;
   if (selected.section.isEmpty()) return false;
@@ -237,7 +237,7 @@ void PreviewHand::keyRelease(const QKeyEvent& event) {
   if (stage_ == Stage::Keys && heldKeys_.isEmpty() && !rest_.isActive()) settle();
 }
 
-/// Draws a frame with the values on trial; after a running drawing, when one is running.
+/// Draws a frame with the values on trial. If a drawing is running, it comes after that.
 void PreviewHand::showFrame() {
   if (stage_ != Stage::Dragging && stage_ != Stage::Keys) return;
   if (form_.queue().busy()) return pacer_.request();
@@ -269,7 +269,7 @@ void PreviewHand::giveUp() {
   if (shown) restore();
 }
 
-/// Shows what the files hold. A drawing that is running does so itself.
+/// Draws picture and mark as the files have them, unless a drawing is running.
 void PreviewHand::restore() {
   if (form_.toolWindow() == nullptr) return;
   Workspace& preview = *form_.Workspace;

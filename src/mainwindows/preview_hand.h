@@ -15,19 +15,19 @@ namespace mainwindows {
 
 class Form1;
 
-/// The hand on the preview: picks objects, and moves and sizes the selected one, by the mouse and by the arrow keys.
-/// While it does, picture and mark follow with values on trial; its end commits them as one edit.
+/// Picking, moving and sizing on the preview, by the mouse and by the arrow keys. While the user drags, picture and
+/// mark follow with values on trial. The end of the drag commits them as one edit.
 class PreviewHand : public QObject {
  public:
   explicit PreviewHand(Form1& form);
 
-  /// Something else is about to happen: commits what the keys have done, and gives up a drag.
+  /// Commits what the arrow keys have done, and gives up a drag. To be called before anything else happens.
   void settle();
   /// Gives up a drag: all is as before.
   void giveUpDrag();
-  /// Another screen is about to be listed: the next click starts with the topmost object again.
+  /// The next click picks the topmost object under it. To be called when another screen is listed.
   void forgetPlaces();
-  /// Forgets all; for the end of the theme.
+  /// Ends everything without a commit or a drawing. To be called when the theme is closed.
   void letGo();
 
  protected:
@@ -45,7 +45,7 @@ class PreviewHand : public QObject {
     QString section;     ///< empty without one
     QString heightKey;   ///< empty for a text
     QRect place;         ///< of an object with a rectangle
-    bool under = false;  ///< whether it lies under the pixel asked for
+    bool under = false;  ///< whether the pixel asked for lies in it
   };
 
   bool press(const QMouseEvent& event);

@@ -7,7 +7,7 @@
 namespace mainwindows {
 namespace {
 
-/// As far as a hand at rest moves the mouse, in pixels.
+/// Clicks that are at most so many pixels apart are at the same place.
 constexpr int SamePlace = 2;
 
 int rowNamed(const themefiles::TagList& tags, const QString& name) {

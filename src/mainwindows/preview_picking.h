@@ -10,9 +10,9 @@ namespace mainwindows {
 /// Finds the object under the mouse from the renderer's account of what it drew.
 class PreviewPicking {
  public:
-  /// Row of the tag list for the topmost object at the place (pixels of the surface); at a further click on the same
-  /// place the next one below, and behind the lowest the topmost again. A child text that isn't in the list stands for
-  /// its button. -1 where nothing was drawn but the background.
+  /// Row of the tag list for the topmost object at a place (pixels of the surface). A further click at the same place
+  /// gives the next object below, and after the lowest the topmost again. A child text that isn't in the list counts as
+  /// its button. -1 where only the background was drawn.
   int rowAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags);
 
  private:

@@ -29,7 +29,7 @@ void ScreenRefresh::refresh() {
   if (tools == nullptr) return;
   form_.forgetPictures();
   const QString screen = tools->Combo1->Text();
-  // While an earlier wish is on its way, its choices are those to keep: the lists may be empty.
+  // If an earlier refresh hasn't ended, its choices are kept: the lists may be empty now.
   if (!kept_ || kept_->screen != screen) {
     kept_ = {screen, tools->List1->Text(), form_.services.state.SelectedButton};
   }

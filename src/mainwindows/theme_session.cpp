@@ -36,7 +36,7 @@ bool mayDropChanges(Form1& form) {
   return answer == platform::BoxAnswer::Yes;
 }
 
-/// The game folder that the user points at, which is then stored; empty when there is none.
+/// Asks for the game folder and stores it; empty if the user cancels.
 QString askGameFolder(Form1& form) {
   const QString program = QStringLiteral("Vocora.exe");
   const QString chosen =
@@ -49,7 +49,7 @@ QString askGameFolder(Form1& form) {
   return folder;
 }
 
-/// The stored game folder, or the one that the user points at.
+/// The stored game folder, or the one that the user is asked for.
 QString findGameFolder(Form1& form) {
   const QString stored = form.config().gameFolder();
   return !stored.isEmpty() && platform::folderHoldsFiles(stored) ? stored : askGameFolder(form);
@@ -128,7 +128,7 @@ void openFrom(Form1& form, QString (*folderOf)(Form1& form)) {
     }
     std::optional<platform::Telling> telling;
     const auto open = [&](const themefiles::ThemePaths& chosen) {
-      telling.reset();  // what an attempt that failed had to tell is over
+      telling.reset();  // drops the notes of an attempt that failed
       telling.emplace(form);
       return openCopies(form, chosen);
     };

@@ -11,7 +11,7 @@ class Form1;
 /// was.
 void OpenTheme(Form1& form);
 
-/// The same, but asks for the game folder first; the one that was stored is kept until another is chosen.
+/// The same, but asks for the game folder first. The stored folder stays until another one is chosen.
 void openAnotherFolder(Form1& form);
 
 /// Copies the working copies over the theme's files. A failure is reported and leaves the theme changed.

@@ -20,7 +20,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
   drawing::Surface& surface() { return surface_; }
   /// Shows what has been drawn on the surface since the last call, with the next paint event.
   void Refresh();
-  /// The same in the next frame of the screen; for long work that draws on the surface bit by bit.
+  /// The same, at most once in 16 ms. For long work that draws on the surface bit by bit.
   void refreshPaced() { pacer_.request(); }
 
   void SetLeft(double left) override;
@@ -30,19 +30,19 @@ class Workspace : public QWidget, public renderer::CursorMark {
   void SetVisible(bool visible) override;
   void setBlinking(bool blinking) override;
 
-  /// Shows what the hand does, beside a pixel of the surface and for assistive programs; nothing with an empty text.
+  /// Shows a label beside a pixel of the surface and tells its text to assistive programs. An empty text hides it.
   void setHandLabel(const QString& text, const QPoint& place = {});
   const QString& handLabel() const { return handLabel_; }
 
   /// The mark as it stands, in pixels of the surface.
   const QRectF& mark() const { return mark_; }
   bool markVisible() const { return markVisible_; }
-  /// Its outer pixels: at least one each way.
+  /// The pixels that the mark covers, at least one each way.
   QRect markRect() const;
   bool blinking() const { return timer1_.isActive(); }
 
  Q_SIGNALS:
-  /// The mouse has moved: its place in pixels of the surface.
+  /// The mouse has moved to a place in pixels of the surface.
   void MouseMove(float X, float Y);
   /// The user wants the menu at this place of the screen.
   void menuAsked(const QPoint& place);
@@ -68,7 +68,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
   bool blinkPhase_ = false;
   QColor borderColor_;
   QString handLabel_;
-  QPoint labelled_;  ///< the place that the label stands beside
+  QPoint labelled_;  ///< the pixel that the label is beside
 };
 
 }  // namespace mainwindows

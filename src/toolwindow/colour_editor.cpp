@@ -56,7 +56,7 @@ QStringList namesOfGroup(const themefiles::ModuleState& state, int group) {
   return group == ThemeGroup ? namesOf(state.ThemeColors) : namesOf(state.PlayerColors);
 }
 
-/// The group that holds the name; -1 for none. An empty name is that of a free row.
+/// The group that holds the name; -1 for none. Free rows of the tables have an empty name.
 int groupOf(const themefiles::ModuleState& state, const QString& name) {
   if (rowNamed(state.ThemeColors, name) != state.ThemeColors.end()) return ThemeGroup;
   if (themefiles::programColorNames().contains(name)) return ProgramGroup;
@@ -74,7 +74,7 @@ auto rowLike(themefiles::ModuleState& state, const QString& name) {
                       [&](const NamedColor& row) { return platform::sameName(row.Name, name); });
 }
 
-/// Gives all rows of the name a value: of equal keys an ini file shows the first.
+/// Sets the value in all rows of that name: an ini file has one value for equal keys.
 void setRowsLike(Form2& form, const QString& name, const QString& value) {
   for (NamedColor& row : form.services.state.ThemeColors) {
     if (platform::sameName(row.Name, name)) row.Value = value;
@@ -163,7 +163,8 @@ void Command3_Click(Form2& form) {
   }
   if (!acceptNewName(form, name)) return;
   themefiles::ModuleState& state = form.services.state;
-  // Another group is on show, and the theme has the name: the one line of the file gets one row.
+  // Another group is on show and the theme already has the name: the file has one line for it, so the table gets no
+  // second row.
   auto row = rowLike(state, name);
   const QString replaced = row == state.ThemeColors.end() ? QString() : row->Value;
   if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
@@ -191,7 +192,8 @@ void Command5_Click(Form2& form) {
   themefiles::ModuleState& state = form.services.state;
   if (rowNamed(state.ThemeColors, name) == state.ThemeColors.end()) return;
   if (!writeColor(form, WriteStep, name, std::nullopt)) return;
-  // The row whose line has gone from the file, and its entry: not the selected one where two names differ in case only.
+  // Removes the row whose line was removed from the file. If two names differ only in case, that isn't the selected
+  // one.
   const auto row = rowLike(state, name);
   const int entry = form.Combo3->findText(row->Name);
   *row = {};

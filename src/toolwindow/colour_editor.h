@@ -9,8 +9,8 @@ namespace toolwindow {
 
 class Form2;
 
-// The frame Color: the choice of a colour's name, and the care of the theme's own colours. Changing, adding and
-// removing a colour write into the working copy and the table at once, whatever becomes of the row.
+// The frame Color: chooses a colour by its name, and edits the theme's own colours. Changing, adding and removing a
+// colour write into the working copy and the colour table at once, without Update.
 
 /// Shows the colour that the row names: its group, the names of the group, the swatch. A name in no table is shown as
 /// nothing.
@@ -22,10 +22,10 @@ void Combo4_Click(Form2& form, controls::Cause cause);
 /// A name has been selected: paints the swatch.
 void Combo3_Click(Form2& form);
 
-/// Changes the selected colour by the colour dialog. Failures end it silently, but for a write that did not succeed.
+/// Changes the selected colour by the colour dialog. A failed write is reported; other failures end it silently.
 void Command2_Click(Form2& form);
 
-/// Puts a colour of the theme back as it was saved; goes as a change by Command2.
+/// Restores the saved value of a colour of the theme, in the way that Command2 changes one.
 void putSavedColorBack(Form2& form, const QString& name, const SavedValue& saved);
 
 /// Adds a colour to the theme.

@@ -11,29 +11,29 @@ namespace toolwindow {
 
 class Form2;
 
-/// Report of a value that an editor can't take.
+/// Step name of the report of a value that an editor can't load.
 inline constexpr QStringView ReadStep = u"Error while reading Value";
-/// What it says of one that is too long (see controls::LongestText).
+/// Its cause for a value that is longer than controls::LongestText.
 QString tooLongText(const QString& key);
 
-/// Report of a find that leads nowhere.
+/// Step name of the report of a search hit that is gone.
 inline constexpr QStringView FindStep = u"Error while finding";
 
-/// Report of a write that did not reach the file.
+/// Step name of the report of a failed write.
 inline constexpr QStringView WriteStep = u"Error while writing tempfile";
 
-/// Writes a key of a working copy at once (without a value: removes it), and tells the user where that is kept. Gives
-/// whether the write reached the file; if not, it is reported as a failed `step`.
+/// Writes a key of a working copy at once, or removes it if there is no value, and tells the user where the edit is
+/// kept. Returns whether the write succeeded; if not, it is reported as a failed `step`.
 bool writeAtOnce(Form2& form, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,
                  const QString& key, const std::optional<QString>& value);
 
-/// The same by a `write` of its own.
+/// The same with another way to write.
 bool writeAtOnce(Form2& form, QStringView step, const std::function<void()>& write);
 
 /// An error box over the tool window.
 void showErrorBox(Form2& form, const QString& text);
 
-/// Whether an ini file gives `name` back as a key's name; tells the user when it doesn't.
+/// Whether a key named `name` can be read back from an ini file. Tells the user if it can't.
 bool acceptNewName(Form2& form, const QString& name);
 
 }  // namespace toolwindow

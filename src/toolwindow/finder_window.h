@@ -24,7 +24,7 @@ class FinderWindow : public QWidget {
   controls::TextBox* Line;  ///< what is looked for
   controls::ListBox* List;  ///< the hits
 
-  /// Comes up with the keyboard in the line.
+  /// Shows the window with the focus in the line.
   void open();
 
  protected:
@@ -38,10 +38,10 @@ class FinderWindow : public QWidget {
 
   Form2& form_;
   std::vector<themefiles::Hit> hits_;
-  QPointer<QWidget> window_, control_;  ///< that had the keyboard before
+  QPointer<QWidget> window_, control_;  ///< had the focus before
 };
 
-/// Brings the finder of the tool window up.
+/// Shows the finder of the tool window.
 void showFinder(Form2& form);
 
 }  // namespace toolwindow

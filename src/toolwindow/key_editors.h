@@ -8,11 +8,11 @@ namespace toolwindow {
 
 class Form2;
 
-/// The frames Texts and Texture are one design: a list of the keys of a section, and a box with what the selected key
-/// stands for. Adding and removing a key write into the working copy at once.
+/// The frames Texts and Texture share their design: a list of a section's keys, and a text box with the selected key's
+/// value. Adding and removing a key write into the working copy at once.
 enum class KeyEditor { Text, Texture };
 
-/// A key of a language or skin file, and what it stands for.
+/// A key of a language or skin file, and its value.
 struct Reference {
   QString themefiles::ThemePaths::*copy;  ///< the working copy that has the section
   QString section;
@@ -27,8 +27,8 @@ Reference shownReference(const Form2& form, KeyEditor which);
 void FillTextKeys(Form2& form, const QString& Value);
 void FillTextureKeys(Form2& form, const QString& Value);
 
-/// A key has been selected: shows what it stands for. One that is too long for the box or can't be read is
-/// reported, and no key is selected then.
+/// A key has been selected: shows its value. If the value is too long for the box or can't be read, that is reported
+/// and no key is selected.
 void KeyList_Click(Form2& form, KeyEditor which);
 
 /// Adds a key with an empty value.

@@ -3,6 +3,7 @@
 #include <QPointer>
 
 #include "controls/work_queue.h"
+#include "drawing/surface.h"
 #include "renderer/highlight_cursor.h"
 #include "toolwindow/tool_window.h"
 
@@ -22,11 +23,9 @@ void placeMark(Form2& form, MarkPen pen) {
     drawCursor(form);
     return;
   }
-  const QString face = services.Workspace.FontName();
-  const float size = services.Workspace.FontSize();
+  const drawing::Pen before = services.Workspace.pen();
   drawCursor(form);
-  services.Workspace.SetFontName(face);
-  services.Workspace.SetFontSize(size);
+  services.Workspace.setPen(before);
   services.queue.runBehind([open = QPointer<Form2>(&form)] {
     if (open) drawCursor(*open);
   });

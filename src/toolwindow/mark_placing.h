@@ -4,10 +4,10 @@ namespace toolwindow {
 
 class Form2;
 
-/// What becomes of the surface's pen when the mark is measured in the middle of a render or of a tag reading.
+/// Placing the mark measures text with the surface's pen. What becomes of that pen while a screen is listed or drawn.
 enum class MarkPen {
-  Left,  ///< it stays as the measure has set it: the measure is a step of the running work
-  Kept,  ///< the running work keeps its pen; the measure is done anew behind the work
+  Left,  ///< it stays as measuring has set it: measuring is a step of the running work
+  Kept,  ///< the running work gets its pen back; the mark is placed again at the work's end
 };
 
 /// Places the mark on the selected object.

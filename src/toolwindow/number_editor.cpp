@@ -28,7 +28,7 @@ int countOf(const QKeyEvent& event) {
   }
 }
 
-/// Watches the text and the bar, and takes from the bar what it does by itself when it has the focus.
+/// Handles keys and wheel for the text box and the bar, in place of the bar's own handling.
 class Counting : public QObject {
  public:
   explicit Counting(Form2& form) : QObject(&form), form_(form) {
@@ -53,7 +53,7 @@ class Counting : public QObject {
   }
 
   Form2& form_;
-  int turned_ = 0;  ///< less than a step
+  int turned_ = 0;  ///< what the wheel has turned since the last whole step
 };
 
 }  // namespace

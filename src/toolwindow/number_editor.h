@@ -4,13 +4,12 @@ namespace toolwindow {
 
 class Form2;
 
-// The number editor: the text box and the scroll bar beside it follow each other. What comes back from the bar is a
-// whole number of 0 or more.
+// The number editor: a text box and a scroll bar that follow each other. The bar gives whole numbers from 0.
 
-/// Takes the text's number into the bar. One beyond the bar's range leaves the text as it was typed.
+/// Sets the bar to the text's number. The text stays as typed if the number is beyond the bar's range.
 void Text1_Change(Form2& form);
 
-/// Takes the bar's value into the text; one below 0 doesn't stay.
+/// Sets the text to the bar's value. A value below 0 becomes 0.
 void VScroll1_Change(Form2& form);
 
 /// Lets Up, Down, the Page keys and the wheel count as the bar's arrows do, while the text or the bar has the focus.

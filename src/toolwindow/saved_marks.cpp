@@ -51,7 +51,7 @@ void markSaved(Form2& form) {
   for (int row = 0; row < form.List1->ListCount(); ++row) {
     form.List1->setBold(row, saved.differsIn(form.List1->List(row)));
   }
-  QSet<QString> seen;  // of doubled keys the first counts
+  QSet<QString> seen;  // the first of equal keys counts
   for (int row = 0; row < form.ListView1->rowCount(); ++row) {
     const QString key = themefiles::keyIdentity(form.ListView1->rowText(row));
     std::optional<SavedValue> value;

@@ -15,7 +15,7 @@ using platform::ProfileKeys;
 using platform::ProfileLine;
 using themefiles::ThemePaths;
 
-/// What stands in the working copy. One that can't be read doesn't differ.
+/// The text of the working copy; none if it can't be read, so that nothing is marked.
 QByteArray presentBytes(const QString& path, const QByteArray& saved) {
   try {
     return platform::readFile(path);

@@ -21,8 +21,8 @@ struct SavedLine {
 /// What was saved where a value differs now.
 struct SavedValue {
   QString value;                 ///< as the grid shows it
-  QString told;                  ///< the same for a tool tip; of a reference also what it stands for, if that differs
-  std::vector<SavedLine> lines;  ///< that bring it back: the theme's, then the words' or the picture's
+  QString told;                  ///< for a tool tip: of a reference also its words or file, if they differ
+  std::vector<SavedLine> lines;  ///< to write back: the theme's, then the language's or skin's
 };
 
 /// The working copies beside what Open or Save last copied. Reads each working copy once.
@@ -30,8 +30,8 @@ class SavedState {
  public:
   explicit SavedState(const themefiles::ModuleState& state);
 
-  /// What was saved for a key of the theme. Of a reference (by the key's `group`) the words or the picture's file
-  /// count, too. None when nothing differs.
+  /// What was saved for a key of the theme; none if nothing differs. If the key's `group` makes it a reference, its
+  /// words or its picture's file are compared, too.
   std::optional<SavedValue> of(const QString& section, const QString& key,
                                std::optional<themefiles::KeyGroup> group) const;
 

@@ -30,8 +30,9 @@ using controls::Cause;
 using controls::ComboBox;
 using controls::TextBox;
 
-/// Ties a button to an operation that asks or changes colours and keys: it waits until no work is running. It is
-/// dropped when by then the window has been closed or the `shown` list, whose entry it is about, has another one.
+/// Connects a button to an operation that opens a dialog or changes colours and keys. The operation waits until no work
+/// is running. It is dropped if by then the window is closed or the list `shown`, whose entry it works on, shows
+/// another one.
 template <typename Operation>
 void onClick(Form2& form, QPushButton* button, Operation operation, const ComboBox* shown = nullptr) {
   QObject::connect(button, &QPushButton::clicked, &form, [&form, operation, shown] {
@@ -61,7 +62,7 @@ void connectMarks(Form2& form) {
       if (open) open->markLater();
     });
   });
-  // The menu key comes as this event by itself.
+  // The toolkit sends this event for the menu key only.
   auto* keys = new QShortcut(QKeySequence(Qt::ShiftModifier | Qt::Key_F10), &form);
   QObject::connect(keys, &QShortcut::activated, &form, [&form] {
     QWidget* focus = form.focusWidget();

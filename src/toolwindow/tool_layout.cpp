@@ -13,7 +13,7 @@ constexpr double LoadedFrameHeight = 735;
 constexpr double ListsTop = 360;
 constexpr double Gap = 30;           // between the lists, and from them to the editor area
 constexpr double BelowWindow = 360;  // from the window's lower edge to the client area's, in the rules below
-constexpr double FrameMargin = 300;  // what the group box is higher than the frame in it
+constexpr double FrameMargin = 300;  // height of the group box less that of the frame in it
 
 using Control = TwipsRect ToolLayout::*;
 using Side = double TwipsRect::*;
@@ -23,7 +23,7 @@ struct Step {
   Control control;
   Side side;
   double (*value)(const ToolLayout& l);
-  bool onlyByUser = false;  ///< left out while the editor area sizes the window
+  bool onlyByUser = false;  ///< skipped while the editor area changes the window's height
 };
 
 constexpr Side L = &TwipsRect::Left;
@@ -73,7 +73,7 @@ constexpr std::array<Step, 26> WithEditor{{
     {&TL::Combo6, W, [](const TL& l) { return l.Texture.Width - l.Combo6.Left - 1080; }},
 }};
 
-/// Carries the step out; false for a size that the window system would refuse.
+/// Carries out a step. Returns false if a size would be negative.
 bool carryOut(ToolLayout& layout, const Step& step) {
   const double value = step.value(layout);
   const bool isSize = step.side == W || step.side == H;

@@ -4,7 +4,7 @@
 
 namespace toolwindow {
 
-/// Places of the tool window's controls in twips, as at load. Children of a frame are placed inside it.
+/// Places of the tool window's controls in twips. Children of a frame are placed relative to it.
 struct ToolLayout {
   controls::TwipsRect Combo1{0, 0, 5770, 315};
   controls::TwipsRect List1{0, 360, 2895, 2385};
@@ -51,9 +51,9 @@ struct ToolLayout {
 /// The layout of a window that has just been loaded: no editor area, the six frames one over the other.
 ToolLayout loadedLayout();
 
-/// Lays the controls out for the window's outer size. With an editor open the lists take what the editor area leaves,
-/// unless `sizingEditor` says that the editor area itself is changing the window's height. A step that would give a
-/// control a negative size ends the layout there.
+/// Lays the controls out for the window's outer size. With an editor open the lists get the height that the editor area
+/// leaves, unless the window's height changes because the editor area does (`sizingEditor`). The layout stops at the
+/// first step that would give a control a negative size.
 void layOut(ToolLayout& layout, double width, double height, bool editorShown, bool sizingEditor);
 
 /// Opens the editor area for a frame: the group box fits it and the window grows at the bottom.

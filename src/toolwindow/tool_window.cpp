@@ -199,7 +199,7 @@ bool Form2::inEditorArea(const QWidget* control) const {
 }
 
 void Form2::HideEditorFrames() {
-  // Else the focus would go on to whatever comes next, and the keys with it.
+  // Otherwise the toolkit would give the focus to the next control.
   if (inEditorArea(focusWidget())) ListView1->setFocus();
   for (const FrameRow& row : Frames) (this->*row.widget)->hide();
 }
@@ -215,7 +215,7 @@ void Form2::fitWindow() {
   applyLayout();
 }
 
-/// At a fractional scale a size that was asked for can come back a pixel off.
+/// At a fractional scale the window system may answer a requested size with one that is a pixel off.
 bool Form2::isFitted(const QSize& size) const {
   const double scale = devicePixelRatioF();
   const int slack = scale == std::floor(scale) ? 0 : 1;
@@ -225,7 +225,7 @@ bool Form2::isFitted(const QSize& size) const {
 
 void Form2::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
-  // The window system tells of sizes that were asked for, too, and late: such a size has its layout already.
+  // The window system also reports sizes that the window gave itself, and late. These are laid out already.
   if (isFitted(event->size())) {
     layout_ = fitted_;
   } else {

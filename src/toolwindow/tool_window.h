@@ -50,7 +50,7 @@ struct ToolServices {
   controls::WorkQueue& queue;
   std::function<void()> enableSave;
   std::function<QString()> schemeName;       ///< the colour scheme in force
-  std::function<void()> settleHand = [] {};  ///< brings what is under way in the preview to its end
+  std::function<void()> settleHand = [] {};  ///< ends what the user's hand is doing on the preview
 };
 
 /// The tool window: the choice of screen and object, the values of the object, and the editor of one value. It floats
@@ -99,25 +99,25 @@ class Form2 : public QWidget {
 
   ListedTags tags;  ///< List1, as the readers and the renderer see it
 
-  /// Starts a list of tags that fills while events are served.
+  /// Empties List1, which isn't complete until endList.
   void beginList();
-  /// Tells that the list of the chosen screen is complete.
+  /// List1 now has all tags of the chosen screen.
   void endList();
-  /// Whether the list is complete and that of the chosen screen.
+  /// Whether List1 has all tags of the chosen screen.
   bool listIsComplete() const;
-  /// Has a hit of the finder picked when its screen's list is complete; none drops one that still waits.
+  /// Sets the search hit that is picked when its screen's list is complete; none drops the one that waits.
   void await(const std::optional<themefiles::Hit>& hit) { awaited_ = hit; }
   /// The hit that waits.
   const std::optional<themefiles::Hit>& awaited() const { return awaited_; }
 
-  /// What is marked as differing from the saved files may have changed: asks for the marks, see markingDue.
+  /// Something may differ from the saved files, or no longer: has the marks renewed when the program is idle.
   void markLater() { marking_.start(); }
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
   void ShowEditorFrame(themefiles::EditorFrame frame);
   /// Closes the editor area: the window shrinks to the lists.
   void closeEditorFrame();
-  /// Hides the six frames. A focus in the editor area goes to the grid; nothing else changes.
+  /// Hides the six frames. If a control of the editor area has the focus, the grid gets it.
   void HideEditorFrames();
 
   const ToolLayout& layout() const { return layout_; }
@@ -125,7 +125,7 @@ class Form2 : public QWidget {
  Q_SIGNALS:
   /// Enter was pressed in an editor that has no use of its own for it.
   void enterPressed();
-  /// Rows are to be marked, now that no event waits.
+  /// The program is idle: the marks that markLater asked for are due.
   void markingDue();
 
  protected:

@@ -48,7 +48,7 @@ void SetSelectedRowValue(Form2& form, const QString& Value) {
   form.ListView1->setSubItem(form.ListView1->selectedRow(), Value);
 }
 
-/// The value that an entry of Combo2 stands for: what stands in front of its "=".
+/// The value of an entry of Combo2: the text before its "=".
 QString selectedValue(const Form2& form) {
   if (form.Combo2->ListIndex() < 0) throw platform::Failure(QStringLiteral("nothing is selected"));
   return platform::trimBlanks(form.Combo2->Text().section(u'=', 0, 0));
@@ -80,10 +80,10 @@ void commitReference(Form2& form, const Commit& commit, KeyEditor editor) {
   SetSelectedRowValue(form, name);
 }
 
-/// Keeps the record that the mark is drawn from in step with five keys.
+/// Updates the record that the mark is drawn from, if the key is one of five.
 void updateCursorRect(themefiles::CursorRecord& record, const QString& key, const QString& value) {
   const double number = platform::numberOf(value);
-  // One beyond all numbers stays as it is: the mark reports it.
+  // A value that is no number stays as it is; placing the mark reports it.
   const QString measure = std::isfinite(number) ? platform::numberText(number) : value;
   if (key == u"X") record.X = measure;
   if (key == u"Y") record.Y = measure;
@@ -128,7 +128,7 @@ void finishCommit(Form2& form, const QString& section, const QString& assignment
   services.enableSave();
   services.status.ShowStatus(section + QStringLiteral(": ") + assignments);
   services.queue.draw();
-  // Another object that was picked during the drawing has its mark.
+  // If another object was picked during the drawing, it has its mark already.
   if (isShown(form, section)) placeMark(form, MarkPen::Kept);
 }
 
@@ -142,7 +142,7 @@ void runCommit(Form2& form, const std::function<void()>& commit) {
   const auto telling = std::make_shared<platform::Telling>(services.status);
   platform::guarded(services.status, WriteStep.toString(), commit);
   form.markLater();
-  // A drawing that waits for a running one reports beside the notes, too.
+  // Keeps the notes until a drawing that waits has run, so that both are reported together.
   services.queue.runOutside([telling] {});
 }
 

@@ -16,13 +16,13 @@ class Form2;
 /// focus back to the grid. A failure is reported and leaves out the steps behind it.
 void Command1_Click(Form2& form);
 
-/// Commits values of one section of the theme, as far as they are whole numbers, by one write: all goes on as after an
-/// Update of each, but the focus stays. Rows and record follow when the section is still the selected one. Gives
-/// whether the write reached the file; if not, nothing has changed.
+/// Commits several keys of one section of the theme by one write. What follows is the same as after an Update of each,
+/// but the focus stays. The grid's rows and the mark's record follow if the section is still the selected one. Returns
+/// whether the write succeeded; if not, nothing has changed.
 bool commitValues(Form2& form, const QString& section, const std::vector<std::pair<QString, QString>>& values);
 
-/// Puts a value of the grid's row back as it was saved; all goes on as after an Update. An open editor of the row is
-/// loaded anew.
+/// Puts the saved value of a row of the grid back. What follows is the same as after an Update. If an editor of the row
+/// is open, it is loaded again.
 void putSavedBack(Form2& form, int row, const SavedValue& saved);
 
 }  // namespace toolwindow

@@ -36,7 +36,7 @@ void loadEditor(Form2& form, const themefiles::GroupRow& group, const QString& v
       break;
     case themefiles::EditorFrame::Selection:
       fillSelection(form, group);
-      // A type outside the list leaves nothing selected.
+      // A value outside the list selects nothing.
       group.group == themefiles::KeyGroup::Type ? static_cast<void>(form.Combo2->selectText(value))
                                                 : selectNumbered(form, value);
       break;
