@@ -17,7 +17,7 @@ namespace themecheck {
 
 /// A theme with all of its skins and the game's languages, as far as they can be read.
 struct CheckedTheme {
-  QString gameFolder;  ///< the program's path, with a separator at its end
+  QString gameFolder;  ///< with a separator at its end
   const IniFile& theme;
   std::vector<IniFile> skins;
   const std::vector<IniFile>& languages;
@@ -26,7 +26,7 @@ struct CheckedTheme {
   bool complete = true;       ///< every skin could be read
 };
 
-/// The sections of a theme that count, less those that tell of the theme itself.
+/// The sections of a theme's objects: the first of each name, without those about the theme itself.
 std::vector<const IniSection*> objectsOf(const IniFile& theme);
 
 /// The key under which the words of an object are looked up: its Text, or its own name.
@@ -35,10 +35,10 @@ QString wordsKeyOf(const IniSection& object);
 /// The values of all keys of that group in the theme.
 QStringList valuesOf(const IniFile& theme, themefiles::KeyGroup group);
 
-/// A state as the editor has it after opening the theme with that skin and language.
+/// The state that the editor would have after opening the theme with that skin and language.
 themefiles::ModuleState openState(const CheckedTheme& theme, const QString& skin, const QString& language);
 
-/// Takes the reports of readers whose failures are told as findings.
+/// Drops the reports of readers whose failures become findings.
 class HeardReports : public platform::StatusLine {
  public:
   bool heard = false;
@@ -50,18 +50,18 @@ class HeardReports : public platform::StatusLine {
 /// Told of each screen that is about to be drawn.
 using Progress = std::function<void(const QString& theme, const QString& skin, const QString& screen)>;
 
-// What can be found, each by itself.
+// The checks.
 
 /// What the renderer leaves out, or draws where nobody sees it.
 void checkDrawing(const CheckedTheme& theme, Findings& findings, const Progress& progress);
 
-/// Sections and keys of any file that stand there twice; with `only`, keys of these names in upper case.
+/// Sections and keys that a file has more than once. `only` limits the keys to these names, in upper case.
 void checkDoubles(const IniFile& file, Findings& findings, const std::optional<QSet<QString>>& only = std::nullopt);
 
 /// Sections that no screen lists, and texts of buttons that the buttons don't ask for.
 void checkSections(const CheckedTheme& theme, Findings& findings);
 
-/// Values that the editors of their keys wouldn't give.
+/// Values that the editor of their key couldn't enter.
 void checkValues(const CheckedTheme& theme, Findings& findings);
 
 /// Colours that no object uses, and more than there is room for.

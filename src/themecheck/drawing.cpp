@@ -19,7 +19,7 @@ namespace {
 
 constexpr QRect Shown(0, 0, drawing::Surface::Width, drawing::Surface::Height);
 
-/// One screen of a theme under one skin, drawn pass by pass as a render does, with a look at the account of each.
+/// A screen of a theme with one skin, drawn pass by pass as a render does. The account of each pass is examined.
 class ScreenCheck {
  public:
   ScreenCheck(const CheckedTheme& theme, const themefiles::ModuleState& state, const themefiles::ScreenRow& screen,
@@ -49,7 +49,7 @@ class ScreenCheck {
   QString language_;
   bool picturesDrawn_ = false;
   Findings& findings_;
-  HeardReports reports_;  // what they tell is in the accounts, too
+  HeardReports reports_;  // dropped: the accounts have the same
   renderer::ChosenScreen chosen_;
 };
 
@@ -58,7 +58,7 @@ void drawGround(renderer::RenderContext& context) {
   renderer::DrawStatics(context);
 }
 
-/// The first of the buttons is the selected one.
+/// Draws everything, with the first button selected.
 void drawButtons(renderer::RenderContext& context) {
   context.state.SelectedButton = 1;
   context.state.ButtonCount = 0;
@@ -68,7 +68,7 @@ void drawButtons(renderer::RenderContext& context) {
 void ScreenCheck::run() {
   draw(chosen_.context(), drawGround);
   const drawing::Pen pen = chosen_.workspace.pen();
-  // A game without a language shows the keys of its words.
+  // Without a language the keys of the words are drawn.
   const QStringList none{QString()};
   for (const QString& language : theme_.languageNames.isEmpty() ? none : theme_.languageNames) {
     chosen_.workspace.setPen(pen);
@@ -77,7 +77,7 @@ void ScreenCheck::run() {
   }
 }
 
-/// Another language changes words only, so that pictures are drawn for one.
+/// A language changes only words: pictures are drawn for one language, texts for each.
 void ScreenCheck::drawWords(const QString& language) {
   language_ = language;
   chosen_.state.paths.LanguageFile =
@@ -87,8 +87,8 @@ void ScreenCheck::drawWords(const QString& language) {
   selectInTurn();
 }
 
-/// Each button but the first as the selected one. The others look as they did, so it is drawn by itself; only when it
-/// has no text of its own to move by its growth, the next button with texts is drawn behind it.
+/// Draws each other button as the selected one. Only that button looks different, so it is drawn alone. If it has no
+/// text of its own, its growth moves the texts of the next button that has some, which is drawn, too.
 void ScreenCheck::selectInTurn() {
   QSet<QString> hidden;
   for (const renderer::LeftOut& entry : chosen_.account.missing) {
@@ -122,7 +122,7 @@ void ScreenCheck::draw(renderer::RenderContext context, Pass pass) {
   }
 }
 
-/// A background that isn't there is none that is missing, and a screen's own section is no object.
+/// A missing background is no finding, and a screen's own section is no object.
 bool isNoFault(const renderer::LeftOut& entry, const QString& stem) {
   return entry.why == renderer::Reason::NoTexture && entry.value.isEmpty() &&
          (platform::sameName(entry.section, stem) ||
@@ -132,7 +132,7 @@ bool isNoFault(const renderer::LeftOut& entry, const QString& stem) {
 void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
   if (isNoFault(entry, screen_.Stem)) return;
   Place place = theme_.theme.place(entry.section, entry.key);
-  // A width and a height are told together, where the first of them stands.
+  // Width and height make one finding, at the first of the two lines.
   for (const QString& key : entry.key.split(QStringLiteral(" x "))) {
     const Place line = theme_.theme.place(entry.section, key);
     if (line.line == place.line) continue;
@@ -143,13 +143,13 @@ void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
   findings_.add(kind, place, {renderer::reasonText(entry)}, {skin_, {}});
 }
 
-/// Whether nothing of it shows that would show elsewhere.
+/// Whether an object lies wholly outside the screen. A text without words doesn't: it would show nowhere.
 bool ScreenCheck::isUnseen(const renderer::DrawnObject& object, bool isText) const {
   if (object.place.intersects(Shown)) return false;
   if (!isText) return true;
   const IniSection* section = theme_.theme.find(object.section);
   const QString key = section ? wordsKeyOf(*section) : object.section;
-  // Without a key the object's name is drawn.
+  // A text without a key is drawn by the object's name.
   return key.isEmpty() ||
          !themefiles::GetINI(QStringLiteral("Text"), key, key, chosen_.state.paths.LanguageFile).isEmpty();
 }

@@ -42,7 +42,7 @@ constexpr std::array<QStringView, 3> LevelNames{u"error", u"warning", u"note"};
 
 QString wordsOf(const KindRow& row, const QStringList& fill) {
   QString words = row.words.toString();
-  // The last place first: what fills a place may look like one.
+  // %2 first: the text for %1 may hold a "%2".
   for (qsizetype place = fill.size(); place > 0; --place) words.replace(u'%' + QString::number(place), fill[place - 1]);
   return words;
 }

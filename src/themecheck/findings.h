@@ -11,7 +11,7 @@ namespace themecheck {
 
 enum class Level { Error, Warning, Note };
 
-/// What can be found. Levels and words are in a table of findings.cpp.
+/// The kinds of findings. A table in findings.cpp has their levels and texts.
 enum class Kind {
   CantBeRead,
   CantBeOpened,
@@ -35,15 +35,15 @@ enum class Kind {
   UnusedPicture,
 };
 
-/// Where a finding stands.
+/// The place of a finding in the files.
 struct Place {
   QString file;     ///< relative to the game folder, with slashes
   int line = 0;     ///< from 1; 0 for the file as a whole
-  QString section;  ///< empty where it is about none
+  QString section;  ///< empty if it is about none
   QString key;
 };
 
-/// The skin and the language that a finding was made with; empty where it depends on none.
+/// The skin and the language in which something was found; empty if it doesn't depend on them.
 struct Setting {
   QString skin;
   QString language;
@@ -53,20 +53,20 @@ struct Finding {
   Level level = Level::Note;
   Place place;
   QString text;
-  QStringList skins;      ///< that it holds for; none where it depends on none
+  QStringList skins;      ///< in which it was found; empty if it doesn't depend on them
   QStringList languages;  ///< the same
-  QString where;          ///< those that it holds for, where these aren't all that were checked
+  QString where;          ///< these skins and languages as text; empty if they are all that were checked
 };
 
 /// "error", "warning" or "note".
 QString nameOf(Level level);
 
-/// Gathers findings: each once, with all the settings it was made with.
+/// Collects findings: each once, with all skins and languages in which it was found.
 class Findings {
  public:
-  /// `fill` takes the places of %1 and %2 in the kind's words.
+  /// Adds a finding. `fill` replaces %1 and %2 in the text of its kind.
   void add(Kind kind, const Place& place, const QStringList& fill = {}, const Setting& setting = {});
-  /// All of them, after the skins and languages that were gone through.
+  /// All findings; `skins` and `languages` are those that were checked.
   std::vector<Finding> taken(const QStringList& skins, const QStringList& languages) const;
 
  private:

@@ -10,7 +10,7 @@
 namespace themecheck {
 namespace {
 
-/// Enters the name of the last of `all`, or finds the one of that name that was there before, which counts then.
+/// Records the name of the last of `all`. If an earlier one has the same name, that one counts.
 template <typename Named>
 void enter(QHash<QString, qsizetype>& byName, std::vector<Named>& all) {
   Named& last = all.back();
@@ -26,7 +26,7 @@ const Named* named(const QHash<QString, qsizetype>& byName, const std::vector<Na
   return found == byName.constEnd() ? nullptr : &all[static_cast<size_t>(*found)];
 }
 
-/// The lines of the sections under the names that the reader of tags gives them: such as have a tail behind the "]".
+/// Records the sections by the names that the reader of tags gives them: with the text behind their "]".
 QHash<QString, int> linesOfTags(const QByteArray& file) {
   QHash<QString, int> lines;
   platform::TextLines walk(file);

@@ -13,7 +13,7 @@ struct IniKey {
   QString name;
   QString value;
   int line = 0;
-  int counted = 0;  ///< line of the key that counts: another one's when this is a double
+  int counted = 0;  ///< line of the first key of this name, the one that counts
 };
 
 struct IniSection {
@@ -28,7 +28,7 @@ struct IniSection {
   QString value(const QString& key) const;
 };
 
-/// One ini file of the game as it stood when the check began, with the lines of its sections and keys.
+/// An ini file of the game, read once, with the line numbers of its sections and keys.
 class IniFile {
  public:
   /// `shown` is the path that findings name. Throws platform::Failure for a file that can't be read.
@@ -41,8 +41,8 @@ class IniFile {
 
   Place wholeFile() const { return {shown_, 0, {}, {}}; }
 
-  /// Where the key stands, spelled as in the file; its section where it doesn't, and the file as a whole without the
-  /// section. A section may also be named as the reader of tags names it.
+  /// The place of a key, spelled as in the file. If the key is missing, the place of its section; if that is missing,
+  /// too, the file. A section may also be named as the reader of tags names it.
   Place place(const QString& section, const QString& key = {}) const;
 
  private:

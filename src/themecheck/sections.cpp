@@ -10,8 +10,7 @@
 namespace themecheck {
 namespace {
 
-/// The sections that some screen lists, in upper case. What a screen leaves out by its filter belongs to it all the
-/// same.
+/// The sections that belong to a screen, in upper case, also those that its filter hides.
 QSet<QString> listedSections(const themefiles::ModuleState& state) {
   QSet<QString> listed;
   HeardReports reports;
@@ -26,7 +25,7 @@ QSet<QString> listedSections(const themefiles::ModuleState& state) {
   return listed;
 }
 
-/// A section named after a button with a text's number that the button doesn't come to.
+/// The number of a button's text that is greater than the button's Texts.
 void checkButtonText(const CheckedTheme& theme, const IniSection& object, Findings& findings) {
   static const QRegularExpression NumberedText(QStringLiteral("^(.+)TEXT([1-9][0-9]*)$"),
                                                QRegularExpression::CaseInsensitiveOption);

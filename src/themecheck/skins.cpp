@@ -22,7 +22,7 @@ const QString Colors = QStringLiteral("Colors");
 constexpr qsizetype MostColors = 99;
 constexpr std::array<QStringView, 5> PictureEndings{u".bmp", u".gif", u".jpg", u".jpeg", u".png"};
 
-/// The keys of a section that count.
+/// The first key of each name in a section.
 std::vector<const IniKey*> keysOf(const IniFile& file, const QString& name) {
   std::vector<const IniKey*> keys;
   const IniSection* section = file.find(name);
@@ -38,7 +38,7 @@ bool has(const IniFile& skin, const QString& texture) {
   return textures && textures->find(texture);
 }
 
-/// Each texture once, where the first skin that has it has it.
+/// All textures, each at its place in the first skin that has it.
 void checkLacking(const CheckedTheme& theme, Findings& findings) {
   QSet<QString> seen;
   for (const IniFile& skin : theme.skins) {
@@ -114,7 +114,7 @@ void checkColors(const CheckedTheme& theme, Findings& findings) {
   const QStringList values = valuesOf(theme.theme, KeyGroup::Color);
   const QSet<QString> used(values.begin(), values.end());
   for (const IniKey* key : keysOf(theme.theme, Colors)) {
-    // A name of the program or of a player never leads to the theme's own colour.
+    // Names of the program's and of the players' colours are looked up before the theme's.
     const bool hides = themefiles::programColorNames().contains(key->name, Qt::CaseInsensitive) ||
                        std::any_of(state.PlayerColors.begin(), state.PlayerColors.end(),
                                    [&](const themefiles::NamedColor& color) { return color.Name == key->name; });

@@ -47,10 +47,10 @@ class GameCheck {
 
   const Request& request_;
   const Progress& progress_;
-  QString folder_;  ///< the program's path, with a separator at its end
+  QString folder_;  ///< with a separator at its end
   QStringList themeNames_;
   QStringList languageNames_;
-  std::vector<IniFile> themes_;  ///< all of them, for the words that they use
+  std::vector<IniFile> themes_;  ///< all themes, for the words that they use
   std::vector<IniFile> languages_;
   Findings unread_;
   bool complete_ = true;  ///< every theme could be read
@@ -88,7 +88,7 @@ GameCheck::GameCheck(const Request& request, const Progress& progress) : request
   }
 }
 
-/// The file; none, and a finding, when it can't be read.
+/// Reads a file. If that fails, the result is empty and there is a finding.
 std::optional<IniFile> GameCheck::read(const QString& name, const QString& path, bool tells) {
   const QString shown = QDir(platform::nativePath(folder_)).relativeFilePath(platform::nativePath(path));
   try {
@@ -136,7 +136,7 @@ void GameCheck::checkTheme(const IniFile& file) {
   take(findings, theme.skinNames, theme.languageNames);
 }
 
-/// The languages belong to all themes: when some are named, only the words of these are looked at.
+/// All themes share the languages. If some themes are named, only the words of these are checked.
 void GameCheck::checkLanguages() {
   const bool all = request_.themes.isEmpty();
   QSet<QString> used;
