@@ -6,10 +6,11 @@
 
 #include "toolbar/repaint.h"
 #include "toolbar/stored_form.h"
+#include "toolbar/tool_bar_events.h"
 
 namespace toolbar {
 
-Control::Control(Windows& windows, Events& events, const Ambient& ambient)
+Control::Control(Windows& windows, ToolBarEvents& events, const Ambient& ambient)
     : windows_(windows), events_(events), ambient_(ambient), model_(*this, ambient.Font) {}
 
 bool Control::UserControl_ReadProperties(const propertybag::PropertyBag& bag) {
@@ -31,7 +32,7 @@ void Control::UserControl_WriteProperties(propertybag::PropertyBag& bag) const {
 }
 
 void Control::PropertyChanged(QStringView name) {
-  events_.PropertyChanged(name.toString());
+  Q_EMIT events_.PropertyChanged(name.toString());
 }
 
 void Control::react(Effect effect) {

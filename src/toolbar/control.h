@@ -10,6 +10,8 @@
 
 namespace toolbar {
 
+class ToolBarEvents;
+
 /// What the mouse or its buttons do to a surface; X and Y in its pixels.
 struct MouseArguments {
   qint16 Button = 0;  ///< 1 left, 2 right, 4 middle; of a move from the popup FromPopup
@@ -23,7 +25,7 @@ struct MouseArguments {
 /// The toolbar less its windows: its surfaces, what is drawn on them, and what input does.
 class Control : private ModelView {
  public:
-  Control(Windows& windows, Events& events, const Ambient& ambient);
+  Control(Windows& windows, ToolBarEvents& events, const Ambient& ambient);
 
   Model& buttons() { return model_; }
   const Model& buttons() const { return model_; }
@@ -87,7 +89,7 @@ class Control : private ModelView {
   void showToolTip();
 
   Windows& windows_;
-  Events& events_;
+  ToolBarEvents& events_;
   Ambient ambient_;
   Model model_;
   ButtonSurface main_;

@@ -3,6 +3,7 @@
 
 #include "toolbar/checked_numbers.h"
 #include "toolbar/control.h"
+#include "toolbar/tool_bar_events.h"
 
 namespace toolbar {
 
@@ -52,7 +53,7 @@ void Control::pointAt(int index) {
   if (index < 1) return;
   const bool isShown = picDraw_ == SurfaceName::Main && !model_.Button(index).InChevron;
   if (isShown && windows_.isPopupVisible()) windows_.setPopupVisible(false);
-  events_.Hover(index);
+  Q_EMIT events_.Hover(index);
 }
 
 void Control::picMain_MouseMove(MouseArguments arguments) {
@@ -67,7 +68,7 @@ void Control::picMain_MouseMove(MouseArguments arguments) {
     pointAt(*index);
   }
   if (model_.Button_Index() > 0) {
-    events_.MouseMove(model_.Button_Index(), arguments.Button, arguments.Shift, arguments.X, arguments.Y);
+    Q_EMIT events_.MouseMove(model_.Button_Index(), arguments.Button, arguments.Shift, arguments.X, arguments.Y);
   }
 }
 
@@ -81,7 +82,7 @@ void Control::picDraw_MouseDown(SurfaceName from, MouseArguments arguments) {
   buttonHeld_ = true;
   Repaint();
   if (model_.Button_Index() > 0) {
-    events_.MouseDown(model_.Button_Index(), arguments.Button, arguments.Shift, arguments.X, arguments.Y);
+    Q_EMIT events_.MouseDown(model_.Button_Index(), arguments.Button, arguments.Shift, arguments.X, arguments.Y);
   }
 }
 
@@ -91,19 +92,19 @@ void Control::picDraw_MouseUp(SurfaceName from, MouseArguments arguments) {
   if (model_.Button_Index() == -1) return;
   Repaint();
   if (model_.Button_Index() > 0) {
-    events_.MouseUp(model_.Button_Index(), arguments.Button, arguments.Shift, arguments.X, arguments.Y);
+    Q_EMIT events_.MouseUp(model_.Button_Index(), arguments.Button, arguments.Shift, arguments.X, arguments.Y);
   }
 }
 
 void Control::picDraw_Click(SurfaceName from) {
-  if (from == picDraw_ && model_.Button_Index() > 0) events_.Click(model_.Button_Index());
+  if (from == picDraw_ && model_.Button_Index() > 0) Q_EMIT events_.Click(model_.Button_Index());
 }
 
 void Control::picDraw_DblClick(SurfaceName from) {
   if (from != picDraw_) return;
   buttonHeld_ = true;
   Repaint();
-  if (model_.Button_Index() > 0) events_.DblClick(model_.Button_Index());
+  if (model_.Button_Index() > 0) Q_EMIT events_.DblClick(model_.Button_Index());
 }
 
 void Control::zSubclass_Proc(int uMsg, SurfaceName surface, quint32 place) {
@@ -138,7 +139,7 @@ void Control::movedTo(SurfaceName surface, quint32 place) {
   if (!mouseInside_) {
     mouseInside_ = true;
     windows_.StartLeaveTracking(surface);
-    events_.MouseEnter();
+    Q_EMIT events_.MouseEnter();
   }
   windows_.DestroyToolTip();
 }
@@ -149,7 +150,7 @@ void Control::left() {
   model_.pointAt(-1);
   windows_.DestroyToolTip();
   Repaint();
-  events_.MouseLeave();
+  Q_EMIT events_.MouseLeave();
 }
 
 void Control::showToolTip() {

@@ -13,31 +13,6 @@ namespace toolbar {
 
 namespace {
 
-/// Tells the control's events as signals.
-class Signals : public Events {
- public:
-  explicit Signals(McToolBar& bar) : bar_(bar) {}
-
-  void PropertyChanged(const QString& name) override { Q_EMIT bar_.PropertyChanged(name); }
-  void MouseEnter() override { Q_EMIT bar_.MouseEnter(); }
-  void MouseLeave() override { Q_EMIT bar_.MouseLeave(); }
-  void Hover(int ButtonIndex) override { Q_EMIT bar_.Hover(ButtonIndex); }
-  void Click(int ButtonIndex) override { Q_EMIT bar_.Click(ButtonIndex); }
-  void DblClick(int ButtonIndex) override { Q_EMIT bar_.DblClick(ButtonIndex); }
-  void MouseUp(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) override {
-    Q_EMIT bar_.MouseUp(ButtonIndex, Button, Shift, X, Y);
-  }
-  void MouseDown(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) override {
-    Q_EMIT bar_.MouseDown(ButtonIndex, Button, Shift, X, Y);
-  }
-  void MouseMove(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) override {
-    Q_EMIT bar_.MouseMove(ButtonIndex, Button, Shift, X, Y);
-  }
-
- private:
-  McToolBar& bar_;
-};
-
 void present(QWidget& window, const ButtonSurface& surface) {
   QPainter painter(&window);
   drawing::Show(painter, surface.raster());
@@ -52,10 +27,9 @@ Ambient ambientOf(const QWidget* parent) {
 McToolBar::McToolBar(QWidget* parent) : McToolBar(ambientOf(parent), parent) {}
 
 McToolBar::McToolBar(const Ambient& ambient, QWidget* parent)
-    : QWidget(parent),
-      events_(std::make_unique<Signals>(*this)),
+    : ToolBarEvents(parent),
       windows_(*this),
-      control_(windows_, *events_, ambient),
+      control_(windows_, *this, ambient),
       mouse_(control_, windows_) {
   setFocusPolicy(ambient.UserMode ? Qt::TabFocus : Qt::NoFocus);
   setMouseTracking(true);

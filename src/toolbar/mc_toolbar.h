@@ -2,18 +2,18 @@
 
 #include <QByteArrayView>
 #include <QPointer>
-#include <QWidget>
 
 #include "toolbar/accessible_tool_bar.h"
 #include "toolbar/control.h"
 #include "toolbar/mouse_delivery.h"
+#include "toolbar/tool_bar_events.h"
 #include "toolbar/tool_bar_windows.h"
 
 namespace toolbar {
 
 /// A strip of icon and text buttons in rows, numbered from 1, with separators, and a popup for what has no room. Its
 /// height follows from its buttons. By keyboard: Tab, arrows, Home, End, Enter and Space, Esc for the popup.
-class McToolBar : public QWidget, public AccessibleToolBarSource {
+class McToolBar : public ToolBarEvents, public AccessibleToolBarSource {
   Q_OBJECT
 
  public:
@@ -49,19 +49,6 @@ class McToolBar : public QWidget, public AccessibleToolBarSource {
   QSize sizeHint() const override { return control_.surfaceOf(SurfaceName::Main).raster().image().size(); }
   void press(int ButtonIndex) override;
 
- Q_SIGNALS:
-  void PropertyChanged(const QString& name);
-  void MouseEnter();
-  void MouseLeave();
-  void Hover(int ButtonIndex);
-  void Click(int ButtonIndex);
-  void DblClick(int ButtonIndex);
-  // Button: 1 left, 2 right, 4 middle; Shift: 1 Shift, 2 Control, 4 Alt; X, Y: pixels of the surface. The Button of a
-  // move in the popup is 999.
-  void MouseUp(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
-  void MouseDown(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
-  void MouseMove(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
-
  protected:
   bool event(QEvent* event) override;
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -77,7 +64,6 @@ class McToolBar : public QWidget, public AccessibleToolBarSource {
   void watchForm();
   void tellKeyPlace();
 
-  std::unique_ptr<Events> events_;
   ToolBarWindows windows_;
   Control control_;
   MouseDelivery mouse_;

@@ -50,19 +50,4 @@ class Windows {
   virtual void DestroyToolTip() = 0;
 };
 
-/// What the control tells its client. The client may change what comes by reference.
-class Events {
- public:
-  virtual ~Events() = default;
-  virtual void PropertyChanged(const QString& name) = 0;
-  virtual void MouseEnter() = 0;
-  virtual void MouseLeave() = 0;
-  virtual void Hover(int ButtonIndex) = 0;
-  virtual void Click(int ButtonIndex) = 0;
-  virtual void DblClick(int ButtonIndex) = 0;
-  virtual void MouseUp(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) = 0;
-  virtual void MouseDown(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) = 0;
-  virtual void MouseMove(int ButtonIndex, qint16& Button, qint16& Shift, float& X, float& Y) = 0;
-};
-
 }  // namespace toolbar

@@ -5,6 +5,7 @@
 #include "toolbar/captions.h"
 #include "toolbar/control.h"
 #include "toolbar/layout.h"
+#include "toolbar/tool_bar_events.h"
 
 using toolbar::Control;
 using toolbar::Model;
@@ -12,25 +13,28 @@ using toolbar::MouseArguments;
 using toolbar::Properties;
 using toolbar::SurfaceName;
 using toolbar::ToolbarButton;
+using toolbar::ToolBarEvents;
 
 namespace {
 
 /// Writes down what a control tells its client and asks of its windows.
-struct Record : toolbar::Events, toolbar::Windows {
+struct Record : toolbar::Windows {
+  Record() {
+    QObject::connect(&events, &ToolBarEvents::PropertyChanged, [this](const QString& name) { words += name; });
+    QObject::connect(&events, &ToolBarEvents::MouseEnter, [this] { note("Enter"); });
+    QObject::connect(&events, &ToolBarEvents::MouseLeave, [this] { note("Leave"); });
+    noteNumber(&ToolBarEvents::Hover, "Hover");
+    noteNumber(&ToolBarEvents::Click, "Click");
+    noteNumber(&ToolBarEvents::DblClick, "DblClick");
+    noteNumber(&ToolBarEvents::MouseUp, "Up");
+    noteNumber(&ToolBarEvents::MouseDown, "Down");
+    noteNumber(&ToolBarEvents::MouseMove, "Move");
+    QObject::connect(&events, &ToolBarEvents::MouseMove, [this](int, qint16 button) { lastButton = button; });
+  }
   void note(const char* word) { words += QString::fromLatin1(word); }
-  void note(const char* word, int number) { words += QString::fromLatin1(word) + QString::number(number); }
-
-  void PropertyChanged(const QString& name) override { words += name; }
-  void MouseEnter() override { note("Enter"); }
-  void MouseLeave() override { note("Leave"); }
-  void Hover(int index) override { note("Hover", index); }
-  void Click(int index) override { note("Click", index); }
-  void DblClick(int index) override { note("DblClick", index); }
-  void MouseUp(int index, qint16&, qint16&, float&, float&) override { note("Up", index); }
-  void MouseDown(int index, qint16&, qint16&, float&, float&) override { note("Down", index); }
-  void MouseMove(int index, qint16& button, qint16&, float&, float&) override {
-    note("Move", index);
-    lastButton = button;
+  void noteNumber(auto signal, const char* word) {
+    QObject::connect(&events, signal,
+                     [this, word](int number) { words += QString::fromLatin1(word) + QString::number(number); });
   }
 
   void SetHeight(int /*pixels*/) override {}
@@ -53,6 +57,7 @@ struct Record : toolbar::Events, toolbar::Windows {
   }
   void DestroyToolTip() override {}
 
+  ToolBarEvents events;
   QStringList words;
   QRect popup;
   int width = 0;
@@ -101,7 +106,7 @@ struct Strip {
   }
 
   Record record;
-  Control control{record, record, {}};
+  Control control{record, record.events, {}};
 };
 
 /// Writes down what a model tells.

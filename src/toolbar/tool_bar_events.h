@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+namespace toolbar {
+
+/// The widget of a toolbar as far as its events go. The control raises them here; a client connects to them.
+class ToolBarEvents : public QWidget {
+  Q_OBJECT
+
+ public:
+  using QWidget::QWidget;
+
+ Q_SIGNALS:
+  void PropertyChanged(const QString& name);
+  void MouseEnter();
+  void MouseLeave();
+  void Hover(int ButtonIndex);
+  void Click(int ButtonIndex);
+  void DblClick(int ButtonIndex);
+  // Button: 1 left, 2 right, 4 middle; Shift: 1 Shift, 2 Control, 4 Alt; X, Y: pixels of the surface. The Button of a
+  // move in the popup is 999. A client may change these four.
+  void MouseUp(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
+  void MouseDown(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
+  void MouseMove(int ButtonIndex, short& Button, short& Shift, float& X, float& Y);
+};
+
+}  // namespace toolbar
