@@ -54,9 +54,9 @@ class Control : private ModelView {
 
   /// The messages that surfaces don't report by themselves.
   enum Message { Move = 3, Size = 5, KillFocus = 8, Timer = 275, MouseMove = 512, MouseLeave = 675 };
-  /// A message after the window has dealt with it; the surface is that of the last two, `place` (x in the low 16 bits,
-  /// y in the high ones) that of a move. Does nothing before UserControl_ReadProperties and in a form's designer.
-  void zSubclass_Proc(int uMsg, SurfaceName surface = SurfaceName::Main, quint32 place = 0);
+  /// A message after the window has dealt with it. Does nothing before UserControl_ReadProperties and in a form's
+  /// designer. `surface` counts for MouseMove and MouseLeave, `place` in its pixels for MouseMove.
+  void zSubclass_Proc(int uMsg, SurfaceName surface = SurfaceName::Main, QPoint place = {});
 
   // The keyboard's way through the buttons; its place looks like the pointer's.
   /// The buttons that keys reach (0 is the chevron): those of the popup while that is open and drawn on.
@@ -84,7 +84,7 @@ class Control : private ModelView {
   std::optional<int> pointedAt(const MouseArguments& arguments);
   bool canHover(int number, float x) const;
   void pointAt(int index);
-  void movedTo(SurfaceName surface, quint32 place);
+  void movedTo(SurfaceName surface, QPoint place);
   void left();
   void showToolTip();
 
@@ -102,7 +102,7 @@ class Control : private ModelView {
   bool mouseInside_ = false;
   bool buttonHeld_ = false;
   bool byKey_ = false;  ///< the keyboard put Button_Index where it is
-  quint32 lastPlace_ = 0;
+  QPoint lastPlace_;
   int timerTicks_ = 0;
 };
 

@@ -107,7 +107,7 @@ void Control::picDraw_DblClick(SurfaceName from) {
   if (model_.Button_Index() > 0) Q_EMIT events_.DblClick(model_.Button_Index());
 }
 
-void Control::zSubclass_Proc(int uMsg, SurfaceName surface, quint32 place) {
+void Control::zSubclass_Proc(int uMsg, SurfaceName surface, QPoint place) {
   if (!isHooked_) return;
   switch (uMsg) {
     case Move:
@@ -131,7 +131,7 @@ void Control::zSubclass_Proc(int uMsg, SurfaceName surface, quint32 place) {
   }
 }
 
-void Control::movedTo(SurfaceName surface, quint32 place) {
+void Control::movedTo(SurfaceName surface, QPoint place) {
   if (place == lastPlace_) return;
   lastPlace_ = place;
   windows_.SetTimer();

@@ -19,10 +19,6 @@ MouseArguments argumentsOf(const QMouseEvent& event, QPoint place, int buttons) 
   return {qint16(buttons & KnownButtons), qint16(shift), float(place.x()), float(place.y())};
 }
 
-quint32 packed(QPoint place) {
-  return quint32(quint16(place.x())) | quint32(quint16(place.y())) << 16;
-}
-
 }  // namespace
 
 bool MouseDelivery::deliver(SurfaceName surface, const QRect& area, QEvent* event) {
@@ -57,7 +53,7 @@ void MouseDelivery::move(SurfaceName surface, const QMouseEvent& event, QPoint p
   } else {
     control_.picChevron_MouseMove(arguments);
   }
-  control_.zSubclass_Proc(Control::MouseMove, surface, packed(place));
+  control_.zSubclass_Proc(Control::MouseMove, surface, place);
 }
 
 void MouseDelivery::movedTo(SurfaceName surface, const QRect& area, const QMouseEvent& event) {
@@ -89,9 +85,7 @@ void MouseDelivery::released(SurfaceName surface, const QRect& area, const QMous
 
 void MouseDelivery::leave(SurfaceName surface) {
   lastMove_.reset();
-  if (windows_.tracked != surface) return;
-  windows_.tracked.reset();
-  control_.zSubclass_Proc(Control::MouseLeave, surface);
+  if (windows_.endLeaveTracking(surface)) control_.zSubclass_Proc(Control::MouseLeave, surface);
 }
 
 }  // namespace toolbar

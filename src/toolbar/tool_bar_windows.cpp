@@ -15,6 +15,12 @@ void ToolBarWindows::destroyAll() {
   popup_.reset();
 }
 
+bool ToolBarWindows::endLeaveTracking(SurfaceName surface) {
+  const bool isTracked = tracked_ == surface;
+  if (isTracked) tracked_.reset();
+  return isTracked;
+}
+
 void ToolBarWindows::SetHeight(int pixels) {
   if (pixels == bar_.height()) return;
   bar_.resize(bar_.width(), pixels);

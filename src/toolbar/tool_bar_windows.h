@@ -19,8 +19,8 @@ class ToolBarWindows : public Windows {
   QTimer& timerObject() { return timer_; }
   /// Ends popup and tip.
   void destroyAll();
-  /// The surface whose leaving is still to be told.
-  std::optional<SurfaceName> tracked;
+  /// Whether the surface's leave message is still to come; it counts as told then.
+  bool endLeaveTracking(SurfaceName surface);
 
   void SetHeight(int pixels) override;
   void present(SurfaceName surface) override;
@@ -33,7 +33,7 @@ class ToolBarWindows : public Windows {
   void setHand(SurfaceName surface, bool hand) override;
   void SetTimer() override;
   void KillTimer() override { timer_.stop(); }
-  void StartLeaveTracking(SurfaceName surface) override { tracked = surface; }
+  void StartLeaveTracking(SurfaceName surface) override { tracked_ = surface; }
   void ShowToolTip(const ToolTip& tip) override;
   void DestroyToolTip() override { tip_.reset(); }
 
@@ -42,6 +42,7 @@ class ToolBarWindows : public Windows {
   std::unique_ptr<QWidget> popup_;
   std::unique_ptr<TipWindow> tip_;
   QTimer timer_;
+  std::optional<SurfaceName> tracked_;
 };
 
 }  // namespace toolbar

@@ -95,7 +95,7 @@ struct Strip {
     const MouseArguments place{0, 0, float(x), float(y)};
     if (kind == 'm') control.picMain_MouseMove(place);
     if (kind == 'p') control.picChevron_MouseMove(place);
-    if (kind == 'm' || kind == 'p') control.zSubclass_Proc(512, surface, quint32(x) | quint32(y) << 16);
+    if (kind == 'm' || kind == 'p') control.zSubclass_Proc(512, surface, {x, y});
     if (kind == 'd' || kind == 'D') control.picDraw_MouseDown(surface, place);
     if (kind == 'u' || kind == 'U') control.picDraw_MouseUp(surface, place);
     if (kind == 'c' || kind == 'C') control.picDraw_Click(surface);
