@@ -48,9 +48,10 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
                        values.ButtonsHeight);
       return {bar_->mapToGlobal(zone.topLeft()), zone.size()};
     }
-    const QWidget* const surface = of->InChevron ? source_.popupWindow() : bar_.data();
+    const ButtonPlace& place = model().placeOf(number());
+    const QWidget* const surface = place.InChevron ? source_.popupWindow() : bar_.data();
     const int width = of->ButtonType == 0 ? values.ButtonsWidth : values.ButtonsSeperatorWidth;
-    return {surface->mapToGlobal(QPoint(of->PosX, of->PosY)), QSize(width, values.ButtonsHeight)};
+    return {surface->mapToGlobal(QPoint(place.PosX, place.PosY)), QSize(width, values.ButtonsHeight)};
   }
   QAccessible::Role role() const override {
     const ToolbarButton* const of = button();
@@ -63,7 +64,7 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
     state.invalid = !isValid();
     state.disabled = of != nullptr && !of->Enabled;
     state.pressed = of != nullptr && of->Pressed;
-    state.invisible = of != nullptr && of->InChevron && !source_.popupWindow()->isVisible();
+    state.invisible = of != nullptr && model().placeOf(number()).InChevron && !source_.popupWindow()->isVisible();
     state.focusable = !state.disabled;
     state.focused = bar_ && bar_->hasFocus() && model().Button_Index() == number();
     return state;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <stdexcept>
-#include <utility>
 
 #include "toolbar/repaint.h"
 #include "toolbar/stored_form.h"
@@ -17,7 +16,7 @@ bool Control::UserControl_ReadProperties(const propertybag::PropertyBag& bag) {
   std::optional<StoredToolBar> stored = readStoredForm(bag, ambient_.Font);
   const bool isSound = stored.has_value();
   if (!isSound) stored = readStoredForm(propertybag::PropertyBag(), ambient_.Font);
-  model_.take(stored->values, std::move(stored->buttons));
+  model_.take(stored->values, stored->buttons);
   model_.pointAt(ambient_.UserMode ? -1 : 1);
   if (ambient_.UserMode) windows_.CreateChevronWindow();
   isHooked_ = ambient_.UserMode;
@@ -64,7 +63,7 @@ void Control::layOut() {
   innerSize_.setHeight(std::min(height, ButtonSurface::LargestSide));
   windows_.SetHeight(innerSize_.height());
   layout_.HiddenButtons.clear();
-  layOutButtons(model_, innerSize_.width(), ambient_.UserMode, layout_);
+  layOutButtons(model_, innerSize_.width(), ambient_.UserMode ? Overflow::Hides : Overflow::Stays, layout_);
 }
 
 void Control::UserControl_Resize() {

@@ -21,7 +21,7 @@ bool Control::canHover(int number, float x) const {
   if (number < 1 || number > model_.Button_Count()) return false;
   const ToolbarButton& button = model_.Button(number);
   if (!button.Enabled || button.ButtonType == 1) return false;
-  return picDraw_ == SurfaceName::Chevron || !button.InChevron;
+  return picDraw_ == SurfaceName::Chevron || !model_.placeOf(number).InChevron;
 }
 
 /// What the pointer is over now; none when that isn't to change.
@@ -51,7 +51,7 @@ void Control::pointAt(int index) {
   model_.pointAt(index);
   Repaint();
   if (index < 1) return;
-  const bool isShown = picDraw_ == SurfaceName::Main && !model_.Button(index).InChevron;
+  const bool isShown = picDraw_ == SurfaceName::Main && !model_.placeOf(index).InChevron;
   if (isShown && windows_.isPopupVisible()) windows_.setPopupVisible(false);
   Q_EMIT events_.Hover(index);
 }

@@ -6,8 +6,9 @@ namespace toolbar {
 
 namespace {
 
-bool isReached(const ToolbarButton& button, bool inPopup) {
-  return button.Enabled && button.ButtonType != 1 && button.InChevron == inPopup;
+bool isReached(const Model& model, int number, bool inPopup) {
+  const ToolbarButton& button = model.Button(number);
+  return button.Enabled && button.ButtonType != 1 && model.placeOf(number).InChevron == inPopup;
 }
 
 }  // namespace
@@ -16,7 +17,7 @@ std::vector<int> Control::keyPlaces() const {
   const bool inPopup = picDraw_ == SurfaceName::Chevron && windows_.isPopupVisible();
   std::vector<int> places;
   for (int i = 1; i <= model_.Button_Count(); ++i) {
-    if (isReached(model_.Button(i), inPopup)) places.push_back(i);
+    if (isReached(model_, i, inPopup)) places.push_back(i);
   }
   if (!inPopup && !layout_.HiddenButtons.empty()) places.push_back(0);
   return places;

@@ -81,19 +81,17 @@ int laidOutHeight(const Model& model) {
   return checkedInt(height + (isFramed(model) ? FramedExtraHeight : 0));
 }
 
-void layOutButtons(Model& model, int innerWidth, bool mayHide, Layout& layout) {
+void layOutButtons(Model& model, int innerWidth, Overflow overflow, Layout& layout) {
   for (int i = 1; i <= model.Button_Count(); ++i) {
-    ToolbarButton& button = model.place(i);
     QPoint place = PlaceButton(model, i, false);
-    const bool overflows = innerWidth - ChevronZone < qint64(model.values().ButtonsWidth) + place.x();
-    const bool hides = button.ButtonType == 0 && model.values().ShowChevron && overflows && mayHide;
+    const bool lacksRoom = innerWidth - ChevronZone < qint64(model.values().ButtonsWidth) + place.x();
+    const bool hides = overflow == Overflow::Hides && model.values().ShowChevron && lacksRoom &&
+                       model.Button(i).ButtonType == 0;
     if (hides) {
       layout.HiddenButtons.push_back(i);
       place = PlaceButton(model, int(layout.HiddenButtons.size()), true);
     }
-    button.InChevron = hides;
-    button.PosX = place.x();
-    button.PosY = place.y();
+    model.setPlace(i, {place.x(), place.y(), hides});
   }
   const int hidden = int(layout.HiddenButtons.size());
   if (hidden == 0) return;

@@ -29,8 +29,12 @@ int HitTest(const Model& model, int x, int y, bool inPopup);
 
 /// The control's height.
 int laidOutHeight(const Model& model);
-/// Gives every button its place and moves those without room into the popup, if that is wished for (`mayHide`). What
-/// was done before a failure stays.
-void layOutButtons(Model& model, int innerWidth, bool mayHide, Layout& layout);
+/// What becomes of a button without room in the strip, where ShowChevron is set.
+enum class Overflow {
+  Hides,  ///< it moves into the popup
+  Stays,  ///< it is cut: in a form's designer
+};
+/// Gives every button its place. What was done before a failure stays.
+void layOutButtons(Model& model, int innerWidth, Overflow overflow, Layout& layout);
 
 }  // namespace toolbar

@@ -24,14 +24,15 @@ constexpr FieldRow Fields[] = {
 
 }  // namespace
 
-Model::Model(ModelView& view, const QFont& ambientFont) : view_(view), buttons_(1) {
+Model::Model(ModelView& view, const QFont& ambientFont) : view_(view), entries_(1) {
   values_.Font = ambientFont;
 }
 
-void Model::take(const Properties& values, std::vector<ToolbarButton> buttons) {
+void Model::take(const Properties& values, const std::vector<ToolbarButton>& buttons) {
   values_ = values;
-  buttons_ = std::move(buttons);
-  count_ = int(buttons_.size());
+  entries_.clear();
+  for (const ToolbarButton& button : buttons) entries_.push_back({button, {}});
+  count_ = static_cast<int>(entries_.size());
 }
 
 void Model::written(const Property& property) {
@@ -47,8 +48,8 @@ void Model::check(int index) const {
 
 void Model::SetButton_Count(int count) {
   if (count == count_ || count < 1) return;
-  buttons_.resize(size_t(std::min(count, count_)));
-  buttons_.resize(size_t(count));
+  entries_.resize(static_cast<size_t>(std::min(count, count_)));
+  entries_.resize(static_cast<size_t>(count));
   count_ = count;
   index_ = count;
   view_.PropertyChanged(u"Button_Count");
@@ -69,7 +70,7 @@ QVariant Model::currentValue(PropertyID field) const {
 
 void Model::setCurrentValue(PropertyID field, const QVariant& value) {
   if (index_ < 1) return;
-  SetValue(place(index_), field, value);
+  SetValue(entry(index_).button, field, value);
   view_.PropertyChanged(Fields[field].name);
   view_.react(Fields[field].onWrite);
 }
@@ -79,15 +80,15 @@ QVariant Model::GetButtonValue(int ButtonIndex, int PropertyID) const {
 }
 
 void Model::SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& newValue) {
-  SetValue(place(ButtonIndex), PropertyID, newValue);
+  SetValue(entry(ButtonIndex).button, PropertyID, newValue);
   view_.react(Effect::Repaint);
 }
 
 void Model::RemoveButton(int ButtonIndex) {
   check(ButtonIndex);
   if (count_ == 1) return;
-  std::move(buttons_.begin() + ButtonIndex, buttons_.begin() + count_, buttons_.begin() + ButtonIndex - 1);
-  buttons_[size_t(count_) - 1] = blank();
+  std::move(entries_.begin() + ButtonIndex, entries_.begin() + count_, entries_.begin() + ButtonIndex - 1);
+  entry(count_) = {blank(), {}};
   --count_;
   view_.react(Effect::LayOut);
 }
@@ -95,8 +96,8 @@ void Model::RemoveButton(int ButtonIndex) {
 void Model::InsertButtonTo(int ButtonIndex, int NewIndex) {
   check(ButtonIndex);
   check(NewIndex);
-  const auto from = buttons_.begin() + ButtonIndex - 1;
-  const auto to = buttons_.begin() + NewIndex - 1;
+  const auto from = entries_.begin() + ButtonIndex - 1;
+  const auto to = entries_.begin() + NewIndex - 1;
   if (from < to) std::rotate(from, from + 1, to + 1);
   if (to < from) std::rotate(to, from, from + 1);
   view_.react(Effect::LayOut);
@@ -105,7 +106,7 @@ void Model::InsertButtonTo(int ButtonIndex, int NewIndex) {
 void Model::MoveButtonTo(int ButtonIndex, int NewIndex) {
   check(ButtonIndex);
   check(NewIndex);
-  std::swap(place(ButtonIndex), place(NewIndex));
+  std::swap(entry(ButtonIndex), entry(NewIndex));
   view_.react(Effect::LayOut);
 }
 

@@ -32,7 +32,7 @@ class Model {
 
   const Properties& values() const { return values_; }
   /// The result of reading a stored toolbar: nothing is told.
-  void take(const Properties& values, std::vector<ToolbarButton> buttons);
+  void take(const Properties& values, const std::vector<ToolbarButton>& buttons);
   template <typename T>
   void setValue(T Properties::*property, const std::type_identity_t<T>& value) {
     values_.*property = value;
@@ -75,18 +75,26 @@ class Model {
   void SetButtonMoveTo(int index);
   void SetButtonInsertTo(int index);
 
-  const ToolbarButton& Button(int number) const { return buttons_.at(size_t(number) - 1); }
-  /// For the layout.
-  ToolbarButton& place(int number) { return buttons_.at(size_t(number) - 1); }
+  const ToolbarButton& Button(int number) const { return entry(number).button; }
+  const ButtonPlace& placeOf(int number) const { return entry(number).place; }
+  /// For the layout; nothing is told.
+  void setPlace(int number, const ButtonPlace& place) { entry(number).place = place; }
 
  private:
+  /// A button takes its place along until the next layout.
+  struct Entry {
+    ToolbarButton button;
+    ButtonPlace place;
+  };
+
+  const Entry& entry(int number) const { return entries_.at(static_cast<size_t>(number) - 1); }
+  Entry& entry(int number) { return entries_.at(static_cast<size_t>(number) - 1); }
   void written(const Property& property);
   void check(int index) const;
 
   ModelView& view_;
   Properties values_;
-  /// May hold blank places behind the last button.
-  std::vector<ToolbarButton> buttons_;
+  std::vector<Entry> entries_;  ///< blank ones may follow the last button
   int count_ = 1;
   int index_ = 1;
 };

@@ -97,13 +97,12 @@ class Painter {
     const ToolbarButton& button = scene_.buttons.Button(number);
     const bool isHeld = number == scene_.buttons.Button_Index() && scene_.ButtonHeld;
     draw({number, button.Icon, button.Caption, button.Pressed || isHeld, button.Enabled,
-          QRect(button.PosX, button.PosY, values_.ButtonsWidth, values_.ButtonsHeight), button.IconAlignment});
+          QRect(cornerOf(number), QSize(values_.ButtonsWidth, values_.ButtonsHeight)), button.IconAlignment});
   }
 
   void item(int number) {
-    const ToolbarButton& button = scene_.buttons.Button(number);
-    if (button.InChevron) return;
-    if (button.ButtonType != 0) {
+    if (scene_.buttons.placeOf(number).InChevron) return;
+    if (scene_.buttons.Button(number).ButtonType != 0) {
       separator(number);
     } else {
       listButton(number);
@@ -122,6 +121,11 @@ class Painter {
   }
 
  private:
+  QPoint cornerOf(int number) const {
+    const ButtonPlace& place = scene_.buttons.placeOf(number);
+    return {place.PosX, place.PosY};
+  }
+
   void draw(ShownButton button) {
     checkRange(button.box);
     const bool enabled = button.enabled && values_.Enabled;
@@ -140,17 +144,17 @@ class Painter {
   }
 
   void separator(int number) {
-    const ToolbarButton& button = scene_.buttons.Button(number);
+    const QPoint corner = cornerOf(number);
     const int width = values_.ButtonsSeperatorWidth;
     const int height = values_.ButtonsHeight;
-    checkRange(QRect(button.PosX, button.PosY, width, height));
+    checkRange(QRect(corner, QSize(width, height)));
     if (values_.ShowSeperator) {
-      const int x = nearestInt(button.PosX + width / 2.0);
-      const int y = button.PosY + 2;
+      const int x = nearestInt(corner.x() + width / 2.0);
+      const int y = corner.y() + 2;
       raster_.Line(x, y, x, y + height - 6, BlendColors(values_.BackColor, 0));
       raster_.Line(x + 1, y, x + 1, y + height - 6, BlendColors(values_.BackColor, 0xFFFFFF));
     }
-    designMark(number, QPoint(button.PosX, button.PosY), width);
+    designMark(number, corner, width);
   }
 
   /// In a designer each button shows its number, and the current one a bar.

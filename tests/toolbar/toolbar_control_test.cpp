@@ -146,12 +146,12 @@ QByteArray placesOf(const char* letters, qint16 border, int perRow, int width) {
   bar.model.setValue(&Properties::ButtonsPerRow, perRow);
   bar.model.setValue(&Properties::ShowChevron, true);
   toolbar::Layout layout;
-  toolbar::layOutButtons(bar.model, width, true, layout);
+  toolbar::layOutButtons(bar.model, width, toolbar::Overflow::Hides, layout);
   const auto pair = [](int x, int y) { return QByteArray::number(x) + ',' + QByteArray::number(y) + ' '; };
   QByteArray text;
   for (int i = 1; i <= bar.model.Button_Count(); ++i) {
-    const ToolbarButton& button = bar.model.Button(i);
-    text += (button.InChevron ? "h" : "") + pair(button.PosX, button.PosY);
+    const toolbar::ButtonPlace& place = bar.model.placeOf(i);
+    text += (place.InChevron ? "h" : "") + pair(place.PosX, place.PosY);
   }
   if (!layout.HiddenButtons.empty()) text += "popup " + pair(layout.popup.width(), layout.popup.height());
   return text + "height " + QByteArray::number(toolbar::laidOutHeight(bar.model));

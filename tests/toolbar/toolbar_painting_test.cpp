@@ -70,7 +70,7 @@ struct Sheet : toolbar::ModelView {
     model.take(values, buttons);
     model.pointAt(index);
     toolbar::Layout layout;
-    toolbar::layOutButtons(model, size.width(), true, layout);
+    toolbar::layOutButtons(model, size.width(), toolbar::Overflow::Hides, layout);
     surface.resize(size);
     bool backgroundDrawn = false;
     toolbar::paint(surface, {model, layout.HiddenButtons, size, isMain, false, true}, backgroundDrawn);
