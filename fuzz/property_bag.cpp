@@ -17,7 +17,7 @@ void checkBag(const propertybag::PropertyBag& bag, QByteArrayView bytes) {
   for (const auto& [key, value] : bag.records()) {
     if (value.typeId() != qMetaTypeId<propertybag::StoredPicture>()) continue;
     const auto icon = drawing::readIcon(value.value<propertybag::StoredPicture>().file);
-    fuzz::require(!icon || icon->Color.size() == icon->Mask.size(), "an icon's bitmaps are of one size");
+    fuzz::require(!icon || icon->Color.size() == icon->mask.size(), "an icon's bitmaps are of one size");
   }
 }
 

@@ -11,7 +11,7 @@ void PreviewHost::setProgressValue(int value) {
 }
 
 void PreviewHost::setProgressText(const QString& text) {
-  controls_.ProgressBar1.SetText(text);
+  controls_.ProgressBar1.set(&progressbar::Properties::Text, text);
 }
 
 void PreviewHost::setProgressVisible(bool visible) {

@@ -1,6 +1,7 @@
 #include "progressbar/progress_bar.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QAccessible>
 #include <QApplication>
@@ -20,16 +21,16 @@ ProgressBar::ProgressBar(QWidget* parent)
   InitProperties();
 }
 
-template <typename T>
-void ProgressBar::write(T& member, const T& value, QStringView key) {
-  member = value;
-  Q_EMIT PropertyChanged(key.toString());
+void ProgressBar::written(const Property& property) {
+  const auto* const row = std::find_if(std::begin(PropertyRows), std::end(PropertyRows),
+                                       [&](const PropertyRow& row) { return row.property == property; });
+  Q_EMIT PropertyChanged(row->key.toString());
   loadPalette(palette_, state_);
   pacer_.request();
 }
 
 void ProgressBar::SetValue(int value) {
-  write(state_.Value, std::max(std::min(value, state_.max), state_.min), u"Value");
+  write(&Properties::Value, std::max(std::min(value, state_.max), state_.min));
   QAccessibleValueChangeEvent event(this, state_.Value);
   QAccessible::updateAccessibility(&event);
 }
@@ -39,7 +40,7 @@ void ProgressBar::SetMax(int value) {
   if (value <= state_.min) value = state_.min + 1;
   state_.max = value;
   if (state_.Value > value) SetValue(value);
-  write(state_.max, value, u"Max");
+  write(&Properties::max, value);
 }
 
 void ProgressBar::SetMin(int value) {
@@ -47,66 +48,41 @@ void ProgressBar::SetMin(int value) {
   value = std::max(value, 0);
   state_.min = value;
   if (state_.Value < value) SetValue(value);
-  write(state_.min, value, u"Min");
+  write(&Properties::min, value);
 }
 
-void ProgressBar::SetTextFont(const QFont& value) {
+void ProgressBar::set(int Properties::*property, int value) {
+  if (property == &Properties::Value) {
+    SetValue(value);
+  } else if (property == &Properties::max) {
+    SetMax(value);
+  } else if (property == &Properties::min) {
+    SetMin(value);
+  } else {
+    write(property, value);
+  }
+}
+
+void ProgressBar::set(QFont Properties::*property, const QFont& value) {
   setFont(drawing::drawnFont(value));
-  write(state_.TextFont, value, u"TextFont");
-}
-
-void ProgressBar::SetRoundedValue(int value) {
-  write(state_.RoundedValue, value, u"RoundedValue");
-}
-void ProgressBar::SetEnabled(bool value) {
-  write(state_.Enabled, value, u"Enabled");
-}
-void ProgressBar::SetTheme(int value) {
-  write(state_.Theme, value, u"Theme");
-}
-void ProgressBar::SetTextStyle(int value) {
-  write(state_.TextStyle, value, u"TextStyle");
-}
-void ProgressBar::SetOrientations(int value) {
-  write(state_.Orientations, value, u"Orientations");
-}
-void ProgressBar::SetTextAlignment(int value) {
-  write(state_.TextAlignment, value, u"TextAlignment");
-}
-void ProgressBar::SetText(const QString& value) {
-  write(state_.Text, value, u"Text");
-}
-void ProgressBar::SetTextEffectColor(quint32 value) {
-  write(state_.TextEffectColor, value, u"TextEffectColor");
-}
-void ProgressBar::SetTextEffect(int value) {
-  write(state_.TextEffect, value, u"TextEffect");
-}
-void ProgressBar::SetTextForeColor(quint32 value) {
-  write(state_.TextForeColor, value, u"TextForeColor");
-}
-void ProgressBar::SetPBSCustomeColor1(quint32 value) {
-  write(state_.PBSCustomeColor1, value, u"PBSCustomeColor1");
-}
-void ProgressBar::SetPBSCustomeColor2(quint32 value) {
-  write(state_.PBSCustomeColor2, value, u"PBSCustomeColor2");
+  write(property, value);
 }
 
 void ProgressBar::InitProperties() {
   SetMax(100);
   SetMin(0);
   SetValue(50);
-  SetRoundedValue(5);
-  SetEnabled(true);
-  SetTheme(1);
-  SetTextForeColor(0);
-  SetText(QStringLiteral("Z42K ProgressBar"));
-  SetTextAlignment(5);
-  SetTextEffect(5);
-  SetTextEffectColor(0xFFFFFF);
-  SetTextStyle(3);
-  SetOrientations(1);
-  SetTextFont(ambientFont());
+  set(&Properties::RoundedValue, 5);
+  set(&Properties::Enabled, true);
+  set(&Properties::Theme, 1);
+  set(&Properties::TextForeColor, 0);
+  set(&Properties::Text, QStringLiteral("Z42K ProgressBar"));
+  set(&Properties::TextAlignment, 5);
+  set(&Properties::TextEffect, 5);
+  set(&Properties::TextEffectColor, 0xFFFFFF);
+  set(&Properties::TextStyle, 3);
+  set(&Properties::Orientations, 1);
+  set(&Properties::TextFont, ambientFont());
 }
 
 /// Showing is a change as any other: what it uncovers and covers is painted in the next frame.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <type_traits>
+
 #include <QWidget>
 
 #include "controls/frame_pacer.h"
@@ -9,9 +11,8 @@
 
 namespace progressbar {
 
-/// A bar that shows how far a piece of work has come, with a caption. Every write of a member tells so by
-/// PropertyChanged, with the key under which the member is stored, and repaints the bar in the next frame of the
-/// screen.
+/// A bar that shows how far a piece of work has come, with a caption. Every write of a property raises PropertyChanged
+/// with the property's key, and repaints the bar in the next frame of the screen.
 class ProgressBar : public QWidget, public AccessibleBarSource {
   Q_OBJECT
 
@@ -28,34 +29,14 @@ class ProgressBar : public QWidget, public AccessibleBarSource {
   /// At least 0 and below max; pulls Value up with it.
   void SetMin(int value);
 
-  // The other members are stored as they come; a value out of its range is a matter of the painting.
-  int RoundedValue() const { return state_.RoundedValue; }
-  void SetRoundedValue(int value);
-  /// A look only: the bar takes no input anyway.
-  bool Enabled() const { return state_.Enabled; }
-  void SetEnabled(bool value);
-  int Theme() const { return state_.Theme; }
-  void SetTheme(int value);
-  int TextStyle() const { return state_.TextStyle; }
-  void SetTextStyle(int value);
-  int Orientations() const { return state_.Orientations; }
-  void SetOrientations(int value);
-  int TextAlignment() const { return state_.TextAlignment; }
-  void SetTextAlignment(int value);
-  QString Text() const { return state_.Text; }
-  void SetText(const QString& value);
-  quint32 TextEffectColor() const { return state_.TextEffectColor; }
-  void SetTextEffectColor(quint32 value);
-  int TextEffect() const { return state_.TextEffect; }
-  void SetTextEffect(int value);
-  quint32 TextForeColor() const { return state_.TextForeColor; }
-  void SetTextForeColor(quint32 value);
-  QFont TextFont() const { return state_.TextFont; }
-  void SetTextFont(const QFont& value);
-  quint32 PBSCustomeColor1() const { return state_.PBSCustomeColor1; }
-  void SetPBSCustomeColor1(quint32 value);
-  quint32 PBSCustomeColor2() const { return state_.PBSCustomeColor2; }
-  void SetPBSCustomeColor2(quint32 value);
+  /// Writes a property: Value, max and min as above, TextFont also as the widget's font, any other as it comes. A value
+  /// out of its range is a matter of the painting.
+  void set(int Properties::*property, int value);
+  void set(QFont Properties::*property, const QFont& value);
+  template <typename T>
+  void set(T Properties::*property, const std::type_identity_t<T>& value) {
+    write(property, value);
+  }
 
   /// The values of a bar newly placed on a form. A new object has them.
   void InitProperties();
@@ -75,7 +56,11 @@ class ProgressBar : public QWidget, public AccessibleBarSource {
 
  private:
   template <typename T>
-  void write(T& member, const T& value, QStringView key);
+  void write(T Properties::*property, const T& value) {
+    state_.*property = value;
+    written(property);
+  }
+  void written(const Property& property);
 
   Properties state_;
   Palette palette_;

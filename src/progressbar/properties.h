@@ -1,7 +1,10 @@
 #pragma once
 
+#include <variant>
+
 #include <QFont>
 #include <QString>
+#include <QStringView>
 
 namespace progressbar {
 
@@ -23,6 +26,35 @@ struct Properties {
   QFont TextFont;
   quint32 PBSCustomeColor1 = 0;  ///< bar of Theme 10
   quint32 PBSCustomeColor2 = 0;  ///< track of Theme 10
+};
+
+/// One property of any of the types in use.
+using Property = std::variant<int Properties::*, bool Properties::*, quint32 Properties::*, QString Properties::*,
+                              QFont Properties::*>;
+
+struct PropertyRow {
+  QStringView key;  ///< under which it is stored, and told by PropertyChanged
+  Property property;
+};
+
+/// All of them, in the order in which they are read and stored: Value after its range.
+inline constexpr PropertyRow PropertyRows[] = {
+    {u"Max", &Properties::max},
+    {u"Min", &Properties::min},
+    {u"Value", &Properties::Value},
+    {u"RoundedValue", &Properties::RoundedValue},
+    {u"Enabled", &Properties::Enabled},
+    {u"Theme", &Properties::Theme},
+    {u"TextStyle", &Properties::TextStyle},
+    {u"Orientations", &Properties::Orientations},
+    {u"Text", &Properties::Text},
+    {u"TextEffectColor", &Properties::TextEffectColor},
+    {u"TextEffect", &Properties::TextEffect},
+    {u"TextAlignment", &Properties::TextAlignment},
+    {u"TextFont", &Properties::TextFont},
+    {u"TextForeColor", &Properties::TextForeColor},
+    {u"PBSCustomeColor2", &Properties::PBSCustomeColor2},
+    {u"PBSCustomeColor1", &Properties::PBSCustomeColor1},
 };
 
 }  // namespace progressbar

@@ -1,7 +1,6 @@
 #include "progressbar/stored_form.h"
 
 #include <optional>
-#include <type_traits>
 
 #include "progressbar/progress_bar.h"
 #include "propertybag/stored_bytes.h"
@@ -11,70 +10,34 @@ namespace progressbar {
 
 namespace {
 
-/// What the place of a bar gives to members that aren't stored.
-struct Ambient {
-  QString displayName;
-  QFont font;
-};
-
-/// One member as it is stored.
-struct Member {
-  QStringView key;
-  QVariant (*storedDefault)(const Ambient& ambient);
-  QVariant (*read)(const ProgressBar& bar);
-  /// Passes over a value that isn't of the member's type.
-  void (*write)(ProgressBar& bar, const QVariant& value);
-};
-
-template <auto Get, auto setValue>
-constexpr Member stored(QStringView key, QVariant (*storedDefault)(const Ambient&)) {
-  using T = std::remove_cvref_t<std::invoke_result_t<decltype(Get), const ProgressBar&>>;
-  return {key, storedDefault, [](const ProgressBar& bar) { return QVariant::fromValue((bar.*Get)()); },
-          [](ProgressBar& bar, const QVariant& value) {
-            if (const std::optional<T> written = propertybag::storedAs<T>(value)) (bar.*setValue)(*written);
-          }};
+/// The stored defaults, which aren't all those of a new bar.
+Properties storedDefaults(const QString& name, const QFont& ambientFont) {
+  Properties values;
+  values.max = 100;
+  values.Value = 50;
+  values.RoundedValue = 5;
+  values.Enabled = true;
+  values.Theme = 1;
+  values.TextStyle = 1;
+  values.Orientations = 1;
+  values.Text = name;
+  values.TextEffectColor = 0xC8C8C8;
+  values.TextEffect = 1;
+  values.TextAlignment = 5;
+  values.TextFont = ambientFont;
+  return values;
 }
-
-template <auto Value>
-QVariant fixed(const Ambient& /*ambient*/) {
-  return QVariant::fromValue(Value);
-}
-QVariant Name(const Ambient& ambient) {
-  return ambient.displayName;
-}
-QVariant Font(const Ambient& ambient) {
-  return ambient.font;
-}
-
-constexpr quint32 Black = 0;
-constexpr quint32 LightGrey = 0xC8C8C8;
-
-using Bar = ProgressBar;
-constexpr Member Members[] = {
-    stored<&Bar::max, &Bar::SetMax>(u"Max", fixed<100>),
-    stored<&Bar::min, &Bar::SetMin>(u"Min", fixed<0>),
-    stored<&Bar::Value, &Bar::SetValue>(u"Value", fixed<50>),
-    stored<&Bar::RoundedValue, &Bar::SetRoundedValue>(u"RoundedValue", fixed<5>),
-    stored<&Bar::Enabled, &Bar::SetEnabled>(u"Enabled", fixed<true>),
-    stored<&Bar::Theme, &Bar::SetTheme>(u"Theme", fixed<1>),
-    stored<&Bar::TextStyle, &Bar::SetTextStyle>(u"TextStyle", fixed<1>),
-    stored<&Bar::Orientations, &Bar::SetOrientations>(u"Orientations", fixed<1>),
-    stored<&Bar::Text, &Bar::SetText>(u"Text", Name),
-    stored<&Bar::TextEffectColor, &Bar::SetTextEffectColor>(u"TextEffectColor", fixed<LightGrey>),
-    stored<&Bar::TextEffect, &Bar::SetTextEffect>(u"TextEffect", fixed<1>),
-    stored<&Bar::TextAlignment, &Bar::SetTextAlignment>(u"TextAlignment", fixed<5>),
-    stored<&Bar::TextFont, &Bar::SetTextFont>(u"TextFont", Font),
-    stored<&Bar::TextForeColor, &Bar::SetTextForeColor>(u"TextForeColor", fixed<Black>),
-    stored<&Bar::PBSCustomeColor2, &Bar::SetPBSCustomeColor2>(u"PBSCustomeColor2", fixed<Black>),
-    stored<&Bar::PBSCustomeColor1, &Bar::SetPBSCustomeColor1>(u"PBSCustomeColor1", fixed<Black>),
-};
 
 }  // namespace
 
 void readProperties(ProgressBar& bar, const propertybag::PropertyBag& bag) {
-  const Ambient ambient{bar.objectName(), bar.ambientFont()};
-  for (const Member& member : Members) {
-    member.write(bar, bag.ReadProperty(member.key.toString(), member.storedDefault(ambient)));
+  const Properties defaults = storedDefaults(bar.objectName(), bar.ambientFont());
+  for (const PropertyRow& row : PropertyRows) {
+    const auto read = [&]<typename T>(T Properties::*property) {
+      const QVariant value = bag.ReadProperty(row.key.toString(), QVariant::fromValue(defaults.*property));
+      if (const std::optional<T> stored = propertybag::storedAs<T>(value)) bar.set(property, *stored);
+    };
+    std::visit(read, row.property);
   }
   if (const std::optional<QSize> size = propertybag::storedSize(bag)) bar.resize(*size);
 }
@@ -86,10 +49,14 @@ bool readProperties(ProgressBar& bar, QByteArrayView bytes) {
 }
 
 void writeProperties(const ProgressBar& bar, propertybag::PropertyBag& bag) {
-  const Ambient ambient{QString(), bar.ambientFont()};
+  const Properties defaults = storedDefaults(QString(), bar.ambientFont());
   propertybag::storeSize(bag, bar.size());
-  for (const Member& member : Members) {
-    bag.WriteProperty(member.key.toString(), member.read(bar), member.storedDefault(ambient));
+  for (const PropertyRow& row : PropertyRows) {
+    const auto write = [&](const auto property) {
+      bag.WriteProperty(row.key.toString(), QVariant::fromValue(bar.state().*property),
+                        QVariant::fromValue(defaults.*property));
+    };
+    std::visit(write, row.property);
   }
 }
 

@@ -85,8 +85,8 @@ void layOutButtons(Model& model, int innerWidth, Overflow overflow, Layout& layo
   for (int i = 1; i <= model.Button_Count(); ++i) {
     QPoint place = PlaceButton(model, i, false);
     const bool lacksRoom = innerWidth - ChevronZone < qint64(model.values().ButtonsWidth) + place.x();
-    const bool hides = overflow == Overflow::Hides && model.values().ShowChevron && lacksRoom &&
-                       model.Button(i).ButtonType == 0;
+    const bool hides =
+        overflow == Overflow::Hides && model.values().ShowChevron && lacksRoom && model.Button(i).ButtonType == 0;
     if (hides) {
       layout.HiddenButtons.push_back(i);
       place = PlaceButton(model, int(layout.HiddenButtons.size()), true);

@@ -27,10 +27,7 @@ Ambient ambientOf(const QWidget* parent) {
 McToolBar::McToolBar(QWidget* parent) : McToolBar(ambientOf(parent), parent) {}
 
 McToolBar::McToolBar(const Ambient& ambient, QWidget* parent)
-    : ToolBarEvents(parent),
-      windows_(*this),
-      control_(windows_, *this, ambient),
-      mouse_(control_, windows_) {
+    : ToolBarEvents(parent), windows_(*this), control_(windows_, *this, ambient), mouse_(control_, windows_) {
   setFocusPolicy(ambient.UserMode ? Qt::TabFocus : Qt::NoFocus);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);

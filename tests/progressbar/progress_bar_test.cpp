@@ -212,8 +212,8 @@ class ProgressBarTest : public QObject {
     bar.SetValue(3);
     readProperties(bar, PropertyBag());  // gives the stored defaults
     QCOMPARE(bar.Value(), 50);
-    QCOMPARE(bar.TextEffectColor(), 0xC8C8C8U);
-    QCOMPARE(bar.Text(), QStringLiteral("ProgressBar1"));
+    QCOMPARE(bar.state().TextEffectColor, 0xC8C8C8U);
+    QCOMPARE(bar.state().Text, QStringLiteral("ProgressBar1"));
     // The value is read behind its range, and a key that fails is passed over.
     readProperties(bar, bagOf({{"value", 700}, {"MIN", 300}, {"Theme", QStringLiteral("blue")}, {"max", 900}}));
     QCOMPARE((QList<int>{bar.min(), bar.max(), bar.Value()}), (QList<int>{300, 900, 700}));
@@ -238,9 +238,9 @@ class ProgressBarTest : public QObject {
       QVERIFY(readProperties(bar, stored));
       QCOMPARE(writeProperties(bar).toHex(' '), stored.toHex(' '));
       QCOMPARE(bar.size(), size);
-      QCOMPARE(bar.PBSCustomeColor2(), track);
+      QCOMPARE(bar.state().PBSCustomeColor2, track);
       QVERIFY(!readProperties(bar, stored.chopped(1)));
-      QCOMPARE(bar.RoundedValue(), 5);
+      QCOMPARE(bar.state().RoundedValue, 5);
     }
   }
 };

@@ -98,11 +98,11 @@ void ControlPictures::showProgress(const std::function<void()>& render) const {
     const int percent = waiting.takeFirst();
     const int present = bar.Value();
     bar.SetValue(percent);
-    bar.SetText(QStringLiteral("%1%").arg(percent));
+    bar.set(&progressbar::Properties::Text, QStringLiteral("%1%").arg(percent));
     waitFor(FrameTime, QEventLoop::ExcludeUserInputEvents);
     save_(form_.client->grab(ProgressArea), QStringLiteral("progress-%1").arg(percent));
     bar.SetValue(present);
-    bar.SetText(QStringLiteral("%1%").arg(present));
+    bar.set(&progressbar::Properties::Text, QStringLiteral("%1%").arg(present));
   };
   const auto watched = QObject::connect(&form_.queue(), &controls::WorkQueue::yielding, show);
   render();
