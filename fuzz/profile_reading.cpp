@@ -1,10 +1,12 @@
+#include "platform/profile_reading.h"
+
 #include <optional>
 
 #include <QSet>
 
 #include "input.h"
 #include "platform/code_page.h"
-#include "platform/profile_strings.h"
+#include "platform/profile_outline.h"
 #include "platform/text_lines.h"
 
 using namespace platform;

@@ -1,7 +1,9 @@
+#include "platform/profile_writing.h"
+
 #include <algorithm>
 
 #include "input.h"
-#include "platform/profile_strings.h"
+#include "platform/profile_reading.h"
 
 using namespace platform;
 

@@ -7,7 +7,7 @@
 #include <QByteArray>
 #include <QString>
 
-#include "platform/profile_strings.h"
+#include "platform/profile_reading.h"
 #include "themefiles/ini_access.h"
 
 namespace renderer {

@@ -4,7 +4,7 @@
 
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "platform/profile_strings.h"
+#include "platform/profile_outline.h"
 #include "platform/text_lines.h"
 
 namespace themecheck {

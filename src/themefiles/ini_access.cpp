@@ -5,7 +5,8 @@
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/files.h"
-#include "platform/profile_strings.h"
+#include "platform/profile_reading.h"
+#include "platform/profile_writing.h"
 
 namespace themefiles {
 namespace {

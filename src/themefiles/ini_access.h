@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "platform/profile_strings.h"
+#include "platform/profile_reading.h"
 
 /// All keyed access to the ini files: the file on disk is read or changed anew by each call.
 namespace themefiles {

@@ -5,7 +5,7 @@
 
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "platform/profile_strings.h"
+#include "platform/profile_reading.h"
 #include "themefiles/key_table.h"
 #include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/profile_strings.h"
+#include "platform/profile_reading.h"
 #include "themefiles/key_table.h"
 #include "themefiles/module_state.h"
 

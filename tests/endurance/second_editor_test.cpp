@@ -5,7 +5,7 @@
 #include <QThread>
 
 #include "platform/failure.h"
-#include "platform/profile_strings.h"
+#include "platform/profile_writing.h"
 #include "support/row_name.h"
 #include "support/windows.h"
 #include "themefiles/working_copies.h"

@@ -1,7 +1,7 @@
-#include "platform/profile_strings.h"
-
 #include <QTest>
 
+#include "platform/profile_reading.h"
+#include "platform/profile_writing.h"
 #include "support/folder.h"
 
 using namespace platform;

@@ -1,0 +1,105 @@
+#include "platform/profile_lines.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "platform/code_page.h"
+
+namespace platform::profile {
+
+namespace {
+
+bool standsAtHead(const char* place, const char* fileBegin) {
+  while (place != fileBegin && isBlank(place[-1])) --place;
+  return place == fileBegin || isLineEnd(place[-1]);
+}
+
+/// Whether nothing but blanks stands at `at` up to the "]" of a section line, which may be missing.
+bool endsName(const char* at, const char* fileEnd) {
+  while (at != fileEnd && isBlank(*at)) ++at;
+  return at == fileEnd || *at == ']' || isLineEnd(*at);
+}
+
+}  // namespace
+
+QByteArrayView trimmed(QByteArrayView text) {
+  while (!text.isEmpty() && isBlank(text.front())) text = text.sliced(1);
+  while (!text.isEmpty() && isBlank(text.back())) text.chop(1);
+  return text;
+}
+
+QByteArrayView askedName(QByteArrayView name) {
+  while (name.startsWith(' ')) name = name.sliced(1);
+  while (name.endsWith(' ')) name.chop(1);
+  return name;
+}
+
+bool endsInTab(QByteArrayView name) {
+  return name.startsWith('\t') || name.endsWith('\t');
+}
+
+bool sameName(QByteArrayView a, QByteArrayView b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return upperCaseByte(x) == upperCaseByte(y); });
+}
+
+const char* lineTextEnd(const char* at, const char* fileEnd) {
+  return std::find_if(at, fileEnd, isLineEnd);
+}
+
+const char* nextLine(const char* textEnd, const char* fileEnd) {
+  if (textEnd == fileEnd) return fileEnd;
+  const bool two = *textEnd == '\r' && textEnd + 1 != fileEnd && textEnd[1] == '\n';
+  return textEnd + (two ? 2 : 1);
+}
+
+QByteArrayView sectionName(const char* bracket, const char* textEnd) {
+  return trimmed({bracket + 1, std::find(bracket + 1, textEnd, ']')});
+}
+
+/// Most sections drop out by the first or the last letter of the name.
+const char* findSection(QByteArrayView file, QByteArrayView name) {
+  const char* const end = file.end();
+  const qsizetype length = name.size();
+  const char first = length > 0 ? upperCaseByte(name.front()) : '\0';
+  const char last = length > 0 ? upperCaseByte(name.back()) : '\0';
+  if (std::any_of(name.begin(), name.end(), [](char c) { return c == ']' || isLineEnd(c); })) return nullptr;
+  if (endsInTab(name)) return nullptr;
+  for (const char* at = file.begin(); at != end;) {
+    const auto* bracket = static_cast<const char*>(std::memchr(at, '[', static_cast<std::size_t>(end - at)));
+    if (!bracket) return nullptr;
+    at = bracket + 1;
+    while (at != end && isBlank(*at)) ++at;
+    if (end - at < length) return nullptr;
+    if (length > 0 && (upperCaseByte(at[length - 1]) != last || upperCaseByte(*at) != first)) continue;
+    if (!endsName(at + length, end) || !sameName({at, length}, name) || !standsAtHead(bracket, file.begin())) continue;
+    return nextLine(lineTextEnd(at + length, end), end);
+  }
+  return nullptr;
+}
+
+std::optional<KeyLine> KeyLines::next() {
+  while (at_ != end_) {
+    const char* const begin = at_;
+    const char* const head = std::find_if_not(begin, end_, isBlank);
+    if (head != end_ && *head == '[') return std::nullopt;
+    const char* const textEnd = lineTextEnd(head, end_);
+    at_ = nextLine(textEnd, end_);
+    if (head == textEnd || *head == ';' || *head == '=') continue;
+    const char* const sign = std::find(head, textEnd, '=');
+    if (sign != textEnd) return KeyLine{trimmed({head, sign}), begin, sign + 1, textEnd, at_};
+  }
+  return std::nullopt;
+}
+
+std::optional<KeyLine> KeyLines::find(QByteArrayView key) {
+  auto line = next();
+  while (line && !sameName(line->key, key)) line = next();
+  return line;
+}
+
+QByteArrayView trimmedValue(const KeyLine& line) {
+  return trimmed({line.value, line.textEnd});
+}
+
+}  // namespace platform::profile

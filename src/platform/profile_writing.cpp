@@ -1,0 +1,87 @@
+#include "platform/profile_writing.h"
+
+#include <algorithm>
+
+#include "platform/profile_lines.h"
+
+namespace platform {
+
+using profile::KeyLines;
+
+namespace {
+
+/// The end of the file's first line, CR LF when it has none.
+QByteArray firstLineEnd(QByteArrayView file) {
+  const char* const textEnd = profile::lineTextEnd(file.begin(), file.end());
+  const char* const next = profile::nextLine(textEnd, file.end());
+  return textEnd == next ? QByteArray("\r\n") : QByteArray(textEnd, next - textEnd);
+}
+
+QByteArray replaced(QByteArrayView file, const char* from, const char* to, QByteArrayView text) {
+  QByteArray result;
+  result.reserve(file.size() + text.size());
+  return result.append(QByteArrayView(file.begin(), from)).append(text).append(QByteArrayView(to, file.end()));
+}
+
+bool fitsOneLine(QByteArrayView text) {
+  return std::none_of(text.begin(), text.end(), [](char c) { return profile::isLineEnd(c) || c == '\0'; });
+}
+
+/// Whether a line written for these names could be found again.
+bool canBeFound(QByteArrayView section, QByteArrayView key) {
+  return fitsOneLine(section) && !section.contains(']') && !profile::endsInTab(section) && fitsOneLine(key) &&
+         !key.isEmpty() && !key.contains('=') && !profile::endsInTab(key) && key.front() != ';' && key.front() != '[';
+}
+
+/// What of a key's line is written.
+enum class Part { Value, Line };
+
+std::optional<QByteArray> setPart(QByteArrayView file, QByteArrayView section, QByteArrayView key, QByteArrayView text,
+                                  Part part) {
+  section = profile::askedName(section);
+  key = profile::askedName(key);
+  if (!canBeFound(section, key) || !fitsOneLine(text)) return std::nullopt;
+  const QByteArray lineEnd = firstLineEnd(file);
+  QByteArray added = (part == Part::Value ? key.toByteArray() + '=' : QByteArray()) + text.toByteArray() + lineEnd;
+
+  const char* place = profile::findSection(file, section);
+  if (place) {
+    KeyLines walk(place, file.end());
+    while (const auto line = walk.next()) {
+      if (profile::sameName(line->key, key)) {
+        const char* const from = part == Part::Value ? line->value : line->begin;
+        if (QByteArrayView(from, line->textEnd) == text) return std::nullopt;
+        return replaced(file, from, line->textEnd, text);
+      }
+      place = line->next;
+    }
+  } else {
+    place = file.end();
+    added.prepend('[' + section.toByteArray() + ']' + lineEnd);
+  }
+  const bool openLine = place != file.begin() && !profile::isLineEnd(place[-1]);
+  if (openLine) added.prepend(lineEnd);
+  return replaced(file, place, place, added);
+}
+
+}  // namespace
+
+std::optional<QByteArray> setProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                          QByteArrayView value) {
+  return setPart(file, section, key, value, Part::Value);
+}
+
+std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                         QByteArrayView line) {
+  return setPart(file, section, key, line, Part::Line);
+}
+
+std::optional<QByteArray> removeProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const char* const lines = profile::findSection(file, profile::askedName(section));
+  if (!lines) return std::nullopt;
+  const auto line = KeyLines(lines, file.end()).find(profile::askedName(key));
+  if (!line) return std::nullopt;
+  return replaced(file, line->begin, line->next, {});
+}
+
+}  // namespace platform
