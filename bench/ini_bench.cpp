@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "figures.h"
-#include "support/theme_doubles.h"
+#include "support/panel.h"
 #include "themefiles/ini_access.h"
 
 namespace bench {

@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include <QColor>
 #include <QString>
 
+class QColor;
 class QWidget;
 
 namespace platform {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <QColor>
+
 namespace renderer {
 
 platform::BoxAnswer NoDialogs::messageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include <QColor>
+
 #include "renderer/render_driver.h"
 
 namespace renderer {

@@ -4,7 +4,7 @@
 #include <QTest>
 
 #include "platform/failure.h"
-#include "support/theme_doubles.h"
+#include "support/panel.h"
 
 using namespace Qt::StringLiterals;
 using mainwindows::ConfigFile;

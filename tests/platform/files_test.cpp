@@ -12,7 +12,7 @@
 
 #include "drawing/pictures.h"
 #include "platform/failure.h"
-#include "support/theme_doubles.h"
+#include "support/panel.h"
 
 using namespace platform;
 using namespace Qt::StringLiterals;

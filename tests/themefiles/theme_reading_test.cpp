@@ -1,6 +1,6 @@
 #include <QTest>
 
-#include "support/theme_doubles.h"
+#include "support/panel.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
 #include "themefiles/tag_listing.h"

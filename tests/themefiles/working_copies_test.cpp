@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "platform/failure.h"
-#include "support/theme_doubles.h"
+#include "support/panel.h"
 
 using namespace themefiles;
 using namespace support;

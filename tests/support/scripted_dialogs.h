@@ -2,22 +2,14 @@
 
 #include <deque>
 
-#include "platform/dialogs.h"
-#include "platform/status_line.h"
-#include "support/folder.h"
+#include <QColor>
+#include <QStringList>
 
-// What the rooms work with in tests.
+#include "platform/dialogs.h"
 
 namespace support {
 
-/// Keeps the reports.
-class Panel : public platform::StatusLine {
- public:
-  QStringList texts;
-
- protected:
-  void showReport(const QString& text) override { texts += text; }
-};
+using namespace Qt::StringLiterals;
 
 /// Answers in the order given; without one, as a user who only wants out: No, Cancel.
 class ScriptedDialogs : public platform::Dialogs {
