@@ -1,6 +1,7 @@
 #include <cstdio>
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QHBoxLayout>
 #include <QScrollArea>
 
@@ -28,11 +29,20 @@ int save(QWidget& gallery, const QString& path) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc > 1) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QStringList words;
+  for (int word = 0; word < argc; ++word) words += QString::fromLocal8Bit(argv[word]);
+  QCommandLineParser parser;
+  const bool isRead = parser.parse(words);
+  const QStringList pictures = parser.positionalArguments();
+  if (!isRead || pictures.size() > 1) {
+    std::fputs("usage: cantorama-gallery [PICTURE]\n", stderr);
+    return 2;
+  }
+  if (!pictures.isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
   controls::applyLook(application);
   std::unique_ptr<QWidget> gallery = makeGallery();
-  if (argc > 1) return save(*gallery, application.arguments().at(1));
+  if (!pictures.isEmpty()) return save(*gallery, pictures.constFirst());
   QScrollArea window;
   window.setWindowTitle(QStringLiteral("Gallery of the controls"));
   window.resize(gallery->sizeHint());

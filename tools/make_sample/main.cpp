@@ -1,8 +1,8 @@
 #include <cstdio>
 #include <exception>
 
+#include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QStringList>
 
 #include "pictures/assets.h"
 #include "themes/themes.h"
@@ -24,19 +24,22 @@ void writeGame(const sample::Output& output) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  QCoreApplication application(argc, argv);
-  QStringList arguments = application.arguments().mid(1);
-  const bool assets = arguments.removeAll(QStringLiteral("--assets")) > 0;
-  const bool icons = arguments.removeAll(QStringLiteral("--icons")) > 0;
-  if (arguments.size() != 1) {
+  const QCoreApplication application(argc, argv);
+  const QCommandLineOption assets(QStringLiteral("assets"));
+  const QCommandLineOption icons(QStringLiteral("icons"));
+  QCommandLineParser parser;
+  parser.addOptions({assets, icons});
+  const bool isRead = parser.parse(QCoreApplication::arguments());
+  const QStringList folders = parser.positionalArguments();
+  if (!isRead || folders.size() != 1 || (parser.isSet(assets) && parser.isSet(icons))) {
     std::fputs("usage: make_sample [--assets | --icons] OUTPUT_FOLDER\n", stderr);
     return 2;
   }
   try {
-    const sample::Output output(arguments.front());
-    if (assets) {
+    const sample::Output output(folders.front());
+    if (parser.isSet(assets)) {
       sample::writeAssets(output);
-    } else if (icons) {
+    } else if (parser.isSet(icons)) {
       sample::writeProgramIcons(output);
     } else {
       writeGame(output);

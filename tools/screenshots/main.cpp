@@ -1,6 +1,7 @@
 #include <cstdio>
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QTemporaryDir>
 
@@ -17,8 +18,10 @@
 /// cantorama-screenshots GAME_FOLDER OUTPUT_FOLDER: opens the first theme of the folder and saves the pictures.
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
-  const QStringList arguments = QApplication::arguments();
-  if (arguments.size() != 3 || !QDir().mkpath(arguments[2]) || !QDir(arguments[1]).exists()) {
+  QCommandLineParser parser;
+  const bool isRead = parser.parse(QApplication::arguments());
+  const QStringList folders = parser.positionalArguments();
+  if (!isRead || folders.size() != 2 || !QDir().mkpath(folders[1]) || !QDir(folders[0]).exists()) {
     std::fputs("usage: cantorama-screenshots GAME_FOLDER OUTPUT_FOLDER\n", stderr);
     return 2;
   }
@@ -29,9 +32,9 @@ int main(int argc, char** argv) {
   drawing::Graphics graphics;
   const auto form = mainwindows::makeForm1({state, dialogs, graphics, {platform::programPath(configFolder.path())}});
   try {
-    const QString output = QDir(arguments[2]).absolutePath();
+    const QString output = QDir(folders[1]).absolutePath();
     // The dialog for the game's program file opens there.
-    QDir::setCurrent(arguments[1]);
+    QDir::setCurrent(folders[0]);
     screenshots::Session(*form, output).run();
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "cantorama-screenshots: %s\n", failure.what());
