@@ -20,8 +20,9 @@ QRgb eachChannel(QRgb first, QRgb second, const Rule& rule) {
 
 /// Step i of a ramp of n + 1 colours that reaches its end.
 QRgb rampEntry(QRgb start, QRgb end, qint64 i, qint64 n) {
-  return eachChannel(start, end,
-                     [&](int from, int to) { return n == 0 ? from / 2 + to / 2 : int(from + (to - from) * i / n); });
+  return eachChannel(start, end, [&](int from, int to) {
+    return n == 0 ? from / 2 + to / 2 : static_cast<int>(from + (to - from) * i / n);
+  });
 }
 
 }  // namespace
@@ -35,7 +36,7 @@ void GradientFill(Raster& raster, int left, int top, int right, int bottom, QRgb
   if (shown.isEmpty()) return;
   const qint64 n = across ? area.width() : area.height();
   const auto colorAt = [&](qint64 i) {
-    return eachChannel(first, second, [&](int a, int b) { return int((a * (n - i) + b * i) / n); });
+    return eachChannel(first, second, [&](int a, int b) { return static_cast<int>((a * (n - i) + b * i) / n); });
   };
   if (!across) {
     for (int y = shown.top(); y <= shown.bottom(); ++y) {
@@ -63,15 +64,16 @@ void PaintRamp(Raster& raster, int x, int y, int width, int height, QRgb start, 
   } ramps[] = {
       {1, 1, 0, width, 0},
       {3, 0, 1, height, 0},
-      {5, 1, 1, qint64(width) + height - 1, 0},
-      {6, 1, -1, qint64(width) + height - 1, qint64(height) - 1},
+      {5, 1, 1, static_cast<qint64>(width) + height - 1, 0},
+      {6, 1, -1, static_cast<qint64>(width) + height - 1, static_cast<qint64>(height) - 1},
   };
-  const auto* const ramp = std::ranges::find(ramps, kind, [](const auto& row) { return row.kind; });
+  const auto* const ramp =
+      std::find_if(std::begin(ramps), std::end(ramps), [kind](const auto& row) { return row.kind == kind; });
   if (ramp == std::end(ramps)) {
     return raster.FillRect(shown.left(), shown.top(), shown.right() + 1, shown.bottom() + 1, Black);
   }
   const auto place = [&](int column, int row) {
-    return ramp->first + (qint64(column) - x) * ramp->right + (qint64(row) - y) * ramp->down;
+    return ramp->first + (static_cast<qint64>(column) - x) * ramp->right + (static_cast<qint64>(row) - y) * ramp->down;
   };
   const qint64 lowest = std::min(place(shown.left(), shown.top()), place(shown.left(), shown.bottom()));
   const qint64 highest = std::max(place(shown.right(), shown.top()), place(shown.right(), shown.bottom()));
@@ -80,7 +82,7 @@ void PaintRamp(Raster& raster, int x, int y, int width, int height, QRgb start, 
   for (int row = shown.top(); row <= shown.bottom(); ++row) {
     QRgb* const pixels = raster.pixelRow(row);
     for (int column = shown.left(); column <= shown.right(); ++column) {
-      pixels[column] = colors[std::size_t(place(column, row) - lowest)];
+      pixels[column] = colors[place(column, row) - lowest];
     }
   }
 }

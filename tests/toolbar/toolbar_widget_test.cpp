@@ -98,7 +98,11 @@ class WidgetTest : public QObject {
       QTest::mouseClick(&popup, Qt::LeftButton, {}, {40, 5});
       QCOMPARE(numbers(form.clicks), QStringLiteral("4"));
       QVERIFY(popup.isVisible());
-      moved ? form.form.move(form.form.pos() + QPoint(10, 10)) : other.setFocus();
+      if (moved) {
+        form.form.move(form.form.pos() + QPoint(10, 10));
+      } else {
+        other.setFocus();
+      }
       QVERIFY2(QTest::qWaitFor([&popup] { return !popup.isVisible(); }), moved ? "moved" : "focus lost");
     }
   }

@@ -19,7 +19,12 @@ class BitWriter {
  public:
   void put(int code, int width) {
     pending_ |= static_cast<unsigned>(code) << count_;
-    for (count_ += width; count_ >= 8; count_ -= 8, pending_ >>= 8) bytes_.append(static_cast<char>(pending_ & 255U));
+    count_ += width;
+    while (count_ >= 8) {
+      bytes_.append(static_cast<char>(pending_ & 255U));
+      pending_ >>= 8;
+      count_ -= 8;
+    }
   }
   QByteArray finish() {
     if (count_ > 0) bytes_.append(static_cast<char>(pending_ & 255U));
