@@ -49,11 +49,15 @@ bool isWholeBmp(QByteArrayView bytes) {
   const quint32 header = cursor.little32();
   if (std::find(std::begin(HeaderSizes), std::end(HeaderSizes), header) == std::end(HeaderSizes)) return false;
   const bool old = header == OldHeaderSize;
-  const qint64 width = old ? qint16(cursor.little16()) : qint32(cursor.little32());
-  const qint64 height = std::abs(old ? qint64(qint16(cursor.little16())) : qint64(qint32(cursor.little32())));
+  const auto side = [&]() -> qint64 {
+    if (old) return static_cast<qint16>(cursor.little16());
+    return static_cast<qint32>(cursor.little32());
+  };
+  const qint64 width = side();
+  const qint64 height = std::abs(side());
   cursor.skip(2);
   const qint64 bits = cursor.little16();
-  const quint32 compression = old ? quint32(Plain) : cursor.little32();
+  const quint32 compression = old ? static_cast<quint32>(Plain) : cursor.little32();
   cursor.skip(old ? 0 : 12);
   const quint32 listed = old ? 0 : cursor.little32();
   if (!cursor.inside() || width <= 0 || height <= 0) return false;

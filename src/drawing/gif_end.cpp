@@ -36,7 +36,7 @@ class CodeTable {
       clear();
       return 0;
     }
-    if (previous_ >= 0 && next_ < int(lengths_.size())) lengths_[std::size_t(next_++)] = lengthOf(previous_) + 1;
+    if (previous_ >= 0 && next_ < std::ssize(lengths_)) lengths_[next_++] = lengthOf(previous_) + 1;
     if (code == clear_ + 1 || code >= next_) return std::nullopt;
     if (next_ == 1 << bits_ && bits_ < LargestCodeBits) ++bits_;
     previous_ = code;
@@ -49,7 +49,7 @@ class CodeTable {
     next_ = clear_ + 2;
     previous_ = -1;
   }
-  qint64 lengthOf(int code) const { return code < clear_ ? 1 : lengths_[std::size_t(code)]; }
+  qint64 lengthOf(int code) const { return code < clear_ ? 1 : lengths_[code]; }
 
   int rootBits_;
   int clear_;
@@ -66,11 +66,11 @@ bool codesFill(const QByteArray& data, int rootBits, qint64 wanted) {
   quint32 buffer = 0;
   int buffered = 0;
   for (const char byte : data) {
-    buffer |= quint32(quint8(byte)) << buffered;
+    buffer |= static_cast<quint32>(static_cast<uchar>(byte)) << buffered;
     buffered += 8;
     while (buffered >= table.bits()) {
       const int bits = table.bits();
-      const auto pixels = table.pixelsOf(int(buffer & ((1U << bits) - 1)));
+      const auto pixels = table.pixelsOf(static_cast<int>(buffer & ((1U << bits) - 1)));
       if (!pixels) return false;
       buffer >>= bits;
       buffered -= bits;

@@ -30,8 +30,8 @@ struct Head {
 std::optional<Head> readHead(platform::ByteCursor& cursor) {
   Head head;
   if (cursor.little32() != BitmapHeaderSize) return std::nullopt;
-  head.width = int(cursor.little32());
-  const int bothHeights = int(cursor.little32());
+  head.width = static_cast<int>(cursor.little32());
+  const int bothHeights = static_cast<int>(cursor.little32());
   head.height = bothHeights / 2;
   cursor.skip(2);
   head.bits = cursor.little16();
@@ -43,13 +43,13 @@ std::optional<Head> readHead(platform::ByteCursor& cursor) {
                     bothHeights % 2 == 0 && compression == 0 && colors <= MostColors && cursor.inside();
   constexpr int Depths[] = {1, 4, 8, 24, 32};
   if (!fits || std::find(std::begin(Depths), std::end(Depths), head.bits) == std::end(Depths)) return std::nullopt;
-  if (head.bits <= 8) head.colors = colors != 0 ? int(colors) : 1 << head.bits;
+  if (head.bits <= 8) head.colors = colors != 0 ? static_cast<int>(colors) : 1 << head.bits;
   return head;
 }
 
 uint indexAt(QByteArrayView row, int x, int bits) {
   const int perByte = 8 / bits;
-  const auto byte = uchar(row[x / perByte]);
+  const auto byte = static_cast<uchar>(row[x / perByte]);
   return byte >> (8 - bits * (x % perByte + 1)) & ((1U << bits) - 1);
 }
 
@@ -75,22 +75,23 @@ std::vector<QRgb> colorsOf(const QImage& picture) {
 }
 
 QByteArray colorRows(const QImage& picture, const std::vector<QRgb>& palette) {
-  QByteArray rows(qsizetype(bytesPerRow(picture.width(), 8)) * picture.height(), '\0');
+  QByteArray rows(bytesPerRow(picture.width(), 8) * picture.height(), '\0');
   char* row = rows.data();
   for (int y = picture.height(); y-- > 0; row += bytesPerRow(picture.width(), 8)) {
     for (int x = 0; x < picture.width(); ++x) {
-      row[x] = char(std::lower_bound(palette.begin(), palette.end(), picture.pixel(x, y)) - palette.begin());
+      row[x] =
+          static_cast<char>(std::lower_bound(palette.begin(), palette.end(), picture.pixel(x, y)) - palette.begin());
     }
   }
   return rows;
 }
 
 QByteArray maskRows(const QImage& mask) {
-  QByteArray rows(qsizetype(bytesPerRow(mask.width(), 1)) * mask.height(), '\0');
+  QByteArray rows(bytesPerRow(mask.width(), 1) * mask.height(), '\0');
   char* row = rows.data();
   for (int y = mask.height(); y-- > 0; row += bytesPerRow(mask.width(), 1)) {
     for (int x = 0; x < mask.width(); ++x) {
-      if (mask.pixel(x, y) == White) row[x / 8] = char(uchar(row[x / 8]) | 0x80U >> x % 8);
+      if (mask.pixel(x, y) == White) row[x / 8] = static_cast<char>(static_cast<uchar>(row[x / 8]) | 0x80U >> x % 8);
     }
   }
   return rows;
@@ -108,7 +109,7 @@ std::optional<IconBitmaps> readIcon(QByteArrayView file) {
   const std::optional<Head> head = readHead(cursor);
   if (!head) return std::nullopt;
   std::vector<QRgb> palette;
-  palette.reserve(size_t(head->colors));
+  palette.reserve(head->colors);
   for (int i = 0; i < head->colors; ++i) palette.push_back(Black | (cursor.little32() & RGB_MASK));
   const qint64 colorSize = bytesPerRow(head->width, head->bits);
   const qint64 maskSize = bytesPerRow(head->width, 1);
@@ -119,8 +120,8 @@ std::optional<IconBitmaps> readIcon(QByteArrayView file) {
   IconBitmaps icon{QImage(size, QImage::Format_RGB32), QImage(size, QImage::Format_RGB32)};
   for (int y = 0; y < head->height; ++y) {
     const int stored = head->height - 1 - y;  // the bottom row comes first
-    const QByteArrayView colorRow = colors.sliced(qsizetype(stored * colorSize), qsizetype(colorSize));
-    const QByteArrayView maskRow = masks.sliced(qsizetype(stored * maskSize), qsizetype(maskSize));
+    const QByteArrayView colorRow = colors.sliced(stored * colorSize, colorSize);
+    const QByteArrayView maskRow = masks.sliced(stored * maskSize, maskSize);
     for (int x = 0; x < head->width; ++x) {
       const bool isClear = indexAt(maskRow, x, 1) != 0;
       icon.mask.setPixel(x, y, isClear ? White : Black);
@@ -152,19 +153,18 @@ std::optional<QByteArray> writeIcon(const QImage& picture) {
   const QByteArray pixels = colorRows(icon.Color, palette) + maskRows(icon.mask);
   palette.resize(MostColors, Black);
   QByteArray file;
-  for (const int number : {0, 1, 1}) platform::appendLittle<quint16>(file, quint16(number));  // an icon, one image
-  for (const int number : {picture.width(), picture.height(), 0, 0})
-    platform::appendLittle<quint8>(file, quint8(number));
-  for (const int number : {1, 8}) platform::appendLittle<quint16>(file, quint16(number));  // planes, bits
-  platform::appendLittle<quint32>(file, quint32(BitmapHeaderSize + 4 * MostColors + pixels.size()));
-  platform::appendLittle<quint32>(file, quint32(EntryPlace + EntrySize));
+  for (const int number : {0, 1, 1}) platform::appendLittle<quint16>(file, number);  // an icon, one image
+  for (const int number : {picture.width(), picture.height(), 0, 0}) platform::appendLittle<quint8>(file, number);
+  for (const int number : {1, 8}) platform::appendLittle<quint16>(file, number);  // planes, bits
+  platform::appendLittle<quint32>(file, BitmapHeaderSize + 4 * MostColors + pixels.size());
+  platform::appendLittle<quint32>(file, EntryPlace + EntrySize);
   platform::appendLittle<quint32>(file, BitmapHeaderSize);
   platform::appendLittle<qint32>(file, picture.width());
   platform::appendLittle<qint32>(file, 2 * picture.height());
-  for (const int number : {1, 8}) platform::appendLittle<quint16>(file, quint16(number));
+  for (const int number : {1, 8}) platform::appendLittle<quint16>(file, number);
   platform::appendLittle<quint32>(file, 0);  // uncompressed
-  platform::appendLittle<quint32>(file, quint32(pixels.size()));
-  for (const int number : {0, 0, 0, 0}) platform::appendLittle<quint32>(file, quint32(number));
+  platform::appendLittle<quint32>(file, pixels.size());
+  for (const int number : {0, 0, 0, 0}) platform::appendLittle<quint32>(file, number);
   for (const QRgb color : palette) platform::appendLittle<quint32>(file, color & RGB_MASK);
   return file + pixels;
 }

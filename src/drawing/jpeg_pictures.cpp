@@ -60,14 +60,15 @@ class Decoder {
     state_.progress = &progress_;
     jpeg_mem_src(&state_, reinterpret_cast<const uchar*>(bytes.data()), static_cast<unsigned long>(bytes.size()));
     jpeg_read_header(&state_, TRUE);
-    if (qint64(state_.image_width) * state_.image_height > largest) return false;
+    if (static_cast<qint64>(state_.image_width) * state_.image_height > largest) return false;
     const bool ofPrint = state_.num_components == 4;
     state_.out_color_space = ofPrint ? JCS_CMYK : Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? JCS_EXT_BGRA : JCS_EXT_ARGB;
     jpeg_start_decompress(&state_);
-    picture_ = QImage(int(state_.output_width), int(state_.output_height), QImage::Format_ARGB32);
+    picture_ =
+        QImage(static_cast<int>(state_.output_width), static_cast<int>(state_.output_height), QImage::Format_ARGB32);
     if (picture_.isNull()) return false;
     while (state_.output_scanline < state_.output_height) {
-      uchar* row = picture_.scanLine(int(state_.output_scanline));
+      uchar* row = picture_.scanLine(static_cast<int>(state_.output_scanline));
       jpeg_read_scanlines(&state_, &row, 1);
       if (ofPrint) colorsOfPrint(reinterpret_cast<QRgb*>(row));
     }

@@ -12,7 +12,7 @@ bool isWholePng(QByteArrayView bytes) {
   while (cursor.inside()) {
     const quint32 size = cursor.big32();
     const quint32 name = cursor.big32();
-    cursor.skip(qint64(size) + Checksum);
+    cursor.skip(static_cast<qint64>(size) + Checksum);
     if (name == EndChunk) return cursor.inside();
   }
   return false;

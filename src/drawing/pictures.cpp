@@ -19,7 +19,7 @@ namespace {
 /// The largest picture that is decoded, and the largest file that is read for one: 256 MB, as 32-bit pixels and on
 /// disk.
 constexpr int LargestMegabytes = 256;
-constexpr qint64 LargestBytes = qint64(LargestMegabytes) * 1024 * 1024;
+constexpr qint64 LargestBytes = static_cast<qint64>(LargestMegabytes) * 1024 * 1024;
 constexpr qint64 LargestPixels = LargestBytes / 4;
 
 struct Kind {
@@ -63,7 +63,8 @@ QImage decodePicture(QByteArrayView bytes) {
   reader.setAutoDetectImageFormat(false);
   reader.setAutoTransform(false);
   const QSize size = reader.size();
-  if (std::abs(qint64(size.width()) * size.height()) > LargestPixels) return {};  // rows from top down: below 0
+  // The height is below 0 where the rows run from top to bottom.
+  if (std::abs(static_cast<qint64>(size.width()) * size.height()) > LargestPixels) return {};
   QImage picture = reader.read();
   if (picture.isNull()) return {};
   picture.setColorSpace({});

@@ -30,11 +30,12 @@ void Raster::setPixel(int x, int y, QRgb color) {
 void Raster::Line(int x1, int y1, int x2, int y2, QRgb color) {
   if (y1 == y2) return fill(QRect(QPoint(x2 < x1 ? x2 + 1 : x1, y1), QPoint(x2 < x1 ? x1 : x2 - 1, y1)), color);
   if (x1 == x2) return fill(QRect(QPoint(x1, y2 < y1 ? y2 + 1 : y1), QPoint(x1, y2 < y1 ? y1 : y2 - 1)), color);
-  const double width = double(x2) - x1;
-  const double height = double(y2) - y1;
+  const double width = static_cast<double>(x2) - x1;
+  const double height = static_cast<double>(y2) - y1;
   const double steps = std::max(std::abs(width), std::abs(height));
   for (double i = 0; i < steps; ++i) {
-    setPixel(int(std::lrint(x1 + i * width / steps)), int(std::lrint(y1 + i * height / steps)), color);
+    setPixel(static_cast<int>(std::lrint(x1 + i * width / steps)),
+             static_cast<int>(std::lrint(y1 + i * height / steps)), color);
   }
 }
 

@@ -33,13 +33,13 @@ QRect rectangleOf(int left, int top, int right, int bottom) {
 }
 
 RoundedBox::RoundedBox(const QRect& edges, int diameter) : edges_(edges) {
-  const qint64 wanted = std::abs(qint64(diameter));
-  const auto within = [wanted](int side) { return int(std::min<qint64>(wanted, side)); };
+  const qint64 wanted = std::abs(static_cast<qint64>(diameter));
+  const auto within = [wanted](int side) { return static_cast<int>(std::min<qint64>(wanted, side)); };
   if (!edges.isEmpty()) insets_ = cornerInsets(within(edges.width()), within(edges.height()));
 }
 
 int RoundedBox::inset(int y) const {
-  const std::size_t row = std::size_t(std::min(y - edges_.top(), edges_.bottom() - y));
+  const auto row = static_cast<std::size_t>(std::min(y - edges_.top(), edges_.bottom() - y));
   return row < insets_.size() ? insets_[row] : 0;
 }
 

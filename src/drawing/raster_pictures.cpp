@@ -12,7 +12,7 @@ namespace {
 constexpr int BytesPerPixel = 3;
 
 qsizetype rowLength(int width) {
-  return qsizetype(bytesPerRow(width, qint64(8) * BytesPerPixel));
+  return bytesPerRow(width, 8 * BytesPerPixel);
 }
 
 QRgb combined(QRgb ground, QRgb pixel, RasterOperation operation) {
@@ -37,9 +37,11 @@ PixelRows GetDIBits(const QImage& bitmap) {
     for (int x = 0; x < rows.Width; ++x) {
       const QRgb pixel = pixels.pixel(x, y);
       const QRgb color = qAlpha(pixel) == 0 ? 0 : pixel;
-      rows.bytes.append(char(qBlue(color))).append(char(qGreen(color))).append(char(qRed(color)));
+      rows.bytes.append(static_cast<char>(qBlue(color)))
+          .append(static_cast<char>(qGreen(color)))
+          .append(static_cast<char>(qRed(color)));
     }
-    rows.bytes.append(rowLength(rows.Width) - qsizetype(BytesPerPixel) * rows.Width, '\0');
+    rows.bytes.append(rowLength(rows.Width) - static_cast<qsizetype>(BytesPerPixel) * rows.Width, '\0');
   }
   return rows;
 }
@@ -50,12 +52,14 @@ void StretchDIBits(Raster& raster, int x, int y, int width, int height, const Pi
   const qsizetype length = rowLength(rows.Width);
   if (width < 1 || height < 1 || rows.bytes.size() < length * rows.Height || rows.bytes.isEmpty()) return;
   for (int row = shown.top(); row <= shown.bottom(); ++row) {
-    const qint64 line = rows.Height - 1 - (qint64(row) - y) * rows.Height / height;
+    const qint64 line = rows.Height - 1 - (static_cast<qint64>(row) - y) * rows.Height / height;
     const char* const source = rows.bytes.constData() + line * length;
     QRgb* const pixels = raster.pixelRow(row);
     for (int column = shown.left(); column <= shown.right(); ++column) {
-      const char* const bytes = source + (qint64(column) - x) * rows.Width / width * BytesPerPixel;
-      pixels[column] = combined(pixels[column], qRgb(quint8(bytes[2]), quint8(bytes[1]), quint8(bytes[0])), operation);
+      const char* const bytes = source + (static_cast<qint64>(column) - x) * rows.Width / width * BytesPerPixel;
+      pixels[column] = combined(
+          pixels[column],
+          qRgb(static_cast<quint8>(bytes[2]), static_cast<quint8>(bytes[1]), static_cast<quint8>(bytes[0])), operation);
     }
   }
 }

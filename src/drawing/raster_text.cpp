@@ -9,7 +9,7 @@ namespace drawing {
 namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72;
-constexpr int LargestPixels = int(LargestPoints * 96 / 72);
+constexpr int LargestPixels = static_cast<int>(LargestPoints * 96 / 72);
 
 /// The font in pixels, in grey steps.
 QFont onPixels(const QFont& font) {

@@ -17,7 +17,7 @@ constexpr float StartPoints = 8.25F;
 
 QFont fontOf(const QString& face, float points) {
   QFont font = faceFont(face);
-  font.setPointSizeF(double(points));
+  font.setPointSizeF(points);
   return font;
 }
 
@@ -64,7 +64,7 @@ void Surface::SetFontName(const QString& face) {
 
 void Surface::SetFontSize(float points) {
   if (!(points > 0)) return;
-  const float size = std::min(points, float(LargestPoints));
+  const float size = std::min(points, static_cast<float>(LargestPoints));
   if (size != fontSize_) font_.reset();
   fontSize_ = size;
 }
@@ -92,7 +92,7 @@ double Surface::TextHeight(const QString&) const {
 
 void Surface::Print(const QString& text) {
   const QFontMetricsF metrics(font(), &image_);
-  const QPointF baseline(double(CurrentX), double(CurrentY) + metrics.ascent());
+  const QPointF baseline(CurrentX, static_cast<double>(CurrentY) + metrics.ascent());
   // A pixel more on each side, for the soft edges.
   const QRectF ink = metrics.boundingRect(text).translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
   if (ink.isEmpty()) return;

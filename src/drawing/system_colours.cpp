@@ -45,11 +45,12 @@ QColor colorOf(quint32 value) {
     const std::size_t index = value & 0xFF;
     return index < Palette.size() ? QColor(Palette.at(index)) : QColor(0, 0, 0);
   }
-  return QColor(int(value & 0xFF), int(value >> 8 & 0xFF), int(value >> 16 & 0xFF));
+  const auto channel = [value](int shift) { return static_cast<int>(value >> shift & 0xFF); };
+  return QColor(channel(0), channel(8), channel(16));
 }
 
 quint32 colorValue(const QColor& color) {
-  return quint32(color.red()) | quint32(color.green()) << 8 | quint32(color.blue()) << 16;
+  return color.red() | color.green() << 8 | color.blue() << 16;
 }
 
 }  // namespace drawing

@@ -30,8 +30,8 @@ class ByteCursor {
   template <typename Number>
   Number number(Number (*read)(const void*)) {
     const qint64 from = at_;
-    at_ += qint64(sizeof(Number));
-    return inside() ? read(bytes_.data() + from) : Number(0);
+    at_ += static_cast<qint64>(sizeof(Number));
+    return inside() ? read(bytes_.data() + from) : Number{};
   }
 
   QByteArrayView bytes_;

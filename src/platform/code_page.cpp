@@ -18,7 +18,7 @@ constexpr int FirstOfTable = 0x80;
 
 constexpr char16_t letterOf(unsigned char byte) {
   const int place = byte - FirstOfTable;
-  return place >= 0 && place < int(UpperControls.size()) ? UpperControls[std::size_t(place)] : char16_t(byte);
+  return place >= 0 && place < std::ssize(UpperControls) ? UpperControls[place] : static_cast<char16_t>(byte);
 }
 
 constexpr unsigned char upperByte(unsigned char byte) {

@@ -16,7 +16,7 @@ qint64 lastWritten(const struct stat& status) {
 #else
   const timespec& time = status.st_mtim;
 #endif
-  return qint64(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+  return static_cast<qint64>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
 /// A regular file that is open, and its size.
@@ -46,7 +46,7 @@ std::optional<FileError> openRegular(const QString& native, AtLink atLink, Regul
   if (error) {
     ::close(file);
   } else {
-    open = {file, qsizetype(status.st_size)};
+    open = {file, static_cast<qsizetype>(status.st_size)};
   }
   return error;
 }
@@ -56,7 +56,7 @@ int readToEnd(const RegularFile& open, QByteArray& bytes) {
   qsizetype filled = 0;
   bytes = QByteArray(open.size + 1, Qt::Uninitialized);
   for (;;) {
-    const ssize_t got = ::read(open.file, bytes.data() + filled, std::size_t(bytes.size() - filled));
+    const ssize_t got = ::read(open.file, bytes.data() + filled, bytes.size() - filled);
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) return errno;
     filled += got;

@@ -13,7 +13,7 @@ namespace {
 
 qint64 nanosecondsOf(const timespec& time) {
   constexpr qint64 Second = 1'000'000'000;
-  return qint64(time.tv_sec) * Second + time.tv_nsec;
+  return static_cast<qint64>(time.tv_sec) * Second + time.tv_nsec;
 }
 
 bool look(const QString& native, struct stat& status) {
@@ -34,8 +34,8 @@ std::optional<FileIdentity> identityOf(const QString& path) {
   const timespec modified = status.st_mtim;
   const timespec changed = status.st_ctim;
 #endif
-  return FileIdentity{quint64(status.st_dev), quint64(status.st_ino), qint64(status.st_size), nanosecondsOf(modified),
-                      nanosecondsOf(changed)};
+  return FileIdentity{static_cast<quint64>(status.st_dev), static_cast<quint64>(status.st_ino),
+                      static_cast<qint64>(status.st_size), nanosecondsOf(modified), nanosecondsOf(changed)};
 }
 
 bool isSettled(const FileIdentity& file) {

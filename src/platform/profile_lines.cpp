@@ -66,7 +66,7 @@ const char* findSection(QByteArrayView file, QByteArrayView name) {
   if (std::any_of(name.begin(), name.end(), [](char c) { return c == ']' || isLineEnd(c); })) return nullptr;
   if (endsInTab(name)) return nullptr;
   for (const char* at = file.begin(); at != end;) {
-    const auto* bracket = static_cast<const char*>(std::memchr(at, '[', static_cast<std::size_t>(end - at)));
+    const auto* bracket = static_cast<const char*>(std::memchr(at, '[', end - at));
     if (!bracket) return nullptr;
     at = bracket + 1;
     while (at != end && isBlank(*at)) ++at;

@@ -19,7 +19,7 @@ constexpr char TemporaryEnding[] = ".unfinished";
 
 int writeAll(int file, QByteArrayView bytes) {
   while (!bytes.isEmpty()) {
-    const ssize_t put = ::write(file, bytes.data(), std::size_t(bytes.size()));
+    const ssize_t put = ::write(file, bytes.data(), bytes.size());
     if (put < 0 && errno == EINTR) continue;
     if (put < 0) return errno;
     bytes = bytes.sliced(put);
@@ -38,7 +38,7 @@ int followLinks(QByteArray& path) {
   constexpr int LongestChain = 40;
   for (int i = 0; i < LongestChain; ++i) {
     QByteArray behind(4096, Qt::Uninitialized);
-    const ssize_t length = ::readlink(path.constData(), behind.data(), std::size_t(behind.size()));
+    const ssize_t length = ::readlink(path.constData(), behind.data(), behind.size());
     // No link, or nothing.
     if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
     behind.truncate(length);
@@ -63,7 +63,7 @@ int keepOwnerAndMode(int file, const struct stat& old) {
   if (error != 0) return error;
   if (fresh.st_uid != old.st_uid) error = errorNumber(::fchown(file, old.st_uid, old.st_gid));
   if (refused(error) || (fresh.st_uid == old.st_uid && fresh.st_gid != old.st_gid)) {
-    error = errorNumber(::fchown(file, uid_t(-1), old.st_gid));
+    error = errorNumber(::fchown(file, static_cast<uid_t>(-1), old.st_gid));
   }
   if (error != 0 && !refused(error)) return error;
   return errorNumber(::fchmod(file, old.st_mode & 07777));

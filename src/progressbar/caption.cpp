@@ -55,13 +55,14 @@ QString captionText(const Properties& bar, double percent) {
 std::optional<QPoint> captionPlace(int alignment, const QSize& bar, const QSize& caption) {
   if (alignment < 1 || alignment > LastAlignment) return std::nullopt;
   const auto centred = [](int outer, int inner) { return outer / 2.0 - inner / 2.0 - 1; };
-  const double columns[] = {1, centred(bar.width(), caption.width()), double(bar.width()) - caption.width() - 3};
-  const double rows[] = {0, centred(bar.height(), caption.height()), double(bar.height()) - caption.height() - 1};
-  return QPoint(int(std::lrint(columns[(alignment - 1) / Rows])), int(std::lrint(rows[(alignment - 1) % Rows])));
+  const double columns[] = {1, centred(bar.width(), caption.width()), bar.width() - 3.0 - caption.width()};
+  const double rows[] = {0, centred(bar.height(), caption.height()), bar.height() - 1.0 - caption.height()};
+  const QPointF place(columns[(alignment - 1) / Rows], rows[(alignment - 1) % Rows]);
+  return QPoint(static_cast<int>(std::lrint(place.x())), static_cast<int>(std::lrint(place.y())));
 }
 
 void paintCaption(drawing::Raster& raster, const Properties& bar, const QString& text) {
-  if (text.isEmpty() || bar.TextEffect < 1 || bar.TextEffect > int(std::size(Effects))) return;
+  if (text.isEmpty() || bar.TextEffect < 1 || bar.TextEffect > std::ssize(Effects)) return;
   drawing::TextPen pen(raster, drawing::drawnFont(bar.TextFont));
   const std::optional<QPoint> place = captionPlace(bar.TextAlignment, raster.rect().size(), pen.sizeOf(text));
   if (!place) return;

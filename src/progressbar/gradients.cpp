@@ -10,12 +10,15 @@ namespace {
 
 /// The colour of a colour value's three channels; no system colours here.
 QRgb pixelOf(quint32 color) {
-  return qRgb(int(color & 0xFF), int(color >> 8 & 0xFF), int(color >> 16 & 0xFF));
+  const auto channel = [color](int shift) { return static_cast<int>(color >> shift & 0xFF); };
+  return qRgb(channel(0), channel(8), channel(16));
 }
 
 /// Step i of n from the first colour to the last.
 QRgb stepOf(QRgb first, QRgb last, int i, int n) {
-  const auto channel = [&](int from, int to) { return int(std::lrint(from + i * (double(to - from) / n))); };
+  const auto channel = [&](int from, int to) {
+    return static_cast<int>(std::lrint(from + i * ((to - from) / static_cast<double>(n))));
+  };
   return qRgb(channel(qRed(first), qRed(last)), channel(qGreen(first), qGreen(last)),
               channel(qBlue(first), qBlue(last)));
 }
@@ -26,7 +29,7 @@ void GradientTwoColour(drawing::Raster& surface, int Direction, quint32 StartCol
                        int Width, int Height) {
   if (Direction != 0 && Direction != 1) return;
   drawing::GradientFill(surface, Left, Top, Width, Height, pixelOf(StartColor), pixelOf(EndColor),
-                        drawing::Direction(Direction));
+                        static_cast<drawing::Direction>(Direction));
 }
 
 void DrawGradientFourColour(drawing::Raster& surface, int Left, int Top, int Width, int Height, quint32 TopLeftColour,

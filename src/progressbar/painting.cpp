@@ -22,7 +22,7 @@ struct Sheet {
 };
 
 int rounded(double number) {
-  return int(std::lrint(number));
+  return static_cast<int>(std::lrint(number));
 }
 
 void clear(const Sheet& sheet) {

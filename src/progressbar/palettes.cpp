@@ -9,7 +9,7 @@ namespace progressbar {
 namespace {
 
 constexpr int CustomTheme = 10;
-constexpr int Brightest = 255;
+constexpr quint32 Brightest = 255;
 
 constexpr quint32 rgb(quint32 red, quint32 green, quint32 blue) {
   return red | green << 8 | blue << 16;
@@ -73,8 +73,8 @@ constexpr Palette Palettes[] = {
      rgb(188, 184, 188)},
 };
 
-quint32 lighter(quint32 color, int by) {
-  const auto channel = [&](int shift) { return quint32(std::min(int(color >> shift & 0xFF) + by, Brightest)); };
+quint32 lighter(quint32 color, quint32 by) {
+  const auto channel = [&](int shift) { return std::min((color >> shift & 0xFF) + by, Brightest); };
   return rgb(channel(0), channel(8), channel(16));
 }
 
@@ -89,7 +89,7 @@ Band fullBand(quint32 color) {
 }  // namespace
 
 void loadPalette(Palette& palette, const Properties& bar) {
-  if (bar.Theme >= 1 && bar.Theme <= int(std::size(Palettes))) {
+  if (bar.Theme >= 1 && bar.Theme <= std::ssize(Palettes)) {
     palette = Palettes[bar.Theme - 1];
   } else if (bar.Theme == CustomTheme) {
     const quint32 filled = bar.PBSCustomeColor1;
@@ -101,10 +101,10 @@ void loadPalette(Palette& palette, const Properties& bar) {
 quint32 greyOf(quint32 color) {
   // Green and blue keep the lower channels as their fractions, so that white comes out above the brightest level.
   const double red = color % 0x100;
-  const double green = std::nearbyint(color % 0x10000 / double(0x100));
-  const double blue = std::nearbyint(color / double(0x10000));
-  const double level = std::min(std::nearbyint((red + green + blue) / 3), double(Brightest));
-  return rgb(quint32(level), quint32(level), quint32(level));
+  const double green = std::nearbyint(color % 0x10000 / 256.0);
+  const double blue = std::nearbyint(color / 65536.0);
+  const auto level = static_cast<quint32>(std::min<double>(std::nearbyint((red + green + blue) / 3), Brightest));
+  return rgb(level, level, level);
 }
 
 Palette greyOf(const Palette& palette) {

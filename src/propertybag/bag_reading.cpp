@@ -56,7 +56,7 @@ QVariant font(Reader& reader) {
   QFont font;
   font.setFamilies({name});
   font.setPointSizeF(size / bag::SizesPerPoint);
-  font.setWeight(QFont::Weight(weight));
+  font.setWeight(static_cast<QFont::Weight>(weight));
   return font;
 }
 
@@ -116,8 +116,8 @@ bool readRecord(QByteArrayView records, qsizetype& from, PropertyBag& bag) {
 PropertyBag readBag(QByteArrayView bytes) {
   Reader reader(bytes);
   require(reader.take(3) == QByteArrayView(bag::Mark) && reader.number<quint16>() == bag::Version);
-  const qsizetype following = bytes.size() - bag::Uncounted;
-  for (const quint32 expected : {quint32(following), bag::Magic, quint32(following)}) {
+  const auto following = static_cast<quint32>(bytes.size() - bag::Uncounted);
+  for (const quint32 expected : {following, bag::Magic, following}) {
     require(reader.number<quint32>() == expected);
   }
   const QByteArrayView records = bytes.sliced(reader.at());

@@ -31,16 +31,16 @@ QByteArray fontBytes(const QString& key, const QFont& font) {
   platform::appendLittle<quint8>(bytes, bag::FontVersion);
   platform::appendLittle<quint16>(bytes, 0);  // character set
   platform::appendLittle<quint8>(bytes, 0);   // flags
-  platform::appendLittle<quint16>(bytes, quint16(font.weight()));
-  platform::appendLittle<quint32>(bytes, quint32(qRound64(points * bag::SizesPerPoint)));
-  platform::appendLittle<quint8>(bytes, quint8(name->size()));
+  platform::appendLittle<quint16>(bytes, font.weight());
+  platform::appendLittle<quint32>(bytes, qRound64(points * bag::SizesPerPoint));
+  platform::appendLittle<quint8>(bytes, name->size());
   return bytes + *name;
 }
 
 QByteArray pictureBytes(const QByteArray& file) {
   QByteArray bytes(bag::PictureClass, bag::ClassSize);
   platform::appendLittle<quint32>(bytes, bag::PictureMark);
-  platform::appendLittle<quint32>(bytes, quint32(file.size()));
+  platform::appendLittle<quint32>(bytes, file.size());
   return bytes + file;
 }
 
@@ -66,7 +66,7 @@ StoredValue storedValue(const PropertyBag::Record& record) {
       platform::appendLittle<qint16>(bytes, value.toBool() ? bag::StoredTrue : 0);
       return {bag::BooleanTag, bytes};
     case QMetaType::QString:
-      platform::appendLittle<quint32>(bytes, quint32(value.toString().size()));
+      platform::appendLittle<quint32>(bytes, value.toString().size());
       appendText(bytes, value.toString());
       return {bag::StringTag, bytes};
     case QMetaType::QFont:
@@ -86,9 +86,9 @@ QByteArray storedRecord(const PropertyBag::Record& record) {
   const qsizetype padding = (bag::Alignment - bare % bag::Alignment) % bag::Alignment;
   QByteArray bytes;
   platform::appendLittle<quint16>(bytes, tag);
-  platform::appendLittle<quint16>(bytes, quint16(key.size()));
+  platform::appendLittle<quint16>(bytes, key.size());
   platform::appendLittle<quint32>(bytes, nameHash(key));
-  platform::appendLittle<qint32>(bytes, qint32(bare + padding));
+  platform::appendLittle<qint32>(bytes, static_cast<qint32>(bare + padding));
   appendText(bytes, key);
   return bytes + value + QByteArray(padding, '\0');
 }
@@ -103,8 +103,8 @@ QByteArray storedBytes(const PropertyBag& bag) {
     records += storedRecord(record);
   }
   constexpr qsizetype DistancePlace = 8;
-  if (!records.isEmpty()) qToLittleEndian(qint32(-last), records.data() + last + DistancePlace);
-  const auto following = quint32(records.size() + bag::HeaderSize - bag::Uncounted);
+  if (!records.isEmpty()) qToLittleEndian(static_cast<qint32>(-last), records.data() + last + DistancePlace);
+  const auto following = static_cast<quint32>(records.size() + bag::HeaderSize - bag::Uncounted);
   QByteArray bytes(bag::Mark);
   platform::appendLittle(bytes, bag::Version);
   platform::appendLittle(bytes, following);

@@ -11,11 +11,11 @@ constexpr QStringView ExtentX = u"_extentx";
 constexpr QStringView ExtentY = u"_extenty";
 
 int toExtent(int pixels) {
-  return int(std::lround(pixels * ExtentsPerPixel));
+  return static_cast<int>(std::lround(pixels * ExtentsPerPixel));
 }
 
 int toPixels(int extent) {
-  return int(std::lround(extent / ExtentsPerPixel));
+  return static_cast<int>(std::lround(extent / ExtentsPerPixel));
 }
 
 }  // namespace

@@ -107,15 +107,15 @@ class AccessibleBar : public QAccessibleWidget {
   }
   QAccessibleInterface* child(int index) const override {
     if (index < 0 || index >= childCount()) return nullptr;
-    while (int(ids_.size()) <= index) {
-      ids_.push_back(QAccessible::registerAccessibleInterface(new AccessibleButton(bar_, source_, int(ids_.size()))));
+    for (auto place = static_cast<int>(ids_.size()); place <= index; ++place) {
+      ids_.push_back(QAccessible::registerAccessibleInterface(new AccessibleButton(bar_, source_, place)));
     }
-    return QAccessible::accessibleInterface(ids_[size_t(index)]);
+    return QAccessible::accessibleInterface(ids_[index]);
   }
   int indexOfChild(const QAccessibleInterface* child) const override {
     const QAccessible::Id id = QAccessible::uniqueId(const_cast<QAccessibleInterface*>(child));
     const auto found = std::find(ids_.begin(), ids_.end(), id);
-    return found == ids_.end() ? -1 : int(found - ids_.begin());
+    return found == ids_.end() ? -1 : static_cast<int>(found - ids_.begin());
   }
   QAccessibleInterface* focusChild() const override {
     return bar_.hasFocus() ? child(accessibleChildOf(source_.inner())) : nullptr;

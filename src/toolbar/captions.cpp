@@ -63,7 +63,7 @@ void DrawCaption(drawing::Raster& raster, const QFont& font, QRgb color, const Q
   const int lineHeight = drawing::TextHeight(drawn);
   const QStringList lines = WrapCaption(caption, box.width() - SideMargin,
                                         [&drawn](const QString& text) { return drawing::TextWidth(drawn, text); });
-  int top = nearestInt((box.height() - double(lines.size() + shift) * lineHeight) / 2 + box.y());
+  int top = nearestInt((box.height() - static_cast<double>(lines.size() + shift) * lineHeight) / 2 + box.y());
   for (const QString& line : lines) {
     drawing::drawText(raster, drawn, line, QRect(box.x(), top, box.width(), raster.Height() - top), color);
     top += lineHeight;

@@ -13,14 +13,14 @@ inline int checkedInt(qint64 number) {
   if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max()) {
     throw std::overflow_error("a measure beyond its range");
   }
-  return int(number);
+  return static_cast<int>(number);
 }
 
 /// The nearest whole number, a half to the even neighbour.
 inline int nearestInt(double number) {
   constexpr double limit = 1e15;
   if (!(std::abs(number) < limit)) throw std::overflow_error("a measure beyond its range");
-  return checkedInt(qint64(std::nearbyint(number)));
+  return checkedInt(static_cast<qint64>(std::nearbyint(number)));
 }
 
 }  // namespace toolbar

@@ -9,7 +9,7 @@ namespace {
 
 int blend(int channel, int other, int weight) {
   constexpr double All = 255;
-  return nearestInt((All - weight) * other / All + double(weight) * channel / All);
+  return nearestInt((All - weight) * other / All + static_cast<double>(weight) * channel / All);
 }
 
 }  // namespace

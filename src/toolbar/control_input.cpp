@@ -17,7 +17,7 @@ constexpr int RectangularTip = 1;
 bool Control::canHover(int number, float x) const {
   const int width = model_.values().ButtonsWidth;
   if (width == 0) throw std::domain_error("buttons without a width");
-  if (std::floor(double(x) / width) >= model_.values().ButtonsPerRow) return false;
+  if (std::floor(static_cast<double>(x) / width) >= model_.values().ButtonsPerRow) return false;
   if (number < 1 || number > model_.Button_Count()) return false;
   const ToolbarButton& button = model_.Button(number);
   if (!button.Enabled || button.ButtonType == 1) return false;
@@ -26,18 +26,19 @@ bool Control::canHover(int number, float x) const {
 
 /// What the pointer is over now; none when that isn't to change.
 std::optional<int> Control::pointedAt(const MouseArguments& arguments) {
-  const int x = nearestInt(double(arguments.X));
-  const int y = nearestInt(double(arguments.Y));
+  const int x = nearestInt(arguments.X);
+  const int y = nearestInt(arguments.Y);
   int index = -1;
   if (arguments.Button == MouseArguments::FromPopup) {
     picDraw_ = SurfaceName::Chevron;
     const int place = HitTest(model_, x, y, true);
-    if (place < 1 || place > int(layout_.HiddenButtons.size())) return std::nullopt;
-    index = layout_.HiddenButtons[size_t(place) - 1];
+    if (place < 1 || place > std::ssize(layout_.HiddenButtons)) return std::nullopt;
+    index = layout_.HiddenButtons[place - 1];
   } else {
     picDraw_ = SurfaceName::Main;
-    const bool onChevron = double(arguments.X) > innerSize_.width() - ChevronZone &&
-                           double(arguments.Y) > double(innerSize_.height()) - model_.values().ButtonsHeight;
+    const QPointF place(arguments.X, arguments.Y);
+    const bool onChevron = place.x() > innerSize_.width() - ChevronZone &&
+                           place.y() > static_cast<double>(innerSize_.height()) - model_.values().ButtonsHeight;
     if (!layout_.HiddenButtons.empty() && onChevron) return 0;
     index = HitTest(model_, x, y, false);
   }

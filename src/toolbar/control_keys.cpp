@@ -26,11 +26,11 @@ std::vector<int> Control::keyPlaces() const {
 void Control::stepByKey(int places) {
   const std::vector<int> all = keyPlaces();
   if (all.empty()) return;
-  const auto count = int(all.size());
+  const auto count = static_cast<int>(all.size());
   const auto present = std::find(all.begin(), all.end(), model_.Button_Index());
   int next = places > 0 ? 0 : count - 1;
-  if (present != all.end()) next = ((int(present - all.begin()) + places) % count + count) % count;
-  pointByKey(all[size_t(next)]);
+  if (present != all.end()) next = ((static_cast<int>(present - all.begin()) + places) % count + count) % count;
+  pointByKey(all[next]);
 }
 
 void Control::endByKey(bool last) {

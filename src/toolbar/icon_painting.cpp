@@ -14,10 +14,9 @@ constexpr QRgb ShadowColor = qRgb(128, 128, 128);
 /// Three bytes at a time become their mean, whatever row or pixel they belong to; none begin in the last three places.
 void turnGrey(QByteArray& bytes) {
   constexpr int Triple = 3;
-  char* const data = bytes.data();
+  auto* const data = reinterpret_cast<uchar*>(bytes.data());
   for (qsizetype i = 0; i <= bytes.size() - 4; i += Triple) {
-    const int mean = (uchar(data[i]) + uchar(data[i + 1]) + uchar(data[i + 2])) / Triple;
-    std::fill_n(data + i, Triple, char(mean));
+    std::fill_n(data + i, Triple, (data[i] + data[i + 1] + data[i + 2]) / Triple);
   }
 }
 
@@ -39,8 +38,8 @@ bool PaintGrayScale(drawing::Raster& raster, const Picture& picture, int left, i
 }
 
 void DrawIcon(drawing::Raster& raster, const Picture& picture, const QRect& area, bool enabled, bool shadow) {
-  const int x = nearestInt((double(area.width()) - picture.Width()) / 2 + area.x());
-  const int y = nearestInt((double(area.height()) - picture.Height()) / 2 + area.y());
+  const int x = nearestInt((area.width() - picture.Width()) / 2.0 + area.x());
+  const int y = nearestInt((area.height() - picture.Height()) / 2.0 + area.y());
   if (!enabled) {
     PaintGrayScale(raster, picture, x, y, picture.Width(), picture.Height());
   } else if (shadow) {

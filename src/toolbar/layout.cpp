@@ -84,16 +84,16 @@ int laidOutHeight(const Model& model) {
 void layOutButtons(Model& model, int innerWidth, Overflow overflow, Layout& layout) {
   for (int i = 1; i <= model.Button_Count(); ++i) {
     QPoint place = PlaceButton(model, i, false);
-    const bool lacksRoom = innerWidth - ChevronZone < qint64(model.values().ButtonsWidth) + place.x();
+    const bool lacksRoom = innerWidth - ChevronZone < static_cast<qint64>(model.values().ButtonsWidth) + place.x();
     const bool hides =
         overflow == Overflow::Hides && model.values().ShowChevron && lacksRoom && model.Button(i).ButtonType == 0;
     if (hides) {
       layout.HiddenButtons.push_back(i);
-      place = PlaceButton(model, int(layout.HiddenButtons.size()), true);
+      place = PlaceButton(model, static_cast<int>(layout.HiddenButtons.size()), true);
     }
     model.setPlace(i, {place.x(), place.y(), hides});
   }
-  const int hidden = int(layout.HiddenButtons.size());
+  const auto hidden = static_cast<int>(layout.HiddenButtons.size());
   if (hidden == 0) return;
   const int length = rowLength(model, true);
   const qint64 columns = std::min(hidden, length);

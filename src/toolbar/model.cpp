@@ -48,8 +48,8 @@ void Model::check(int index) const {
 
 void Model::SetButton_Count(int count) {
   if (count == count_ || count < 1) return;
-  entries_.resize(static_cast<size_t>(std::min(count, count_)));
-  entries_.resize(static_cast<size_t>(count));
+  entries_.resize(std::min(count, count_));
+  entries_.resize(count);
   count_ = count;
   index_ = count;
   view_.PropertyChanged(u"Button_Count");

@@ -7,7 +7,8 @@ namespace toolbar {
 namespace {
 
 QPoint placeOf(const QMouseEvent& event) {
-  return {int(std::floor(event.position().x())), int(std::floor(event.position().y()))};
+  const QPointF place = event.position();
+  return {static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))};
 }
 
 MouseArguments argumentsOf(const QMouseEvent& event, QPoint place, int buttons) {
@@ -16,7 +17,8 @@ MouseArguments argumentsOf(const QMouseEvent& event, QPoint place, int buttons) 
   if (event.modifiers() & Qt::ShiftModifier) shift |= 1;
   if (event.modifiers() & Qt::ControlModifier) shift |= 2;
   if (event.modifiers() & Qt::AltModifier) shift |= 4;
-  return {qint16(buttons & KnownButtons), qint16(shift), float(place.x()), float(place.y())};
+  return {static_cast<qint16>(buttons & KnownButtons), static_cast<qint16>(shift), static_cast<float>(place.x()),
+          static_cast<float>(place.y())};
 }
 
 }  // namespace
@@ -61,7 +63,7 @@ void MouseDelivery::movedTo(SurfaceName surface, const QRect& area, const QMouse
   if (event.buttons() != Qt::NoButton && !area.contains(place)) {
     leave(surface);
   } else {
-    move(surface, event, place, int(event.buttons()));
+    move(surface, event, place, static_cast<int>(event.buttons()));
   }
 }
 
@@ -70,7 +72,7 @@ void MouseDelivery::pressed(SurfaceName surface, const QMouseEvent& event) {
   if (lastMove_ != Place{surface, place} || control_.picDraw() != surface) move(surface, event, place, 0);
   windows_.DestroyToolTip();
   if (event.button() == Qt::LeftButton) clickBegan_ = surface;
-  control_.picDraw_MouseDown(surface, argumentsOf(event, place, int(event.button())));
+  control_.picDraw_MouseDown(surface, argumentsOf(event, place, static_cast<int>(event.button())));
 }
 
 void MouseDelivery::released(SurfaceName surface, const QRect& area, const QMouseEvent& event) {
@@ -78,8 +80,8 @@ void MouseDelivery::released(SurfaceName surface, const QRect& area, const QMous
   const bool isInside = area.contains(place);
   const bool clicks = event.button() == Qt::LeftButton && clickBegan_ == surface && isInside;
   if (event.button() == Qt::LeftButton) clickBegan_.reset();
-  if (isInside && lastMove_ != Place{surface, place}) move(surface, event, place, int(event.button()));
-  control_.picDraw_MouseUp(surface, argumentsOf(event, place, int(event.button())));
+  if (isInside && lastMove_ != Place{surface, place}) move(surface, event, place, static_cast<int>(event.button()));
+  control_.picDraw_MouseUp(surface, argumentsOf(event, place, static_cast<int>(event.button())));
   if (clicks) control_.picDraw_Click(surface);
 }
 

@@ -70,7 +70,7 @@ const PropertyRow& rowOf(const Property& property) {
 }
 
 void ApplyButtonsMode(Properties& properties, int mode) {
-  if (mode < 0 || mode >= int(std::size(Modes))) return;
+  if (mode < 0 || mode >= std::ssize(Modes)) return;
   const ModeRow& row = Modes[mode];
   properties.BackColor = drawing::ButtonFaceColor;
   properties.BackGradient = 0;

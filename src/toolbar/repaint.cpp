@@ -114,8 +114,8 @@ class Painter {
     const bool pressed = scene_.buttons.Button_Index() == 0 && scene_.ButtonHeld;
     const int frame = values_.BorderStyle == 0 ? 0 : 2;
     const QRect box(scene_.innerSize.width() - ChevronZone,
-                    checkedInt(qint64(scene_.innerSize.height()) - values_.ButtonsHeight - frame), ChevronWidth,
-                    values_.ButtonsHeight);
+                    checkedInt(static_cast<qint64>(scene_.innerSize.height()) - values_.ButtonsHeight - frame),
+                    ChevronWidth, values_.ButtonsHeight);
     draw({0, nullptr, ChevronSign, pressed, true, box, 0});
     return pressed;
   }

@@ -135,9 +135,9 @@ std::optional<StoredToolBar> readStoredForm(const PropertyBag& bag, const QFont&
   StoredToolBar toolBar{storedDefaults(ambientFont), {}};
   int count = 1;
   if (!readControl(bag, toolBar.values, count) || count < 1 || count > MostButtons) return std::nullopt;
-  toolBar.buttons.resize(size_t(count), storedButton());
+  toolBar.buttons.resize(count, storedButton());
   for (int number = 1; number <= count; ++number) {
-    if (!readButton(bag, QString::number(number), toolBar.buttons[size_t(number) - 1])) return std::nullopt;
+    if (!readButton(bag, QString::number(number), toolBar.buttons[number - 1])) return std::nullopt;
   }
   return toolBar;
 }
@@ -146,7 +146,7 @@ void writeStoredForm(PropertyBag& bag, const StoredToolBar& toolBar, const QFont
   const Properties defaults = storedDefaults(ambientFont);
   for (const QStringView key : Keys) {
     if (key == CountKey) {
-      write(bag, key.toString(), int(toolBar.buttons.size()), 1);
+      write(bag, key.toString(), static_cast<int>(toolBar.buttons.size()), 1);
     } else if (key == IndexKey) {
       write(bag, key.toString(), toolBar.Button_Index, 1);
     } else {

@@ -36,7 +36,7 @@ QFont titleFont() {
 QIcon iconOf(int number) {
   constexpr QStyle::StandardPixmap Icons[] = {QStyle::SP_MessageBoxInformation, QStyle::SP_MessageBoxWarning,
                                               QStyle::SP_MessageBoxCritical};
-  if (number < 1 || number > int(std::size(Icons))) return {};
+  if (number < 1 || number > std::ssize(Icons)) return {};
   return QApplication::style()->standardIcon(Icons[number - 1]);
 }
 

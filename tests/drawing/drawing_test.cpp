@@ -25,7 +25,7 @@ QByteArrayList letters(const Raster& raster) {
 }
 
 QImage picture(const QList<QRgb>& pixels, int width) {
-  return pictureOf(width, int(pixels.size()) / width, [&](int x, int y) { return pixels[y * width + x]; });
+  return pictureOf(width, static_cast<int>(pixels.size()) / width, [&](int x, int y) { return pixels[y * width + x]; });
 }
 
 /// A white surface that nothing has been drawn on.

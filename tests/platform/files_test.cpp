@@ -53,12 +53,13 @@ class FilesTest : public QObject {
     struct stat status;
     // Whoever writes, and what owner the file has behind it.
     for (const auto& [writer, owner, mode, after] :
-         {std::tuple{uid_t(0), Someone, 0640, Someone}, {Someone + 1, Someone, 0664, Someone + 1}}) {
+         {std::tuple{static_cast<uid_t>(0), Someone, 0640, Someone}, {Someone + 1, Someone, 0664, Someone + 1}}) {
       QVERIFY(::chown(name, owner, Shared) == 0 && ::chmod(name, mode_t(mode)) == 0);
       QVERIFY(::chown(place, writer, Shared) == 0 && ::setegid(Shared) == 0 && ::seteuid(writer) == 0);
       writeFile(at(u"a.ini"_s), "new");
       QVERIFY(::seteuid(0) == 0 && ::setegid(0) == 0 && ::stat(name, &status) == 0);
-      QCOMPARE(std::tuple(status.st_uid, status.st_gid, int(status.st_mode & 07777)), std::tuple(after, Shared, mode));
+      QCOMPARE(std::tuple(status.st_uid, status.st_gid, static_cast<int>(status.st_mode & 07777)),
+               std::tuple(after, Shared, mode));
     }
     // A folder of one's own is no right to another one's file.
     for (const mode_t mode : {0644, 0600}) {

@@ -32,7 +32,7 @@ class PropertyBagTest : public QObject {
       const char* tag;
       const char* stored;  // behind the head of a record with the key "aB"
     } rows[] = {
-        {QVariant::fromValue(qint16(-2)), "0200", "feff0000"},
+        {QVariant::fromValue(static_cast<qint16>(-2)), "0200", "feff0000"},
         {0x8000000FU, "0300", "0f000080"},
         {true, "0b00", "ffff0000"},
         {QStringLiteral("\u20ac"), "0800", "01000000 ac200000"},
@@ -45,14 +45,14 @@ class PropertyBagTest : public QObject {
       PropertyBag bag;
       bag.WriteProperty(QStringLiteral("aB"), value, {});
       const QByteArray record = fromHex(tag) + fromHex("0200 62200c00 00000000 61006200") + fromHex(stored);
-      const QByteArray count = QByteArray(1, char(record.size() + 8)) + QByteArray(3, '\0');
+      const QByteArray count = QByteArray(1, static_cast<char>(record.size() + 8)) + QByteArray(3, '\0');
       const QByteArray bytes = fromHex("2d4c420900") + count + fromHex("93b20000") + count + record;
       QCOMPARE(storedBytes(bag).toHex(' '), bytes.toHex(' '));
       QCOMPARE(storedBytes(*bagOfBytes(bytes)), bytes);
       for (qsizetype i = 0; i < bytes.size(); ++i) {
         QVERIFY(!bagOfBytes(bytes.first(i)));
         QByteArray damaged = bytes;
-        damaged[i] = char(damaged[i] ^ 0x41);
+        damaged[i] = static_cast<char>(damaged[i] ^ 0x41);
         const auto read = bagOfBytes(damaged);
         const QByteArray again = read ? storedBytes(*read) : damaged;
         // A font's character set and flags are passed over.

@@ -92,7 +92,7 @@ struct Strip {
     const auto surface = std::strchr("pDUC", kind) ? SurfaceName::Chevron : SurfaceName::Main;
     const int x = numbers.first().toInt();
     const int y = numbers.last().toInt();
-    const MouseArguments place{0, 0, float(x), float(y)};
+    const MouseArguments place{0, 0, static_cast<float>(x), static_cast<float>(y)};
     if (kind == 'm') control.picMain_MouseMove(place);
     if (kind == 'p') control.picChevron_MouseMove(place);
     if (kind == 'm' || kind == 'p') control.zSubclass_Proc(512, surface, {x, y});
@@ -114,7 +114,7 @@ struct Told : toolbar::ModelView {
   void PropertyChanged(QStringView name) override { words += name.toString(); }
   void react(toolbar::Effect effect) override {
     constexpr const char* Names[] = {"-", "R", "B", "L"};
-    words += QString::fromLatin1(Names[int(effect)]);
+    words += QString::fromLatin1(Names[static_cast<int>(effect)]);
   }
   QStringList words;
 };
@@ -191,7 +191,7 @@ class ControlTest : public QObject {
     strip.run(QStringLiteral("m145,5 d"));
     QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 68, 39));
     strip.run(QStringLiteral("p5,5"));
-    QCOMPARE(strip.record.lastButton, qint16(999));
+    QCOMPARE(strip.record.lastButton, static_cast<qint16>(999));
     // While the pointer is back on the strip, the open popup takes the size of its new layout.
     strip.run(QStringLiteral("m40,5"));
     strip.control.buttons().setValue(&Properties::ButtonsPerRow_Chev, 1);
@@ -205,7 +205,7 @@ class ControlTest : public QObject {
   // Each letter is ten wide.
   void captionWrap() {
     const auto lines = [](const char* caption, int width) {
-      const auto tens = [](const QString& text) { return int(text.size()) * 10; };
+      const auto tens = [](const QString& text) { return static_cast<int>(text.size()) * 10; };
       return toolbar::WrapCaption(QString::fromLatin1(caption), width, tens).join(u'|').toLatin1();
     };
     QCOMPARE(lines("ab\r\ncd", 60), QByteArray("abcd"));                // line ends go

@@ -40,7 +40,7 @@ QByteArrayList rowsOf(const QByteArray& text) {
 
 QImage pictureOf(const QByteArray& text) {
   const QByteArrayList rows = rowsOf(text);
-  return support::pictureOf(int(rows[0].size()), int(rows.size()), [&](int x, int y) {
+  return support::pictureOf(static_cast<int>(rows[0].size()), static_cast<int>(rows.size()), [&](int x, int y) {
     const char letter = rows[y][x];
     return letter == '.' ? 0U : Palette.at(letter) | 0xFF000000U;
   });
@@ -109,7 +109,7 @@ void change(Sheet& sheet, int kind) {
   } else {
     sheet.values.ButtonsMode = 7;
     sheet.buttons[3].Enabled = true;
-    for (int i = 0; i < 4; ++i) sheet.buttons[size_t(i)].IconAlignment = i;
+    for (int i = 0; i < 4; ++i) sheet.buttons[i].IconAlignment = i;
   }
 }
 
