@@ -2,10 +2,10 @@
 
 namespace platform {
 
-/// What becomes of a symbolic link that stands at a file's name.
+/// How a symbolic link at a file's name is handled.
 enum class AtLink {
-  Follow,   ///< the file behind it is meant: the game's own names
-  Replace,  ///< it counts as nothing, and a file that is written takes its place: names that this program makes
+  Follow,   ///< the link's target is used: for the game's own files
+  Replace,  ///< the link counts as missing, and a write replaces it: for names that this program makes
 };
 
 }  // namespace platform

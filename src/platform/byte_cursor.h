@@ -5,15 +5,15 @@
 
 namespace platform {
 
-/// Reads numbers of a binary file from front to back; a read beyond the end gives 0 and is remembered.
+/// Reads numbers of a binary file from front to back. A read beyond the end gives 0 and makes inside() false.
 class ByteCursor {
  public:
   explicit ByteCursor(QByteArrayView bytes, qint64 at = 0) : bytes_(bytes), at_(at) {}
 
-  /// Whether everything read or skipped so far lay inside the file.
+  /// Whether everything read or skipped so far was inside the file.
   bool inside() const { return at_ <= bytes_.size(); }
   void skip(qint64 count) { at_ += count; }
-  /// The next bytes, fewer at the end of the file.
+  /// The next `count` bytes, or fewer at the end of the file.
   QByteArrayView take(qint64 count) {
     const qint64 from = qMin<qint64>(at_, bytes_.size());
     at_ += count;

@@ -7,26 +7,26 @@
 #include <QString>
 #include <QStringView>
 
-/// The ANSI code page of the game's files, Windows-1252. The five bytes that the code page leaves unassigned stand for
-/// the C1 control characters of the same value, so that all 256 bytes go to text and back without loss.
+/// Conversion between text and Windows-1252, the code page of the game's files. The five bytes without a character map
+/// to the control characters of the same value, so all 256 bytes convert both ways without loss.
 namespace platform {
 
 QString fromAnsi(QByteArrayView bytes);
 
-/// The bytes of `text`; none when a letter isn't in the code page (a NUL or a line end is).
+/// The bytes of `text`, or none if a character isn't in the code page. NUL and line ends are in it.
 std::optional<QByteArray> toAnsi(QStringView text);
 
-/// Upper case by the letters of the code page, not by locale: one letter stays one letter, so that sharp s, micro sign
-/// and florin, which have no capital of one letter there, stay as they are. Letters outside the code page stay too.
+/// Upper case within the code page, whatever the locale. One letter always gives one letter: sharp s, micro sign and
+/// florin stay as they are, as do letters outside the code page.
 QString upperCase(QStringView text);
 
-/// The same for one byte in the code page.
+/// The same for one byte of the code page.
 char upperCaseByte(char byte);
 
-/// Order of names in lists and in listings of folders: by upper case, code unit by code unit. True when a comes first.
+/// Whether a comes before b in lists and in listings of folders: by upper case, code unit by code unit.
 bool nameLess(QStringView a, QStringView b);
 
-/// Equal but for case.
+/// Whether the names are equal regardless of case.
 bool sameName(QStringView a, QStringView b);
 
 }  // namespace platform

@@ -7,7 +7,7 @@
 
 namespace platform {
 
-/// What stops an operation: carries the description that a report puts between its square brackets.
+/// The exception that ends an operation. A report shows its description in square brackets.
 class Failure : public std::exception {
  public:
   explicit Failure(QString description) : description_(std::move(description)), bytes_(description_.toUtf8()) {}

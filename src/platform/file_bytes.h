@@ -10,36 +10,36 @@
 
 #include "platform/at_link.h"
 
-/// Files and folders by their native paths, without exceptions. One source file a kind of platform holds each part.
-/// Only regular files are read and written; anything else is opened so that nothing waits for it, if at all.
+/// System calls on files and folders by their native paths. They return errors and throw nothing; each platform has its
+/// own sources. Only regular files are read and written. Opening a pipe or a device never blocks.
 namespace platform {
 
 struct FileError {
-  QString description;   ///< the platform's
-  bool missing = false;  ///< nothing stands at the path; any other error leaves open whether something does
+  QString description;   ///< the system's own text
+  bool missing = false;  ///< there is nothing at the path; after any other error there may be something
 };
 
-/// What stands at a path.
+/// What is at a path.
 struct Look {
-  bool stands = false;
-  bool isFile = false;     ///< a regular one
-  qint64 lastWritten = 0;  ///< in nanoseconds
+  bool stands = false;     ///< there is something
+  bool isFile = false;     ///< a regular file
+  qint64 lastWritten = 0;  ///< in nanoseconds since 1970
 };
 
-/// Looks what stands at the path, with Replace at a link itself. Nothing there is no error.
+/// Looks up what is at the path. With Replace that is the link itself. Nothing there is no error.
 std::optional<FileError> lookAt(const QString& native, AtLink atLink, Look& found);
 
-/// The names in a folder without "." and "..", in any order.
+/// Appends the names in a folder without "." and "..", in any order.
 std::optional<FileError> listNames(const QString& native, QStringList& names);
 
-/// Reads the file whole; an error, or none. With Replace a link counts as missing.
+/// Reads the whole file. With Replace a link counts as missing.
 std::optional<FileError> readBytes(const QString& native, AtLink atLink, QByteArray& bytes);
 
-/// Opens the file for who reads it piece by piece.
+/// Opens the file for reading piece by piece.
 std::optional<FileError> openBytes(const QString& native, QFile& file);
 
-/// Puts the bytes in place of the file or makes it, by a flushed temporary file that is renamed over it. An error
-/// leaves the old file whole and no temporary one. Fails where the old file may not be written.
+/// Replaces or creates the file: writes and flushes a temporary file, then renames it. On an error the old file is
+/// untouched and the temporary one is removed. Fails if the old file may not be written.
 std::optional<FileError> replaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink);
 
 }  // namespace platform

@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-/// None for a regular file, links followed unless they count as nothing.
+/// An error unless the path leads to a regular file. With Replace a link counts as missing.
 std::optional<FileError> checkRegular(const QFileInfo& info, AtLink atLink) {
   const bool passed = atLink == AtLink::Replace && info.isSymbolicLink();
   if (!info.exists() || passed) return FileError{QStringLiteral("No such file"), true};

@@ -19,18 +19,18 @@ qint64 lastWritten(const struct stat& status) {
   return static_cast<qint64>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
-/// A regular file that is open, and its size.
+/// The descriptor of an open regular file, and its size.
 struct RegularFile {
   int file = -1;
   qsizetype size = 0;
 };
 
-/// Opens a regular file. A pipe or a device doesn't let the program wait.
+/// Opens a regular file. Never blocks on a pipe or a device.
 std::optional<FileError> openRegular(const QString& native, AtLink atLink, RegularFile& open) {
   const int following = atLink == AtLink::Follow ? 0 : O_NOFOLLOW;
   const int file =
       ::open(QFile::encodeName(native).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | following);
-  // A link that isn't followed, and a socket.
+  // ELOOP stands for a link that isn't followed, ENXIO for a socket.
   if (file < 0 && errno == ELOOP && following != 0) return errorOf(ENOENT);
   if (file < 0 && errno == ENXIO) return noRegularFile();
   if (file < 0) return errorOf(errno);
@@ -51,7 +51,7 @@ std::optional<FileError> openRegular(const QString& native, AtLink atLink, Regul
   return error;
 }
 
-/// One read, mostly: a byte more than the size is asked for, so that a short answer tells the end.
+/// Usually takes one read: it asks for one byte more than the size, so a short answer means the end.
 int readToEnd(const RegularFile& open, QByteArray& bytes) {
   qsizetype filled = 0;
   bytes = QByteArray(open.size + 1, Qt::Uninitialized);
@@ -74,7 +74,7 @@ std::optional<FileError> lookAt(const QString& native, AtLink atLink, Look& foun
   struct stat status;
   const int result = atLink == AtLink::Follow ? ::stat(name.constData(), &status) : ::lstat(name.constData(), &status);
   found = {};
-  if (result < 0 && errno == ELOOP) return std::nullopt;  // links that lead nowhere
+  if (result < 0 && errno == ELOOP) return std::nullopt;  // a loop of links
   const auto error = errorOf(errorNumber(result));
   if (error) return error->missing ? std::nullopt : error;
   found = {true, S_ISREG(status.st_mode), lastWritten(status)};

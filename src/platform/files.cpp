@@ -16,8 +16,8 @@ Failure failureOf(const QString& native, const FileError& error) {
   return Failure(native.section(u'/', -1) + QStringLiteral(": ") + error.description);
 }
 
-/// Takes a step on the path as written, and when nothing stands there on the one that is found without regard to case.
-/// Gives the failure when nothing stands there either, and throws any other.
+/// Tries the step on the path as written. If there is nothing, tries it on the path found regardless of case. Returns
+/// the failure if there is nothing either, and throws any other.
 std::optional<Failure> touch(const QString& path, const std::function<std::optional<FileError>(const QString&)>& step) {
   QString native = plainPath(path);
   auto error = step(native);
@@ -27,7 +27,7 @@ std::optional<Failure> touch(const QString& path, const std::function<std::optio
   return failureOf(native, *error);
 }
 
-/// What stands at the path, and where that is.
+/// What is at the path. `native` becomes the path that it was found at.
 Look look(const QString& path, AtLink atLink, QString& native) {
   Look found;
   touch(path, [&](const QString& at) {
@@ -93,7 +93,7 @@ QStringList listFiles(const QString& folder, const QString& ending) {
     if (name.startsWith(u'.') || name.size() < ending.size()) return true;
     if (!sameName(QStringView(name).last(ending.size()), ending)) return true;
     Look found;
-    // One that can't be looked at stays: reading it will tell why, and no other one is taken for it.
+    // A file that can't be looked at stays in the list: reading it will report why.
     return !lookAt(native + u'/' + name, AtLink::Follow, found) && !found.isFile;
   });
   std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {

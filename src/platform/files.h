@@ -11,39 +11,38 @@
 
 #include "platform/at_link.h"
 
-/// Whole files, by the program's paths (see paths.h). Only regular files are files: a folder, a pipe or a device is
-/// none, and nothing waits for it.
+/// Whole files by the program's paths (see paths.h). Only regular files count: a folder, a pipe or a device is no file
+/// and never blocks.
 namespace platform {
 
-/// All bytes of the file. Throws Failure with the platform's description.
+/// All bytes of the file. Throws Failure with the system's description.
 QByteArray readFile(const QString& path);
 
-/// The same, none when nothing stands at the path; with Replace also when it is a link. Any other failure is thrown:
-/// who goes on without the file knows that there is none.
+/// All bytes of the file, or none if there is nothing at the path; with Replace also if there is a link. Throws any
+/// other failure, so none means for certain that there is no file.
 std::optional<QByteArray> readIfThere(const QString& path, AtLink atLink = AtLink::Follow);
 
-/// The file, open for who doesn't read it whole. Throws Failure.
+/// The file, open for reading piece by piece. Throws Failure.
 std::unique_ptr<QFile> openFile(const QString& path);
 
-/// Puts `bytes` in place of the file, or makes it. Atomic: a temporary file beside the target is flushed and renamed
-/// over it, so that the old file or the new one stands there whole at any instant. The mode of an old file is kept, and
-/// its owner and group as far as the system lets. Fails on a file that the user may not write, on one whose owner may
-/// not for the superuser too, and in a folder that isn't there. Throws Failure with the platform's description.
+/// Replaces or creates the file. Atomic: a temporary file beside it is flushed and renamed over it, so at any instant
+/// either the old file or the new one is there as a whole. The file keeps its mode, and owner and group where the
+/// system permits. Fails if the user may not write the file, if the owner's write bit is off (even for the superuser),
+/// or if the folder doesn't exist. Throws Failure with the system's description.
 void writeFile(const QString& path, QByteArrayView bytes, AtLink atLink = AtLink::Follow);
 
-/// Whether a file stands at the path. Throws Failure when that can't be seen.
+/// Whether there is a file at the path. Throws Failure if that can't be found out.
 bool fileExists(const QString& path);
 
-/// When the file was written last, in nanoseconds; 0 when nothing stands there. Throws Failure.
+/// When the file was last written, in nanoseconds since 1970; 0 if there is nothing. Throws Failure.
 qint64 lastWritten(const QString& path);
 
-/// Whether the folder holds at least one file that isn't hidden. The path must end in a separator. False for a folder
-/// that can't be listed.
+/// Whether the folder holds a file that isn't hidden. The path must end in a separator. False if the folder can't be
+/// listed.
 bool folderHoldsFiles(const QString& folder);
 
-/// Names of the files in `folder` that end in `ending` whatever the case (".ini"), in the order of nameLess, equal ones
-/// by their bytes; hidden ones aren't listed. Empty for a folder that isn't there; throws Failure for one that can't be
-/// listed.
+/// The names of the files in `folder` that end in `ending` in any case (".ini"), without hidden ones, sorted by
+/// nameLess and then by their bytes. Empty for a missing folder. Throws Failure if the folder can't be listed.
 QStringList listFiles(const QString& folder, const QString& ending);
 
 }  // namespace platform

@@ -5,7 +5,7 @@
 
 namespace platform {
 
-/// Puts the number behind the bytes, its lowest byte first.
+/// Appends the number to the bytes, lowest byte first.
 template <typename Number>
 void appendLittle(QByteArray& bytes, Number number) {
   char stored[sizeof(Number)];

@@ -15,18 +15,18 @@ bool isDigit(QChar letter) {
   return letter >= QChar(u'0') && letter <= QChar(u'9');
 }
 
-/// What digits stand for that a double can't hold: too many before the point, or nothing but zeros for a long way.
+/// The value of digits that a double can't hold: infinite if the number is too large, 0 if it is too small.
 double beyondRange(const QByteArray& digits) {
   const qsizetype first = std::find_if(digits.begin(), digits.end(), [](char c) { return c != '0'; }) - digits.begin();
   return first < digits.size() && digits[first] != '.' ? std::numeric_limits<double>::infinity() : 0;
 }
 
-/// The number at the head of a text.
+/// The number at the start of a text.
 struct NumberHead {
-  QByteArray digits;  ///< with the point
+  QByteArray digits;  ///< including the point
   bool negative = false;
-  bool holdsDigit = false;  ///< without one it is no number
-  qsizetype end = 0;        ///< where the text goes on behind it
+  bool holdsDigit = false;  ///< if not, there is no number
+  qsizetype end = 0;        ///< where the number ends in the text
 };
 
 NumberHead headOf(QStringView text) {
@@ -85,7 +85,7 @@ std::optional<quint8> roundToByte(double number) {
 
 QString numberText(double number) {
   if (!std::isfinite(number)) return QString::number(number);
-  // Digits and exponent first, since the number of decimals that keeps 15 digits depends on the exponent.
+  // Taken apart into digits and exponent, as the decimals that 15 digits need depend on the exponent.
   const QByteArray scientific = QByteArray::number(number, 'e', SignificantDigits - 1);
   const int exponent = scientific.mid(scientific.indexOf('e') + 1).toInt();
   QByteArray digits = scientific.left(scientific.indexOf('e'));

@@ -6,29 +6,29 @@
 #include <QStringList>
 #include <QStringView>
 
-/// Numbers as the game's files write them, and the blanks (the character 0x20 and no other) round them.
+/// Numbers as the game's files write them. A blank is the character 0x20 and no other.
 namespace platform {
 
-/// The number at the head of `text`: blanks, a sign, digits, one "." as the decimal point whatever the locale; no
-/// exponent, no blanks inside. 0 without one; infinite when it is beyond the range of a double.
+/// The number at the start of `text`: blanks, a sign, digits and one "." as the decimal point, whatever the locale. It
+/// has no exponent and no blanks inside. 0 if there is none; infinite if a double can't hold it.
 double numberOf(QStringView text);
 
-/// Whether all of `text`, but for blanks at its ends, is such a number.
+/// Whether all of `text`, except blanks at its ends, is such a number.
 bool isNumber(QStringView text);
 
-/// Nearest whole number, a half to the even neighbour, as 16-bit signed; none when it doesn't fit.
+/// Rounds to the nearest whole number, a half to the even one. None if it doesn't fit into 16 bits.
 std::optional<qint16> roundToInt16(double number);
 
-/// The same, as a byte 0 to 255.
+/// The same for 0 to 255.
 std::optional<quint8> roundToByte(double number);
 
-/// Decimal text of a number: up to 15 significant digits, no trailing zeros, "." as the point, no exponent.
+/// The number in decimal digits: up to 15 significant ones, no trailing zeros, "." as the point, no exponent.
 QString numberText(double number);
 
-/// `text` less the blanks at both ends.
+/// `text` without blanks at its ends.
 QString trimBlanks(QStringView text);
 
-/// The fields between single blanks; two blanks in a row enclose an empty field. Empty text gives one empty field.
+/// Splits at every blank: two blanks in a row give an empty field, and so does an empty text.
 QStringList splitAtBlanks(QStringView text);
 
 }  // namespace platform

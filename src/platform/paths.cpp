@@ -13,7 +13,7 @@ namespace {
 
 constexpr QChar Slash(u'/');
 
-/// Throws for a path at which something may stand or not.
+/// Throws if it is unknown whether there is something at the path.
 void check(const QString& path, const std::optional<FileError>& error) {
   if (error && !error->missing) throw Failure(path.section(Slash, -1) + QStringLiteral(": ") + error->description);
 }
@@ -24,7 +24,7 @@ bool stands(const QString& path) {
   return found.stands;
 }
 
-/// The entry of `folder` that is `name` but for case, the first in byte order; `name` itself when there is none.
+/// The entry of `folder` that equals `name` regardless of case, the first in byte order; else `name` itself.
 QString entryLike(const QString& folder, const QString& name) {
   QString best;
   QStringList entries;
@@ -42,7 +42,7 @@ QString plainPath(const QString& path) {
   QString plain = path;
   plain.replace(QChar(u'\\'), Slash);
 #ifdef Q_OS_WIN
-  constexpr qsizetype from = 1;  // two separators at the head name a machine
+  constexpr qsizetype from = 1;  // two separators at the start name a server
 #else
   constexpr qsizetype from = 0;
 #endif

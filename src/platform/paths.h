@@ -2,25 +2,24 @@
 
 #include <QString>
 
-/// Paths of the program are written with the backslash and may hold doubled separators. They meet the file system here.
+/// The program's paths are written with backslashes and may have doubled separators. Here they become native paths.
 namespace platform {
 
-/// The path as the file system takes it: "/" as separator, doubled separators one. Where the file system tells case
-/// apart, a component that isn't there as written is looked up without regard to case (of several, the first in byte
-/// order); what can't be found stays as written, also when the file system fails to answer: to show a path, or to go to
-/// a folder. Who reads or writes a file takes the two steps.
+/// The native path, for showing it or for opening a dialog in a folder: plainPath, then findPath if there is nothing at
+/// that path. Never throws: after an error it is plainPath.
 QString nativePath(const QString& path);
 
-/// The two steps of nativePath, for who touches the file at once and needs the second only when it isn't there: the
-/// path with its separators mapped, and the look-up without regard to case. The second throws Failure when what stands
-/// on the way can't be seen: another file than the one meant would be taken, or none.
+/// The path with "/" as separator and no doubled separators.
 QString plainPath(const QString& path);
+/// Finds a path regardless of case, on file systems that tell case apart: each component as written if it exists, else
+/// the one that differs only in case (the first in byte order). What isn't found stays as written. Throws Failure if a
+/// folder on the way can't be looked into, rather than choosing a wrong file.
 QString findPath(const QString& plain);
 
-/// The program's form of a native path: "\" as separator.
+/// The program's path for a native one, with backslashes.
 QString programPath(const QString& nativePath);
 
-/// True when both name the same existing folder.
+/// Whether both lead to the same existing folder.
 bool sameFolder(const QString& a, const QString& b);
 
 }  // namespace platform

@@ -14,7 +14,7 @@ bool standsAtHead(const char* place, const char* fileBegin) {
   return place == fileBegin || isLineEnd(place[-1]);
 }
 
-/// Whether nothing but blanks stands at `at` up to the "]" of a section line, which may be missing.
+/// Whether only blanks follow up to the "]" of a section line, or to its end if the "]" is missing.
 bool endsName(const char* at, const char* fileEnd) {
   while (at != fileEnd && isBlank(*at)) ++at;
   return at == fileEnd || *at == ']' || isLineEnd(*at);
@@ -57,7 +57,7 @@ QByteArrayView sectionName(const char* bracket, const char* textEnd) {
   return trimmed({bracket + 1, std::find(bracket + 1, textEnd, ']')});
 }
 
-/// Most sections drop out by the first or the last letter of the name.
+/// Compares the first and last letter first: that rules out most sections.
 const char* findSection(QByteArrayView file, QByteArrayView name) {
   const char* const end = file.end();
   const qsizetype length = name.size();

@@ -4,8 +4,7 @@
 
 #include <QByteArrayView>
 
-/// The lines of an ini file for the rules of its keyed access, as pointers into the file's bytes: names, section lines
-/// and key lines.
+/// Scans the lines of ini files for profile_reading.h and profile_writing.h. Pointers lead into the file's bytes.
 namespace platform::profile {
 
 constexpr bool isBlank(char c) {
@@ -14,41 +13,41 @@ constexpr bool isBlank(char c) {
 constexpr bool isLineEnd(char c) {
   return c == '\n' || c == '\r';
 }
-/// The text without blanks and tabs round it.
+/// The text without blanks and tabs at its ends.
 QByteArrayView trimmed(QByteArrayView text);
 
-/// A name that is asked for: only blanks (0x20) at its ends don't count.
+/// The name that a caller asks for, without blanks (0x20) at its ends; its tabs count.
 QByteArrayView askedName(QByteArrayView name);
-/// Whether a name that is asked for can be none of a file: there tabs at the ends don't count either.
+/// Whether a name has a tab at an end. No name in a file has, since they are trimmed.
 bool endsInTab(QByteArrayView name);
 bool sameName(QByteArrayView a, QByteArrayView b);
 
-/// Where the text of the line at `at` ends.
+/// The end of the text of the line at `at`.
 const char* lineTextEnd(const char* at, const char* fileEnd);
-/// Where the next line starts, `textEnd` being the end of a line's text.
+/// The start of the line after the one whose text ends at `textEnd`.
 const char* nextLine(const char* textEnd, const char* fileEnd);
 
-/// The name in the section line whose "[" stands at `bracket`. The "]" may be missing.
+/// The name in the section line whose "[" is at `bracket`. The "]" may be missing.
 QByteArrayView sectionName(const char* bracket, const char* textEnd);
-/// The line behind the line of the first section of that name; null without one.
+/// The first line inside the first section of that name, or null.
 const char* findSection(QByteArrayView file, QByteArrayView name);
 
 struct KeyLine {
   QByteArrayView key;
-  const char* begin;    ///< of the whole line
-  const char* value;    ///< directly behind the "="
-  const char* textEnd;  ///< in front of the line's end
-  const char* next;     ///< behind the line's end
+  const char* begin;    ///< start of the line
+  const char* value;    ///< directly after the "="
+  const char* textEnd;  ///< end of the line's text
+  const char* next;     ///< start of the next line
 };
 
-/// Walks the key lines of the section whose lines begin at `at`.
+/// Iterates over the key lines of a section, from its line `at` on.
 class KeyLines {
  public:
   KeyLines(const char* at, const char* fileEnd) : at_(at), end_(fileEnd) {}
 
-  /// The next key line; none behind the last one of the section.
+  /// The next key line, or none at the end of the section.
   std::optional<KeyLine> next();
-  /// The next line of that key.
+  /// The next line with that key.
   std::optional<KeyLine> find(QByteArrayView key);
 
  private:
@@ -56,7 +55,7 @@ class KeyLines {
   const char* end_;
 };
 
-/// The value of a key line without blanks and tabs round it.
+/// The value of a key line without blanks and tabs at its ends.
 QByteArrayView trimmedValue(const KeyLine& line);
 
 }  // namespace platform::profile

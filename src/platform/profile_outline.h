@@ -7,7 +7,7 @@
 
 namespace platform {
 
-// A key line and a section as they stand in an ini file, lines being counted from 1.
+// A section and a key line of an ini file. Lines count from 1.
 struct OutlineKey {
   QByteArray name;
   QByteArray value;  ///< as findProfileValue gives it
@@ -19,7 +19,7 @@ struct OutlineSection {
   std::vector<OutlineKey> keys;
 };
 
-/// All sections with their keys in file order, doubles too.
+/// All sections with all their keys in file order, duplicates included.
 std::vector<OutlineSection> profileOutline(QByteArrayView file);
 
 }  // namespace platform

@@ -6,47 +6,48 @@
 #include <QByteArrayView>
 #include <QHash>
 
-/// The rules of keyed access to an ini file, over the file's bytes: no file is touched here, nothing is kept between
-/// calls. Names are compared by the upper case of the code page; the first section of a name and the first key in it
-/// count. "=" parts key and value, ";" at the head of a line makes a comment, "#" doesn't; blanks and tabs round the
-/// names, keys and values of a file don't count, and blanks round those that are asked for. Lines end in CR LF, LF or
-/// CR.
+/// Reads ini files as bytes: nothing here touches a file or keeps state between calls. The rules:
+/// - Names of sections and keys are compared regardless of case, within the code page.
+/// - Of equal names the first section counts, and in it the first key.
+/// - "=" separates key and value. ";" starts a comment line, "#" doesn't.
+/// - Blanks and tabs around names and values in the file are ignored, and blanks around names that a caller gives.
+/// - Lines end in CR LF, LF or CR.
 namespace platform {
 
-/// The value of the key as it stands in the file: without blanks round it, less one pair of equal quotation marks round
-/// it. None without the section or key.
+/// The value of a key without blanks and tabs at its ends and without one pair of quotation marks around it. None if
+/// the section or the key is missing.
 std::optional<QByteArray> findProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key);
 
-/// The same in two steps, for who asks for several keys of a section: the file from behind the section's line on, and
-/// the value of a key there.
+/// The same in two steps, for several keys of one section: the file from the section's first line on, and a key's value
+/// in it.
 std::optional<QByteArrayView> findProfileSection(QByteArrayView file, QByteArrayView section);
 std::optional<QByteArray> findProfileValue(QByteArrayView lines, QByteArrayView key);
 
-/// All keys of the section in file order, doubles too, each ended by one NUL; empty without the section.
+/// All keys of the section in file order, duplicates included, each followed by a NUL. Empty without the section.
 QByteArray listProfileKeys(QByteArrayView file, QByteArrayView section);
 
 /// A key line of a section.
 struct ProfileLine {
   QByteArrayView key;
-  QByteArrayView value;  ///< without blanks round it, with its quotation marks
-  QByteArrayView line;   ///< as it stands, without its end
+  QByteArrayView value;  ///< without blanks at its ends, with its quotation marks
+  QByteArrayView line;   ///< the whole line without its line end
 };
 
-/// A value less one pair of equal quotation marks round it.
+/// The value without one pair of equal quotation marks around it.
 QByteArrayView unquoted(QByteArrayView value);
 
-/// The lines of a section's keys (of doubles the first) by the key in upper case, for who asks for many of them.
+/// A section's key lines by the key in upper case, for many look-ups. Of duplicates it has the first.
 using ProfileKeys = QHash<QByteArray, ProfileLine>;
 ProfileKeys profileKeys(QByteArrayView lines);
 
-/// The line of the key; null without one.
+/// The line of the key, or null.
 const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key);
 
-/// The sections of a file for who asks for many: found once, as findProfileSection finds each. Views of the file.
+/// An index of a file's sections, for many look-ups. It refers to the file's bytes.
 class ProfileSections {
  public:
   explicit ProfileSections(QByteArrayView file);
-  /// The lines of the section of that name, up to the next section; empty without one.
+  /// The lines of that section up to the next one; empty without it.
   QByteArrayView lines(QByteArrayView name) const;
 
  private:

@@ -10,7 +10,7 @@ using profile::KeyLines;
 
 namespace {
 
-/// The end of the file's first line, CR LF when it has none.
+/// The line end of the file's first line, or CR LF if it has none.
 QByteArray firstLineEnd(QByteArrayView file) {
   const char* const textEnd = profile::lineTextEnd(file.begin(), file.end());
   const char* const next = profile::nextLine(textEnd, file.end());
@@ -27,13 +27,13 @@ bool fitsOneLine(QByteArrayView text) {
   return std::none_of(text.begin(), text.end(), [](char c) { return profile::isLineEnd(c) || c == '\0'; });
 }
 
-/// Whether a line written for these names could be found again.
+/// Whether a line with these names can be found again once it is written.
 bool canBeFound(QByteArrayView section, QByteArrayView key) {
   return fitsOneLine(section) && !section.contains(']') && !profile::endsInTab(section) && fitsOneLine(key) &&
          !key.isEmpty() && !key.contains('=') && !profile::endsInTab(key) && key.front() != ';' && key.front() != '[';
 }
 
-/// What of a key's line is written.
+/// Which part of a key's line is set.
 enum class Part { Value, Line };
 
 std::optional<QByteArray> setPart(QByteArrayView file, QByteArrayView section, QByteArrayView key, QByteArrayView text,

@@ -5,22 +5,24 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-/// Changes of an ini file's text, by the rules in profile_reading.h. All else of the file stays as it is.
+/// Changes an ini file's bytes by the rules in profile_reading.h. The rest of the file stays byte for byte the same.
 namespace platform {
 
-/// The file with the key's value replaced in place (all up to the "=" and the line's own end stay), or the key added
-/// behind the last key line of its section, or the section added at the end. New lines take the file's first line end,
-/// CR LF where it has none. None when there is nothing to change in it, or when the line could never be found again (a
-/// line end or NUL in a text, "]" in the section's name, a tab at an end of either name, no key, one with "=" in it or
-/// ";" or "[" at its head).
+/// Sets a key's value and returns the new file:
+/// - A key that exists keeps its line: only what follows the "=" is replaced.
+/// - A new key goes after the last key line of its section.
+/// - A new section goes at the end of the file.
+/// New lines end as the file's first line does, or in CR LF if it has none.
+/// None if nothing changes, or if the line could never be found again: a text with a line end or NUL, a section's name
+/// with "]", a name with a tab at an end, an empty key, or one that contains "=" or starts with ";" or "[".
 std::optional<QByteArray> setProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
                                           QByteArrayView value);
 
-/// The same with the key's whole line, `line` having no end of its own.
+/// The same for the key's whole line. `line` has no line end.
 std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
                                          QByteArrayView line);
 
-/// The file without the key's line; none when there is no such key.
+/// Removes the key's line and returns the new file. None if there is no such key.
 std::optional<QByteArray> removeProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);
 
 }  // namespace platform

@@ -13,8 +13,8 @@ namespace platform {
 
 namespace {
 
-/// Behind the name of a file: the temporary one that takes its place when it is written whole. Always the same name, so
-/// that of all programs that were killed while they wrote a file at most one such stays; the next write removes it.
+/// Added to a file's name, it names the temporary file. The name is always the same, so that killed programs leave at
+/// most one such file behind, and the next write removes it.
 constexpr char TemporaryEnding[] = ".unfinished";
 
 int writeAll(int file, QByteArrayView bytes) {
@@ -27,19 +27,19 @@ int writeAll(int file, QByteArrayView bytes) {
   return 0;
 }
 
-/// A flush that the file system doesn't offer is none that failed.
+/// It is no error if the file system has no flush.
 int flush(int file) {
   const int error = errorNumber(::fsync(file));
   return error == EINVAL || error == ENOTSUP ? 0 : error;
 }
 
-/// Makes of a chain of symbolic links the file behind it, whether that stands there or not.
+/// Replaces the path of a symbolic link by its final target, whether that exists or not.
 int followLinks(QByteArray& path) {
   constexpr int LongestChain = 40;
   for (int i = 0; i < LongestChain; ++i) {
     QByteArray behind(4096, Qt::Uninitialized);
     const ssize_t length = ::readlink(path.constData(), behind.data(), behind.size());
-    // No link, or nothing.
+    // EINVAL: no link. ENOENT: nothing there.
     if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
     behind.truncate(length);
     path = behind.startsWith('/') ? behind : path.left(path.lastIndexOf('/') + 1) + behind;
@@ -47,7 +47,7 @@ int followLinks(QByteArray& path) {
   return ELOOP;
 }
 
-/// For the superuser too the owner's bit decides.
+/// The owner's write bit has to be set even for the superuser.
 std::optional<FileError> checkWritable(const QByteArray& name, const struct stat& status) {
   if (S_ISDIR(status.st_mode)) return errorOf(EISDIR);
   if (!S_ISREG(status.st_mode)) return noRegularFile();
@@ -55,7 +55,7 @@ std::optional<FileError> checkWritable(const QByteArray& name, const struct stat
   return errorOf(errorNumber(::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS)));
 }
 
-/// Owner and group as far as the system lets, then the mode, which a change of owner cuts.
+/// Copies owner and group where the system permits, then the mode: a change of the owner clears some of its bits.
 int keepOwnerAndMode(int file, const struct stat& old) {
   const auto refused = [](int error) { return error == EPERM || error == EINVAL || error == ENOTSUP; };
   struct stat fresh;
@@ -73,8 +73,8 @@ bool lacksLocks(int error) {
   return error == ENOLCK || error == EBADF || error == EINVAL || error == ENOTSUP || error == ENOSYS;
 }
 
-/// Locks a temporary file that is open, as a sign that a living program is at it, and sees that the name still leads to
-/// it: EAGAIN when not, or when another program has the lock.
+/// Locks an open temporary file. The lock shows that a running program is writing it. EAGAIN if another program has the
+/// lock, or if the name no longer leads to this file.
 int lock(int file, const QByteArray& name) {
   struct stat here;
   struct stat there;
@@ -85,8 +85,8 @@ int lock(int file, const QByteArray& name) {
   return here.st_dev == there.st_dev && here.st_ino == there.st_ino ? 0 : EAGAIN;
 }
 
-/// Removes what a killed program left at the name of a temporary file, or a link; EAGAIN when the name is worth another
-/// try. Where the file system has no locks nobody knows whether the file is in work, so it stays.
+/// Removes a temporary file that a killed program left, or a link at its name. EAGAIN if it makes sense to try the name
+/// again. On a file system without locks the file stays, since another program may be writing it.
 int clearAway(const QByteArray& name) {
   const int file = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
   int error = file < 0 ? errno : lock(file, name);
@@ -96,7 +96,7 @@ int clearAway(const QByteArray& name) {
   return lacksLocks(error) ? EEXIST : error;
 }
 
-/// Makes and locks a new file of that name.
+/// Creates a file of that name and locks it.
 int make(const QByteArray& name, int& file) {
   file = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
   if (file < 0) return errno == EEXIST ? clearAway(name) : errno;
@@ -107,7 +107,7 @@ int make(const QByteArray& name, int& file) {
   return error;
 }
 
-/// The same, and waits a second for another program that is writing the same file.
+/// The same, but waits up to a second while another program is writing the file.
 int makeInTurn(const QByteArray& name, int& file) {
   constexpr int Tries = 200;
   constexpr std::chrono::milliseconds Pause{5};
@@ -142,7 +142,7 @@ std::optional<FileError> replaceBytes(const QString& native, QByteArrayView byte
   int error = replaces ? keepOwnerAndMode(file, old) : 0;
   if (error == 0) error = writeAll(file, bytes);
   if (error == 0) error = flush(file);
-  // Still open, so that it stays locked. What is flushed has nothing left that closing could lose.
+  // The file is renamed while it is open, so that it stays locked. Closing can't fail to write: all is flushed.
   if (error == 0) error = errorNumber(::rename(name.constData(), target.constData()));
   if (error != 0) ::unlink(name.constData());
   ::close(file);

@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-/// The description of the failure that ended the work; none when it came to its end.
+/// The description of the failure that ended the work, or none if it was completed.
 std::optional<QString> failureOf(const std::function<void()>& work) {
   try {
     work();

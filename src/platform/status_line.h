@@ -7,15 +7,15 @@
 
 namespace platform {
 
-/// Where every report of the program goes: panel 1 of the main window's status bar.
+/// Shows the program's reports: in the editor, panel 1 of the main window's status bar.
 class StatusLine {
  public:
   virtual ~StatusLine() = default;
-  /// Shows `text` behind the time of day; the next report overwrites it.
+  /// Shows a report. The next one replaces it.
   void ShowStatus(const QString& text);
-  /// Tells what the user has to know besides. While the operation lasts, its notes stand behind each of its reports.
+  /// Adds a note to the report. Notes stay after every further report until the operation ends.
   void note(const QString& text);
-  /// How many reports and notes there were so far.
+  /// The number of reports and notes so far.
   int told() const { return told_; }
 
  protected:
@@ -25,14 +25,14 @@ class StatusLine {
   friend class Telling;
   void showAll();
 
-  QString report_;     ///< the last one of the running operation
-  QStringList notes_;  ///< those of the running operation
+  QString report_;     ///< the last report of the running operation
+  QStringList notes_;  ///< the notes of the running operation
   int tellings_ = 0;
   int told_ = 0;
 };
 
-/// An operation, as far as its reports go: of what it tells, the status line shows the last report and all notes. An
-/// operation inside another one tells with that.
+/// Brackets an operation: the status line shows its last report and all its notes together. An operation inside another
+/// one belongs to that.
 class Telling {
  public:
   explicit Telling(StatusLine& status) : status_(status), before_(status.told_) { ++status_.tellings_; }
@@ -40,7 +40,7 @@ class Telling {
   Telling(const Telling&) = delete;
   Telling& operator=(const Telling&) = delete;
 
-  /// Says that the operation has succeeded, unless something was told since it began.
+  /// Reports success, unless there was a report or a note since the operation began.
   void success(const QString& text);
 
  private:
@@ -48,14 +48,14 @@ class Telling {
   int before_;
 };
 
-/// The form of a report: "Error while reading Theme [" + description + "]".
+/// The text of an error report, for example "Error while reading Theme [no such file]".
 QString reportText(const QString& step, const QString& description);
 
-/// Runs `work` as an operation under a failure guard: a Failure (or the want of memory) ends it and is shown as
-/// reportText(step, ...). Gives whether the work came to its end.
+/// Runs `work` as an operation. A Failure, or a lack of memory, ends it and is reported as reportText(step, ...).
+/// Returns whether the work was completed.
 bool guarded(StatusLine& status, const QString& step, const std::function<void()>& work);
 
-/// The same guard for operations that fail without a word.
+/// The same, but reports nothing.
 bool guardedSilently(const std::function<void()>& work);
 
 }  // namespace platform

@@ -6,11 +6,11 @@
 
 namespace platform {
 
-/// Walks the lines of a text file held in memory; a line ends in CR LF, LF or CR, and at the end of the file.
+/// Iterates over the lines of a text in memory. A line ends in CR LF, LF or CR, or at the end of the text.
 class TextLines {
  public:
   explicit TextLines(QByteArrayView bytes) : rest_(bytes) {}
-  /// The next line without its end; none behind the last one. Its bytes are those of the file.
+  /// The next line without its line end, or none after the last one. It refers to the text's bytes.
   std::optional<QByteArrayView> next();
 
  private:

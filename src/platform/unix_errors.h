@@ -5,10 +5,10 @@
 
 #include "platform/file_bytes.h"
 
-/// Error numbers of system calls, for the files that make them.
+/// From the results of system calls to errors.
 namespace platform {
 
-/// 0, or the error number that a call which gave -1 left behind.
+/// The error number of a failed call (-1), or 0.
 inline int errorNumber(int result) {
   return result < 0 ? errno : 0;
 }
@@ -18,7 +18,7 @@ inline std::optional<FileError> errorOf(int number) {
   return FileError{qt_error_string(number), number == ENOENT || number == ENOTDIR};
 }
 
-/// For what is neither file nor folder: a pipe, a device, a socket.
+/// The error for a pipe, a device or a socket.
 inline FileError noRegularFile() {
   return {QStringLiteral("It is no regular file")};
 }
