@@ -5,12 +5,12 @@
 
 namespace drawing {
 
-/// Bytes of a bitmap's row: its pixels, filled up to whole groups of four bytes.
+/// The length in bytes of a bitmap's row, which is padded to a multiple of four.
 constexpr qint64 bytesPerRow(qint64 width, qint64 bitsPerPixel) {
   return (width * bitsPerPixel + 31) / 32 * 4;
 }
 
-/// Whether a pixel counts as seen where there is no half: by half its alpha.
+/// Whether a pixel is visible in a format without partial transparency: at an alpha of 128 and more.
 constexpr bool isSeen(QRgb pixel) {
   return qAlpha(pixel) >= 128;
 }

@@ -16,7 +16,7 @@ constexpr quint32 OldHeaderSize = 12;
 constexpr quint32 HeaderSizes[] = {OldHeaderSize, 40, 64, 108, 124};
 enum Compression : quint32 { Plain = 0, Runs8 = 1, Runs4 = 2 };
 
-/// Whether the runs fill every row of the picture and close with their end mark.
+/// Whether run-length coded pixels fill every row of the picture and finish with the end mark.
 bool runsFill(platform::ByteCursor cursor, bool fourBits, qint64 width, qint64 height) {
   enum Escape : quint8 { EndOfLine, EndOfPicture, Move };
   qint64 x = 0;
@@ -62,7 +62,7 @@ bool isWholeBmp(QByteArrayView bytes) {
   const quint32 listed = old ? 0 : cursor.little32();
   if (!cursor.inside() || width <= 0 || height <= 0) return false;
 
-  // A wrong offset can't reach back into the header and its colours.
+  // The pixels can't begin before the end of the header and its colours, whatever the offset says.
   const qint64 colors = bits > 8 ? 0 : listed > 0 ? listed : 1 << bits;
   const qint64 pixels = std::max<qint64>(offset, FileHeaderSize + header + colors * (old ? 3 : 4));
   if (compression == Runs8 || compression == Runs4) {

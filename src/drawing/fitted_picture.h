@@ -5,13 +5,13 @@
 
 namespace drawing {
 
-/// The part of a picture drawn at `target`, in pixels from its top left, whose fitted pixels serve the surface: what it
-/// shows, and beyond that all rows that fit it. A row is worked out from the place where it begins and to the place
-/// where it ends, so that another cut at its sides gives other pixels. Empty when nothing shows.
+/// The part of a picture drawn at `target` that has to be scaled for the surface, relative to the target's top left. It
+/// is what the surface shows, with all rows of a target that is no higher than the surface. Empty if nothing shows. The
+/// sides have to match what the surface shows, since the pixels of a scaled row depend on where it is cut.
 QRect partOnSurface(const QRect& target);
 
-/// That part of the picture stretched to `size`, ready to be blended at its own size: the pixels that drawing it
-/// stretched would blend. A picture of that size is only cut. Throws std::bad_alloc.
+/// Scales the picture to `size` and returns that part of it, ready to be blended without scaling. The result is the
+/// same as drawing the picture scaled. A picture that has this size already is only cut. Throws std::bad_alloc.
 QImage fittedPicture(QImage picture, const QSize& size, const QRect& part);
 
 }  // namespace drawing

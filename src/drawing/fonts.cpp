@@ -14,8 +14,8 @@ struct Substitute {
   QFont::Weight weight;
 };
 
-/// What stands in for a face that isn't installed: open fonts from the distribution's packages. The last row serves
-/// every other face.
+/// Substitutes for faces that aren't installed: free fonts from the distribution's packages. The last row is for every
+/// other face.
 constexpr Substitute Substitutes[] = {
     {"Eurostar Regular Extended", "DejaVu Sans", QFont::Normal},
     {"Eurostar Black", "Lato", QFont::Black},
@@ -26,8 +26,8 @@ constexpr Substitute Substitutes[] = {
     {nullptr, "Liberation Sans", QFont::Normal},
 };
 
-/// Whether the machine has the face itself. The font's own answer takes a hundredth of the time of a list of families;
-/// a family that two makers offer has the maker behind its name.
+/// Whether the face is installed. Asking the font takes a hundredth of the time of listing all families. A family that
+/// two foundries offer has the foundry in brackets after its name.
 bool isInstalled(const QString& face) {
   const QString family = QFontInfo(QFont(face)).family();
   return family.compare(face, Qt::CaseInsensitive) == 0 ||

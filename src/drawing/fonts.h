@@ -5,20 +5,20 @@
 
 namespace drawing {
 
-/// A font isn't drawn larger than this.
+/// The largest size at which a font is drawn.
 constexpr double LargestPoints = 2160;
 
-/// The font without hinting and without colour fringes, so that a text is the same picture on every machine with the
-/// same fonts.
+/// The font with plain grey antialiasing: no hinting and no colour fringes. So a text has the same pixels on every
+/// machine with the same fonts.
 QFont inGreySteps(const QFont& font);
 
-/// The font of a face, or its substitute where the machine lacks it, in grey steps and still without a size.
+/// The font of a face or, if it isn't installed, of its substitute. Its size is not set yet.
 QFont faceFont(const QString& face);
 
-/// The font of a control: the face at a height in pixels.
+/// The font of a face at a size in pixels, for controls.
 QFont controlFont(const QString& face, int pixels);
 
-/// The font of a property as it is drawn: its face or what stands in for it, at its own size.
+/// The font that is drawn for a font property: of its face or the substitute, in its own size and style.
 QFont drawnFont(const QFont& font);
 
 }  // namespace drawing

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int LargestCodeBits = 12;
 
-/// Joins data blocks, each with its length in front, up to the empty one that ends them.
+/// Joins the data blocks up to the empty one at their end. Each block starts with its length.
 QByteArray takeBlocks(platform::ByteCursor& cursor) {
   QByteArray data;
   for (int size = cursor.byte(); size != 0 && cursor.inside(); size = cursor.byte()) data += cursor.take(size);
@@ -24,13 +24,13 @@ void skipColors(platform::ByteCursor& cursor, quint8 flags) {
   if (flags & HasTable) cursor.skip(3 << ((flags & 7) + 1));
 }
 
-/// The code table of a compressed picture, of which only the length of each code's string is kept.
+/// The code table of the compression. It holds only how many pixels each code stands for.
 class CodeTable {
  public:
   explicit CodeTable(int rootBits) : rootBits_(rootBits), clear_(1 << rootBits) { clear(); }
 
   int bits() const { return bits_; }
-  /// The pixels that the code stands for; none at the end code or a wrong one.
+  /// The number of pixels that the code stands for; none for the end code or a wrong code.
   std::optional<qint64> pixelsOf(int code) {
     if (code == clear_) {
       clear();
@@ -59,7 +59,7 @@ class CodeTable {
   std::array<qint64, 1 << LargestCodeBits> lengths_{};
 };
 
-/// Whether the codes stand for as many pixels as wanted.
+/// Whether the codes stand for at least so many pixels.
 bool codesFill(const QByteArray& data, int rootBits, qint64 wanted) {
   if (rootBits < 1 || rootBits >= LargestCodeBits) return false;
   CodeTable table(rootBits);

@@ -6,25 +6,25 @@
 
 namespace drawing {
 
-/// The drawing session that a texture opens, draws through and closes again. Results are 0 for success, as the service
-/// that it stands for counts them. A session that failed draws nothing. Tests derive from it to make a step fail.
+/// The session in which a texture is drawn. Each step returns 0 for success; a session in which a step failed draws
+/// nothing. Tests override a step to make it fail.
 class Graphics {
  public:
   virtual ~Graphics() = default;
   /// Begins a session.
   virtual int startup();
-  /// Binds a drawing object to the surface's pixels.
+  /// Creates a drawing object for the surface.
   virtual int createFrom(Surface& surface);
   /// Frees the drawing object.
   virtual int deleteObject();
   /// Ends the session.
   virtual void shutdown();
 
-  /// Whether a drawing object has been made and not been freed.
+  /// Whether there is a drawing object.
   bool created() const { return surface_ != nullptr; }
-  /// The picture at its own size; nothing without a drawing object or a picture.
+  /// Draws the picture at its own size. Draws nothing without a drawing object.
   void drawImage(const QImage& picture, int x, int y);
-  /// The picture scaled to fill the rectangle.
+  /// Draws the picture scaled to the rectangle.
   void drawImageRect(const QImage& picture, int x, int y, int w, int h);
 
  private:

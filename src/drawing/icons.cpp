@@ -19,7 +19,7 @@ constexpr quint32 BitmapHeaderSize = 40;
 constexpr qsizetype EntryPlace = 6;
 constexpr qsizetype EntrySize = 16;
 
-/// What precedes the pixels of an icon's image.
+/// The header of an icon's image.
 struct Head {
   int width = 0;
   int height = 0;
@@ -62,7 +62,7 @@ QRgb colorAt(QByteArrayView row, int x, int bits, const std::vector<QRgb>& palet
   return qRgb(pixel[2], pixel[1], pixel[0]);
 }
 
-/// The colours of the pixels in the order of their values.
+/// The colours that occur in the picture, sorted.
 std::vector<QRgb> colorsOf(const QImage& picture) {
   std::vector<QRgb> colors;
   for (int y = 0; y < picture.height(); ++y) {
@@ -119,7 +119,7 @@ std::optional<IconBitmaps> readIcon(QByteArrayView file) {
   const QSize size(head->width, head->height);
   IconBitmaps icon{QImage(size, QImage::Format_RGB32), QImage(size, QImage::Format_RGB32)};
   for (int y = 0; y < head->height; ++y) {
-    const int stored = head->height - 1 - y;  // the bottom row comes first
+    const int stored = head->height - 1 - y;  // rows are stored from bottom to top
     const QByteArrayView colorRow = colors.sliced(stored * colorSize, colorSize);
     const QByteArrayView maskRow = masks.sliced(stored * maskSize, maskSize);
     for (int x = 0; x < head->width; ++x) {

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <utility>
 
-// Behind <cstdio>, and in this order.
+// These need <cstdio> before them, and this order.
 #include <jerror.h>
 #include <jpeglib.h>
 
@@ -14,14 +14,15 @@ namespace drawing {
 
 namespace {
 
-/// Warnings of the library about the form of the file; all others mean lost pixels.
+/// Warnings of the library that cost no pixels; all others do.
 constexpr int Harmless[] = {JWRN_ADOBE_XFORM, JWRN_BOGUS_PROGRESSION, JWRN_EXTRANEOUS_DATA,
                             JWRN_JFIF_MAJOR,  JWRN_NOT_SEQUENTIAL,    JWRN_TOO_MUCH_DATA};
 
-/// Passes that a progressive picture may take; none needs near as many, and each goes over all pixels.
+/// The limit for the passes of a progressive picture. Real pictures have far fewer, and each pass takes as long as the
+/// whole picture.
 constexpr int MostScans = 100;
 
-/// The library's own way to report, and the place to go on at when it gives up.
+/// The library's error handling, with the place to jump to when decoding fails.
 struct Reports {
   jpeg_error_mgr library;
   std::jmp_buf end;
@@ -41,7 +42,7 @@ void onProgress(j_common_ptr state) {
   if (reinterpret_cast<j_decompress_ptr>(state)->input_scan_number > MostScans) giveUp(state);
 }
 
-/// Decodes one file. The library's jumps pass over no object that has to be destroyed.
+/// Decodes one file. The library's jumps skip no destructor, since decode has no local objects that need one.
 class Decoder {
  public:
   Decoder() {
@@ -80,7 +81,7 @@ class Decoder {
   QImage takePicture() { return std::move(picture_); }
 
  private:
-  /// Four inks, stored as what they leave of the light.
+  /// Converts a row of CMYK, in which each ink is stored inverted.
   void colorsOfPrint(QRgb* row) const {
     for (JDIMENSION x = 0; x < state_.output_width; ++x) {
       const auto* const ink = reinterpret_cast<const uchar*>(row + x);
@@ -89,7 +90,7 @@ class Decoder {
     }
   }
 
-  /// Whether no component, and no bit of a progressive one, was left to a scan that never came.
+  /// Whether every component has all its data. A cut progressive file lacks scans.
   bool hasAllScans() const {
     for (int i = 0; i < state_.num_components; ++i) {
       if (state_.comp_info[i].quant_table == nullptr) return false;

@@ -5,9 +5,8 @@
 
 namespace drawing {
 
-/// The picture in a JPEG file, as Format_ARGB32. Null when it claims more pixels than `largest`, is damaged, or lacks
-/// data of any part: the library that Qt decodes with fills such a part up and calls it a warning, which Qt doesn't
-/// pass on.
+/// Decodes a JPEG file into Format_ARGB32. Null if it has more pixels than `largest`, is damaged, or lacks data. Qt's
+/// own decoder would fill in lacking data and hide the library's warning.
 QImage decodeJpeg(QByteArrayView bytes, qint64 largest);
 
 }  // namespace drawing

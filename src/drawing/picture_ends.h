@@ -2,14 +2,14 @@
 
 #include <QByteArrayView>
 
-/// Whether a picture's file holds all of its pixels. The decoders fill up what a cut or damaged file lacks and call it
-/// a success; here the structure of the file is walked, and no pixel decoded. The bytes begin with the mark of their
-/// kind.
+/// Check that a picture's file is complete. Qt's decoders fill in what a cut or damaged file lacks and report success.
+/// These functions follow the structure of the file without decoding a pixel. The bytes have to begin with the mark of
+/// their format.
 namespace drawing {
 
-/// A run-length coded one that leaves pixels out counts as cut.
+/// A run-length coded picture that skips pixels counts as incomplete.
 bool isWholeBmp(QByteArrayView bytes);
-/// To the end of the first frame.
+/// Checks up to the end of the first frame.
 bool isWholeGif(QByteArrayView bytes);
 bool isWholePng(QByteArrayView bytes);
 

@@ -16,19 +16,18 @@ namespace drawing {
 
 namespace {
 
-/// The largest picture that is decoded, and the largest file that is read for one: 256 MB, as 32-bit pixels and on
-/// disk.
+/// The limit for a picture's file, and for its pixels in memory.
 constexpr int LargestMegabytes = 256;
 constexpr qint64 LargestBytes = static_cast<qint64>(LargestMegabytes) * 1024 * 1024;
 constexpr qint64 LargestPixels = LargestBytes / 4;
 
 struct Kind {
-  const char* mark;  ///< the bytes at the head of such a file
+  const char* mark;  ///< the first bytes of such a file
   const char* format;
   bool (*isWhole)(QByteArrayView bytes);
 };
 
-// JPEG has a decoder of its own, which tells itself what is missing.
+// The JPEG decoder checks by itself that the file is complete.
 constexpr Kind Kinds[] = {
     {"BM", "bmp", isWholeBmp},
     {"GIF8", "gif", isWholeGif},
@@ -44,7 +43,7 @@ const Kind* kindOf(QByteArrayView bytes) {
   return nullptr;
 }
 
-/// Whether the file can be a picture by its size and head: nothing more is read of it for that.
+/// Whether the file can be a picture, by its size and first bytes. Nothing more is read.
 bool mayBePicture(QFile& file) {
   return file.size() <= LargestBytes && kindOf(file.peek(LongestMark));
 }
@@ -63,7 +62,7 @@ QImage decodePicture(QByteArrayView bytes) {
   reader.setAutoDetectImageFormat(false);
   reader.setAutoTransform(false);
   const QSize size = reader.size();
-  // The height is below 0 where the rows run from top to bottom.
+  // The height is negative if rows are stored from top to bottom.
   if (std::abs(static_cast<qint64>(size.width()) * size.height()) > LargestPixels) return {};
   QImage picture = reader.read();
   if (picture.isNull()) return {};

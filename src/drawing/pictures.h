@@ -6,12 +6,12 @@
 
 namespace drawing {
 
-/// The picture in a file, as Format_ARGB32 (not premultiplied) with its own pixels: the decoder is chosen by content,
-/// BMP, GIF (first frame), JPEG and PNG only; no turning by stored orientation, no colour space conversion. Null when
-/// the file can't be read, is no picture of these, is or claims to be enormous, or decodes only in part.
+/// Reads a BMP, GIF (first frame), JPEG or PNG file into Format_ARGB32. The format is told from the contents. A stored
+/// orientation or colour space is ignored. Null if the file can't be read, has another format, is larger than 256 MB on
+/// disk or in memory, or is incomplete.
 QImage LoadPicture(const QString& path);
 
-/// The same from bytes.
+/// The same for the file's bytes.
 QImage decodePicture(QByteArrayView bytes);
 
 }  // namespace drawing

@@ -12,13 +12,13 @@ namespace {
 
 constexpr QRgb Black = qRgb(0, 0, 0);
 
-/// Puts each channel of the two colours through the rule.
+/// Applies the rule to each channel of two colours.
 template <typename Rule>
 QRgb eachChannel(QRgb first, QRgb second, const Rule& rule) {
   return qRgb(rule(qRed(first), qRed(second)), rule(qGreen(first), qGreen(second)), rule(qBlue(first), qBlue(second)));
 }
 
-/// Step i of a ramp of n + 1 colours that reaches its end.
+/// Colour i of a ramp from colour 0 to colour n.
 QRgb rampEntry(QRgb start, QRgb end, qint64 i, qint64 n) {
   return eachChannel(start, end, [&](int from, int to) {
     return n == 0 ? from / 2 + to / 2 : static_cast<int>(from + (to - from) * i / n);
@@ -54,7 +54,8 @@ void GradientFill(Raster& raster, int left, int top, int right, int bottom, QRgb
 void PaintRamp(Raster& raster, int x, int y, int width, int height, QRgb start, QRgb end, int kind) {
   const QRect shown = QRect(x, y, width, height) & raster.rect();
   if (width < 1 || height < 1 || shown.isEmpty()) return;
-  // How far a step to the right and a step down move along the ramp, and where its top left pixel lies on it.
+  // `right` and `down` tell how far a pixel to the right and a pixel down move along the ramp; `first` is the ramp
+  // entry of the top left pixel.
   const struct {
     int kind;
     int right;

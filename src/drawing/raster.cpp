@@ -52,7 +52,7 @@ void Raster::RoundRect(int left, int top, int right, int bottom, int diameter, Q
   const QRect& edges = box.edges();
   for (int y = std::max(edges.top(), 0); y <= std::min(edges.bottom(), Height() - 1); ++y) {
     const int inset = box.inset(y);
-    // The outline reaches inwards as far as the neighbouring row doesn't cover this one.
+    // In a row the outline covers what the corner cuts off from the row above or below, and at least one pixel.
     const int covered = y == edges.top() || y == edges.bottom()
                             ? edges.width() - inset
                             : std::max({box.inset(y - 1), box.inset(y + 1), inset + 1});

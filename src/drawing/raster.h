@@ -10,8 +10,8 @@ class QPainter;
 
 namespace drawing {
 
-/// A surface of opaque pixels for a control that draws itself. Right and bottom edges lie outside, edges given in the
-/// wrong order are swapped, and what falls outside the surface is left out.
+/// The opaque pixels of a control that draws itself. Right and bottom edges don't belong to a shape; edges in the wrong
+/// order are swapped; drawing is cut off at the raster's edges.
 class Raster {
  public:
   explicit Raster(const QSize& size = {}, QRgb color = 0xFF000000U);
@@ -20,23 +20,22 @@ class Raster {
   int Height() const { return image_.height(); }
   QRect rect() const { return image_.rect(); }
   const QImage& image() const { return image_; }
-  /// The pixels themselves, for text and pictures.
+  /// For painting text and pictures.
   QImage& image() { return image_; }
-  /// The pixels of a row, as many as the surface is wide.
+  /// The pixels of a row.
   QRgb* pixelRow(int y) { return reinterpret_cast<QRgb*>(image_.scanLine(y)); }
 
-  /// The whole surface in one colour.
+  /// Fills the whole raster.
   void wipe(QRgb color);
   void setPixel(int x, int y, QRgb color);
-  /// From the first point to the second, the second left out.
+  /// Draws from the first point up to, but without, the second.
   void Line(int x1, int y1, int x2, int y2, QRgb color);
   void FillRect(int left, int top, int right, int bottom, QRgb color);
-  /// An outline, and the inside when it has a colour.
+  /// Draws an outline and, with a fill colour, the inside.
   void Rectangle(int left, int top, int right, int bottom, QRgb outline, std::optional<QRgb> fill = {});
-  /// The same with rounded corners, quarters of an ellipse of this diameter.
+  /// The same with rounded corners of this diameter.
   void RoundRect(int left, int top, int right, int bottom, int diameter, QRgb outline, std::optional<QRgb> fill = {});
-  /// Makes transparent what lies outside the region of a rounded rectangle. The region ends one pixel short of the
-  /// given right and bottom.
+  /// Makes all outside a rounded rectangle transparent. The rectangle is one pixel narrower and lower than given.
   void clipToRoundRect(int left, int top, int right, int bottom, int diameter);
 
  private:
@@ -45,7 +44,7 @@ class Raster {
   QImage image_;
 };
 
-/// Puts the raster on a window, a pixel a unit: sharp at whole scale factors, smooth at others.
+/// Paints the raster on a window. The pixels are sharp at whole scale factors and smoothed at others.
 void Show(QPainter& painter, const Raster& raster);
 
 }  // namespace drawing

@@ -8,8 +8,8 @@ namespace drawing {
 
 namespace {
 
-/// The insets of the upper rows of a quarter ellipse, row by row down to the first that isn't cut. A pixel belongs to
-/// the shape when its centre lies at least a quarter of a pixel inside the ellipse.
+/// The insets of a rounded corner, row by row from the top down to the first full row. A pixel belongs to the shape if
+/// its centre is at least a quarter of a pixel inside the ellipse.
 std::vector<int> cornerInsets(int width, int height) {
   const auto part = [](int pixel, int diameter) {
     const double fromCentre = 2.0 * pixel + 1 - diameter;

@@ -6,19 +6,19 @@
 
 namespace drawing {
 
-/// The rectangle between two opposite corners in any order; right and bottom lie outside.
+/// The rectangle with these edges, in any order. Right and bottom edges don't belong to it.
 QRect rectangleOf(int left, int top, int right, int bottom);
 
-/// A rectangle whose corners are quarters of an ellipse. The diameter counts without its sign and at most as the
-/// rectangle's own width and height.
+/// A rectangle with rounded corners. The sign of the diameter is ignored; the corners are at most as large as the
+/// rectangle.
 class RoundedBox {
  public:
   RoundedBox(const QRect& edges, int diameter);
 
   const QRect& edges() const { return edges_; }
-  /// How many pixels of a row inside the rectangle the corner cuts off at each end.
+  /// The number of pixels that the corners cut off at each end of a row. The row has to be inside the rectangle.
   int inset(int y) const;
-  /// What belongs to the shape in a row; empty outside.
+  /// The pixels of a row that belong to the shape; empty outside.
   QRect row(int y) const;
 
  private:

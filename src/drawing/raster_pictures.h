@@ -7,28 +7,28 @@
 
 namespace drawing {
 
-/// A bitmap as bytes: rows of blue, green, red, each row filled up to whole groups of four bytes, the bottom row first.
+/// The bytes of a bitmap: blue, green, red for each pixel; rows padded to a multiple of four bytes, from bottom to top.
 struct PixelRows {
   int Width = 0;
   int Height = 0;
   QByteArray bytes;
 };
 
-/// The bytes of a bitmap; the alignment bytes are 0, and so is the colour of a pixel that is wholly transparent.
+/// The bytes of a bitmap. Padding bytes are 0, and so are fully transparent pixels.
 PixelRows GetDIBits(const QImage& bitmap);
 
 enum class RasterOperation { Copy, And, Or };
 
-/// The whole bitmap, stretched to the rectangle by repeating or leaving out pixels.
+/// Draws the bitmap stretched to the rectangle, by repeating or skipping pixels.
 void StretchDIBits(Raster& raster, int x, int y, int width, int height, const PixelRows& rows,
                    RasterOperation operation = RasterOperation::Copy);
 
-/// The picture at its own size, blended by its alpha.
+/// Draws the picture at its own size, blended by its alpha.
 void PaintPicture(Raster& raster, const QImage& picture, int x, int y);
-/// The same stretched to a size. Nothing with a width or a height below 1.
+/// The same, scaled to a size. Draws nothing for a width or height below 1.
 void PaintPicture(Raster& raster, const QImage& picture, int x, int y, int width, int height);
 
-/// The shape of the picture in one colour: the pixels whose alpha is at least a half, so all of one without alpha.
+/// Draws the visible pixels of the picture (see isSeen) in one colour.
 void paintSilhouette(Raster& raster, const QImage& picture, int x, int y, QRgb color);
 
 /// Fills the rectangle with copies of the bitmap, the first at its top left.

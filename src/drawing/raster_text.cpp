@@ -11,7 +11,7 @@ namespace {
 constexpr double PixelsPerPoint = 96.0 / 72;
 constexpr int LargestPixels = static_cast<int>(LargestPoints * 96 / 72);
 
-/// The font in pixels, in grey steps.
+/// The font with its size in pixels and grey antialiasing.
 QFont onPixels(const QFont& font) {
   const int wanted = font.pixelSize() > 0 ? font.pixelSize() : qRound(font.pointSizeF() * PixelsPerPoint);
   const int pixels = std::clamp(wanted, 1, LargestPixels);

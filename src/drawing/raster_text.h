@@ -9,25 +9,25 @@
 
 namespace drawing {
 
-// Sizes are whole pixels; points count 96 an inch. A text is one line, shown as it stands.
+// Text on a raster. Sizes are whole pixels, at 96 pixels per inch. A text is drawn as a single line.
 
 int TextWidth(const QFont& font, const QString& text);
 /// The height of one line.
 int TextHeight(const QFont& font);
 
-/// Prints the text with the top left of its first glyph cell at this place, in grey steps of its colour.
+/// Draws the text with its top left corner at this place.
 void Print(Raster& raster, const QFont& font, const QString& text, int x, int y, QRgb color);
 
-/// Several printings in one font, for the price of little more than one. Nothing else draws on the raster meanwhile.
+/// Draws several texts in one font, which is faster than drawing each by itself. Nothing else may draw on the raster
+/// while it exists.
 class TextPen {
  public:
   TextPen(Raster& raster, const QFont& font);
 
-  /// The advance of the text, and the height of one line.
+  /// The width of the text and the height of a line.
   QSize sizeOf(const QString& text) const;
-  /// Prints as the function of that name does.
   void Print(const QString& text, int x, int y, QRgb color);
-  /// Cuts off what is printed from now on at the edges of the area.
+  /// Cuts off all further text at the edges of the area.
   void clipTo(const QRect& area);
 
  private:
@@ -36,7 +36,7 @@ class TextPen {
   QPainter painter_;
 };
 
-/// Prints the text in the middle of a rectangle's top, cut off at its edges.
+/// Draws the text centred at the top of the rectangle and cut off at its edges.
 void drawText(Raster& raster, const QFont& font, const QString& text, const QRect& area, QRgb color);
 
 }  // namespace drawing

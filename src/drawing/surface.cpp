@@ -12,7 +12,7 @@ namespace drawing {
 
 namespace {
 
-constexpr int DotsPerMeter = 3780;  // 96 an inch
+constexpr int DotsPerMeter = 3780;  // 96 per inch
 constexpr float StartPoints = 8.25F;
 
 QFont fontOf(const QString& face, float points) {
@@ -93,7 +93,7 @@ double Surface::TextHeight(const QString&) const {
 void Surface::Print(const QString& text) {
   const QFontMetricsF metrics(font(), &image_);
   const QPointF baseline(CurrentX, static_cast<double>(CurrentY) + metrics.ascent());
-  // A pixel more on each side, for the soft edges.
+  // Antialiasing may reach one pixel further on each side.
   const QRectF ink = metrics.boundingRect(text).translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
   if (ink.isEmpty()) return;
   QPainter painter(&image_);

@@ -10,7 +10,7 @@
 
 namespace drawing {
 
-/// What stays on a surface from one text to the next.
+/// Position, colour and font of the next text.
 struct Pen {
   float x = 0;
   float y = 0;
@@ -19,8 +19,7 @@ struct Pen {
   float points = 0;
 };
 
-/// The preview's raster of 800 x 600 pixels that keeps what has been drawn on it, with a pen for text. Each drawing
-/// call adds its rectangle to what still has to be shown.
+/// The preview's image of 800 x 600 pixels, with a pen for text. What is drawn is added to the dirty area.
 class Surface {
  public:
   static constexpr int Width = 800;
@@ -30,32 +29,32 @@ class Surface {
 
   const QImage& image() const { return image_; }
 
-  /// The whole surface in one colour, everything drawn before gone.
+  /// Fills the whole surface.
   void wipe(const QColor& color);
-  /// The picture stretched to exactly this rectangle, blended by its alpha (bilinear, edges clamped; a target of the
-  /// picture's own size is a plain blend of its pixels). Empty and negative sizes draw nothing.
+  /// Draws the picture scaled to the rectangle (bilinear) and blended by its alpha. A picture of that size is not
+  /// resampled. Empty and negative sizes draw nothing.
   void drawImageRect(const QImage& picture, int x, int y, int w, int h);
-  /// The picture at its own size.
+  /// Draws the picture at its own size.
   void drawImage(const QImage& picture, int x, int y);
 
-  // The pen. Lengths are pixels, sizes points at 96 an inch.
+  // The pen. Places and lengths are in pixels, font sizes in points at 96 pixels per inch.
   float CurrentX = 0;
   float CurrentY = 0;
   QColor ForeColor;
   const QString& FontName() const { return fontName_; }
   void SetFontName(const QString& face);
   float FontSize() const { return fontSize_; }
-  /// A size of 0 or below isn't set; above 2,160 points counts as 2,160.
+  /// Ignores a size of 0 or below. The largest size is LargestPoints.
   void SetFontSize(float points);
   Pen pen() const { return {CurrentX, CurrentY, ForeColor, fontName_, fontSize_}; }
   void setPen(const Pen& pen);
-  /// Size of the text in the current face and size; an empty text has the height of one line.
+  /// The text's measures in the pen's font. The height is always that of one line.
   double TextWidth(const QString& text) const;
   double TextHeight(const QString& text) const;
-  /// Draws the text in ForeColor with the top left of its first glyph cell at the pen position.
+  /// Draws the text in ForeColor with its top left corner at the pen's place.
   void Print(const QString& text);
 
-  /// What was drawn since the last call, and so has to be shown.
+  /// Returns the area drawn on since the last call.
   QRect takeDirty();
 
  private:
@@ -65,7 +64,7 @@ class Surface {
   QImage image_;
   QString fontName_;
   float fontSize_ = 0;
-  mutable std::optional<QFont> font_;  ///< of name and size, once it was asked for
+  mutable std::optional<QFont> font_;  ///< made from name and size when first needed
   QRect dirty_;
 };
 

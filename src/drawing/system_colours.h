@@ -5,10 +5,10 @@
 
 namespace drawing {
 
-/// Bit 31 of a colour value: the low byte is then an index of the system colours.
+/// If this bit of a colour value is set, the low byte is the index of a system colour.
 inline constexpr quint32 SystemColorBit = 0x80000000U;
 
-/// The system colours, by their index.
+/// The system colours. The values are their indexes.
 enum class SystemColor {
   ScrollBar,
   Desktop,
@@ -43,13 +43,13 @@ constexpr quint32 colorValue(SystemColor color) {
 }
 inline constexpr quint32 ButtonFaceColor = colorValue(SystemColor::ButtonFace);
 
-/// The colour of the classic palette.
+/// The system colour in the classic palette.
 QColor systemColor(SystemColor color);
 
-/// The colour of a 32-bit colour value: red in the low byte, or a system colour when bit 31 is set.
+/// The colour of a colour value: red in the low byte, or a system colour if SystemColorBit is set.
 QColor colorOf(quint32 value);
 
-/// The colour value of a colour: red in the low byte.
+/// The colour value with red in the low byte.
 quint32 colorValue(const QColor& color);
 
 }  // namespace drawing
