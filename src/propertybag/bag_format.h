@@ -2,14 +2,14 @@
 
 #include <QByteArray>
 
-/// What the reader and the writer of stored bags have in common; all numbers little endian.
+/// The format of stored bags, for reader and writer. All numbers are little endian.
 namespace propertybag::bag {
 
 inline constexpr char Mark[] = "-LB";
 inline constexpr quint16 Version = 9;
 inline constexpr quint32 Magic = 0xB293;
 inline constexpr qsizetype HeaderSize = 17;
-/// Bytes that neither count of the bytes behind it covers.
+/// Bytes at the start that the two length fields don't count.
 inline constexpr qsizetype Uncounted = 9;
 
 enum Tag : quint16 { Int16Tag = 2, Int32Tag = 3, StringTag = 8, BooleanTag = 11, ObjectTag = 13 };

@@ -10,14 +10,14 @@ namespace propertybag {
 
 namespace {
 
-/// What ends the reading of a bag.
+/// Thrown when the bytes are no sound bag.
 struct Damage {};
 
 void require(bool sound) {
   if (!sound) throw Damage();
 }
 
-/// Reads from front to back and ends at any byte that isn't there.
+/// Reads from front to back. Throws Damage at the end of the bytes.
 class Reader {
  public:
   explicit Reader(QByteArrayView bytes) : bytes_(bytes) {}
@@ -96,7 +96,7 @@ QVariant valueOf(quint16 tag, Reader& reader) {
   }
 }
 
-/// Reads the record at `from` and moves to the next one; whether it was the last.
+/// Reads the record at `from` and moves `from` to the next one. Returns whether it was the last.
 bool readRecord(QByteArrayView records, qsizetype& from, PropertyBag& bag) {
   Reader reader(records.sliced(from));
   const auto tag = reader.number<quint16>();

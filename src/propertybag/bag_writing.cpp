@@ -12,7 +12,7 @@ namespace propertybag {
 
 namespace {
 
-constexpr double PointsPerPixel = 0.75;  // 96 pixels an inch
+constexpr double PointsPerPixel = 0.75;  // 96 pixels per inch
 
 void appendText(QByteArray& bytes, QStringView text) {
   for (const QChar unit : text) platform::appendLittle<quint16>(bytes, unit.unicode());
@@ -77,7 +77,7 @@ StoredValue storedValue(const PropertyBag::Record& record) {
   }
 }
 
-/// The record with the distance to the next one.
+/// The bytes of a record, with the distance to the next one.
 QByteArray storedRecord(const PropertyBag::Record& record) {
   const QString key = record.key.toLower();
   if (key.isEmpty() || key.size() > 0xFFFF) refuse(record.key);

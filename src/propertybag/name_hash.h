@@ -4,8 +4,8 @@
 
 namespace propertybag {
 
-/// The hash that stands beside a property's name in a stored bag; `name` is in lower case. From the first letter to the
-/// last the hash is turned left by 13 bits and the letter's code unit put in by an exclusive or.
+/// The hash of a property's name in a stored bag. `name` has to be in lower case. For each letter the hash is rotated
+/// left by 13 bits, then XORed with the letter.
 quint32 nameHash(QStringView name);
 
 }  // namespace propertybag

@@ -8,13 +8,13 @@
 
 namespace propertybag {
 
-/// A picture as a bag keeps it: the bytes of an image file.
+/// A picture in a bag: the bytes of an image file.
 struct StoredPicture {
   QByteArray file;
   bool operator==(const StoredPicture&) const = default;
 };
 
-/// The store of a control's properties: keys whatever their case, values that equal their default left out.
+/// Stores the properties of a control. The case of keys is ignored. Values that equal their default are left out.
 class PropertyBag {
  public:
   struct Record {
@@ -22,13 +22,12 @@ class PropertyBag {
     QVariant value;
   };
 
-  /// The stored value of the key, or `defaultValue` when it isn't stored.
+  /// The value of the key, or `defaultValue` if it isn't stored.
   QVariant ReadProperty(const QString& key, const QVariant& defaultValue) const;
-  /// Stores the value behind the others, or in its place when the key is there; one equal to `defaultValue` is left
-  /// out.
+  /// Stores the value after the others, or replaces the key's value in its place. Removes one equal to `defaultValue`.
   void WriteProperty(const QString& key, const QVariant& value, const QVariant& defaultValue);
   bool contains(const QString& key) const;
-  /// In the order in which they were first written.
+  /// The records in the order in which they were first written.
   std::vector<Record> records() const;
 
  private:

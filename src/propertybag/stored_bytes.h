@@ -9,13 +9,13 @@
 
 namespace propertybag {
 
-/// The stored bytes of a bag, its records in order. A value is a qint16, an int or quint32, a QString, a bool, a QFont
-/// (with the face's own name) or a StoredPicture; a value of another type, a font whose name isn't in the code page or
-/// is longer than a byte counts, and a key of more than 65,535 letters can't be stored: throws Failure.
+/// Writes a bag as bytes. Values may be qint16, int, quint32, QString, bool, QFont and StoredPicture. Throws Failure
+/// for any other type, for a font whose name isn't in the code page or is longer than 255 bytes, and for a key of more
+/// than 65,535 letters.
 QByteArray storedBytes(const PropertyBag& bag);
 
-/// The bag of stored bytes; none when anything in them isn't as it was written: a bag is taken whole or not at all.
-/// Numbers of 32 bits come as int. A font's character set and flags are passed over.
+/// Reads a bag from bytes. None if any of them is wrong. 32-bit numbers become int. A font's character set and flags
+/// are ignored.
 std::optional<PropertyBag> bagOfBytes(QByteArrayView bytes);
 
 }  // namespace propertybag

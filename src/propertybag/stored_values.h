@@ -10,8 +10,8 @@
 
 namespace propertybag {
 
-/// A stored value as a member's type; none when it is of another kind or beyond the type's range. Any number serves as
-/// a quint32, which is how colours are kept: those of the system come as negative numbers.
+/// A stored value converted to a member's type. None if it has another type or is out of range. Any number is accepted
+/// as quint32, the type of colours: system colours are stored as negative numbers.
 template <typename T>
 std::optional<T> storedAs(const QVariant& value) {
   if constexpr (std::is_integral_v<T> && !std::is_same_v<T, bool>) {
@@ -26,9 +26,9 @@ std::optional<T> storedAs(const QVariant& value) {
   }
 }
 
-/// The size in pixels, kept in hundredths of a millimetre at 96 pixels an inch; none when it isn't stored.
+/// The control's size in pixels, or none. It is stored in hundredths of a millimetre, at 96 pixels per inch.
 std::optional<QSize> storedSize(const PropertyBag& bag);
-/// Belongs in front of a control's own keys.
+/// Has to be called before the control's own keys are written.
 void storeSize(PropertyBag& bag, const QSize& pixels);
 
 }  // namespace propertybag
