@@ -77,7 +77,7 @@ void fillThemeColors(ModuleState& state) {
   const QString list = GetINI(QStringLiteral("Colors"), std::nullopt, QString(), file, ListBufferSize);
   if (list.isEmpty()) return;
   auto row = state.ThemeColors.begin();
-  // The list ends in one empty element, which takes a row as well.
+  // The last element is empty, and takes a row as well.
   for (const QString& name : list.split(QChar(0))) {
     if (row == state.ThemeColors.end()) throw platform::Failure(QStringLiteral("more than 99 colours"));
     *row++ = {name, GetINI(QStringLiteral("Colors"), name, QStringLiteral("0 0 0"), file)};

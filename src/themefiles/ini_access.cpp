@@ -11,14 +11,14 @@
 namespace themefiles {
 namespace {
 
-/// A Default without the blanks behind it; those before it stay.
+/// A Default without blanks at its end.
 QByteArray defaultBytes(const QString& text) {
   QByteArray bytes = platform::toAnsi(text).value_or(QByteArray());
   while (bytes.endsWith(' ')) bytes.chop(1);
   return bytes;
 }
 
-/// What a buffer of that size takes of a value, or of the Default without one.
+/// The value, or else the Default, cut to the buffer's size.
 QString shown(const std::optional<QByteArray>& value, const QString& text, qint16 bufferSize) {
   return platform::fromAnsi((value ? *value : defaultBytes(text)).left(bufferSize - 1));
 }
@@ -27,7 +27,7 @@ bool holdsLineEnd(const QString& text) {
   return text.contains(u'\r') || text.contains(u'\n') || text.contains(QChar(0));
 }
 
-/// The bytes of a text that an ini file can hold on one line. Throws Failure for any other.
+/// The text's bytes. Throws Failure if a line of an ini file can't hold it.
 QByteArray lineBytes(const QString& text) {
   if (holdsLineEnd(text)) throw platform::Failure(QStringLiteral("the text holds a line end: %1").arg(text));
   const auto bytes = platform::toAnsi(text);
@@ -35,13 +35,13 @@ QByteArray lineBytes(const QString& text) {
   return *bytes;
 }
 
-/// The key list of a section as a buffer of that size takes it: a longer one loses what the two NULs at its end need.
+/// The key list of a section. A list that is too long is cut so that two NULs still fit into the buffer.
 QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 bufferSize) {
   const QByteArray keys = platform::listProfileKeys(file, section);
   return keys.size() < bufferSize ? keys : keys.left(bufferSize - 2);
 }
 
-/// What an ini file gives back for a written value: one line `k=value`.
+/// The value as it reads back from an ini file.
 std::optional<QByteArray> givenBack(const QByteArray& value) {
   return platform::findProfileValue("[s]\nk=" + value, "s", "k");
 }
@@ -88,7 +88,7 @@ void PutINI(const QString& Section, const QString& Key, const std::optional<QStr
     const auto changed = changedText(old.value_or(QByteArray()), Section, Key, Value);
     if (changed != old) platform::writeFile(FileName, changed);
   } catch (const platform::Failure&) {
-    // The service that this stands for tells nobody either; putINIChecked is for those who must know.
+    // By its contract; putINIChecked reports.
   }
 }
 

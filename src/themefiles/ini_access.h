@@ -10,28 +10,28 @@
 
 #include "platform/profile_reading.h"
 
-/// All keyed access to the ini files: the file on disk is read or changed anew by each call.
+/// Access to the keys of ini files. Each call reads or changes the file on disk.
 namespace themefiles {
 
-/// Buffer sizes in use: for key lists and long texts, and for every other read.
+/// The buffer sizes: for key lists and long texts, and for all else.
 inline constexpr qint16 ListBufferSize = 32000;
 inline constexpr qint16 ValueBufferSize = 256;
 
-/// The bytes of a file; one that can't be read holds nothing.
+/// The bytes of a file; empty if it can't be read.
 QByteArray bytesOrNone(const QString& fileName);
 
-/// The value of a key, at most BufferSize - 1 characters of it; Default (less the blanks behind it) when file, section
-/// or key is missing. Without a Key: all keys of the section, each ended by a NUL, a list that is too long cut at
-/// BufferSize - 2. Reports nothing.
+/// The value of a key, cut to BufferSize - 1 characters. If file, section or key is missing, it is the Default without
+/// blanks at its end. Without a Key it is all keys of the section, each followed by a NUL, cut to BufferSize - 2
+/// characters. Reports no failure.
 QString GetINI(const QString& Section, const std::optional<QString>& Key, const QString& Default,
                const QString& FileName, qint16 BufferSize = ValueBufferSize);
 
-/// One section as it stands in the file at this moment, for who asks for several of its keys: each as GetINI gives it,
-/// from one reading of the file. Lives no longer than the work on that section.
+/// Reads a file once for several keys of one section. Value gives the same as GetINI. Keep it only while working on
+/// that section: it doesn't see later changes of the file.
 class SectionReader {
  public:
   SectionReader(const QString& Section, const QString& FileName);
-  /// The same from the keys of the section, `file` being the bytes that they lie in.
+  /// For keys that were already found in the bytes of `file`.
   SectionReader(QByteArray file, platform::ProfileKeys keys) : file_(std::move(file)), keys_(std::move(keys)) {}
   /// Whether the file has the section.
   bool isThere() const { return lines_.has_value(); }
@@ -39,43 +39,40 @@ class SectionReader {
 
  private:
   QByteArray file_;
-  std::optional<QByteArrayView> lines_;        ///< of file_; none without the section
+  std::optional<QByteArrayView> lines_;        ///< the section's lines in file_
   std::optional<platform::ProfileKeys> keys_;  ///< instead of the lines
 };
 
-/// Sets the key's value in place, adds the key or the section; without a Value removes the key. All other bytes of the
-/// file stay. Text that the code page lacks, or with a line end or NUL in it, is not written; nor is anything when the
-/// file can't be read or written. Gives no result: who must know reads back (see putINIChecked).
+/// Sets the value of a key; adds key and section if they are missing; without a Value removes the key. All other bytes
+/// of the file stay. Fails silently: see putINIChecked. Text that isn't in the code page or contains a line end or NUL
+/// is not written.
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName);
 
-/// PutINI for edits in which a user would believe: throws platform::Failure where that would say nothing, and when the
-/// file doesn't give the value back.
+/// Like PutINI, but reads the value back, and throws platform::Failure if it wasn't written.
 void putINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
                    const QString& FileName);
 
-/// The two halves of it that touch no file or only read one, for who reads and writes the file himself. What PutINI
-/// makes of a file's text; throws platform::Failure for text that an ini file can't hold or would not give back.
+/// The file's text as PutINI would write it. Throws platform::Failure for a text that an ini file can't hold or that
+/// would read back differently.
 QByteArray changedText(const QByteArray& text, const QString& Section, const QString& Key,
                        const std::optional<QString>& Value);
-/// Throws platform::Failure unless the file gives back what was `written` for the key.
+/// Throws platform::Failure unless the file now has the same value for the key as the text `written`.
 void checkReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName);
 
-/// The value of a key, whole; empty without one. Throws platform::Failure when the file can't be read, for who must not
-/// take that for an empty value.
+/// The value of a key at any length; empty without the key. Unlike GetINI it throws platform::Failure if the file can't
+/// be read.
 QString wholeValue(const QString& section, const QString& key, const QString& fileName);
 
-/// Whether the file has the key, for who must not take one that can't be read for one that lacks it: throws
-/// platform::Failure then.
+/// Whether the file has the key. Throws platform::Failure if the file can't be read.
 bool holdsKey(const QString& Section, const QString& Key, const QString& FileName);
 
-/// changedText with the key's whole line, which has the key and "=" in it and no end of its own.
+/// Like changedText, but replaces the key's whole line. `line` has the key and the "=", but no line end.
 QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line);
 
-/// Throws platform::Failure for text that an ini file can't hold on one line: a line end or NUL in it, or a letter
-/// outside the code page.
+/// Throws platform::Failure if the text contains a line end, a NUL or a letter outside the code page.
 void checkLineText(const QString& text);
 
-/// The keys of a section in file order, doubles too, as a key list of ListBufferSize shows them.
+/// The keys of a section in file order, duplicates included. The list is cut as by GetINI with ListBufferSize.
 QStringList keyNames(const QString& Section, const QString& FileName);
 
 }  // namespace themefiles

@@ -3,12 +3,12 @@
 #include <QByteArray>
 #include <QString>
 
-/// Texts that a write would lose, kept in files of their own.
+/// Backups of texts that a write would lose.
 namespace themefiles {
 
-/// Keeps a text beside a file: under its name with `ending` (".old") behind, or, since no kept text takes the place of
-/// another one, with ".old.2" to ".old.9". A text that is kept already isn't kept again. Of nine others the one that
-/// was written first goes. Gives the path, and what went, as a report tells it. Throws platform::Failure.
+/// Writes a backup beside a file: with `ending` (".old") after its name or, if that backup exists, ".old.2" to
+/// ".old.9". A text that has a backup already isn't written again. If there are nine, the oldest is replaced. Returns
+/// the backup's path for a report, which also says what was replaced. Throws platform::Failure.
 QString keepBeside(const QString& path, const QByteArray& bytes, QStringView ending);
 
 }  // namespace themefiles

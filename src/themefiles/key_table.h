@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringView>
 
-/// The keys that the tool window can edit. Any other key of a section can be read in the grid only.
+/// The keys that the tool window can edit. The grid shows all others, too.
 namespace themefiles {
 
 enum class KeyGroup { WholeNumber, Alignment, Font, Switch, Direction, Type, Text, Color, Texture, Decimal };
@@ -14,17 +14,17 @@ enum class KeyGroup { WholeNumber, Alignment, Font, Switch, Direction, Type, Tex
 /// The editor frames of the tool window.
 enum class EditorFrame { Numbers, FloatNumbers, Selection, Color, Texture, Texts };
 
-/// What an editor needs to know of a group. An entry of a list stands for the value in front of its "=".
+/// How a group of keys is edited. An entry of a list starts with its value and "=".
 struct GroupRow {
   KeyGroup group;
   EditorFrame frame;
-  std::span<const QStringView> entries;  ///< of the frame Selection, else empty
+  std::span<const QStringView> entries;  ///< for the frame Selection, else empty
 };
 
-/// A key as its group is looked up by: without blanks at its ends, in upper case.
+/// The form of a key for groupOf: in upper case and without blanks at its ends.
 QString keyIdentity(const QString& key);
 
-/// The group of a key, given by its identity; none for a key outside the table.
+/// The group of a key, given by its keyIdentity; none for other keys.
 std::optional<KeyGroup> groupOf(QStringView key);
 
 const GroupRow& rowOf(KeyGroup group);

@@ -9,26 +9,26 @@ namespace themefiles {
 
 struct NamedColor {
   QString Name;
-  QString Value;  ///< colour string, red first: "150 150 150"
+  QString Value;  ///< red, green and blue: "150 150 150"
 };
 
-/// One screen of the game: what the user sees, and the head of its sections' names.
+/// A screen of the game: the name that the user sees, and the start of its sections' names.
 struct ScreenRow {
   QString Name;
   QString Stem;
 };
 
-/// The files of a theme. While a theme is open the three files are the working copies, ending in ".tmp".
+/// The files of a theme. While a theme is open, the three files are its working copies (".tmp").
 struct ThemePaths {
-  QString ExeDirectory;        ///< game folder, with a trailing separator
+  QString ExeDirectory;        ///< the game folder, with a separator at its end
   QString LanguagesDirectory;  ///< ExeDirectory + "\Languages"; the doubled separator stays
   QString ThemeFile;
-  QString SkinDirectory;  ///< where skin files and textures lie, without a trailing separator
+  QString SkinDirectory;  ///< the folder of skin files and textures, without a separator at its end
   QString SkinFile;
   QString LanguageFile;
 };
 
-/// Which tags of a screen's run are listed: comma lists, set only during one ReadTags.
+/// Which tags of a screen are listed. The fields are lists separated by commas. Set only during ReadTags.
 struct TagFilter {
   QString SkipTags;
   QString SkipTagParts;
@@ -36,23 +36,23 @@ struct TagFilter {
   QString OnlyTagParts;
 };
 
-/// Values of the selected section as far as the highlighting cursor needs them, as they stand in the file.
+/// The values of the selected section that its mark needs, as they are in the file.
 struct CursorRecord {
   QString X, Y, W, H, Text;
   qint16 Size = 0;
   quint8 Font = 0;
 };
 
-/// What the program holds beside the files and its windows; lives for the whole run.
+/// The program's state outside its files and windows. There is one while the program runs.
 struct ModuleState {
   ThemePaths paths;
-  bool ThemeOpened = false;  ///< the working copies exist and Paths name them
+  bool ThemeOpened = false;  ///< the working copies exist, and `paths` names them
   bool Changed = false;      ///< a value has been committed since the last Save
-  /// Digests of theme, skin and language file as they were at Open or the last Save.
+  /// Digests of the theme, skin and language file at Open or the last Save. They show changes by other programs.
   std::array<QByteArray, 3> fileDigests;
-  /// The working copies of the three as this program wrote them last: by them it sees that another one has, too.
+  /// The working copies as this program last wrote them. They show changes by other programs.
   std::array<QByteArray, 3> ownCopies;
-  /// The same as Open or Save last copied them: by them the user sees what differs, and gets it back.
+  /// The working copies at Open or the last Save. They show what the user has changed, and bring it back.
   std::array<QByteArray, 3> savedCopies;
 
   quint32 BackgroundColor = 0xFFFFFF;  ///< red in the low byte
@@ -66,10 +66,10 @@ struct ModuleState {
   CursorRecord CursorRect;
   bool EditorShown = false;  ///< an editor frame of the tool window is open
 
-  qint16 ProgressStep = 0;        ///< percent added for each object drawn
-  quint8 SelectedButton = 0;      ///< number from 1 of the button drawn as selected
-  quint8 ButtonCount = 0;         ///< visible buttons counted so far
-  bool ButtonListFilled = false;  ///< the button list belongs to the present screen
+  qint16 ProgressStep = 0;        ///< per cent for each object drawn
+  quint8 SelectedButton = 0;      ///< the button drawn as selected, counted from 1
+  quint8 ButtonCount = 0;         ///< visible buttons so far
+  bool ButtonListFilled = false;  ///< the button list is that of the current screen
 };
 
 }  // namespace themefiles

@@ -48,8 +48,8 @@ constexpr std::array<Screen, 32> Screens{{
     {u"Error Popup", u"ErrorPopup"},
 }};
 
-/// A screen that shows a filtered view of its run. `otherPlayers` are the digits whose objects the score screens leave
-/// out, written into the two score templates.
+/// The filter of a screen. A score screen has `otherPlayers` instead of lists: the digits of the players that it
+/// doesn't show. They are put into the two score templates.
 struct ScreenFilter {
   QStringView screen;
   QStringView skipTagParts;
@@ -81,7 +81,7 @@ constexpr std::array<ScreenFilter, 8> Filters{{
      {}},
 }};
 
-// "#" stands for a player's digit.
+// The score templates. "#" stands for a player's digit.
 constexpr QStringView ScoreTagList =
     u"ScoreTextName#,ScoreTextScore#,ScoreTextNotes#,ScoreTextNotesScore#,ScoreTextLineBonus#,ScoreTextLineBonusScore#,"
     u"ScoreTextGoldenNotes#,ScoreTextGoldenNotesScore#,ScoreTextTotal#,ScoreTextTotalSCore#,ScoreStaticBoxDark#,"
@@ -89,7 +89,7 @@ constexpr QStringView ScoreTagList =
     u"ScoreStaticBoxLightest#,";
 constexpr QStringView ScorePlayerParts = u"ScorePlayer#Text,ScorePlayer#Static,";
 
-/// The template once for each digit, in their order.
+/// The template once for each digit.
 QString forDigits(QStringView digits, QStringView pattern) {
   QString list;
   for (const QChar digit : digits) list += pattern.toString().replace(u'#', digit);

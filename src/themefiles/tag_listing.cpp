@@ -12,7 +12,7 @@
 namespace themefiles {
 namespace {
 
-/// Whether an item of the comma list fits the tag, both in upper case.
+/// Whether `fits` is true for an item of the list and the tag, both in upper case. Commas separate the items.
 template <typename Fits>
 bool anyItem(const QString& list, const QString& tag, Fits fits) {
   const QStringList items = platform::upperCase(list).split(u',');
@@ -28,7 +28,7 @@ bool occursIn(const QString& item, const QString& tag) {
   return tag.contains(item);
 }
 
-/// Whether the line is the bare section of another screen than `stem`'s: the end of the run.
+/// Whether the line ends the run of `stem`: it is the section whose whole name is the stem of another screen.
 bool endsRun(const ModuleState& state, const QString& stem, const QString& line) {
   if (!line.endsWith(u']')) return false;
   const QStringView name = QStringView(line).sliced(1).chopped(1);
@@ -36,8 +36,8 @@ bool endsRun(const ModuleState& state, const QString& stem, const QString& line)
                      [&](const ScreenRow& row) { return row.Stem != stem && row.Stem == name; });
 }
 
-/// Calls `add` with each tag of the screen's run that the filter lets through. `next` gives the theme's lines, or only
-/// those that start with "[".
+/// Calls `add` with each tag of the screen's run that passes the filter. `next` returns the theme's lines one by one;
+/// it may skip those that don't start with "[".
 template <typename Next, typename Add>
 void listTags(const ModuleState& state, const TagFilter& filter, const QString& screenName, Next next, Add add) {
   const QString stem = stemOf(state, screenName);
@@ -46,7 +46,7 @@ void listTags(const ModuleState& state, const TagFilter& filter, const QString& 
   while (const std::optional<QByteArrayView> bytes = next()) {
     if (!bytes->startsWith('[')) continue;
     if (found && endsRun(state, stem, platform::fromAnsi(*bytes))) break;
-    // A letter is a byte, in upper case too: most lines of a large theme go by their first ones.
+    // Only the start of a line is converted, which rules out most lines of a large theme. Each byte is one letter.
     const QByteArrayView first = bytes->first(std::min(bytes->size(), head.size()));
     if (platform::upperCase(platform::fromAnsi(first)) != head) continue;
     const QString line = platform::fromAnsi(*bytes);

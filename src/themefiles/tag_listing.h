@@ -9,11 +9,11 @@
 #include "platform/status_line.h"
 #include "themefiles/module_state.h"
 
-/// Listing the sections of a screen, its tags.
+/// Lists the tags of a screen: the names of its sections.
 namespace themefiles {
 
-/// The list of a screen's tags, with one selected row: the tool window's List1, or a plain list where there is no
-/// window. It keeps its rows sorted in the order of platform::nameLess, which is the order of painting.
+/// The list of a screen's tags with one selected row: the tool window's List1, or SortedTags without a window. The rows
+/// are sorted by platform::nameLess. That is also the order of drawing.
 class TagList {
  public:
   virtual ~TagList() = default;
@@ -22,11 +22,11 @@ class TagList {
   virtual int ListCount() const = 0;
   virtual QString List(int row) const = 0;
   virtual int ListIndex() const = 0;
-  /// Selects the row, which fires its Click. A list in a window throws platform::Failure for a row outside it.
+  /// Selects a row and raises Click. A list in a window throws platform::Failure for a row that doesn't exist.
   virtual void SetListIndex(int row) = 0;
 };
 
-/// A list of tags without a window; its Click has no listener.
+/// A list of tags without a window. It raises no Click.
 class SortedTags : public TagList {
  public:
   void Clear() override;
@@ -42,20 +42,20 @@ class SortedTags : public TagList {
   int index_ = -1;
 };
 
-/// Fills `tags` with the section names of the screen's run in the theme's working copy that the state's filter lets
-/// through, and selects the first row. `DoEvents` is called behind each tag; gives the row that was selected by what
-/// happened in it, -1 without one. Failures are reported, what was listed by then stays.
+/// Lists the tags of the screen's run that pass the state's filter, from the theme's working copy, and selects the
+/// first row. Calls `DoEvents` after each tag. Returns the row that was selected during those calls, or -1. A failure
+/// is reported; the tags listed so far stay.
 int ReadTags(const ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
              const std::function<void()>& DoEvents);
 
-/// ReadTags with the filter that the screen asks for; the state has none before and after.
+/// ReadTags with the screen's own filter. The state has no filter before and after.
 int listScreenTags(ModuleState& state, const QString& screenName, TagList& tags, platform::StatusLine& status,
                    const std::function<void()>& DoEvents);
 
-/// What ReadTags lists of each screen under the screen's own filter, for who asks for many screens.
+/// The tags of any screen, as listScreenTags lists them. For many screens of one theme.
 class ScreenTags {
  public:
-  /// Of a theme's bytes, which have to stay.
+  /// Refers to the bytes of `theme`.
   explicit ScreenTags(QByteArrayView theme);
   QStringList of(const ModuleState& state, const QString& screenName) const;
 
@@ -63,7 +63,7 @@ class ScreenTags {
   std::vector<QByteArrayView> heads_;  ///< the lines that start with "["
 };
 
-/// Whether the filter leaves the tag out.
+/// Whether the filter excludes the tag.
 bool SplitTags(const TagFilter& filter, const QString& Tag);
 
 }  // namespace themefiles

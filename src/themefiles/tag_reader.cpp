@@ -14,12 +14,12 @@ bool isKeyLine(QByteArrayView line) {
   return !line.isEmpty() && line.front() != '#' && line.front() != ';' && line.contains('=');
 }
 
-/// A key line as the grid shows it; `parts` are those of the line at its "=".
+/// The grid's row for a key line that was split at its "=".
 ValueRow rowOf(const QStringList& parts) {
   return {parts[0], platform::trimBlanks(parts[1])};
 }
 
-/// Where a key's text goes in the record; null for a key that the record lacks.
+/// The record's text field for a key, or null.
 QString* textField(CursorRecord& record, const QString& key) {
   if (key == u"X") return &record.X;
   if (key == u"Y") return &record.Y;
@@ -29,7 +29,7 @@ QString* textField(CursorRecord& record, const QString& key) {
   return nullptr;
 }
 
-/// Stores a number that fits its field; the other is told and left out.
+/// Stores the number, or reports that it is out of range.
 template <typename Field>
 void storeNumber(Field& field, std::optional<Field> number, const QString& key, const QString& value,
                  platform::StatusLine& status) {

@@ -11,19 +11,18 @@
 
 namespace themefiles {
 
-/// One key of the selected section, as the value grid shows it.
+/// A row of the value grid: a key of the selected section.
 struct ValueRow {
-  QString Item;   ///< the key as it stands in front of the first "=", blanks included
+  QString Item;   ///< all that precedes the first "=", including blanks
   QString Value;  ///< without blanks at its ends
 };
 
-/// The key lines of the section of that name in the theme's working copy, in file order, doubles too; and the state's
-/// CursorRect filled from them (a later double wins; Font keeps its value in a section without one). A section that
-/// isn't there gives no rows. A file that can't be read, a SIZE beyond 16 bits and a FONT outside a byte are reported;
-/// the record's field then stays.
+/// The key lines of a section in the theme's working copy, in file order, duplicates included. None if the section is
+/// missing. Also fills the state's CursorRect: of duplicates the last one counts, and without a FONT key its Font
+/// stays. Reports a file that can't be read, and a SIZE or FONT that is out of range; such a field stays as it was.
 std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platform::StatusLine& status);
 
-/// The rows of all sections of a theme, as ReadTag gives them; by the name in upper case.
+/// The rows of all sections of a theme, by the section's name in upper case.
 QHash<QString, std::vector<ValueRow>> allTags(QByteArrayView theme);
 
 }  // namespace themefiles

@@ -13,7 +13,7 @@ QStringList namesIn(const QString& folder) {
   try {
     names = platform::listFiles(folder, Ending);
   } catch (const platform::Failure&) {
-    // A folder that can't be listed has nothing to offer.
+    // The list stays empty.
   }
   for (QString& name : names) name.chop(Ending.size());
   return names;

@@ -4,16 +4,16 @@
 
 #include "themefiles/module_state.h"
 
-/// Where the files of a game's themes lie. A game folder ends in a separator; the names of themes, skins and languages
-/// are those of their files without ".ini".
+/// The paths of a game's themes. A game folder ends in a separator. The name of a theme, skin or language is that of
+/// its file without ".ini".
 namespace themefiles {
 
-/// Names in the order of platform::listFiles; none where the folder can't be read.
+/// The names in the order of platform::listFiles; none if the folder can't be read.
 QStringList themesOf(const QString& gameFolder);
 QStringList skinsOf(const QString& gameFolder, const QString& theme);
 QStringList languagesOf(const QString& gameFolder);
 
-/// The game's own files, whether they are there or not.
+/// The paths of the game's files, whether these exist or not.
 ThemePaths pathsOf(const QString& gameFolder, const QString& theme, const QString& skin, const QString& language);
 
 }  // namespace themefiles

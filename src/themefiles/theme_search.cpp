@@ -13,7 +13,7 @@
 namespace themefiles {
 namespace {
 
-// How well an entry fits, the best first.
+// How well an entry matches, the best first.
 enum Rank { SameName, InNames, InLines, NoHit };
 
 bool inLines(const auto& lines, const QString& word) {
@@ -22,7 +22,7 @@ bool inLines(const auto& lines, const QString& word) {
 
 }  // namespace
 
-/// The files while they are read.
+/// The theme's files while the search is built.
 class ThemeSearch::Reading {
  public:
   explicit Reading(const ModuleState& state)
@@ -61,7 +61,7 @@ class ThemeSearch::Reading {
     return lines;
   }
 
-  /// What the language has for the object: under its Text, or under its name without one.
+  /// The object's words in the language file, by its Text key or else by its name.
   QString wordsOf(const QString& object) const {
     const QByteArray name = platform::toAnsi(object).value_or(QByteArray());
     const QByteArray key = platform::findProfileValue(sections_.lines(name), "Text").value_or(name);
@@ -83,7 +83,7 @@ ThemeSearch::ThemeSearch(const ModuleState& state) {
     const QString upperScreen = platform::upperCase(screen.Name);
     entries_.push_back({screen.Name, {}, upperScreen, {}, std::make_shared<const Lines>()});
     for (const QString& object : files.tags().of(state, screen.Name)) {
-      if (entries_.back().object == object) continue;  // a section that is there twice
+      if (entries_.back().object == object) continue;  // the file has the section twice
       entries_.push_back({screen.Name, object, upperScreen, platform::upperCase(object), files.linesOf(object)});
     }
   }
@@ -103,7 +103,7 @@ int ThemeSearch::rankOf(const Entry& entry, const QStringList& words) {
 Hit ThemeSearch::hitOf(const Entry& entry, const QStringList& words) {
   Hit hit{entry.screen, entry.object, -1, {}, entry.screen};
   if (!entry.object.isEmpty()) hit.shown += QStringLiteral(", ") + entry.object;
-  // The line that has most of what the names don't have.
+  // The best line contains most of the words that neither screen nor object has in its name.
   const Line* best = nullptr;
   qsizetype bestCount = 0;
   for (const Line& line : *entry.lines) {

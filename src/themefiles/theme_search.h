@@ -8,32 +8,31 @@
 
 #include "themefiles/module_state.h"
 
-/// Finding objects of a theme by what stands in them.
+/// Finds objects of a theme by their names, values and words.
 namespace themefiles {
 
-/// Where a search leads to: an object of a screen, and the row of its grid that has what was looked for.
+/// What a search has found: an object of a screen, and the row of its grid that matches.
 struct Hit {
   QString screen;
   QString object;  ///< empty for the screen itself
-  int row = -1;    ///< -1 without one
-  QString key;     ///< as the row shows it
-  QString shown;   ///< the whole as the user reads it: "Main Screen, MainTextGo: Text = GO, Go on"
+  int row = -1;    ///< -1 if no row matches
+  QString key;     ///< the key of that row
+  QString shown;   ///< the text of the hit: "Main Screen, MainTextGo: Text = GO, Go on"
 };
 
-/// The best hits first, then in the order of the screens and of their lists.
+/// The best hits first; equally good ones in the order of the screens and of their lists.
 struct Hits {
   std::vector<Hit> first;
-  int count = 0;  ///< with those that are too many
+  int count = 0;  ///< of all hits, including those that are not in `first`
 };
 
-/// What can be found in the theme and the language: the screens, their objects as List1 has them, these with the rows
-/// of their grids and with the words that they show.
+/// Searches the open theme: its screens, and their objects with the rows of their grids and the words that they show.
 class ThemeSearch {
  public:
-  /// Reads the working copies. Throws platform::Failure when one can't be read.
+  /// Reads the working copies. Throws platform::Failure if one can't be read.
   explicit ThemeSearch(const ModuleState& state);
 
-  /// The screens and objects in which every word of `typed` occurs, in any case; at most so many of them.
+  /// The screens and objects that contain every word of `typed`, in any case; at most `most` of them.
   Hits find(const QString& typed, int most) const;
 
  private:

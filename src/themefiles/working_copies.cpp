@@ -25,7 +25,7 @@ QByteArray digest(const QByteArray& bytes) {
   return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
-/// Tells all that `work` notes, also when it fails.
+/// Runs the work, and passes its notes to `status` even if it throws.
 void telling(platform::StatusLine& status, const std::function<void(QStringList& notes)>& work) {
   QStringList notes;
   const auto tell = qScopeGuard([&] {
@@ -46,7 +46,7 @@ void writeCopy(const QString& copy, const QByteArray& bytes) {
   platform::writeFile(copy, bytes, platform::AtLink::Replace);
 }
 
-/// Makes the working copy of a file; gives what stands in both.
+/// Makes the working copy of a file and returns the contents.
 QByteArray makeCopy(const QString& file, QStringList& notes) {
   const QString copy = file + WorkingEnding.toString();
   const QByteArray bytes = platform::readFile(file);
@@ -56,21 +56,20 @@ QByteArray makeCopy(const QString& file, QStringList& notes) {
   return bytes;
 }
 
-/// What an edit or a Save starts from.
+/// The text that an edit or a Save starts from.
 struct Start {
   QByteArray text;
-  bool isThere = true;  ///< in the working copy
+  bool isThere = true;  ///< the working copy has this text
 };
 
-/// Reads a working copy and sees to one that isn't as this program left it; notes what the user has to know of that.
-/// The program's own text is worth keeping only with edits in it. Of one that is gone or
-/// empty that is what the work starts from.
+/// Reads a working copy. If another program has changed it, what this program wrote last is kept, but only if it has
+/// edits in it. If the copy is missing or empty, the result is what this program wrote last.
 Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   const QString& copy = state.paths.*CopiedFiles.at(file);
   const auto standing = readCopy(copy);
   if (!state.ThemeOpened) return {standing.value_or(QByteArray()), standing.has_value()};
   const QByteArray& own = state.ownCopies.at(file);
-  // A program that writes it piece by piece has it empty for a moment.
+  // Another program that rewrites the file may have emptied it for a moment.
   const bool emptied = standing && standing->isEmpty() && !own.isEmpty();
   if (!standing || emptied) {
     const QString note =
@@ -85,8 +84,7 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   return {*standing};
 }
 
-/// Puts what `change` makes of a working copy's text in its place, by one whole-file write, and looks for the keys
-/// in the written file.
+/// Applies `change` to a working copy's text, writes it once, and checks that the file has the keys.
 void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status, const QString& section,
               const QStringList& keys, const std::function<QByteArray(const QByteArray& text)>& change) {
   const size_t file = copyNumber(copy);
@@ -100,7 +98,7 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
   });
 }
 
-/// Copies a text over the game's file.
+/// Writes a text over the game's file. If another program has changed the file, its contents are kept.
 void saveCopy(const QString& file, const QByteArray& bytes, const QByteArray& knownDigest, QStringList& notes) {
   const auto present = platform::readIfThere(file);
   if (present && digest(*present) != knownDigest && present != bytes) {
@@ -109,13 +107,13 @@ void saveCopy(const QString& file, const QByteArray& bytes, const QByteArray& kn
   platform::writeFile(file, bytes);
 }
 
-/// A file and what stood in it.
+/// A file and its former contents.
 struct KeptFile {
   QString path;
   QByteArray bytes;
 };
 
-/// The working copies of the theme that is open, as they are now; none without one.
+/// The current working copies of the open theme, or none.
 std::vector<KeptFile> openCopies(const ModuleState& state) {
   std::vector<KeptFile> copies;
   if (!state.ThemeOpened) return copies;

@@ -9,44 +9,43 @@
 #include "platform/status_line.h"
 #include "themefiles/module_state.h"
 
-/// The working copies that stand in for a theme's three files while it is open.
+/// The working copies of a theme's three files, which take all edits until Save.
 namespace themefiles {
 
-/// Behind the whole name of a file: its working copy.
+/// Added to the whole name of a file, it names the working copy.
 inline constexpr QStringView WorkingEnding = u".tmp";
 
-/// Copies theme, skin and language file of `chosen` to their working copies, in this order, and opens the theme:
-/// the state's paths name the copies, ThemeOpened is set. An older working copy that differs from its file is kept
-/// beside as ".old", and `status` told so. Throws platform::Failure when a copy fails; the copies behind it aren't made
-/// then, the state stays as it was, and so do the working copies of a theme that is open.
+/// Opens a theme: copies its theme, skin and language file to working copies, in this order, and sets the state's paths
+/// to the copies, and ThemeOpened. An older working copy that differs from its file is kept as ".old", with a note to
+/// `status`. If a copy fails, no further one is made; the state and the working copies of an open theme stay as they
+/// were, and platform::Failure is thrown.
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status);
 
-/// changedText on a working copy of the open theme. One that is gone or empty is made anew with the edit in it. Of one
-/// that another program has written since this one did (a second editor of the theme), this program's own text is kept
-/// beside as ".old" (see kept_files.h); the edit goes into what stands there. `status` is told of that. Throws
-/// platform::Failure when the edit can't be written, or isn't there when the file is read again.
+/// Sets a value in a working copy of the open theme, as changedText does. `status` gets a note in two cases: a copy
+/// that is missing or empty is restored with the edit in it; if another program has changed the copy, the edit goes
+/// into the changed text, and what this program wrote last is kept as ".old" (see kept_files.h). Throws
+/// platform::Failure if the edit can't be written, or isn't found when the file is read again.
 void putInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status);
 
-/// changedText for one value after the other, by a single write: keys of one section with their values. All of them are
-/// written, or none.
+/// Sets several values of one section by a single write: either all of them are written, or none.
 void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section,
                      const std::vector<std::pair<QString, QString>>& values, platform::StatusLine& status);
 
-/// The same with changedLine.
+/// Like putInCopy, but sets the key's whole line as changedLine does.
 void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
                    const QByteArray& line, platform::StatusLine& status);
 
-/// Where the arrays of the state have a file: 0 the theme's, 1 the skin's, 2 the language's.
+/// The index of a file in the state's arrays: 0 for the theme, 1 for the skin, 2 for the language.
 size_t copyNumber(QString ThemePaths::*copy);
 
-/// Copies the three working copies over their files, in the order theme, skin, language, and clears Changed. A file
-/// that has changed on disk since it was opened or saved last is kept beside as ".bak", a working copy that another
-/// program has changed or removed is minded as by putInCopy, and `status` told so. Throws platform::Failure when a copy
-/// fails; those behind it aren't made then, and Changed stays.
+/// Saves: copies the working copies over theme, skin and language file, in this order, and clears Changed. A file that
+/// another program has changed since Open or the last Save is kept as ".bak", with a note to `status`. A working copy
+/// that another program has changed or removed is handled as by putInCopy. If a copy fails, no further one is made,
+/// Changed stays, and platform::Failure is thrown.
 void saveWorkingCopies(ModuleState& state, platform::StatusLine& status);
 
-/// Takes the state back to no theme: paths, colours of the theme and screens emptied. The working copies stay on disk.
+/// Resets the state to no open theme. The working copies stay on disk.
 void forgetTheme(ModuleState& state);
 
 }  // namespace themefiles
