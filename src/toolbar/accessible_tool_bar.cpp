@@ -15,7 +15,7 @@ bool hasChevron(const Control& control) {
   return !control.HiddenButtons().empty();
 }
 
-/// A button of the bar, or its chevron.
+/// A button of the toolbar, or its chevron.
 class AccessibleButton : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
   AccessibleButton(QWidget& bar, AccessibleToolBarSource& source, int place)

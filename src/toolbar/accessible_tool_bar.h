@@ -6,22 +6,21 @@
 
 namespace toolbar {
 
-/// What assistive programs need of a toolbar's widget.
+/// What a toolbar's widget offers to assistive programs.
 class AccessibleToolBarSource {
  public:
   virtual ~AccessibleToolBarSource() = default;
   virtual const Control& inner() const = 0;
-  /// The surface of the hidden buttons; null before its properties have been read.
+  /// The window of the hidden buttons; null before the toolbar's properties are read.
   virtual QWidget* popupWindow() const = 0;
-  /// Does what a click of the user on a button or on the chevron (0) would do.
+  /// Does the same as a click on a button, or on the chevron (0).
   virtual void press(int ButtonIndex) = 0;
 };
 
-/// Lets assistive programs see widgets that are such a source, and their buttons; once for the program, further calls
-/// do nothing.
+/// Makes widgets with this interface, and their buttons, visible to assistive programs. Further calls do nothing.
 void installAccessibility();
 
-/// Place among the accessible children of what Button_Index names, -1 for none.
+/// The index of the accessible child that Button_Index stands for, or -1.
 int accessibleChildOf(const Control& control);
 
 }  // namespace toolbar

@@ -6,7 +6,7 @@ namespace toolbar {
 
 namespace {
 
-/// The picture at the top left, as far as it fits.
+/// Copies the picture to the top left, cut at the raster's edges.
 void copyOnto(drawing::Raster& raster, const QImage& picture) {
   for (int y = 0; y < std::min(raster.Height(), picture.height()); ++y) {
     const auto* const row = reinterpret_cast<const QRgb*>(picture.constScanLine(y));

@@ -4,7 +4,7 @@
 
 namespace toolbar {
 
-/// The pixels that buttons are drawn on, and what a wipe restores.
+/// The pixels that buttons are drawn on, and the background that Cls restores.
 class ButtonSurface {
  public:
   static constexpr int LargestSide = 16384;
@@ -14,14 +14,14 @@ class ButtonSurface {
   int ScaleWidth() const { return image_.Width(); }
   int ScaleHeight() const { return image_.Height(); }
 
-  /// Keeps what is drawn, as far as it fits. Sides above LargestSide are cut.
+  /// Keeps what is drawn, cut at the new edges. No side becomes longer than LargestSide.
   void resize(const QSize& size);
   void SetBackColor(QRgb color) { backColor_ = color; }
-  /// Back to the picture, or to the back colour without one.
+  /// Restores the background picture, or else the back colour.
   void Cls();
-  /// Without a picture, all in the back colour.
+  /// Drops the background picture and fills the surface with the back colour.
   void clearPicture();
-  /// What is drawn now becomes the picture.
+  /// Makes what is drawn now the background picture.
   void keepPicture() { picture_ = image_.image(); }
 
  private:

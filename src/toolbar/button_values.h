@@ -6,7 +6,7 @@
 
 namespace toolbar {
 
-/// The fields of a button by number.
+/// The numbers of a button's fields.
 enum PropertyID {
   ButtonTypeProperty = 0,
   CaptionProperty = 1,
@@ -18,10 +18,10 @@ enum PropertyID {
   ToolTipIconProperty = 7,
 };
 
-/// Converts the value to the field's type and stores it; another number stores nothing. An icon is a
-/// PictureReference, a QIcon, a QPixmap or a QImage.
+/// Converts the value to the field's type and stores it. An unknown number stores nothing. An icon may be a
+/// PictureReference, QIcon, QPixmap or QImage.
 void SetValue(ToolbarButton& button, int propertyID, const QVariant& value);
-/// The field's value (an icon as PictureReference), none for another number.
+/// The field's value; an icon is a PictureReference. Invalid for an unknown number.
 QVariant getValue(const ToolbarButton& button, int propertyID);
 
 }  // namespace toolbar

@@ -18,7 +18,7 @@ bool isBreakChar(QChar letter) {
   return !((letter >= u'A' && letter <= u'Z') || (letter >= u'a' && letter <= u'z') || letter == u'_');
 }
 
-/// The blanks at the end, which stand between the line and letters that follow.
+/// The blanks at the end of the text.
 QString blanksBehind(const QString& text) {
   const auto letter = std::find_if(text.rbegin(), text.rend(), [](QChar letter) { return letter != Blank; });
   return text.last(std::distance(text.rbegin(), letter));
@@ -32,7 +32,7 @@ QStringList WrapCaption(const QString& caption, int maxWidth, const std::functio
   if (textWidth(text) < maxWidth) return {text};
   QStringList lines;
   QString buffer;
-  QString cutOff;  // the last line as it was before it lost its blanks
+  QString cutOff;  // the last line before its blanks were trimmed
   qsizetype consumed = 0;
   qsizetype cut = 0;
   for (qsizetype place = 1; place <= text.size(); ++place) {
@@ -48,7 +48,7 @@ QStringList WrapCaption(const QString& caption, int maxWidth, const std::functio
     }
     buffer += letter;
   }
-  // The last letter still has to go out.
+  // The last letter is still in the buffer.
   if (lines.size() == 1 && buffer.size() > 1) {
     lines += platform::trimBlanks(buffer);
   } else {

@@ -10,11 +10,12 @@
 
 namespace toolbar {
 
-/// The caption in lines narrower than `maxWidth`, as measured by `textWidth`; a line breaks before anything but a
-/// letter or "_". Nothing of the caption is lost but blanks at the ends of lines.
+/// Breaks the caption into lines narrower than `maxWidth`, as measured by `textWidth`. A line may break before any
+/// character except a letter or "_". Only blanks at the ends of lines are lost.
 QStringList WrapCaption(const QString& caption, int maxWidth, const std::function<int(const QString&)>& textWidth);
 
-/// Draws the caption centred in the box, in lines; `shift` 1 lifts them by half a line, -1 lowers them as much.
+/// Draws the caption in lines, centred in the box. With a `shift` of 1 it is half a line higher, with -1 half a line
+/// lower.
 void DrawCaption(drawing::Raster& raster, const QFont& font, QRgb color, const QString& caption, const QRect& box,
                  int shift);
 

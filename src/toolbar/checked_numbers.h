@@ -8,7 +8,7 @@
 
 namespace toolbar {
 
-/// The number as an int; throws std::overflow_error when it doesn't fit.
+/// Converts to int. Throws std::overflow_error if the number doesn't fit.
 inline int checkedInt(qint64 number) {
   if (number < std::numeric_limits<int>::min() || number > std::numeric_limits<int>::max()) {
     throw std::overflow_error("a measure beyond its range");
@@ -16,7 +16,7 @@ inline int checkedInt(qint64 number) {
   return static_cast<int>(number);
 }
 
-/// The nearest whole number, a half to the even neighbour.
+/// Rounds to the nearest whole number, a half to the even one. Throws std::overflow_error if it doesn't fit.
 inline int nearestInt(double number) {
   constexpr double limit = 1e15;
   if (!(std::abs(number) < limit)) throw std::overflow_error("a measure beyond its range");

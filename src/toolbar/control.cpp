@@ -71,7 +71,7 @@ void Control::UserControl_Resize() {
   try {
     layOut();
   } catch (const std::exception&) {
-    // What was laid out before stays, and is shown all the same.
+    // Whatever was laid out before the failure is shown.
   }
   if (layout_.popup != popup) {
     chevron_.resize(layout_.popup);

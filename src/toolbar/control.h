@@ -12,9 +12,9 @@ namespace toolbar {
 
 class ToolBarEvents;
 
-/// What the mouse or its buttons do to a surface; X and Y in its pixels.
+/// The arguments of a mouse event on a surface. X and Y are in its pixels.
 struct MouseArguments {
-  qint16 Button = 0;  ///< 1 left, 2 right, 4 middle; of a move from the popup FromPopup
+  qint16 Button = 0;  ///< 1 left, 2 right, 4 middle; FromPopup for a move in the popup
   qint16 Shift = 0;   ///< 1 Shift, 2 Control, 4 Alt
   float X = 0;
   float Y = 0;
@@ -22,7 +22,7 @@ struct MouseArguments {
   static constexpr qint16 FromPopup = 999;
 };
 
-/// The toolbar less its windows: its surfaces, what is drawn on them, and what input does.
+/// The toolbar without its windows: draws its surfaces and reacts to input.
 class Control : private ModelView {
  public:
   Control(Windows& windows, ToolBarEvents& events, const Ambient& ambient);
@@ -34,17 +34,17 @@ class Control : private ModelView {
   SurfaceName picDraw() const { return picDraw_; }
   bool UserMode() const { return ambient_.UserMode; }
 
-  /// A toolbar out of a bag. A bag with wrong values counts as an empty one and gives false.
+  /// Reads the toolbar from a bag. A bag with wrong values is treated as an empty one, and the result is false.
   bool UserControl_ReadProperties(const propertybag::PropertyBag& bag);
   void UserControl_WriteProperties(propertybag::PropertyBag& bag) const;
 
-  /// The host gives the control its inner size.
+  /// Sets the size inside the control's widget.
   void resize(const QSize& innerSize);
   void UserControl_Resize();
-  /// Draws the whole surface that buttons are drawn on at the moment.
+  /// Draws the current surface, picDraw.
   void Repaint();
 
-  // What the surfaces deliver. All but moves are taken from the surface of picDraw only.
+  // Mouse events of the surfaces. All except moves count only if they come from the surface picDraw.
   void picMain_MouseMove(MouseArguments arguments);
   void picChevron_MouseMove(MouseArguments arguments);
   void picDraw_MouseDown(SurfaceName from, MouseArguments arguments);
@@ -52,26 +52,26 @@ class Control : private ModelView {
   void picDraw_Click(SurfaceName from);
   void picDraw_DblClick(SurfaceName from);
 
-  /// The messages that surfaces don't report by themselves.
+  /// The other messages of the control's windows, by number.
   enum Message { Move = 3, Size = 5, KillFocus = 8, Timer = 275, MouseMove = 512, MouseLeave = 675 };
-  /// A message after the window has dealt with it. Does nothing before UserControl_ReadProperties and in a form's
-  /// designer. `surface` counts for MouseMove and MouseLeave, `place` in its pixels for MouseMove.
+  /// Handles a message after its window has handled it. `surface` is used for MouseMove and MouseLeave, `place` (in the
+  /// surface's pixels) for MouseMove. Does nothing before UserControl_ReadProperties and in a form's designer.
   void zSubclass_Proc(int uMsg, SurfaceName surface = SurfaceName::Main, QPoint place = {});
 
-  // The keyboard's way through the buttons; its place looks like the pointer's.
-  /// The buttons that keys reach (0 is the chevron): those of the popup while that is open and drawn on.
+  // Keyboard access. The button that keys have chosen is drawn as if the pointer were over it.
+  /// The buttons that keys can reach, 0 for the chevron. While the popup is open and in use, those of the popup.
   std::vector<int> keyPlaces() const;
-  /// Moves on by so many places, round the ends; the first or last one from nowhere.
+  /// Moves by so many buttons and starts over at the ends. If no button is chosen, takes the first or the last one.
   void stepByKey(int places);
-  /// The first or the last one.
+  /// Chooses the first or the last button.
   void endByKey(bool last);
   void pointByKey(int index);
-  /// Clicks the button, or opens the popup and goes to its first button.
+  /// Clicks the chosen button. On the chevron, opens the popup and chooses its first button.
   void pressByKey();
-  /// The keyboard comes: to the first place, unless one is pointed at. Whether it went there.
+  /// Chooses the first button unless one is chosen already. Returns whether it did.
   bool enterByKey();
   void leaveByKey();
-  /// Closes the popup and goes back to the chevron; whether it was open.
+  /// Closes the popup and chooses the chevron. Returns whether the popup was open.
   bool escapeByKey();
 
  private:
@@ -97,11 +97,11 @@ class Control : private ModelView {
   SurfaceName picDraw_ = SurfaceName::Main;
   QSize innerSize_;
   Layout layout_;
-  bool backgroundDrawn_ = false;  ///< of whichever surface was drawn last
+  bool backgroundDrawn_ = false;  ///< one flag for both surfaces
   bool isHooked_ = false;
   bool mouseInside_ = false;
   bool buttonHeld_ = false;
-  bool byKey_ = false;  ///< the keyboard put Button_Index where it is
+  bool byKey_ = false;  ///< Button_Index was chosen by the keyboard
   QPoint lastPlace_;
   int timerTicks_ = 0;
 };

@@ -24,7 +24,7 @@ bool Control::canHover(int number, float x) const {
   return picDraw_ == SurfaceName::Chevron || !model_.placeOf(number).InChevron;
 }
 
-/// What the pointer is over now; none when that isn't to change.
+/// The button that the pointer is over, 0 for the chevron, -1 for nothing. None if Button_Index has to stay as it is.
 std::optional<int> Control::pointedAt(const MouseArguments& arguments) {
   const int x = nearestInt(arguments.X);
   const int y = nearestInt(arguments.Y);

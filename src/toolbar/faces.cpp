@@ -18,7 +18,7 @@ struct EdgeColors {
   QRgb bottomRight;
 };
 
-/// Four lines along the edges of a box whose last column and row lie at x + w and y + h.
+/// Draws the four edges of a box. Its last column is x + w, its last row y + h.
 void drawEdges(Raster& raster, int x, int y, int w, int h, const EdgeColors& colors) {
   raster.Line(x, y, x + w, y, colors.topLeft);
   raster.Line(x, y, x, y + h, colors.topLeft);
@@ -35,7 +35,7 @@ void drawMode4Box(Raster& raster, const Properties& values, const QRect& box, bo
   raster.Rectangle(box.x(), box.y(), box.x() + w, box.y() + h, outline, fill);
 }
 
-/// The rounded box of modes 5 and 6; the width of the rim that its gradient leaves.
+/// Draws the rounded box of modes 5 and 6. Returns the width of the rim around its gradient.
 int drawRoundBox(Raster& raster, const Properties& values, const QRect& box, bool risen) {
   raster.RoundRect(box.x(), box.y(), box.x() + box.width(), box.y() + box.height(), CornerDiameter,
                    BlendColors(values.ButtonsBackColor, 0),

@@ -11,7 +11,7 @@ namespace {
 
 constexpr QRgb ShadowColor = qRgb(128, 128, 128);
 
-/// Three bytes at a time become their mean, whatever row or pixel they belong to; none begin in the last three places.
+/// Replaces each three bytes by their mean, regardless of rows and padding. No group starts in the last three bytes.
 void turnGrey(QByteArray& bytes) {
   constexpr int Triple = 3;
   auto* const data = reinterpret_cast<uchar*>(bytes.data());

@@ -37,7 +37,7 @@ McToolBar::McToolBar(const Ambient& ambient, QWidget* parent)
 }
 
 McToolBar::~McToolBar() {
-  // A window that goes sends events to this widget, which asks its control.
+  // Closing windows send events to this widget, which needs its control for them.
   windows_.destroyAll();
 }
 
@@ -45,7 +45,7 @@ bool McToolBar::UserControl_ReadProperties(QByteArrayView bytes) {
   const std::optional<propertybag::PropertyBag> bag = propertybag::bagOfBytes(bytes);
   const bool isSound = control_.UserControl_ReadProperties(bag.value_or(propertybag::PropertyBag()));
   if (bag && isSound) resize(propertybag::storedSize(*bag).value_or(size()));
-  // A hidden window hears of its size late.
+  // A hidden widget gets no resize event yet.
   control_.resize(size());
   watchForm();
   return bag && isSound;
@@ -66,7 +66,7 @@ void McToolBar::watchForm() {
 }
 
 bool McToolBar::event(QEvent* event) {
-  // A designer keeps the mouse to itself.
+  // In a designer the mouse doesn't belong to the toolbar.
   if (control_.UserMode() && mouse_.deliver(SurfaceName::Main, rect(), event)) return true;
   if (event->type() == QEvent::Show) watchForm();
   return QWidget::event(event);
@@ -129,7 +129,7 @@ void McToolBar::keyPressEvent(QKeyEvent* event) {
   tellKeyPlace();
 }
 
-/// A focus that came with the window shows nowhere yet: Tab shows it before it goes on.
+/// After the window got the focus no button is chosen yet. The first Tab chooses one instead of leaving.
 bool McToolBar::focusNextPrevChild(bool next) {
   if (!hasFocus() || !control_.enterByKey()) return QWidget::focusNextPrevChild(next);
   tellKeyPlace();

@@ -11,37 +11,36 @@
 
 namespace toolbar {
 
-/// A strip of icon and text buttons in rows, numbered from 1, with separators, and a popup for what has no room. Its
-/// height follows from its buttons. By keyboard: Tab, arrows, Home, End, Enter and Space, Esc for the popup.
+/// A toolbar with rows of icon and text buttons, separators, and a popup for buttons without room. Buttons count
+/// from 1. Its height follows from its buttons. Keys: Tab, arrows, Home, End, Enter, Space; Esc closes the popup.
 class McToolBar : public ToolBarEvents, public AccessibleToolBarSource {
   Q_OBJECT
 
  public:
-  /// A toolbar at run time, with the font of its parent.
+  /// A toolbar of the running program, with its parent's font.
   explicit McToolBar(QWidget* parent = nullptr);
-  /// A new toolbar: without popup and leave, until its properties have been read.
+  /// A toolbar has no popup, and raises no MouseEnter and MouseLeave, until its properties are read.
   explicit McToolBar(const Ambient& ambient, QWidget* parent = nullptr);
   ~McToolBar() override;
 
-  /// Reads the stored bytes of a toolbar and takes their size; damaged ones count as an empty bag and give false.
+  /// Reads stored properties and the stored size. Damaged bytes are treated as an empty bag, and the result is false.
   bool UserControl_ReadProperties(QByteArrayView bytes);
-  /// The stored bytes, with the size.
+  /// The properties and the size as bytes.
   QByteArray UserControl_WriteProperties() const;
 
-  /// Properties, list of buttons and the operations on it.
+  /// The properties, and the list of buttons.
   Model& buttons() { return control_.buttons(); }
   const Model& buttons() const { return control_.buttons(); }
 
   int Button_Count() const { return buttons().Button_Count(); }
   void SetButton_Count(int count) { buttons().SetButton_Count(count); }
-  /// A field of a button by its number (see button_values.h). Throw std::out_of_range for a button that isn't there.
+  /// A button's field by number, see PropertyID. Throw std::out_of_range for a button that doesn't exist.
   void SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& Value) {
     buttons().SetButtonValue(ButtonIndex, PropertyID, Value);
   }
   QVariant GetButtonValue(int ButtonIndex, int PropertyID) const {
     return buttons().GetButtonValue(ButtonIndex, PropertyID);
   }
-  /// In pixels.
   int Height() const { return height(); }
 
   const Control& inner() const override { return control_; }
@@ -70,7 +69,7 @@ class McToolBar : public ToolBarEvents, public AccessibleToolBarSource {
   QPointer<QWidget> form_;  ///< whose moves and sizes close the popup
 };
 
-/// What the place of a control on this parent gives it.
+/// The ambient values of a control on this parent, in the running program.
 Ambient ambientOf(const QWidget* parent);
 
 }  // namespace toolbar

@@ -11,7 +11,7 @@ ToolbarButton blank() {
   return {QString(), nullptr, false, 0, QString(), 0, false, 0};
 }
 
-/// A field of the current button as a property of the control.
+/// A field of the current button, as a property of the toolbar.
 struct FieldRow {
   QStringView name;
   Effect onWrite;

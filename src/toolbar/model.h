@@ -9,14 +9,14 @@
 
 namespace toolbar {
 
-/// A button's number lies outside the list.
+/// The number of a button is outside the list.
 class RangeError : public platform::Failure {
  public:
   static constexpr int Number = 33;
   RangeError() : Failure(QStringLiteral("Index out or range!!")) {}
 };
 
-/// Who shows a model.
+/// Shows a model.
 class ModelView {
  public:
   virtual ~ModelView() = default;
@@ -24,14 +24,13 @@ class ModelView {
   virtual void react(Effect effect) = 0;
 };
 
-/// The toolbar less its surfaces and its input: properties and list of buttons, numbered from 1. Every write tells
-/// the view.
+/// The toolbar's properties and its list of buttons, numbered from 1. Every write notifies the view.
 class Model {
  public:
   Model(ModelView& view, const QFont& ambientFont);
 
   const Properties& values() const { return values_; }
-  /// The result of reading a stored toolbar: nothing is told.
+  /// Sets everything after reading a stored toolbar. Doesn't notify the view.
   void take(const Properties& values, const std::vector<ToolbarButton>& buttons);
   template <typename T>
   void setValue(T Properties::*property, const std::type_identity_t<T>& value) {
@@ -40,48 +39,48 @@ class Model {
   }
 
   int Button_Count() const { return count_; }
-  /// Keeps the buttons that remain, adds new ones at the end and makes the last one current. The same count and one
-  /// below 1 do nothing.
+  /// Adds or removes buttons at the end, and sets Button_Index to the last one. The present count, or one below 1,
+  /// does nothing.
   void SetButton_Count(int count);
 
-  /// The button that the pointer is over, 0 for the chevron, -1 for none; in a form's designer the button that the
-  /// properties of single buttons address.
+  /// The button that the pointer is over, 0 for the chevron, -1 for none. In a form's designer, the button that is
+  /// being edited.
   int Button_Index() const { return index_; }
   /// Throws RangeError outside 1 to Button_Count.
   void SetButton_Index(int index);
-  /// The same without check and without telling.
+  /// Sets Button_Index without a check. Doesn't notify the view.
   void pointAt(int index) { index_ = index; }
 
-  /// A field of the button that Button_Index names: no value while that is below 1, and a write does nothing then.
+  /// A field of the button Button_Index. Below 1 its value is that of a blank button, and a write does nothing.
   QVariant currentValue(PropertyID field) const;
   void setCurrentValue(PropertyID field, const QVariant& value);
 
-  /// A field of any button. Throw std::out_of_range for a button that isn't there.
+  /// A field of any button. Throw std::out_of_range for a button that doesn't exist.
   QVariant GetButtonValue(int ButtonIndex, int PropertyID) const;
   void SetButtonValue(int ButtonIndex, int PropertyID, const QVariant& newValue);
 
-  // These throw RangeError for an index outside 1 to Button_Count and leave the list as it was.
-  /// The last button that there is stays.
+  // These throw RangeError for an index outside 1 to Button_Count, and then change nothing.
+  /// Does nothing if there is only one button.
   void RemoveButton(int ButtonIndex);
-  /// Takes the button out and puts it at the new place; those between move up.
+  /// Moves the button to the new place. The buttons between move by one.
   void InsertButtonTo(int ButtonIndex, int NewIndex);
-  /// The two change places.
+  /// Swaps the two buttons.
   void MoveButtonTo(int ButtonIndex, int NewIndex);
 
-  // The same as commands for the current button; reading them gives WriteOnly.
+  // The same for the button Button_Index, as properties that can only be written. Reading them gives WriteOnly.
   static constexpr int WriteOnly = -1;
-  /// 1 removes it, any other value does nothing.
+  /// 1 removes the button. Any other value does nothing.
   void SetButtonRemove(int value);
   void SetButtonMoveTo(int index);
   void SetButtonInsertTo(int index);
 
   const ToolbarButton& Button(int number) const { return entry(number).button; }
   const ButtonPlace& placeOf(int number) const { return entry(number).place; }
-  /// For the layout; nothing is told.
+  /// For the layout. Doesn't notify the view.
   void setPlace(int number, const ButtonPlace& place) { entry(number).place = place; }
 
  private:
-  /// A button takes its place along until the next layout.
+  /// A button that moves in the list keeps its place until the next layout.
   struct Entry {
     ToolbarButton button;
     ButtonPlace place;
@@ -94,7 +93,7 @@ class Model {
 
   ModelView& view_;
   Properties values_;
-  std::vector<Entry> entries_;  ///< blank ones may follow the last button
+  std::vector<Entry> entries_;  ///< may be longer than count_, with blank entries at the end
   int count_ = 1;
   int index_ = 1;
 };

@@ -7,13 +7,13 @@
 
 namespace toolbar {
 
-/// Turns the events of the mouse on the two surfaces into what the control expects: a move goes before each press, a
-/// click after its release, and a leave comes once, also while a button is held.
+/// Turns mouse events of the two surfaces into the order that the control expects: a move before each press, a click
+/// after each release, and a single leave, even while a button is held.
 class MouseDelivery {
  public:
   MouseDelivery(Control& control, ToolBarWindows& windows) : control_(control), windows_(windows) {}
 
-  /// Whether it was an event of the mouse.
+  /// Returns whether it was a mouse event.
   bool deliver(SurfaceName surface, const QRect& area, QEvent* event);
 
  private:

@@ -12,25 +12,25 @@ namespace toolbar {
 struct Picture {
   enum Kind { Empty = 0, Bitmap = 1, Icon = 3 };
   Kind Type = Empty;
-  QImage pixels;    ///< Format_ARGB32; wholly opaque, or clear and black
-  QImage mask;      ///< of an icon: white where it lets through what lies behind it, else black
-  QByteArray file;  ///< the image file that it came from; empty when it came from pixels
+  QImage pixels;    ///< Format_ARGB32; each pixel is opaque, or transparent black
+  QImage mask;      ///< for an icon: white where it is transparent, else black
+  QByteArray file;  ///< the image file that it was read from; empty if it was made from pixels
 
   int Width() const { return pixels.width(); }
   int Height() const { return pixels.height(); }
 };
 
-/// Pictures are shared and never change; null for none.
+/// Pictures are shared and never change. Null stands for none.
 using PictureReference = std::shared_ptr<const Picture>;
 
-/// The picture of an image file: an icon file or a picture with transparent pixels gives an icon, any other a bitmap,
-/// and what is neither an empty picture.
+/// Reads an image file. An icon file or a picture with transparent pixels becomes an icon, any other picture a bitmap,
+/// and any other file an empty picture.
 PictureReference pictureOfFile(const QByteArray& file);
 PictureReference pictureOfImage(const QImage& image);
-/// From a PictureReference, a QIcon, a QPixmap or a QImage; null for a value of another type and for empty ones.
+/// From a PictureReference, QIcon, QPixmap or QImage. Null for an empty one and for any other type.
 PictureReference pictureOf(const QVariant& value);
 
-/// The bytes of an image file that gives the picture back; empty for an empty picture.
+/// An image file from which the picture can be read again; empty for an empty picture.
 QByteArray fileOf(const Picture& picture);
 
 }  // namespace toolbar

@@ -39,7 +39,7 @@ constexpr PropertyRow Rows[] = {
     {u"ButtonsGradient", &P::ButtonsGradient, E::Repaint},
 };
 
-/// What a look sets besides BackColor and BackGradient; none leaves a property as it is.
+/// The properties that a look sets besides BackColor and BackGradient. Those without a value stay as they are.
 struct ModeRow {
   qint16 BorderStyle;
   int ButtonsGradient;

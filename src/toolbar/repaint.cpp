@@ -36,7 +36,7 @@ struct Areas {
   QString text;
 };
 
-/// No icon and no caption for an unknown alignment.
+/// None for an unknown alignment: then neither icon nor caption is drawn.
 std::optional<Areas> areasOf(const ShownButton& button, int offset) {
   const int x = button.box.x();
   const int y = button.box.y();
@@ -62,7 +62,7 @@ std::optional<Areas> areasOf(const ShownButton& button, int offset) {
   }
 }
 
-/// Measures beyond any surface would leave the range of an int.
+/// Throws for measures so large that sums of them could leave the range of an int.
 void checkRange(const QRect& box) {
   constexpr int limit = 1 << 24;
   for (const int measure : {box.x(), box.y(), box.width(), box.height()}) {
@@ -109,7 +109,7 @@ class Painter {
     }
   }
 
-  /// Whether it is pressed.
+  /// Draws the chevron. Returns whether it is pressed.
   bool chevron() {
     const bool pressed = scene_.buttons.Button_Index() == 0 && scene_.ButtonHeld;
     const int frame = values_.BorderStyle == 0 ? 0 : 2;
@@ -157,7 +157,7 @@ class Painter {
     designMark(number, corner, width);
   }
 
-  /// In a designer each button shows its number, and the current one a bar.
+  /// In a form's designer each button shows its number, and the button Button_Index a bar.
   void designMark(int number, const QPoint& corner, int width) {
     if (scene_.UserMode) return;
     const QRgb color = TranslateColor(values_.ForeColor);
@@ -175,7 +175,7 @@ class Painter {
   const Properties& values_;
 };
 
-/// A part of the drawing; what it drew before a failure stays.
+/// Runs a part of the drawing. A failure ends only this part.
 template <typename Part>
 void guarded(Part part) {
   try {

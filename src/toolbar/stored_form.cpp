@@ -14,7 +14,7 @@ using propertybag::StoredPicture;
 constexpr QStringView CountKey = u"Button_Count";
 constexpr QStringView IndexKey = u"Button_Index";
 
-/// The keys in their order; two of them belong to the list of buttons.
+/// The keys in the order in which they are stored. CountKey and IndexKey are no properties.
 constexpr QStringView Keys[] = {
     u"Appearance",
     u"BackColor",
@@ -63,7 +63,7 @@ constexpr FieldRow Fields[] = {
     {u"Button_Type", &ToolbarButton::ButtonType},
 };
 
-/// The defaults of the keys are those of a new toolbar but for these.
+/// The stored defaults are the values of a new toolbar, with these exceptions.
 Properties storedDefaults(const QFont& ambientFont) {
   Properties values;
   values.Font = ambientFont;
@@ -85,7 +85,7 @@ QVariant toStored(const PictureReference& picture) {
   return file.isEmpty() ? QVariant() : QVariant::fromValue(StoredPicture{file});
 }
 
-/// Whether the value is of the member's type.
+/// Takes over the value. False if it isn't of the member's type.
 template <typename T>
 bool fromStored(const QVariant& value, T& member) {
   const std::optional<T> stored = propertybag::storedAs<T>(value);
@@ -98,7 +98,7 @@ bool fromStored(const QVariant& value, PictureReference& member) {
   return stored.has_value();
 }
 
-/// Whether the bag holds no value of the key, or one of the member's type, which the member then has.
+/// Reads a key, if the bag has it. False if its value isn't of the member's type.
 bool read(const PropertyBag& bag, const QString& key, auto& member) {
   return !bag.contains(key) || fromStored(bag.ReadProperty(key, {}), member);
 }

@@ -9,19 +9,19 @@
 
 namespace toolbar {
 
-/// What a bag keeps of a toolbar.
+/// The stored part of a toolbar.
 struct StoredToolBar {
   Properties values;
-  std::vector<ToolbarButton> buttons;  ///< one at least
+  std::vector<ToolbarButton> buttons;  ///< at least one
   int Button_Index = 1;                ///< written, but never read
 };
 
-/// The values of the bag; none when one of them is of a wrong type, or the count of buttons is below 1 or beyond
+/// Reads a toolbar from a bag. None if a value is of the wrong type, or if the number of buttons is below 1 or above
 /// MostButtons.
 std::optional<StoredToolBar> readStoredForm(const propertybag::PropertyBag& bag, const QFont& ambientFont);
 inline constexpr int MostButtons = 9999;
 
-/// Stores all keys in their order; what equals its default is left out.
+/// Stores a toolbar in a bag. Values that equal their default are left out.
 void writeStoredForm(propertybag::PropertyBag& bag, const StoredToolBar& toolBar, const QFont& ambientFont);
 
 }  // namespace toolbar

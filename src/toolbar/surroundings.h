@@ -6,7 +6,7 @@
 
 namespace toolbar {
 
-/// What the place of a control gives it.
+/// What a control takes over from the place where it is put.
 struct Ambient {
   bool UserMode = true;  ///< false in a form's designer
   QFont Font;
@@ -15,7 +15,7 @@ struct Ambient {
 /// The two surfaces that buttons are drawn on.
 enum class SurfaceName { Main, Chevron };
 
-/// A tip in the manner of the platform: a text under a title with an icon.
+/// A tool tip: a text under a title with an icon.
 struct ToolTip {
   QString Text;
   QString title;
@@ -25,26 +25,26 @@ struct ToolTip {
   quint32 ForeColor = 0;
 };
 
-/// The windows that the control lives in. Only the popup has places on the screen.
+/// The windows of the control.
 class Windows {
  public:
   virtual ~Windows() = default;
   virtual void SetHeight(int pixels) = 0;
-  /// The surface's pixels or size are new.
+  /// The surface was drawn or resized, and has to be shown.
   virtual void present(SurfaceName surface) = 0;
   virtual QRect controlOnScreen() const = 0;
   virtual void CreateChevronWindow() = 0;
   virtual void movePopup(const QRect& onScreen) = 0;
-  /// Its top left stays.
+  /// The popup's top left corner stays.
   virtual void resizePopup(const QSize& size) = 0;
   virtual void setPopupVisible(bool visible) = 0;
   virtual bool isPopupVisible() const = 0;
-  /// The pointing hand or the system's arrow.
+  /// Sets the pointer over the surface to a hand, or to the system's arrow.
   virtual void setHand(SurfaceName surface, bool hand) = 0;
-  /// Starts the timer anew; its messages come until it is killed.
+  /// Restarts the timer. It sends messages until KillTimer.
   virtual void SetTimer() = 0;
   virtual void KillTimer() = 0;
-  /// The surface's leave message is to come once.
+  /// Asks for one message when the pointer leaves the surface.
   virtual void StartLeaveTracking(SurfaceName surface) = 0;
   virtual void ShowToolTip(const ToolTip& tip) = 0;
   virtual void DestroyToolTip() = 0;

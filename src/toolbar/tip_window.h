@@ -6,12 +6,12 @@
 
 namespace toolbar {
 
-/// A tip beside the pointer, rectangular or as a balloon, gone at the next move.
+/// A tool tip beside the pointer: a rectangle or a balloon.
 class TipWindow : public QWidget {
  public:
   TipWindow(const ToolTip& tip, QWidget* parent);
 
-  /// Shows it below this place on the screen, or above it where the screen ends.
+  /// Shows the tip below this place on the screen, or above it if there is no room.
   void showAt(const QPoint& pointer);
 
  protected:
@@ -24,7 +24,7 @@ class TipWindow : public QWidget {
 
   ToolTip tip_;
   bool isAbove_ = false;
-  int stem_ = 0;  ///< of a balloon: x of its tip
+  int stem_ = 0;  ///< x of the balloon's tip
 };
 
 }  // namespace toolbar

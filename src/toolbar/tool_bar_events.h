@@ -4,7 +4,7 @@
 
 namespace toolbar {
 
-/// The widget of a toolbar as far as its events go. The control raises them here; a client connects to them.
+/// The events of a toolbar, as signals of its widget. The control raises them here.
 class ToolBarEvents : public QWidget {
   Q_OBJECT
 

@@ -61,7 +61,7 @@ void ToolBarWindows::resizePopup(const QSize& size) {
 void ToolBarWindows::setPopupVisible(bool visible) {
   if (!popup_) return;
   popup_->setVisible(visible);
-  // So that the loss of the focus can close it.
+  // Losing the focus will close the popup.
   if (visible) bar_.setFocus(Qt::OtherFocusReason);
 }
 

@@ -10,16 +10,16 @@
 
 namespace toolbar {
 
-/// The windows of a toolbar: its own widget, the popup of hidden buttons, the tip and the timer.
+/// The toolbar's widget, the popup of hidden buttons, the tool tip, and the timer for it.
 class ToolBarWindows : public Windows {
  public:
   explicit ToolBarWindows(QWidget& bar) : bar_(bar) {}
 
   QWidget* popup() const { return popup_.get(); }
   QTimer& timerObject() { return timer_; }
-  /// Ends popup and tip.
+  /// Deletes popup and tip.
   void destroyAll();
-  /// Whether the surface's leave message is still to come; it counts as told then.
+  /// Ends the tracking of this surface. Returns whether it was tracked.
   bool endLeaveTracking(SurfaceName surface);
 
   void SetHeight(int pixels) override;
