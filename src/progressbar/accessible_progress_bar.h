@@ -4,15 +4,14 @@
 
 namespace progressbar {
 
-/// What assistive programs need of a progress bar's widget.
+/// What a progress bar's widget offers to assistive programs.
 class AccessibleBarSource {
  public:
   virtual ~AccessibleBarSource() = default;
   virtual const Properties& state() const = 0;
 };
 
-/// Lets assistive programs see widgets that are such a source as progress bars, with range and value; once for the
-/// program, further calls do nothing.
+/// Makes widgets with this interface visible to assistive programs as progress bars. Further calls do nothing.
 void installAccessibility();
 
 }  // namespace progressbar

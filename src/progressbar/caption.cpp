@@ -18,14 +18,14 @@ enum TextStyles { ShowsValue = 1, ShowsPercent = 2, ShowsText = 3 };
 
 constexpr quint32 Shade = 0x808080;
 
-/// A printing that an effect puts under the caption.
+/// A copy of the text that an effect draws under the caption.
 struct Copy {
   enum Colors { None, Effect, Grey } color = None;
   int dx = 0;
   int dy = 0;
 };
 
-/// The effects, from 1 on, with their copies in the order of printing.
+/// The copies of each effect in the order of drawing. Effects count from 1.
 constexpr std::array<Copy, 4> Effects[] = {
     {},
     {{{Copy::Effect, -1, -1}, {Copy::Grey, 1, 1}}},

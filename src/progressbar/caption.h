@@ -11,13 +11,13 @@
 
 namespace progressbar {
 
-/// What the bar says: its value, its percent, its text, or nothing.
+/// The bar's caption by TextStyle: its value, the per cent, its text, or nothing.
 QString captionText(const Properties& bar, double percent);
 
-/// Where the top left of a caption of this size stands on a bar; none for an alignment that doesn't exist.
+/// The top left corner of a caption of this size on a bar. None for an unknown alignment.
 std::optional<QPoint> captionPlace(int alignment, const QSize& bar, const QSize& caption);
 
-/// Prints the caption with its effect.
+/// Draws the caption with its effect.
 void paintCaption(drawing::Raster& raster, const Properties& bar, const QString& text);
 
 }  // namespace progressbar

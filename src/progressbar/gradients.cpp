@@ -8,13 +8,13 @@ namespace progressbar {
 
 namespace {
 
-/// The colour of a colour value's three channels; no system colours here.
+/// The pixel of a colour value. System colours aren't known here.
 QRgb pixelOf(quint32 color) {
   const auto channel = [color](int shift) { return static_cast<int>(color >> shift & 0xFF); };
   return qRgb(channel(0), channel(8), channel(16));
 }
 
-/// Step i of n from the first colour to the last.
+/// Colour i of n from the first to the last.
 QRgb stepOf(QRgb first, QRgb last, int i, int n) {
   const auto channel = [&](int from, int to) {
     return static_cast<int>(std::lrint(from + i * ((to - from) / static_cast<double>(n))));

@@ -13,7 +13,7 @@ namespace {
 
 enum Orientation { Horizontal = 1, Vertical = 2 };
 
-/// What the steps of a repaint work on.
+/// What the steps of the painting work on.
 struct Sheet {
   drawing::Raster& raster;
   const Properties& bar;
@@ -29,7 +29,7 @@ void clear(const Sheet& sheet) {
   sheet.raster.wipe(drawing::colorOf(drawing::ButtonFaceColor).rgb());
 }
 
-/// Two bands above each other, from the left edge to `length`.
+/// Draws an upper and a lower band from the left edge to x = length.
 void bandsAcross(const Sheet& sheet, int length, const Band& upper, const Band& lower) {
   const int height = sheet.raster.Height();
   const int middle = rounded(height / 2.0);
@@ -37,7 +37,7 @@ void bandsAcross(const Sheet& sheet, int length, const Band& upper, const Band& 
   GradientTwoColour(sheet.raster, 1, lower.start, lower.end, 0, middle, length, height);
 }
 
-/// Two bands side by side, from the top edge to `length`.
+/// Draws a left and a right band from the top edge to y = length.
 void bandsDown(const Sheet& sheet, int length, const Band& left, const Band& right) {
   const int width = sheet.raster.Width();
   const int middle = rounded(width / 2.0);
@@ -78,7 +78,7 @@ void paint(drawing::Raster& raster, const Properties& bar, const Palette& palett
     try {
       step(sheet);
     } catch (const std::exception&) {
-      continue;  // the steps behind it still show
+      continue;  // the next steps are still drawn
     }
   }
 }

@@ -6,8 +6,8 @@
 
 namespace progressbar {
 
-/// Draws the whole bar over the whole raster: two bands of track, two bands of the filled part, outline and caption.
-/// What lies outside the rounded bar becomes transparent. A step that fails is left out.
+/// Draws the bar over the whole raster: the track, the filled part, the outline and the caption. Everything outside the
+/// rounded outline becomes transparent. A step that fails is skipped.
 void paint(drawing::Raster& raster, const Properties& bar, const Palette& palette);
 
 }  // namespace progressbar

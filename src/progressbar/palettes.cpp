@@ -15,7 +15,7 @@ constexpr quint32 rgb(quint32 red, quint32 green, quint32 blue) {
   return red | green << 8 | blue << 16;
 }
 
-/// The fixed themes, from 1 on.
+/// The fixed themes. They count from 1.
 constexpr Palette Palettes[] = {
     // Sand
     {{rgb(248, 246, 242), rgb(233, 227, 211)},
@@ -99,7 +99,7 @@ void loadPalette(Palette& palette, const Properties& bar) {
 }
 
 quint32 greyOf(quint32 color) {
-  // Green and blue keep the lower channels as their fractions, so that white comes out above the brightest level.
+  // By definition of this grey, green and blue include the lower channels as fractions. So white would be too bright.
   const double red = color % 0x100;
   const double green = std::nearbyint(color % 0x10000 / 256.0);
   const double blue = std::nearbyint(color / 65536.0);

@@ -6,13 +6,13 @@
 
 namespace progressbar {
 
-/// The two ends of a ramp.
+/// The two colours of a gradient.
 struct Band {
   quint32 start;
   quint32 end;
 };
 
-/// The colours of a bar: each of its two parts has two bands, above each other or side by side.
+/// The colours of a bar. Track and filled part have two bands each: upper and lower, or left and right.
 struct Palette {
   Band trackFirst{};
   Band trackSecond{};
@@ -21,10 +21,10 @@ struct Palette {
   quint32 outline = 0;
 };
 
-/// Takes the colours of the bar's theme; a theme that doesn't exist changes nothing.
+/// Sets the colours of the bar's theme. An unknown theme changes nothing.
 void loadPalette(Palette& palette, const Properties& bar);
 
-/// The grey that a colour has on a disabled bar.
+/// The grey that replaces a colour on a disabled bar.
 quint32 greyOf(quint32 color);
 Palette greyOf(const Palette& palette);
 

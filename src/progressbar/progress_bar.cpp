@@ -85,7 +85,7 @@ void ProgressBar::InitProperties() {
   set(&Properties::TextFont, ambientFont());
 }
 
-/// Showing is a change as any other: what it uncovers and covers is painted in the next frame.
+/// Postpones the first painting to the next frame, like that of any change.
 void ProgressBar::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
   setUpdatesEnabled(false);

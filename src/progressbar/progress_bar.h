@@ -11,7 +11,7 @@
 
 namespace progressbar {
 
-/// A bar that shows how far a piece of work has come, with a caption. Every write of a property raises PropertyChanged
+/// A progress bar with a caption. Every write of a property raises PropertyChanged
 /// with the property's key, and repaints the bar in the next frame of the screen.
 class ProgressBar : public QWidget, public AccessibleBarSource {
   Q_OBJECT
@@ -20,17 +20,16 @@ class ProgressBar : public QWidget, public AccessibleBarSource {
   explicit ProgressBar(QWidget* parent = nullptr);
 
   int Value() const { return state_.Value; }
-  /// Kept between min and max.
+  /// Kept from min to max.
   void SetValue(int value);
   int max() const { return state_.max; }
-  /// At least 1 and above min; pulls Value down with it.
+  /// Kept at 1 or more, and above min. Lowers Value if necessary.
   void SetMax(int value);
   int min() const { return state_.min; }
-  /// At least 0 and below max; pulls Value up with it.
+  /// Kept at 0 or more, and below max. Raises Value if necessary.
   void SetMin(int value);
 
-  /// Writes a property: Value, max and min as above, TextFont also as the widget's font, any other as it comes. A value
-  /// out of its range is a matter of the painting.
+  /// Sets a property: Value, max and min as above, TextFont for the widget as well, any other without a check.
   void set(int Properties::*property, int value);
   void set(QFont Properties::*property, const QFont& value);
   template <typename T>
@@ -38,9 +37,9 @@ class ProgressBar : public QWidget, public AccessibleBarSource {
     write(property, value);
   }
 
-  /// The values of a bar newly placed on a form. A new object has them.
+  /// Sets the values of a new bar.
   void InitProperties();
-  /// The font that the place of the bar gives it: the parent's.
+  /// The parent's font.
   QFont ambientFont() const;
 
   void About() {}

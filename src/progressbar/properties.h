@@ -8,7 +8,7 @@
 
 namespace progressbar {
 
-/// What a progress bar shows, and how. Colours are 32-bit values with red in the low byte.
+/// The properties of a progress bar. Colours have red in the low byte.
 struct Properties {
   int Value = 0;
   int max = 0;
@@ -18,26 +18,26 @@ struct Properties {
   int Theme = 0;          ///< 1 to 9 a fixed palette, 10 the two custom colours
   int TextStyle = 0;      ///< 1 the value, 2 percent, 3 Text
   int Orientations = 0;   ///< 1 horizontal, 2 vertical
-  int TextAlignment = 0;  ///< 1 to 9, column by column from the top left
+  int TextAlignment = 0;  ///< 1 to 9: top left, middle left, bottom left, top centre and so on
   QString Text;
   quint32 TextEffectColor = 0;
   int TextEffect = 0;  ///< 1 to 5
   quint32 TextForeColor = 0;
   QFont TextFont;
-  quint32 PBSCustomeColor1 = 0;  ///< bar of Theme 10
-  quint32 PBSCustomeColor2 = 0;  ///< track of Theme 10
+  quint32 PBSCustomeColor1 = 0;  ///< the filled part in Theme 10
+  quint32 PBSCustomeColor2 = 0;  ///< the track in Theme 10
 };
 
-/// One property of any of the types in use.
+/// A property of any type.
 using Property = std::variant<int Properties::*, bool Properties::*, quint32 Properties::*, QString Properties::*,
                               QFont Properties::*>;
 
 struct PropertyRow {
-  QStringView key;  ///< under which it is stored, and told by PropertyChanged
+  QStringView key;  ///< for storing, and for PropertyChanged
   Property property;
 };
 
-/// All of them, in the order in which they are read and stored: Value after its range.
+/// All properties in the order of reading and storing. Value comes after its range.
 inline constexpr PropertyRow PropertyRows[] = {
     {u"Max", &Properties::max},
     {u"Min", &Properties::min},

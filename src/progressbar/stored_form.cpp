@@ -10,7 +10,7 @@ namespace progressbar {
 
 namespace {
 
-/// The stored defaults, which aren't all those of a new bar.
+/// The stored defaults. Some differ from the values of a new bar.
 Properties storedDefaults(const QString& name, const QFont& ambientFont) {
   Properties values;
   values.max = 100;

@@ -9,14 +9,13 @@ namespace progressbar {
 
 class ProgressBar;
 
-/// Writes every member from its stored value or its stored default, in the order of their keys, and the size when it is
-/// stored. A value that can't be read is passed over. The defaults of Text and TextFont are the bar's name and font of
-/// its place.
+/// Sets all properties of the bar from a bag, or else to their stored defaults, and the size if it is stored. A value
+/// of the wrong type is skipped. The default of Text is the bar's name, that of TextFont the ambient font.
 void readProperties(ProgressBar& bar, const propertybag::PropertyBag& bag);
-/// The same from the stored bytes of a bar; damaged ones count as an empty bag and give false.
+/// The same for stored bytes. Damaged bytes are treated as an empty bag, and the result is false.
 bool readProperties(ProgressBar& bar, QByteArrayView bytes);
 
-/// Stores the size and the members that differ from their stored defaults, in the same order.
+/// Stores the size, then the properties that differ from their stored defaults.
 void writeProperties(const ProgressBar& bar, propertybag::PropertyBag& bag);
 QByteArray writeProperties(const ProgressBar& bar);
 
