@@ -7,8 +7,8 @@
 
 namespace renderer {
 
-/// A screen without a window, as it stands in the editor just after it was chosen and before it is drawn: its tags
-/// listed, the first one selected, and that tag's font on the surface.
+/// A screen without a window, in the state that it has in the editor after it was chosen and before it is drawn: the
+/// tags are listed, the first is selected, and the surface has that tag's font.
 class ChosenScreen {
  public:
   ChosenScreen(themefiles::ModuleState opened, const QString& screen, const QString& scheme,
@@ -19,9 +19,9 @@ class ChosenScreen {
   themefiles::SortedTags tags;
   drawing::Surface workspace;
   RenderAccount account;
-  PreparedPictures* pictures = nullptr;  ///< kept from one screen to the next; none: every picture is made anew
+  PreparedPictures* pictures = nullptr;  ///< a store for several screens; null for none
 
-  /// What a render of these tags works on, for as long as the screen lives.
+  /// The context for a render of these tags. Don't use it longer than this object.
   RenderContext context(const themefiles::TagList& rows);
   RenderContext context() { return context(tags); }
 

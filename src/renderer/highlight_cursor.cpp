@@ -12,11 +12,11 @@
 namespace renderer {
 namespace {
 
-/// As many letters as "TEXT1" has: what parts a child text's name from its button's.
+/// The length of "TEXT1", which a child text's name has after its button's name.
 constexpr int ChildEnding = 5;
 constexpr double LineHeightFactor = 1.5;
 
-/// The number of a text as the mark can take it: finite, and not below `least`. Throws Failure.
+/// The number of a text. Throws Failure if it is infinite or below `least`.
 double measureOf(const QString& text, double least) {
   const double number = platform::numberOf(text);
   if (!std::isfinite(number) || number < least) {
@@ -42,7 +42,7 @@ void drawFrame(const themefiles::CursorRecord& record, CursorMark& mark) {
   showMark(mark);
 }
 
-/// Sets face and size for the measure: not those of the renderer.
+/// Sets the font for measuring. It isn't the font that the renderer draws with.
 void setMeasuringFont(const themefiles::CursorRecord& record, drawing::Surface& workspace) {
   if (record.Font == 0) workspace.SetFontName(QStringLiteral("Courier New"));
   if (record.Font == 1) workspace.SetFontName(QStringLiteral("Arial Black"));

@@ -7,7 +7,7 @@
 
 namespace renderer {
 
-/// The mark over the preview, in pixels of the surface: the shape HL and the timer that blinks it.
+/// The mark over the preview: the shape HL, and the timer that makes it blink. Measures are in pixels of the surface.
 class CursorMark {
  public:
   virtual ~CursorMark() = default;
@@ -19,9 +19,9 @@ class CursorMark {
   virtual void setBlinking(bool blinking) = 0;
 };
 
-/// Places the mark on the object that is selected in the tag list, from the state's CursorRect: a frame round an object
-/// with a rectangle, an upright line at the anchor of a text, no mark for any other. The text is measured on the
-/// surface, whose face and size change by that. A failure is reported and leaves the mark as far as it was set.
+/// Places the mark on the selected object by the state's CursorRect: a frame around an object with a rectangle, a
+/// vertical line at the anchor of a text, no mark for any other. Measuring a text sets the surface's font. A failure is
+/// reported; what was set of the mark before stays.
 void DrawCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                 CursorMark& mark, platform::StatusLine& status);
 

@@ -28,14 +28,14 @@ QString screenStep() {
   return QStringLiteral("Error while Draw Screen");
 }
 
-/// The keys that hold an object's colour, intensity and height in its present state.
+/// The keys of an object's colour, intensity and height. They differ for a selected button.
 struct Look {
   QString colorKey;
-  QString intensityKey;  ///< empty for an object without one
+  QString intensityKey;  ///< empty if the object has none
   QString heightKey = QStringLiteral("H");
 };
 
-/// Draws the object's texture and accounts what came of it.
+/// Draws the object's texture and enters the outcome in the account.
 void drawObject(RenderContext& context, const ObjectSection& section, const QString& path, const Box& box,
                 const Look& look) {
   if (context.textsOnly) return;
@@ -75,14 +75,14 @@ void showObject(RenderContext& context) {
   context.host.yield();
 }
 
-/// Raises the count; whether this button is the selected one.
+/// Counts a button. Returns whether it is the selected one.
 bool countButton(themefiles::ModuleState& state) {
   if (state.ButtonCount == MostButtons) return false;
   ++state.ButtonCount;
   return state.ButtonCount == state.SelectedButton;
 }
 
-/// Child texts 1 to `count`, relative to the button. The first one drawn takes the shift.
+/// Draws the child texts 1 to `count` relative to the button. The first one drawn is moved by the shift, and clears it.
 void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, int count, int& textShift) {
   for (int number = 1; number <= count; ++number) {
     const ObjectSection child(context, tag + QStringLiteral("TEXT") + QString::number(number));
@@ -94,7 +94,7 @@ void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, 
   }
 }
 
-/// `textShift` lives across the buttons of a pass: a grown button hands it to the next child text that is drawn.
+/// A button that grows sets `textShift`. The next child text is moved by it, even if it belongs to another button.
 void drawButton(RenderContext& context, const QString& tag, int& textShift) {
   const ObjectSection section(context, tag);
   const QString visible = section.Value(QStringLiteral("Visible"));

@@ -2,22 +2,22 @@
 
 #include "renderer/render_context.h"
 
-/// The passes of a render. Which pass a tag belongs to is told by the words in its name, in upper case at any place.
+/// The passes of a render. Words anywhere in a tag's name, in any case, tell which pass it belongs to.
 namespace renderer {
 
-/// Whether a tag is one of the buttons.
+/// Whether the tag is that of a button.
 bool isButton(const QString& tag);
 
-/// Paints the background picture over the whole surface; without one wipes it to the background colour.
+/// Draws the background picture over the whole surface, or else fills it with the background colour.
 void DrawBackground(RenderContext& context, const QString& stem);
 
-/// Draws every static image of the tag list.
+/// Draws all static pictures of the tag list.
 void DrawStatics(RenderContext& context);
 
-/// Draws every free text of the tag list.
+/// Draws all texts of the tag list that belong to no button.
 void DrawTexts(RenderContext& context);
 
-/// Draws every button of the tag list with its child texts, and counts the visible ones in ButtonCount.
+/// Draws all buttons of the tag list with their child texts, and counts the visible ones in ButtonCount.
 void DrawButtons(RenderContext& context);
 
 }  // namespace renderer

@@ -7,34 +7,35 @@
 #include "renderer/render_context.h"
 #include "themefiles/ini_access.h"
 
-/// How the passes read an object's keys, and how they tell that one is left out.
+/// How the passes read an object's keys, and enter in the account that it is left out.
 namespace renderer {
 
-/// A section of a file as it is now; in a trial frame as it was at the frame's first look into that file.
+/// A section of a file as it is now. During a trial frame each file is read only once.
 themefiles::SectionReader readSection(const RenderContext& context, const QString& section, const QString& file);
 
-/// The section of an object, read from the theme when the object's turn comes, with what is on trial in it.
+/// The section of an object. It is read when the object is drawn, and includes the values on trial.
 class ObjectSection {
  public:
   ObjectSection(const RenderContext& context, const QString& name);
   const QString& Name() const { return name_; }
-  /// The value of a key, at most 255 letters; empty, or the default, without one.
+  /// The value of a key, cut to 255 letters; the default without the key.
   QString Value(const QString& key, const QString& defaultValue = QString()) const;
-  /// The number of such a value, 0 without one.
+  /// The number of a key; 0 without the key.
   double number(const QString& key) const;
   /// Whether values of the object are on trial.
   bool inHand() const { return trial_ != nullptr; }
 
  private:
   QString name_;
-  const TrialValues* trial_;  ///< those of this object
+  const TrialValues* trial_;  ///< this object's; null for none
   themefiles::SectionReader reader_;
 };
 
-/// Notes in the account that the section was left out, why, and the key and value that told so.
+/// Enters in the account that the section is left out, the reason, and the key and value that are the cause.
 void leaveOut(RenderContext& context, const QString& section, Reason why, const QString& key, const QString& value);
 
-/// The number rounded to 16 bits. One that doesn't fit is accounted and reported as `step` + [section, key, value].
+/// The number of a key rounded to 16 bits. One that doesn't fit is entered in the account, and reported as `step` with
+/// section, key and value.
 std::optional<qint16> themeInt16(RenderContext& context, const ObjectSection& section, const QString& key,
                                  const QString& step);
 
@@ -46,11 +47,11 @@ struct Box {
   qint16 H = 0;
 };
 
-/// None when one of the four doesn't fit 16 bits; the first such is reported.
+/// None if one of the four doesn't fit into 16 bits. The first such number is reported.
 std::optional<Box> themeBox(RenderContext& context, const ObjectSection& section, const QString& step);
 
-/// The path of the picture behind a section's Tex, by way of the skin's entry; empty, and accounted, when the skin has
-/// no entry or no file stands there.
+/// The path of a section's picture: its Tex key names an entry of the skin, which names the file. If the entry or the
+/// file is missing, this is entered in the account, and the path is empty.
 QString texturePath(RenderContext& context, const ObjectSection& section);
 
 }  // namespace renderer

@@ -10,11 +10,11 @@
 #include "renderer/highlight_cursor.h"
 #include "renderer/render_host.h"
 
-// What stands in for the editor's windows where there are none.
+// Replacements for the editor's windows, for drawing without windows.
 
 namespace renderer {
 
-/// Tells of message boxes as of any other report; asks nothing.
+/// Reports message boxes to the status line, and answers no question.
 class NoDialogs : public platform::Dialogs {
  public:
   explicit NoDialogs(platform::StatusLine& status) : status_(status) {}
@@ -28,7 +28,7 @@ class NoDialogs : public platform::Dialogs {
   platform::StatusLine& status_;
 };
 
-/// A mark that is never seen.
+/// A mark that is never shown.
 class NoMark : public CursorMark {
  public:
   void SetLeft(double /*left*/) override {}
@@ -39,7 +39,7 @@ class NoMark : public CursorMark {
   void setBlinking(bool /*blinking*/) override {}
 };
 
-/// Answers for the chosen screen and scheme; shows no progress and no button list.
+/// Knows the screen and the scheme. Shows no progress and no button list.
 class PlainHost : public RenderHost {
  public:
   PlainHost(QString screen, QString scheme);

@@ -12,7 +12,7 @@
 
 namespace renderer {
 
-/// What is done to a picture's colours. Of the numbers only those that it needs are set.
+/// How a picture is recoloured. Only the numbers that the type needs are set.
 struct Recolouring {
   enum class Type { None, Colorized, FontBlack };
   Type type = Type::None;
@@ -21,8 +21,7 @@ struct Recolouring {
   friend bool operator==(const Recolouring&, const Recolouring&) = default;
 };
 
-/// A picture as an object wants it drawn: recoloured, stretched to the size of `place`, or at its own size with its top
-/// left at that of `place`.
+/// A picture to draw: recoloured and scaled to `place`, or with `ownSize` at its own size at the top left of `place`.
 struct PictureWish {
   QString path;
   Recolouring recolouring = {};
@@ -30,30 +29,31 @@ struct PictureWish {
   bool ownSize = false;
 };
 
-/// What became of a wish: what has to be blended at `corner` of the surface, its own size, or why there is none.
+/// A picture ready to be blended on the surface at `corner`, or the reason why there is none.
 struct PreparedPicture {
   std::optional<Reason> missing;  ///< NoPicture or ColorRange
   QSize ownSize;
   QPoint corner;
-  QImage picture;  ///< null also when nothing of it shows
+  QImage picture;  ///< null if nothing of it shows
 };
 
-/// Keeps what picture files became, up to a number of bytes; what wasn't used for longest goes first. A file counts as
-/// the same only by its whole identity, and what was read too near to a change isn't kept. Keeps outcomes too.
+/// A cache of prepared pictures, and of reasons why there is none. When it is full, those that were not used for
+/// longest go first. An entry is valid while the file's identity is the same. What was read from a file just after a
+/// change isn't kept (see platform::isSettled).
 class PreparedPictures {
  public:
   static constexpr qsizetype MostBytes = qsizetype(128) * 1024 * 1024;
 
   explicit PreparedPictures(qsizetype mostBytes = MostBytes) : mostBytes_(mostBytes), kept_(mostBytes) {}
 
-  /// The picture wished for: the kept one, or made from its file. For the object in hand, whose size changes from frame
-  /// to frame, the unscaled picture is kept in place of the scaled ones. Throws std::bad_alloc.
+  /// Returns the picture from the cache, or prepares it. For the object in hand, whose size changes with each frame,
+  /// the unscaled picture is kept instead of the scaled ones. Throws std::bad_alloc.
   PreparedPicture get(const PictureWish& wish, bool inHand);
-  /// No object is in hand any more.
+  /// Has to be called when no object is in hand any more.
   void letGo();
-  /// Forgets everything.
+  /// Empties the cache.
   void clear();
-  /// What is kept now.
+  /// The number of bytes in use.
   qsizetype bytes() const { return kept_.totalCost() + unscaledBytes(); }
 
  private:
@@ -61,11 +61,11 @@ class PreparedPictures {
     std::optional<Reason> missing;
     QImage picture;
   };
-  /// A part of a picture that is drawn at its own size is told by its top left.
+  /// The size is invalid for a picture at its own size; then `part` has only its top left corner.
   struct Key {
     platform::FileIdentity file;
     Recolouring recolouring;
-    QSize size;  ///< invalid for a picture's own size
+    QSize size;
     QRect part;
     friend bool operator==(const Key&, const Key&) = default;
     friend size_t qHash(const Key& key, size_t seed = 0) {
@@ -91,7 +91,7 @@ class PreparedPictures {
   std::optional<Unscaled> unscaled_;
 };
 
-/// The picture from the store, or made for this once without one. Throws std::bad_alloc.
+/// Gets the picture from the store, or prepares it if `store` is null. Throws std::bad_alloc.
 PreparedPicture prepare(PreparedPictures* store, const PictureWish& wish, bool inHand = false);
 
 }  // namespace renderer

@@ -14,8 +14,8 @@ namespace {
 constexpr quint32 ColorBits = 0x00FFFFFF;
 constexpr quint32 AlphaBits = 0xFF000000;
 
-/// How far a channel of hue `h` lies from the smallest channel (0) to the largest (1). The two ramps give the numerator
-/// only, to be divided by 60.
+/// Where a channel lies between the smallest (0) and the largest channel (1) of a colour, for an angle `h` of the hue.
+/// On a ramp, `part` still has to be divided by 60.
 struct Reach {
   double part = 0;
   bool ramp = false;
@@ -43,16 +43,15 @@ quint32 byteOf(double channel) {
   return platform::roundToByte(static_cast<float>(std::max(channel, 0.0) * 255.0)).value_or(255);
 }
 
-/// The recoloured pixel, without alpha, of one whose largest and smallest channel are these: lightness and saturation
-/// depend on nothing else.
+/// A recoloured pixel without alpha. Its lightness and saturation depend only on the largest and the smallest channel.
 quint32 recoloured(double hue, quint32 largest, quint32 smallest) {
   const HSL shade = RGBToHSL(largest / 255.0, smallest / 255.0, smallest / 255.0);
   const RGB channels = HSLToRGB(hue, shade.L, shade.S);
   return byteOf(channels.R) << 16U | byteOf(channels.G) << 8U | byteOf(channels.B);
 }
 
-/// What the channels of a recoloured pixel have above its smallest one, packed as the pixel is. Where `halves` has a
-/// bit the sum lies half way between two bytes, and the even one of the two is the channel.
+/// How much the channels of a recoloured pixel are above its smallest channel, packed like a pixel. A bit in `halves`
+/// means that half of one has to be added, with rounding to the even byte.
 struct Step {
   quint32 above = 0;
   quint32 halves = 0;
@@ -61,10 +60,10 @@ struct Step {
 constexpr int Spreads = 256;
 using Steps = std::array<Step, Spreads>;
 
-/// The steps of a hue by the spread, which is the largest channel less the smallest. In whole bytes the formulas come
-/// to smallest + spread * reach, so that only the spread needs working out; they stay within `Exact` of that, and their
-/// passage through a 32-bit float moves a value by less than `Grain`. None when a sum comes so near to a half that
-/// these two would decide; the hue of a colour in whole bytes has none such.
+/// The steps of a hue for each spread, which is the largest minus the smallest channel. A channel is smallest + spread
+/// * reach, so a table by spread is enough. The floating-point formulas deviate from that by less than `Exact`, and
+/// their 32-bit floats by less than `Grain`. None if a value is so close to a half that this could change the rounding,
+/// which doesn't happen for colours in whole numbers.
 std::optional<Steps> stepsOf(double hue) {
   constexpr double Exact = 1e-10;
   constexpr double Grain = 1e-5;
@@ -86,7 +85,7 @@ std::optional<Steps> stepsOf(double hue) {
   return steps;
 }
 
-/// Puts `recolour` of its largest and its smallest channel into every pixel; alpha stays.
+/// Replaces every pixel by `recolour(largest channel, smallest channel)`. Alpha stays.
 template <typename Recolour>
 void recolourEach(QImage& picture, Recolour recolour) {
   for (int y = 0; y < picture.height(); ++y) {
@@ -159,7 +158,7 @@ bool recolourFont(QImage& picture, const ColorNumbers& color, float intensity) {
     auto* const end = line + picture.width();
     const auto isWhite = [](quint32 pixel) { return (pixel & ColorBits) == ColorBits; };
     if (!fits && !std::all_of(line, end, isWhite)) return false;
-    // White takes the bits as well: it has them all.
+    // White doesn't change, as it has all bits already.
     for (quint32* pixel = line; pixel != end; ++pixel) *pixel |= bits;
   }
   return true;

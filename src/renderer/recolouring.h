@@ -3,10 +3,10 @@
 #include <QImage>
 #include <QtGlobal>
 
-/// The two ways to put a colour into a picture (Format_ARGB32, alpha is kept). Colour numbers are 0 to 255.
+/// The two ways to recolour a picture in Format_ARGB32. Alpha stays. Colour numbers are 0 to 255.
 namespace renderer {
 
-/// The intensity of an object that has none.
+/// Stands for an object without an intensity.
 inline constexpr float NoIntensity = -1.0F;
 
 struct ColorNumbers {
@@ -16,7 +16,7 @@ struct ColorNumbers {
   friend bool operator==(const ColorNumbers&, const ColorNumbers&) = default;
 };
 
-/// A colour in the double hexcone of hue (degrees), lightness and saturation (0 to 1).
+/// A colour as hue (in degrees), lightness and saturation (0 to 1).
 struct HSL {
   double H = 0;
   double L = 0;
@@ -29,16 +29,16 @@ struct RGB {
   double B = 0;
 };
 
-/// The hue doesn't depend on the scale of the channels; lightness and saturation want them from 0 to 1. The usual
-/// hexcone formulas; a spread below 0.00001 counts as grey, of hue 0.
+/// Converts with the usual formulas. Lightness and saturation need channels from 0 to 1; the hue is right for any
+/// scale. Channels that differ by less than 0.00001 count as grey, with hue 0.
 HSL RGBToHSL(double r, double g, double b);
 RGB HSLToRGB(double H, double L, double S);
 
-/// Gives every pixel the hue of the colour; lightness and saturation stay, and so a grey pixel stays.
+/// Gives every pixel the hue of the colour. Lightness and saturation stay, so grey pixels stay grey.
 void colorize(QImage& picture, const ColorNumbers& color);
 
-/// Puts the colour times the intensity (NoIntensity: the colour itself) into every pixel that isn't white, by a bitwise
-/// OR: black becomes the colour. False, and nothing changed, when a channel leaves 0 to 255 and a pixel would take it.
+/// Combines every pixel with the colour times the intensity by a bitwise OR, so black becomes the colour and white
+/// stays. NoIntensity stands for 1. False if a channel is out of the range 0 to 255 and any pixel isn't white.
 bool recolourFont(QImage& picture, const ColorNumbers& color, float intensity);
 
 }  // namespace renderer

@@ -13,22 +13,22 @@
 
 namespace renderer {
 
-/// All that a render works on.
+/// Everything that a render needs.
 struct RenderContext {
   themefiles::ModuleState& state;
-  const themefiles::TagList& tags;  ///< the screen's tags in the order of painting
+  const themefiles::TagList& tags;  ///< the screen's tags in the order of drawing
   drawing::Surface& Workspace;
   RenderHost& host;
   platform::StatusLine& status;
   platform::Dialogs& dialogs;
   drawing::Graphics& graphics;
   RenderAccount& account;
-  PreparedPictures* pictures = nullptr;  ///< none: every picture is made anew
-  TrialFrame* trial = nullptr;           ///< none: a render of what the files hold
-  bool textsOnly = false;                ///< leaves the pictures of statics and buttons undrawn and unaccounted
+  PreparedPictures* pictures = nullptr;  ///< the cache; null for none
+  TrialFrame* trial = nullptr;           ///< the values on trial; null for none
+  bool textsOnly = false;                ///< skips the pictures of statics and buttons, in the account as well
 };
 
-/// Advances the progress bar by `step` percent and lets events through.
+/// Advances the progress bar by `step` per cent and yields.
 void UpdateProgress(RenderContext& context, qint16 step);
 
 }  // namespace renderer

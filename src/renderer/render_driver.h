@@ -4,13 +4,13 @@
 
 namespace renderer {
 
-/// Draws the chosen screen onto the surface: background, statics, texts, buttons with their child texts, each pass in
-/// the order of the tag list, from the working copies and texture files as they are now. Builds the list of buttons at
-/// the first drawing of a screen. Missing theme data leaves an object out; a number too large for 16 bits is reported.
-/// Lets events through behind every object; what Yield throws passes through.
+/// Draws the chosen screen onto the surface: background, statics, texts, then buttons with their child texts, each pass
+/// in the order of the tag list. Reads the working copies and texture files as they are now. Fills the button list when
+/// a screen is drawn for the first time. An object with missing data is left out; a number that doesn't fit into 16
+/// bits is reported. Yields after each object; an exception of yield passes through.
 void DrawScreen(RenderContext& context);
 
-/// The passes of DrawScreen alone, behind its progress bar and the start of its account.
+/// Only the passes of DrawScreen, without progress bar and without clearing the account.
 void drawPasses(RenderContext& context);
 
 }  // namespace renderer

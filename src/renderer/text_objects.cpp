@@ -21,7 +21,7 @@ constexpr std::array<TextFace, 2> Faces{{
     {1, u"Eurostar Black", 2},
 }};
 
-/// A channel given as a fraction, 1 being full.
+/// The channel for a fraction from 0 to 1.
 int channelOf(double fraction) {
   const double channel = std::nearbyint(fraction * 255);
   return channel >= 255 ? 255 : channel > 0 ? static_cast<int>(channel) : 0;
@@ -38,7 +38,7 @@ QColor colorOf(RenderContext& context, const ObjectSection& section) {
           channelOf(section.number(QStringLiteral("ColB")))};
 }
 
-/// Sets face and size; false when the text asks for a size that no text has.
+/// Sets the font. False if the size is 0 or below.
 bool setFont(RenderContext& context, const ObjectSection& section) {
   const double fontNumber = section.number(QStringLiteral("Font"));
   const QString size = section.Value(QStringLiteral("Size"));

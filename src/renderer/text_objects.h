@@ -4,10 +4,9 @@
 
 namespace renderer {
 
-/// Draws one text of the theme with its anchor at X, Y plus the base (pixels), in the chosen language, its face and
-/// size by Font and Size, aligned by Align, a fifth of its height lower. A Font other than 0 and 1 keeps what the text
-/// before left on the surface.
-/// `owner` is the button of a child text, empty for a free text.
+/// Draws a text in the chosen language. Its anchor is X, Y plus the base, Align tells how it lies at the anchor, and it
+/// is drawn a fifth of its height lower. Font and Size give its font; a Font other than 0 and 1 keeps the font of the
+/// previous text. `owner` is the button of a child text, else empty.
 void DrawTextObject(RenderContext& context, const ObjectSection& section, int baseX, int baseY, const QString& owner);
 
 }  // namespace renderer

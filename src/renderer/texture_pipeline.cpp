@@ -26,7 +26,7 @@ void StopGraphics(drawing::Graphics& graphics, platform::Dialogs& dialogs) {
   graphics.shutdown();
 }
 
-/// None for a colour of fewer than three fields.
+/// None if the colour has fewer than three fields.
 std::optional<Recolouring> recolouringOf(const Texture& texture) {
   using Type = Recolouring::Type;
   const QStringList fields = platform::splitAtBlanks(texture.color);

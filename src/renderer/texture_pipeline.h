@@ -9,27 +9,27 @@
 
 namespace renderer {
 
-/// A texture as an object has it drawn.
+/// A texture, and how to draw it.
 struct Texture {
   QString path;
-  QString type;  ///< "COLORIZED", "FONT BLACK"; any other leaves the pixels
+  QString type;  ///< "COLORIZED" or "FONT BLACK"; any other doesn't recolour
   Box box;
   QString color;  ///< "150 150 150"
   float intensity = NoIntensity;
-  bool inHand = false;  ///< its size may be another in each frame
+  bool inHand = false;  ///< its size may change with each frame
 };
 
 enum class TextureOutcome { Drawn, NoSession, NoPicture, NoColor, ColorRange, NoArea };
 
-/// What came of a DrawTexture, and where it drew.
+/// The outcome of DrawTexture, and the rectangle that it drew.
 struct TextureResult {
   TextureOutcome outcome = TextureOutcome::NoSession;
   QRect place;
 };
 
-/// Recolours the picture by type, colour and intensity, and draws it on the surface with alpha: scaled to the box, or
-/// at its own size when one of X, Y, W, H is -1 (at 0, 0 for an X or Y of -1). A session that can't be opened or closed
-/// is told in a message box; nothing else is, and no failure reaches the caller.
+/// Recolours the picture by type, colour and intensity, and draws it scaled to the box. If one of X, Y, W, H is -1, it
+/// is drawn at its own size; an X or Y of -1 counts as 0. A session that can't be opened or closed is reported in a
+/// message box. No failure is thrown.
 TextureResult DrawTexture(RenderContext& context, const Texture& texture);
 
 }  // namespace renderer
