@@ -2,47 +2,15 @@
 
 #include <array>
 
-#include <QColor>
-
+#include "renderer/plain_host.h"
 #include "renderer/render_driver.h"
 
 namespace renderer {
 namespace {
 
-/// Knows the names of screen and scheme, and shows nothing.
-class QuietHost : public RenderHost {
- public:
-  explicit QuietHost(const RenderHost& host) : host_(host) {}
-  int progressValue() const override { return 0; }
-  void setProgressValue(int /*value*/) override {}
-  void setProgressText(const QString& /*text*/) override {}
-  void setProgressVisible(bool /*visible*/) override {}
-  void Refresh() override {}
-  void yield() override {}
-  void fillButtonList(const QStringList& /*rows*/) override {}
-  void selectFirstButton() override {}
-  void setButtonListVisible(bool /*visible*/) override {}
-  QString screenName() const override { return host_.screenName(); }
-  QString schemeName() const override { return host_.schemeName(); }
-
- private:
-  const RenderHost& host_;
-};
-
 class QuietStatus : public platform::StatusLine {
  protected:
   void showReport(const QString& /*text*/) override {}
-};
-
-class QuietDialogs : public platform::Dialogs {
- public:
-  platform::BoxAnswer messageBox(QWidget* /*parent*/, const QString& /*text*/, const QString& /*title*/,
-                                 platform::BoxKind /*kind*/) override {
-    return platform::BoxAnswer::Ok;
-  }
-  QString inputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) override { return {}; }
-  QString openFile(QWidget* /*parent*/, const platform::FileRequest& /*request*/) override { return {}; }
-  std::optional<QColor> chooseColor(QWidget* /*parent*/, const QColor& /*present*/) override { return {}; }
 };
 
 /// Gives a surface its pen back.
@@ -63,9 +31,9 @@ RenderAccount drawTrial(const RenderContext& context, const TrialValues& values)
   const PenKeeper pen(context.Workspace);
   if (context.account.startPen) context.Workspace.setPen(*context.account.startPen);
   themefiles::ModuleState state = context.state;
-  QuietHost host(context.host);
+  PlainHost host(context.host.screenName(), context.host.schemeName());
   QuietStatus status;
-  QuietDialogs dialogs;
+  NoDialogs dialogs(status);
   TrialFrame frame(values);
   RenderAccount account;
   RenderContext trial{
