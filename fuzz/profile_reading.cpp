@@ -6,6 +6,7 @@
 
 #include "input.h"
 #include "platform/code_page.h"
+#include "platform/numbers.h"
 #include "platform/profile_outline.h"
 #include "platform/text_lines.h"
 
@@ -19,8 +20,9 @@ QByteArrayView trimmed(QByteArrayView text) {
   return text;
 }
 
-bool same(QByteArrayView a, QByteArrayView b) {
-  return sameName(fromAnsi(a), fromAnsi(b));
+/// Whether a name in the file is the one that is asked for, which may have blanks round it.
+bool isAsked(QByteArrayView name, QByteArrayView asked) {
+  return sameName(fromAnsi(trimmed(name)), trimBlanks(fromAnsi(asked)));
 }
 
 /// The same rules told line by line, slow and plain.
@@ -32,9 +34,9 @@ std::optional<QByteArray> plainValue(QByteArrayView file, QByteArrayView section
     if (text.startsWith('[')) {
       if (inside) return std::nullopt;
       const qsizetype end = text.indexOf(']');
-      inside = same(trimmed(text.first(end < 0 ? text.size() : end).sliced(1)), trimmed(section));
+      inside = isAsked(text.first(end < 0 ? text.size() : end).sliced(1), section);
     } else if (inside && !text.startsWith(';') && text.indexOf('=') > 0) {
-      if (!same(trimmed(text.first(text.indexOf('='))), trimmed(key))) continue;
+      if (!isAsked(text.first(text.indexOf('=')), key)) continue;
       text = trimmed(text.sliced(text.indexOf('=') + 1));
       for (const char mark : {'"', '\''}) {
         if (text.size() > 1 && text.startsWith(mark) && text.endsWith(mark))
@@ -57,12 +59,12 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   fuzz::require(findProfileValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
 
   QSet<QString> counted;
-  for (const ProfileSection& found : profileOutline(file)) {
+  for (const OutlineSection& found : profileOutline(file)) {
     const QString name = upperCase(fromAnsi(found.name));
     const bool isFirst = !counted.contains(name);
     counted += name;
     QSet<QString> keys;
-    for (const ProfileKey& line : found.keys) {
+    for (const OutlineKey& line : found.keys) {
       const QString keyName = upperCase(fromAnsi(line.name));
       if (isFirst && !keys.contains(keyName)) {
         fuzz::require(findProfileValue(file, found.name, line.name) == line.value, "the outline has what is found");

@@ -56,9 +56,10 @@ class FinderTest : public ProgramTest {
 
   /// A hit that is chosen while a screen is listed or drawn, at each of its yields; a later choice outranks it.
   void goesDuringWork() {
-    for (const auto& [screen, later] : {std::pair{u"Main Screen"_s, QString()},
-                                        {u"Level Screen"_s, QString()},
-                                        {u"Level Screen"_s, u"Loading Screen"_s}}) {
+    const struct {
+      QString screen, later;
+    } choices[] = {{u"Main Screen"_s, {}}, {u"Level Screen"_s, {}}, {u"Level Screen"_s, u"Loading Screen"_s}};
+    for (const auto& choice : choices) {
       for (int at = 1; at <= 12; ++at) {
         program->screen(u"Loading Screen"_s);
         int yields = 0;
@@ -66,11 +67,11 @@ class FinderTest : public ProgramTest {
         connect(&program->form.queue(), &controls::WorkQueue::yielding, &life, [&] {
           if (++yields != at) return;
           key(find("mainstatica x=10"), Qt::Key_Return);
-          if (!later.isEmpty()) program->screen(later);
+          if (!choice.later.isEmpty()) program->screen(choice.later);
         });
-        program->screen(screen);
+        program->screen(choice.screen);
         if (yields < at) break;
-        QCOMPARE(place(), later.isEmpty() ? u"Main Screen/MainStaticA/X"_s : u"Loading Screen/Loading/"_s);
+        QCOMPARE(place(), choice.later.isEmpty() ? u"Main Screen/MainStaticA/X"_s : u"Loading Screen/Loading/"_s);
       }
     }
   }
