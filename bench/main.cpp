@@ -66,7 +66,7 @@ bool printTable(const Medians& medians, const std::vector<std::shared_ptr<Sample
     if (screen->longestGap() <= 0) continue;
     std::printf("longest gap between two yields of %s of %s, %.1f MB: %.1f ms (reach: under %.0f)\n",
                 qPrintable(screen->name()), qPrintable(screen->theme()),
-                double(platform::readFile(screen->themeFile()).size()) / 1'000'000, screen->longestGap(),
+                static_cast<double>(platform::readFile(screen->themeFile()).size()) / 1'000'000, screen->longestGap(),
                 LongestGapReach);
     reached = reached && screen->longestGap() < LongestGapReach;
   }

@@ -73,7 +73,11 @@ void Workspace::SetVisible(bool visible) {
 }
 
 void Workspace::setBlinking(bool blinking) {
-  if (blinking != timer1_.isActive()) blinking ? timer1_.start() : timer1_.stop();
+  if (!blinking) {
+    timer1_.stop();
+  } else if (!timer1_.isActive()) {
+    timer1_.start();
+  }
 }
 
 void Workspace::Timer1_Timer() {

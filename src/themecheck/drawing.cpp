@@ -98,7 +98,7 @@ void ScreenCheck::selectInTurn() {
   for (const renderer::DrawnObject& object : chosen_.account.objects) withTexts += object.owner;
   QStringList buttons = chosen_.tags.rows();
   buttons.removeIf([&](const QString& tag) { return !renderer::isButton(tag) || hidden.contains(tag); });
-  buttons.resize(std::min(buttons.size(), qsizetype(chosen_.state.ButtonCount)));
+  buttons.resize(std::min<qsizetype>(buttons.size(), chosen_.state.ButtonCount));
   for (qsizetype button = 1; button < buttons.size(); ++button) {
     themefiles::SortedTags rows;
     rows.AddItem(buttons[button]);

@@ -245,7 +245,11 @@ void Form2::keyPressEvent(QKeyEvent* event) {
   if (!enter || !inEditorArea(focus)) return QWidget::keyPressEvent(event);
   if (event->isAutoRepeat()) return;
   auto* const button = qobject_cast<QPushButton*>(focus);
-  button != nullptr ? button->click() : Q_EMIT enterPressed();
+  if (button != nullptr) {
+    button->click();
+  } else {
+    Q_EMIT enterPressed();
+  }
 }
 
 }  // namespace toolwindow

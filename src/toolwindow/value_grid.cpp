@@ -36,9 +36,11 @@ void loadEditor(Form2& form, const themefiles::GroupRow& group, const QString& v
       break;
     case themefiles::EditorFrame::Selection:
       fillSelection(form, group);
-      // A value outside the list selects nothing.
-      group.group == themefiles::KeyGroup::Type ? static_cast<void>(form.Combo2->selectText(value))
-                                                : selectNumbered(form, value);
+      if (group.group != themefiles::KeyGroup::Type) {
+        selectNumbered(form, value);
+      } else {
+        form.Combo2->selectText(value);  // a value outside the list selects nothing
+      }
       break;
     case themefiles::EditorFrame::Color:
       FillColorEditor(form, value);

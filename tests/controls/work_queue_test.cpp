@@ -35,7 +35,13 @@ struct Bench {
       if (letter == u'x') queue.runOutside(command);
       if (letter == u'l' || letter == u'f') queue.runOutside(command, controls::RunningWork::GivesWay);
       if (letter == u'f') queue.runOutside([this] { queue.forget(); });
-      if (letter == u'n') queue.runOutside([this] { log += u'x', wishFor(u"dx"), log += u'X'; });
+      if (letter == u'n') {
+        queue.runOutside([this] {
+          log += u'x';
+          wishFor(u"dx");
+          log += u'X';
+        });
+      }
     }
   }
 
