@@ -11,15 +11,15 @@
 namespace bench {
 namespace {
 
-constexpr int Sections = 800;
+constexpr int SectionCount = 800;
 const QString Name = QStringLiteral("theme.ini");
 const QString Section = QStringLiteral("ScreenObject400");
 const QString Key = QStringLiteral("W");
 
 /// A theme of about 70 KB.
-QByteArray themeText() {
+QByteArray themeOfSections() {
   QByteArray text;
-  for (int i = 0; i < Sections; ++i) {
+  for (int i = 0; i < SectionCount; ++i) {
     text += "[ScreenObject" + QByteArray::number(i) + "]\r\n";
     for (const char* line : {"Tex=Button", "X=100", "Y=200", "W=64", "H=24", "Color=P1Dark", "Type=Font Black"}) {
       text += QByteArray(line) + "\r\n";
@@ -66,7 +66,7 @@ std::size_t countBrackets(const QByteArray& bytes) {
 
 void registerIniAccess() {
   const auto folder = std::make_shared<support::Folder>();
-  folder->put(Name, themeText());
+  folder->put(Name, themeOfSections());
   const QByteArray native = QFile::encodeName(folder->native(Name));
   registerBenchmark(
       {"GetINI", 2, Held::AtMost},

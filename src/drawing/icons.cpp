@@ -11,7 +11,7 @@ namespace drawing {
 
 namespace {
 
-constexpr QRgb Black = 0xFF000000;
+constexpr QRgb OpaqueBlack = 0xFF000000;
 constexpr QRgb White = 0xFFFFFFFF;
 constexpr int LargestSide = 256;
 constexpr int MostColors = 256;
@@ -56,7 +56,7 @@ uint indexAt(QByteArrayView row, int x, int bits) {
 QRgb colorAt(QByteArrayView row, int x, int bits, const std::vector<QRgb>& palette) {
   if (bits <= 8) {
     const uint index = indexAt(row, x, bits);
-    return index < palette.size() ? palette[index] : Black;
+    return index < palette.size() ? palette[index] : OpaqueBlack;
   }
   const auto* pixel = reinterpret_cast<const uchar*>(row.data()) + x * (bits / 8);
   return qRgb(pixel[2], pixel[1], pixel[0]);
@@ -110,7 +110,7 @@ std::optional<IconBitmaps> readIcon(QByteArrayView file) {
   if (!head) return std::nullopt;
   std::vector<QRgb> palette;
   palette.reserve(head->colors);
-  for (int i = 0; i < head->colors; ++i) palette.push_back(Black | (cursor.little32() & RGB_MASK));
+  for (int i = 0; i < head->colors; ++i) palette.push_back(OpaqueBlack | (cursor.little32() & RGB_MASK));
   const qint64 colorSize = bytesPerRow(head->width, head->bits);
   const qint64 maskSize = bytesPerRow(head->width, 1);
   const QByteArrayView colors = cursor.take(colorSize * head->height);
@@ -124,8 +124,8 @@ std::optional<IconBitmaps> readIcon(QByteArrayView file) {
     const QByteArrayView maskRow = masks.sliced(stored * maskSize, maskSize);
     for (int x = 0; x < head->width; ++x) {
       const bool isClear = indexAt(maskRow, x, 1) != 0;
-      icon.mask.setPixel(x, y, isClear ? White : Black);
-      icon.Color.setPixel(x, y, isClear ? Black : colorAt(colorRow, x, head->bits, palette));
+      icon.mask.setPixel(x, y, isClear ? White : OpaqueBlack);
+      icon.Color.setPixel(x, y, isClear ? OpaqueBlack : colorAt(colorRow, x, head->bits, palette));
     }
   }
   return icon;
@@ -138,8 +138,8 @@ IconBitmaps bitmapsOf(const QImage& picture) {
     for (int x = 0; x < source.width(); ++x) {
       const QRgb pixel = source.pixel(x, y);
       const bool isClear = !isSeen(pixel);
-      icon.mask.setPixel(x, y, isClear ? White : Black);
-      icon.Color.setPixel(x, y, isClear ? Black : pixel | Black);
+      icon.mask.setPixel(x, y, isClear ? White : OpaqueBlack);
+      icon.Color.setPixel(x, y, isClear ? OpaqueBlack : pixel | OpaqueBlack);
     }
   }
   return icon;
@@ -151,7 +151,7 @@ std::optional<QByteArray> writeIcon(const QImage& picture) {
   const bool fits = picture.width() <= LargestSide && picture.height() <= LargestSide && palette.size() <= MostColors;
   if (picture.isNull() || !fits) return std::nullopt;
   const QByteArray pixels = colorRows(icon.Color, palette) + maskRows(icon.mask);
-  palette.resize(MostColors, Black);
+  palette.resize(MostColors, OpaqueBlack);
   QByteArray file;
   for (const int number : {0, 1, 1}) platform::appendLittle<quint16>(file, number);  // an icon, one image
   for (const int number : {picture.width(), picture.height(), 0, 0}) platform::appendLittle<quint8>(file, number);

@@ -19,7 +19,7 @@ namespace {
 /// The limit for a picture's file, and for its pixels in memory.
 constexpr int LargestMegabytes = 256;
 constexpr qint64 LargestBytes = static_cast<qint64>(LargestMegabytes) * 1024 * 1024;
-constexpr qint64 LargestPixels = LargestBytes / 4;
+constexpr qint64 LargestArea = LargestBytes / 4;
 
 struct Kind {
   const char* mark;  ///< the first bytes of such a file
@@ -53,7 +53,7 @@ bool mayBePicture(QFile& file) {
 QImage decodePicture(QByteArrayView bytes) {
   const Kind* const kind = kindOf(bytes);
   if (!kind) return {};
-  if (!kind->isWhole) return decodeJpeg(bytes, LargestPixels);
+  if (!kind->isWhole) return decodeJpeg(bytes, LargestArea);
   if (!kind->isWhole(bytes)) return {};
   QByteArray data = QByteArray::fromRawData(bytes.data(), bytes.size());
   QBuffer buffer(&data);
@@ -63,7 +63,7 @@ QImage decodePicture(QByteArrayView bytes) {
   reader.setAutoTransform(false);
   const QSize size = reader.size();
   // The height is negative if rows are stored from top to bottom.
-  if (std::abs(static_cast<qint64>(size.width()) * size.height()) > LargestPixels) return {};
+  if (std::abs(static_cast<qint64>(size.width()) * size.height()) > LargestArea) return {};
   QImage picture = reader.read();
   if (picture.isNull()) return {};
   picture.setColorSpace({});

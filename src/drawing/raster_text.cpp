@@ -9,12 +9,12 @@ namespace drawing {
 namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72;
-constexpr int LargestPixels = static_cast<int>(LargestPoints * 96 / 72);
+constexpr int LargestHeight = static_cast<int>(LargestPoints * 96 / 72);
 
 /// The font with its size in pixels and grey antialiasing.
 QFont onPixels(const QFont& font) {
   const int wanted = font.pixelSize() > 0 ? font.pixelSize() : qRound(font.pointSizeF() * PixelsPerPoint);
-  const int pixels = std::clamp(wanted, 1, LargestPixels);
+  const int pixels = std::clamp(wanted, 1, LargestHeight);
   QFont exact = inGreySteps(font);
   if (exact.pixelSize() != pixels) exact.setPixelSize(pixels);
   return exact;

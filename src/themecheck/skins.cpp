@@ -33,7 +33,7 @@ std::vector<const IniKey*> keysOf(const IniFile& file, const QString& name) {
   return keys;
 }
 
-bool has(const IniFile& skin, const QString& texture) {
+bool hasTexture(const IniFile& skin, const QString& texture) {
   const IniSection* textures = skin.find(Textures);
   return textures && textures->find(texture);
 }
@@ -46,7 +46,7 @@ void checkLacking(const CheckedTheme& theme, Findings& findings) {
       if (seen.contains(upperCase(key->name))) continue;
       seen += upperCase(key->name);
       for (const IniFile& other : theme.skins) {
-        if (has(other, key->name) || !theme.skinNames.contains(other.name())) continue;
+        if (hasTexture(other, key->name) || !theme.skinNames.contains(other.name())) continue;
         findings.add(Kind::LackingTexture, skin.place(Textures, key->name), {}, {other.name(), {}});
       }
     }

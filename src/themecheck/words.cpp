@@ -10,7 +10,7 @@ namespace {
 
 const QString Text = QStringLiteral("Text");
 
-bool has(const IniFile& language, const QString& key) {
+bool hasWords(const IniFile& language, const QString& key) {
   const IniSection* words = language.find(Text);
   return words && words->find(key);
 }
@@ -21,11 +21,11 @@ void checkWords(const CheckedTheme& theme, Findings& findings) {
   for (const IniSection* object : objectsOf(theme.theme)) {
     const QString key = wordsKeyOf(*object);
     if (std::none_of(theme.languages.begin(), theme.languages.end(),
-                     [&](const IniFile& language) { return has(language, key); })) {
+                     [&](const IniFile& language) { return hasWords(language, key); })) {
       continue;
     }
     for (const IniFile& language : theme.languages) {
-      if (has(language, key) || !theme.languageNames.contains(language.name())) continue;
+      if (hasWords(language, key) || !theme.languageNames.contains(language.name())) continue;
       findings.add(Kind::NoWords, theme.theme.place(object->name, Text), {key}, {{}, language.name()});
     }
   }

@@ -48,11 +48,11 @@ constexpr QStringView Keys[] = {
 
 using Field = std::variant<QString ToolbarButton::*, PictureReference ToolbarButton::*, int ToolbarButton::*,
                            bool ToolbarButton::*>;
-struct FieldRow {
+struct StoredField {
   QStringView stem;  ///< the button's number follows
   Field field;
 };
-constexpr FieldRow Fields[] = {
+constexpr StoredField StoredFields[] = {
     {u"ButtonCaption", &ToolbarButton::Caption},
     {u"ButtonIcon", &ToolbarButton::Icon},
     {u"ButtonToolTipText", &ToolbarButton::ToolTipText},
@@ -115,7 +115,7 @@ const Property& propertyOf(QStringView key) {
 }
 
 bool readButton(const PropertyBag& bag, const QString& number, ToolbarButton& button) {
-  return std::all_of(std::begin(Fields), std::end(Fields), [&](const FieldRow& row) {
+  return std::all_of(std::begin(StoredFields), std::end(StoredFields), [&](const StoredField& row) {
     return std::visit([&](const auto field) { return read(bag, row.stem.toString() + number, button.*field); },
                       row.field);
   });
@@ -158,7 +158,7 @@ void writeStoredForm(PropertyBag& bag, const StoredToolBar& toolBar, const QFont
   int number = 0;
   for (const ToolbarButton& button : toolBar.buttons) {
     const QString suffix = QString::number(++number);
-    for (const FieldRow& row : Fields) {
+    for (const StoredField& row : StoredFields) {
       std::visit([&](const auto field) { write(bag, row.stem.toString() + suffix, button.*field, plain.*field); },
                  row.field);
     }

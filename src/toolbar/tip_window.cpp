@@ -19,7 +19,7 @@ namespace {
 constexpr int TextPixels = 11;
 constexpr int Margin = 5;
 constexpr int Gap = 4;
-constexpr int IconSide = 16;
+constexpr int SymbolSide = 16;
 constexpr int Roundness = 7;
 constexpr int StemLength = 12;
 constexpr int StemWidth = 10;
@@ -56,9 +56,9 @@ QSize TipWindow::contents() const {
   QSize size =
       fontMetrics().boundingRect(QRect(0, 0, WidestText, 0), Qt::TextWordWrap | Qt::TextExpandTabs, tip_.Text).size();
   if (!tip_.title.isEmpty()) {
-    const int icon = tip_.Icon == 0 ? 0 : IconSide + Gap;
+    const int icon = tip_.Icon == 0 ? 0 : SymbolSide + Gap;
     size.setWidth(std::max(size.width(), icon + QFontMetrics(titleFont()).horizontalAdvance(tip_.title)));
-    size.rheight() += IconSide + Gap;
+    size.rheight() += SymbolSide + Gap;
   }
   return size + QSize(1, 1);
 }
@@ -113,15 +113,15 @@ void TipWindow::paintEvent(QPaintEvent* /*event*/) {
   QRect area = body().adjusted(Margin, Margin, -Margin, -Margin);
   if (!tip_.title.isEmpty()) {
     QRect title = area;
-    title.setHeight(IconSide);
+    title.setHeight(SymbolSide);
     if (tip_.Icon != 0) {
-      iconOf(tip_.Icon).paint(&painter, QRect(title.topLeft(), QSize(IconSide, IconSide)));
-      title.setLeft(title.left() + IconSide + Gap);
+      iconOf(tip_.Icon).paint(&painter, QRect(title.topLeft(), QSize(SymbolSide, SymbolSide)));
+      title.setLeft(title.left() + SymbolSide + Gap);
     }
     painter.setFont(titleFont());
     painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, tip_.title);
     painter.setFont(font());
-    area.setTop(area.top() + IconSide + Gap);
+    area.setTop(area.top() + SymbolSide + Gap);
   }
   painter.drawText(area, Qt::TextWordWrap | Qt::TextExpandTabs, tip_.Text);
 }

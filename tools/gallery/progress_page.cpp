@@ -16,12 +16,11 @@ namespace gallery {
 namespace {
 
 using progressbar::ProgressBar;
-using progressbar::Properties;
 
 /// A row of bars that differ in one property.
 struct Row {
   QStringView title;
-  int Properties::*property;
+  int progressbar::Properties::*property;
   QList<int> values;
   QSize size;
   std::function<void(ProgressBar&)> rest = nullptr;
@@ -32,12 +31,12 @@ constexpr QSize Broad(190, 40);
 constexpr QSize Tall(24, 90);
 
 void vertical(ProgressBar& bar) {
-  bar.set(&Properties::Orientations, 2);
-  bar.set(&Properties::TextStyle, 1);
+  bar.set(&progressbar::Properties::Orientations, 2);
+  bar.set(&progressbar::Properties::TextStyle, 1);
 }
 
 void disabled(ProgressBar& bar) {
-  bar.set(&Properties::Enabled, false);
+  bar.set(&progressbar::Properties::Enabled, false);
 }
 
 void verticalDisabled(ProgressBar& bar) {
@@ -46,10 +45,10 @@ void verticalDisabled(ProgressBar& bar) {
 }
 
 void large(ProgressBar& bar) {
-  bar.set(&Properties::Text, QStringLiteral("Effect"));
-  bar.set(&Properties::TextFont, drawing::controlFont(QStringLiteral("Arial"), 24));
-  bar.set(&Properties::TextForeColor, 0x0000C0);
-  bar.set(&Properties::TextEffectColor, 0xFFC000);
+  bar.set(&progressbar::Properties::Text, QStringLiteral("Effect"));
+  bar.set(&progressbar::Properties::TextFont, drawing::controlFont(QStringLiteral("Arial"), 24));
+  bar.set(&progressbar::Properties::TextForeColor, 0x0000C0);
+  bar.set(&progressbar::Properties::TextEffectColor, 0xFFC000);
 }
 
 void largeDisabled(ProgressBar& bar) {
@@ -66,17 +65,17 @@ const QList<Row>& rows() {
   static const QList<int> themes = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
   static const QList<int> effects = {1, 2, 3, 4, 5, 6};
   static const QList<Row> all = {
-      {u"Theme", &Properties::Theme, themes, Wide},
-      {u"Theme, disabled", &Properties::Theme, themes, Wide, disabled},
-      {u"Theme, vertical", &Properties::Theme, themes, Tall, vertical},
-      {u"Theme, vertical, disabled", &Properties::Theme, themes, Tall, verticalDisabled},
-      {u"TextEffect", &Properties::TextEffect, effects, Broad, large},
-      {u"TextEffect, disabled", &Properties::TextEffect, effects, Broad, largeDisabled},
-      {u"TextAlignment", &Properties::TextAlignment, {1, 2, 3, 4, 5, 6, 7, 8, 9}, QSize(120, 34)},
-      {u"TextStyle", &Properties::TextStyle, {1, 2, 3, 4}, Broad, third},
-      {u"Value", &Properties::Value, {0, 1, 33, 50, 99, 100}, Broad},
-      {u"RoundedValue", &Properties::RoundedValue, {0, 2, 3, 6, 10, 20, 40, 100}, QSize(140, 40)},
-      {u"Orientations", &Properties::Orientations, {1, 2, 3}, Broad},
+      {u"Theme", &progressbar::Properties::Theme, themes, Wide},
+      {u"Theme, disabled", &progressbar::Properties::Theme, themes, Wide, disabled},
+      {u"Theme, vertical", &progressbar::Properties::Theme, themes, Tall, vertical},
+      {u"Theme, vertical, disabled", &progressbar::Properties::Theme, themes, Tall, verticalDisabled},
+      {u"TextEffect", &progressbar::Properties::TextEffect, effects, Broad, large},
+      {u"TextEffect, disabled", &progressbar::Properties::TextEffect, effects, Broad, largeDisabled},
+      {u"TextAlignment", &progressbar::Properties::TextAlignment, {1, 2, 3, 4, 5, 6, 7, 8, 9}, QSize(120, 34)},
+      {u"TextStyle", &progressbar::Properties::TextStyle, {1, 2, 3, 4}, Broad, third},
+      {u"Value", &progressbar::Properties::Value, {0, 1, 33, 50, 99, 100}, Broad},
+      {u"RoundedValue", &progressbar::Properties::RoundedValue, {0, 2, 3, 6, 10, 20, 40, 100}, QSize(140, 40)},
+      {u"Orientations", &progressbar::Properties::Orientations, {1, 2, 3}, Broad},
   };
   return all;
 }
@@ -84,10 +83,10 @@ const QList<Row>& rows() {
 std::unique_ptr<ProgressBar> barOf(const Row& row, int value) {
   auto bar = std::make_unique<ProgressBar>();
   bar->setFixedSize(row.size);
-  bar->set(&Properties::Text, QStringLiteral("Text"));
-  bar->set(&Properties::TextFont, drawing::controlFont(QStringLiteral("Arial"), 11));
-  bar->set(&Properties::PBSCustomeColor1, 0x404040);
-  bar->set(&Properties::PBSCustomeColor2, 0xC0C0C0);
+  bar->set(&progressbar::Properties::Text, QStringLiteral("Text"));
+  bar->set(&progressbar::Properties::TextFont, drawing::controlFont(QStringLiteral("Arial"), 11));
+  bar->set(&progressbar::Properties::PBSCustomeColor1, 0x404040);
+  bar->set(&progressbar::Properties::PBSCustomeColor2, 0xC0C0C0);
   if (row.rest) row.rest(*bar);
   bar->set(row.property, value);
   bar->setToolTip(QString::number(value));

@@ -18,7 +18,6 @@ namespace {
 
 using toolbar::McToolBar;
 using toolbar::Model;
-using toolbar::Properties;
 
 constexpr int Hovered = 2;
 constexpr int ButtonWidth = 84;
@@ -26,9 +25,9 @@ constexpr int ButtonHeight = 44;
 
 /// Five buttons and a separator: as they are, hovered, pressed, disabled, and without a caption.
 void fill(Model& model) {
-  model.setValue(&Properties::ButtonsPerRow, 10);
-  model.setValue(&Properties::ButtonsWidth, ButtonWidth);
-  model.setValue(&Properties::ButtonsHeight, ButtonHeight);
+  model.setValue(&toolbar::Properties::ButtonsPerRow, 10);
+  model.setValue(&toolbar::Properties::ButtonsWidth, ButtonWidth);
+  model.setValue(&toolbar::Properties::ButtonsHeight, ButtonHeight);
   model.SetButton_Count(6);
   const std::pair<const char*, const char*> faces[] = {{"Open", "open"},      {"Hover", "save"}, {"Pressed", "close"},
                                                        {"Off", "background"}, {"", ""},          {"", "open"}};
@@ -65,7 +64,7 @@ class Rows {
     bar->resize(width, bar->height());
     bar->setFixedWidth(width);
     bar->buttons().pointAt(Hovered);
-    bar->buttons().setValue(&Properties::ButtonsWidth, ButtonWidth);
+    bar->buttons().setValue(&toolbar::Properties::ButtonsWidth, ButtonWidth);
     put(title, bar);
   }
   void put(const QString& title, QWidget* bar) {
@@ -84,11 +83,11 @@ class Rows {
 void addGradients(Rows& rows) {
   for (int kind = 1; kind <= 6; ++kind) {
     rows.add(QStringLiteral("BackGradient, ButtonsGradient %1").arg(kind), [kind](Model& model) {
-      model.setValue(&Properties::ButtonsMode, 5);
-      model.setValue(&Properties::BackColor, 0x808080U);
-      model.setValue(&Properties::BackGradient, kind);
-      model.setValue(&Properties::ButtonsBackColor, 0xC08040U);
-      model.setValue(&Properties::ButtonsGradient, kind);
+      model.setValue(&toolbar::Properties::ButtonsMode, 5);
+      model.setValue(&toolbar::Properties::BackColor, 0x808080U);
+      model.setValue(&toolbar::Properties::BackGradient, kind);
+      model.setValue(&toolbar::Properties::ButtonsBackColor, 0xC08040U);
+      model.setValue(&toolbar::Properties::ButtonsGradient, kind);
     });
   }
 }
@@ -115,20 +114,20 @@ std::unique_ptr<QWidget> makeToolBarPage() {
   rows.put(QStringLiteral("Main window"), own);
   for (int mode = 0; mode <= 6; ++mode) {
     rows.add(QStringLiteral("ButtonsMode %1").arg(mode),
-             [mode](Model& model) { model.setValue(&Properties::ButtonsMode, mode); });
+             [mode](Model& model) { model.setValue(&toolbar::Properties::ButtonsMode, mode); });
   }
   addGradients(rows);
   addAlignments(rows);
-  rows.add(QStringLiteral("Disabled"), [](Model& model) { model.setValue(&Properties::Enabled, false); });
+  rows.add(QStringLiteral("Disabled"), [](Model& model) { model.setValue(&toolbar::Properties::Enabled, false); });
   rows.add(QStringLiteral("Sunken frame, tiled background"), [](Model& model) {
-    model.setValue(&Properties::BorderStyle, 2);
-    model.setValue(&Properties::Background, toolbar::pictureOfImage(checks()));
+    model.setValue(&toolbar::Properties::BorderStyle, 2);
+    model.setValue(&toolbar::Properties::Background, toolbar::pictureOfImage(checks()));
   });
   rows.add(
-      QStringLiteral("Chevron"), [](Model& model) { model.setValue(&Properties::ShowChevron, true); }, 300);
+      QStringLiteral("Chevron"), [](Model& model) { model.setValue(&toolbar::Properties::ShowChevron, true); }, 300);
   rows.add(
-      QStringLiteral("In a designer"), [](Model& model) { model.setValue(&Properties::ShowSeperator, false); }, 460,
-      false);
+      QStringLiteral("In a designer"), [](Model& model) { model.setValue(&toolbar::Properties::ShowSeperator, false); },
+      460, false);
   return page;
 }
 

@@ -12,7 +12,7 @@ std::string digit(int number) {
   return std::to_string(number);
 }
 
-ButtonRow smallButton(const std::string& name, const Place& at, const std::string& key) {
+ButtonRow partyButton(const std::string& name, const Place& at, const std::string& key) {
   return {name, "ButtonSmall", at, HueLook, {caption(at, key, 0, 9)}, numbered("SelectH=", at.h + 4)};
 }
 
@@ -26,7 +26,7 @@ Screen newRoundScreen() {
       .texts = {{"TextNext", 400, 436, 0, 9, 1, "Body", "ROUND_NEXT"},
                 {"TextRound", 400, 84 + middleOf(90, 1, 11), 1, 11, 1, "Gold", "ROUND_NUMBER"},
                 {"TextSong", 400, 464, 0, 9, 1, "Muted", "SONG_TITLE_5"}},
-      .buttons = {smallButton("ButtonNext", {300, 500, 200, 50}, "CONTINUE")},
+      .buttons = {partyButton("ButtonNext", {300, 500, 200, 50}, "CONTINUE")},
   };
   for (int team = 1; team <= 2; ++team) {
     const int x = team == 1 ? 40 : 500;
@@ -40,7 +40,7 @@ Screen newRoundScreen() {
                               0, player(team, "Lightest"), numbered("SINGER_", 2 * member - 2 + team)});
     }
   }
-  screen.buttons.push_back(smallButton("ButtonQuit", {80, 500, 180, 50}, "BACK"));
+  screen.buttons.push_back(partyButton("ButtonQuit", {80, 500, 180, 50}, "BACK"));
   return screen;
 }
 
@@ -50,8 +50,8 @@ Screen scoreTableScreen() {
       .chrome = {Side::Middle, "PARTY_SCORE", "PARTY_HELP", "GlyphCup", "Teal"},
       .statics = {{"StaticLead", "Row", {60, 462, 680, 42}, "White"}},
       .texts = {{"TextWinner", 400, 462 + middleOf(42, 1, 8), 1, 8, 1, "Gold", "PARTY_LEADS"}},
-      .buttons = {smallButton("ButtonDetails", {190, 508, 200, 46}, "STAT_DETAIL"),
-                  smallButton("ButtonNext", {410, 508, 200, 46}, "CONTINUE")},
+      .buttons = {partyButton("ButtonDetails", {190, 508, 200, 46}, "STAT_DETAIL"),
+                  partyButton("ButtonNext", {410, 508, 200, 46}, "CONTINUE")},
   };
   constexpr int Points[] = {11, 9, 6};
   for (int team = 1; team <= 3; ++team) {
@@ -82,8 +82,8 @@ Screen winScreen() {
       .chrome = {Side::Right, "PARTY_WIN", "PARTY_HELP", "GlyphCrown", "Gold"},
       .statics = {{"StaticCrown", "GlyphCrown", {335, 96, 130, 130}, "Gold", "Font Black"}},
       .texts = {{"TextCongratulation", 400, 86, 0, 11, 1, "Title", "PARTY_CHEER"}},
-      .buttons = {smallButton("ButtonAgain", {30, 96, 190, 50}, "AGAIN"),
-                  smallButton("ButtonQuit", {580, 96, 190, 50}, "BACK")},
+      .buttons = {partyButton("ButtonAgain", {30, 96, 190, 50}, "AGAIN"),
+                  partyButton("ButtonQuit", {580, 96, 190, 50}, "BACK")},
   };
   struct Step {
     int team, x, top;
@@ -112,8 +112,8 @@ Screen optionsOfPartyScreen() {
       .chrome = {Side::Left, "PARTY_OPTIONS", "PARTY_HELP", "GlyphGear", "Rose"},
       .statics = {{"StaticPanel", "Panel", {120, 90, 560, 410}, "White"}},
       .texts = {{"TextAbout", 400, 450, 0, 9, 1, "Gold", "PARTY_ABOUT"}},
-      .buttons = {smallButton("ButtonExit", {410, 506, 190, 46}, "BACK"),
-                  smallButton("ButtonNext", {200, 506, 190, 46}, "CONTINUE")},
+      .buttons = {partyButton("ButtonExit", {410, 506, 190, 46}, "BACK"),
+                  partyButton("ButtonNext", {200, 506, 190, 46}, "CONTINUE")},
   };
   const std::string words[][2] = {{"PARTY_LEVEL", "EASY"},
                                   {"PARTY_TEAMS", "3"},
@@ -137,7 +137,7 @@ Screen playersScreen() {
       .stem = "PartyPlayer",
       .chrome = {Side::Right, "PARTY_PLAYERS", "PARTY_HELP", "GlyphPeople", "Accent"},
       .texts = {{"TextMembers", 400, 76, 0, 9, 1, "Body", "PARTY_WHO"}},
-      .buttons = {smallButton("ButtonZNext", {300, 504, 200, 48}, "CONTINUE")},
+      .buttons = {partyButton("ButtonZNext", {300, 504, 200, 48}, "CONTINUE")},
   };
   for (int team = 1; team <= 3; ++team) {
     const int x = 20 + (team - 1) * 258;

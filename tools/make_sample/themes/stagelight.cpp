@@ -9,7 +9,7 @@ namespace sample {
 
 namespace {
 
-constexpr const char* Folder = "Skins/Stagelight/";
+constexpr const char* StagelightSkins = "Skins/Stagelight/";
 
 constexpr const char* Head =
     "; Stagelight, the sample theme with every screen\n"
@@ -75,11 +75,11 @@ void writeStagelight(const Output& output) {
   for (const Screen& screen : screensInOrder()) theme += screenText(screen);
   output.writeLines("Themes/Stagelight.ini", theme);
   for (const Skin& skin : Skins) {
-    output.writeLines(Folder + std::string(skin.name) + ".ini", skinText(skin));
-    writeTextures(output, Folder, skin.prefix, skin.look);
+    output.writeLines(StagelightSkins + std::string(skin.name) + ".ini", skinText(skin));
+    writeTextures(output, StagelightSkins, skin.prefix, skin.look);
   }
-  writeGlyphs(output, Folder);
-  writeBackgrounds(output, Folder);
+  writeGlyphs(output, StagelightSkins);
+  writeBackgrounds(output, StagelightSkins);
 }
 
 }  // namespace sample

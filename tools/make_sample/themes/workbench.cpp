@@ -10,7 +10,7 @@ namespace sample {
 
 namespace {
 
-constexpr const char* Folder = "Skins/Workbench/";
+constexpr const char* WorkbenchSkins = "Skins/Workbench/";
 
 constexpr Palette Grey = {rgb(0xb8bcc4), rgb(0xd4d6da), rgb(0xa4a8b0), rgb(0xffffff), rgb(0x70747c)};
 constexpr Look Plain = {rgb(0xe4e6ea, 0.9), rgb(0x50545c), rgb(0x7088b0), rgb(0x405880),
@@ -60,10 +60,10 @@ QImage onWhite(const QImage& image) {
 
 void writeWorkbench(const Output& output) {
   output.writeLines("Themes/Workbench.ini", std::string(WorkbenchPictures) + WorkbenchWords + WorkbenchScreens);
-  output.writeLines(Folder + std::string("Grey.ini"), WorkbenchGreySkin);
-  output.write(Folder + std::string("Spare.ini"), WorkbenchSpareSkin);
+  output.writeLines(WorkbenchSkins + std::string("Grey.ini"), WorkbenchGreySkin);
+  output.write(WorkbenchSkins + std::string("Spare.ini"), WorkbenchSpareSkin);
 
-  const auto file = [](const char* name) { return Folder + std::string(name); };
+  const auto file = [](const char* name) { return WorkbenchSkins + std::string(name); };
   Canvas bench(320, 240, 800, 600);
   paintTiles(bench, Grey, 50);
   output.writePicture(file("bench.jpg"), bench.image(), 80);
