@@ -10,6 +10,7 @@
 #include "controls/work_queue.h"
 #include "mainwindows/commands.h"
 #include "mainwindows/main_window.h"
+#include "mainwindows/picture_watch.h"
 #include "mainwindows/preview_hand.h"
 #include "mainwindows/preview_menu.h"
 #include "mainwindows/screen_refresh.h"
@@ -33,6 +34,7 @@ class ConnectedForm1 final : public Form1 {
   void end();
 
   PreviewHand hand_{*this};
+  PictureWatch watch_{*this, hand_};
   ScreenRefresh refresh_{*this};
   const CommandTargets targets_{*this, hand_, refresh_};
 };
@@ -47,6 +49,7 @@ ConnectedForm1::ConnectedForm1(const MainServices& services) : Form1(services, c
       [this] {
         hand_.giveUpDrag();
         refresh_.draw();
+        watch_.drawn();
       },
   });
   connectCommands();
@@ -55,6 +58,7 @@ ConnectedForm1::ConnectedForm1(const MainServices& services) : Form1(services, c
   connect(this, &Form1::settling, this, [this] { hand_.settle(); });
   connect(this, &Form1::themeLeft, this, [this] {
     hand_.letGo();
+    watch_.letGo();
     refresh_.forget();
   });
   connect(this, &Form1::closeAsked, this, [this] { end(); });

@@ -21,6 +21,8 @@ class PreviewHand : public QObject {
  public:
   explicit PreviewHand(Form1& form);
 
+  /// Whether an object is in hand, or a press may take it.
+  bool holds() const { return stage_ != Stage::None; }
   /// Commits what the arrow keys have done, and gives up a drag. To be called before anything else happens.
   void settle();
   /// Gives up a drag: all is as before.

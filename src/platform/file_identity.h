@@ -22,6 +22,10 @@ struct FileIdentity {
 /// doesn't know all of these values.
 std::optional<FileIdentity> identityOf(const QString& path);
 
+/// As much of that as the platform knows: enough to notice that a file was written. None also if the file can't be
+/// looked at.
+std::optional<FileIdentity> roughIdentityOf(const QString& path);
+
 /// Whether any further change is certain to change the times. False for two seconds after a change, since a coarse
 /// clock may give the next change the same time, and for a change in the future.
 bool isSettled(const FileIdentity& file);

@@ -4,6 +4,7 @@
 
 #include <QFile>
 
+#include "platform/failure.h"
 #include "platform/file_identity.h"
 #include "platform/paths.h"
 
@@ -36,6 +37,14 @@ std::optional<FileIdentity> identityOf(const QString& path) {
 #endif
   return FileIdentity{static_cast<quint64>(status.st_dev), static_cast<quint64>(status.st_ino),
                       static_cast<qint64>(status.st_size), nanosecondsOf(modified), nanosecondsOf(changed)};
+}
+
+std::optional<FileIdentity> roughIdentityOf(const QString& path) {
+  try {
+    return identityOf(path);
+  } catch (const Failure&) {
+    return std::nullopt;
+  }
 }
 
 bool isSettled(const FileIdentity& file) {

@@ -7,6 +7,16 @@
 #include "platform/numbers.h"
 
 namespace renderer {
+namespace {
+
+/// Accounts a picture before it is looked for: a change from here on shows in its identity.
+void notePicture(const RenderContext& context, const QString& path) {
+  auto& pictures = context.account.pictures;
+  if (context.trial || pictures.find(path) != pictures.end()) return;
+  pictures.emplace(path, platform::roughIdentityOf(path));
+}
+
+}  // namespace
 
 themefiles::SectionReader readSection(const RenderContext& context, const QString& section, const QString& file) {
   if (context.trial) return context.trial->section(section, file);
@@ -63,6 +73,7 @@ QString texturePath(RenderContext& context, const ObjectSection& section) {
     return {};
   }
   const QString path = context.state.paths.SkinDirectory + u'\\' + file;
+  notePicture(context, path);
   Reason why = Reason::NoFile;
   try {
     if (platform::fileExists(path)) return path;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <vector>
 
@@ -7,6 +8,7 @@
 #include <QString>
 
 #include "drawing/surface.h"
+#include "platform/file_identity.h"
 
 namespace renderer {
 
@@ -44,6 +46,8 @@ struct DrawnObject {
 struct RenderAccount {
   std::vector<DrawnObject> objects;
   std::vector<LeftOut> missing;
+  /// The picture files that it looked for, by the program's path, as the first look found each: none where no file was.
+  std::map<QString, std::optional<platform::FileIdentity>> pictures;
   std::optional<drawing::Pen> startPen;  ///< as the render found it; none before the first one
 };
 

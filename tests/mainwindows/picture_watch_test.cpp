@@ -1,0 +1,182 @@
+#include "mainwindows/picture_watch.h"
+
+#include "mainwindows/preview_hand.h"
+#include "support/windows.h"
+
+using namespace support;
+using mainwindows::PictureWatch;
+
+namespace {
+
+const QString Plate = u"Skins/Alpha/plate.png"_s;
+
+/// A system that has no watches left.
+class WithoutWatches : public PictureWatch {
+ public:
+  using PictureWatch::PictureWatch;
+
+ protected:
+  QStringList watch(const QStringList& paths) override { return paths; }
+};
+
+}  // namespace
+
+/// What another program does to a picture shows by itself; what this one writes draws nothing.
+class PictureWatchTest : public ProgramTest {
+  Q_OBJECT
+
+ private:
+  int draws_ = 0;
+
+  mainwindows::Form1& form() const { return program->form; }
+  PictureWatch& watch() const { return *form().findChild<PictureWatch*>(); }
+  /// Gives the texture of LoadingStaticA another file, and counts the drawings from there on.
+  void use(const char* file) {
+    game->put(SkinCopy, game->get(SkinCopy).replace("plate.png", file));
+    controls::WorkQueue& queue = form().queue();
+    queue.setOperations({queue.operations().choose, [this, draw = queue.operations().draw] {
+                           ++draws_;
+                           draw();
+                         }});
+    queue.draw();
+    draws_ = 0;
+  }
+  QColor shown() const { return program->picture().pixelColor(90, 80); }
+  bool shows(Qt::GlobalColor color) const { return shown() == QColor(color); }
+  /// A picture of one colour, as the bytes of its file.
+  QByteArray picture(Qt::GlobalColor color) const {
+    game->addPicture("made.png", QColor(color));
+    return game->get(u"Skins/Alpha/made.png"_s);
+  }
+  void put(const QString& name, Qt::GlobalColor color) const { game->put(name, picture(color)); }
+  void renameOver(const QString& from, const QString& to) const {
+    std::filesystem::rename(game->native(from).toStdString(), game->native(to).toStdString());
+  }
+
+ private Q_SLOTS:
+  void changes_data() {
+    using Change = std::function<void()>;
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<Change>("change");
+    QTest::newRow("written in place") << "plate.png"_ba << Change([this] { put(Plate, Qt::green); });
+    QTest::newRow("renamed over") << "plate.png"_ba << Change([this] {
+      put(u"Skins/Alpha/new"_s, Qt::green);
+      renameOver(u"Skins/Alpha/new"_s, Plate);
+    });
+    QTest::newRow("deleted and written anew") << "plate.png"_ba << Change([this] {
+      const QByteArray green = picture(Qt::green);
+      QFile::remove(game->native(Plate));
+      QTRY_VERIFY(!shows(Qt::blue));
+      game->put(Plate, green);
+    });
+    QTest::newRow("appears") << "none.png"_ba << Change([this] { put(u"Skins/Alpha/None.PNG"_s, Qt::green); });
+    QTest::newRow("its folder appears") << "deep\\er\\a.png"_ba << Change([this] {
+      QDir(game->native(u"Skins/Alpha"_s)).mkdir(u"deep"_s);
+      QTest::qWait(200);  // the watch has come to rest without the picture
+      QDir(game->native(u"Skins/Alpha"_s)).mkdir(u"deep/er"_s);
+      QTest::qWait(200);
+      put(u"Skins/Alpha/deep/er/a.png"_s, Qt::green);
+    });
+  }
+  /// Twice: the watch goes on with the file that is there now.
+  void changes() {
+    QFETCH(QByteArray, file);
+    QFETCH(std::function<void()>, change);
+    put(Plate, Qt::blue);
+    use(file);
+    change();
+    QTRY_VERIFY(shows(Qt::green));
+    put(u"Skins/Alpha/next"_s, Qt::red);
+    const QString now = file == "none.png" ? u"Skins/Alpha/None.PNG"_s : u"Skins/Alpha/"_s + QLatin1StringView(file);
+    renameOver(u"Skins/Alpha/next"_s, QString(now).replace(u'\\', u'/'));
+    QTRY_VERIFY(shows(Qt::red));
+  }
+
+  void burst() {
+    const QByteArray blue = picture(Qt::blue), green = picture(Qt::green);
+    use("plate.png");
+    QElapsedTimer clock;
+    clock.start();
+    for (int i = 0; i < 100; ++i) {
+      game->put(Plate, i < 99 ? blue : green);
+      QCoreApplication::processEvents();
+    }
+    const qint64 rests = clock.elapsed() / 100;  // on a machine that halts now and then
+    QTRY_VERIFY(shows(Qt::green));
+    QVERIFY2(draws_ <= 2 + rests, QByteArray::number(draws_));
+  }
+
+  void ownWrites() {
+    use("plate.png");
+    program->edit();
+    QCOMPARE(draws_, 1);
+    program->row(u"Tex"_s);
+    program->tools().Combo6->selectText(u"Plate"_s);
+    program->tools().Text3->SetText(u"back.png"_s);
+    program->tools().Command1->click();
+    program->click(2);
+    QCOMPARE(draws_, 2);
+    // The skin's folder tells of the writes; a look after them finds nothing.
+    QCoreApplication::processEvents();
+    watch().look();
+    QCOMPARE(draws_, 2);
+  }
+
+  void waits() {
+    use("plate.png");
+    program->tag(u"LoadingStaticA"_s);
+    QTest::mousePress(form().Workspace, Qt::LeftButton, {}, {60, 60});
+    put(Plate, Qt::green);
+    watch().look();
+    QCOMPARE(draws_, 0);
+    QTest::mouseRelease(form().Workspace, Qt::LeftButton, {}, {60, 60});
+    QTRY_VERIFY(shows(Qt::green));
+    program->openDialog([&](mainwindows::Form3& dialog) {
+      put(Plate, Qt::blue);
+      watch().look();
+      QVERIFY(shows(Qt::green));
+      dialog.reject();
+    });
+    QTRY_VERIFY(shows(Qt::blue));
+    program->click(3);
+    put(Plate, Qt::green);
+    watch().look();
+    QCOMPARE(draws_, 2);
+  }
+
+  /// A change behind the drawing's look at the file, before the file is watched, or told in the midst of the drawing.
+  void whileDrawing() {
+    put(Plate, Qt::blue);
+    use("plate.png");
+    for (const bool told : {false, true}) {
+      draws_ = 0;
+      watch().letGo();
+      QObject life;
+      connect(&form().queue(), &controls::WorkQueue::yielding, &life, [&] {
+        if (draws_ > 1 || form().account().pictures.size() < 2 || shows(told ? Qt::blue : Qt::green)) return;
+        put(Plate, told ? Qt::blue : Qt::green);
+        if (told) watch().look();
+      });
+      form().queue().draw();
+      QVERIFY2(draws_ == 1, "nothing nests, and the running one isn't begun again");
+      QTRY_COMPARE(draws_, 2);
+      QVERIFY(shows(told ? Qt::blue : Qt::green));
+    }
+  }
+
+  void noWatchesLeft() {
+    const mainwindows::PreviewHand hand(form());
+    WithoutWatches lacking(form(), hand);
+    lacking.drawn();
+    QVERIFY2(program->status().startsWith(u"The system can't watch"), qPrintable(program->status()));
+    program->edit();
+    lacking.drawn();
+    QCOMPARE(program->status(), u"LoadingStaticA: X = 77"_s);  // told once
+    put(Plate, Qt::green);
+    QTest::keyClick(&form(), Qt::Key_F5);
+    QVERIFY(shows(Qt::green));
+  }
+};
+
+QTEST_MAIN(PictureWatchTest)
+#include "picture_watch_test.moc"
