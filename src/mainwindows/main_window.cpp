@@ -12,6 +12,7 @@
 
 #include "controls/assets.h"
 #include "controls/combo_box.h"
+#include "controls/spoken_name.h"
 #include "controls/twips.h"
 #include "drawing/fonts.h"
 #include "drawing/system_colours.h"
@@ -120,7 +121,7 @@ void Form1::placeControls() {
                {Combo2, "Combo2", "Selected button"}, {ProgressBar1, "ProgressBar1", "Progress of the drawing"}};
   for (const auto& [control, name, spoken] : names) {
     control->setObjectName(QLatin1StringView(name));
-    control->setAccessibleName(QLatin1StringView(spoken));
+    controls::setSpokenName(*control, QLatin1StringView(spoken));
   }
   setTabOrder(Combo2, Combo1);  // from left to right
   setTabOrder(Combo1, Workspace);

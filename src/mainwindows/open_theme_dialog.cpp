@@ -5,6 +5,7 @@
 
 #include <QShowEvent>
 
+#include "controls/spoken_name.h"
 #include "controls/twips.h"
 #include "drawing/fonts.h"
 #include "themefiles/ini_access.h"
@@ -41,7 +42,7 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
   label(QStringLiteral("Choose your Skin:"), 2760, 120, 2415);
   List1->setAccessibleName(QStringLiteral("Theme"));
   List2->setAccessibleName(QStringLiteral("Skin"));
-  Combo1->setAccessibleName(QStringLiteral("Language"));
+  controls::setSpokenName(*Combo1, QStringLiteral("Language"));
   label(QStringLiteral("Name:"), 2760, 2880, 615);
   label(QStringLiteral("Autor:"), 2760, 3120, 615);
   controls::place(*List1, {120, 360, 2415, 2400});

@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include <QAccessibleWidget>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -27,11 +28,22 @@ int pixel(double length) {
   return static_cast<int>(std::floor(std::clamp(length, -FarAway, FarAway) + 0.5));
 }
 
+class AccessiblePreview : public QAccessibleWidget {
+ public:
+  explicit AccessiblePreview(QWidget& preview) : QAccessibleWidget(&preview, QAccessible::Graphic) {}
+};
+
+QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* object) {
+  auto* const preview = qobject_cast<Workspace*>(object);
+  return preview == nullptr ? nullptr : new AccessiblePreview(*preview);
+}
+
 }  // namespace
 
 Workspace::Workspace(QWidget* parent)
     : QWidget(parent), pacer_([this] { Refresh(); }), borderColor_(drawing::colorOf(MarkBorder)) {
   setFixedSize(drawing::Surface::Width, drawing::Surface::Height);
+  QAccessible::installFactory(makeInterface);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   timer1_.setInterval(BlinkInterval);

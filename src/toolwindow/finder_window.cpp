@@ -80,13 +80,18 @@ void FinderWindow::accept() {
   const int row = List->ListIndex();
   if (row < 0) return;
   const themefiles::Hit hit = hits_.at(row);
-  hide();
+  hideFor(&form_);
   goToHit(form_, hit);
 }
 
-void FinderWindow::goBack() {
+/// Gives the keyboard away before it goes: a window manager would give it to the main window.
+void FinderWindow::hideFor(QWidget* window) {
+  if (window != nullptr && window->isVisible()) window->activateWindow();
   hide();
-  if (window_ != nullptr && window_->isVisible()) window_->activateWindow();
+}
+
+void FinderWindow::goBack() {
+  hideFor(window_);
   if (control_ != nullptr && control_->isVisible()) control_->setFocus();
 }
 

@@ -34,6 +34,7 @@ class FinderWindow : public QWidget {
  private:
   void search();
   void accept();
+  void hideFor(QWidget* window);
   void goBack();
 
   Form2& form_;

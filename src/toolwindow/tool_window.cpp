@@ -14,6 +14,7 @@
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "controls/number_bar.h"
+#include "controls/spoken_name.h"
 #include "controls/swatch_button.h"
 #include "controls/text_box.h"
 #include "drawing/system_colours.h"
@@ -128,7 +129,7 @@ Form2::Form2(ToolServices given, QWidget* owner)
   setObjectName(QStringLiteral("Form2"));
   for (const PlacedControl& control : placed_) {
     control.widget->setObjectName(QLatin1StringView(control.name));
-    control.widget->setAccessibleName(QLatin1StringView(control.spoken));
+    controls::setSpokenName(*control.widget, QLatin1StringView(control.spoken));
   }
   setTabOrder(Text2, Command1);  // Update behind every editor
   setWindowTitle(QStringLiteral("Tool"));
