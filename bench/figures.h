@@ -11,8 +11,9 @@ class SampleScreen;
 
 /// How a figure is held against its floor.
 enum class Held {
-  AtMost,        ///< the work takes at most so many times the floor's time
-  FasterAtLeast  ///< the work is at least so many times as fast as the floor
+  AtMost,         ///< the work takes at most so many times the floor's time
+  FasterAtLeast,  ///< the work is at least so many times as fast as the floor
+  Within          ///< the work takes at most so many milliseconds, whatever the floor
 };
 
 struct Figure {

@@ -46,6 +46,23 @@ class Medians : public benchmark::ConsoleReporter {
   bool failed_ = false;
 };
 
+struct Result {
+  double value;
+  const char* reach;  ///< how the table calls it
+};
+
+Result resultOf(Held held, double work, double floor) {
+  switch (held) {
+    case Held::AtMost:
+      return {work / floor, "at most"};
+    case Held::FasterAtLeast:
+      return {floor / work, "faster by"};
+    case Held::Within:
+      return {work / 1000, "ms, within"};
+  }
+  return {};
+}
+
 /// Prints the table; whether every figure that ran has its reach.
 bool printTable(const Medians& medians, const std::vector<std::shared_ptr<SampleScreen>>& screens) {
   bool reached = true;
@@ -54,12 +71,11 @@ bool printTable(const Medians& medians, const std::vector<std::shared_ptr<Sample
     const double work = medians.of(figure.name + "/work");
     const double floor = medians.of(figure.name + "/floor");
     if (work <= 0 || floor <= 0) continue;
-    const bool atMost = figure.held == Held::AtMost;
-    const double ratio = atMost ? work / floor : floor / work;
-    const bool holds = atMost ? ratio <= figure.reach : ratio >= figure.reach;
+    const Result result = resultOf(figure.held, work, floor);
+    const bool holds = figure.held == Held::FasterAtLeast ? result.value >= figure.reach : result.value <= figure.reach;
     reached = reached && holds;
-    std::printf("%-12s %14.1f %14.1f %9.2f   %s %.2f%s\n", figure.name.c_str(), work, floor, ratio,
-                atMost ? "at most" : "faster by", figure.reach, holds ? "" : "  MISSED");
+    std::printf("%-12s %14.1f %14.1f %9.2f   %s %.2f%s\n", figure.name.c_str(), work, floor, result.value, result.reach,
+                figure.reach, holds ? "" : "  MISSED");
   }
   constexpr double LongestGapReach = 100;
   for (const auto& screen : screens) {
