@@ -6,9 +6,11 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 
 #include "controls/modal.h"
 #include "controls/thumbnail.h"
+#include "controls/twips.h"
 #include "platform/paths.h"
 
 namespace controls {
@@ -16,6 +18,15 @@ namespace controls {
 namespace {
 
 constexpr int InputBoxWidth = 360;
+
+/// Keeps the buttons of a large dialog on a small screen.
+void fitScreen(QDialog& dialog) {
+  const QRect room = dialog.screen()->availableGeometry();
+  const QSize most = room.size() - QSize(toPixels(FrameWidth), toPixels(FrameHeight));
+  if (dialog.size().boundedTo(most) == dialog.size()) return;
+  dialog.resize(dialog.size().boundedTo(most));
+  dialog.move(room.topLeft());
+}
 
 }  // namespace
 
@@ -54,6 +65,7 @@ QString NativeDialogs::openFile(QWidget* parent, const platform::FileRequest& re
   if (!request.folder.isEmpty()) dialog.setDirectory(platform::nativePath(request.folder));
   if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
   if (request.pictures) addThumbnail(dialog);
+  fitScreen(dialog);
   if (runModal(dialog) != QDialog::Accepted) return {};
   const QStringList files = dialog.selectedFiles();
   return files.isEmpty() ? QString() : platform::programPath(files.first());
