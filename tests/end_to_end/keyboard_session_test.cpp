@@ -51,7 +51,7 @@ QStringList spoken(QWidget& window) {
     if ((control->focusPolicy() & Qt::TabFocus) == 0 || !control->isVisible() || !control->isEnabled()) continue;
     QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(control);
     QStringList words{QLatin1StringView(roles.valueToKey(reader->role())), reader->text(QAccessible::Name),
-                            reader->text(QAccessible::Description)};
+                      reader->text(QAccessible::Description)};
     words.removeDuplicates();  // a tool tip counts as a description
     all += words.join(u' ').trimmed();
   }

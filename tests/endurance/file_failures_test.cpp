@@ -1,5 +1,5 @@
 #include "endurance/system_calls.h"
-#include "support/windows.h"
+#include "support/snapshot.h"
 
 using namespace support;
 using platform::BoxAnswer;

@@ -2,7 +2,7 @@
 #include <random>
 #include <tuple>
 
-#include "support/windows.h"
+#include "support/snapshot.h"
 
 using namespace support;
 using platform::BoxAnswer;

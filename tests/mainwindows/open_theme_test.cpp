@@ -4,7 +4,7 @@
 #include "mainwindows/command_line.h"
 #include "platform/failure.h"
 #include "support/row_name.h"
-#include "support/windows.h"
+#include "support/snapshot.h"
 
 using namespace support;
 using mainwindows::Form3;

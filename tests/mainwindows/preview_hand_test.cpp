@@ -2,7 +2,7 @@
 
 #include "mainwindows/hand_geometry.h"
 #include "support/row_name.h"
-#include "support/windows.h"
+#include "support/snapshot.h"
 
 using namespace support;
 using mainwindows::Grip;

@@ -237,50 +237,6 @@ class Program {
   }
 };
 
-/// What a user has of the program and the game's files, by name; what isn't there is left out.
-inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
-  const mainwindows::Form1& form = program.form;
-  const themefiles::ModuleState& state = program.state;
-  const themefiles::ThemePaths& files = state.paths;
-  QStringList paths{files.ExeDirectory, files.LanguagesDirectory, files.ThemeFile,
-                    files.SkinFile,     files.SkinDirectory,      files.LanguageFile};
-  QVariantMap all{{u"state"_s, QVariantList{state.ThemeOpened, state.Changed, form.isVisible()}},
-                  {u"paths"_s, paths.replaceInStrings(game.path().chopped(1), u"game"_s)},
-                  {u"colours"_s, program.colors()},
-                  {u"busy"_s, form.queue().busy() || form.ProgressBar1->isVisible()},
-                  {u"windows"_s, form.findChildren<toolwindow::Form2*>().size()},
-                  {u"files"_s, QVariant::fromValue(game.files())}};
-  if (!form.isVisible()) return all;
-  mainwindows::Workspace& preview = *form.Workspace;
-  all.insert({{u"lists shown"_s, QVariantList{form.Combo1->isVisible(), form.Combo2->isVisible()}},
-              {u"scheme"_s, form.Combo1->Text()},
-              {u"blinking"_s, preview.blinking()},
-              {u"mark"_s, preview.markVisible() ? preview.mark() : QRectF()},
-              {u"enabled"_s, program.buttons()},
-              {u"picture"_s, program.picture()}});
-  if (!state.ThemeOpened || form.toolWindow() == nullptr) return all;
-  const toolwindow::Form2& tools = program.tools();
-  all.insert(
-      {{u"lists"_s, entries(*form.Combo2) + entries(*tools.List1) + program.rows()},
-       {u"editors"_s, QStringList{listing(*tools.Combo3), listing(*tools.Combo5), listing(*tools.Combo6),
-                                  tools.Text2->Text(), tools.Text3->Text(), tools.Command2->BackColor().name()}},
-       {u"chosen"_s, QVariantList{form.Combo2->ListIndex(), tools.Combo1->Text(), tools.List1->ListIndex(),
-                                  tools.ListView1->selectedRow()}},
-       {u"flags"_s, QVariantList{state.EditorShown, state.ButtonListFilled, state.SelectedButton, state.ButtonCount,
-                                 state.ProgressStep, state.Filter.OnlyTags + state.Filter.SkipTags}},
-       {u"pen"_s, preview.surface().FontName() + QString::number(preview.surface().FontSize())},
-       {u"height"_s, tools.height()}});
-  return all;
-}
-
-/// The names of the parts in which two snapshots differ.
-inline QStringList differences(const QVariantMap& a, const QVariantMap& b) {
-  QStringList names = a.keys() + b.keys();
-  names.removeDuplicates();
-  names.removeIf([&](const QString& name) { return a[name] == b[name]; });
-  return names;
-}
-
 /// A test whose functions each get the program on a game folder of its own, with the theme open.
 class ProgramTest : public QObject {
   Q_OBJECT

@@ -1,5 +1,5 @@
 #include "support/row_name.h"
-#include "support/windows.h"
+#include "support/snapshot.h"
 
 using namespace support;
 using platform::BoxAnswer;
