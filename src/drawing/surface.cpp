@@ -31,6 +31,11 @@ Surface::Surface() : ForeColor(Qt::black), image_(Width, Height, QImage::Format_
   SetFontSize(StartPoints);
 }
 
+void Surface::putBack(const QImage& picture) {
+  image_ = picture;
+  mark(image_.rect());
+}
+
 void Surface::wipe(const QColor& color) {
   image_.fill(color);
   mark(image_.rect());

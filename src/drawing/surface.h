@@ -29,6 +29,8 @@ class Surface {
 
   const QImage& image() const { return image_; }
 
+  /// Shows a picture that image() gave before.
+  void putBack(const QImage& picture);
   /// Fills the whole surface.
   void wipe(const QColor& color);
   /// Draws the picture scaled to the rectangle (bilinear) and blended by its alpha. A picture of that size is not

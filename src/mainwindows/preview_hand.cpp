@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 
@@ -70,6 +71,8 @@ void PreviewHand::settle() {
 
 void PreviewHand::giveUpDrag() {
   if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
+  untried_ = {};
+  if (stage_ == Stage::Keys) pacer_.request();
 }
 
 void PreviewHand::forgetPlaces() {
@@ -78,6 +81,7 @@ void PreviewHand::forgetPlaces() {
 
 void PreviewHand::letGo() {
   stage_ = Stage::None;
+  untried_ = {};
   heldKeys_.clear();
   form_.Workspace->setHandLabel({});
   form_.Workspace->unsetCursor();
@@ -96,6 +100,8 @@ bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
       return false;
     case QEvent::MouseButtonRelease:
       return release(static_cast<QMouseEvent&>(*event));
+    case QEvent::ContextMenu:
+      return endedDrag_ && static_cast<QContextMenuEvent&>(*event).reason() == QContextMenuEvent::Mouse;
     case QEvent::KeyPress:
       return keyPress(static_cast<QKeyEvent&>(*event));
     case QEvent::KeyRelease:
@@ -112,6 +118,7 @@ bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
 }
 
 bool PreviewHand::press(const QMouseEvent& event) {
+  endedDrag_ = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
   settle();
   // Committing has drawn the screen and served events: the theme may be closed by now.
   if (event.button() != Qt::LeftButton || form_.toolWindow() == nullptr) return false;
@@ -159,6 +166,7 @@ bool PreviewHand::release(const QMouseEvent& event) {
                      event.modifiers()));
     commit();
   }
+  if (form_.toolWindow() != nullptr) hover(pixelOf(event), event.buttons() == Qt::NoButton);
   return true;
 }
 
@@ -223,6 +231,8 @@ void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
   const Grip grip = (event.modifiers() & Qt::ControlModifier) != 0 ? SizingKeys : Grip();
   if (stage_ == Stage::Keys && grip != grip_) settle();
   if (form_.toolWindow() == nullptr) return;
+  // What height a button is drawn with is known when it has been drawn.
+  if (stage_ == Stage::None && grip.sizes() && form_.queue().busy()) return;
   if (stage_ == Stage::None && !take(selectedAt({}), grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
   heldKeys_.insert(event.key());
@@ -243,6 +253,7 @@ void PreviewHand::showFrame() {
   if (form_.queue().busy()) return pacer_.request();
   const renderer::TrialValues values{section_, changedValues(start_, now_)};
   Workspace& preview = *form_.Workspace;
+  if (untried_.isNull()) untried_ = preview.surface().image();
   renderer::drawTrial(form_.renderContext(), values);
   renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, values);
   preview.Refresh();
@@ -269,11 +280,12 @@ void PreviewHand::giveUp() {
   if (shown) restore();
 }
 
-/// Draws picture and mark as the files have them, unless a drawing is running.
+/// Puts picture and mark back.
 void PreviewHand::restore() {
   if (form_.toolWindow() == nullptr) return;
   Workspace& preview = *form_.Workspace;
-  if (!form_.queue().busy()) renderer::drawTrial(form_.renderContext(), {});
+  if (!untried_.isNull()) preview.surface().putBack(std::exchange(untried_, {}));
+  form_.renderContext().pictures->letGo();
   renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, {});
   preview.Refresh();
 }

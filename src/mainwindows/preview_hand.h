@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QMouseEvent>
 #include <QObject>
 #include <QSet>
@@ -25,7 +26,7 @@ class PreviewHand : public QObject {
   bool holds() const { return stage_ != Stage::None; }
   /// Commits what the arrow keys have done, and gives up a drag. To be called before anything else happens.
   void settle();
-  /// Gives up a drag: all is as before.
+  /// Gives up a drag: all is as before. To be called before a drawing, which paints over what the arrow keys show.
   void giveUpDrag();
   /// The next click picks the topmost object under it. To be called when another screen is listed.
   void forgetPlaces();
@@ -69,12 +70,14 @@ class PreviewHand : public QObject {
   PreviewPicking picking_;
   Stage stage_ = Stage::None;
   bool picksAtRelease_ = false;
+  bool endedDrag_ = false;  ///< the last press gave a drag up, and stands for nothing else
   QPoint pressed_;  ///< where the button went down
   QPoint mouse_;    ///< where it is now
   QString section_;
   Grip grip_;
   HeldNumbers start_;
   HeldNumbers now_;
+  QImage untried_;  ///< the picture without the values on trial that it shows; null when it shows none
   QSet<int> heldKeys_;
   QTimer rest_;  ///< runs out when the keys have rested
   controls::FramePacer pacer_;
