@@ -45,10 +45,12 @@ void Surface::drawImageRect(const QImage& picture, int x, int y, int w, int h) {
   const QRectF target(x, y, w, h);
   const QRectF shown = target & QRectF(image_.rect());
   if (picture.isNull() || w <= 0 || h <= 0 || shown.isEmpty()) return;
-  QImage source = picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  const bool asItIs = picture.width() == w && picture.height() == h;
+  const bool isCopied = asItIs && picture.format() == QImage::Format_RGB32;
+  QImage source = isCopied ? picture : picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   source.setDevicePixelRatio(1);
   QPainter painter(&image_);
-  if (source.width() == w && source.height() == h) {
+  if (asItIs) {
     painter.drawImage(x, y, source);
   } else {
     painter.setClipRect(image_.rect());

@@ -21,20 +21,8 @@ constexpr char16_t letterOf(unsigned char byte) {
   return place >= 0 && place < std::ssize(UpperControls) ? UpperControls[place] : static_cast<char16_t>(byte);
 }
 
-constexpr unsigned char upperByte(unsigned char byte) {
-  if (byte >= 'a' && byte <= 'z') return static_cast<unsigned char>(byte - 0x20);
-  if (byte >= 0xE0 && byte <= 0xFE && byte != 0xF7) return static_cast<unsigned char>(byte - 0x20);
-  if (byte == 0x9A || byte == 0x9C || byte == 0x9E) return static_cast<unsigned char>(byte - 0x10);
-  return byte == 0xFF ? 0x9F : byte;
-}
-
-constexpr auto UpperBytes = [] {
-  std::array<char, 256> table{};
-  for (std::size_t i = 0; i < table.size(); ++i) table[i] = static_cast<char>(upperByte(static_cast<unsigned char>(i)));
-  return table;
-}();
-
 std::optional<unsigned char> byteOf(char16_t letter) {
+  if (letter < FirstOfTable) return static_cast<unsigned char>(letter);
   if (letter <= 0xFF && letterOf(static_cast<unsigned char>(letter)) == letter) {
     return static_cast<unsigned char>(letter);
   }
@@ -45,7 +33,7 @@ std::optional<unsigned char> byteOf(char16_t letter) {
 
 char16_t upperLetter(QChar letter) {
   const auto byte = byteOf(letter.unicode());
-  return byte ? letterOf(upperByte(*byte)) : letter.unicode();
+  return byte ? letterOf(static_cast<unsigned char>(upperCaseByte(static_cast<char>(*byte)))) : letter.unicode();
 }
 
 }  // namespace
@@ -58,12 +46,12 @@ QString fromAnsi(QByteArrayView bytes) {
 }
 
 std::optional<QByteArray> toAnsi(QStringView text) {
-  QByteArray bytes;
-  bytes.reserve(text.size());
+  QByteArray bytes(text.size(), Qt::Uninitialized);
+  char* to = bytes.data();
   for (const QChar letter : text) {
     const auto byte = byteOf(letter.unicode());
     if (!byte) return std::nullopt;
-    bytes.append(static_cast<char>(*byte));
+    *to++ = static_cast<char>(*byte);
   }
   return bytes;
 }
@@ -72,10 +60,6 @@ QString upperCase(QStringView text) {
   QString upper(text.size(), Qt::Uninitialized);
   std::transform(text.begin(), text.end(), upper.begin(), [](QChar letter) { return QChar(upperLetter(letter)); });
   return upper;
-}
-
-char upperCaseByte(char byte) {
-  return UpperBytes[static_cast<unsigned char>(byte)];
 }
 
 bool nameLess(QStringView a, QStringView b) {

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <optional>
+#include <utility>
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -20,8 +22,21 @@ std::optional<QByteArray> toAnsi(QStringView text);
 /// florin stay as they are, as do letters outside the code page.
 QString upperCase(QStringView text);
 
-/// The same for one byte of the code page.
-char upperCaseByte(char byte);
+/// The same for each byte of the code page.
+inline constexpr std::array<char, 256> UpperCaseBytes = [] {
+  constexpr std::pair<int, int> letters[] = {{'a', 'z'}, {0xE0, 0xF6}, {0xF8, 0xFE}};
+  std::array<char, 256> table{};
+  for (int byte = 0; byte < 256; ++byte) table[std::size_t(byte)] = static_cast<char>(byte);
+  for (const auto& [first, last] : letters) {
+    for (int byte = first; byte <= last; ++byte) table[std::size_t(byte)] = static_cast<char>(byte - 0x20);
+  }
+  for (const int byte : {0x9A, 0x9C, 0x9E}) table[std::size_t(byte)] = static_cast<char>(byte - 0x10);
+  table[0xFF] = static_cast<char>(0x9F);
+  return table;
+}();
+inline char upperCaseByte(char byte) {
+  return UpperCaseBytes[static_cast<unsigned char>(byte)];
+}
 
 /// Whether a comes before b in lists and in listings of folders: by upper case, code unit by code unit.
 bool nameLess(QStringView a, QStringView b);

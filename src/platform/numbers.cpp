@@ -50,6 +50,18 @@ NumberHead headOf(QStringView text) {
   return head;
 }
 
+/// The number of a text that is nothing but a few digits, as most are; none for any other.
+std::optional<int> smallWhole(QStringView text) {
+  constexpr qsizetype MostDigits = 9;
+  if (text.isEmpty() || text.size() > MostDigits) return std::nullopt;
+  int number = 0;
+  for (const QChar letter : text) {
+    if (!isDigit(letter)) return std::nullopt;
+    number = number * 10 + (letter.unicode() - u'0');
+  }
+  return number;
+}
+
 template <typename Whole>
 std::optional<Whole> roundTo(double number) {
   const double rounded = std::nearbyint(number);
@@ -62,6 +74,7 @@ std::optional<Whole> roundTo(double number) {
 }  // namespace
 
 double numberOf(QStringView text) {
+  if (const auto small = smallWhole(text)) return *small;
   const NumberHead head = headOf(text);
   if (!head.holdsDigit) return 0;
   bool fits = false;

@@ -9,11 +9,6 @@ namespace platform::profile {
 
 namespace {
 
-bool standsAtHead(const char* place, const char* fileBegin) {
-  while (place != fileBegin && isBlank(place[-1])) --place;
-  return place == fileBegin || isLineEnd(place[-1]);
-}
-
 /// Whether only blanks follow up to the "]" of a section line, or to its end if the "]" is missing.
 bool endsName(const char* at, const char* fileEnd) {
   while (at != fileEnd && isBlank(*at)) ++at;
@@ -41,6 +36,11 @@ bool endsInTab(QByteArrayView name) {
 bool sameName(QByteArrayView a, QByteArrayView b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
                     [](char x, char y) { return upperCaseByte(x) == upperCaseByte(y); });
+}
+
+const char* lineHeadedBy(const char* place, const char* fileBegin) {
+  while (place != fileBegin && isBlank(place[-1])) --place;
+  return place == fileBegin || isLineEnd(place[-1]) ? place : nullptr;
 }
 
 const char* lineTextEnd(const char* at, const char* fileEnd) {
@@ -72,7 +72,7 @@ const char* findSection(QByteArrayView file, QByteArrayView name) {
     while (at != end && isBlank(*at)) ++at;
     if (end - at < length) return nullptr;
     if (length > 0 && (upperCaseByte(at[length - 1]) != last || upperCaseByte(*at) != first)) continue;
-    if (!endsName(at + length, end) || !sameName({at, length}, name) || !standsAtHead(bracket, file.begin())) continue;
+    if (!endsName(at + length, end) || !sameName({at, length}, name) || !lineHeadedBy(bracket, file.begin())) continue;
     return nextLine(lineTextEnd(at + length, end), end);
   }
   return nullptr;

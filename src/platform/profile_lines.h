@@ -22,6 +22,8 @@ QByteArrayView askedName(QByteArrayView name);
 bool endsInTab(QByteArrayView name);
 bool sameName(QByteArrayView a, QByteArrayView b);
 
+/// The start of the line if only blanks and tabs stand before the place in it, else null.
+const char* lineHeadedBy(const char* place, const char* fileBegin);
 /// The end of the text of the line at `at`.
 const char* lineTextEnd(const char* at, const char* fileEnd);
 /// The start of the line after the one whose text ends at `textEnd`.

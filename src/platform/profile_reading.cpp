@@ -1,6 +1,8 @@
 #include "platform/profile_reading.h"
 
 #include <algorithm>
+#include <cstring>
+#include <numeric>
 
 #include "platform/code_page.h"
 #include "platform/profile_lines.h"
@@ -8,16 +10,6 @@
 namespace platform {
 
 using profile::KeyLines;
-
-namespace {
-
-QByteArray upperCase(QByteArrayView name) {
-  QByteArray upper(name.size(), Qt::Uninitialized);
-  std::transform(name.begin(), name.end(), upper.begin(), upperCaseByte);
-  return upper;
-}
-
-}  // namespace
 
 std::optional<QByteArray> findProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
   const auto lines = findProfileSection(file, section);
@@ -51,44 +43,69 @@ QByteArray listProfileKeys(QByteArrayView file, QByteArrayView section) {
   return keys;
 }
 
+bool operator==(const ProfileName& a, const ProfileName& b) {
+  return profile::sameName(a.letters, b.letters);
+}
+
+size_t qHash(const ProfileName& name, size_t seed) {
+  constexpr size_t Prime = 0x100000001B3;
+  return std::accumulate(name.letters.begin(), name.letters.end(), seed, [](size_t hash, char letter) {
+    return (hash ^ static_cast<unsigned char>(upperCaseByte(letter))) * Prime;
+  });
+}
+
 ProfileKeys profileKeys(QByteArrayView lines) {
   ProfileKeys keys;
-  KeyLines walk(lines.begin(), lines.end());
-  while (const auto line = walk.next()) {
-    const QByteArray name = upperCase(line->key);
-    if (keys.contains(name)) continue;
-    keys.insert(name, {line->key, profile::trimmedValue(*line), {line->begin, line->textEnd}});
+  for (const ProfileLine& line : profileLines(lines)) {
+    if (!keys.contains({line.key})) keys.insert({line.key}, line);
   }
   return keys;
 }
 
 const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key) {
-  const auto line = keys.constFind(upperCase(profile::askedName(key)));
+  const auto line = keys.constFind({profile::askedName(key)});
   return line == keys.constEnd() ? nullptr : &*line;
 }
 
-ProfileSections::ProfileSections(QByteArrayView file) {
-  QByteArray name;
-  const char* lines = nullptr;
-  const auto endSection = [&](const char* end) {
-    if (lines && !sections_.contains(name)) sections_.insert(name, QByteArrayView(lines, end));
-  };
-  for (const char* at = file.begin(); at != file.end();) {
-    const char* const head = std::find_if_not(at, file.end(), profile::isBlank);
-    const char* const textEnd = profile::lineTextEnd(head, file.end());
-    const char* const next = profile::nextLine(textEnd, file.end());
-    if (head != textEnd && *head == '[') {
-      endSection(at);
-      name = upperCase(profile::sectionName(head, textEnd));
-      lines = next;
-    }
-    at = next;
+std::vector<ProfileLine> profileLines(QByteArrayView lines) {
+  std::vector<ProfileLine> all;
+  KeyLines walk(lines.begin(), lines.end());
+  while (const auto line = walk.next()) {
+    all.push_back({line->key, profile::trimmedValue(*line), {line->begin, line->textEnd}});
   }
-  endSection(file.end());
+  return all;
+}
+
+const ProfileLine* lineOf(const std::vector<ProfileLine>& lines, QByteArrayView key) {
+  const QByteArrayView asked = profile::askedName(key);
+  const auto line = std::find_if(lines.begin(), lines.end(),
+                                 [&](const ProfileLine& each) { return profile::sameName(each.key, asked); });
+  return line == lines.end() ? nullptr : &*line;
+}
+
+ProfileSections::ProfileSections(QByteArrayView file) {
+  const char* const end = file.end();
+  ProfileName name;
+  const char* lines = nullptr;
+  const auto endSection = [&](const char* sectionEnd) {
+    if (lines && !sections_.contains(name)) sections_.insert(name, QByteArrayView(lines, sectionEnd));
+  };
+  for (const char* at = file.begin(); at != end;) {
+    const auto* const bracket = static_cast<const char*>(std::memchr(at, '[', end - at));
+    if (!bracket) break;
+    at = bracket + 1;
+    const char* const head = profile::lineHeadedBy(bracket, file.begin());
+    if (!head) continue;
+    endSection(head);
+    const char* const textEnd = profile::lineTextEnd(at, end);
+    name = {profile::sectionName(bracket, textEnd)};
+    at = lines = profile::nextLine(textEnd, end);
+  }
+  endSection(end);
 }
 
 QByteArrayView ProfileSections::lines(QByteArrayView name) const {
-  return sections_.value(upperCase(profile::askedName(name)));
+  return sections_.value({profile::askedName(name)});
 }
 
 }  // namespace platform

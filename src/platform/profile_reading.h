@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -36,22 +37,34 @@ struct ProfileLine {
 /// The value without one pair of equal quotation marks around it.
 QByteArrayView unquoted(QByteArrayView value);
 
-/// A section's key lines by the key in upper case, for many look-ups. Of duplicates it has the first.
-using ProfileKeys = QHash<QByteArray, ProfileLine>;
+/// A name in a file's bytes, compared regardless of case.
+struct ProfileName {
+  QByteArrayView letters;
+};
+bool operator==(const ProfileName& a, const ProfileName& b);
+size_t qHash(const ProfileName& name, size_t seed = 0);
+
+/// A section's key lines by the key, for many look-ups. Of duplicates it has the first.
+using ProfileKeys = QHash<ProfileName, ProfileLine>;
 ProfileKeys profileKeys(QByteArrayView lines);
 
 /// The line of the key, or null.
 const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key);
 
+/// A section's key lines in file order, duplicates included, for the few keys of an object.
+std::vector<ProfileLine> profileLines(QByteArrayView lines);
+/// The first line of the key, or null.
+const ProfileLine* lineOf(const std::vector<ProfileLine>& lines, QByteArrayView key);
+
 /// An index of a file's sections, for many look-ups. It refers to the file's bytes.
 class ProfileSections {
  public:
   explicit ProfileSections(QByteArrayView file);
-  /// The lines of that section up to the next one; empty without it.
+  /// The lines of that section up to the next one; a null view without it.
   QByteArrayView lines(QByteArrayView name) const;
 
  private:
-  QHash<QByteArray, QByteArrayView> sections_;  ///< by the name in upper case
+  QHash<ProfileName, QByteArrayView> sections_;
 };
 
 }  // namespace platform

@@ -36,7 +36,7 @@ struct Look {
 };
 
 /// Draws the object's texture and enters the outcome in the account.
-void drawObject(RenderContext& context, const ObjectSection& section, const QString& path, const Box& box,
+void drawObject(RenderContext& context, const ObjectSection& section, const PictureFile& file, const Box& box,
                 const Look& look) {
   if (context.textsOnly) return;
   const QString colorName = section.Value(look.colorKey);
@@ -44,7 +44,7 @@ void drawObject(RenderContext& context, const ObjectSection& section, const QStr
   const float intensity =
       look.intensityKey.isEmpty() ? NoIntensity : static_cast<float>(section.number(look.intensityKey));
   const QString type = platform::upperCase(section.Value(QStringLiteral("TYPE")));
-  const TextureResult result = DrawTexture(context, {path, type, box, color, intensity, section.inHand()});
+  const TextureResult result = DrawTexture(context, {file, type, box, color, intensity, section.inHand()});
   switch (result.outcome) {
     case TextureOutcome::Drawn:
       context.account.objects.push_back({section.Name(), result.place, {}, look.heightKey});
@@ -52,7 +52,7 @@ void drawObject(RenderContext& context, const ObjectSection& section, const QStr
     case TextureOutcome::NoSession:
       break;
     case TextureOutcome::NoPicture:
-      leaveOut(context, section.Name(), Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
+      leaveOut(context, section.Name(), Reason::NoPicture, QStringLiteral("Tex"), file.path.section(u'\\', -1));
       break;
     case TextureOutcome::NoColor:
       leaveOut(context, section.Name(), Reason::UnknownColor, look.colorKey, colorName);
@@ -103,8 +103,8 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
     return;
   }
   const bool selected = countButton(context.state);
-  const QString path = texturePath(context, section);
-  if (path.isEmpty()) return;
+  const PictureFile file = texturePath(context, section);
+  if (file.path.isEmpty()) return;
   auto box = themeBox(context, section, screenStep());
   if (!box) return;
   Look look{QStringLiteral("DColor"), QStringLiteral("DINT")};
@@ -119,7 +119,7 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
       look.heightKey = QStringLiteral("SelectH");
     }
   }
-  drawObject(context, section, path, *box, look);
+  drawObject(context, section, file, *box, look);
   const auto texts = themeInt16(context, section, QStringLiteral("TEXTS"), screenStep());
   if (!texts) return;
   drawChildTexts(context, tag, *box, *texts, textShift);
@@ -135,13 +135,14 @@ bool isButton(const QString& tag) {
 
 void DrawBackground(RenderContext& context, const QString& stem) {
   const QString section = stem + QStringLiteral("Background");
-  const QString path = texturePath(context, ObjectSection(context, section));
-  context.Workspace.wipe(drawing::colorOf(context.state.BackgroundColor));
-  if (path.isEmpty()) return;
+  const PictureFile file = texturePath(context, ObjectSection(context, section));
+  const auto wipe = [&] { context.Workspace.wipe(drawing::colorOf(context.state.BackgroundColor)); };
+  if (file.path.isEmpty()) return wipe();
   const QRect surface = context.Workspace.image().rect();
-  const PreparedPicture prepared = prepare(context.pictures, {path, {}, surface});
+  const PreparedPicture prepared = prepare(context.pictures, {file.path, {}, surface, false, file.identity});
+  if (prepared.missing || prepared.picture.hasAlphaChannel()) wipe();  // else it covers all
   if (prepared.missing) {
-    leaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), path.section(u'\\', -1));
+    leaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), file.path.section(u'\\', -1));
     return;
   }
   context.Workspace.drawImage(prepared.picture, 0, 0);
@@ -153,11 +154,11 @@ void DrawStatics(RenderContext& context) {
     const QString tag = context.tags.List(row);
     if (!holdsAny(platform::upperCase(tag), {u"STATIC", u"SONGVIDEOICON"})) continue;
     const ObjectSection section(context, tag);
-    const QString path = texturePath(context, section);
-    if (path.isEmpty()) continue;
+    const PictureFile file = texturePath(context, section);
+    if (file.path.isEmpty()) continue;
     const auto box = themeBox(context, section, staticStep());
     if (!box) continue;
-    drawObject(context, section, path, *box, {QStringLiteral("Color"), QString()});
+    drawObject(context, section, file, *box, {QStringLiteral("Color"), QString()});
     showObject(context);
   }
 }

@@ -16,17 +16,24 @@ void notePicture(const RenderContext& context, const QString& path) {
   pictures.emplace(path, platform::roughIdentityOf(path));
 }
 
+
+themefiles::SectionReader readerOf(const RenderContext& context, const QString& section) {
+  const QString& file = context.state.paths.ThemeFile;
+  return context.trial ? context.trial->section(section, file) : themefiles::SectionReader(section, file);
+}
+
 }  // namespace
 
-themefiles::SectionReader readSection(const RenderContext& context, const QString& section, const QString& file) {
-  if (context.trial) return context.trial->section(section, file);
-  return {section, file};
+QString readValue(const RenderContext& context, const QString& section, const QString& file, const QString& key,
+                  const QString& defaultValue) {
+  if (context.trial) return context.trial->section(section, file).Value(key, defaultValue);
+  return themefiles::GetINI(section, key, defaultValue, file);
 }
 
 ObjectSection::ObjectSection(const RenderContext& context, const QString& name)
     : name_(name),
       trial_(context.trial ? context.trial->valuesOf(name) : nullptr),
-      reader_(readSection(context, name, context.state.paths.ThemeFile)) {}
+      reader_(readerOf(context, name)) {}
 
 QString ObjectSection::Value(const QString& key, const QString& defaultValue) const {
   if (const QString* const tried = trial_ ? trial_->find(key) : nullptr) return *tried;
@@ -65,9 +72,9 @@ std::optional<Box> themeBox(RenderContext& context, const ObjectSection& section
   return box;
 }
 
-QString texturePath(RenderContext& context, const ObjectSection& section) {
+PictureFile texturePath(RenderContext& context, const ObjectSection& section) {
   const QString name = section.Value(QStringLiteral("Tex"));
-  const QString file = readSection(context, QStringLiteral("Textures"), context.state.paths.SkinFile).Value(name);
+  const QString file = readValue(context, QStringLiteral("Textures"), context.state.paths.SkinFile, name);
   if (file.isEmpty()) {
     leaveOut(context, section.Name(), Reason::NoTexture, QStringLiteral("Tex"), name);
     return {};
@@ -76,7 +83,8 @@ QString texturePath(RenderContext& context, const ObjectSection& section) {
   notePicture(context, path);
   Reason why = Reason::NoFile;
   try {
-    if (platform::fileExists(path)) return path;
+    const auto identity = platform::identityOf(path);
+    if (identity || platform::fileExists(path)) return {path, identity};
   } catch (const platform::Failure&) {
     why = Reason::Unseen;
   }

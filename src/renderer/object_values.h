@@ -4,14 +4,16 @@
 
 #include <QString>
 
+#include "platform/file_identity.h"
 #include "renderer/render_context.h"
 #include "themefiles/ini_access.h"
 
 /// How the passes read an object's keys, and enter in the account that it is left out.
 namespace renderer {
 
-/// A section of a file as it is now. During a trial frame each file is read only once.
-themefiles::SectionReader readSection(const RenderContext& context, const QString& section, const QString& file);
+/// The value of a key of a file as it is now. During a trial frame each file is read only once.
+QString readValue(const RenderContext& context, const QString& section, const QString& file, const QString& key,
+                  const QString& defaultValue = QString());
 
 /// The section of an object. It is read when the object is drawn, and includes the values on trial.
 class ObjectSection {
@@ -39,6 +41,12 @@ void leaveOut(RenderContext& context, const QString& section, Reason why, const 
 std::optional<qint16> themeInt16(RenderContext& context, const ObjectSection& section, const QString& key,
                                  const QString& step);
 
+/// A picture's file, and what was found there when it was looked for; without that it isn't kept.
+struct PictureFile {
+  QString path;
+  std::optional<platform::FileIdentity> identity;
+};
+
 /// X, Y, W and H of an object.
 struct Box {
   qint16 X = 0;
@@ -50,8 +58,8 @@ struct Box {
 /// None if one of the four doesn't fit into 16 bits. The first such number is reported.
 std::optional<Box> themeBox(RenderContext& context, const ObjectSection& section, const QString& step);
 
-/// The path of a section's picture: its Tex key names an entry of the skin, which names the file. If the entry or the
+/// The file of a section's picture: its Tex key names an entry of the skin, which names the file. If the entry or the
 /// file is missing, this is entered in the account, and the path is empty.
-QString texturePath(RenderContext& context, const ObjectSection& section);
+PictureFile texturePath(RenderContext& context, const ObjectSection& section);
 
 }  // namespace renderer

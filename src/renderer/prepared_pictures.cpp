@@ -37,7 +37,7 @@ PreparedPicture PreparedPictures::fitted(Source source, const PictureWish& wish)
 
 PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   constexpr qsizetype Overhead = 512;
-  const auto file = platform::identityOf(wish.path);
+  const auto file = wish.identity ? wish.identity : platform::identityOf(wish.path);
   if (!file) return fitted(sourceOf(wish), wish);
   const Key key{*file, wish.recolouring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
   if (const PreparedPicture* const kept = kept_.object(key)) return *kept;

@@ -27,6 +27,7 @@ struct PictureWish {
   Recolouring recolouring = {};
   QRect place;
   bool ownSize = false;
+  std::optional<platform::FileIdentity> identity = {};  ///< of the file, if it was looked at already
 };
 
 /// A picture ready to be blended on the surface at `corner`, or the reason why there is none.

@@ -57,7 +57,7 @@ bool setFont(RenderContext& context, const ObjectSection& section) {
 QString wordsOf(const RenderContext& context, const ObjectSection& section) {
   const QString key = section.Value(QStringLiteral("Text"), section.Name());
   if (key.isEmpty()) return section.Name();
-  return readSection(context, QStringLiteral("Text"), context.state.paths.LanguageFile).Value(key, key);
+  return readValue(context, QStringLiteral("Text"), context.state.paths.LanguageFile, key, key);
 }
 
 void printAligned(RenderContext& context, const ObjectSection& section, const QString& words, const QString& owner) {

@@ -41,8 +41,9 @@ std::optional<Recolouring> recolouringOf(const Texture& texture) {
 
 PictureWish wishOf(const Texture& texture, const Recolouring& recolouring) {
   const Box& box = texture.box;
-  if (box.X == -1 || box.Y == -1) return {texture.path, recolouring, QRect(), true};
-  return {texture.path, recolouring, QRect(box.X, box.Y, box.W, box.H), box.W == -1 || box.H == -1};
+  if (box.X == -1 || box.Y == -1) return {texture.file.path, recolouring, QRect(), true, texture.file.identity};
+  return {texture.file.path, recolouring, QRect(box.X, box.Y, box.W, box.H), box.W == -1 || box.H == -1,
+          texture.file.identity};
 }
 
 TextureResult draw(RenderContext& context, const Texture& texture) {
@@ -62,7 +63,7 @@ TextureResult draw(RenderContext& context, const Texture& texture) {
 }  // namespace
 
 TextureResult DrawTexture(RenderContext& context, const Texture& texture) {
-  if (texture.path.isEmpty()) return {};
+  if (texture.file.path.isEmpty()) return {};
   TextureResult result;
   StartGraphics(context.Workspace, context.graphics, context.dialogs);
   try {

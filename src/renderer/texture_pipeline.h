@@ -11,7 +11,7 @@ namespace renderer {
 
 /// A texture, and how to draw it.
 struct Texture {
-  QString path;
+  PictureFile file;
   QString type;  ///< "COLORIZED" or "FONT BLACK"; any other doesn't recolour
   Box box;
   QString color;  ///< "150 150 150"

@@ -16,7 +16,7 @@ const QString* TrialValues::find(const QString& key) const {
   return found == values.end() ? nullptr : &found->second;
 }
 
-themefiles::SectionReader TrialFrame::section(const QString& name, const QString& file) {
+const themefiles::SectionReader& TrialFrame::section(const QString& name, const QString& file) {
   auto seen = files_.find(file);
   if (seen == files_.end()) seen = files_.try_emplace(file, themefiles::bytesOrNone(file)).first;
   SeenFile& all = seen->second;
@@ -24,7 +24,7 @@ themefiles::SectionReader TrialFrame::section(const QString& name, const QString
   if (known != all.readers.end()) return known->second;
   const auto bytes = platform::toAnsi(name);
   const QByteArrayView lines = bytes ? all.sections.lines(*bytes) : QByteArrayView();
-  return all.readers.try_emplace(name, all.bytes, platform::profileKeys(lines)).first->second;
+  return all.readers.try_emplace(name, all.bytes, lines.isNull() ? std::nullopt : std::optional(lines)).first->second;
 }
 
 }  // namespace renderer

@@ -31,7 +31,7 @@ class TrialFrame {
   /// The values on trial in a section; null without any.
   const TrialValues* valuesOf(const QString& section) const { return values_.areOf(section) ? &values_ : nullptr; }
   /// A section of a file; without keys for one that isn't there or can't be read.
-  themefiles::SectionReader section(const QString& name, const QString& file);
+  const themefiles::SectionReader& section(const QString& name, const QString& file);
 
  private:
   /// A file with its sections found once: a frame asks for many values.

@@ -1,5 +1,6 @@
 #include "themefiles/ini_access.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/code_page.h"
@@ -19,8 +20,11 @@ QByteArray defaultBytes(const QString& text) {
 }
 
 /// The value, or else the Default, cut to the buffer's size.
-QString shown(const std::optional<QByteArray>& value, const QString& text, qint16 bufferSize) {
-  return platform::fromAnsi((value ? *value : defaultBytes(text)).left(bufferSize - 1));
+QString shown(std::optional<QByteArrayView> value, const QString& text, qint16 bufferSize) {
+  if (!value && text.isEmpty()) return {};
+  const QByteArray without = value ? QByteArray() : defaultBytes(text);
+  const QByteArrayView all = value ? *value : without;
+  return platform::fromAnsi(all.first(std::min(all.size(), qsizetype{bufferSize} - 1)));
 }
 
 bool holdsLineEnd(const QString& text) {
@@ -74,12 +78,11 @@ SectionReader::SectionReader(const QString& Section, const QString& FileName) : 
 
 QString SectionReader::Value(const QString& Key, const QString& Default) const {
   const auto key = platform::toAnsi(Key);
-  std::optional<QByteArray> found;
-  if (key && !key->isEmpty() && lines_) found = platform::findProfileValue(*lines_, *key);
-  if (const auto* const line = key && keys_ ? platform::lineOf(*keys_, *key) : nullptr) {
-    found = platform::unquoted(line->value).toByteArray();
-  }
-  return shown(found, Default, ValueBufferSize);
+  if (!key || key->isEmpty() || !lines_) return shown(std::nullopt, Default, ValueBufferSize);
+  if (!std::exchange(asked_, true)) return shown(platform::findProfileValue(*lines_, *key), Default, ValueBufferSize);
+  if (keys_.empty()) keys_ = platform::profileLines(*lines_);
+  const auto* const line = platform::lineOf(keys_, *key);
+  return shown(line ? std::optional(platform::unquoted(line->value)) : std::nullopt, Default, ValueBufferSize);
 }
 
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -31,16 +32,17 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
 class SectionReader {
  public:
   SectionReader(const QString& Section, const QString& FileName);
-  /// For keys that were already found in the bytes of `file`.
-  SectionReader(QByteArray file, platform::ProfileKeys keys) : file_(std::move(file)), keys_(std::move(keys)) {}
+  /// For the lines of the section, if it is there, in the bytes of `file`.
+  SectionReader(QByteArray file, std::optional<QByteArrayView> lines) : file_(std::move(file)), lines_(lines) {}
   /// Whether the file has the section.
   bool isThere() const { return lines_.has_value(); }
   QString Value(const QString& Key, const QString& Default = QString()) const;
 
  private:
   QByteArray file_;
-  std::optional<QByteArrayView> lines_;        ///< the section's lines in file_
-  std::optional<platform::ProfileKeys> keys_;  ///< instead of the lines
+  std::optional<QByteArrayView> lines_;  ///< the section's lines in file_
+  mutable bool asked_ = false;
+  mutable std::vector<platform::ProfileLine> keys_;  ///< of these lines, once a second key is asked for
 };
 
 /// Sets the value of a key; adds key and section if they are missing; without a Value removes the key. All other bytes

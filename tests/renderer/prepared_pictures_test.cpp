@@ -56,7 +56,8 @@ class PreparedPicturesTest : public QObject {
                                 QRect(-9, 5, 1000, 700), QRect(750, 1, 64, 48), QRect(5, -700, 30, 640),
                                 QRect(9, 9, 1, 1), QRect(800, 0, 9, 9), QRect(9, 9, -9, 9), QRect(9, 9, 0, 9)}) {
       const RowName name(QByteArray::number(target.x()) + ' ' + QByteArray::number(target.width()));
-      for (const QImage& picture : {noise(64, 48), noise(512, 20)}) {
+      const QImage opaque = noise(64, 48).convertToFormat(QImage::Format_RGB32);
+      for (const QImage& picture : {noise(64, 48), noise(512, 20), opaque.convertToFormat(QImage::Format_ARGB32)}) {
         drawing::Surface stretched, blended;
         stretched.drawImageRect(picture, target.x(), target.y(), target.width(), target.height());
         const QRect part = drawing::partOnSurface(target);

@@ -124,7 +124,7 @@ class TexturePipelineTest : public QObject {
       graphics.failing = failing;
       RenderContext context{stage.state, stage.tags,    stage.surface, stage.host,
                             stage.panel, stage.dialogs, graphics,      stage.account};
-      DrawTexture(context, {stage.folder.path(u"Red.png"_s), {}, {3, 4, -1, 0}, u"0 0 0"_s});
+      DrawTexture(context, {{stage.folder.path(u"Red.png"_s), {}}, {}, {3, 4, -1, 0}, u"0 0 0"_s});
       QCOMPARE(graphics.steps.join(u' '), steps);
       QCOMPARE(stage.dialogs.asked.join(u' '), message);
       QCOMPARE(inkOf(stage.surface.image()), draws ? QRect(3, 4, 8, 4) : QRect());
