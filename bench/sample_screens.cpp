@@ -21,6 +21,15 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+/// The picture as the render blends it.
+renderer::PreparedPicture preparedOf(const Picture& picture) {
+  using Type = renderer::Recolouring::Type;
+  const Type type = picture.type == u"COLORIZED"    ? Type::Colorized
+                    : picture.type == u"FONT BLACK" ? Type::FontBlack
+                                                    : Type::None;
+  return renderer::prepare(nullptr, {picture.path, {type, picture.color}, picture.place});
+}
+
 }  // namespace
 
 SampleScreen::SampleScreen(const QString& gameFolder, const QString& theme, const QString& screen) : theme_(theme) {
@@ -138,12 +147,18 @@ std::shared_ptr<SampleScreen> fullestScreen() {
   return fullest;
 }
 
-renderer::PreparedPicture preparedOf(const Picture& picture) {
-  using Type = renderer::Recolouring::Type;
-  const Type type = picture.type == u"COLORIZED"    ? Type::Colorized
-                    : picture.type == u"FONT BLACK" ? Type::FontBlack
-                                                    : Type::None;
-  return renderer::prepare(nullptr, {picture.path, {type, picture.color}, picture.place});
+std::function<void(drawing::Surface& surface)> blending(const SampleScreen& screen) {
+  std::vector<renderer::PreparedPicture> prepared;
+  for (const Picture& picture : screen.pictures()) prepared.push_back(preparedOf(picture));
+  return [prepared, texts = screen.texts()](drawing::Surface& surface) {
+    for (const renderer::PreparedPicture& one : prepared) {
+      surface.drawImage(one.picture, one.corner.x(), one.corner.y());
+    }
+    for (const Text& text : texts) {
+      surface.setPen(text.pen);
+      surface.Print(text.words);
+    }
+  };
 }
 
 void drawPlainly(const Picture& picture, drawing::Surface& surface) {

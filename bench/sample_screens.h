@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -81,8 +82,8 @@ class SampleScreen {
 /// The screen on which most objects are drawn, of all sample themes; null without any.
 std::shared_ptr<SampleScreen> fullestScreen();
 
-/// The picture as the render blends it.
-renderer::PreparedPicture preparedOf(const Picture& picture);
+/// Blends what the last render has prepared and prints its texts; nothing else.
+std::function<void(drawing::Surface& surface)> blending(const SampleScreen& screen);
 
 /// Decodes, recolours and draws scaled; nothing else.
 void drawPlainly(const Picture& picture, drawing::Surface& surface);
