@@ -6,11 +6,13 @@
 #include <QDir>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QScreen>
 
 #include "controls/list_view.h"
 #include "controls/swatch_button.h"
 #include "mainwindows/open_theme_dialog.h"
+#include "mainwindows/workspace.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "toolbar/mc_toolbar.h"
@@ -31,6 +33,7 @@ struct Row {
   QStringView key;
 };
 
+constexpr QStringView DraggedTag = u"MainStaticEqualizer";
 constexpr Row ColorRow{u"MainStaticIcon", u"Color"};
 constexpr Row ThemeColorRow{u"MainTextTitle", u"Color"};
 constexpr Row TextRow{u"MainTextTitle", u"Text"};
@@ -120,6 +123,7 @@ void Session::run() {
   save(form_, QStringLiteral("main-window"));
   controls_.showToolBarStates();
   controls_.showProgress([this] { form_.queue().draw(); });
+  showDrag();
   showEditors();
   saveScreen(QStringLiteral("editor"));
   showColorBoxes();
@@ -139,6 +143,24 @@ void Session::showScreen(const QString& name) {
   controls::ComboBox& screens = *form_.toolWindow()->Combo1;
   screens.SetListIndex(rowOf(screens, name));
   settle();
+}
+
+/// A drag in flight; it is given up then.
+void Session::showDrag() {
+  constexpr QPoint From(200, 500);
+  constexpr QPoint By(226, 18);
+  form_.toolWindow()->List1->SetListIndex(rowOf(*form_.toolWindow()->List1, DraggedTag.toString()));
+  mainwindows::Workspace& preview = *form_.Workspace;
+  const auto send = [&preview](QEvent::Type type, const QPoint& place) {
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, place, preview.mapToGlobal(place), button, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&preview, &event);
+  };
+  send(QEvent::MouseButtonPress, From);
+  send(QEvent::MouseMove, From + By);
+  settle();
+  save(form_, QStringLiteral("drag"));
+  Q_EMIT form_.settling();
 }
 
 void Session::showEditors() {

@@ -19,6 +19,7 @@ class Session {
  private:
   void openTheme();
   void showScreen(const QString& name);
+  void showDrag();
   void showEditors();
   void showColorBoxes();
   void showKeyBoxes();
