@@ -14,6 +14,15 @@ const QByteArray Theme = linesOf(
 const QByteArray Language = linesOf("[Text]|HELLO=Hello|");
 const QString Kept = u"Kept in the working copy; the next Update makes Save available"_s;
 
+/// A drag of the mouse over the window, in three steps.
+static void drag(QWidget& widget, const QPoint& from, const QPoint& by) {
+  QWindow* const window = widget.window()->windowHandle();
+  const QPoint place = widget.mapTo(widget.window(), from);
+  QTest::mousePress(window, Qt::LeftButton, {}, place);
+  for (int step = 1; step <= 3; ++step) QTest::mouseMove(window, place + by * step / 3);
+  QTest::mouseRelease(window, Qt::LeftButton, {}, place + by);
+}
+
 /// One session: what is picked in the preview and the lists, then colours and keys that are added, used and removed.
 class PreviewTest : public QObject {
   Q_OBJECT
@@ -150,6 +159,36 @@ class PreviewTest : public QObject {
     QVERIFY(game.get(ThemeCopy).contains("Tex=Fr\xff\r\n"));
     QCOMPARE(pixel(), QColor(200, 100, 50));
     QCOMPARE(game.get(ThemeFile), Theme);
+  }
+
+  /// Moves an object of the sample by the mouse and then by keys, and saves.
+  void movedByHand() {
+    program.reset();
+    const GameFolder sample;
+    sample.copySample();
+    program = std::make_unique<Program>(sample);
+    QVERIFY(QTest::qWaitForWindowExposed(&program->form));
+    open(*program, "Stagelight", "Neon", Qt::Key_Home);
+    const QString file = u"Themes/Stagelight.ini"_s;
+    QByteArray expected = sample.get(file);
+    const auto at = expected.indexOf("[LoadingStaticRecord]");
+    const auto expect = [&](const char* was, const char* is) {
+      expected.replace(expected.indexOf(was, at), QByteArrayView(was).size(), is);
+    };
+    pickNamed(*tools().List1, "LoadingStaticRecord");
+    QWidget& preview = *program->form.Workspace;
+    drag(preview, {400, 200}, {40, 25});
+    expect("X=310", "X=350");
+    expect("Y=110", "Y=135");
+    QCOMPARE(sample.get(file + u".tmp"_s), expected);
+    for (int press = 0; press < 5; ++press) key(preview, Qt::Key_Right);
+    for (int press = 0; press < 2; ++press) key(preview, Qt::Key_Down);
+    expect("X=350", "X=355");
+    expect("Y=135", "Y=137");
+    QTRY_COMPARE(sample.get(file + u".tmp"_s), expected);
+    QVERIFY(sample.get(file) != expected);
+    toolBar(*program, 2);
+    QCOMPARE(sample.get(file), expected);
   }
 
  private:

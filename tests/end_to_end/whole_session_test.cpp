@@ -85,6 +85,12 @@ class WholeSessionTest : public QObject {
       QVERIFY2(picture != std::exchange(pictureBefore, picture), qPrintable(name));
       QVERIFY2(!program->status().startsWith(u"Error"), qPrintable(name + program->status()));
       QCOMPARE(program->form.Combo2->isVisible(), program->state.ButtonCount > 0);
+      // Drawn again it is the same, with the pictures made anew and with those that were kept.
+      program->form.forgetPictures();
+      for (int drawing = 0; drawing < 2; ++drawing) {
+        program->form.queue().draw();
+        QVERIFY2(program->picture() == picture, qPrintable(name));
+      }
       key(tools, Qt::Key_Down);
     }
     QVERIFY(program->state.ThemeOpened && !program->state.Changed);

@@ -15,6 +15,7 @@ struct Operation {
 
 namespace {
 
+const QString StaysAsItIs = u"stays as it is ["_s;  // said of an object whose section can't be read
 const char* const copying = "Error while saving temporary files [";
 
 using Files = QMap<QString, QByteArray>;
@@ -66,6 +67,13 @@ void open(Program& program, const std::function<void()>& armed) {
     if (dialog.isVisible()) dialog.reject();
   });
   settle();
+}
+
+/// Two numbers of an object, by the arrow keys.
+void moveByHand(Program& program, const std::function<void()>& armed) {
+  for (const auto arrow : {Qt::Key_Right, Qt::Key_Down}) QTest::keyClick(program.form.Workspace, arrow);
+  armed();
+  Q_EMIT program.form.settling();
 }
 
 Standing standing(const Program& program, const GameFolder& game) {
@@ -138,6 +146,7 @@ class FileFailuresTest : public QObject {
     const char* const writing = "Error while writing tempfile [";
     add("number", writing, editor("LoadingStaticA", "X"), press("Command1"));
     add("text", writing, editor("LoadingTextFree", "Text"), press("Command1"));
+    add("move by hand", writing, editor("LoadingStaticA", "X"), moveByHand);
     add("add a colour", "Error while adding colors [", editor("LoadingStaticA", "Color"), press("Command3"));
     add("change a colour", writing, editor("LoadingStaticA", "Color"), press("Command2"));
     add("remove a colour", writing, editor("LoadingStaticA", "Color"), press("Command5"));
@@ -175,14 +184,17 @@ class FileFailuresTest : public QObject {
         Standing now = standing(stage.program, stage.game);
         const QString damage = torn(now.files, stage.before.files, after.files, false);
         QVERIFY2(damage.isEmpty(), where + ' ' + qPrintable(damage));
-        const bool failed = stage.program.status().startsWith(QLatin1StringView(operation.failure));
+        const QString status = stage.program.status();
+        const bool failed = status.startsWith(QLatin1StringView(operation.failure)) || status.contains(StaysAsItIs);
         // Open may find nothing to open: no folder, theme, skin or language can be seen.
         const bool untouched = operation.failure == copying && now.files == stage.before.files;
         if (failed || untouched) {
           if (failed) ++reported;
           const QStringList changed = differences(now.shown, stage.before.shown);
           QVERIFY2(changed.isEmpty(), where + qPrintable(changed.join(u' ')));
-          stage.run(operation, Fault::None, 0);
+          // A move counts from where a failed one has left the object.
+          const bool done = QTest::currentDataTag() == QByteArrayView("move by hand") && now.files == after.files;
+          if (!done) stage.run(operation, Fault::None, 0);
           now = standing(stage.program, stage.game);
         }
         if (failed && QTest::currentDataTag() == QByteArrayView("open again")) continue;

@@ -7,13 +7,12 @@
 #include "platform/paths.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
-#include "toolwindow/object_selection.h"
 
 namespace endurance {
 namespace {
 
 /// The refusals and failures that have to occur, by a piece of their words.
-constexpr std::array<const char*, 13> Refusals{"Color already exist!",
+constexpr std::array<const char*, 14> Refusals{"Color already exist!",
                                                "This name can't be used!",
                                                "Key already exist!",
                                                "Image must be in",
@@ -22,15 +21,16 @@ constexpr std::array<const char*, 13> Refusals{"Color already exist!",
                                                "[no object is selected]",
                                                "can't be found again]",
                                                "a letter outside the code page",
+                                               "stays as it is [",
                                                "Error while reading Value [",
                                                "Error while adding colors []",
                                                "Error while saving files [",
                                                "Error while saving temporary files ["};
-/// Commands, answers of dialogs, and editor frames.
-constexpr std::array<const char*, 22> Others{"Open",      "Save",      "Close",   "Background",  "end",    "a yes",
+/// Commands, answers of dialogs, editor frames, and what the hand on the preview did.
+constexpr std::array<const char*, 25> Others{"Open",      "Save",      "Close",   "Background",  "end",    "a yes",
                                              "no yes",    "ok",        "a name",  "no name",     "a file", "no file",
                                              "a colour",  "no colour", "open",    "cancel",      "Color",  "Numbers",
-                                             "Selection", "Texts",     "Texture", "FloatNumbers"};
+                                             "Selection", "Texts",     "Texture", "FloatNumbers", "moved", "sized", "given up"};
 
 const QString Crowd = u"Themes/A crowd.ini"_s;
 

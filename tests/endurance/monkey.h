@@ -76,6 +76,9 @@ class Monkey {
   void choose(controls::ComboBox& list);
   void pick(QAbstractItemView& list);
   void type(QLineEdit& box);
+  void gesture();
+  void arrowKeys();
+  void drag();
   void shortcut();
   void resize();
   void loseFolder();

@@ -19,6 +19,8 @@ void Monkey::act() {
     (this->*chance_.of(actions))();
   } else if (chance_.one(900)) {
     form().close();
+  } else if (tools != nullptr && chance_.one(12)) {
+    gesture();
   } else if (tools == nullptr || chance_.one(50)) {
     touch(form());
   } else if (chance_.one(4) || tools->List1->ListIndex() < 0) {
@@ -102,6 +104,45 @@ void Monkey::type(QLineEdit& box) {
     key(box, Qt::Key_V, Qt::ControlModifier);
   }
   if (!chance_.one(3)) key(box, Qt::Key_Return);
+}
+
+/// Arrow keys on the preview, or a drag.
+void Monkey::gesture() {
+  chance_.one(2) ? arrowKeys() : drag();
+  const QString status = form().StatusBar->panel(1);
+  counts_[u"moved"_s] += status.contains(u": X = "_s) || status.contains(u": Y = "_s);
+  counts_[u"sized"_s] += status.contains(u"W = "_s) || status.contains(u"H = "_s);
+}
+
+void Monkey::arrowKeys() {
+  constexpr std::array Keys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
+  const auto with = chance_.of(std::array{Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier});
+  for (int i = chance_.below(4); i >= 0; --i) key(*form().Workspace, chance_.of(Keys), with);
+  if (chance_.one(6)) key(*form().Workspace, Qt::Key_Escape);
+  if (chance_.one(2)) Q_EMIT form().settling();
+}
+
+/// A drag that ends in any way, or never.
+void Monkey::drag() {
+  mainwindows::Workspace& preview = *form().Workspace;
+  const QRect mark = preview.markRect() & preview.rect();
+  const std::array places{mark.center(), mark.bottomRight(), QPoint(chance_.below(800), chance_.below(600))};
+  QPoint place = chance_.of(places);
+  QTest::mousePress(&preview, Qt::LeftButton, {}, place);
+  for (int i = chance_.below(4); i >= 0; --i) {
+    ++events_;
+    support::moveMouse(preview, place += QPoint(chance_.below(40) - 15, chance_.below(40) - 15));
+    if (chance_.one(3)) QTest::qWait(20);
+  }
+  const std::array<std::function<void()>, 5> ends{
+      [&] { key(preview, Qt::Key_Escape); }, [&] { QTest::mouseClick(&preview, Qt::RightButton, {}, place); },
+      [] { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); }, [this] { shortcut(); },
+      [this] { resize(); }};
+  if (chance_.one(3)) {
+    ++counts_[u"given up"_s];
+    chance_.of(ends)();
+  }
+  if (!chance_.one(9)) QTest::mouseRelease(&preview, Qt::LeftButton, {}, place);
 }
 
 void Monkey::shortcut() {

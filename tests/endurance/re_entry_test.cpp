@@ -60,6 +60,23 @@ bool screen(Program& program, const QString& name = u"Main Screen"_s) {
   return true;
 }
 
+/// A press on a text of the preview; during a render the drag that follows it is none.
+bool pressOn(Program& program) {
+  QWidget& preview = *program.form.Workspace;
+  const QPoint place(410, 110);
+  QTest::mousePress(&preview, Qt::LeftButton, {}, place);
+  if (program.form.queue().busy()) moveMouse(preview, place * 2);
+  QTest::mouseRelease(&preview, Qt::LeftButton, {}, place);
+  return program.tools().List1->Text() == u"LoadingTextFree";
+}
+
+bool arrowKeys(Program& program) {
+  if (program.tools().List1->ListIndex() < 0) return false;
+  for (const auto key : {Qt::Key_Right, Qt::Key_Down}) QTest::keyClick(program.form.Workspace, key);
+  Q_EMIT program.form.settling();
+  return true;
+}
+
 constexpr Wish Wishes[] = {
     {"a number", nullptr, Static, "Y", "Command1"},
     {"a text", nullptr, "LoadingTextFree", "Text", "Command1", 't'},
@@ -77,6 +94,8 @@ constexpr Wish Wishes[] = {
     {"Close", click<3>},
     // From here on not in pairs.
     {"another object", [](Program& p) { return pickTag(p, "LoadingTextFree"); }},
+    {"a press on the preview", pressOn},
+    {"arrow keys", arrowKeys},
     {"Update", update},
     {"Update, another screen", [](Program& p) { return update(p) && screen(p); }},
     {"another screen and back", [](Program& p) { return screen(p) && screen(p, u"Loading Screen"_s); }},

@@ -10,6 +10,8 @@ using mainwindows::HeldNumbers;
 
 namespace {
 
+using Ending = std::function<void(Program& program)>;
+
 const QPoint Inside(50, 60);  // of LoadingStaticA
 
 }  // namespace
@@ -24,26 +26,17 @@ class PreviewHandTest : public ProgramTest {
   /// Presses at a place and moves the mouse on, by pixels; the button stays down.
   void hold(const QPoint& from, const QPoint& by, Qt::KeyboardModifiers keys = {}) const {
     QTest::mousePress(&preview(), Qt::LeftButton, keys, from);
-    send(from + by / 2, keys);
-    send(from + by, keys);
+    moveMouse(preview(), from + by / 2, Qt::LeftButton, keys);
+    moveMouse(preview(), from + by, Qt::LeftButton, keys);
     QTest::qWait(40);
   }
-  void send(const QPoint& place, Qt::KeyboardModifiers keys) const {
-    QMouseEvent move(QEvent::MouseMove, place, preview().mapToGlobal(place), Qt::NoButton, Qt::LeftButton, keys);
-    QApplication::sendEvent(&preview(), &move);
-  }
-  void drop(const QPoint& place) const {
-    QTest::mouseRelease(&preview(), Qt::LeftButton, {}, place);
+  void drop(const QPoint& place, Qt::KeyboardModifiers keys = {}) const {
+    QTest::mouseRelease(&preview(), Qt::LeftButton, keys, place);
     settle();
   }
   void drag(const QPoint& from, const QPoint& by, Qt::KeyboardModifiers keys = {}) const {
     hold(from, by, keys);
-    drop(from + by);
-  }
-  /// X, Y, W and H of the object that is shown.
-  QString numbers() const {
-    return QStringList{program->value(u"X"_s), program->value(u"Y"_s), program->value(u"W"_s), program->value(u"H"_s)}
-        .join(u' ');
+    drop(from + by, keys);
   }
   /// Lines of the working copy that aren't those of `before`.
   QStringList newLines(const QByteArray& before) const {
@@ -89,49 +82,49 @@ class PreviewHandTest : public ProgramTest {
     QCOMPARE(mainwindows::moved(start, {1, 1}, {-50, 0}).W, 1);
   }
 
-  void dragWritesWhatTypingWrites() {
-    program->tag(u"LoadingStaticA"_s);
-    const QStringList before = numbers().split(u' ');
+  /// A drag leaves what an Update of the same numbers leaves.
+  void dragIsAnUpdate_data() {
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<QPoint>("from");
+    QTest::addColumn<QPoint>("by");
+    QTest::addColumn<QString>("lines");
+    QTest::addColumn<Qt::KeyboardModifiers>("keys");
+    const auto add = [](const char* name, const char* tag, QPoint from, QPoint by, const char* lines,
+                        Qt::KeyboardModifiers keys = {}) {
+      QTest::newRow(name) << QString::fromLatin1(tag) << from << by << QString::fromLatin1(lines) << keys;
+    };
+    add("picture", "LoadingStaticA", Inside, {40, 25}, "X=80 Y=75");
+    add("picture, one direction", "LoadingStaticA", Inside, {9, 25}, "Y=75", Qt::ControlModifier);
+    add("picture, upper left", "LoadingStaticA", {41, 51}, {-6, 7}, "X=34 Y=57 W=106 H=53");
+    add("picture, right", "LoadingStaticA", {138, 80}, {12, 30}, "W=112");
+    add("selected button", "LoadingButtonGo", {340, 230}, {-310, 0}, "X=0");
+    add("selected button's corner", "LoadingButtonGo", {378, 258}, {5, 7}, "W=85 SelectH=67");
+    add("other button's edge", "LoadingButtonLast", {340, 338}, {0, 9}, "H=49");
+    add("text", "LoadingTextFree", {400, 108}, {10, -4}, "X=410 Y=96");
+    add("text of a button", "LoadingButtonGoText1", {320, 245}, {5, -3}, "X=15 Y=2");
+  }
+  void dragIsAnUpdate() {
+    QFETCH(QString, tag);
+    QFETCH(QPoint, from);
+    QFETCH(QPoint, by);
+    QFETCH(Qt::KeyboardModifiers, keys);
+    program->tag(tag);
     const QByteArray file = game->get(ThemeCopy);
-    drag(Inside, {40, 25});
-    const QString x = QString::number(before[0].toInt() + 40);
-    const QString y = QString::number(before[1].toInt() + 25);
-    QCOMPARE(newLines(file), (QStringList{u"X="_s + x, u"Y="_s + y}));
-    QCOMPARE(program->status(), u"LoadingStaticA: X = %1, Y = %2"_s.arg(x, y));
+    drag(from, by, keys);
+    const QStringList lines = newLines(file);
+    QTEST(lines.join(u' '), "lines");
+    QCOMPARE(program->status(), tag + u": "_s + QStringList(lines).replaceInStrings(u"="_s, u" = "_s).join(u", "_s));
     const QVariantMap dragged = snapshot(*program, *game);
 
     program = nullptr;
-    game = std::make_unique<GameFolder>();
-    program = std::make_unique<Program>(*game);
-    program->open();
-    program->tag(u"LoadingStaticA"_s);
-    program->change(u"X"_s, x);
-    program->change(u"Y"_s, y);
+    init();
+    program->tag(tag);
+    for (const QString& line : lines) program->change(line.section(u'=', 0, 0), line.section(u'=', 1));
     program->tools().ListView1->selectRow(-1);
     QStringList differing = differences(dragged, snapshot(*program, *game));
     differing.removeAll(u"height"_s);  // an editor is open
     differing.removeAll(u"flags"_s);
     QCOMPARE(differing, QStringList());
-  }
-
-  void eachKindOfObject() {
-    const struct {
-      const char* tag;
-      QPoint from;
-      QPoint by;
-      QStringList lines;
-    } rows[] = {
-        {"LoadingButtonGo", {378, 258}, {5, 7}, {u"W=85"_s, u"SelectH=67"_s}},  // drawn selected
-        {"LoadingButtonGo", {340, 230}, {-300, 0}, {u"X=0"_s}},
-        {"LoadingTextFree", {400, 108}, {10, -4}, {u"X=410"_s, u"Y=96"_s}},
-        {"LoadingButtonLast", {378, 338}, {0, 9}, {u"H=49"_s}},
-    };
-    for (const auto& row : rows) {
-      program->tag(QLatin1StringView(row.tag));
-      const QByteArray file = game->get(ThemeCopy);
-      drag(row.from, row.by);
-      QCOMPARE(newLines(file), row.lines);
-    }
   }
 
   void pickingGoesThroughWhatIsSelected() {
@@ -144,23 +137,77 @@ class PreviewHandTest : public ProgramTest {
     QVERIFY(program->tools().focusWidget() == program->tools().List1);
   }
 
-  void nothingIsWritten() {
+  /// What gives a drag up leaves all as it was, or at least the files.
+  void givenUp_data() {
+    QTest::addColumn<Ending>("ending");
+    QTest::addColumn<bool>("filesOnly");
+    const auto add = [](const char* name, const Ending& ending, bool filesOnly = false) {
+      QTest::newRow(name) << ending << filesOnly;
+    };
+    add("Esc", [](Program& p) { QTest::keyClick(p.form.Workspace, Qt::Key_Escape); });
+    add("second button", [](Program& p) {
+      QTest::mouseClick(p.form.windowHandle(), Qt::RightButton, {}, p.form.Workspace->mapTo(&p.form, Inside));
+      QVERIFY(QApplication::activePopupWidget() == nullptr);
+    });
+    add("lost grab", [](Program& p) { moveMouse(*p.form.Workspace, Inside, Qt::NoButton); });
+    add("another program", [](Program&) { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); });
+    add("Alt+Tab", [](Program& p) { 
+      p.tools().activateWindow();
+      QTRY_COMPARE(QApplication::activeWindow(), &p.tools());
+    });
+    add("dialog", [](Program& p) { p.openDialog([](mainwindows::Form3& dialog) { dialog.reject(); }); });
+    add("drawing", [](Program& p) { p.form.queue().draw(); });
+    add("another screen", [](Program& p) { p.screen(u"Main Screen"_s); }, true);
+    add("Close", [](Program& p) { p.click(3); }, true);
+    add("end", [](Program& p) { p.form.close(); }, true);
+  }
+  void givenUp() {
+    QFETCH(Ending, ending);
+    QFETCH(bool, filesOnly);
     program->tag(u"LoadingStaticA"_s);
+    program->form.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &program->form);
+    const QPoint by(30, 20);
     const QVariantMap before = snapshot(*program, *game);
     drag(Inside, {3, 3});
-    const QPoint by(30, 20);
+    QCOMPARE(differences(before, snapshot(*program, *game)), QStringList());
     hold(Inside, by);
     QVERIFY(program->picture() != before[u"picture"_s].value<QImage>());
-    QTest::keyClick(&preview(), Qt::Key_Escape);
+    ending(*program);
     drop(Inside + by);
-    hold(Inside, by);
-    QTest::mousePress(&preview(), Qt::RightButton, {}, Inside + by);
-    QTest::mouseRelease(&preview(), Qt::RightButton, {}, Inside + by);
-    drop(Inside + by);
-    hold(Inside, by);
-    Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive);
-    drop(Inside + by);
-    QCOMPARE(differences(before, snapshot(*program, *game)), QStringList());
+    const QStringList differing = differences(before, snapshot(*program, *game));
+    QVERIFY2(filesOnly ? !differing.contains(u"files"_s) : differing.isEmpty(), qPrintable(differing.join(u' ')));
+  }
+
+  void startsFromItself() {
+    const auto draw = [this](const char* key, const char* value) {
+      themefiles::PutINI(u"LoadingStaticA"_s, QLatin1StringView(key), QLatin1StringView(value),
+                         program->state.paths.ThemeFile);
+      program->form.queue().draw();
+      program->tag(u"LoadingStaticA"_s);
+      return game->get(ThemeCopy);
+    };
+    const QByteArray left = draw("X", "-20");
+    const QImage before = program->picture();
+    hold(Inside, {3, 0});
+    QCOMPARE(program->picture(), before);
+    moveMouse(preview(), Inside + QPoint(5, 0));
+    drop(Inside + QPoint(5, 0));
+    QCOMPARE(newLines(left), QStringList{u"X=0"_s});
+    const QByteArray fraction = draw("Y", "50.5");
+    drag(Inside, {0, 6});
+    QCOMPARE(newLines(fraction), QStringList{u"Y=56"_s});
+  }
+
+  void sectionRemovedMeanwhile() {
+    program->tag(u"LoadingStaticA"_s);
+    hold(Inside, {30, 20});
+    const QByteArray without = game->get(ThemeCopy).replace("[LoadingStaticA]", "[Elsewhere]");
+    game->put(ThemeCopy, without);
+    drop(Inside + QPoint(30, 20));
+    QCOMPARE(game->get(ThemeCopy), without);
+    QCOMPARE(program->status(), u"LoadingStaticA stays as it is [its section is gone]"_s);
+    QVERIFY(!program->state.Changed);
   }
 
   void keysAreOneEdit() {

@@ -121,6 +121,13 @@ inline void settle() {
   QCoreApplication::processEvents();
 }
 
+/// Moves the mouse over a widget, with the left button held down unless told otherwise.
+inline void moveMouse(QWidget& widget, const QPoint& place, Qt::MouseButtons buttons = Qt::LeftButton,
+                      Qt::KeyboardModifiers keys = {}) {
+  QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, buttons, keys);
+  QCoreApplication::sendEvent(&widget, &move);
+}
+
 /// The program's windows with their events connected.
 class Program {
  public:
