@@ -55,6 +55,7 @@ CommandRows commandRows() {
 
 void runCommand(const CommandTargets& targets, const CommandRow& row) {
   const auto ifEnabled = [targets, &row] {
+    if (!targets.form.isVisible()) return;  // the program has ended while the command waited
     targets.hand.settle();
     if (targets.form.commandEnabled(row.command)) row.run(targets);
   };

@@ -254,7 +254,7 @@ void PreviewHand::showFrame() {
   const renderer::TrialValues values{section_, changedValues(start_, now_)};
   Workspace& preview = *form_.Workspace;
   if (untried_.isNull()) untried_ = preview.surface().image();
-  renderer::drawTrial(form_.renderContext(), values);
+  platform::guardedSilently([&] { renderer::drawTrial(form_.renderContext(), values); });
   renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, values);
   preview.Refresh();
   preview.setHandLabel(labelOf(now_, grip_), stage_ == Stage::Dragging ? mouse_ : preview.markRect().bottomRight());

@@ -71,8 +71,8 @@ class PreviewHand : public QObject {
   Stage stage_ = Stage::None;
   bool picksAtRelease_ = false;
   bool endedDrag_ = false;  ///< the last press gave a drag up, and stands for nothing else
-  QPoint pressed_;  ///< where the button went down
-  QPoint mouse_;    ///< where it is now
+  QPoint pressed_;          ///< where the button went down
+  QPoint mouse_;            ///< where it is now
   QString section_;
   Grip grip_;
   HeldNumbers start_;

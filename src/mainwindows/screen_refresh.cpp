@@ -11,6 +11,11 @@
 #include "toolwindow/tool_window.h"
 
 namespace mainwindows {
+namespace {
+
+constexpr quint8 FirstButton = 1;
+
+}  // namespace
 
 void ScreenRefresh::list() {
   toolwindow::Form2* tools = form_.toolWindow();
@@ -31,7 +36,9 @@ void ScreenRefresh::refresh() {
   const QString screen = tools->Combo1->Text();
   // If an earlier refresh hasn't ended, its choices are kept: the lists may be empty now.
   if (!kept_ || kept_->screen != screen) {
-    kept_ = {screen, tools->List1->Text(), form_.services.state.SelectedButton};
+    // Until a screen's list of buttons is filled, the selected one is that of the screen before.
+    const themefiles::ModuleState& state = form_.services.state;
+    kept_ = {screen, tools->List1->Text(), state.ButtonListFilled ? state.SelectedButton : FirstButton};
   }
   form_.queue().choose();
 }

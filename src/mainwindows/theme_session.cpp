@@ -36,23 +36,36 @@ bool mayDropChanges(Form1& form) {
   return answer == platform::BoxAnswer::Yes;
 }
 
-/// Asks for the game folder and stores it; empty if the user cancels.
-QString askGameFolder(Form1& form) {
+/// Where the game is.
+struct GameFolder {
+  QString path;     ///< empty if the user cancels
+  QString problem;  ///< the report of a folder that can't be stored
+};
+
+/// Asks for the game folder and stores it.
+GameFolder askGameFolder(Form1& form) {
   const QString program = QStringLiteral("Vocora.exe");
   const QString chosen =
       form.services.dialogs.openFile(&form, {QStringLiteral("Where is the game's program file, Vocora.exe?"),
                                              QStringLiteral("Cantorama (Vocora.exe)|Vocora.exe"), program, QString()});
   if (chosen.isEmpty()) return {};
   const QString folder = chosen.left(chosen.lastIndexOf(u'\\') + 1);
-  platform::guarded(form, QStringLiteral("The game folder can't be kept in config.ini"),
-                    [&] { form.config().setGameFolder(folder); });
-  return folder;
+  try {
+    form.config().setGameFolder(folder);
+  } catch (const platform::Failure& failure) {
+    const QString problem =
+        platform::reportText(QStringLiteral("The game folder can't be kept in config.ini"), failure.description());
+    form.ShowStatus(problem);
+    return {folder, problem};
+  }
+  return {folder, {}};
 }
 
 /// The stored game folder, or the one that the user is asked for.
-QString findGameFolder(Form1& form) {
+GameFolder findGameFolder(Form1& form) {
   const QString stored = form.config().gameFolder();
-  return !stored.isEmpty() && platform::folderHoldsFiles(stored) ? stored : askGameFolder(form);
+  if (stored.isEmpty() || !platform::folderHoldsFiles(stored)) return askGameFolder(form);
+  return {stored, {}};
 }
 
 /// Makes the working copies of the choice and opens them; a failure is reported.
@@ -114,12 +127,12 @@ void ReadTheme(Form1& form) {
   });
 }
 
-void openFrom(Form1& form, QString (*folderOf)(Form1& form)) {
+void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
   platform::guardedSilently([&] {
     if (!mayDropChanges(form)) return;
-    const QString gameFolder = folderOf(form);
-    if (gameFolder.isEmpty()) return;
-    const QStringList themes = themefiles::themesOf(gameFolder);
+    const GameFolder gameFolder = folderOf(form);
+    if (gameFolder.path.isEmpty()) return;
+    const QStringList themes = themefiles::themesOf(gameFolder.path);
     if (themes.isEmpty()) {
       form.services.dialogs.messageBox(&form, QStringLiteral("No Themes Found"), QStringLiteral("Error"),
                                        platform::BoxKind::Error);
@@ -132,7 +145,7 @@ void openFrom(Form1& form, QString (*folderOf)(Form1& form)) {
       telling.emplace(form);
       return openCopies(form, chosen);
     };
-    Form3 dialog(gameFolder, themes, open, &form);
+    Form3 dialog(gameFolder.path, themes, open, &form);
     if (controls::runModal(dialog) != QDialog::Accepted) return;
     dropEarlierTheme(form);
     showToolWindow(form);
@@ -141,7 +154,7 @@ void openFrom(Form1& form, QString (*folderOf)(Form1& form)) {
     form.enableCommand(Command::BackgroundColor, true);
     form.Combo1->show();
     const QStringList opened{dialog.List1->Text(), dialog.List2->Text(), dialog.Combo1->Text()};
-    telling->success(opened.join(QStringLiteral(", ")));
+    telling->success(gameFolder.problem.isEmpty() ? opened.join(QStringLiteral(", ")) : gameFolder.problem);
   });
 }
 

@@ -24,8 +24,9 @@ constexpr QSize LabelMargin(10, 4);
 constexpr QPoint LabelOffset(12, 20);
 constexpr double FarAway = 1 << 20;  // pixels: beyond any screen, and safe to reckon with
 
+/// A half goes to the even neighbour, as everywhere in a theme.
 int pixel(double length) {
-  return static_cast<int>(std::floor(std::clamp(length, -FarAway, FarAway) + 0.5));
+  return static_cast<int>(std::nearbyint(std::clamp(length, -FarAway, FarAway)));
 }
 
 class AccessiblePreview : public QAccessibleWidget {

@@ -1,6 +1,7 @@
 #include "renderer/object_passes.h"
 
 #include <algorithm>
+#include <new>
 
 #include "drawing/system_colours.h"
 #include "platform/code_page.h"
@@ -139,7 +140,12 @@ void DrawBackground(RenderContext& context, const QString& stem) {
   const auto wipe = [&] { context.Workspace.wipe(drawing::colorOf(context.state.BackgroundColor)); };
   if (file.path.isEmpty()) return wipe();
   const QRect surface = context.Workspace.image().rect();
-  const PreparedPicture prepared = prepare(context.pictures, {file.path, {}, surface, false, file.identity});
+  PreparedPicture prepared;
+  try {
+    prepared = prepare(context.pictures, {file.path, {}, surface, false, file.identity});
+  } catch (const std::bad_alloc&) {
+    prepared.missing = Reason::NoPicture;
+  }
   if (prepared.missing || prepared.picture.hasAlphaChannel()) wipe();  // else it covers all
   if (prepared.missing) {
     leaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), file.path.section(u'\\', -1));

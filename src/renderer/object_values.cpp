@@ -16,7 +16,6 @@ void notePicture(const RenderContext& context, const QString& path) {
   pictures.emplace(path, platform::roughIdentityOf(path));
 }
 
-
 themefiles::SectionReader readerOf(const RenderContext& context, const QString& section) {
   const QString& file = context.state.paths.ThemeFile;
   return context.trial ? context.trial->section(section, file) : themefiles::SectionReader(section, file);
@@ -31,9 +30,7 @@ QString readValue(const RenderContext& context, const QString& section, const QS
 }
 
 ObjectSection::ObjectSection(const RenderContext& context, const QString& name)
-    : name_(name),
-      trial_(context.trial ? context.trial->valuesOf(name) : nullptr),
-      reader_(readerOf(context, name)) {}
+    : name_(name), trial_(context.trial ? context.trial->valuesOf(name) : nullptr), reader_(readerOf(context, name)) {}
 
 QString ObjectSection::Value(const QString& key, const QString& defaultValue) const {
   if (const QString* const tried = trial_ ? trial_->find(key) : nullptr) return *tried;

@@ -6,8 +6,21 @@
 #include "drawing/fitted_picture.h"
 #include "drawing/pictures.h"
 #include "drawing/surface.h"
+#include "platform/failure.h"
 
 namespace renderer {
+namespace {
+
+/// None also for a file that can't be looked at: such a picture isn't kept, and reading it tells why it isn't drawn.
+std::optional<platform::FileIdentity> identityOrNone(const QString& path) {
+  try {
+    return platform::identityOf(path);
+  } catch (const platform::Failure&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
 
 PreparedPictures::Source PreparedPictures::sourceOf(const PictureWish& wish) {
   QImage picture = drawing::LoadPicture(wish.path);
@@ -37,7 +50,7 @@ PreparedPicture PreparedPictures::fitted(Source source, const PictureWish& wish)
 
 PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   constexpr qsizetype Overhead = 512;
-  const auto file = wish.identity ? wish.identity : platform::identityOf(wish.path);
+  const auto file = wish.identity ? wish.identity : identityOrNone(wish.path);
   if (!file) return fitted(sourceOf(wish), wish);
   const Key key{*file, wish.recolouring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
   if (const PreparedPicture* const kept = kept_.object(key)) return *kept;
@@ -46,7 +59,7 @@ PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   }
   const bool settled = platform::isSettled(*file);
   Source source = sourceOf(wish);
-  const bool keeps = settled && platform::identityOf(wish.path) == file;
+  const bool keeps = settled && identityOrNone(wish.path) == file;
   if (keeps && inHand) {
     source.picture = std::move(source.picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     holdUnscaled({*file, wish.recolouring, source});

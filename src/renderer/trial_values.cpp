@@ -3,11 +3,12 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
+#include "platform/numbers.h"
 
 namespace renderer {
 
 bool TrialValues::areOf(const QString& name) const {
-  return platform::sameName(name, section);
+  return platform::sameName(platform::trimBlanks(name), section);
 }
 
 const QString* TrialValues::find(const QString& key) const {

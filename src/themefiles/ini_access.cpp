@@ -87,9 +87,9 @@ QString SectionReader::Value(const QString& Key, const QString& Default) const {
 
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName) {
   try {
-    const auto old = platform::readIfThere(FileName);
-    const auto changed = changedText(old.value_or(QByteArray()), Section, Key, Value);
-    if (changed != old) platform::writeFile(FileName, changed);
+    const QByteArray text = platform::readIfThere(FileName).value_or(QByteArray());
+    const QByteArray changed = changedText(text, Section, Key, Value);
+    if (changed != text) platform::writeFile(FileName, changed);
   } catch (const platform::Failure&) {
     // By its contract; putINIChecked reports.
   }
@@ -97,9 +97,9 @@ void PutINI(const QString& Section, const QString& Key, const std::optional<QStr
 
 void putINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
                    const QString& FileName) {
-  const auto old = platform::readIfThere(FileName);
-  const QByteArray changed = changedText(old.value_or(QByteArray()), Section, Key, Value);
-  if (changed != old) platform::writeFile(FileName, changed);
+  const QByteArray text = platform::readIfThere(FileName).value_or(QByteArray());
+  const QByteArray changed = changedText(text, Section, Key, Value);
+  if (changed != text) platform::writeFile(FileName, changed);
   checkReadsBack(changed, Section, Key, FileName);
 }
 

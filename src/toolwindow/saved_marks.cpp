@@ -76,7 +76,11 @@ void showRowMenu(Form2& form, int row, const QPoint& place) {
       [=](const Form2& open) {
         return open.List1->Text() == section && themefiles::keyIdentity(open.ListView1->rowText(row)) == key;
       },
-      [=](Form2& open) { putSavedBack(open, row, *saved); });
+      [=](Form2& open) {
+        // A Save that ran while the menu was open has changed what is saved.
+        const auto now = SavedState(open.services.state).of(section, key, group);
+        if (now && !now->lines.empty()) putSavedBack(open, row, *now);
+      });
 }
 
 void showColorMenu(Form2& form, const QPoint& place) {
@@ -85,7 +89,10 @@ void showColorMenu(Form2& form, const QPoint& place) {
   const QString name = form.Combo3->Text();
   popUp(
       form, place, [=](const Form2& open) { return open.Combo3->Text() == name; },
-      [=](Form2& open) { putSavedColorBack(open, name, *saved); });
+      [=](Form2& open) {
+        const auto now = savedColor(open);
+        if (now && !now->lines.empty()) putSavedColorBack(open, name, *now);
+      });
 }
 
 }  // namespace toolwindow

@@ -7,6 +7,7 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/list_view.h"
+#include "controls/shown_text.h"
 #include "controls/text_box.h"
 #include "controls/work_queue.h"
 #include "platform/failure.h"
@@ -34,6 +35,13 @@ void checkSection(const QString& section) {
   if (section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
   if (section.contains(u']') || section.startsWith(u'\t') || section.endsWith(u'\t')) {
     throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(section));
+  }
+}
+
+/// Throws platform::Failure for a row whose value is shown cut: no editor has it.
+void checkEditable(const Form2& form, int row) {
+  if (form.ListView1->subItem(row).size() > controls::LongestText) {
+    throw platform::Failure(tooLongText(form.ListView1->rowText(row)));
   }
 }
 
@@ -136,20 +144,21 @@ QString assignment(const QString& key, const QString& value) {
   return key + QStringLiteral(" = ") + value;
 }
 
-/// Runs a commit. A failure is reported and leaves out the steps behind it.
-void runCommit(Form2& form, const std::function<void()>& commit) {
+/// Runs a commit. A failure is reported and leaves out the steps behind it. Returns whether there was none.
+bool runCommit(Form2& form, const std::function<void()>& commit) {
   const ToolServices& services = form.services;
   const auto telling = std::make_shared<platform::Telling>(services.status);
-  platform::guarded(services.status, WriteStep.toString(), commit);
+  const bool done = platform::guarded(services.status, WriteStep.toString(), commit);
   form.markLater();
   // Keeps the notes until a drawing that waits has run, so that both are reported together.
   services.queue.runOutside([telling] {});
+  return done;
 }
 
-/// A commit into a row of the grid: writes by `write`, and does all that follows.
-void commitRow(Form2& form, int row, const std::function<void(const Commit& commit)>& write) {
+/// A commit into a row of the grid: writes by `write`, and does all that follows. Returns whether it succeeded.
+bool commitRow(Form2& form, int row, const std::function<void(const Commit& commit)>& write) {
   form.services.settleHand();
-  runCommit(form, [&] {
+  return runCommit(form, [&] {
     const Commit commit = commitOf(form, row);
     write(commit);
     const QString key = platform::trimBlanks(form.ListView1->rowText(row));
@@ -183,7 +192,9 @@ void showValue(Form2& form, const QString& key, const QString& value) {
 void Command1_Click(Form2& form) {
   commitRow(form, form.ListView1->selectedRow(), [&](const Commit& commit) {
     const auto group = themefiles::groupOf(commit.key);
-    if (group) writeEditor(form, commit, *group);
+    if (!group) return;
+    checkEditable(form, commit.row);
+    writeEditor(form, commit, *group);
   });
 }
 
@@ -207,15 +218,16 @@ bool commitValues(Form2& form, const QString& section, const std::vector<std::pa
 }
 
 void putSavedBack(Form2& form, int row, const SavedValue& saved) {
-  commitRow(form, row, [&](const Commit& commit) {
-    const ToolServices& services = form.services;
+  const ToolServices& services = form.services;
+  const bool done = commitRow(form, row, [&](const Commit& commit) {
     for (const SavedLine& line : saved.lines) {
       themefiles::putLineInCopy(services.state, line.copy, line.section, line.key, line.line, services.status);
     }
     form.ListView1->setSubItem(row, saved.value);
     updateCursorRect(services.state.CursorRect, commit.key, saved.value);
-    if (services.state.EditorShown && form.ListView1->selectedRow() == row) ListView1_ItemClick(form, row);
   });
+  // Behind the report of the commit: a value that no editor can show is reported, too.
+  if (done && services.state.EditorShown && form.ListView1->selectedRow() == row) ListView1_ItemClick(form, row);
 }
 
 }  // namespace toolwindow

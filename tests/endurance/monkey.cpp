@@ -27,10 +27,10 @@ constexpr std::array<const char*, 14> Refusals{"Color already exist!",
                                                "Error while saving files [",
                                                "Error while saving temporary files ["};
 /// Commands, answers of dialogs, editor frames, and what the hand on the preview did.
-constexpr std::array<const char*, 25> Others{"Open",      "Save",      "Close",   "Background",  "end",    "a yes",
-                                             "no yes",    "ok",        "a name",  "no name",     "a file", "no file",
-                                             "a colour",  "no colour", "open",    "cancel",      "Color",  "Numbers",
-                                             "Selection", "Texts",     "Texture", "FloatNumbers", "moved", "sized", "given up"};
+constexpr std::array<const char*, 25> Others{
+    "Open",      "Save",   "Close",   "Background",   "end",       "a yes", "no yes",  "ok",    "a name",
+    "no name",   "a file", "no file", "a colour",     "no colour", "open",  "cancel",  "Color", "Numbers",
+    "Selection", "Texts",  "Texture", "FloatNumbers", "moved",     "sized", "given up"};
 
 const QString Crowd = u"Themes/A crowd.ini"_s;
 

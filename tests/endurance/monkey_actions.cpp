@@ -134,10 +134,10 @@ void Monkey::drag() {
     support::moveMouse(preview, place += QPoint(chance_.below(40) - 15, chance_.below(40) - 15));
     if (chance_.one(3)) QTest::qWait(20);
   }
-  const std::array<std::function<void()>, 5> ends{
-      [&] { key(preview, Qt::Key_Escape); }, [&] { QTest::mouseClick(&preview, Qt::RightButton, {}, place); },
-      [] { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); }, [this] { shortcut(); },
-      [this] { resize(); }};
+  const std::array<std::function<void()>, 5> ends{[&] { key(preview, Qt::Key_Escape); },
+                                                  [&] { QTest::mouseClick(&preview, Qt::RightButton, {}, place); },
+                                                  [] { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); },
+                                                  [this] { shortcut(); }, [this] { resize(); }};
   if (chance_.one(3)) {
     ++counts_[u"given up"_s];
     chance_.of(ends)();

@@ -256,6 +256,26 @@ class OpenThemeTest : public QObject {
     settle();
     QCOMPARE(program.tools().List1->Text(), u"LoadingTextFree"_s);
     QCOMPARE(program.picture().pixelColor(90, 80), QColor(Qt::green));
+    // On a screen that is coming up the selected button is still that of the screen before.
+    program.form.Combo2->setCurrentIndex(1);
+    Q_EMIT program.form.Combo2->Click(controls::Cause::User);
+    program.screen(u"Main Screen"_s);
+    bool pressed = false;
+    connect(&program.form.queue(), &controls::WorkQueue::yielding, this, [&] {
+      if (!std::exchange(pressed, true)) QTest::keyClick(&program.form, Qt::Key_F5);
+    });
+    program.screen(u"Loading Screen"_s);
+    QVERIFY(pressed);
+    QCOMPARE(program.state.SelectedButton, 1);
+  }
+
+  void folderThatCantBeKept() {
+    const GameFolder game;
+    Program program(game, false);
+    QFile::setPermissions(program.settings.filePath(u"config.ini"_s), QFile::ReadOwner);
+    program.dialogs.files = {game.path() + u"Vocora.exe"_s};
+    program.open();
+    QVERIFY(program.status().startsWith(u"The game folder can't be kept in config.ini ["_s));
   }
 
   void commandLine() {

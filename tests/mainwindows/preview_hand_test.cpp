@@ -151,15 +151,18 @@ class PreviewHandTest : public ProgramTest {
     });
     add("lost grab", [](Program& p) { moveMouse(*p.form.Workspace, Inside, Qt::NoButton); });
     add("another program", [](Program&) { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); });
-    add("Alt+Tab", [](Program& p) { 
+    add("Alt+Tab", [](Program& p) {
       p.tools().activateWindow();
       QTRY_COMPARE(QApplication::activeWindow(), &p.tools());
     });
     add("dialog", [](Program& p) { p.openDialog([](mainwindows::Form3& dialog) { dialog.reject(); }); });
     add("drawing", [](Program& p) { p.form.queue().draw(); });
-    add("another screen", [](Program& p) { p.screen(u"Main Screen"_s); }, true);
-    add("Close", [](Program& p) { p.click(3); }, true);
-    add("end", [](Program& p) { p.form.close(); }, true);
+    add(
+        "another screen", [](Program& p) { p.screen(u"Main Screen"_s); }, true);
+    add(
+        "Close", [](Program& p) { p.click(3); }, true);
+    add(
+        "end", [](Program& p) { p.form.close(); }, true);
   }
   void givenUp() {
     QFETCH(Ending, ending);
