@@ -38,6 +38,7 @@ function comparePicture(    room, count, targets, i, pair, ends) {
     count = split(arrows[room], targets, " ")
     for (i = 1; i <= count; ++i) {
       if (!((room, targets[i]) in drawn)) say("the picture of the rooms lacks " room " --> " targets[i])
+      if (!((room, targets[i]) in used)) say("nothing in " room " includes " targets[i] ", which the build lets it use")
       delete drawn[room, targets[i]]
     }
   }
@@ -87,6 +88,7 @@ FNR == 1 {
   target = header
   sub(/\/.*/, "", target)
   if (!(target in isRoom)) next  # a tool's own folder
+  used[room, target] = 1
   if (room != "" && !((room, target) in allowed)) complain("no arrow leads from " room " to " target ": " header)
   if (target == "app") complain("nothing includes app: " header)
   if (part == "src") addEdge(unit(FILENAME), unit("src/" header), FILENAME ":" FNR)

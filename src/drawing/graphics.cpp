@@ -24,8 +24,4 @@ void Graphics::drawImage(const QImage& picture, int x, int y) {
   if (surface_) surface_->drawImage(picture, x, y);
 }
 
-void Graphics::drawImageRect(const QImage& picture, int x, int y, int w, int h) {
-  if (surface_) surface_->drawImageRect(picture, x, y, w, h);
-}
-
 }  // namespace drawing

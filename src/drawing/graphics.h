@@ -24,8 +24,6 @@ class Graphics {
   bool created() const { return surface_ != nullptr; }
   /// Draws the picture at its own size. Draws nothing without a drawing object.
   void drawImage(const QImage& picture, int x, int y);
-  /// Draws the picture scaled to the rectangle.
-  void drawImageRect(const QImage& picture, int x, int y, int w, int h);
 
  private:
   Surface* surface_ = nullptr;

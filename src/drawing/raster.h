@@ -10,7 +10,7 @@ class QPainter;
 
 namespace drawing {
 
-/// The opaque pixels of a control that draws itself. Right and bottom edges don't belong to a shape; edges in the wrong
+/// The pixels of a control that draws itself. Right and bottom edges don't belong to a shape; edges in the wrong
 /// order are swapped; drawing is cut off at the raster's edges.
 class Raster {
  public:

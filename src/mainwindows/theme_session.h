@@ -4,7 +4,7 @@ namespace mainwindows {
 
 class Form1;
 
-// The four commands of the toolbar, as far as they concern windows.
+// The commands that open, save and close a theme, as far as they concern windows.
 
 /// Finds the game folder, asks for theme, skin and language, makes the working copies, and brings the theme up: tool
 /// window, colours, first screen. With a theme open that has changes it asks first. Cancel anywhere leaves all as it

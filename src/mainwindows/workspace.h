@@ -32,7 +32,6 @@ class Workspace : public QWidget, public renderer::CursorMark {
 
   /// Shows a label beside a pixel of the surface and tells its text to assistive programs. An empty text hides it.
   void setHandLabel(const QString& text, const QPoint& place = {});
-  const QString& handLabel() const { return handLabel_; }
 
   /// The mark as it stands, in pixels of the surface.
   const QRectF& mark() const { return mark_; }

@@ -23,7 +23,6 @@ class ByteCursor {
   quint8 byte() { return number<quint8>(qFromLittleEndian<quint8>); }
   quint16 little16() { return number<quint16>(qFromLittleEndian<quint16>); }
   quint32 little32() { return number<quint32>(qFromLittleEndian<quint32>); }
-  quint16 big16() { return number<quint16>(qFromBigEndian<quint16>); }
   quint32 big32() { return number<quint32>(qFromBigEndian<quint32>); }
 
  private:

@@ -10,8 +10,8 @@
 
 namespace toolbar {
 
-/// Breaks the caption into lines narrower than `maxWidth`, as measured by `textWidth`. A line may break before any
-/// character except a letter or "_". Only blanks at the ends of lines are lost.
+/// Breaks the caption into lines that `textWidth` measures as narrower than `maxWidth`; a last line may be as wide. A
+/// line may break before any character except a letter or "_". Only blanks and line ends at the breaks are lost.
 QStringList WrapCaption(const QString& caption, int maxWidth, const std::function<int(const QString&)>& textWidth);
 
 /// Draws the caption in lines, centred in the box. With a `shift` of 1 it is half a line higher, with -1 half a line

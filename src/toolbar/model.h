@@ -67,8 +67,7 @@ class Model {
   /// Swaps the two buttons.
   void MoveButtonTo(int ButtonIndex, int NewIndex);
 
-  // The same for the button Button_Index, as properties that can only be written. Reading them gives WriteOnly.
-  static constexpr int WriteOnly = -1;
+  // The same for the button Button_Index, as properties that can only be written.
   /// 1 removes the button. Any other value does nothing.
   void SetButtonRemove(int value);
   void SetButtonMoveTo(int index);
