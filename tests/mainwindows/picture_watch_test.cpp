@@ -1,5 +1,7 @@
 #include "mainwindows/picture_watch.h"
 
+#include <QBuffer>
+
 #include "mainwindows/preview_hand.h"
 #include "support/windows.h"
 
@@ -41,16 +43,16 @@ class PictureWatchTest : public ProgramTest {
     queue.draw();
     draws_ = 0;
   }
-  QColor shown() const { return program->picture().pixelColor(90, 80); }
-  bool shows(Qt::GlobalColor color) const { return shown() == QColor(color); }
-  /// A picture of one colour, as the bytes of its file.
-  QByteArray picture(Qt::GlobalColor color) const {
-    game->addPicture("made.png", QColor(color));
-    return game->get(u"Skins/Alpha/made.png"_s);
+  bool shows(Qt::GlobalColor color) const { return program->picture().pixelColor(90, 80) == QColor(color); }
+  /// Writes a picture of one colour.
+  void put(const QString& name, Qt::GlobalColor color) const {
+    QBuffer file;
+    if (!plainPicture(4, 4, QColor(color).rgba()).save(&file, "PNG")) qFatal("can't make a picture");
+    game->put(name, file.data());
   }
-  void put(const QString& name, Qt::GlobalColor color) const { game->put(name, picture(color)); }
-  void renameOver(const QString& from, const QString& to) const {
-    std::filesystem::rename(game->native(from).toStdString(), game->native(to).toStdString());
+  void renameOver(const QString& name, Qt::GlobalColor color) const {
+    put(u"new"_s, color);
+    std::filesystem::rename(game->native(u"new"_s).toStdString(), game->native(name).toStdString());
   }
 
  private Q_SLOTS:
@@ -59,22 +61,18 @@ class PictureWatchTest : public ProgramTest {
     QTest::addColumn<QByteArray>("file");
     QTest::addColumn<Change>("change");
     QTest::newRow("written in place") << "plate.png"_ba << Change([this] { put(Plate, Qt::green); });
-    QTest::newRow("renamed over") << "plate.png"_ba << Change([this] {
-      put(u"Skins/Alpha/new"_s, Qt::green);
-      renameOver(u"Skins/Alpha/new"_s, Plate);
-    });
+    QTest::newRow("renamed over") << "plate.png"_ba << Change([this] { renameOver(Plate, Qt::green); });
     QTest::newRow("deleted and written anew") << "plate.png"_ba << Change([this] {
-      const QByteArray green = picture(Qt::green);
       QFile::remove(game->native(Plate));
       QTRY_VERIFY(!shows(Qt::blue));
-      game->put(Plate, green);
+      put(Plate, Qt::green);
     });
     QTest::newRow("appears") << "none.png"_ba << Change([this] { put(u"Skins/Alpha/None.PNG"_s, Qt::green); });
     QTest::newRow("its folder appears") << "deep\\er\\a.png"_ba << Change([this] {
-      QDir(game->native(u"Skins/Alpha"_s)).mkdir(u"deep"_s);
-      QTest::qWait(200);  // the watch has come to rest without the picture
-      QDir(game->native(u"Skins/Alpha"_s)).mkdir(u"deep/er"_s);
-      QTest::qWait(200);
+      for (const QString& folder : {u"Skins/Alpha/deep"_s, u"Skins/Alpha/deep/er"_s}) {
+        QDir().mkdir(game->native(folder));
+        QTest::qWait(200);  // the watch has come to rest without the picture
+      }
       put(u"Skins/Alpha/deep/er/a.png"_s, Qt::green);
     });
   }
@@ -86,19 +84,17 @@ class PictureWatchTest : public ProgramTest {
     use(file);
     change();
     QTRY_VERIFY(shows(Qt::green));
-    put(u"Skins/Alpha/next"_s, Qt::red);
-    const QString now = file == "none.png" ? u"Skins/Alpha/None.PNG"_s : u"Skins/Alpha/"_s + QLatin1StringView(file);
-    renameOver(u"Skins/Alpha/next"_s, QString(now).replace(u'\\', u'/'));
+    const QString now = u"Skins/Alpha/"_s + QLatin1StringView(file == "none.png" ? "None.PNG"_ba : file);
+    put(platform::nativePath(now), Qt::red);
     QTRY_VERIFY(shows(Qt::red));
   }
 
   void burst() {
-    const QByteArray blue = picture(Qt::blue), green = picture(Qt::green);
     use("plate.png");
     QElapsedTimer clock;
     clock.start();
     for (int i = 0; i < 100; ++i) {
-      game->put(Plate, i < 99 ? blue : green);
+      put(Plate, i < 99 ? Qt::blue : Qt::green);
       QCoreApplication::processEvents();
     }
     const qint64 rests = clock.elapsed() / 100;  // on a machine that halts now and then
@@ -149,18 +145,19 @@ class PictureWatchTest : public ProgramTest {
     put(Plate, Qt::blue);
     use("plate.png");
     for (const bool told : {false, true}) {
+      const auto color = told ? Qt::blue : Qt::green;
       draws_ = 0;
       watch().letGo();
       QObject life;
       connect(&form().queue(), &controls::WorkQueue::yielding, &life, [&] {
-        if (draws_ > 1 || form().account().pictures.size() < 2 || shows(told ? Qt::blue : Qt::green)) return;
-        put(Plate, told ? Qt::blue : Qt::green);
+        if (draws_ > 1 || form().account().pictures.size() < 2 || shows(color)) return;
+        put(Plate, color);
         if (told) watch().look();
       });
       form().queue().draw();
       QVERIFY2(draws_ == 1, "nothing nests, and the running one isn't begun again");
       QTRY_COMPARE(draws_, 2);
-      QVERIFY(shows(told ? Qt::blue : Qt::green));
+      QVERIFY(shows(color));
     }
   }
 
