@@ -194,7 +194,8 @@ PreviewHand::Selected PreviewHand::selectedAt(const QPoint& place) const {
   }
   // An object that isn't drawn can be sized by its mark, unless that is a line under a text.
   const themefiles::CursorRecord& record = form_.services.state.CursorRect;
-  if (record.W.isEmpty() && record.H.isEmpty()) return selected;
+  const bool isText = platform::upperCase(name).contains(u"TEXT");
+  if (isText && record.W.isEmpty() && record.H.isEmpty()) return selected;
   selected.heightKey = QStringLiteral("H");
   if (marked) selected.place = mark;
   return selected;

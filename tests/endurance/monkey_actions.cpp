@@ -106,8 +106,10 @@ void Monkey::type(QLineEdit& box) {
   if (!chance_.one(3)) key(box, Qt::Key_Return);
 }
 
-/// Arrow keys on the preview, or a drag.
+/// Arrow keys on the preview, or a drag; mostly with an object that is drawn.
 void Monkey::gesture() {
+  if (!chance_.one(4)) click(*form().Workspace, {chance_.below(800), chance_.below(600)});
+  if (form().toolWindow() == nullptr) return;
   chance_.one(2) ? arrowKeys() : drag();
   const QString status = form().StatusBar->panel(1);
   counts_[u"moved"_s] += status.contains(u": X = "_s) || status.contains(u": Y = "_s);
@@ -116,10 +118,10 @@ void Monkey::gesture() {
 
 void Monkey::arrowKeys() {
   constexpr std::array Keys{Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down};
-  const auto with = chance_.of(std::array{Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier});
+  const auto with = chance_.of(std::array{Qt::ShiftModifier, Qt::NoModifier, Qt::ControlModifier, Qt::ControlModifier});
   for (int i = chance_.below(4); i >= 0; --i) key(*form().Workspace, chance_.of(Keys), with);
   if (chance_.one(6)) key(*form().Workspace, Qt::Key_Escape);
-  if (chance_.one(2)) Q_EMIT form().settling();
+  if (!chance_.one(4)) Q_EMIT form().settling();
 }
 
 /// A drag that ends in any way, or never.
