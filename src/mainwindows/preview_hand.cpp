@@ -66,7 +66,11 @@ PreviewHand::PreviewHand(Form1& form) : QObject(&form), form_(form), pacer_([thi
 }
 
 void PreviewHand::settle() {
-  stage_ == Stage::Keys ? commit() : giveUpDrag();
+  if (stage_ == Stage::Keys) {
+    commit();
+  } else {
+    giveUpDrag();
+  }
 }
 
 void PreviewHand::giveUpDrag() {

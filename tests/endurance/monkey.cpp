@@ -40,8 +40,8 @@ QByteArray crowdedTheme() {
   for (int i = 0; i < 100; ++i) theme += "C" + QByteArray::number(i) + "=1 2 3\r\n";
   for (const QByteArray screen : {"Loading", "Main"}) {
     theme += "[" + screen + "]\r\n[" + screen + "Static]x]\r\nX=1\r\nFont=40000\r\n[" + screen +
-             "StaticA]\r\nTex=Plate\r\nX=1\r\nY=1\r\nW=90\r\nH=60\r\nZ=0.5\r\nColor=C5\r\nDColor=C6\r\nTColor=C7\r\n[" + screen +
-             "TextA]\r\nX=1\r\nAlign=1\r\nText=OKAY\r\nColor=C8\r\n";
+             "StaticA]\r\nTex=Plate\r\nX=1\r\nY=1\r\nW=90\r\nH=60\r\nZ=0.5\r\nColor=C5\r\nDColor=C6\r\nTColor=C7\r\n[" +
+             screen + "TextA]\r\nX=1\r\nAlign=1\r\nText=OKAY\r\nColor=C8\r\n";
   }
   return theme;
 }

@@ -36,7 +36,11 @@ void Monkey::answerOpenDialog() {
   auto* dialog = qobject_cast<mainwindows::Form3*>(QApplication::activeModalWidget());
   if (dialog == nullptr) return;
   if (chance_.one(200)) return static_cast<void>(form().close());
-  chance_.one(3) ? key(*dialog, chance_.one(9) ? Qt::Key_Escape : Qt::Key_Return) : touch(*dialog);
+  if (chance_.one(3)) {
+    key(*dialog, chance_.one(9) ? Qt::Key_Escape : Qt::Key_Return);
+  } else {
+    touch(*dialog);
+  }
   if (dialog->isVisible()) return;
   ++counts_[dialog->result() == QDialog::Accepted ? u"open"_s : u"cancel"_s];
   readStatus();
@@ -110,7 +114,11 @@ void Monkey::type(QLineEdit& box) {
 void Monkey::gesture() {
   if (!chance_.one(4)) click(*form().Workspace, {chance_.below(800), chance_.below(600)});
   if (form().toolWindow() == nullptr) return;
-  chance_.one(2) ? arrowKeys() : drag();
+  if (chance_.one(2)) {
+    arrowKeys();
+  } else {
+    drag();
+  }
   const QString status = form().StatusBar->panel(1);
   counts_[u"moved"_s] += status.contains(u": X = "_s) || status.contains(u": Y = "_s);
   counts_[u"sized"_s] += status.contains(u"W = "_s) || status.contains(u"H = "_s);

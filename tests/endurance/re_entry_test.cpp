@@ -173,7 +173,11 @@ Run run(const Order& wishes, bool choice, bool single, const std::vector<int>& a
           &life, [&makeOne, wish = wishes[i]] { makeOne(wish); }, Qt::QueuedConnection);
     }
   });
-  choice ? program.screen(u"Loading Screen"_s) : program.form.queue().draw();
+  if (choice) {
+    program.screen(u"Loading Screen"_s);
+  } else {
+    program.form.queue().draw();
+  }
   settle();
   result.reached = made == wishes.size();
   result.single = single;
