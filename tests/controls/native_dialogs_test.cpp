@@ -4,6 +4,8 @@
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
@@ -83,6 +85,14 @@ class NativeDialogsTest : public QObject {
     });
     QCOMPARE(NativeDialogs().openFile(nullptr, {{}, u"Pictures|*.png"_s, {}, folder.path({}), true}), QString());
     QCOMPARE(narrow, QStringList());
+  }
+
+  void inputBoxGivesWhatWasTyped() {
+    whenShown<QInputDialog>([](QInputDialog& dialog) {
+      QTest::keyClicks(dialog.findChild<QLineEdit*>(), u"  A &b "_s);
+      QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    QCOMPARE(NativeDialogs().inputBox(nullptr, u"Name:"_s, u"Title"_s), u"  A &b "_s);
   }
 
   void colorOpensOnThePresentOne() {

@@ -4,6 +4,7 @@
 #include <QColorSpace>
 #include <QImageWriter>
 #include <QTest>
+#include <QtEndian>
 
 #include "support/folder.h"
 #include "support/pictures.h"
@@ -83,6 +84,10 @@ class PicturesTest : public QObject {
     // Camera data that asks for a quarter turn.
     jpeg.insert(2, QByteArray::fromHex("FFE10022457869660000 4D4D002A000000080001011200030000000100060000 00000000"));
     QCOMPARE(decodePicture(jpeg).size(), image.size());
+    // A bitmap whose rows are stored from top to bottom.
+    QByteArray bitmap = encoded(sample(QImage::Format_RGB32), "bmp");
+    qToLittleEndian<qint32>(-17, bitmap.data() + 22);
+    QCOMPARE(decodePicture(bitmap), sample(QImage::Format_RGB32).mirrored().convertToFormat(QImage::Format_ARGB32));
     for (const auto format : {QImage::Format_RGB32, QImage::Format_Grayscale8}) {
       for (const bool inPasses : {false, true}) {
         QByteArray file = encoded(sample(format), "jpeg", inPasses);

@@ -84,6 +84,8 @@ class PropertyBagTest : public QObject {
   // Red, green and a clear pixel.
   void iconDepths() {
     const std::pair<const char*, const char*> rows[] = {
+        {"0100", "00000000 00000000 0000ff00 00ff0000 40000000 20000000"},
+        {"1800", "00000000 00000000 0000ff 00ff00 0000ff 000000 20000000"},
         {"0400", "03000000 00000000 00000000 0000ff00 00ff0000 12100000 20000000"},
         {"2000", "00000000 00000000 0000ff00 00ff0000 0000ff00 20000000"},
     };

@@ -100,12 +100,13 @@ class RenderStepsTest : public QObject {
     compare("SelectH=-1|X=40|W=5|", QRect(40, 100, 8, 4));
     for (const char* keys : {"Color=|", "TYPE=Font Black|Tex=Black|INT=9|"}) compare(keys, {});
     compare("Visible=0|", {}, 2, 2);
-    for (const char* keys : {"Tex=|", "H=40000|"}) compare(keys, {}, 3, 2);
+    for (const char* keys : {"Tex=|", "H=40000|", "SelectH=40000|"}) compare(keys, {}, 3, 2);
   }
 
   void childTexts() {
     // The last button has a text of its own where the first one has fewer than three.
     QCOMPARE(topsOfTexts("TEXTS=3|"), (QList<int>{10, 30, 2000}));
+    QCOMPARE(topsOfTexts("TEXTS=40000|"), (QList<int>{2000}));
     // A grown button shifts the next text that is drawn, its own or another's.
     QCOMPARE(topsOfTexts("TEXTS=3|SelectH=60|"), (QList<int>{30, 30, 2000}));
     QCOMPARE(topsOfTexts("SelectH=60|"), (QList<int>{2020}));
