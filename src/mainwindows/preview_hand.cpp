@@ -30,7 +30,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int DragDistance = 4;  // pixels either way
-constexpr auto RestTime = 333ms;
+constexpr auto KeysRestTime = 333ms;
 constexpr int LongStep = 10;
 constexpr Grip SizingKeys{1, 1};  // Ctrl and an arrow
 
@@ -56,7 +56,7 @@ QPoint held(const QPoint& movement) {
 PreviewHand::PreviewHand(Form1& form) : QObject(&form), form_(form), pacer_([this] { showFrame(); }) {
   form.Workspace->installEventFilter(this);
   rest_.setSingleShot(true);
-  rest_.setInterval(RestTime);
+  rest_.setInterval(KeysRestTime);
   rest_.callOnTimeout([this] {
     if (heldKeys_.isEmpty()) settle();
   });
