@@ -22,12 +22,12 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 /// The picture as the render blends it.
-renderer::PreparedPicture preparedOf(const Picture& picture) {
+renderer::PreparedPicture preparedOf(const Picture& picture, renderer::PreparedPictures& store) {
   using Type = renderer::Recolouring::Type;
   const Type type = picture.type == u"COLORIZED"    ? Type::Colorized
                     : picture.type == u"FONT BLACK" ? Type::FontBlack
                                                     : Type::None;
-  return renderer::prepare(nullptr, {picture.path, {type, picture.color}, picture.place});
+  return renderer::prepare(&store, {picture.path, {type, picture.color}, picture.place});
 }
 
 }  // namespace
@@ -148,8 +148,9 @@ std::shared_ptr<SampleScreen> fullestScreen() {
 }
 
 std::function<void(drawing::Surface& surface)> blending(const SampleScreen& screen) {
+  renderer::PreparedPictures store;
   std::vector<renderer::PreparedPicture> prepared;
-  for (const Picture& picture : screen.pictures()) prepared.push_back(preparedOf(picture));
+  for (const Picture& picture : screen.pictures()) prepared.push_back(preparedOf(picture, store));
   return [prepared, texts = screen.texts()](drawing::Surface& surface) {
     for (const renderer::PreparedPicture& one : prepared) {
       surface.drawImage(one.picture, one.corner.x(), one.corner.y());

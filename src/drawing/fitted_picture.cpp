@@ -20,17 +20,6 @@ QImage made(QImage picture) {
   return picture;
 }
 
-/// The picture, as one without alpha when all of it is opaque: that is copied and not blended.
-QImage withoutIdleAlpha(QImage picture) {
-  for (int row = 0; row < picture.height(); ++row) {
-    const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(row));
-    const QRgb all = std::accumulate(pixels, pixels + picture.width(), ~QRgb(0), std::bit_and<>());
-    if (qAlpha(all) != OpaqueAlpha) return picture;
-  }
-  picture.reinterpretAsFormat(QImage::Format_RGB32);
-  return picture;
-}
-
 }  // namespace
 
 QRect partOnSurface(const QRect& target) {
@@ -45,15 +34,24 @@ QRect partOnSurface(const QRect& target) {
 QImage fittedPicture(QImage picture, const QSize& size, const QRect& part) {
   if (picture.isNull() || part.isEmpty()) return {};
   const QImage source = made(std::move(picture).convertToFormat(QImage::Format_ARGB32_Premultiplied));
-  if (source.size() == size) return withoutIdleAlpha(part == source.rect() ? source : made(source.copy(part)));
+  if (source.size() == size) return part == source.rect() ? source : made(source.copy(part));
   QImage fitted = made(QImage(part.size(), QImage::Format_ARGB32_Premultiplied));
   QPainter painter(&fitted);
   painter.setCompositionMode(QPainter::CompositionMode_Source);
   painter.setClipRect(fitted.rect());
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawImage(QRectF(-part.topLeft(), size), source);
-  painter.end();
-  return withoutIdleAlpha(std::move(fitted));
+  return fitted;
+}
+
+QImage withoutIdleAlpha(QImage picture) {
+  for (int row = 0; row < picture.height(); ++row) {
+    const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(row));
+    const QRgb all = std::accumulate(pixels, pixels + picture.width(), ~QRgb(0), std::bit_and<>());
+    if (qAlpha(all) != OpaqueAlpha) return picture;
+  }
+  picture.reinterpretAsFormat(QImage::Format_RGB32);
+  return picture;
 }
 
 }  // namespace drawing

@@ -14,4 +14,7 @@ QRect partOnSurface(const QRect& target);
 /// same as drawing the picture scaled. A picture that has this size already is only cut. Throws std::bad_alloc.
 QImage fittedPicture(QImage picture, const QSize& size, const QRect& part);
 
+/// The picture without an alpha channel if all of it is opaque: drawing it copies its pixels, which is faster.
+QImage withoutIdleAlpha(QImage picture);
+
 }  // namespace drawing

@@ -66,6 +66,7 @@ PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   }
   PreparedPicture prepared = fitted(std::move(source), wish);
   if (keeps && !inHand) {
+    prepared.picture = drawing::withoutIdleAlpha(std::move(prepared.picture));
     kept_.insert(key, new PreparedPicture(prepared), prepared.picture.sizeInBytes() + Overhead);
   }
   return prepared;

@@ -177,6 +177,8 @@ class PreviewTest : public QObject {
     };
     pickNamed(*tools().List1, "LoadingStaticRecord");
     QWidget& preview = *program->form.Workspace;
+    program->form.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &program->form);
     drag(preview, {400, 200}, {40, 25});
     expect("X=310", "X=350");
     expect("Y=110", "Y=135");
