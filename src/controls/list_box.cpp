@@ -55,7 +55,9 @@ QString ListBox::Text() const {
 }
 
 void ListBox::setRowToolTip(int index, const QString& text) {
-  if (QListWidgetItem* row = item(index)) row->setToolTip(text);
+  QListWidgetItem* row = item(index);
+  // A change of one row, even from nothing to nothing, has the list look for the row from its end.
+  if (row != nullptr && row->toolTip() != text) row->setToolTip(text);
 }
 
 void ListBox::setBold(int index, bool bold) {
