@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <numeric>
 
 #include "platform/code_page.h"
 #include "platform/profile_lines.h"
@@ -10,6 +9,24 @@
 namespace platform {
 
 using profile::KeyLines;
+
+namespace {
+
+constexpr qsizetype WordSize = sizeof(quint64);
+
+/// The first letters, at most WordSize of them, as a number that is the same in any case. Letters beyond ASCII are left
+/// out: their two cases don't differ in one bit.
+quint64 caseless(QByteArrayView letters) {
+  constexpr quint64 Every = 0x0101010101010101;
+  constexpr quint64 CaseBit = 0x20;
+  constexpr quint64 Byte = 0xFF;
+  quint64 word = 0;
+  std::memcpy(&word, letters.data(), static_cast<std::size_t>(std::min(letters.size(), WordSize)));
+  const quint64 beyondAscii = (word >> 7) & Every;
+  return word & ~(Every * CaseBit) & ~(beyondAscii * Byte);
+}
+
+}  // namespace
 
 std::optional<QByteArray> findProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
   const auto lines = findProfileSection(file, section);
@@ -48,10 +65,14 @@ bool operator==(const ProfileName& a, const ProfileName& b) {
 }
 
 size_t qHash(const ProfileName& name, size_t seed) {
-  constexpr size_t Prime = 0x100000001B3;
-  return std::accumulate(name.letters.begin(), name.letters.end(), seed, [](size_t hash, char letter) {
-    return (hash ^ static_cast<unsigned char>(upperCaseByte(letter))) * Prime;
-  });
+  constexpr quint64 Golden = 0x9E3779B97F4A7C15;  // spreads a word's low bits over its high ones
+  constexpr int Half = 32;
+  quint64 hash = seed;
+  for (QByteArrayView rest = name.letters; !rest.isEmpty(); rest = rest.sliced(std::min(rest.size(), WordSize))) {
+    hash = (hash ^ caseless(rest)) * Golden;
+    hash = (hash ^ hash >> Half) * Golden;
+  }
+  return hash ^ hash >> Half;
 }
 
 ProfileKeys profileKeys(QByteArrayView lines) {
@@ -88,8 +109,11 @@ ProfileSections::ProfileSections(QByteArrayView file) {
   ProfileName name;
   const char* lines = nullptr;
   const auto endSection = [&](const char* sectionEnd) {
-    if (lines && !sections_.contains(name)) sections_.insert(name, QByteArrayView(lines, sectionEnd));
+    if (!lines) return;
+    QByteArrayView& known = sections_[name];
+    if (known.isNull()) known = QByteArrayView(lines, sectionEnd);
   };
+  sections_.reserve(std::count(file.begin(), file.end(), '['));
   for (const char* at = file.begin(); at != end;) {
     const auto* const bracket = static_cast<const char*>(std::memchr(at, '[', end - at));
     if (!bracket) break;

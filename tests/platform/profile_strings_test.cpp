@@ -83,9 +83,9 @@ class ProfileStringsTest : public QObject {
   }
 
   void sectionsAndLines() {
-    const QByteArray file("k=0\n [ a\t]x\nk= \"v\" \nK=w\n[b\nj=1\n[A]\nk=2\n[]\ne=");
+    const QByteArray file("k=0\n [ a\t]x\nk= \"v\" \nK=w\n[b\nj=1\n[A]\nk=2\n[\xE4nd \xFFmany More\xB5]\n[]\ne=");
     const ProfileSections sections(file);
-    for (const char* name : {"A", " b", "", "a\t", "c"}) {
+    for (const char* name : {"A", " b", "", "a\t", "c", "\xC4ND \x9FMany mORE\xB5", "\xC4ND \x9FMany"}) {
       const auto found = findProfileSection(file, name);
       QCOMPARE(sections.lines(name).data(), found ? found->data() : nullptr);
     }
