@@ -10,7 +10,6 @@
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
-#include "renderer/trial_drawing.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/screen_table.h"
 #include "themefiles/tag_reader.h"
@@ -63,13 +62,6 @@ void SampleScreen::draw() {
 void SampleScreen::redraw() {
   renderer::RenderContext all = context(&store_);
   renderer::DrawScreen(all);
-}
-
-void SampleScreen::drawFrame() {
-  constexpr int Places = 400;
-  const QString section = account_.objects[account_.objects.size() / 2].section;
-  frame_ = (frame_ + 1) % Places;
-  renderer::drawTrial(context(&store_), {section, {{QStringLiteral("X"), QString::number(frame_)}}});
 }
 
 void SampleScreen::runForGap() {

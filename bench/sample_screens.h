@@ -40,8 +40,6 @@ class SampleScreen {
   void draw();
   /// Draws with the pictures kept from the times before.
   void redraw();
-  /// Draws a frame in which a picture of the middle is moved to another place than in the frame before.
-  void drawFrame();
   /// Chooses and draws once more, with an eye on the time between two yields.
   void runForGap();
   /// The longest of these times so far, in milliseconds.
@@ -75,7 +73,6 @@ class SampleScreen {
   drawing::Graphics graphics_;
   renderer::RenderAccount account_;
   renderer::PreparedPictures store_;
-  int frame_ = 0;
   double longestGap_ = 0;
 };
 

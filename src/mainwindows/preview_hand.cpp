@@ -75,7 +75,7 @@ void PreviewHand::settle() {
 
 void PreviewHand::giveUpDrag() {
   if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
-  untried_ = {};
+  trial_.reset();
   if (stage_ == Stage::Keys) pacer_.request();
 }
 
@@ -85,7 +85,7 @@ void PreviewHand::forgetPlaces() {
 
 void PreviewHand::letGo() {
   stage_ = Stage::None;
-  untried_ = {};
+  trial_.reset();
   heldKeys_.clear();
   form_.Workspace->setHandLabel({});
   form_.Workspace->unsetCursor();
@@ -258,8 +258,8 @@ void PreviewHand::showFrame() {
   if (form_.queue().busy()) return pacer_.request();
   const renderer::TrialValues values{section_, changedValues(start_, now_)};
   Workspace& preview = *form_.Workspace;
-  if (untried_.isNull()) untried_ = preview.surface().image();
-  platform::guardedSilently([&] { renderer::drawTrial(form_.renderContext(), values); });
+  if (!trial_) trial_ = Trial{preview.surface().image(), {}};
+  platform::guardedSilently([&] { renderer::drawTrial(form_.renderContext(), values, trial_->files); });
   renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, values);
   preview.Refresh();
   preview.setHandLabel(labelOf(now_, grip_), stage_ == Stage::Dragging ? mouse_ : preview.markRect().bottomRight());
@@ -289,7 +289,8 @@ void PreviewHand::giveUp() {
 void PreviewHand::restore() {
   if (form_.toolWindow() == nullptr) return;
   Workspace& preview = *form_.Workspace;
-  if (!untried_.isNull()) preview.surface().putBack(std::exchange(untried_, {}));
+  if (trial_) preview.surface().putBack(trial_->before);
+  trial_.reset();
   form_.renderContext().pictures->letGo();
   renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, {});
   preview.Refresh();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QImage>
 #include <QMouseEvent>
 #include <QObject>
@@ -9,6 +11,7 @@
 #include "controls/frame_pacer.h"
 #include "mainwindows/hand_geometry.h"
 #include "mainwindows/preview_picking.h"
+#include "renderer/trial_values.h"
 
 class QKeyEvent;
 
@@ -51,6 +54,11 @@ class PreviewHand : public QObject {
     bool under = false;  ///< whether the pixel asked for lies in it
   };
 
+  struct Trial {
+    QImage before;  ///< the picture without the values
+    renderer::TrialFiles files;
+  };
+
   bool press(const QMouseEvent& event);
   void move(const QMouseEvent& event);
   bool release(const QMouseEvent& event);
@@ -77,7 +85,7 @@ class PreviewHand : public QObject {
   Grip grip_;
   HeldNumbers start_;
   HeldNumbers now_;
-  QImage untried_;  ///< the picture without the values on trial that it shows; null when it shows none
+  std::optional<Trial> trial_;  ///< while the picture shows values on trial
   QSet<int> heldKeys_;
   QTimer rest_;  ///< runs out when the keys have rested
   controls::FramePacer pacer_;

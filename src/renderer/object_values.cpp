@@ -16,11 +16,6 @@ void notePicture(const RenderContext& context, const QString& path) {
   pictures.emplace(path, platform::roughIdentityOf(path));
 }
 
-themefiles::SectionReader readerOf(const RenderContext& context, const QString& section) {
-  const QString& file = context.state.paths.ThemeFile;
-  return context.trial ? context.trial->section(section, file) : themefiles::SectionReader(section, file);
-}
-
 }  // namespace
 
 QString readValue(const RenderContext& context, const QString& section, const QString& file, const QString& key,
@@ -30,7 +25,10 @@ QString readValue(const RenderContext& context, const QString& section, const QS
 }
 
 ObjectSection::ObjectSection(const RenderContext& context, const QString& name)
-    : name_(name), trial_(context.trial ? context.trial->valuesOf(name) : nullptr), reader_(readerOf(context, name)) {}
+    : name_(name),
+      trial_(context.trial ? context.trial->valuesOf(name) : nullptr),
+      reader_(context.trial ? context.trial->section(name, context.state.paths.ThemeFile)
+                            : itself_.emplace(name, context.state.paths.ThemeFile)) {}
 
 QString ObjectSection::Value(const QString& key, const QString& defaultValue) const {
   if (const QString* const tried = trial_ ? trial_->find(key) : nullptr) return *tried;
@@ -80,7 +78,7 @@ PictureFile texturePath(RenderContext& context, const ObjectSection& section) {
   notePicture(context, path);
   Reason why = Reason::NoFile;
   try {
-    const auto identity = platform::identityOf(path);
+    const auto identity = context.trial ? context.trial->pictureAt(path) : platform::identityOf(path);
     if (identity || platform::fileExists(path)) return {path, identity};
   } catch (const platform::Failure&) {
     why = Reason::Unseen;

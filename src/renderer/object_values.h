@@ -19,6 +19,7 @@ QString readValue(const RenderContext& context, const QString& section, const QS
 class ObjectSection {
  public:
   ObjectSection(const RenderContext& context, const QString& name);
+  Q_DISABLE_COPY_MOVE(ObjectSection)
   const QString& Name() const { return name_; }
   /// The value of a key, cut to 255 letters; the default without the key.
   QString Value(const QString& key, const QString& defaultValue = QString()) const;
@@ -29,8 +30,9 @@ class ObjectSection {
 
  private:
   QString name_;
-  const TrialValues* trial_;  ///< this object's; null for none
-  themefiles::SectionReader reader_;
+  const TrialValues* trial_;                         ///< this object's; null for none
+  std::optional<themefiles::SectionReader> itself_;  ///< read for this object alone, unless during a trial frame
+  const themefiles::SectionReader& reader_;
 };
 
 /// Enters in the account that the section is left out, the reason, and the key and value that are the cause.

@@ -27,14 +27,14 @@ class PenKeeper {
 
 }  // namespace
 
-RenderAccount drawTrial(const RenderContext& context, const TrialValues& values) {
+RenderAccount drawTrial(const RenderContext& context, const TrialValues& values, TrialFiles& files) {
   const PenKeeper pen(context.Workspace);
   if (context.account.startPen) context.Workspace.setPen(*context.account.startPen);
   themefiles::ModuleState state = context.state;
   PlainHost host(context.host.screenName(), context.host.schemeName());
   QuietStatus status;
   NoDialogs dialogs(status);
-  TrialFrame frame(values);
+  TrialFrame frame(values, files);
   RenderAccount account;
   RenderContext trial{
       state, context.tags, context.Workspace, host, status, dialogs, context.graphics, account, context.pictures,

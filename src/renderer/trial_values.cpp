@@ -17,15 +17,31 @@ const QString* TrialValues::find(const QString& key) const {
   return found == values.end() ? nullptr : &found->second;
 }
 
-const themefiles::SectionReader& TrialFrame::section(const QString& name, const QString& file) {
-  auto seen = files_.find(file);
-  if (seen == files_.end()) seen = files_.try_emplace(file, themefiles::bytesOrNone(file)).first;
-  SeenFile& all = seen->second;
+void TrialFiles::beginFrame() {
+  for (const auto& [name, file] : files_) file->isOfThisFrame = false;
+}
+
+TrialFiles::SeenFile& TrialFiles::seen(const QString& file) {
+  std::unique_ptr<SeenFile>& seen = files_[file];
+  if (seen && seen->isOfThisFrame) return *seen;
+  QByteArray bytes = themefiles::bytesOrNone(file);
+  if (!seen || seen->bytes != bytes) seen = std::make_unique<SeenFile>(std::move(bytes));
+  seen->isOfThisFrame = true;
+  return *seen;
+}
+
+const themefiles::SectionReader& TrialFiles::section(const QString& name, const QString& file) {
+  SeenFile& all = seen(file);
   const auto known = all.readers.find(name);
   if (known != all.readers.end()) return known->second;
   const auto bytes = platform::toAnsi(name);
   const QByteArrayView lines = bytes ? all.sections.lines(*bytes) : QByteArrayView();
   return all.readers.try_emplace(name, all.bytes, lines.isNull() ? std::nullopt : std::optional(lines)).first->second;
+}
+
+std::optional<platform::FileIdentity> TrialFrame::pictureAt(const QString& path) {
+  const auto seen = pictures_.constFind(path);
+  return seen != pictures_.constEnd() ? *seen : *pictures_.insert(path, platform::identityOf(path));
 }
 
 }  // namespace renderer

@@ -1,12 +1,16 @@
 #pragma once
 
 #include <map>
+#include <memory>
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
+#include "platform/file_identity.h"
 #include "platform/profile_reading.h"
 #include "themefiles/ini_access.h"
 
@@ -23,18 +27,16 @@ struct TrialValues {
   const QString* find(const QString& key) const;
 };
 
-/// What one frame of a trial sees: the values, and each file as it was when the frame first looked into it.
-class TrialFrame {
+/// The files that the frames of one trial look into. Each frame reads them anew, but what was found in a file stays
+/// found as long as its bytes are the same.
+class TrialFiles {
  public:
-  explicit TrialFrame(const TrialValues& values) : values_(values) {}
-
-  /// The values on trial in a section; null without any.
-  const TrialValues* valuesOf(const QString& section) const { return values_.areOf(section) ? &values_ : nullptr; }
-  /// A section of a file; without keys for one that isn't there or can't be read.
+  /// From here on each file is read once more, when it is first looked into.
+  void beginFrame();
+  /// A section of a file; without keys for one that isn't there or can't be read. Holds until the next frame begins.
   const themefiles::SectionReader& section(const QString& name, const QString& file);
 
  private:
-  /// A file with its sections found once: a frame asks for many values.
   struct SeenFile {
     explicit SeenFile(QByteArray all) : bytes(std::move(all)), sections(bytes) {}
     Q_DISABLE_COPY_MOVE(SeenFile)
@@ -42,10 +44,31 @@ class TrialFrame {
     QByteArray bytes;
     platform::ProfileSections sections;
     std::map<QString, themefiles::SectionReader> readers;
+    bool isOfThisFrame = true;
   };
 
+  SeenFile& seen(const QString& file);
+
+  std::map<QString, std::unique_ptr<SeenFile>> files_;
+};
+
+/// What one frame of a trial sees: the values, and each file as it was when the frame first looked into it.
+class TrialFrame {
+ public:
+  TrialFrame(const TrialValues& values, TrialFiles& files) : values_(values), files_(files) { files_.beginFrame(); }
+
+  /// The values on trial in a section; null without any.
+  const TrialValues* valuesOf(const QString& section) const { return values_.areOf(section) ? &values_ : nullptr; }
+  const themefiles::SectionReader& section(const QString& name, const QString& file) const {
+    return files_.section(name, file);
+  }
+  /// What is found at a picture's path. Throws platform::Failure if that can't be seen.
+  std::optional<platform::FileIdentity> pictureAt(const QString& path);
+
+ private:
   const TrialValues& values_;
-  std::map<QString, SeenFile> files_;
+  TrialFiles& files_;
+  QHash<QString, std::optional<platform::FileIdentity>> pictures_;
 };
 
 }  // namespace renderer

@@ -138,7 +138,8 @@ class RenderStepsTest : public QObject {
       const QStringList shown = stage.host.percents + stage.host.buttons + stage.panel.texts + stage.dialogs.asked;
       const QByteArray theme = stage.folder.get(u"theme.ini"_s);
       Mark tried, real;
-      const renderer::RenderAccount account = renderer::drawTrial(stage.context(), {section, values});
+      renderer::TrialFiles files;
+      const renderer::RenderAccount account = renderer::drawTrial(stage.context(), {section, values}, files);
       renderer::drawTrialCursor(stage.state, stage.tags, stage.surface, tried, {section, values});
       const QImage trial = stage.surface.image();
       QVERIFY(trial != before && stage.folder.get(u"theme.ini"_s) == theme);
@@ -146,7 +147,7 @@ class RenderStepsTest : public QObject {
       QVERIFY(stage.host.refreshes == 2 && stage.host.selections == 1 && !stage.host.barVisible);
       QVERIFY(stage.surface.CurrentX == 1 && stage.surface.CurrentY == 2 && stage.surface.ForeColor == Qt::red);
       QVERIFY(stage.surface.FontName() == u"Arial Black" && stage.surface.FontSize() == 33);
-      QCOMPARE(renderer::drawTrial(stage.context(), {}).objects.size(), stage.account.objects.size());
+      QCOMPARE(renderer::drawTrial(stage.context(), {}, files).objects.size(), stage.account.objects.size());
       QCOMPARE(stage.surface.image(), before);
       stage.host.yielded = nullptr;
       for (const auto& [key, value] : values) {
@@ -159,6 +160,8 @@ class RenderStepsTest : public QObject {
       stage.surface.setPen(start);
       stage.draw();
       QCOMPARE(trial, stage.surface.image());
+      renderer::drawTrial(stage.context(), {}, files);
+      QCOMPARE(stage.surface.image(), trial);  // a frame sees what was written since the one before
       renderer::DrawCursor(stage.state, stage.tags, stage.surface, real, stage.panel);
       QCOMPARE(tried.place, real.place);
       QVERIFY(std::equal(account.objects.begin(), account.objects.end(), stage.account.objects.begin(),
