@@ -2,58 +2,55 @@
 
 namespace toolbar {
 
+namespace {
+
+using Button = ToolbarButton;
+
+constexpr ButtonField Fields[] = {
+    {&Button::ButtonType, u"Button_Type", u"Button_Type", Effect::LayOut},
+    {&Button::Caption, u"ButtonCaption", u"ButtonCaption", Effect::Repaint},
+    {&Button::Enabled, u"ButtonEnabled", u"ButtonEnabled", Effect::Repaint},
+    {&Button::Icon, u"ButtonIcon", u"ButtonIcon", Effect::Repaint},
+    {&Button::IconAlignment, u"ButtonIconAllignment", u"ButtonIconAllignment", Effect::Repaint},
+    {&Button::Pressed, u"ButtonPressed", u"ButtonPressed", Effect::Repaint},
+    {&Button::ToolTipText, u"ButtonToolTip", u"ButtonToolTipText", Effect::None},
+    {&Button::ToolTipIcon, u"ButtonToolTipIcon", u"ButtonToolTipIcon", Effect::None},
+};
+
+/// The row of a field; null for an unknown number.
+const ButtonField* fieldOf(int propertyID) {
+  const bool known = propertyID >= 0 && propertyID < static_cast<int>(std::size(Fields));
+  return known ? &Fields[propertyID] : nullptr;
+}
+
+void assign(int& member, const QVariant& value) {
+  member = value.toInt();
+}
+void assign(bool& member, const QVariant& value) {
+  member = value.toBool();
+}
+void assign(QString& member, const QVariant& value) {
+  member = value.toString();
+}
+void assign(PictureReference& member, const QVariant& value) {
+  member = pictureOf(value);
+}
+
+}  // namespace
+
+std::span<const ButtonField> buttonFields() {
+  return Fields;
+}
+
 void SetValue(ToolbarButton& button, int propertyID, const QVariant& value) {
-  switch (propertyID) {
-    case ButtonTypeProperty:
-      button.ButtonType = value.toInt();
-      break;
-    case CaptionProperty:
-      button.Caption = value.toString();
-      break;
-    case EnabledProperty:
-      button.Enabled = value.toBool();
-      break;
-    case IconProperty:
-      button.Icon = pictureOf(value);
-      break;
-    case IconAlignmentProperty:
-      button.IconAlignment = value.toInt();
-      break;
-    case PressedProperty:
-      button.Pressed = value.toBool();
-      break;
-    case ToolTipTextProperty:
-      button.ToolTipText = value.toString();
-      break;
-    case ToolTipIconProperty:
-      button.ToolTipIcon = value.toInt();
-      break;
-    default:
-      break;
-  }
+  const ButtonField* const field = fieldOf(propertyID);
+  if (field != nullptr) std::visit([&](const auto member) { assign(button.*member, value); }, field->member);
 }
 
 QVariant getValue(const ToolbarButton& button, int propertyID) {
-  switch (propertyID) {
-    case ButtonTypeProperty:
-      return button.ButtonType;
-    case CaptionProperty:
-      return button.Caption;
-    case EnabledProperty:
-      return button.Enabled;
-    case IconProperty:
-      return QVariant::fromValue(button.Icon);
-    case IconAlignmentProperty:
-      return button.IconAlignment;
-    case PressedProperty:
-      return button.Pressed;
-    case ToolTipTextProperty:
-      return button.ToolTipText;
-    case ToolTipIconProperty:
-      return button.ToolTipIcon;
-    default:
-      return {};
-  }
+  const ButtonField* const field = fieldOf(propertyID);
+  if (field == nullptr) return {};
+  return std::visit([&](const auto member) { return QVariant::fromValue(button.*member); }, field->member);
 }
 
 }  // namespace toolbar

@@ -1,7 +1,12 @@
 #pragma once
 
+#include <span>
+#include <variant>
+
+#include <QStringView>
 #include <QVariant>
 
+#include "toolbar/properties.h"
 #include "toolbar/toolbar_button.h"
 
 namespace toolbar {
@@ -17,6 +22,17 @@ enum PropertyID {
   ToolTipTextProperty = 6,
   ToolTipIconProperty = 7,
 };
+
+struct ButtonField {
+  std::variant<int ToolbarButton::*, bool ToolbarButton::*, QString ToolbarButton::*, PictureReference ToolbarButton::*>
+      member;
+  QStringView property;  ///< its name as a property of the toolbar, whose current button it belongs to
+  QStringView stem;      ///< its name in the stored form; the button's number follows
+  Effect onWrite;        ///< as a property of the toolbar
+};
+
+/// All fields, by PropertyID.
+std::span<const ButtonField> buttonFields();
 
 /// Converts the value to the field's type and stores it. An unknown number stores nothing. An icon may be a
 /// PictureReference, QIcon, QPixmap or QImage.

@@ -11,17 +11,6 @@ ToolbarButton blank() {
   return {QString(), nullptr, false, 0, QString(), 0, false, 0};
 }
 
-/// A field of the current button, as a property of the toolbar.
-struct FieldRow {
-  QStringView name;
-  Effect onWrite;
-};
-constexpr FieldRow Fields[] = {
-    {u"Button_Type", Effect::LayOut}, {u"ButtonCaption", Effect::Repaint},        {u"ButtonEnabled", Effect::Repaint},
-    {u"ButtonIcon", Effect::Repaint}, {u"ButtonIconAllignment", Effect::Repaint}, {u"ButtonPressed", Effect::Repaint},
-    {u"ButtonToolTip", Effect::None}, {u"ButtonToolTipIcon", Effect::None},
-};
-
 }  // namespace
 
 Model::Model(ModelView& view, const QFont& ambientFont) : view_(view), entries_(1) {
@@ -71,8 +60,9 @@ QVariant Model::currentValue(PropertyID field) const {
 void Model::setCurrentValue(PropertyID field, const QVariant& value) {
   if (index_ < 1) return;
   SetValue(entry(index_).button, field, value);
-  view_.PropertyChanged(Fields[field].name);
-  view_.react(Fields[field].onWrite);
+  const ButtonField& row = buttonFields()[field];
+  view_.PropertyChanged(row.property);
+  view_.react(row.onWrite);
 }
 
 QVariant Model::GetButtonValue(int ButtonIndex, int PropertyID) const {

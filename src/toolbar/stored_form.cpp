@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "propertybag/stored_values.h"
+#include "toolbar/button_values.h"
 
 namespace toolbar {
 
@@ -46,21 +47,10 @@ constexpr QStringView Keys[] = {
     u"RectBorderColorAutoBlend",
 };
 
-using Field = std::variant<QString ToolbarButton::*, PictureReference ToolbarButton::*, int ToolbarButton::*,
-                           bool ToolbarButton::*>;
-struct StoredField {
-  QStringView stem;  ///< the button's number follows
-  Field field;
-};
-constexpr StoredField StoredFields[] = {
-    {u"ButtonCaption", &ToolbarButton::Caption},
-    {u"ButtonIcon", &ToolbarButton::Icon},
-    {u"ButtonToolTipText", &ToolbarButton::ToolTipText},
-    {u"ButtonToolTipIcon", &ToolbarButton::ToolTipIcon},
-    {u"ButtonEnabled", &ToolbarButton::Enabled},
-    {u"ButtonPressed", &ToolbarButton::Pressed},
-    {u"ButtonIconAllignment", &ToolbarButton::IconAlignment},
-    {u"Button_Type", &ToolbarButton::ButtonType},
+/// A button's fields in the order in which they are stored.
+constexpr PropertyID StoredFields[] = {
+    CaptionProperty, IconProperty,    ToolTipTextProperty,   ToolTipIconProperty,
+    EnabledProperty, PressedProperty, IconAlignmentProperty, ButtonTypeProperty,
 };
 
 /// The stored defaults are the values of a new toolbar, with these exceptions.
@@ -115,9 +105,10 @@ const Property& propertyOf(QStringView key) {
 }
 
 bool readButton(const PropertyBag& bag, const QString& number, ToolbarButton& button) {
-  return std::all_of(std::begin(StoredFields), std::end(StoredFields), [&](const StoredField& row) {
-    return std::visit([&](const auto field) { return read(bag, row.stem.toString() + number, button.*field); },
-                      row.field);
+  return std::all_of(std::begin(StoredFields), std::end(StoredFields), [&](PropertyID id) {
+    const ButtonField& field = buttonFields()[id];
+    return std::visit([&](const auto member) { return read(bag, field.stem.toString() + number, button.*member); },
+                      field.member);
   });
 }
 
@@ -158,9 +149,10 @@ void writeStoredForm(PropertyBag& bag, const StoredToolBar& toolBar, const QFont
   int number = 0;
   for (const ToolbarButton& button : toolBar.buttons) {
     const QString suffix = QString::number(++number);
-    for (const StoredField& row : StoredFields) {
-      std::visit([&](const auto field) { write(bag, row.stem.toString() + suffix, button.*field, plain.*field); },
-                 row.field);
+    for (const PropertyID id : StoredFields) {
+      const ButtonField& field = buttonFields()[id];
+      std::visit([&](const auto member) { write(bag, field.stem.toString() + suffix, button.*member, plain.*member); },
+                 field.member);
     }
   }
 }

@@ -248,6 +248,13 @@ class ControlTest : public QObject {
              QByteArray("axcd 2 ButtonCaption R"));
     QCOMPARE(after([](Model& m) { m.setValue(&Properties::ButtonsMode, 2); }), QByteArray("abcd 2 ButtonsMode L"));
     QCOMPARE(after([](Model& m) { m.setValue(&Properties::BackColor, 5U); }), QByteArray("abcd 2 BackColor B"));
+    const auto blank = [](Model& m) {
+      m.pointAt(0);  // no button
+      m.setCurrentValue(toolbar::CaptionProperty, m.currentValue(toolbar::EnabledProperty));
+      m.pointAt(3);
+      m.setCurrentValue(toolbar::CaptionProperty, m.currentValue(toolbar::CaptionProperty).toString().toUpper());
+    };
+    QCOMPARE(after(blank), QByteArray("abCd 3 ButtonCaption R"));
   }
 
   void looksOverwriteProperties() {
