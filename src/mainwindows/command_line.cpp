@@ -3,7 +3,6 @@
 #include <QCommandLineParser>
 #include <QDir>
 
-#include "mainwindows/version.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 
@@ -33,7 +32,7 @@ QString commandLineAnswer(const QStringList& words) {
   // What is wrong besides may be the toolkit's own options.
   parser.parse(words);
   if (parser.isSet(Help)) return Usage.toString();
-  if (parser.isSet(VersionOption)) return QStringLiteral("cantorama-theme-edit ") + Version.toString();
+  if (parser.isSet(VersionOption)) return QStringLiteral("cantorama-theme-edit " CANTORAMA_VERSION);
   return {};
 }
 

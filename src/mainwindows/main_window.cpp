@@ -20,7 +20,6 @@
 #include "mainwindows/main_window_tool_bar.h"
 #include "mainwindows/preview_host.h"
 #include "mainwindows/status_bar.h"
-#include "mainwindows/version.h"
 #include "mainwindows/workspace.h"
 #include "progressbar/progress_bar.h"
 #include "progressbar/stored_form.h"
@@ -138,10 +137,10 @@ QSize Form1::windowSize() const {
 }
 
 void Form1::Form_Load() {
-  setWindowTitle(QStringLiteral("Cantorama Theme Edit") + QStringLiteral(" v.") + Version.toString());
+  setWindowTitle(QStringLiteral("Cantorama Theme Edit v." CANTORAMA_VERSION));
   ShowMousePosition(0, 0);
   showStartPicture(StartBackColor);
-  Label1->setText(QStringLiteral("v.") + Version.toString());
+  Label1->setText(QStringLiteral("v." CANTORAMA_VERSION));
   Label2->setText(QStringLiteral("by Bricolo"));
   Label1->adjustSize();
   Label2->adjustSize();
