@@ -2,7 +2,7 @@
 
 #include "drawing/ramps.h"
 #include "toolbar/checked_numbers.h"
-#include "toolbar/colors.h"
+#include "toolbar/colours.h"
 
 namespace toolbar {
 

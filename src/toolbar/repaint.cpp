@@ -4,7 +4,7 @@
 #include "drawing/raster_text.h"
 #include "toolbar/captions.h"
 #include "toolbar/checked_numbers.h"
-#include "toolbar/colors.h"
+#include "toolbar/colours.h"
 #include "toolbar/faces.h"
 #include "toolbar/icon_painting.h"
 #include "toolbar/layout.h"

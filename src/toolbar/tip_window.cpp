@@ -10,7 +10,7 @@
 #include <QStyle>
 
 #include "drawing/fonts.h"
-#include "toolbar/colors.h"
+#include "toolbar/colours.h"
 
 namespace toolbar {
 

@@ -1,4 +1,4 @@
-#include "toolbar/colors.h"
+#include "toolbar/colours.h"
 
 #include "drawing/system_colours.h"
 #include "toolbar/checked_numbers.h"
