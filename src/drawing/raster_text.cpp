@@ -9,7 +9,7 @@ namespace drawing {
 namespace {
 
 constexpr double PixelsPerPoint = 96.0 / 72;
-constexpr int LargestHeight = static_cast<int>(LargestPoints * 96 / 72);
+constexpr int LargestHeight = static_cast<int>(LargestPoints * PixelsPerPoint);
 
 /// The font with its size in pixels and grey antialiasing.
 QFont onPixels(const QFont& font) {

@@ -10,7 +10,7 @@ namespace platform {
 namespace {
 
 /// The description of the failure that ended the work, or none if it was completed.
-std::optional<QString> failureOf(const std::function<void()>& work) {
+std::optional<QString> failureIn(const std::function<void()>& work) {
   try {
     work();
     return std::nullopt;
@@ -58,13 +58,13 @@ QString reportText(const QString& step, const QString& description) {
 
 bool guarded(StatusLine& status, const QString& step, const std::function<void()>& work) {
   const Telling telling(status);
-  const auto description = failureOf(work);
+  const auto description = failureIn(work);
   if (description) status.ShowStatus(reportText(step, *description));
   return !description;
 }
 
 bool guardedSilently(const std::function<void()>& work) {
-  return !failureOf(work);
+  return !failureIn(work);
 }
 
 }  // namespace platform
