@@ -48,6 +48,8 @@ TipWindow::TipWindow(const ToolTip& tip, QWidget* parent)
   setFocusPolicy(Qt::NoFocus);
   setFont(drawing::controlFont(QStringLiteral("MS Sans Serif"), TextPixels));
   setAccessibleName(tip.Text);
+  // Not every window system cuts a window's picture by its mask.
+  setAttribute(Qt::WA_TranslucentBackground, tip_.isBalloon);
   const int stem = tip_.isBalloon ? StemLength : 0;
   resize(contents() + QSize(2 * Margin, 2 * Margin + stem));
 }

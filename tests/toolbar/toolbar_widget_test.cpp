@@ -153,7 +153,7 @@ class WidgetTest : public QObject {
     QVERIFY(QTest::qWaitForWindowActive(&form.form));
     QTest::mouseMove(&form.bar, {5, 5});
     QTRY_VERIFY(tip());
-    QVERIFY(!tip()->grab().isNull());
+    QCOMPARE(tip()->grab().toImage().pixelColor(0, 0).alpha(), 0);  // a balloon needs no mask to have its shape
     QTest::mouseMove(&form.bar, {6, 5});
     QTRY_VERIFY(!tip());
   }
