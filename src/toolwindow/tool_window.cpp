@@ -237,7 +237,8 @@ void Form2::resizeEvent(QResizeEvent* event) {
 }
 
 void Form2::closeEvent(QCloseEvent* event) {
-  event->setAccepted(!event->spontaneous());
+  // The window ends with its theme, unasked. A close box may look like the program's own close (Wayland).
+  event->ignore();
 }
 
 void Form2::keyPressEvent(QKeyEvent* event) {

@@ -1,4 +1,3 @@
-#include <QCloseEvent>
 #include <QScreen>
 
 #include "mainwindows/command_line.h"
@@ -91,13 +90,7 @@ class OpenThemeTest : public QObject {
     QCOMPARE(game.files(), files);
     program.edit();
     QVERIFY(program.state.Changed && game.get(ThemeCopy).contains("X=77"));
-    // The tool window ends with the theme, not by the user.
-    for (const bool byUser : {false, true}) {
-      QCloseEvent close;
-      if (byUser) QSpontaneKeyEvent::setSpontaneous(&close);
-      qApp->notify(&program.tools(), &close);
-      QCOMPARE(close.isAccepted(), !byUser);
-    }
+    QVERIFY(!program.tools().close() && program.tools().isVisible());
   }
 
   /// The files are spoilt while the dialog is up: with no theme open, and with one open that has changes.
