@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include <QFontInfo>
 #include <QShowEvent>
 
 #include "controls/spoken_name.h"
@@ -52,8 +53,9 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
   controls::place(*Command2, {4080, 3480, 1095, 375});
   setFixedSize(controls::toPixels(5325), controls::toPixels(3990));
   controls::centreOnScreen(*this);
+  const int pixels = QFontInfo(font()).pixelSize();  // the font itself may tell its size in points
   for (controls::CutLabel* label : {Label4, Label5}) {
-    label->setFont(drawing::controlFont(QStringLiteral("Arial"), label->font().pixelSize()));
+    label->setFont(drawing::controlFont(QStringLiteral("Arial"), pixels));
   }
   Command1->setDefault(true);
   connect(List1, &controls::ListBox::Click, this, &Form3::List1_Click);
