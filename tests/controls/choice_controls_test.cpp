@@ -10,10 +10,10 @@
 #include "controls/look.h"
 #include "controls/number_bar.h"
 #include "platform/failure.h"
-#include "support/wheel.h"
+#include "support/mouse.h"
 
 using namespace controls;
-using support::turnWheel;
+using namespace support;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -59,8 +59,7 @@ struct Window : QWidget {
 
 void drag(QWidget* viewport, const QPoint& from, const QPoint& to) {
   QTest::mousePress(viewport, Qt::LeftButton, {}, from);
-  QMouseEvent move(QEvent::MouseMove, to, viewport->mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(viewport, &move);
+  moveMouse(*viewport, to);
   QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
 }
 

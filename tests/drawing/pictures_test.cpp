@@ -1,8 +1,6 @@
 #include "drawing/pictures.h"
 
-#include <QBuffer>
 #include <QColorSpace>
-#include <QImageWriter>
 #include <QTest>
 #include <QtEndian>
 
@@ -10,6 +8,7 @@
 #include "support/pictures.h"
 
 using namespace drawing;
+using support::encoded;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -17,15 +16,6 @@ namespace {
 QImage sample(QImage::Format format) {
   const auto pixel = [](int x, int y) { return qRgba(x * 11, y * 15, x * y % 256, 255 - x * 5); };
   return support::pictureOf(23, 17, pixel).convertToFormat(format);
-}
-
-QByteArray encoded(const QImage& image, const char* format, bool inPasses = false) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  QImageWriter writer(&buffer, format);
-  writer.setProgressiveScanWrite(inPasses);
-  writer.write(image);
-  return bytes;
 }
 
 /// 2 x 2 pixels: red, green, blue, white; two frames, the second one all red.

@@ -12,6 +12,11 @@ using platform::BoxAnswer;
 class OpenThemeTest : public QObject {
   Q_OBJECT
 
+ private:
+  static void doubleClick(const controls::ListBox& list) {
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.currentItem()).center());
+  }
+
  private Q_SLOTS:
   void gameFolder() {
     const struct {
@@ -166,52 +171,44 @@ class OpenThemeTest : public QObject {
     }
   }
 
-  void secondOpen() {
-    for (const bool dirty : {false, true}) {
-      for (const bool goesOn : {false, true}) secondOpen(dirty, goesOn);
-    }
-  }
-
- private:
-  static void doubleClick(const controls::ListBox& list) {
-    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.currentItem()).center());
-  }
-
   /// `goesOn`: Yes to the question about changes; without changes, not Cancel in the dialog.
-  static void secondOpen(bool dirty, bool goesOn) {
-    const RowName rowName(QByteArray(dirty ? "changes, " : "clean, ") + (goesOn ? "goes on" : "doesn't"));
-    const GameFolder game;
-    game.put(u"Themes/Beta.ini"_s, "[Main]\n");
-    QVERIFY(QDir().mkdir(game.native(u"Skins/Beta"_s)));
-    game.put(u"Skins/Beta/Sole.ini"_s, "");
-    Program program(game);
-    program.open();
-    program.edit();
-    if (!dirty) program.click(2);
-    const QVariantMap before = snapshot(program, game);
-    program.dialogs.boxes = {goesOn ? BoxAnswer::Yes : BoxAnswer::No};
-    const bool came = program.openDialog([&](Form3& dialog) {
-      dialog.List1->SetListIndex(1);
-      goesOn ? dialog.Command1->click() : dialog.reject();
-    });
-    settle();
-    QCOMPARE(program.dialogs.asked.size(), dirty ? 1 : 0);
-    QCOMPARE(came, !dirty || goesOn);
-    QVERIFY(game.get(ThemeCopy).contains("X=77"));
-    if (!goesOn) {
-      QCOMPARE(differences(snapshot(program, game), before), QStringList());
-      return;
+  void secondOpen() {
+    for (const int row : {0, 1, 2, 3}) {
+      const bool dirty = row > 1;
+      const bool goesOn = row % 2 == 1;
+      const RowName rowName(QByteArray(dirty ? "changes, " : "clean, ") + (goesOn ? "goes on" : "doesn't"));
+      const GameFolder game;
+      game.put(u"Themes/Beta.ini"_s, "[Main]\n");
+      QVERIFY(QDir().mkdir(game.native(u"Skins/Beta"_s)));
+      game.put(u"Skins/Beta/Sole.ini"_s, "");
+      Program program(game);
+      program.open();
+      program.edit();
+      if (!dirty) program.click(2);
+      const QVariantMap before = snapshot(program, game);
+      program.dialogs.boxes = {goesOn ? BoxAnswer::Yes : BoxAnswer::No};
+      const bool came = program.openDialog([&](Form3& dialog) {
+        dialog.List1->SetListIndex(1);
+        goesOn ? dialog.Command1->click() : dialog.reject();
+      });
+      settle();
+      QCOMPARE(program.dialogs.asked.size(), dirty ? 1 : 0);
+      QCOMPARE(came, !dirty || goesOn);
+      QVERIFY(game.get(ThemeCopy).contains("X=77"));
+      if (!goesOn) {
+        QCOMPARE(differences(snapshot(program, game), before), QStringList());
+        continue;
+      }
+      QVERIFY(program.state.paths.ThemeFile.endsWith(u"Beta.ini.tmp"));
+      QVERIFY(!program.state.Changed && program.buttons() == u"+-++");
+      QVERIFY(program.state.ThemeColors[0].Name.isEmpty() && program.state.ThemeColors[1].Name.isEmpty());
+      QCOMPARE(program.tools().List1->ListCount(), 0);
+      QVERIFY2(!program.form.Workspace->markVisible(), "the mark of the theme before");
+      QVERIFY(program.form.Combo2->isHidden());
+      QCOMPARE(program.picture().pixelColor(400, 300), QColor(Qt::white));
     }
-    QVERIFY(program.state.paths.ThemeFile.endsWith(u"Beta.ini.tmp"));
-    QVERIFY(!program.state.Changed && program.buttons() == u"+-++");
-    QVERIFY(program.state.ThemeColors[0].Name.isEmpty() && program.state.ThemeColors[1].Name.isEmpty());
-    QCOMPARE(program.tools().List1->ListCount(), 0);
-    QVERIFY2(!program.form.Workspace->markVisible(), "the mark of the theme before");
-    QVERIFY(program.form.Combo2->isHidden());
-    QCOMPARE(program.picture().pixelColor(400, 300), QColor(Qt::white));
   }
 
- private Q_SLOTS:
   void anotherGameFolder() {
     const GameFolder first;
     const GameFolder second;
@@ -221,18 +218,14 @@ class OpenThemeTest : public QObject {
     QCOMPARE(program.form.config().gameFolder(), u"C:\\elsewhere\\"_s);
     program.dialogs.files = {second.path() + u"Vocora.exe"_s};
     QStringList themes;
-    QTimer watch;
-    watch.callOnTimeout([&] {
-      auto* dialog = qobject_cast<Form3*>(QApplication::activeModalWidget());
-      if (dialog == nullptr) return;
-      watch.stop();
-      themes = entries(*dialog->List1);
-      dialog->reject();
-    });
     program.form.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&program.form));
-    watch.start(5);
-    QTest::keyClick(&program.form, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+    const auto list = [&](Form3& dialog) {
+      themes = entries(*dialog.List1);
+      dialog.reject();
+    };
+    program.openDialog(list,
+                       [&] { QTest::keyClick(&program.form, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier); });
     settle();
     QCOMPARE(program.dialogs.asked.size(), 1);
     QCOMPARE(themes, (QStringList{u"Alpha"_s, u"Beta"_s}));

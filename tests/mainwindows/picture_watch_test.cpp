@@ -1,7 +1,5 @@
 #include "mainwindows/picture_watch.h"
 
-#include <QBuffer>
-
 #include "mainwindows/preview_hand.h"
 #include "support/windows.h"
 
@@ -46,9 +44,7 @@ class PictureWatchTest : public ProgramTest {
   bool shows(Qt::GlobalColor color) const { return program->picture().pixelColor(90, 80) == QColor(color); }
   /// Writes a picture of one colour.
   void put(const QString& name, Qt::GlobalColor color) const {
-    QBuffer file;
-    if (!plainPicture(4, 4, QColor(color).rgba()).save(&file, "PNG")) qFatal("can't make a picture");
-    game->put(name, file.data());
+    game->put(name, encoded(plainPicture(4, 4, QColor(color).rgba()), "png"));
   }
   void renameOver(const QString& name, Qt::GlobalColor color) const {
     put(u"new"_s, color);

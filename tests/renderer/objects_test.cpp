@@ -1,4 +1,3 @@
-#include "renderer/highlight_cursor.h"
 #include "support/row_name.h"
 #include "support/stage.h"
 
@@ -41,18 +40,6 @@ QImage drawn(const QByteArray& keys) {
   return stage.steps() == 1 && stage.host.refreshes == 0 ? stage.surface.image() : QImage();
 }
 
-/// Keeps what is set, in order: "L10 T20 ...".
-struct Mark : renderer::CursorMark {
-  void SetLeft(double left) override { note("L", left); }
-  void SetTop(double top) override { note("T", top); }
-  void SetWidth(double width) override { note("W", width); }
-  void SetHeight(double height) override { note("H", height); }
-  void SetVisible(bool visible) override { calls += visible ? "shown " : "hidden "; }
-  void setBlinking(bool blinking) override { calls += blinking ? "blinks " : "still "; }
-  void note(const char* side, double value) { calls += side + QByteArray::number(value) + ' '; }
-  QByteArray calls;
-};
-
 /// What the mark is told for an object with these X, Y, W and H, and behind that the report.
 QByteArray marked(const char* tag, const QStringList& fields, qint16 size = 20, quint8 font = 2) {
   Stage stage;
@@ -82,7 +69,8 @@ class ObjectsTest : public QObject {
     compare("X=9.5|Y=20.5|W=4.5|H=6.5|", QRect(10, 20, 4, 6), Red);  // a half goes to the even
     compare("X=-3|Y=-2|", QRect(0, 0, 2, 4), Red);
     compare("H=-1.4|", QRect(10, 20, 8, 4), Red);
-    compare("X=-1|", QRect(0, 0, 8, 4), Red);
+    for (const char* keys : {"X=-1|", "Y=-1|"}) compare(keys, QRect(0, 0, 8, 4), Red);
+    for (const char* keys : {"W=-1|", "H=-1|"}) compare(keys, QRect(10, 20, 8, 4), Red);
     for (const char* keys : {"W=|", "W=-2|", "Color=|", "TYPE=FONT BLACK|Tex=Black|Color=Bright|", "Tex=Torn|"}) {
       compare(keys, {}, 0);
     }

@@ -19,30 +19,13 @@ namespace fs = std::filesystem;
 constexpr QRgb Old = qRgb(255, 0, 0);
 constexpr QRgb New = qRgb(0, 255, 0);
 
-QByteArray bytesOf(QRgb color) {
-  QTemporaryDir folder;
-  const QString file = folder.filePath(u"x.bmp"_s);
-  plainPicture(8, 4, color).save(file);
-  QFile saved(file);
-  return saved.open(QIODevice::ReadOnly) ? saved.readAll() : QByteArray();
-}
-
-void write(const fs::path& file, const QByteArray& bytes) {
-  QFile target(QString::fromStdString(file.string()));
-  if (!target.open(QIODevice::WriteOnly) || target.write(bytes) != bytes.size()) qFatal("can't write a picture");
-}
-
 void copyTimes(const fs::path& from, const fs::path& to) {
   fs::last_write_time(to, fs::last_write_time(from));
 }
 
 QImage noise(int width, int height) {
-  QImage picture(width, height, QImage::Format_ARGB32);
   QRandomGenerator numbers(static_cast<quint32>(width));
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) picture.setPixel(x, y, numbers.generate());
-  }
-  return picture;
+  return pictureOf(width, height, [&](int, int) { return numbers.generate(); });
 }
 
 }  // namespace
@@ -71,32 +54,33 @@ class PreparedPicturesTest : public QObject {
 
   /// Every way a file can change: never a picture of before, and the new one, or the reason, at once.
   void changedFiles() {
+    const QString picture = u"skin/A.bmp"_s;
+    const QByteArray green = encoded(plainPicture(8, 4, New), "bmp");
     using Change = std::function<void(const fs::path& file, Stage& stage)>;
-    const QByteArray green = bytesOf(New);
     const std::vector<std::tuple<const char*, Change, std::optional<QRgb>>> changes{
         {"untouched", [](const fs::path&, Stage&) {}, Old},
-        {"written in place", [&](const fs::path& file, Stage&) { write(file, green); }, New},
+        {"written in place", [&](const fs::path&, Stage& stage) { stage.folder.put(picture, green); }, New},
         {"written in place, with the old time",
-         [&](const fs::path& file, Stage&) {
+         [&](const fs::path& file, Stage& stage) {
            const auto time = fs::last_write_time(file);
-           write(file, green);
+           stage.folder.put(picture, green);
            fs::last_write_time(file, time);
          },
          New},
         {"renamed over by one of the same size and time",
-         [&](const fs::path& file, Stage&) {
-           write(file.string() + "2", green);
+         [&](const fs::path& file, Stage& stage) {
+           stage.folder.put(picture + u'2', green);
            copyTimes(file, file.string() + "2");
            fs::rename(file.string() + "2", file);
          },
          New},
         {"deleted", [](const fs::path& file, Stage&) { fs::remove(file); }, {}},
-        {"torn", [](const fs::path& file, Stage&) { write(file, "no picture"); }, {}},
+        {"torn", [&](const fs::path&, Stage& stage) { stage.folder.put(picture, "no picture"); }, {}},
         {"folder renamed and another in its place",
-         [&](const fs::path& file, Stage&) {
+         [&](const fs::path& file, Stage& stage) {
            fs::rename(file.parent_path(), file.parent_path().string() + "2");
            fs::create_directory(file.parent_path());
-           write(file, green);
+           stage.folder.put(picture, green);
            copyTimes(file.parent_path().string() + "2/A.bmp", file);
          },
          New},
@@ -104,21 +88,20 @@ class PreparedPicturesTest : public QObject {
          [&](const fs::path& file, Stage& stage) {
            const fs::path other = file.parent_path().parent_path() / "other";
            fs::create_directory(other);
-           write(other / "A.bmp", green);
+           stage.folder.put(u"other/A.bmp"_s, green);
            copyTimes(file, other / "A.bmp");
            stage.state.paths.SkinDirectory = stage.folder.path(u"other"_s);
          },
          New},
     };
-    const QByteArray red = bytesOf(Old);
+    const QByteArray red = encoded(plainPicture(8, 4, Old), "bmp");
     std::vector<std::unique_ptr<Stage>> stages;
     std::vector<std::unique_ptr<renderer::PreparedPictures>> stores;
     for (std::size_t i = 0; i < changes.size(); ++i) {
       Stage& stage = *stages.emplace_back(std::make_unique<Stage>());
       stage.pictures = stores.emplace_back(std::make_unique<renderer::PreparedPictures>()).get();
-      const fs::path folder = stage.folder.native(u"skin"_s).toStdString();
-      fs::create_directory(folder);
-      write(folder / "A.bmp", red);
+      fs::create_directory(stage.folder.native(u"skin"_s).toStdString());
+      stage.folder.put(picture, red);
       stage.state.paths.SkinDirectory = stage.folder.path(u"skin"_s);
       stage.skin = "A=A.bmp|";
       stage.setTheme("[MainBackground]|Tex=A|[MainStatic]|Tex=A|Color=P1Dark|X=5|Y=5|W=8|H=8|");
@@ -132,7 +115,7 @@ class PreparedPicturesTest : public QObject {
       Stage& stage = *stages[i];
       stage.draw();
       QVERIFY(stores[i]->bytes() > 0);
-      change(stage.folder.native(u"skin/A.bmp"_s).toStdString(), stage);
+      change(stage.folder.native(picture).toStdString(), stage);
       for (int drawing = 0; drawing < 2; ++drawing) {
         stage.draw();
         QCOMPARE(stage.pixel(700, 9), color.value_or(qRgb(255, 255, 255)));
@@ -182,8 +165,7 @@ class PreparedPicturesTest : public QObject {
   /// While an object is sized its unscaled picture stands in for the file, and counts.
   void objectInHand() {
     Stage stage;
-    stage.folder.put(u"big.bmp"_s, {});
-    noise(64, 48).save(stage.folder.native(u"big.bmp"_s));
+    stage.folder.put(u"big.bmp"_s, encoded(noise(64, 48), "bmp"));
     QTest::qWait(2100);
     renderer::PreparedPictures store(64 * 48 * 4 + 9000);
     const auto wish = [&](int width) {

@@ -71,15 +71,12 @@ class TexturePipelineTest : public QObject {
  private Q_SLOTS:
   /// Each pair of largest and smallest channel, the channels in turn the largest.
   void colorizedAsTheFormulasTell() {
-    QImage before(256 * 3, 256, QImage::Format_ARGB32);
-    for (int max = 0; max < 256; ++max) {
-      for (int min = 0; min < 256; ++min) {
-        const int middle = (max + min) / 2;
-        before.setPixel(max, min, qRgba(max, min, middle, 255));
-        before.setPixel(max + 256, min, qRgba(min, middle, max, 255 - min));
-        before.setPixel(max + 512, min, qRgba(middle, max, min, 1));
-      }
-    }
+    const QImage before = pictureOf(256 * 3, 256, [](int x, int min) {
+      const int max = x % 256;
+      const int middle = (max + min) / 2;
+      if (x < 256) return qRgba(max, min, middle, 255);
+      return x < 512 ? qRgba(min, middle, max, 255 - min) : qRgba(middle, max, min, 1);
+    });
     for (const char* color : {"255 0 0", "0 255 0", "0 0 255", "71 175 247", "230 230 95", "1 0 2", "128 128 128",
                               "300 -20 1000.5", "3 9 18", "255 127.5 0", "100000 50000.1 0", "0 255 255", "220 9 99"}) {
       const RowName name(color);
@@ -87,11 +84,8 @@ class TexturePipelineTest : public QObject {
       const double hue = shadeOf(fields[0].toDouble(), fields[1].toDouble(), fields[2].toDouble()).h;
       QImage picture = before.copy();
       colorize(picture, {fields[0].toFloat(), fields[1].toFloat(), fields[2].toFloat()});
-      for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-          if (picture.pixel(x, y) != colorizedPlainly(before.pixel(x, y), hue)) QFAIL(qPrintable(QString::number(x)));
-        }
-      }
+      const auto expected = [&](int x, int y) { return colorizedPlainly(before.pixel(x, y), hue); };
+      QCOMPARE(picture, pictureOf(picture.width(), picture.height(), expected));
     }
   }
 

@@ -39,4 +39,11 @@ inline QByteArray linesOf(QByteArray table, const char* lineEnd = "\r\n") {
   return table.replace('|', lineEnd);
 }
 
+/// The lines of a section with so many colours: "C1=1 0 0|C2=2 0 0|".
+inline QByteArray manyColors(int count) {
+  QByteArray lines = "[Colors]|";
+  for (int i = 1; i <= count; ++i) lines += "C" + QByteArray::number(i) + '=' + QByteArray::number(i) + " 0 0|";
+  return lines;
+}
+
 }  // namespace support

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <QBuffer>
 #include <QHash>
-#include <QImage>
+#include <QImageWriter>
 
 namespace support {
 
@@ -17,6 +18,15 @@ inline QImage plainPicture(int width, int height, QRgb color) {
   QImage image(width, height, QImage::Format_ARGB32);
   image.fill(color);
   return image;
+}
+
+/// The bytes of a picture file.
+inline QByteArray encoded(const QImage& image, const char* format, bool inPasses = false) {
+  QBuffer buffer;
+  QImageWriter writer(&buffer, format);
+  writer.setProgressiveScanWrite(inPasses);
+  if (!writer.write(image)) qFatal("can't make a picture");
+  return buffer.data();
 }
 
 /// The pixels as rows of the letters of their colours; "?" for any other colour.

@@ -3,6 +3,7 @@
 #include "drawing/graphics.h"
 #include "drawing/surface.h"
 #include "platform/code_page.h"
+#include "renderer/highlight_cursor.h"
 #include "renderer/render_driver.h"
 #include "renderer/render_host.h"
 #include "support/panel.h"
@@ -36,6 +37,18 @@ class Host : public renderer::RenderHost {
   QStringList percents, buttons;
   int progress = 50, refreshes = 0, selections = 0;
   bool barVisible = false, buttonsVisible = true;
+};
+
+/// Keeps what is set, in order: "L10 T20 ...".
+struct Mark : renderer::CursorMark {
+  void SetLeft(double left) override { note("L", left); }
+  void SetTop(double top) override { note("T", top); }
+  void SetWidth(double width) override { note("W", width); }
+  void SetHeight(double height) override { note("H", height); }
+  void SetVisible(bool visible) override { calls += visible ? "shown " : "hidden "; }
+  void setBlinking(bool blinking) override { calls += blinking ? "blinks " : "still "; }
+  void note(const char* side, double value) { calls += side + QByteArray::number(value) + ' '; }
+  QByteArray calls;
 };
 
 /// A theme that a test writes, with a skin of textures of 8 x 4 pixels, and all that a render of it needs.

@@ -6,6 +6,8 @@
 #include <QTest>
 
 #include "platform/files.h"
+#include "support/folder.h"
+#include "support/pictures.h"
 
 // For tests of the programs that draw without a display.
 
@@ -46,5 +48,29 @@ inline QStringList contentsOf(const QString& folder) {
   entries.sort();
   return entries;
 }
+
+/// A game folder with one theme of the skins Dusk and Neon and the languages English and Deutsch. Files are told as
+/// "NAME: lines", "|" being a line end.
+class Game {
+ public:
+  Game() {
+    for (const char* part : {"Themes", "Skins/T", "Languages"}) QDir(path()).mkpath(QLatin1StringView(part));
+    for (const char* file :
+         {"Themes/T.ini: [Loading]|", "Skins/T/Dusk.ini: [Textures]|A=a.png|", "Skins/T/Neon.ini: [Textures]|A=a.png|",
+          "Languages/English.ini: [Text]|", "Languages/Deutsch.ini: [Text]|"}) {
+      put(file);
+    }
+    if (!plainPicture(4, 4, qRgb(0, 0, 0)).save(file(QStringLiteral("Skins/T/a.png")))) qFatal("can't write a picture");
+  }
+  QString path() const { return folder_.path(); }
+  QString file(const QString& name) const { return folder_.filePath(name); }
+  void put(const QByteArray& told) const {
+    const qsizetype colon = told.indexOf(": ");
+    platform::writeFile(file(QString::fromLatin1(told.first(colon))), linesOf(told.sliced(colon + 2)));
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
 
 }  // namespace support

@@ -25,6 +25,7 @@
 #include "mainwindows/status_bar.h"
 #include "mainwindows/workspace.h"
 #include "progressbar/progress_bar.h"
+#include "support/mouse.h"
 #include "support/panel.h"
 #include "support/pictures.h"
 #include "support/scripted_dialogs.h"
@@ -121,13 +122,6 @@ inline void settle() {
   QCoreApplication::processEvents();
 }
 
-/// Moves the mouse over a widget, with the left button held down unless told otherwise.
-inline void moveMouse(QWidget& widget, const QPoint& place, Qt::MouseButtons buttons = Qt::LeftButton,
-                      Qt::KeyboardModifiers keys = {}) {
-  QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, buttons, keys);
-  QCoreApplication::sendEvent(&widget, &move);
-}
-
 /// The program's windows with their events connected.
 class Program {
  public:
@@ -182,16 +176,18 @@ class Program {
 
   /// A click of the mouse on a button of the toolbar.
   void click(int button) { QTest::mouseClick(form.ToolBar, Qt::LeftButton, {}, QPoint(32 * button - 16, 16)); }
-  /// Clicks Open and runs `act` on the Open Theme dialog; gives whether it came up. `act` has to end it.
-  bool openDialog(const std::function<void(mainwindows::Form3&)>& act) {
+  /// Clicks Open, or asks otherwise for it, and runs `act` on the Open Theme dialog; gives whether it came up. `act`
+  /// has to end it.
+  bool openDialog(const std::function<void(mainwindows::Form3&)>& act, const std::function<void()>& ask = {}) {
     bool up = false;
-    QObject life;
-    QTimer::singleShot(0, &life, [&] {
+    QTimer watch;
+    watch.callOnTimeout([&] {
       auto* dialog = qobject_cast<mainwindows::Form3*>(QApplication::activeModalWidget());
-      up = dialog != nullptr;
-      if (up) act(*dialog);
+      if (dialog == nullptr || std::exchange(up, true)) return;
+      act(*dialog);
     });
-    click(1);
+    watch.start(1);
+    ask ? ask() : click(1);
     return up;
   }
   /// Opens the first theme, Alpha, with its first skin and English.

@@ -44,12 +44,6 @@ struct Theme {
   SortedTags tags;
 };
 
-QByteArray colours(int count) {
-  QByteArray theme = "[Colors]|";
-  for (int i = 1; i <= count; ++i) theme += "c" + QByteArray::number(i) + "=" + QByteArray::number(i) + " 0 0|";
-  return theme;
-}
-
 }  // namespace
 
 class ThemeReadingTest : public QObject {
@@ -57,9 +51,9 @@ class ThemeReadingTest : public QObject {
 
  private Q_SLOTS:
   void asManyColoursAsRows() {
-    Theme theme(colours(99));
+    Theme theme(manyColors(99));
     ReadColors(theme.state, theme.panel);
-    QVERIFY(theme.color(98).Name == u"c99" && theme.color(98).Value == u"99 0 0");
+    QVERIFY(theme.color(98).Name == u"C99" && theme.color(98).Value == u"99 0 0");
     QVERIFY(theme.color(99).Name.isEmpty() && theme.color(99).Value == u"0 0 0");
     QCOMPARE(schemeNames(theme.state).join(u' '), u"Blue Green Pink Red Violet Orange Yellow Brown Black"_s);
     // A shorter list leaves the rows behind it, none at all leaves every row.
@@ -67,14 +61,14 @@ class ThemeReadingTest : public QObject {
       theme.put(shorter);
       ReadColors(theme.state, theme.panel);
       QVERIFY(theme.color(0).Name == u"new" && theme.color(0).Value.isEmpty());
-      QVERIFY(theme.color(1).Value == u"0 0 0" && theme.color(2).Name == u"c3");
+      QVERIFY(theme.color(1).Value == u"0 0 0" && theme.color(2).Name == u"C3");
     }
     QVERIFY(theme.panel.texts.isEmpty());
 
-    Theme oneTooMany(colours(100));
+    Theme oneTooMany(manyColors(100));
     ReadColors(oneTooMany.state, oneTooMany.panel);
     QVERIFY(oneTooMany.reported(1, u"Colors"_s));
-    QCOMPARE(oneTooMany.color(99).Name, u"c100"_s);
+    QCOMPARE(oneTooMany.color(99).Name, u"C100"_s);
     QCOMPARE(schemeNames(oneTooMany.state), QStringList(9, QString()));
   }
 

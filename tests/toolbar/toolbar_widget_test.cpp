@@ -7,6 +7,7 @@
 #include "mainwindows/commands.h"
 #include "mainwindows/main_window_tool_bar.h"
 #include "propertybag/stored_bytes.h"
+#include "support/mouse.h"
 #include "toolbar/mc_toolbar.h"
 
 using toolbar::McToolBar;
@@ -73,11 +74,7 @@ class WidgetTest : public QObject {
     QCOMPARE(numbers(form.clicks) + u' ' + numbers(doubles), QStringLiteral("1 1"));
     // Leaving while the mouse is held.
     QTest::mousePress(&form.bar, Qt::LeftButton, {}, {5, 5});
-    for (const int x : {-5, -6}) {
-      QMouseEvent move(QEvent::MouseMove, QPointF(x, 5), form.bar.mapToGlobal(QPointF(x, 5)), Qt::NoButton,
-                       Qt::LeftButton, {});
-      QApplication::sendEvent(&form.bar, &move);
-    }
+    for (const int x : {-5, -6}) support::moveMouse(form.bar, {x, 5});
     QTest::mouseRelease(&form.bar, Qt::LeftButton, {}, {-6, 5});
     QCOMPARE(form.leaves.size(), 1);
     QCOMPARE(form.bar.buttons().Button_Index(), -1);

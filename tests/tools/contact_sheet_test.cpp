@@ -8,7 +8,6 @@
 #include "support/tool_runs.h"
 
 using platform::readFile;
-using platform::writeFile;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -21,7 +20,7 @@ QStringList sampleTheme(const QString& output) {
 
 /// A theme of one screen, "|" for a line end.
 constexpr const char* SmallTheme =
-    "[Colors]|Ink=250 10 20|[LoadingBackground]|Tex=Gone|[Loading]|Loop=1|"
+    "Themes/T.ini: [Colors]|Ink=250 10 20|[LoadingBackground]|Tex=Gone|[Loading]|Loop=1|"
     "[LoadingButtonOne]|Tex=Block|X=300|Y=9|W=30|H=9|Color=Ink|DColor=Ink|TEXTS=1|"
     "[LoadingButtonOneText1]|Text=A|X=1|Y=1|Size=10|[LoadingButtonOneText2]|Text=B|X=1|Y=1|Size=10|"
     "[LoadingTextHalf]|Text=A|X=5|Y=5|Size=0|[LoadingStatic\tTab]|Tex=a\tb|[Main]|Loop=1|";
@@ -63,14 +62,11 @@ class ContactSheetTest : public QObject {
   }
 
   void reports() {
-    const QDir game(folder_.filePath(u"game"_s));
-    for (const auto& part : {u"Themes"_s, u"Skins/Small"_s, u"Languages"_s}) QVERIFY(game.mkpath(part));
-    writeFile(game.filePath(u"Themes/Small.ini"_s), QByteArray(SmallTheme).replace("|", "\r\n"));
-    writeFile(game.filePath(u"Skins/Small/Only.ini"_s), "[Textures]\r\nBlock=block.png\r\nGone=gone.png\r\n");
-    writeFile(game.filePath(u"Languages/Some.ini"_s), "[Text]\r\n");
-    QVERIFY(support::plainPicture(4, 4, qRgb(0, 0, 0)).save(game.filePath(u"Skins/Small/block.png"_s)));
+    const support::Game game;
+    game.put(SmallTheme);
+    game.put("Skins/T/Dusk.ini: [Textures]|Block=a.png|Gone=gone.png|");
     const QString output = folder_.filePath(u"small"_s);
-    draw(0, {game.path(), u"Small"_s, u"Only"_s, u"Some"_s, output});
+    draw(0, {game.path(), u"T"_s, u"Dusk"_s, u"English"_s, output});
     const QByteArrayList lines = readFile(output + u"/report.tsv"_s).split('\n');
     for (const char* line :
          {"screen\tsection\tresult\treason", "1\tLoadingBackground\tleft out\tno file 'gone.png'",

@@ -8,13 +8,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "support/folder.h"
-#include "support/pictures.h"
 #include "support/row_name.h"
 #include "support/tool_runs.h"
 
 using platform::readFile;
 using platform::writeFile;
+using support::Game;
 using support::ToolRun;
 using namespace Qt::StringLiterals;
 
@@ -24,37 +23,6 @@ const QString Sample = QStringLiteral(SAMPLE_FOLDER);
 
 ToolRun check(int status, const QStringList& arguments) {
   return support::runTool(QStringLiteral(THEME_CHECK), status, arguments);
-}
-
-/// A game folder with one theme of the skins Dusk and Neon and the languages English and Deutsch. Files are told as
-/// "NAME: lines", "|" being a line end.
-class Game {
- public:
-  Game() {
-    for (const QString& part : {u"Themes"_s, u"Skins/T"_s, u"Languages"_s}) QDir(path()).mkpath(part);
-    for (const char* file :
-         {"Themes/T.ini: [Loading]|", "Skins/T/Dusk.ini: [Textures]|A=a.png|", "Skins/T/Neon.ini: [Textures]|A=a.png|",
-          "Languages/English.ini: [Text]|", "Languages/Deutsch.ini: [Text]|"}) {
-      put(file);
-    }
-    if (!support::plainPicture(4, 4, qRgb(0, 0, 0)).save(file(u"Skins/T/a.png"_s))) qFatal("can't write a picture");
-  }
-  QString path() const { return folder_.path(); }
-  QString file(const QString& name) const { return folder_.filePath(name); }
-  void put(const QByteArray& told) const {
-    const qsizetype colon = told.indexOf(": ");
-    writeFile(file(QString::fromLatin1(told.first(colon))), support::linesOf(told.sliced(colon + 2)));
-  }
-
- private:
-  QTemporaryDir folder_;
-};
-
-/// The lines of a theme file whose section Colors has that many colours more than it uses.
-QByteArray colors(int count) {
-  QByteArray text = "Themes/T.ini: [Colors]|";
-  for (int color = 1; color <= count; ++color) text += "C" + QByteArray::number(color) + "=1 2 3|";
-  return text;
 }
 
 }  // namespace
@@ -128,8 +96,10 @@ class ThemeCheckTest : public QObject {
     row("a button that is left out when it is the selected one", {button + second},
         {"Themes/T.ini:10: error: MainButtonB: Color: Color: colour '' is in no table"});
     row("as many colours as there is room for",
-        {colors(99) + "[Main]|[MainButtonA]|Tex=A|W=9|H=9|Color=C1|DColor=C99|"}, {"97 notes"});
-    row("one more", {colors(100) + "[Main]|[MainButtonA]|Tex=A|W=9|H=9|Color=C1|DColor=C99|"},
+        {"Themes/T.ini: " + support::manyColors(99) + "[Main]|[MainButtonA]|Tex=A|W=9|H=9|Color=C1|DColor=C99|"},
+        {"97 notes"});
+    row("one more",
+        {"Themes/T.ini: " + support::manyColors(100) + "[Main]|[MainButtonA]|Tex=A|W=9|H=9|Color=C1|DColor=C99|"},
         {"Themes/T.ini:101: error: Colors: C100: more than 99 colours", "98 notes"});
     row("a text in a colour that isn't there", {"Themes/T.ini: [Main]|[MainTextA]|Size=9|Text=A|Color=Gone|"},
         {"Skins/T/Dusk.ini:2: note: Textures: A: texture that no object uses",

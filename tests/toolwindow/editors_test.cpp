@@ -1,5 +1,4 @@
 #include "support/row_name.h"
-#include "support/wheel.h"
 #include "support/windows.h"
 
 using namespace support;

@@ -13,4 +13,11 @@ inline void turnWheel(QWidget& widget, int delta) {
   QApplication::sendEvent(&widget, &event);
 }
 
+/// Moves the mouse over a widget, with the left button held down unless told otherwise.
+inline void moveMouse(QWidget& widget, const QPoint& place, Qt::MouseButtons buttons = Qt::LeftButton,
+                      Qt::KeyboardModifiers keys = {}) {
+  QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, buttons, keys);
+  QCoreApplication::sendEvent(&widget, &move);
+}
+
 }  // namespace support
