@@ -10,8 +10,6 @@ using mainwindows::HeldNumbers;
 
 namespace {
 
-using Ending = std::function<void(Program& program)>;
-
 const QPoint Inside(50, 60);  // of LoadingStaticA
 
 }  // namespace
@@ -38,6 +36,10 @@ class PreviewHandTest : public ProgramTest {
     hold(from, by, keys);
     drop(from + by, keys);
   }
+  void put(const char* key, const char* value) const {
+    themefiles::PutINI(u"LoadingStaticA"_s, QLatin1StringView(key), QLatin1StringView(value),
+                       program->state.paths.ThemeFile);
+  }
   /// Lines of the working copy that aren't those of `before`.
   QStringList newLines(const QByteArray& before) const {
     QStringList lines = QString::fromLatin1(game->get(ThemeCopy)).split(u"\r\n"_s);
@@ -49,28 +51,21 @@ class PreviewHandTest : public ProgramTest {
   }
 
  private Q_SLOTS:
-  void grips_data() {
-    QTest::addColumn<QPoint>("pixel");
-    QTest::addColumn<QString>("changed");
-    QTest::newRow("left") << QPoint(11, 50) << u"X=15 W=95"_s;
-    QTest::newRow("right") << QPoint(109, 50) << u"W=105"_s;
-    QTest::newRow("top") << QPoint(60, 21) << u"Y=27 H=73"_s;
-    QTest::newRow("bottom") << QPoint(60, 99) << u"H=87"_s;
-    QTest::newRow("upper left") << QPoint(10, 20) << u"X=15 Y=27 W=95 H=73"_s;
-    QTest::newRow("upper right") << QPoint(109, 20) << u"Y=27 W=105 H=73"_s;
-    QTest::newRow("lower left") << QPoint(10, 99) << u"X=15 W=95 H=87"_s;
-    QTest::newRow("lower right") << QPoint(109, 99) << u"W=105 H=87"_s;
-    QTest::newRow("middle") << QPoint(60, 50) << u"X=15 Y=27"_s;
-  }
   void grips() {
-    QFETCH(QPoint, pixel);
-    const Grip grip = mainwindows::gripAt({10, 20, 100, 80}, pixel);
-    const HeldNumbers start{10, 20, 100, 80, u"H"_s};
-    QStringList changed;
-    for (const auto& [key, value] : mainwindows::changedValues(start, mainwindows::moved(start, grip, {5, 7}))) {
-      changed += key + u'=' + value;
+    const std::pair<QPoint, QString> rows[] = {{{11, 50}, u"X=15 W=95"_s},        {{109, 50}, u"W=105"_s},
+                                               {{60, 21}, u"Y=27 H=73"_s},        {{60, 99}, u"H=87"_s},
+                                               {{60, 50}, u"X=15 Y=27"_s},        {{10, 20}, u"X=15 Y=27 W=95 H=73"_s},
+                                               {{109, 20}, u"Y=27 W=105 H=73"_s}, {{10, 99}, u"X=15 W=95 H=87"_s},
+                                               {{109, 99}, u"W=105 H=87"_s}};
+    for (const auto& [pixel, expected] : rows) {
+      const Grip grip = mainwindows::gripAt({10, 20, 100, 80}, pixel);
+      const HeldNumbers start{10, 20, 100, 80, u"H"_s};
+      QStringList changed;
+      for (const auto& [key, value] : mainwindows::changedValues(start, mainwindows::moved(start, grip, {5, 7}))) {
+        changed += key + u'=' + value;
+      }
+      QCOMPARE(changed.join(u' '), expected);
     }
-    QTEST(changed.join(u' '), "changed");
   }
 
   void limits() {
@@ -83,53 +78,51 @@ class PreviewHandTest : public ProgramTest {
   }
 
   /// A drag leaves what an Update of the same numbers leaves.
-  void dragIsAnUpdate_data() {
-    QTest::addColumn<QString>("tag");
-    QTest::addColumn<QPoint>("from");
-    QTest::addColumn<QPoint>("by");
-    QTest::addColumn<QString>("lines");
-    QTest::addColumn<Qt::KeyboardModifiers>("keys");
-    const auto add = [](const char* name, const char* tag, QPoint from, QPoint by, const char* lines,
-                        Qt::KeyboardModifiers keys = {}) {
-      QTest::newRow(name) << QString::fromLatin1(tag) << from << by << QString::fromLatin1(lines) << keys;
-    };
-    add("picture", "LoadingStaticA", Inside, {40, 25}, "X=80 Y=75");
-    add("picture, one direction", "LoadingStaticA", Inside, {9, 25}, "Y=75", Qt::ControlModifier);
-    add("picture, upper left", "LoadingStaticA", {41, 51}, {-6, 7}, "X=34 Y=57 W=106 H=53");
-    add("picture, right", "LoadingStaticA", {138, 80}, {12, 30}, "W=112");
-    add("selected button", "LoadingButtonGo", {340, 230}, {-310, 0}, "X=0");
-    add("selected button's corner", "LoadingButtonGo", {378, 258}, {5, 7}, "W=85 SelectH=67");
-    add("other button's edge", "LoadingButtonLast", {340, 338}, {0, 9}, "H=49");
-    add("text", "LoadingTextFree", {400, 108}, {10, -4}, "X=410 Y=96");
-    add("text of a button", "LoadingButtonGoText1", {320, 245}, {5, -3}, "X=15 Y=2");
-  }
   void dragIsAnUpdate() {
-    QFETCH(QString, tag);
-    QFETCH(QPoint, from);
-    QFETCH(QPoint, by);
-    QFETCH(Qt::KeyboardModifiers, keys);
-    program->tag(tag);
-    const QByteArray file = game->get(ThemeCopy);
-    drag(from, by, keys);
-    const QStringList lines = newLines(file);
-    QTEST(lines.join(u' '), "lines");
-    QCOMPARE(program->status(), tag + u": "_s + QStringList(lines).replaceInStrings(u"="_s, u" = "_s).join(u", "_s));
-    const QVariantMap dragged = snapshot(*program, *game);
-
-    program = nullptr;
-    init();
-    program->tag(tag);
-    for (const QString& line : lines) program->change(line.section(u'=', 0, 0), line.section(u'=', 1));
-    program->tools().ListView1->selectRow(-1);
-    QStringList differing = differences(dragged, snapshot(*program, *game));
-    differing.removeAll(u"height"_s);  // an editor is open
-    differing.removeAll(u"flags"_s);
-    QCOMPARE(differing, QStringList());
+    const struct {
+      QString tag;
+      QPoint from, by;
+      QString lines;
+      Qt::KeyboardModifiers keys;
+    } rows[] = {
+        {u"LoadingStaticA"_s, Inside, {40, 25}, u"X=80 Y=75"_s, {}},
+        {u"LoadingStaticA"_s, Inside, {9, 25}, u"Y=75"_s, Qt::ControlModifier},
+        {u"LoadingStaticA"_s, {41, 51}, {-6, 7}, u"X=34 Y=57 W=106 H=53"_s, {}},
+        {u"LoadingStaticA"_s, {138, 80}, {12, 30}, u"W=112"_s, {}},
+        {u"LoadingButtonGo"_s, {340, 230}, {-310, 0}, u"X=0"_s, {}},  // the selected one
+        {u"LoadingButtonGo"_s, {378, 258}, {5, 7}, u"W=85 SelectH=67"_s, {}},
+        {u"LoadingButtonLast"_s, {340, 338}, {0, 9}, u"H=49"_s, {}},
+        {u"LoadingTextFree"_s, {400, 108}, {10, -4}, u"X=410 Y=96"_s, {}},
+        {u"LoadingButtonGoText1"_s, {320, 245}, {5, -3}, u"X=15 Y=2"_s, {}},
+    };
+    for (const auto& row : rows) {
+      const RowName name((row.tag + u' ' + row.lines).toLatin1());
+      const auto anew = [&] {
+        program = nullptr;
+        init();
+        program->tag(row.tag);
+      };
+      anew();
+      const QByteArray file = game->get(ThemeCopy);
+      drag(row.from, row.by, row.keys);
+      const QStringList lines = newLines(file);
+      QCOMPARE(lines.join(u' '), row.lines);
+      const QString told = QStringList(lines).replaceInStrings(u"="_s, u" = "_s).join(u", "_s);
+      QCOMPARE(program->status(), row.tag + u": "_s + told);
+      const QVariantMap dragged = snapshot(*program, *game);
+      anew();
+      for (const QString& line : lines) program->change(line.section(u'=', 0, 0), line.section(u'=', 1));
+      program->tools().ListView1->selectRow(-1);
+      QStringList differing = differences(dragged, snapshot(*program, *game));
+      differing.removeAll(u"height"_s);  // an editor is open
+      differing.removeAll(u"flags"_s);
+      QCOMPARE(differing, QStringList());
+    }
   }
 
   void pickingGoesThroughWhatIsSelected() {
-    themefiles::PutINI(u"LoadingStaticA"_s, u"W"_s, u"800"_s, program->state.paths.ThemeFile);
-    themefiles::PutINI(u"LoadingStaticA"_s, u"H"_s, u"600"_s, program->state.paths.ThemeFile);
+    put("W", "800");
+    put("H", "600");
     program->form.queue().draw();
     program->tag(u"LoadingStaticA"_s);
     QTest::mouseClick(&preview(), Qt::LeftButton, {}, {340, 320});
@@ -138,54 +131,54 @@ class PreviewHandTest : public ProgramTest {
   }
 
   /// What gives a drag up leaves all as it was, or at least the files.
-  void givenUp_data() {
-    QTest::addColumn<Ending>("ending");
-    QTest::addColumn<bool>("filesOnly");
-    const auto add = [](const char* name, const Ending& ending, bool filesOnly = false) {
-      QTest::newRow(name) << ending << filesOnly;
-    };
-    add("Esc", [](Program& p) { QTest::keyClick(p.form.Workspace, Qt::Key_Escape); });
-    add("second button", [](Program& p) {
-      QTest::mouseClick(p.form.windowHandle(), Qt::RightButton, {}, p.form.Workspace->mapTo(&p.form, Inside));
-      QVERIFY(QApplication::activePopupWidget() == nullptr);
-    });
-    add("lost grab", [](Program& p) { moveMouse(*p.form.Workspace, Inside, Qt::NoButton); });
-    add("another program", [](Program&) { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); });
-    add("Alt+Tab", [](Program& p) {
-      p.tools().activateWindow();
-      QTRY_COMPARE(QApplication::activeWindow(), &p.tools());
-    });
-    add("dialog", [](Program& p) { p.openDialog([](mainwindows::Form3& dialog) { dialog.reject(); }); });
-    add("drawing", [](Program& p) { p.form.queue().draw(); });
-    add(
-        "another screen", [](Program& p) { p.screen(u"Main Screen"_s); }, true);
-    add(
-        "Close", [](Program& p) { p.click(3); }, true);
-    add(
-        "end", [](Program& p) { p.form.close(); }, true);
-  }
   void givenUp() {
-    QFETCH(Ending, ending);
-    QFETCH(bool, filesOnly);
-    program->tag(u"LoadingStaticA"_s);
-    program->form.activateWindow();
-    QTRY_COMPARE(QApplication::activeWindow(), &program->form);
+    const struct {
+      const char* name;
+      void (*ending)(Program& p);
+      bool filesOnly = false;
+    } rows[] = {
+        {"Esc", [](Program& p) { QTest::keyClick(p.form.Workspace, Qt::Key_Escape); }},
+        {"second button",
+         [](Program& p) {
+           QTest::mouseClick(p.form.windowHandle(), Qt::RightButton, {}, p.form.Workspace->mapTo(&p.form, Inside));
+           QVERIFY(QApplication::activePopupWidget() == nullptr);
+         }},
+        {"lost grab", [](Program& p) { moveMouse(*p.form.Workspace, Inside, Qt::NoButton); }},
+        {"another program", [](Program&) { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); }},
+        {"Alt+Tab",
+         [](Program& p) {
+           p.tools().activateWindow();
+           QTRY_COMPARE(QApplication::activeWindow(), &p.tools());
+         }},
+        {"dialog", [](Program& p) { p.openDialog([](mainwindows::Form3& dialog) { dialog.reject(); }); }},
+        {"drawing", [](Program& p) { p.form.queue().draw(); }},
+        {"another screen", [](Program& p) { p.screen(u"Main Screen"_s); }, true},
+        {"Close", [](Program& p) { p.click(3); }, true},
+        {"end", [](Program& p) { p.form.close(); }, true},
+    };
     const QPoint by(30, 20);
-    const QVariantMap before = snapshot(*program, *game);
-    drag(Inside, {3, 3});
-    QCOMPARE(differences(before, snapshot(*program, *game)), QStringList());
-    hold(Inside, by);
-    QVERIFY(program->picture() != before[u"picture"_s].value<QImage>());
-    ending(*program);
-    drop(Inside + by);
-    const QStringList differing = differences(before, snapshot(*program, *game));
-    QVERIFY2(filesOnly ? !differing.contains(u"files"_s) : differing.isEmpty(), qPrintable(differing.join(u' ')));
+    for (const auto& [name, ending, filesOnly] : rows) {
+      const RowName rowName(name);
+      program = nullptr;
+      init();
+      program->tag(u"LoadingStaticA"_s);
+      program->form.activateWindow();
+      QTRY_COMPARE(QApplication::activeWindow(), &program->form);
+      const QVariantMap before = snapshot(*program, *game);
+      drag(Inside, {3, 3});
+      QCOMPARE(differences(before, snapshot(*program, *game)), QStringList());
+      hold(Inside, by);
+      QVERIFY(program->picture() != before[u"picture"_s].value<QImage>());
+      ending(*program);
+      drop(Inside + by);
+      const QStringList differing = differences(before, snapshot(*program, *game));
+      QVERIFY2(filesOnly ? !differing.contains(u"files"_s) : differing.isEmpty(), qPrintable(differing.join(u' ')));
+    }
   }
 
   void startsFromItself() {
     const auto draw = [this](const char* key, const char* value) {
-      themefiles::PutINI(u"LoadingStaticA"_s, QLatin1StringView(key), QLatin1StringView(value),
-                         program->state.paths.ThemeFile);
+      put(key, value);
       program->form.queue().draw();
       program->tag(u"LoadingStaticA"_s);
       return game->get(ThemeCopy);
@@ -242,15 +235,14 @@ class PreviewHandTest : public ProgramTest {
     const std::pair<const char*, const char*> rows[] = {{"X", ""}, {"X", "wide"}, {"Y", "-1"}, {"X", "99999999999"}};
     for (const auto& [key, value] : rows) {
       program->tag(u"LoadingStaticA"_s);
-      themefiles::PutINI(u"LoadingStaticA"_s, QLatin1StringView(key), QLatin1StringView(value),
-                         program->state.paths.ThemeFile);
+      put(key, value);
       const QByteArray file = game->get(ThemeCopy);
       preview().setFocus();
       QTest::keyClick(&preview(), Qt::Key_Right);
       QTest::qWait(400);
       QVERIFY2(program->status().startsWith(u"LoadingStaticA stays as it is ["_s), qPrintable(program->status()));
       QCOMPARE(game->get(ThemeCopy), file);
-      themefiles::PutINI(u"LoadingStaticA"_s, QLatin1StringView(key), u"40"_s, program->state.paths.ThemeFile);
+      put(key, "40");
     }
   }
 };
