@@ -107,10 +107,11 @@ WRAP(int, flock, Own, -1, (int file, int how), (file, how))
 WRAP(int, fsync, Flush, -1, (int file), (file))
 WRAP(int, rename, Rename, -1, (const char* from, const char* to), (from, to))
 WRAP(int, unlink, Remove, -1, (const char* path), (path))
+// What fails to close is closed all the same.
+WRAP(int, close, Close, (__real_close(file), errno = EIO, -1), (int file), (file))
+WRAP(int, closedir, Close, (__real_closedir(folder), errno = EIO, -1), (DIR * folder), (folder))
 
 int __real_open(const char* path, int flags, ...);
-int __real_close(int file);
-int __real_closedir(DIR* folder);
 ssize_t __real_read(int file, void* bytes, size_t size);
 ssize_t __real_write(int file, const void* bytes, size_t size);
 
@@ -120,21 +121,6 @@ int __wrap_open(const char* path, int flags, ...) {
   const int mode = (flags & O_CREAT) != 0 ? va_arg(rest, int) : 0;
   va_end(rest);
   return fails((flags & O_CREAT) != 0 ? Kind::Make : Kind::Open) ? -1 : __real_open(path, flags, mode);
-}
-
-int __wrap_close(int file) {
-  // The file is closed all the same.
-  const bool failing = fails(Kind::Close);
-  const int result = __real_close(file);
-  if (failing) errno = EIO;
-  return failing ? -1 : result;
-}
-
-int __wrap_closedir(DIR* folder) {
-  const bool failing = fails(Kind::Close);
-  const int result = __real_closedir(folder);
-  if (failing) errno = EIO;
-  return failing ? -1 : result;
 }
 
 ssize_t __wrap_read(int file, void* bytes, size_t size) {
