@@ -12,38 +12,27 @@ namespace endurance {
 namespace {
 
 /// The refusals and failures that have to occur, by a piece of their words.
-constexpr std::array<const char*, 14> Refusals{"Color already exist!",
-                                               "This name can't be used!",
-                                               "Key already exist!",
-                                               "Image must be in",
-                                               "No Themes Found",
-                                               "[nothing is selected]",
-                                               "[no object is selected]",
-                                               "can't be found again]",
-                                               "a letter outside the code page",
-                                               "stays as it is [",
-                                               "Error while reading Value [",
-                                               "Error while adding colors []",
-                                               "Error while saving files [",
-                                               "Error while saving temporary files ["};
+const QStringList Refusals =
+    u"Color already exist!|This name can't be used!|Key already exist!|Image must be in|No Themes Found|"
+    "[nothing is selected]|[no object is selected]|can't be found again]|a letter outside the code page|"
+    "stays as it is [|Error while reading Value [|Error while adding colors []|Error while saving files [|"
+    "Error while saving temporary files ["_s.split(u'|');
 /// Commands, answers of dialogs, editor frames, and what the hand on the preview did.
-constexpr std::array<const char*, 25> Others{
-    "Open",      "Save",   "Close",   "Background",   "end",       "a yes", "no yes",  "ok",    "a name",
-    "no name",   "a file", "no file", "a colour",     "no colour", "open",  "cancel",  "Color", "Numbers",
-    "Selection", "Texts",  "Texture", "FloatNumbers", "moved",     "sized", "given up"};
+const QStringList Others =
+    u"Open|Save|Close|Background|end|a yes|no yes|ok|a name|no name|a file|no file|a colour|no colour|open|cancel|"
+    "Color|Numbers|Selection|Texts|Texture|FloatNumbers|moved|sized|given up"_s.split(u'|');
 
 const QString Crowd = u"Themes/A crowd.ini"_s;
 
 /// A theme that fills the table of colours, with sections that can't be found again.
 QByteArray crowdedTheme() {
-  QByteArray theme = "[Theme]\r\nName=A crowd\r\n[Colors]\r\n";
-  for (int i = 0; i < 100; ++i) theme += "C" + QByteArray::number(i) + "=1 2 3\r\n";
+  QByteArray theme = "[Theme]|Name=A crowd|" + support::manyColors(100);
   for (const QByteArray screen : {"Loading", "Main"}) {
-    theme += "[" + screen + "]\r\n[" + screen + "Static]x]\r\nX=1\r\nFont=40000\r\n[" + screen +
-             "StaticA]\r\nTex=Plate\r\nX=1\r\nY=1\r\nW=90\r\nH=60\r\nZ=0.5\r\nColor=C5\r\nDColor=C6\r\nTColor=C7\r\n[" +
-             screen + "TextA]\r\nX=1\r\nAlign=1\r\nText=OKAY\r\nColor=C8\r\n";
+    theme += "[" + screen + "]|[" + screen + "Static]x]|X=1|Font=40000|[" + screen +
+             "StaticA]|Tex=Plate|X=1|Y=1|W=90|H=60|Z=0.5|Color=C5|DColor=C6|TColor=C7|[" + screen +
+             "TextA]|X=1|Align=1|Text=OKAY|Color=C8|";
   }
-  return theme;
+  return support::linesOf(theme);
 }
 
 }  // namespace
@@ -58,7 +47,7 @@ bool RandomDialogs::answered(const char* answer) {
 
 platform::BoxAnswer RandomDialogs::messageBox(QWidget* /*parent*/, const QString& text, const QString& /*title*/,
                                               platform::BoxKind kind) {
-  for (const char* refusal : Refusals) counts_[QLatin1StringView(refusal)] += text.contains(QLatin1StringView(refusal));
+  for (const QString& refusal : Refusals) counts_[refusal] += text.contains(refusal);
   if (kind == platform::BoxKind::YesNoDefaultNo) {
     return answered("yes") ? platform::BoxAnswer::Yes : platform::BoxAnswer::No;
   }
@@ -69,9 +58,10 @@ platform::BoxAnswer RandomDialogs::messageBox(QWidget* /*parent*/, const QString
 
 QString RandomDialogs::inputBox(QWidget* /*parent*/, const QString& /*prompt*/, const QString& /*title*/) {
   if (!answered("name")) return {};
-  const QString number = QString::number(chance_.below(100));
-  return chance_.of(
-      QStringList{u"New"_s + number, u"Old"_s + number, u"c"_s + number, u"Plate"_s, u"OKAY"_s, u" odd "_s, u"a=b"_s});
+  const QString fresh = u"New"_s + QString::number(chance_.below(20));
+  // Behind it: colours of each theme, keys, and what can't be a name.
+  return chance_.of(QStringList{fresh, u"c7"_s, u"c8"_s, u"c9"_s, u"Accent"_s, u"Ink"_s, u"red"_s, u"Plate"_s,
+                                u"OKAY"_s, u" odd "_s, u"a=b"_s});
 }
 
 QString RandomDialogs::openFile(QWidget* /*parent*/, const platform::FileRequest& request) {
@@ -87,8 +77,7 @@ std::optional<QColor> RandomDialogs::chooseColor(QWidget* /*parent*/, const QCol
 }
 
 Monkey::Monkey(quint32 seed) : chance_(seed), dialogs_(chance_, counts_) {
-  for (const char* name : Refusals) counts_[QLatin1StringView(name)] = 0;
-  for (const char* name : Others) counts_[QLatin1StringView(name)] = 0;
+  for (const QString& name : Refusals + Others) counts_[name] = 0;
   game_.copySample();
   QDir(game_.native(u"Skins"_s)).mkdir(u"A crowd"_s);
   game_.put(u"Skins/A crowd/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");
@@ -115,7 +104,7 @@ void Monkey::start() {
   QObject::connect(&form().queue(), &controls::WorkQueue::yielding, &form(), [this] { checkYield(); });
   // Both are told behind the program itself.
   QObject::connect(form().ToolBar, &toolbar::McToolBar::Click, &form(), [this](int button) {
-    ++counts_[QLatin1StringView(Others.at(static_cast<size_t>(button - 1)))];
+    ++counts_[Others.at(button - 1)];
     noteSave();
   });
   for (auto* shortcut : form().findChildren<QShortcut*>()) {
@@ -145,8 +134,7 @@ void Monkey::readStatus() {
   const QString status = form().StatusBar->panel(1);
   if (status == lastStatus_) return;
   lastStatus_ = status;
-  for (const char* refusal : Refusals)
-    counts_[QLatin1StringView(refusal)] += status.contains(QLatin1StringView(refusal));
+  for (const QString& refusal : Refusals) counts_[refusal] += status.contains(refusal);
 }
 
 void Monkey::checkYield() {
