@@ -1,5 +1,3 @@
-#include <cmath>
-
 #include <QFontInfo>
 #include <QTest>
 
@@ -91,19 +89,6 @@ class DrawingTest : public QObject {
       QCOMPARE(surface.takeDirty(), shown);
       QCOMPARE(inkOf(surface.image()), shown);
       if (!shown.isEmpty()) QVERIFY(inkOf(surface.image().copy(shown), Inside).isNull());
-    }
-  }
-
-  void blendsAndScales() {
-    Sheet surface;
-    surface.drawImage(picture({qRgba(0, 0, 0, 128), qRgba(1, 2, 3, 255), qRgba(1, 2, 3, 0)}, 3), 10, 10);
-    QCOMPARE(qRed(surface.image().pixel(10, 10)), 127);
-    QCOMPARE(surface.image().pixel(11, 10), qRgb(1, 2, 3));
-    QCOMPARE(surface.image().pixel(12, 10), Ground);
-    surface.drawImageRect(picture({qRgb(0, 0, 0), Ground}, 2), 0, 0, 16, 2);
-    for (int x = 0; x < 16; ++x) {
-      const double expected = std::clamp((x + 0.5) / 8 - 0.5, 0.0, 1.0) * 255;
-      QVERIFY(std::abs(qRed(surface.image().pixel(x, 1)) - expected) < 3);
     }
   }
 

@@ -14,7 +14,7 @@ QRgb patch(int x, int y) {
   return qRgba(x * 16, y * 20, (x + y) * 9, 255 - 20 * (x % 3));
 }
 QRgb faint(int x, int y) {
-  return qRgba(3 * x, 200 - 10 * y, 100 + y, 1 + (x + y) % 3);
+  return qRgba(3 * x, 200 - 10 * y, 100 + y, (x + y) % 4);
 }
 QRgb blocks(int x, int y) {
   const QRgb colors[2][2] = {{qRgb(255, 0, 0), qRgb(0, 255, 0)}, {qRgb(0, 0, 255), qRgb(240, 240, 0)}};
@@ -36,11 +36,6 @@ Pixel plain(const Pixel& p) {
 Pixel red(const Pixel& p) {
   const double least = std::min({p[0], p[1], p[2]});
   return {std::max({p[0], p[1], p[2]}), least, least, p[3]};
-}
-/// Hue 240, by a blue that isn't pure.
-Pixel blue(const Pixel& p) {
-  const double least = std::min({p[0], p[1], p[2]});
-  return {least, least, std::max({p[0], p[1], p[2]}), p[3]};
 }
 /// 200 100 50 by OR.
 Pixel font(const Pixel& p) {
@@ -78,15 +73,10 @@ const Case Cases[] = {
     {"Tex=Patch|X=150|Y=100|W=16|H=12|Color=Any|Type=Transparent", patch, plain, {150, 100, 16, 12}},
     {"Tex=Patch|X=200|Y=100|W=16|H=12|Color=Any", patch, plain, {200, 100, 16, 12}},
     {"Tex=Patch|X=250|Y=100|W=16|H=12|Color=Red|Type=Colorized", patch, red, {250, 100, 16, 12}},
-    {"Tex=Patch|X=300|Y=100|W=16|H=12|Color=Blue|Type=COLORIZED", patch, blue, {300, 100, 16, 12}},
     {"Tex=Patch|X=350|Y=100|W=16|H=12|Color=Font|Type=Font Black", patch, font, {350, 100, 16, 12}},
     {"Tex=Faint|X=100|Y=150|W=16|H=12|Color=Any|Type=Plain", faint, plain, {100, 150, 16, 12}},
     {"Tex=Faint|X=150|Y=150|W=16|H=12|Color=Red|Type=Colorized", faint, red, {150, 150, 16, 12}},
     {"Tex=Faint|X=200|Y=150|W=16|H=12|Color=Font|Type=Font Black", faint, font, {200, 150, 16, 12}},
-    {"Tex=Patch|X=-1|Y=200|W=90|H=50|Color=Any", patch, plain, {0, 0, 16, 12}},
-    {"Tex=Strip|X=200|Y=-1|W=90|H=50|Color=Any", patch, plain, {0, 0, 4, 40}},
-    {"Tex=Patch|X=100|Y=250|W=-1|H=50|Color=Any", patch, plain, {100, 250, 16, 12}},
-    {"Tex=Patch|X=200|Y=250|W=90|H=-1|Color=Red|Type=Colorized", patch, red, {200, 250, 16, 12}},
     {"Tex=Blocks|X=100|Y=300|W=40|H=20|Color=Any", stretched, plain, {QPoint(100, 300), Scaled}, 3.5},
 };
 
@@ -111,14 +101,13 @@ class PixelsOnScreenTest : public QObject {
 
  private Q_SLOTS:
   void initTestCase() {
-    QByteArray theme = "[Colors]|Any=1 2 3|Red=255 0 0|Blue=20 20 90|Font=200 100 50|[Loading]|";
+    QByteArray theme = "[Colors]|Any=1 2 3|Red=255 0 0|Font=200 100 50|[Loading]|";
     int number = 10;
     for (const Case& row : Cases) theme += "[LoadingStatic" + QByteArray::number(number++) + "]|" + row.keys + "|";
     game.put(ThemeFile, linesOf(theme));
-    game.put(SkinFile, linesOf("[Textures]|Patch=patch.png|Faint=faint.png|Strip=strip.png|Blocks=blocks.bmp|"));
+    game.put(SkinFile, linesOf("[Textures]|Patch=patch.png|Faint=faint.png|Blocks=blocks.bmp|"));
     save("patch.png", pictureOf(16, 12, patch));
     save("faint.png", pictureOf(16, 12, faint));
-    save("strip.png", pictureOf(4, 40, patch));
     save("blocks.bmp", pictureOf(2, 2, blocks));
   }
 

@@ -39,19 +39,12 @@ class PreviewTest : public QObject {
   }
   void cleanupTestCase() { program.reset(); }
 
-  void markOnThePickedObject() {
-    pickNamed(*tools().List1, "LoadingButtonB");
-    QCOMPARE(program->form.Workspace->mark(), QRectF(100, 200, 100, 40));
-    QTRY_COMPARE(screenPixel(100, 200), QColor(0xC0, 0, 0));
-    QTRY_COMPARE(screenPixel(199, 239), QColor(0xFF, 0x80, 0x80));
-    QCOMPARE(pixel(100, 200), QColor(0, 0, 250));
-  }
-
   void objectUnderTheMouse() {
     const std::pair<QPoint, const char*> clicks[] = {{{115, 115}, "LoadingButtonA"},
                                                      {{115, 115}, "LoadingStaticUnder"},
                                                      {{115, 115}, "LoadingButtonA"},
                                                      {{600, 400}, "LoadingButtonA"}};
+    pickNamed(*tools().List1, "LoadingButtonB");
     for (const auto& [place, object] : clicks) {
       pickNamed(*tools().ListView1, "X");
       press(*tools().Text1);
@@ -70,17 +63,6 @@ class PreviewTest : public QObject {
     for (const auto* row : tools().List1->findItems(u"Loading"_s, Qt::MatchStartsWith)) {
       QCOMPARE(row->toolTip().contains(reason), row->text().endsWith(u"Lost"));
     }
-  }
-
-  void selectedButton() {
-    QCOMPARE(pixel(150, 150), QColor(250, 0, 0));
-    QCOMPARE(pixel(150, 220), QColor(0, 0, 250));
-    pickEntry(*program->form.Combo2, 1);
-    settle();
-    QCOMPARE(program->state.SelectedButton, quint8(2));
-    QCOMPARE(pixel(150, 120), QColor(0, 0, 250));
-    QCOMPARE(pixel(150, 150), QColor(Qt::white));
-    QCOMPARE(pixel(150, 250), QColor(250, 0, 0));
   }
 
   void colourFollowsAtTheNextCommit() {
@@ -196,11 +178,6 @@ class PreviewTest : public QObject {
  private:
   Form2& tools() const { return program->tools(); }
   QColor pixel(int x = 320, int y = 120) const { return program->picture().pixelColor(x, y); }
-  QColor screenPixel(int x, int y) const {
-    const QPoint place = program->form.Workspace->mapToGlobal(QPoint(x, y));
-    return program->form.screen()->grabWindow(0, place.x(), place.y(), 1, 1).toImage().pixelColor(0, 0).rgb();
-  }
-
   void pick(const char* object, const char* key) const {
     pickNamed(*tools().List1, object);
     pickNamed(*tools().ListView1, key);

@@ -3,6 +3,7 @@
 #include <tuple>
 
 #include "support/snapshot.h"
+#include "toolwindow/finder_window.h"
 
 using namespace support;
 using platform::BoxAnswer;
@@ -77,6 +78,16 @@ bool arrowKeys(Program& program) {
   return true;
 }
 
+/// Goes to what the finder finds.
+bool find(Program& program, const QString& words) {
+  if (program.form.toolWindow() == nullptr) return false;
+  toolwindow::showFinder(program.tools());
+  auto& finder = *program.tools().findChild<toolwindow::FinderWindow*>();
+  QTest::keyClicks(finder.Line, words);
+  QTest::keyClick(finder.Line, Qt::Key_Return);
+  return !finder.isVisible();
+}
+
 constexpr Wish Wishes[] = {
     {"a number", nullptr, Static, "Y", "Command1"},
     {"a text", nullptr, "LoadingTextFree", "Text", "Command1", 't'},
@@ -99,6 +110,10 @@ constexpr Wish Wishes[] = {
     {"Update", update},
     {"Update, another screen", [](Program& p) { return update(p) && screen(p); }},
     {"another screen and back", [](Program& p) { return screen(p) && screen(p, u"Loading Screen"_s); }},
+    {"a hit", [](Program& p) { return find(p, u"loadingtextlater size=18"_s); }},
+    {"a hit elsewhere", [](Program& p) { return find(p, u"mainstatica x=10"_s); }},
+    {"a hit, another screen",
+     [](Program& p) { return find(p, u"mainstatica x=10"_s) && screen(p, u"Level Screen"_s); }},
     {"Save, Close", [](Program& p) { return click<2>(p) && click<3>(p); }},
     {"Close, No", [](Program& p) { return p.dialogs.boxes.clear(), click<3>(p); }},
     {"the window's end", [](Program& p) { return p.form.close(), true; }},
@@ -124,15 +139,8 @@ bool make(const Wish& wish, Program& program) {
 /// Equal but for the smoothed edges of letters, which the toolkit varies with the texts that it drew before.
 bool looksAlike(const QImage& a, const QImage& b) {
   constexpr int Smoothing = 16;
-  if (a.size() != b.size()) return false;
-  for (int y = 0; y < a.height(); ++y) {
-    const uchar* const one = a.constScanLine(y);
-    const uchar* const other = b.constScanLine(y);
-    for (qsizetype x = 0; x < a.bytesPerLine(); ++x) {
-      if (std::abs(one[x] - other[x]) > Smoothing) return false;
-    }
-  }
-  return true;
+  return std::equal(a.constBits(), a.constBits() + a.sizeInBytes(), b.constBits(), b.constBits() + b.sizeInBytes(),
+                    [](int one, int other) { return std::abs(one - other) <= Smoothing; });
 }
 
 using Order = std::vector<int>;  ///< rows of the table of wishes

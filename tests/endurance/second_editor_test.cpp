@@ -52,6 +52,11 @@ class SecondEditorTest : public QObject {
     QVERIFY(game.get(ThemeCopy).contains("Y=88") && !game.get(ThemeCopy).contains("X=77"));
     a.edit(u"Y"_s, u"89"_s);
     QVERIFY2(!a.status().contains(u"another program"), qPrintable(a.status()));
+    // No edit of the two vanishes.
+    b.edit(u"H"_s, u"33"_s);
+    a.edit(u"Y"_s, u"90"_s);
+    const QByteArray all = game.files().values().join();
+    for (const char* edit : {"X=77", "W=55", "Y=89", "H=33", "Y=90"}) QVERIFY2(all.contains(edit), edit);
   }
 
   void bothEditInTurn() {
@@ -126,21 +131,6 @@ class SecondEditorTest : public QObject {
     neighbour->wait();
     QVERIFY2(lost.isEmpty(), qPrintable(lost));
     QVERIFY2(turns >= 1000 && told > 20, qPrintable(u"%1 %2"_s.arg(turns).arg(told)));
-  }
-
-  void noEditOfTwoVanishes() {
-    const GameFolder game;
-    Program a(game);
-    Program b(game);
-    a.open();
-    a.edit();
-    b.open();
-    a.edit(u"Y"_s, u"88"_s);
-    b.edit(u"W"_s, u"55"_s);
-    a.edit(u"H"_s, u"33"_s);
-    QByteArray all;
-    for (const QByteArray& bytes : game.files()) all += bytes;
-    for (const char* edit : {"X=77", "Y=88", "W=55", "H=33"}) QVERIFY2(all.contains(edit), edit);
   }
 
   void theWorkingCopiesAreSweptAway() {

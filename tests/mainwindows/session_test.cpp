@@ -98,9 +98,7 @@ class SessionTest : public ProgramTest {
     program->click(3);
     QCOMPARE(program->status(), u"Closed"_s);
     // More colours than there is room for, and an older working copy.
-    QByteArray colors("[Colors]\r\n");
-    for (int i = 0; i < 120; ++i) colors += 'c' + QByteArray::number(i) + "=1 2 3\r\n";
-    game->put(ThemeFile, game->get(ThemeFile).replace("[Colors]\r\n", colors));
+    game->put(ThemeFile, game->get(ThemeFile).replace("[Colors]\r\n", linesOf(manyColors(120))));
     program->open();
     QVERIFY2(program->status().startsWith(u"Error while"), qPrintable(program->status()));
     QVERIFY2(program->status().contains(copy + u" held other changes"_s), qPrintable(program->status()));
@@ -128,9 +126,12 @@ class SessionTest : public ProgramTest {
 
   void choicesOfTheMainWindow() {
     Form1& form = program->form;
+    const auto isRed = [this](int x, int y) { return pixel(x, y).red() > pixel(x, y).blue(); };
+    QVERIFY(isRed(340, 220) && isRed(340, 320));  // the selected one by Color, the other by DColor
     form.Combo2->setFocus();
     QTest::keyClick(form.Combo2, Qt::Key_Down);
     QCOMPARE(program->state.SelectedButton, quint8(2));
+    QVERIFY(!isRed(340, 220) && !isRed(340, 320));
     QVERIFY2(pixel(310, 250) == pixel(310, 270), "the first button isn't the higher one any more");
     program->edit();
     QCOMPARE(form.Combo2->Text(), u"Select Button 2"_s);

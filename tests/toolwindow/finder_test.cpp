@@ -54,28 +54,6 @@ class FinderTest : public ProgramTest {
     QCOMPARE(place(), u"Loading Screen/LoadingButtonGo/SelectH"_s);
   }
 
-  /// A hit that is chosen while a screen is listed or drawn, at each of its yields; a later choice outranks it.
-  void goesDuringWork() {
-    const struct {
-      QString screen, later;
-    } choices[] = {{u"Main Screen"_s, {}}, {u"Level Screen"_s, {}}, {u"Level Screen"_s, u"Loading Screen"_s}};
-    for (const auto& choice : choices) {
-      for (int at = 1; at <= 12; ++at) {
-        program->screen(u"Loading Screen"_s);
-        int yields = 0;
-        QObject life;
-        connect(&program->form.queue(), &controls::WorkQueue::yielding, &life, [&] {
-          if (++yields != at) return;
-          key(find("mainstatica x=10"), Qt::Key_Return);
-          if (!choice.later.isEmpty()) program->screen(choice.later);
-        });
-        program->screen(choice.screen);
-        if (yields < at) break;
-        QCOMPARE(place(), choice.later.isEmpty() ? u"Main Screen/MainStaticA/X"_s : u"Loading Screen/Loading/"_s);
-      }
-    }
-  }
-
   void tellsWhatIsGone() {
     for (const auto& [section, told] :
          {std::pair{"[MainStaticA]\r\nY=1\r\n", u"X of MainStaticA"_s}, {"[Main]\r\n", u"MainStaticA"_s}}) {
