@@ -62,8 +62,8 @@ struct Start {
   bool isThere = true;  ///< the working copy has this text
 };
 
-/// Reads a working copy. If another program has changed it, what this program wrote last is kept, but only if it has
-/// edits in it. If the copy is missing or empty, the result is what this program wrote last.
+/// Reads a working copy. If another program has changed it, what this program wrote last is kept: the next Save puts
+/// the other text in the game's file. If the copy is missing or empty, the result is what this program wrote last.
 Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   const QString& copy = state.paths.*CopiedFiles.at(file);
   const auto standing = readCopy(copy);
@@ -77,7 +77,7 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
     notes += note.arg(copy);
     return {own, false};
   }
-  if (standing != own && digest(own) != state.fileDigests.at(file)) {
+  if (standing != own && !own.isEmpty()) {
     notes += QStringLiteral("%1 was changed by another program; what this one wrote is kept as %2")
                  .arg(copy, keepBeside(copy, own, u".old"));
   }

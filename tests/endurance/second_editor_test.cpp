@@ -70,13 +70,13 @@ class SecondEditorTest : public QObject {
       a.edit();
       const QByteArray edited = game.get(ThemeCopy);
       b.edit(u"W"_s, u"55"_s);
-      QVERIFY2(!b.status().contains(u"another program"), "it had no edits of its own");
+      QVERIFY(b.status().contains(u"another program") && game.get(Kept) == game.get(ThemeFile));
       a.dialogs.inputs = {u"Fresh"_s};
       if (name.name == "Save") a.click(2);
       if (name.name == "a commit") a.edit(u"H"_s, u"33"_s);
       if (name.name == "a colour") a.row(u"Color"_s), a.tools().Command3->click();
       QVERIFY2(a.status().contains(u"another program"), qPrintable(a.status()));
-      QCOMPARE(game.get(Kept), edited);
+      QCOMPARE(game.get(Kept + u".2"_s), edited);
       for (Program* program : {&a, &b}) {
         program->click(2);
         QVERIFY(game.get(ThemeFile).contains("X=77") && game.get(ThemeFile).contains("W=55"));
@@ -171,6 +171,11 @@ class SecondEditorTest : public QObject {
     program.tools().Command3->click();
     QCOMPARE(table(), (QStringList{u"red=9 9 9"_s, u"Blue=150 150 150"_s}));
     QVERIFY2(program.status().contains(u"Blue was 30 60 200"), qPrintable(program.status()));
+    // A name that only the file has.
+    game.put(ThemeCopy, game.get(ThemeCopy).replace("red=9 9 9", "red=9 9 9\r\nGreen=1 2 3"));
+    program.dialogs.inputs = {u"green"_s};
+    program.tools().Command3->click();
+    QVERIFY2(program.status().contains(u"green was 1 2 3"), qPrintable(program.status()));
   }
 };
 
