@@ -33,7 +33,7 @@ void showCellTip(const QAbstractItemView& view, const QHelpEvent& help) {
   const QRect shown = view.visualRect(cell).intersected(view.viewport()->rect());
   QStringList lines;
   if (view.sizeHintForIndex(cell).width() > shown.width()) lines += shownText(cell.data().toString());
-  lines += cell.data(Qt::ToolTipRole).toString();
+  lines += shownText(cell.data(Qt::ToolTipRole).toString());
   lines.removeAll(QString());
   QToolTip::showText(help.globalPos(), plainToolTip(lines.join(u'\n')), view.viewport(), shown);
 }

@@ -8,6 +8,9 @@
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QSignalBlocker>
+#include <QToolTip>
+
+#include "controls/shown_text.h"
 
 namespace controls {
 
@@ -34,9 +37,16 @@ QString TextBox::filtered(QString text) const {
   return text;
 }
 
+bool TextBox::fits(const QString& added) const {
+  return text().size() - selectedText().size() + added.size() <= LongestText;
+}
+
 void TextBox::pasteFiltered(QClipboard::Mode source) {
   const QString text = filtered(QGuiApplication::clipboard()->text(source));
-  if (!isReadOnly() && !text.isEmpty()) insert(text);
+  if (isReadOnly() || text.isEmpty()) return;
+  if (fits(text)) return insert(text);
+  QToolTip::showText(mapToGlobal(rect().bottomLeft()),
+                     QStringLiteral("Not pasted: a line takes no more than %1 letters").arg(LongestText), this);
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
@@ -48,7 +58,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
   const QString typed = event->text();
   const bool command = typed.isEmpty() || typed.front().category() == QChar::Other_Control ||
                        (event->modifiers() & ~Qt::ShiftModifier) == Qt::ControlModifier;
-  if (command || filtered(typed) == typed) QLineEdit::keyPressEvent(event);
+  if (command || (filtered(typed) == typed && fits(typed))) QLineEdit::keyPressEvent(event);
 }
 
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
@@ -61,13 +71,15 @@ void TextBox::mouseReleaseEvent(QMouseEvent* event) {
 
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
   QInputMethodEvent taken(event->preeditString(), event->attributes());
-  taken.setCommitString(filtered(event->commitString()), event->replacementStart(), event->replacementLength());
+  const QString typed = filtered(event->commitString());
+  taken.setCommitString(fits(typed) ? typed : QString(), event->replacementStart(), event->replacementLength());
   QLineEdit::inputMethodEvent(&taken);
   event->setAccepted(taken.isAccepted());
 }
 
 void TextBox::dragEnterEvent(QDragEnterEvent* event) {
-  if (filtered(event->mimeData()->text()).isEmpty()) {
+  const QString text = filtered(event->mimeData()->text());
+  if (text.isEmpty() || !fits(text)) {
     event->ignore();
   } else {
     QLineEdit::dragEnterEvent(event);

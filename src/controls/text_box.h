@@ -36,6 +36,8 @@ class TextBox : public QLineEdit {
  private:
   /// Pasted or dropped text as the box takes it: filtered, without line ends.
   QString filtered(QString text) const;
+  /// Whether the text with this in place of what is selected is one that the box shows whole.
+  bool fits(const QString& added) const;
   void pasteFiltered(QClipboard::Mode source);
 
   QString letters_;

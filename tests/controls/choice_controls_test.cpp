@@ -171,6 +171,11 @@ class ChoiceControlsTest : public QObject {
       QApplication::sendEvent(window.list.viewport(), &help);
       QTRY_COMPARE(QToolTip::text(), tip);
     }
+    window.list.setRowToolTip(0, QString(20'000'000, u'y'));
+    const QPoint place(10, window.listPlace(0).y());
+    QHelpEvent help(QEvent::ToolTip, place, window.list.viewport()->mapToGlobal(place));
+    QApplication::sendEvent(window.list.viewport(), &help);
+    QTRY_VERIFY(QToolTip::text().contains(u"yy..."));
   }
 
   void selectionIsGreyWithoutTheKeyboard() {

@@ -64,6 +64,20 @@ class TextBoxTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  /// The toolkit would cut a longer text without a word.
+  void takesNoMoreThanItShowsWhole() {
+    for (const auto& way : {type, paste, pasteSelection, drop, commit}) {
+      Window window;
+      window.box.SetText(QString(31'999, u'1'));
+      way(window.box, u"22"_s);
+      QCOMPARE(window.box.Text().count(u'2'), qsizetype(way == type ? 1 : 0));
+      QCOMPARE(window.box.Text().count(u'1'), qsizetype(31'999));
+      window.box.selectAll();
+      if (way == paste) way(window.box, QString(32'000, u'3'));
+      if (way == paste) QCOMPARE(window.box.Text(), QString(32'000, u'3'));
+    }
+  }
+
   void filterHoldsForEveryWayIn() {
     for (const auto& way : {type, paste, pasteSelection, drop, commit}) {
       const auto entered = [&](const QString& filter, const QString& text) {
