@@ -5,8 +5,10 @@
 #include <QSet>
 
 #include "platform/code_page.h"
+#include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/status_line.h"
 #include "themecheck/checked_theme.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/theme_paths.h"
@@ -58,7 +60,9 @@ void checkCase(const QString& folder, const IniFile& skin, const IniKey& key, Fi
   const QString native = platform::nativePath(folder);
   const QString plain = platform::plainPath(native + u'\\' + key.value);
   if (QFileInfo::exists(plain)) return;
-  const QString found = platform::findPath(plain);
+  QString found = plain;
+  // What can't be looked at is a finding of the drawing.
+  platform::guardedSilently([&] { found = platform::findPath(plain); });
   if (found == plain || !QFileInfo::exists(found)) return;
   findings.add(Kind::OtherCase, skin.place(Textures, key.name), {key.value, found.sliced(native.size() + 1)});
 }
@@ -68,11 +72,16 @@ void checkPictures(const QString& folder, const CheckedTheme& theme, Findings& f
   for (const IniFile& skin : theme.skins) {
     for (const IniKey* key : keysOf(skin, Textures)) named += upperCase(key->value);
   }
-  for (const QStringView ending : PictureEndings) {
-    for (const QString& picture : platform::listFiles(folder, ending.toString())) {
-      if (named.contains(upperCase(picture))) continue;
-      findings.add(Kind::UnusedPicture, {QStringLiteral("Skins/%1/%2").arg(theme.theme.name(), picture), 0, {}, {}});
+  const QString shown = QStringLiteral("Skins/") + theme.theme.name();
+  try {
+    for (const QStringView ending : PictureEndings) {
+      for (const QString& picture : platform::listFiles(folder, ending.toString())) {
+        if (named.contains(upperCase(picture))) continue;
+        findings.add(Kind::UnusedPicture, {shown + u'/' + picture, 0, {}, {}});
+      }
     }
+  } catch (const platform::Failure& failure) {
+    findings.add(Kind::CantBeRead, {shown, 0, {}, {}}, {failure.description()});
   }
 }
 

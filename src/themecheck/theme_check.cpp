@@ -29,6 +29,12 @@ QStringList chosen(const QStringList& names, const QStringList& asked, const QSt
   return asked.isEmpty() ? names : found;
 }
 
+/// Two files may have the same name but for the case of their ending; the game opens one of them.
+QStringList eachOnce(QStringList names) {
+  names.removeDuplicates();
+  return names;
+}
+
 QStringList onlyName(const QString& name) {
   return name.isEmpty() ? QStringList() : QStringList(name);
 }
@@ -61,16 +67,15 @@ GameCheck::GameCheck(const Request& request, const Progress& progress) : request
   const QDir game(request.gameFolder);
   if (!game.exists()) throw platform::Failure(QStringLiteral("no folder '%1'").arg(request.gameFolder));
   folder_ = platform::programPath(game.absolutePath()) + u'\\';
-  const QStringList themes = themefiles::themesOf(folder_);
+  const QStringList themes = eachOnce(themefiles::themesOf(folder_));
   if (themes.isEmpty()) throw platform::Failure(QStringLiteral("no themes in '%1'").arg(request.gameFolder));
   themeNames_ = chosen(themes, request.themes, QStringLiteral("theme"));
-  const QStringList languages = themefiles::languagesOf(folder_);
+  const QStringList languages = eachOnce(themefiles::languagesOf(folder_));
   languageNames_ = chosen(languages, onlyName(request.language), QStringLiteral("language"));
   if (!request.skin.isEmpty()) {
     QStringList skins;
     for (const QString& theme : themeNames_) skins += themefiles::skinsOf(folder_, theme);
-    skins.removeDuplicates();
-    chosen(skins, {request.skin}, QStringLiteral("skin"));
+    chosen(eachOnce(skins), {request.skin}, QStringLiteral("skin"));
   }
   for (const QString& name : themes) {
     auto theme = read(name, themefiles::pathsOf(folder_, name, {}, {}).ThemeFile, themeNames_.contains(name));
@@ -110,7 +115,7 @@ std::vector<Finding> GameCheck::run() {
 }
 
 void GameCheck::checkTheme(const IniFile& file) {
-  const QStringList skins = themefiles::skinsOf(folder_, file.name());
+  const QStringList skins = eachOnce(themefiles::skinsOf(folder_, file.name()));
   CheckedTheme theme{folder_, file, {}, languages_, {}, languageNames_, true};
   for (const QString& name : skins) {
     const bool wanted = request_.skin.isEmpty() || platform::sameName(name, request_.skin);

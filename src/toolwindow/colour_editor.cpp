@@ -166,14 +166,18 @@ void Command3_Click(Form2& form) {
   // Another group is on show and the theme already has the name: the file has one line for it, so the table gets no
   // second row.
   auto row = rowLike(state, name);
-  const QString replaced = row == state.ThemeColors.end() ? QString() : row->Value;
   if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
   if (row == state.ThemeColors.end()) {
     form.services.status.ShowStatus(platform::reportText(step.toString(), QString()));
     return;
   }
+  // The file may have a colour of the name that the table had no room for, or that another program has added.
+  QString replaced;
+  const bool read = platform::guarded(form.services.status, step.toString(), [&] {
+    replaced = themefiles::wholeValue(section(), name, state.paths.ThemeFile);
+  });
   const platform::Telling telling(form.services.status);
-  if (!writeColor(form, step, name, newColor())) return;
+  if (!read || !writeColor(form, step, name, newColor())) return;
   if (row->Name.isEmpty()) row->Name = name;
   setRowsLike(form, name, newColor());
   form.Combo3->AddItem(row->Name);
