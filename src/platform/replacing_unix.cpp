@@ -137,7 +137,10 @@ std::optional<FileError> replaceBytes(const QString& native, QByteArrayView byte
   int file = -1;
   if (const int error = makeInTurn(name, file)) {
     if (error == EAGAIN) return FileError{QStringLiteral("Another program is writing this file")};
-    return errorOf(error);
+    struct stat left;
+    if (::lstat(name.constData(), &left) != 0) return errorOf(error);
+    return FileError{QStringLiteral("%1 is left from an earlier write and can't be removed: %2")
+                         .arg(QFile::decodeName(name), errorOf(error)->description)};
   }
   int error = replaces ? keepOwnerAndMode(file, old) : 0;
   if (error == 0) error = writeAll(file, bytes);
