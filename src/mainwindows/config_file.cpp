@@ -82,8 +82,8 @@ QStringList configFolders() {
   const QString program = QCoreApplication::applicationDirPath();
   if (!isInstalled(program)) folders += platform::programPath(program);
   const QString user = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
-  if (QDir().mkpath(user)) folders += platform::programPath(user);
-  return folders;
+  QDir().mkpath(user);  // the making of the file tells if that failed
+  return folders << platform::programPath(user);
 }
 
 }  // namespace mainwindows

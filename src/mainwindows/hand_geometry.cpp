@@ -2,8 +2,12 @@
 
 #include <algorithm>
 
+#include "platform/code_page.h"
 #include "platform/failure.h"
+#include "platform/files.h"
 #include "platform/numbers.h"
+#include "platform/profile_reading.h"
+#include "themefiles/ini_access.h"
 
 namespace mainwindows {
 namespace {
@@ -71,7 +75,10 @@ Qt::CursorShape shapeOf(Grip grip) {
   return grip.across == grip.down ? Qt::SizeFDiagCursor : Qt::SizeBDiagCursor;
 }
 
-HeldNumbers readHeld(const themefiles::SectionReader& section, Grip grip, const QString& heightKey) {
+HeldNumbers readHeld(const QString& name, const QString& fileName, Grip grip, const QString& heightKey) {
+  const QByteArray file = platform::readFile(fileName);
+  const themefiles::SectionReader section(
+      file, platform::findProfileSection(file, platform::toAnsi(name).value_or(QByteArray())));
   if (!section.isThere()) throw platform::Failure(QStringLiteral("its section is gone"));
   HeldNumbers numbers;
   numbers.heightKey = heightKey;

@@ -8,8 +8,6 @@
 #include <QString>
 #include <Qt>
 
-#include "themefiles/ini_access.h"
-
 /// The numbers of an object that is moved or sized by hand.
 namespace mainwindows {
 
@@ -36,9 +34,9 @@ struct HeldNumbers {
   QString heightKey;  ///< H, or SelectH of a button that is drawn with that
 };
 
-/// Reads the numbers of a section. `heightKey` is empty for a text. Throws platform::Failure with the reason why the
-/// object can't be moved or sized.
-HeldNumbers readHeld(const themefiles::SectionReader& section, Grip grip, const QString& heightKey);
+/// Reads the numbers of the section `name`. `heightKey` is empty for a text. Throws platform::Failure with the reason
+/// why the object can't be moved or sized.
+HeldNumbers readHeld(const QString& name, const QString& fileName, Grip grip, const QString& heightKey);
 
 /// The numbers after a movement of the grip: whole, 0 to 10,000, sizes from 1. An edge that isn't held stays.
 HeldNumbers moved(const HeldNumbers& start, Grip grip, const QPoint& movement);

@@ -212,7 +212,7 @@ bool PreviewHand::take(const Selected& selected, Grip grip, bool tells) {
   section_ = selected.section;
   grip_ = grip;
   const auto read = [&] {
-    start_ = readHeld({section_, form_.services.state.paths.ThemeFile}, grip, selected.heightKey);
+    start_ = readHeld(section_, form_.services.state.paths.ThemeFile, grip, selected.heightKey);
     now_ = start_;
   };
   if (!tells) return platform::guardedSilently(read);
@@ -234,7 +234,8 @@ bool PreviewHand::keyPress(const QKeyEvent& event) {
 
 void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
   const Grip grip = (event.modifiers() & Qt::ControlModifier) != 0 ? SizingKeys : Grip();
-  if (stage_ == Stage::Keys && grip != grip_) settle();
+  // Committing serves events: a key among them may have begun anew.
+  while (stage_ == Stage::Keys && grip != grip_) settle();
   if (form_.toolWindow() == nullptr) return;
   // What height a button is drawn with is known when it has been drawn.
   if (stage_ == Stage::None && grip.sizes() && form_.queue().busy()) return;
@@ -272,7 +273,7 @@ void PreviewHand::commit() {
   if (values.empty()) return restore();
   // Another program may have taken the section away meanwhile.
   const bool stands = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), [&] {
-    readHeld({section_, form_.services.state.paths.ThemeFile}, grip_, start_.heightKey);
+    readHeld(section_, form_.services.state.paths.ThemeFile, grip_, start_.heightKey);
   });
   const QString section = section_;
   if (!stands || !toolwindow::commitValues(*form_.toolWindow(), section, values)) restore();

@@ -6,6 +6,7 @@
 
 #include <QAccessibleWidget>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -172,6 +173,12 @@ void Workspace::mouseMoveEvent(QMouseEvent* event) {
 
 void Workspace::contextMenuEvent(QContextMenuEvent* event) {
   Q_EMIT menuAsked(event->globalPos());
+}
+
+void Workspace::keyPressEvent(QKeyEvent* event) {
+  // The toolkit knows only the Menu key.
+  if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::ShiftModifier) return QWidget::keyPressEvent(event);
+  Q_EMIT menuAsked(mapToGlobal(rect().center()));
 }
 
 }  // namespace mainwindows

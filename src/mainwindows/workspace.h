@@ -50,6 +50,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
   void paintEvent(QPaintEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   void Timer1_Timer();

@@ -3,6 +3,7 @@
 #include "mainwindows/hand_geometry.h"
 #include "support/row_name.h"
 #include "support/snapshot.h"
+#include "themefiles/ini_access.h"
 
 using namespace support;
 using mainwindows::Grip;
@@ -115,7 +116,7 @@ class PreviewHandTest : public ProgramTest {
       program->tools().ListView1->selectRow(-1);
       QStringList differing = differences(dragged, snapshot(*program, *game));
       differing.removeAll(u"height"_s);  // an editor is open
-      differing.removeAll(u"flags"_s);
+      differing.removeAll(u"editor"_s);
       QCOMPARE(differing, QStringList());
     }
   }
@@ -197,13 +198,26 @@ class PreviewHandTest : public ProgramTest {
 
   void sectionRemovedMeanwhile() {
     program->tag(u"LoadingStaticA"_s);
+    const QImage before = program->picture();
     hold(Inside, {30, 20});
+    QCOMPARE(preview().accessibleDescription(), u"X 70, Y 70"_s);  // the label's words
     const QByteArray without = game->get(ThemeCopy).replace("[LoadingStaticA]", "[Elsewhere]");
     game->put(ThemeCopy, without);
     drop(Inside + QPoint(30, 20));
     QCOMPARE(game->get(ThemeCopy), without);
     QCOMPARE(program->status(), u"LoadingStaticA stays as it is [its section is gone]"_s);
-    QVERIFY(!program->state.Changed);
+    QVERIFY(!program->state.Changed && program->picture() == before && preview().accessibleDescription().isEmpty());
+  }
+
+  void pointerTellsWhatAPressDoes() {
+    program->tag(u"LoadingStaticA"_s);
+    const std::pair<QPoint, Qt::CursorShape> rows[] = {
+        {Inside, Qt::SizeAllCursor},   {{41, 51}, Qt::SizeFDiagCursor}, {{138, 51}, Qt::SizeBDiagCursor},
+        {{41, 80}, Qt::SizeHorCursor}, {{90, 108}, Qt::SizeVerCursor},  {{600, 500}, Qt::ArrowCursor}};
+    for (const auto& [place, shape] : rows) {
+      moveMouse(preview(), place, Qt::NoButton);
+      QCOMPARE(preview().cursor().shape(), shape);
+    }
   }
 
   void keysAreOneEdit() {
@@ -232,18 +246,31 @@ class PreviewHandTest : public ProgramTest {
   }
 
   void refusals() {
-    const std::pair<const char*, const char*> rows[] = {{"X", ""}, {"X", "wide"}, {"Y", "-1"}, {"X", "99999999999"}};
-    for (const auto& [key, value] : rows) {
+    const QString ownSize = u"a texture drawn at its own size can't be sized"_s;
+    const struct {
+      const char *key, *value;
+      Qt::KeyboardModifiers keys;
+      QString why;
+    } rows[] = {{"X", "", {}, u"X is missing"_s},
+                {"X", "wide", {}, u"X: wide is no number"_s},
+                {"Y", "-1", {}, u"Y is -1"_s},
+                {"X", "99999999999", {}, u"X: 99999999999 is too large"_s},
+                {"X", "-1", Qt::ControlModifier, ownSize},
+                {"H", "-1", Qt::ControlModifier, ownSize}};
+    for (const auto& [key, value, keys, why] : rows) {
       program->tag(u"LoadingStaticA"_s);
       put(key, value);
       const QByteArray file = game->get(ThemeCopy);
       preview().setFocus();
-      QTest::keyClick(&preview(), Qt::Key_Right);
+      QTest::keyClick(&preview(), Qt::Key_Right, keys);
       QTest::qWait(400);
-      QVERIFY2(program->status().startsWith(u"LoadingStaticA stays as it is ["_s), qPrintable(program->status()));
+      QCOMPARE(program->status(), u"LoadingStaticA stays as it is [%1]"_s.arg(why));
       QCOMPARE(game->get(ThemeCopy), file);
       put(key, "40");
     }
+    program->tag(u"LoadingTextFree"_s);
+    QTest::keyClick(&preview(), Qt::Key_Right, Qt::ControlModifier);
+    QCOMPARE(program->status(), u"LoadingTextFree stays as it is [a text can't be sized]"_s);
   }
 };
 

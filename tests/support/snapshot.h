@@ -5,6 +5,13 @@
 /// For tests that compare what the program has come to, one way and another.
 namespace support {
 
+inline QVariantList account(const renderer::RenderAccount& account) {
+  QVariantList all;
+  for (const auto& object : account.objects) all += QVariantList{object.section, object.place, object.heightKey};
+  for (const auto& entry : account.missing) all += renderer::reasonText(entry);
+  return all;
+}
+
 /// What a user has of the program and the game's files, by name; what isn't there is left out.
 inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
   const mainwindows::Form1& form = program.form;
@@ -34,8 +41,11 @@ inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
                                   tools.Text2->Text(), tools.Text3->Text(), tools.Command2->BackColor().name()}},
        {u"chosen"_s, QVariantList{form.Combo2->ListIndex(), tools.Combo1->Text(), tools.List1->ListIndex(),
                                   tools.ListView1->selectedRow()}},
-       {u"flags"_s, QVariantList{state.EditorShown, state.ButtonListFilled, state.SelectedButton, state.ButtonCount,
-                                 state.ProgressStep, state.Filter.OnlyTags + state.Filter.SkipTags}},
+       {u"editor"_s, state.EditorShown},
+       {u"flags"_s, QVariantList{state.ButtonListFilled, state.SelectedButton, state.ButtonCount, state.ProgressStep,
+                                 state.Filter.OnlyTags + state.Filter.SkipTags}},
+       {u"record"_s, QStringList{state.CursorRect.X, state.CursorRect.Y, state.CursorRect.W, state.CursorRect.H}},
+       {u"account"_s, account(form.account())},
        {u"pen"_s, preview.surface().FontName() + QString::number(preview.surface().FontSize())},
        {u"height"_s, tools.height()}});
   return all;
