@@ -111,6 +111,9 @@ WRAP(int, unlink, Remove, -1, (const char* path), (path))
 WRAP(int, close, Close, (__real_close(file), errno = EIO, -1), (int file), (file))
 WRAP(int, closedir, Close, (__real_closedir(folder), errno = EIO, -1), (DIR * folder), (folder))
 
+// Where the compiler checks calls, an open of a file that is there already has this name.
+WRAP(int, __open_2, Open, -1, (const char* path, int flags), (path, flags))
+
 int __real_open(const char* path, int flags, ...);
 ssize_t __real_read(int file, void* bytes, size_t size);
 ssize_t __real_write(int file, const void* bytes, size_t size);
