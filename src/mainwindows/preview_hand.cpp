@@ -17,8 +17,6 @@
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
-#include "renderer/render_context.h"
-#include "renderer/trial_drawing.h"
 #include "themefiles/module_state.h"
 #include "toolwindow/object_selection.h"
 #include "toolwindow/tool_window.h"
@@ -53,7 +51,7 @@ QPoint held(const QPoint& movement) {
 
 }  // namespace
 
-PreviewHand::PreviewHand(Form1& form) : QObject(&form), form_(form), pacer_([this] { showFrame(); }) {
+PreviewHand::PreviewHand(Form1& form) : QObject(&form), form_(form), trial_(form), pacer_([this] { showFrame(); }) {
   form.Workspace->installEventFilter(this);
   rest_.setSingleShot(true);
   rest_.setInterval(KeysRestTime);
@@ -75,7 +73,7 @@ void PreviewHand::settle() {
 
 void PreviewHand::giveUpDrag() {
   if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
-  trial_.reset();
+  trial_.forget();
   if (stage_ == Stage::Keys) pacer_.request();
 }
 
@@ -85,7 +83,7 @@ void PreviewHand::forgetPlaces() {
 
 void PreviewHand::letGo() {
   stage_ = Stage::None;
-  trial_.reset();
+  trial_.forget();
   heldKeys_.clear();
   form_.Workspace->setHandLabel({});
   form_.Workspace->unsetCursor();
@@ -257,44 +255,29 @@ void PreviewHand::keyRelease(const QKeyEvent& event) {
 void PreviewHand::showFrame() {
   if (stage_ != Stage::Dragging && stage_ != Stage::Keys) return;
   if (form_.queue().busy()) return pacer_.request();
-  const renderer::TrialValues values{section_, changedValues(start_, now_)};
-  Workspace& preview = *form_.Workspace;
-  if (!trial_) trial_ = Trial{preview.surface().image(), {}};
-  platform::guardedSilently([&] { renderer::drawTrial(form_.renderContext(), values, trial_->files); });
-  renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, values);
-  preview.Refresh();
-  preview.setHandLabel(labelOf(now_, grip_), stage_ == Stage::Dragging ? mouse_ : preview.markRect().bottomRight());
+  trial_.show({section_, changedValues(start_, now_)});
+  form_.Workspace->setHandLabel(labelOf(now_, grip_),
+                                stage_ == Stage::Dragging ? mouse_ : form_.Workspace->markRect().bottomRight());
 }
 
 void PreviewHand::commit() {
   stage_ = Stage::None;
   form_.Workspace->setHandLabel({});
   const auto values = changedValues(start_, now_);
-  if (values.empty()) return restore();
+  if (values.empty()) return trial_.putBack();
   // Another program may have taken the section away meanwhile.
   const bool stands = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), [&] {
     readHeld(section_, form_.services.state.paths.ThemeFile, grip_, start_.heightKey);
   });
   const QString section = section_;
-  if (!stands || !toolwindow::commitValues(*form_.toolWindow(), section, values)) restore();
+  if (!stands || !toolwindow::commitValues(*form_.toolWindow(), section, values)) trial_.putBack();
 }
 
 void PreviewHand::giveUp() {
   const bool shown = stage_ != Stage::Pressed;
   stage_ = Stage::None;
   form_.Workspace->setHandLabel({});
-  if (shown) restore();
-}
-
-/// Puts picture and mark back.
-void PreviewHand::restore() {
-  if (form_.toolWindow() == nullptr) return;
-  Workspace& preview = *form_.Workspace;
-  if (trial_) preview.surface().putBack(trial_->before);
-  trial_.reset();
-  form_.renderContext().pictures->letGo();
-  renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, {});
-  preview.Refresh();
+  if (shown) trial_.putBack();
 }
 
 }  // namespace mainwindows

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <optional>
-
-#include <QImage>
 #include <QMouseEvent>
 #include <QObject>
 #include <QSet>
@@ -11,7 +8,7 @@
 #include "controls/frame_pacer.h"
 #include "mainwindows/hand_geometry.h"
 #include "mainwindows/preview_picking.h"
-#include "renderer/trial_values.h"
+#include "mainwindows/trial_picture.h"
 
 class QKeyEvent;
 
@@ -54,11 +51,6 @@ class PreviewHand : public QObject {
     bool under = false;  ///< whether the pixel asked for lies in it
   };
 
-  struct Trial {
-    QImage before;  ///< the picture without the values
-    renderer::TrialFiles files;
-  };
-
   bool press(const QMouseEvent& event);
   void move(const QMouseEvent& event);
   bool release(const QMouseEvent& event);
@@ -72,7 +64,6 @@ class PreviewHand : public QObject {
   void showFrame();
   void commit();
   void giveUp();
-  void restore();
 
   Form1& form_;
   PreviewPicking picking_;
@@ -85,7 +76,7 @@ class PreviewHand : public QObject {
   Grip grip_;
   HeldNumbers start_;
   HeldNumbers now_;
-  std::optional<Trial> trial_;  ///< while the picture shows values on trial
+  TrialPicture trial_;
   QSet<int> heldKeys_;
   QTimer rest_;  ///< runs out when the keys have rested
   controls::FramePacer pacer_;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+
+#include <QImage>
+
+#include "renderer/trial_values.h"
+
+namespace mainwindows {
+
+class Form1;
+
+/// The preview with values on trial, while an object is in the hand.
+class TrialPicture {
+ public:
+  explicit TrialPicture(Form1& form) : form_(form) {}
+
+  /// Draws a frame with the values; the mark follows. Works only while no drawing runs.
+  void show(const renderer::TrialValues& values);
+  /// Puts picture and mark back as they were before the first frame.
+  void putBack();
+  /// To be called when something else paints the preview: there is nothing to put back.
+  void forget() { shown_.reset(); }
+
+ private:
+  struct Shown {
+    QImage before;  ///< the picture without the values
+    renderer::TrialFiles files;
+  };
+
+  Form1& form_;
+  std::optional<Shown> shown_;
+};
+
+}  // namespace mainwindows
