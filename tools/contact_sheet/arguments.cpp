@@ -10,6 +10,15 @@ namespace {
 
 constexpr int Names = 5;
 
+QString usage() {
+  return QStringLiteral(
+      "Usage: cantorama-contact-sheet GAME_FOLDER THEME SKIN LANGUAGE OUTPUT_FOLDER [--scheme NAME] [--selected N]\n"
+      "Draws the 32 screens of a theme into OUTPUT_FOLDER: 01.png to 32.png, overview.png with all of them, and\n"
+      "report.tsv, which tells of every section whether it was drawn, and if not why.\n"
+      "  --scheme NAME   colour scheme in force (else the first one)\n"
+      "  --selected N    draw button N of every screen as the selected one (else the first)");
+}
+
 quint8 buttonNumber(const QString& text) {
   bool isNumber = false;
   const uint number = text.toUInt(&isNumber);
@@ -37,15 +46,17 @@ void refuseOutputInGame(const Arguments& arguments) {
 
 Arguments parseArguments(const QStringList& words) {
   const QCommandLineOption help(QStringList{QStringLiteral("h"), QStringLiteral("help")});
+  const QCommandLineOption version(QStringLiteral("version"));
   const QCommandLineOption scheme(QStringLiteral("scheme"), QString(), QStringLiteral("NAME"));
   const QCommandLineOption selected(QStringLiteral("selected"), QString(), QStringLiteral("N"));
   QCommandLineParser parser;
   parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-  parser.addOptions({help, scheme, selected});
+  parser.addOptions({help, version, scheme, selected});
   if (!parser.parse(words)) throw platform::Failure(parser.errorText());
   Arguments arguments;
-  arguments.help = parser.isSet(help);
-  if (arguments.help) return arguments;
+  if (parser.isSet(help)) arguments.answer = usage();
+  if (parser.isSet(version)) arguments.answer = QStringLiteral("cantorama-contact-sheet " CANTORAMA_VERSION);
+  if (!arguments.answer.isEmpty()) return arguments;
   const QStringList names = parser.positionalArguments();
   if (names.size() != Names) {
     throw platform::Failure(QStringLiteral("%1 names given where %2 are wanted\n").arg(names.size()).arg(Names) +
@@ -60,15 +71,6 @@ Arguments parseArguments(const QStringList& words) {
   if (parser.isSet(selected)) arguments.selected = buttonNumber(parser.value(selected));
   refuseOutputInGame(arguments);
   return arguments;
-}
-
-QString usage() {
-  return QStringLiteral(
-      "Usage: cantorama-contact-sheet GAME_FOLDER THEME SKIN LANGUAGE OUTPUT_FOLDER [--scheme NAME] [--selected N]\n"
-      "Draws the 32 screens of a theme into OUTPUT_FOLDER: 01.png to 32.png, overview.png with all of them, and\n"
-      "report.tsv, which tells of every section whether it was drawn, and if not why.\n"
-      "  --scheme NAME   colour scheme in force (else the first one)\n"
-      "  --selected N    draw button N of every screen as the selected one (else the first)\n");
 }
 
 }  // namespace contactsheet

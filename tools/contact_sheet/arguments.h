@@ -16,12 +16,10 @@ struct Arguments {
   QString outputFolder;
   QString scheme;                  ///< colour scheme; empty for the first
   std::optional<quint8> selected;  ///< number from 1 of the button to draw as selected
-  bool help = false;               ///< the usage is all that is wanted
+  QString answer;                  ///< usage or version, when that is all that is wanted
 };
 
 /// Throws platform::Failure for a command line that isn't one of this tool. The first of `words` is the program.
 Arguments parseArguments(const QStringList& words);
-
-QString usage();
 
 }  // namespace contactsheet

@@ -59,10 +59,10 @@ void drawSheet(const contactsheet::Arguments& arguments) {
 int main(int argc, char** argv) {
   return windowless::runTool(QStringLiteral("cantorama-contact-sheet"), argc, argv, [](const QStringList& words) {
     const contactsheet::Arguments arguments = contactsheet::parseArguments(words);
-    if (arguments.help) {
-      print(stdout, contactsheet::usage());
-    } else {
+    if (arguments.answer.isEmpty()) {
       drawSheet(arguments);
+    } else {
+      print(stdout, arguments.answer);
     }
     return 0;
   });
