@@ -45,6 +45,7 @@ ConfigFile::ConfigFile(const QStringList& folders) {
     try {
       if (!platform::readIfThere(path)) {
         if (isSystemFolder(folder)) continue;
+        QDir().mkpath(platform::nativePath(folder));  // the making of the file tells if that failed
         platform::writeFile(path, FirstContent);
       }
     } catch (const platform::Failure& failure) {
@@ -81,9 +82,7 @@ QStringList configFolders() {
   QStringList folders;
   const QString program = QCoreApplication::applicationDirPath();
   if (!isInstalled(program)) folders += platform::programPath(program);
-  const QString user = QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation);
-  QDir().mkpath(user);  // the making of the file tells if that failed
-  return folders << platform::programPath(user);
+  return folders << platform::programPath(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
 }
 
 }  // namespace mainwindows

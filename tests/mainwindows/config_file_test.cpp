@@ -18,8 +18,7 @@ class ConfigFileTest : public QObject {
  private Q_SLOTS:
   void madeOnceAndKept() {
     const Folder first;
-    const Folder second;
-    const QStringList folders{first.path({}), second.path({})};
+    const QStringList folders{first.path({}), first.path(u"second"_s)};
     ConfigFile made(folders);
     QCOMPARE(first.get(File), "[Setup]\r\nEXEDirectory=\r\n");
     QCOMPARE(made.gameFolder(), QString());
@@ -30,21 +29,21 @@ class ConfigFileTest : public QObject {
     first.put(File, foreign);
     QCOMPARE(ConfigFile(folders).gameFolder(), u"D:\\x\\"_s);
     QCOMPARE(first.get(File), foreign);
-    QVERIFY(!second.has(File));
+    QVERIFY(!first.has(u"second"_s));
   }
 
   void theNextFolderTakesIt() {
     const Folder next;
-    // No folder, a file, a system folder, and one of system programs, otherwise written.
-    for (const char* first : {"\\nowhere\\at all", "\\dev\\null", "\\usr\\local", "\\usr\\\\local\\bin"}) {
+    // No place for a folder, a file, a system folder, and one of system programs, otherwise written.
+    for (const char* first : {"\\dev\\null\\at all", "\\dev\\null", "\\usr\\local", "\\usr\\\\local\\bin"}) {
       const QString folder = QString::fromLatin1(first);
-      ConfigFile config({folder, next.path({})});
-      QVERIFY2(config.path() == next.path({}) + u"\\config.ini"_s && config.problem().isEmpty(), first);
+      ConfigFile config({folder, next.path(u"new"_s)});
+      QVERIFY2(config.path() == next.path(u"new\\config.ini"_s) && config.problem().isEmpty(), first);
       ConfigFile none({folder});
       QVERIFY2(none.path().isEmpty() && none.gameFolder().isEmpty(), first);
       QVERIFY_THROWS_EXCEPTION(platform::Failure, none.setGameFolder(u"C:\\Games\\"_s));
     }
-    QVERIFY(!ConfigFile({u"\\nowhere\\at all"_s}).problem().isEmpty());
+    QVERIFY(!ConfigFile({u"\\dev\\null\\at all"_s}).problem().isEmpty());
   }
 
   void folderOutsideTheCodePage() {
