@@ -106,22 +106,23 @@ QRect Workspace::markRect() const {
   return {left, top, std::max(pixel(mark_.width()), 1), std::max(pixel(mark_.height()), 1)};
 }
 
-/// Below the place on its right, above it where there is no room below, and inside the preview.
-QRect Workspace::labelRect() const {
+/// Where the label of a place stands: below it on its right, above it where there is no room below, and inside the
+/// preview.
+QRect Workspace::labelRect(const QPoint& place) const {
   const QFontMetrics letters = fontMetrics();
   QRect label({}, QSize(letters.horizontalAdvance(handLabel_), letters.height()) + LabelMargin);
-  label.moveTopLeft(labelled_ + LabelOffset);
-  if (label.bottom() > rect().bottom()) label.moveBottom(labelled_.y() - LabelOffset.y() / 4);
+  label.moveTopLeft(place + LabelOffset);
+  if (label.bottom() > rect().bottom()) label.moveBottom(place.y() - LabelOffset.y() / 4);
   label.moveLeft(std::clamp(label.left(), 0, std::max(0, width() - label.width())));
   label.moveTop(std::clamp(label.top(), 0, std::max(0, height() - label.height())));
   return label;
 }
 
 void Workspace::setHandLabel(const QString& text, const QPoint& place) {
-  if (!handLabel_.isEmpty()) update(labelRect());
+  update(label_);
   handLabel_ = text;
-  labelled_ = place;
-  if (!handLabel_.isEmpty()) update(labelRect());
+  label_ = text.isEmpty() ? QRect() : labelRect(place);
+  update(label_);
   if (accessibleDescription() != text) setAccessibleDescription(text);
 }
 
@@ -150,11 +151,11 @@ void Workspace::paintMark(QPainter& painter) const {
 }
 
 void Workspace::paintLabel(QPainter& painter) const {
-  const QRect label = labelRect();
-  painter.fillRect(label, Qt::black);
-  painter.fillRect(label.adjusted(1, 1, -1, -1), drawing::colorOf(LabelColor));
+  painter.fillRect(label_, Qt::black);
+  painter.fillRect(label_.adjusted(1, 1, -1, -1), drawing::colorOf(LabelColor));
   painter.setPen(Qt::black);
-  painter.drawText(label, Qt::AlignCenter, handLabel_);
+  const QPoint corner(LabelMargin.width() / 2, LabelMargin.height() / 2 + fontMetrics().ascent());
+  painter.drawText(label_.topLeft() + corner, handLabel_);
 }
 
 /// Dots of two colours show on any picture.

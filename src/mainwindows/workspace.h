@@ -55,7 +55,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
  private:
   void Timer1_Timer();
   void updateMark();
-  QRect labelRect() const;
+  QRect labelRect(const QPoint& place) const;
   void paintMark(QPainter& painter) const;
   void paintLabel(QPainter& painter) const;
   void paintFocus(QPainter& painter) const;
@@ -68,7 +68,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
   bool blinkPhase_ = false;
   QColor borderColor_;
   QString handLabel_;
-  QPoint labelled_;  ///< the pixel that the label is beside
+  QRect label_;  ///< where that stands
 };
 
 }  // namespace mainwindows

@@ -9,7 +9,7 @@
 namespace renderer {
 
 /// Draws the screen as DrawScreen would if the files held the values, from the pen that the last render started from
-/// (the context's account knows it). Reads each file once. Gives an account of its own.
+/// (the context's account knows it). Looks at each file once. Gives an account of its own.
 RenderAccount drawTrial(const RenderContext& context, const TrialValues& values, TrialFiles& files);
 
 /// Places the mark as DrawCursor would if the record of the selected object held the values.

@@ -27,11 +27,11 @@ struct TrialValues {
   const QString* find(const QString& key) const;
 };
 
-/// The files that the frames of one trial look into. Each frame reads them anew, but what was found in a file stays
-/// found as long as its bytes are the same.
+/// The files that the frames of one trial look into. Each frame looks at them anew; what was found in a file stays
+/// found as long as the file is the same, or its bytes are.
 class TrialFiles {
  public:
-  /// From here on each file is read once more, when it is first looked into.
+  /// From here on each file is looked at once more, when something in it is asked for.
   void beginFrame();
   /// A section of a file; without keys for one that isn't there or can't be read. Holds until the next frame begins.
   const themefiles::SectionReader& section(const QString& name, const QString& file);
@@ -44,6 +44,8 @@ class TrialFiles {
     QByteArray bytes;
     platform::ProfileSections sections;
     std::map<QString, themefiles::SectionReader> readers;
+    std::optional<platform::FileIdentity>
+        kept;  ///< the file is the same as long as this is; none if that isn't certain
     bool isOfThisFrame = true;
   };
 
