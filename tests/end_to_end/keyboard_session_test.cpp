@@ -217,7 +217,7 @@ class KeyboardSessionTest : public QObject {
     QTRY_VERIFY(QApplication::activeWindow() == nullptr);
     program.form.showNormal();
     QTRY_VERIFY(QApplication::activeWindow() != nullptr);
-    tools.activateWindow();
+    bringToFront(tools);
     activeWindow(&tools);
     QVERIFY(tools.Text1->hasFocus());
     // However often an editor opens and closes, the lists keep their height.

@@ -159,7 +159,7 @@ class PreviewTest : public QObject {
     };
     pickNamed(*tools().List1, "LoadingStaticRecord");
     QWidget& preview = *program->form.Workspace;
-    program->form.activateWindow();
+    bringToFront(program->form);
     QTRY_COMPARE(QApplication::activeWindow(), &program->form);
     drag(preview, {400, 200}, {40, 25});
     expect("X=310", "X=350");

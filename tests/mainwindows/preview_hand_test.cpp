@@ -196,6 +196,17 @@ class PreviewHandTest : public ProgramTest {
     QCOMPARE(newLines(fraction), QStringList{u"Y=56"_s});
   }
 
+  /// The mark of a text is a line; what is dragged lies over a picture.
+  void textOverAPicture() {
+    put("W", "600");
+    put("H", "200");
+    program->form.queue().draw();
+    program->tag(u"LoadingTextFree"_s);
+    const QByteArray file = game->get(ThemeCopy);
+    drag({400, 108}, {10, -4});
+    QCOMPARE(newLines(file).join(u' '), u"X=410 Y=96"_s);
+  }
+
   void sectionRemovedMeanwhile() {
     program->tag(u"LoadingStaticA"_s);
     const QImage before = program->picture();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractItemView>
+#include <QProcess>
 
 #include "support/windows.h"
 
@@ -75,6 +76,12 @@ inline void open(Program& program, const char* theme, const char* skin, Qt::Key 
   });
   if (program.form.toolWindow() == nullptr || !QTest::qWaitForWindowExposed(program.form.toolWindow()))
     qFatal("not open");
+}
+
+/// Has the window manager bring a window to the front, as a taskbar does. The window's own request is lost when the
+/// last event that the program knows of is older than the last change of focus; events made by a test have no time.
+inline void bringToFront(const QWidget& window) {
+  QProcess::execute(u"xdotool"_s, {u"windowactivate"_s, QString::number(window.winId())});
 }
 
 }  // namespace support
