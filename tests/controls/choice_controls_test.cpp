@@ -164,17 +164,18 @@ class ChoiceControlsTest : public QObject {
     const QString name(40, u'W');
     window.list.item(1)->setText(name);
     const std::pair<int, QString> tips[] = {{0, u"told"_s}, {1, name + u"\ntold"_s}, {2, QString()}};
-    for (const auto& [row, tip] : tips) {
-      if (row < 2) window.list.setRowToolTip(row, u"told"_s);
+    const auto ask = [&](int row) {
       const QPoint place(10, window.listPlace(row).y());
       QHelpEvent help(QEvent::ToolTip, place, window.list.viewport()->mapToGlobal(place));
       QApplication::sendEvent(window.list.viewport(), &help);
+    };
+    for (const auto& [row, tip] : tips) {
+      if (row < 2) window.list.setRowToolTip(row, u"told"_s);
+      ask(row);
       QTRY_COMPARE(QToolTip::text(), tip);
     }
     window.list.setRowToolTip(0, QString(20'000'000, u'y'));
-    const QPoint place(10, window.listPlace(0).y());
-    QHelpEvent help(QEvent::ToolTip, place, window.list.viewport()->mapToGlobal(place));
-    QApplication::sendEvent(window.list.viewport(), &help);
+    ask(0);
     QTRY_VERIFY(QToolTip::text().contains(u"yy..."));
   }
 

@@ -70,8 +70,7 @@ class TextBoxTest : public QObject {
       Window window;
       window.box.SetText(QString(31'999, u'1'));
       way(window.box, u"22"_s);
-      QCOMPARE(window.box.Text().count(u'2'), qsizetype(way == type ? 1 : 0));
-      QCOMPARE(window.box.Text().count(u'1'), qsizetype(31'999));
+      QCOMPARE(window.box.Text(), QString(31'999, u'1') + QString(way == type ? 1 : 0, u'2'));
       window.box.selectAll();
       if (way == paste) way(window.box, QString(32'000, u'3'));
       if (way == paste) QCOMPARE(window.box.Text(), QString(32'000, u'3'));
