@@ -232,9 +232,10 @@ bool PreviewHand::keyPress(const QKeyEvent& event) {
 
 void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
   const Grip grip = (event.modifiers() & Qt::ControlModifier) != 0 ? SizingKeys : Grip();
-  // Committing serves events: a key among them may have begun anew.
+  // Committing serves events: a key among them may have begun anew, or the mouse taken over.
   while (stage_ == Stage::Keys && grip != grip_) settle();
-  if (form_.toolWindow() == nullptr) return;
+  const bool free = stage_ == Stage::None || stage_ == Stage::Keys;
+  if (!free || form_.toolWindow() == nullptr) return;
   // What height a button is drawn with is known when it has been drawn.
   if (stage_ == Stage::None && grip.sizes() && form_.queue().busy()) return;
   if (stage_ == Stage::None && !take(selectedAt({}), grip, !event.isAutoRepeat())) return;
