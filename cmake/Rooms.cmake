@@ -5,9 +5,9 @@ target_include_directories(cantorama_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_definitions(cantorama_flags INTERFACE QT_NO_KEYWORDS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII
                                                      QT_STRICT_ITERATORS)
 if(MSVC)
-  target_compile_options(cantorama_flags INTERFACE /W4 /WX /utf-8)
+  target_compile_options(cantorama_flags INTERFACE /W4 /utf-8 $<$<BOOL:${CANTORAMA_WERROR}>:/WX>)
 else()
-  target_compile_options(cantorama_flags INTERFACE -Wall -Wextra -Wpedantic -Werror)
+  target_compile_options(cantorama_flags INTERFACE -Wall -Wextra -Wpedantic $<$<BOOL:${CANTORAMA_WERROR}>:-Werror>)
 endif()
 # Hardened as distributions build their packages. Sanitizers have their own ways to watch memory.
 if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT CANTORAMA_SANITIZE)

@@ -42,8 +42,8 @@ class SessionTest : public ProgramTest {
  private Q_SLOTS:
   void startAndAfterClose() {
     const Program fresh(*game);
-    QCOMPARE(fresh.form.windowTitle(), u"Cantorama Theme Edit v.0.3a"_s);
-    QCOMPARE(fresh.form.Label1->text(), u"v.0.3a"_s);
+    QCOMPARE(fresh.form.windowTitle(), QStringLiteral("Cantorama Theme Edit v." CANTORAMA_VERSION));
+    QCOMPARE(fresh.form.Label1->text(), QStringLiteral("v." CANTORAMA_VERSION));
     checkWithoutTheme(fresh, QColor(0x80, 0x80, 0x80));
     program->click(3);
     settle();
