@@ -55,10 +55,11 @@ function(cantorama_room name)
   endif()
 endfunction()
 
-# cantorama_test(FILE_WITHOUT_ENDING DISPLAY SOURCES more.cpp USES rooms): one program a concept that can fail. With
-# DISPLAY it runs on a virtual X server with a window manager, else on the offscreen platform.
+# cantorama_test(FILE_WITHOUT_ENDING DISPLAY RESULTS folder SOURCES more.cpp USES rooms): one program a concept that can
+# fail. With DISPLAY it runs on a virtual X server with a window manager, else on the offscreen platform. RESULTS is
+# where the whole results lie that it compares with.
 function(cantorama_test file)
-  cmake_parse_arguments(TEST "DISPLAY" "" "USES;SOURCES" ${ARGN})
+  cmake_parse_arguments(TEST "DISPLAY" "RESULTS" "USES;SOURCES" ${ARGN})
   get_filename_component(name ${file} NAME)
   add_executable(${name} ${file}.cpp ${TEST_SOURCES})
   target_link_libraries(${name} PRIVATE cantorama_flags ${TEST_USES} Qt6::Test)
@@ -70,6 +71,12 @@ function(cantorama_test file)
     add_test(NAME ${name} COMMAND ${name})
     set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT QT_QPA_PLATFORM=offscreen)
   endif()
+  if(TEST_RESULTS)
+    target_compile_definitions(${name} PRIVATE RESULTS="${CMAKE_CURRENT_SOURCE_DIR}/${TEST_RESULTS}")
+    set_property(TEST ${name} PROPERTY LABELS results)
+  endif()
+  # Whatever fonts a machine has, a test sees those that the program names.
+  set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT FONTCONFIG_FILE=${CMAKE_SOURCE_DIR}/tests/fonts.conf)
   # The second: at the end of a program the leak check stumbles now and then over the storage of a thread that is just
   # ending, unless it leaves out the records of it.
   set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT

@@ -9,7 +9,6 @@
 #include "drawing/fitted_picture.h"
 #include "support/row_name.h"
 #include "support/stage.h"
-#include "themefiles/theme_paths.h"
 
 using namespace support;
 
@@ -123,43 +122,6 @@ class PreparedPicturesTest : public QObject {
         QCOMPARE(stage.account.missing.size(), color ? 0U : 2U);
       }
     }
-  }
-
-  /// Every screen of every theme and skin, made anew, then kept, then from a store with room for little.
-  void sampleScreens() {
-    const QString game = platform::programPath(QStringLiteral(SAMPLE_FOLDER)) + u'\\';
-    constexpr qsizetype Little = 3'000'000;
-    renderer::PreparedPictures store, small(Little);
-    qsizetype most = 0;
-    for (const QString& theme : {u"Stagelight"_s, u"Workbench"_s, u"Without Skin"_s}) {
-      for (const QString& skin : themefiles::skinsOf(game, theme) + QStringList(QString())) {
-        Stage stage;
-        stage.state.paths = themefiles::pathsOf(game, theme, skin, u"English"_s);
-        themefiles::ReadColors(stage.state, stage.panel);
-        for (const themefiles::ScreenRow& screen : stage.state.ScreenTable) {
-          const RowName name((theme + u' ' + skin + u' ' + screen.Name).toLatin1());
-          stage.host.screen = screen.Name;
-          stage.tags.Clear();
-          themefiles::listScreenTags(stage.state, screen.Name, stage.tags, stage.panel, [] {});
-          std::vector<std::pair<QImage, QStringList>> drawings;
-          for (renderer::PreparedPictures* pictures :
-               std::initializer_list<renderer::PreparedPictures*>{nullptr, &store, &store, &small}) {
-            stage.pictures = pictures;
-            stage.state.ButtonListFilled = false;
-            stage.surface.setPen(drawing::Surface().pen());
-            stage.draw();
-            QStringList account;
-            for (const auto& left : stage.account.missing) account += left.section + renderer::reasonText(left);
-            for (const auto& drawn : stage.account.objects) account += drawn.section;
-            drawings.emplace_back(stage.surface.image(), account);
-            QVERIFY(small.bytes() <= Little && store.bytes() <= renderer::PreparedPictures::MostBytes);
-          }
-          QVERIFY(std::all_of(drawings.begin(), drawings.end(), [&](const auto& one) { return one == drawings[0]; }));
-          most = std::max(most, small.bytes());
-        }
-      }
-    }
-    QVERIFY(store.bytes() > Little && most > Little / 2);
   }
 
   /// While an object is sized its unscaled picture stands in for the file, and counts.

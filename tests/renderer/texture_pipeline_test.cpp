@@ -89,21 +89,6 @@ class TexturePipelineTest : public QObject {
     }
   }
 
-  void fontPixels() {
-    const QRgb white = qRgba(255, 255, 255, 9);
-    const QRgb black = qRgb(0, 0, 0);
-    const auto font = [](QRgb pixel, float intensity) {
-      QImage picture = plainPicture(1, 1, pixel);
-      return recolourFont(picture, {200, 100, 50}, intensity) ? picture.pixel(0, 0) : QRgb(0);
-    };
-    QCOMPARE(font(black, -1), qRgb(200, 100, 50));
-    QCOMPARE(font(white, 9), white);
-    QCOMPARE(font(qRgba(128, 128, 128, 3), -1), qRgba(200, 228, 178, 3));
-    QCOMPARE(font(black, 0.25F), qRgb(50, 25, 12));
-    QCOMPARE(font(black, -0.002F), black);
-    for (const float beyond : {1.28F, -0.5F}) QCOMPARE(font(black, beyond), QRgb(0));
-  }
-
   void failingSessions() {
     for (const auto& [failing, steps, message, draws] : {
              std::tuple(QString(), u"Startup CreateFrom Delete Shutdown"_s, QString(), true),
