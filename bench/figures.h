@@ -28,7 +28,7 @@ using Body = std::function<void(benchmark::State&)>;
 void registerBenchmark(const Figure& figure, const Body& work, const Body& floor);
 
 void registerIniAccess();
-void registerRecolouring();
+void registerRecoloring();
 void registerScreen(const std::shared_ptr<SampleScreen>& screen);
 /// A drag on a screen of many large pictures. Prints the share of its frames that a display of 60 a second would miss;
 /// whether that is little enough.

@@ -117,7 +117,7 @@ int main(int argc, char** argv) {
   const std::shared_ptr<bench::SampleScreen> screen = bench::fullestScreen();
   if (!screen) return 2;
   bench::registerIniAccess();
-  bench::registerRecolouring();
+  bench::registerRecoloring();
   bench::registerScreen(screen);
   bench::registerShownScreen(screen);
   bench::registerListing();

@@ -52,8 +52,8 @@ void colorize(QImage& picture) {
 }
 
 /// Recolours a fresh copy of the photograph each time.
-Body recolouring(void (*recolour)(QImage&)) {
-  return [recolour, original = photograph()](benchmark::State& state) {
+Body recoloring(void (*recolor)(QImage&)) {
+  return [recolor, original = photograph()](benchmark::State& state) {
     QImage expected = original.copy();
     colorizePlainly(expected);
     QImage picture(Side, Side, original.format());
@@ -61,7 +61,7 @@ Body recolouring(void (*recolour)(QImage&)) {
       state.PauseTiming();
       std::memcpy(picture.bits(), original.constBits(), static_cast<std::size_t>(original.sizeInBytes()));
       state.ResumeTiming();
-      recolour(picture);
+      recolor(picture);
     }
     if (picture != expected) state.SkipWithError("the bytes differ");
   };
@@ -69,13 +69,13 @@ Body recolouring(void (*recolour)(QImage&)) {
 
 }  // namespace
 
-void registerRecolouring() {
-  registerBenchmark({"COLORIZED", 12, Held::FasterAtLeast}, recolouring(colorize), recolouring(colorizePlainly));
+void registerRecoloring() {
+  registerBenchmark({"COLORIZED", 12, Held::FasterAtLeast}, recoloring(colorize), recoloring(colorizePlainly));
   registerBenchmark(
       {"FONT BLACK", 4, Held::AtMost},
       [picture = photograph()](benchmark::State& state) mutable {
         for ([[maybe_unused]] auto turn : state) {
-          benchmark::DoNotOptimize(renderer::recolourFont(picture, Color, renderer::NoIntensity));
+          benchmark::DoNotOptimize(renderer::recolorFont(picture, Color, renderer::NoIntensity));
         }
       },
       [picture = photograph()](benchmark::State& state) {

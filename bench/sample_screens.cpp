@@ -22,7 +22,7 @@ using Clock = std::chrono::steady_clock;
 
 /// The picture as the render blends it.
 renderer::PreparedPicture preparedOf(const Picture& picture, renderer::PreparedPictures& store) {
-  using Type = renderer::Recolouring::Type;
+  using Type = renderer::Recoloring::Type;
   const Type type = picture.type == u"COLORIZED"    ? Type::Colorized
                     : picture.type == u"FONT BLACK" ? Type::FontBlack
                                                     : Type::None;
@@ -157,7 +157,7 @@ std::function<void(drawing::Surface& surface)> blending(const SampleScreen& scre
 void drawPlainly(const Picture& picture, drawing::Surface& surface) {
   QImage image = drawing::LoadPicture(picture.path);
   if (picture.type == u"COLORIZED") renderer::colorize(image, picture.color);
-  if (picture.type == u"FONT BLACK") renderer::recolourFont(image, picture.color, renderer::NoIntensity);
+  if (picture.type == u"FONT BLACK") renderer::recolorFont(image, picture.color, renderer::NoIntensity);
   surface.drawImageRect(image, picture.place.x(), picture.place.y(), picture.place.width(), picture.place.height());
 }
 

@@ -25,10 +25,9 @@ std::optional<platform::FileIdentity> identityOrNone(const QString& path) {
 PreparedPictures::Source PreparedPictures::sourceOf(const PictureWish& wish) {
   QImage picture = drawing::LoadPicture(wish.path);
   if (picture.isNull()) return {Reason::NoPicture, {}};
-  const Recolouring& recolouring = wish.recolouring;
-  if (recolouring.type == Recolouring::Type::Colorized) colorize(picture, recolouring.color);
-  if (recolouring.type == Recolouring::Type::FontBlack &&
-      !recolourFont(picture, recolouring.color, recolouring.intensity)) {
+  const Recoloring& recoloring = wish.recoloring;
+  if (recoloring.type == Recoloring::Type::Colorized) colorize(picture, recoloring.color);
+  if (recoloring.type == Recoloring::Type::FontBlack && !recolorFont(picture, recoloring.color, recoloring.intensity)) {
     return {Reason::ColorRange, {}};
   }
   return {{}, std::move(picture)};
@@ -52,9 +51,9 @@ PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   constexpr qsizetype Overhead = 512;
   const auto file = wish.identity ? wish.identity : identityOrNone(wish.path);
   if (!file) return fitted(sourceOf(wish), wish);
-  const Key key{*file, wish.recolouring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
+  const Key key{*file, wish.recoloring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
   if (const PreparedPicture* const kept = kept_.object(key)) return *kept;
-  if (inHand && unscaled_ && unscaled_->file == *file && unscaled_->recolouring == wish.recolouring) {
+  if (inHand && unscaled_ && unscaled_->file == *file && unscaled_->recoloring == wish.recoloring) {
     return fitted(unscaled_->source, wish);
   }
   const bool settled = platform::isSettled(*file);
@@ -62,7 +61,7 @@ PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   const bool keeps = settled && identityOrNone(wish.path) == file;
   if (keeps && inHand) {
     source.picture = std::move(source.picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    holdUnscaled({*file, wish.recolouring, source});
+    holdUnscaled({*file, wish.recoloring, source});
   }
   PreparedPicture prepared = fitted(std::move(source), wish);
   if (keeps && !inHand) {

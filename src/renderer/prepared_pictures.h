@@ -13,18 +13,18 @@
 namespace renderer {
 
 /// How a picture is recoloured. Only the numbers that the type needs are set.
-struct Recolouring {
+struct Recoloring {
   enum class Type { None, Colorized, FontBlack };
   Type type = Type::None;
   ColorNumbers color = {};
   float intensity = NoIntensity;
-  friend bool operator==(const Recolouring&, const Recolouring&) = default;
+  friend bool operator==(const Recoloring&, const Recoloring&) = default;
 };
 
 /// A picture to draw: recoloured and scaled to `place`, or with `ownSize` at its own size at the top left of `place`.
 struct PictureWish {
   QString path;
-  Recolouring recolouring = {};
+  Recoloring recoloring = {};
   QRect place;
   bool ownSize = false;
   std::optional<platform::FileIdentity> identity = {};  ///< of the file, if it was looked at already
@@ -65,18 +65,18 @@ class PreparedPictures {
   /// The size is invalid for a picture at its own size; then `part` has only its top left corner.
   struct Key {
     platform::FileIdentity file;
-    Recolouring recolouring;
+    Recoloring recoloring;
     QSize size;
     QRect part;
     friend bool operator==(const Key&, const Key&) = default;
     friend size_t qHash(const Key& key, size_t seed = 0) {
       return qHashMulti(seed, key.file.number, key.file.changed, key.size.width(), key.size.height(),
-                        key.recolouring.color.R, key.recolouring.color.G, key.recolouring.color.B);
+                        key.recoloring.color.R, key.recoloring.color.G, key.recoloring.color.B);
     }
   };
   struct Unscaled {
     platform::FileIdentity file;
-    Recolouring recolouring;
+    Recoloring recoloring;
     Source source;
   };
 

@@ -44,7 +44,7 @@ quint32 byteOf(double channel) {
 }
 
 /// A recoloured pixel without alpha. Its lightness and saturation depend only on the largest and the smallest channel.
-quint32 recoloured(double hue, quint32 largest, quint32 smallest) {
+quint32 recolored(double hue, quint32 largest, quint32 smallest) {
   const HSL shade = RGBToHSL(largest / 255.0, smallest / 255.0, smallest / 255.0);
   const RGB channels = HSLToRGB(hue, shade.L, shade.S);
   return byteOf(channels.R) << 16U | byteOf(channels.G) << 8U | byteOf(channels.B);
@@ -86,8 +86,8 @@ std::optional<Steps> stepsOf(double hue) {
 }
 
 /// Replaces every pixel by `recolour(largest channel, smallest channel)`. Alpha stays.
-template <typename Recolour>
-void recolourEach(QImage& picture, Recolour recolour) {
+template <typename Recolor>
+void recolorEach(QImage& picture, Recolor recolor) {
   for (int y = 0; y < picture.height(); ++y) {
     auto* const line = reinterpret_cast<quint32*>(picture.scanLine(y));
     auto* const end = line + picture.width();
@@ -95,7 +95,7 @@ void recolourEach(QImage& picture, Recolour recolour) {
       const quint32 r = *pixel >> 16U & 0xFFU;
       const quint32 g = *pixel >> 8U & 0xFFU;
       const quint32 b = *pixel & 0xFFU;
-      *pixel = (*pixel & AlphaBits) | recolour(std::max({r, g, b}), std::min({r, g, b}));
+      *pixel = (*pixel & AlphaBits) | recolor(std::max({r, g, b}), std::min({r, g, b}));
     }
   }
 }
@@ -136,17 +136,17 @@ RGB HSLToRGB(double H, double L, double S) {
 void colorize(QImage& picture, const ColorNumbers& color) {
   const double hue = RGBToHSL(color.R, color.G, color.B).H;
   if (const auto steps = stepsOf(hue)) {
-    recolourEach(picture, [&steps = *steps](quint32 largest, quint32 smallest) {
+    recolorEach(picture, [&steps = *steps](quint32 largest, quint32 smallest) {
       const Step& step = steps[largest - smallest];
       const quint32 sum = smallest * 0x010101U + step.above;
       return sum + (sum & step.halves);
     });
   } else {
-    recolourEach(picture, [hue](quint32 largest, quint32 smallest) { return recoloured(hue, largest, smallest); });
+    recolorEach(picture, [hue](quint32 largest, quint32 smallest) { return recolored(hue, largest, smallest); });
   }
 }
 
-bool recolourFont(QImage& picture, const ColorNumbers& color, float intensity) {
+bool recolorFont(QImage& picture, const ColorNumbers& color, float intensity) {
   const float factor = intensity == NoIntensity ? 1.0F : intensity;
   const auto r = platform::roundToByte(color.R * factor);
   const auto g = platform::roundToByte(color.G * factor);

@@ -39,6 +39,6 @@ void colorize(QImage& picture, const ColorNumbers& color);
 
 /// Combines every pixel with the colour times the intensity by a bitwise OR, so black becomes the colour and white
 /// stays. NoIntensity stands for 1. False if a channel is out of the range 0 to 255 and any pixel isn't white.
-bool recolourFont(QImage& picture, const ColorNumbers& color, float intensity);
+bool recolorFont(QImage& picture, const ColorNumbers& color, float intensity);
 
 }  // namespace renderer

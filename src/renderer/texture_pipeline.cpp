@@ -27,29 +27,29 @@ void StopGraphics(drawing::Graphics& graphics, platform::Dialogs& dialogs) {
 }
 
 /// None if the colour has fewer than three fields.
-std::optional<Recolouring> recolouringOf(const Texture& texture) {
-  using Type = Recolouring::Type;
+std::optional<Recoloring> recoloringOf(const Texture& texture) {
+  using Type = Recoloring::Type;
   const QStringList fields = platform::splitAtBlanks(texture.color);
   if (fields.size() < 3) return std::nullopt;
   const ColorNumbers color{static_cast<float>(platform::numberOf(fields[0])),
                            static_cast<float>(platform::numberOf(fields[1])),
                            static_cast<float>(platform::numberOf(fields[2]))};
-  if (texture.type == u"COLORIZED") return Recolouring{Type::Colorized, color};
-  if (texture.type == u"FONT BLACK") return Recolouring{Type::FontBlack, color, texture.intensity};
-  return Recolouring{};
+  if (texture.type == u"COLORIZED") return Recoloring{Type::Colorized, color};
+  if (texture.type == u"FONT BLACK") return Recoloring{Type::FontBlack, color, texture.intensity};
+  return Recoloring{};
 }
 
-PictureWish wishOf(const Texture& texture, const Recolouring& recolouring) {
+PictureWish wishOf(const Texture& texture, const Recoloring& recoloring) {
   const Box& box = texture.box;
-  if (box.X == -1 || box.Y == -1) return {texture.file.path, recolouring, QRect(), true, texture.file.identity};
-  return {texture.file.path, recolouring, QRect(box.X, box.Y, box.W, box.H), box.W == -1 || box.H == -1,
+  if (box.X == -1 || box.Y == -1) return {texture.file.path, recoloring, QRect(), true, texture.file.identity};
+  return {texture.file.path, recoloring, QRect(box.X, box.Y, box.W, box.H), box.W == -1 || box.H == -1,
           texture.file.identity};
 }
 
 TextureResult draw(RenderContext& context, const Texture& texture) {
-  const auto recolouring = recolouringOf(texture);
-  if (!recolouring) return {TextureOutcome::NoColor, {}};
-  const PictureWish wish = wishOf(texture, *recolouring);
+  const auto recoloring = recoloringOf(texture);
+  if (!recoloring) return {TextureOutcome::NoColor, {}};
+  const PictureWish wish = wishOf(texture, *recoloring);
   const PreparedPicture prepared = prepare(context.pictures, wish, texture.inHand);
   if (prepared.missing == Reason::NoPicture) return {TextureOutcome::NoPicture, {}};
   if (prepared.missing) return {TextureOutcome::ColorRange, {}};

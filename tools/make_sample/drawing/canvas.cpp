@@ -19,7 +19,7 @@ int toByte(double channel) {
 
 }  // namespace
 
-Colour mix(const Colour& from, const Colour& to, double t) {
+Color mix(const Color& from, const Color& to, double t) {
   t = std::clamp(t, 0.0, 1.0);
   return {from.r + (to.r - from.r) * t, from.g + (to.g - from.g) * t, from.b + (to.b - from.b) * t,
           from.a + (to.a - from.a) * t};
@@ -76,8 +76,8 @@ void Canvas::fill(const Shape& shape, const Paint& paint, double soft) {
   walk(shape, soft, [&](Dot& dot, double x, double y, double cover) { blend(dot, paint(x, y), cover); });
 }
 
-void Canvas::fill(const Shape& shape, const Colour& colour, double soft) {
-  walk(shape, soft, [&](Dot& dot, double, double, double cover) { blend(dot, colour, cover); });
+void Canvas::fill(const Shape& shape, const Color& color, double soft) {
+  walk(shape, soft, [&](Dot& dot, double, double, double cover) { blend(dot, color, cover); });
 }
 
 void Canvas::cut(const Shape& shape, double soft) {
@@ -87,10 +87,10 @@ void Canvas::cut(const Shape& shape, double soft) {
   });
 }
 
-void Canvas::blend(Dot& dot, const Colour& colour, double cover) {
-  const double alpha = std::clamp(colour.a * cover, 0.0, 1.0);
+void Canvas::blend(Dot& dot, const Color& color, double cover) {
+  const double alpha = std::clamp(color.a * cover, 0.0, 1.0);
   const double rest = 1 - alpha;
-  dot = {dot.r * rest + colour.r * alpha, dot.g * rest + colour.g * alpha, dot.b * rest + colour.b * alpha,
+  dot = {dot.r * rest + color.r * alpha, dot.g * rest + color.g * alpha, dot.b * rest + color.b * alpha,
          dot.a * rest + alpha};
 }
 

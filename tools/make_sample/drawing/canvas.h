@@ -10,22 +10,22 @@
 namespace sample {
 
 /// A colour with channels from 0 to 1, not multiplied by its alpha.
-struct Colour {
+struct Color {
   double r = 0, g = 0, b = 0, a = 1;
 };
 
 /// The colour of 0xRRGGBB.
-constexpr Colour rgb(unsigned value, double alpha = 1) {
+constexpr Color rgb(unsigned value, double alpha = 1) {
   return {(value >> 16 & 255) / 255.0, (value >> 8 & 255) / 255.0, (value & 255) / 255.0, alpha};
 }
 
 /// The colour with another alpha.
-constexpr Colour faded(Colour colour, double alpha) {
-  colour.a = alpha;
-  return colour;
+constexpr Color faded(Color color, double alpha) {
+  color.a = alpha;
+  return color;
 }
 
-Colour mix(const Colour& from, const Colour& to, double t);
+Color mix(const Color& from, const Color& to, double t);
 
 /// 0 below `from`, 1 above `to`, a smooth way between.
 double smooth(double from, double to, double value);
@@ -47,7 +47,7 @@ double noise(double x, double y, unsigned seed);
 /// Four layers of it, each half as wide and half as strong as the one before.
 double cloud(double x, double y, unsigned seed);
 
-using Paint = std::function<Colour(double x, double y)>;
+using Paint = std::function<Color(double x, double y)>;
 
 /// A picture painted by maths alone. Its units are chosen apart from its pixels: a canvas of 400 pixels and 800 units
 /// shows everything at half size.
@@ -63,7 +63,7 @@ class Canvas {
 
   /// `soft` is the width of the edge in units, at least one pixel.
   void fill(const Shape& shape, const Paint& paint, double soft = 0);
-  void fill(const Shape& shape, const Colour& colour, double soft = 0);
+  void fill(const Shape& shape, const Color& color, double soft = 0);
   void cut(const Shape& shape, double soft = 0);
 
   QImage image() const;
@@ -73,7 +73,7 @@ class Canvas {
     double r = 0, g = 0, b = 0, a = 0;  // channels multiplied by a
   };
 
-  void blend(Dot& dot, const Colour& colour, double cover);
+  void blend(Dot& dot, const Color& color, double cover);
   void walk(const Shape& shape, double soft, const std::function<void(Dot&, double x, double y, double cover)>& visit);
 
   int pixelWidth_;

@@ -74,15 +74,15 @@ QByteArray compress(const std::vector<unsigned char>& dots, int depth) {
 
 QByteArray encodeGif(const IndexedPicture& picture) {
   int depth = 2;
-  while (1U << depth < picture.colours.size()) ++depth;
+  while (1U << depth < picture.colors.size()) ++depth;
   QByteArray bytes("GIF89a");
   putWord(bytes, picture.width);
   putWord(bytes, picture.height);
   bytes.append(static_cast<char>(0x80 | (depth - 1) << 4 | (depth - 1)));
   bytes.append(2, '\0');
   for (size_t i = 0; i < 1U << depth; ++i) {
-    const QRgb colour = i < picture.colours.size() ? picture.colours[i] : 0;
-    for (const int channel : {qRed(colour), qGreen(colour), qBlue(colour)}) bytes.append(static_cast<char>(channel));
+    const QRgb color = i < picture.colors.size() ? picture.colors[i] : 0;
+    for (const int channel : {qRed(color), qGreen(color), qBlue(color)}) bytes.append(static_cast<char>(channel));
   }
   if (picture.transparent) {
     bytes.append(QByteArray::fromHex("21f904010000"));

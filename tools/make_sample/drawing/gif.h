@@ -11,7 +11,7 @@ namespace sample {
 /// A picture of up to 256 colours; `dots` holds width x height indexes into `colours`, row by row.
 struct IndexedPicture {
   int width = 0, height = 0;
-  std::vector<QRgb> colours;
+  std::vector<QRgb> colors;
   std::vector<unsigned char> dots;
   std::optional<int> transparent;
 };

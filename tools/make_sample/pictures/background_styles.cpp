@@ -11,7 +11,7 @@ namespace {
 constexpr double Pi = std::numbers::pi;
 
 void paintSky(Canvas& canvas, const Palette& palette) {
-  canvas.shade([&](double, double y) { return skyColour(palette, y / canvas.height()); });
+  canvas.shade([&](double, double y) { return skyColor(palette, y / canvas.height()); });
 }
 
 void darkenEdges(Canvas& canvas, const Palette& palette) {
@@ -21,16 +21,16 @@ void darkenEdges(Canvas& canvas, const Palette& palette) {
   });
 }
 
-void glow(Canvas& canvas, QPointF centre, double radius, const Colour& colour, double strength) {
+void glow(Canvas& canvas, QPointF centre, double radius, const Color& color, double strength) {
   canvas.fill(disc(centre, radius), [&](double x, double y) {
     const double away = std::hypot(x - centre.x(), y - centre.y()) / radius;
-    return faded(colour, strength * (1 - smooth(0, 1, away)));
+    return faded(color, strength * (1 - smooth(0, 1, away)));
   });
 }
 
 }  // namespace
 
-Colour skyColour(const Palette& palette, double part) {
+Color skyColor(const Palette& palette, double part) {
   return part < 0.5 ? mix(palette.top, palette.middle, part * 2) : mix(palette.middle, palette.bottom, part * 2 - 1);
 }
 
@@ -43,12 +43,12 @@ void paintHills(Canvas& canvas, const Palette& palette, unsigned seed) {
   for (int layer = 0; layer < 4; ++layer) {
     const double base = 330 + layer * 66;
     const double shift = dice.next(0, 40);
-    const Colour colour = mix(palette.middle, palette.dark, 0.35 + 0.2 * layer);
+    const Color color = mix(palette.middle, palette.dark, 0.35 + 0.2 * layer);
     const auto height = [=](double x) {
       return base + 46 * std::sin((x + 70 * shift) / (150 - 20 * layer)) +
              60 * (noise(x / 90, layer + shift, seed) - 0.5);
     };
-    canvas.shade([&](double x, double y) { return faded(colour, smooth(-0.8, 0.8, y - height(x))); });
+    canvas.shade([&](double x, double y) { return faded(color, smooth(-0.8, 0.8, y - height(x))); });
   }
   darkenEdges(canvas, palette);
 }
@@ -61,14 +61,14 @@ void paintSpots(Canvas& canvas, const Palette& palette, unsigned seed) {
     const QPointF source(70 + lamp * 165, -10);
     const double lean = dice.next(-220, 220);
     const double spread = dice.next(60, 110);
-    const Colour colour = mix(palette.light, palette.middle, dice.next(0, 0.7));
+    const Color color = mix(palette.light, palette.middle, dice.next(0, 0.7));
     canvas.shade([&](double x, double y) {
       const double down = (y - source.y()) / canvas.height();
       const double away = std::abs(x - source.x() - lean * down) / (8 + spread * down);
-      return faded(colour, 0.42 * (1 - smooth(0.3, 1, away)) * (1 - 0.75 * down));
+      return faded(color, 0.42 * (1 - smooth(0.3, 1, away)) * (1 - 0.75 * down));
     });
     canvas.fill(disc(source + QPointF(0, 14), 16), faded(palette.light, 0.95), 6);
-    glow(canvas, QPointF(source.x() + lean * 0.9, 520), 120, colour, 0.25);
+    glow(canvas, QPointF(source.x() + lean * 0.9, 520), 120, color, 0.25);
   }
   darkenEdges(canvas, palette);
 }
@@ -79,10 +79,10 @@ void paintLights(Canvas& canvas, const Palette& palette, unsigned seed) {
   for (int i = 0; i < 46; ++i) {
     const QPointF centre = dice.point(QRectF(0, 0, 800, 600));
     const double radius = dice.next(10, 74);
-    const Colour colour = mix(palette.light, palette.middle, dice.next());
+    const Color color = mix(palette.light, palette.middle, dice.next());
     const double strength = dice.next(0.05, 0.22);
-    canvas.fill(disc(centre, radius), faded(colour, strength), 4 + radius / 8);
-    canvas.fill(outline(disc(centre, radius), 3), faded(colour, strength * 0.8), 3);
+    canvas.fill(disc(centre, radius), faded(color, strength), 4 + radius / 8);
+    canvas.fill(outline(disc(centre, radius), 3), faded(color, strength * 0.8), 3);
   }
   darkenEdges(canvas, palette);
 }
@@ -94,7 +94,7 @@ void paintCurtain(Canvas& canvas, const Palette& palette, unsigned seed) {
     const double part = y / canvas.height();
     const double sway = x + 14 * std::sin(y / 170 + phase);
     const double fold = 0.5 + 0.5 * std::sin(sway / 17 + 1.6 * std::sin(sway / 83 + phase));
-    const Colour cloth = mix(palette.dark, skyColour(palette, part), 0.25 + 0.75 * fold);
+    const Color cloth = mix(palette.dark, skyColor(palette, part), 0.25 + 0.75 * fold);
     return mix(cloth, palette.light, 0.12 * std::pow(fold, 6));
   });
   for (int swag = 0; swag < 5; ++swag) {
@@ -114,10 +114,10 @@ void paintWaves(Canvas& canvas, const Palette& palette, unsigned seed) {
     const double length = dice.next(110, 240);
     const double phase = dice.next(0, 6);
     const double swell = dice.next(18, 46);
-    const Colour colour = mix(palette.light, palette.dark, wave / 6.0);
+    const Color color = mix(palette.light, palette.dark, wave / 6.0);
     canvas.shade([&](double x, double y) {
       const double depth = y - base - swell * std::sin(x / length + phase);
-      return faded(colour, 0.22 * smooth(-1, 1, depth) + 0.3 * (1 - smooth(0, 5, std::abs(depth))));
+      return faded(color, 0.22 * smooth(-1, 1, depth) + 0.3 * (1 - smooth(0, 5, std::abs(depth))));
     });
   }
   darkenEdges(canvas, palette);
@@ -149,8 +149,8 @@ void paintSkyline(Canvas& canvas, const Palette& palette, unsigned seed) {
     const int blocks = static_cast<int>(dice.next(3, 15));
     for (int block = 0; block < blocks; ++block) {
       const QRectF box(left, 576 - block * 27, 34, 21);
-      const Colour colour = mix(palette.dark, palette.light, 0.1 + 0.035 * block);
-      canvas.fill(roundBox(box, 4), faded(colour, 0.75));
+      const Color color = mix(palette.dark, palette.light, 0.1 + 0.035 * block);
+      canvas.fill(roundBox(box, 4), faded(color, 0.75));
     }
   }
   darkenEdges(canvas, palette);
@@ -181,8 +181,8 @@ void paintTiles(Canvas& canvas, const Palette& palette, unsigned seed) {
   for (int row = 0; row < 6; ++row) {
     for (int column = 0; column < 8; ++column) {
       const QRectF box(column * 100 + 4, row * 100 + 4, 92, 92);
-      const Colour colour = dice.next() < 0.5 ? palette.light : palette.dark;
-      canvas.fill(roundBox(box, 16), faded(colour, dice.next(0.03, 0.2)), 2);
+      const Color color = dice.next() < 0.5 ? palette.light : palette.dark;
+      canvas.fill(roundBox(box, 16), faded(color, dice.next(0.03, 0.2)), 2);
     }
   }
   darkenEdges(canvas, palette);

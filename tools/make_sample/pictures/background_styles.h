@@ -5,8 +5,8 @@
 namespace sample {
 
 struct Palette {
-  Colour top, middle, bottom;
-  Colour light, dark;
+  Color top, middle, bottom;
+  Color light, dark;
 };
 
 using BackgroundStyle = void (*)(Canvas& canvas, const Palette& palette, unsigned seed);
@@ -22,6 +22,6 @@ void paintStaff(Canvas& canvas, const Palette& palette, unsigned seed);
 void paintTiles(Canvas& canvas, const Palette& palette, unsigned seed);
 
 /// The palette's three colours from top to bottom.
-Colour skyColour(const Palette& palette, double part);
+Color skyColor(const Palette& palette, double part);
 
 }  // namespace sample

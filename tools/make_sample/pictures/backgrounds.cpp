@@ -77,8 +77,8 @@ const File Files[] = {
 
 using Group = std::vector<int>;  // places of dots in a picture, row by row
 
-int channelOf(QRgb colour, int channel) {
-  return static_cast<int>(colour >> (8 * channel) & 255);
+int channelOf(QRgb color, int channel) {
+  return static_cast<int>(color >> (8 * channel) & 255);
 }
 
 /// The channel in which the dots differ most, and by how much.
@@ -96,7 +96,7 @@ std::pair<int, int> widestChannel(const Group& group, const std::vector<QRgb>& d
   return widest;
 }
 
-QRgb meanColour(const Group& group, const std::vector<QRgb>& dots) {
+QRgb meanColor(const Group& group, const std::vector<QRgb>& dots) {
   const int count = static_cast<int>(group.size());
   int sums[3] = {0, 0, 0};
   for (const int place : group) {
@@ -131,8 +131,8 @@ IndexedPicture reduced(const QImage& image) {
   }
   IndexedPicture picture{image.width(), image.height(), {}, std::vector<unsigned char>(dots.size()), {}};
   for (const auto& [weight, group] : groups) {
-    for (const int place : group) picture.dots[place] = static_cast<unsigned char>(picture.colours.size());
-    picture.colours.push_back(meanColour(group, dots));
+    for (const int place : group) picture.dots[place] = static_cast<unsigned char>(picture.colors.size());
+    picture.colors.push_back(meanColor(group, dots));
   }
   return picture;
 }

@@ -89,13 +89,13 @@ const std::vector<Glyph>& glyphs() {
   return all;
 }
 
-QImage drawGlyph(const Glyph& glyph, int size, const Colour& colour) {
+QImage drawGlyph(const Glyph& glyph, int size, const Color& color) {
   Canvas canvas(size, size, 64, 64);
   for (const Part& part : glyph.parts) {
     if (part.cut) {
       canvas.cut(part.shape);
     } else {
-      canvas.fill(part.shape, colour);
+      canvas.fill(part.shape, color);
     }
   }
   return canvas.image();

@@ -20,6 +20,6 @@ struct Glyph {
 const std::vector<Glyph>& glyphs();
 
 /// The sign in one colour on a transparent ground.
-QImage drawGlyph(const Glyph& glyph, int size, const Colour& colour);
+QImage drawGlyph(const Glyph& glyph, int size, const Color& color);
 
 }  // namespace sample

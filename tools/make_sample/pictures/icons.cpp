@@ -14,7 +14,7 @@ struct Icon {
 
 struct Ink {
   char letter;
-  QRgb colour;
+  QRgb color;
 };
 
 constexpr Ink Inks[] = {
@@ -64,7 +64,7 @@ constexpr Icon Icons[] = {
 QImage iconImage(const Icon& icon) {
   QImage image(Size, Size, QImage::Format_Indexed8);
   image.setColorTable({0});
-  for (const Ink& ink : Inks) image.setColorTable(image.colorTable() + QList<QRgb>{ink.colour});
+  for (const Ink& ink : Inks) image.setColorTable(image.colorTable() + QList<QRgb>{ink.color});
   for (int y = 0; y < Size; ++y) {
     for (int x = 0; x < Size; ++x) {
       unsigned index = 0;
@@ -88,7 +88,7 @@ QImage programIcon(int pixels) {
   canvas.fill(area({{21, 31}, {33, 43}, {22, 46}, {18, 42}}, 2), rgb(0x3c3058));
   canvas.fill(disc({36, 28}, 13.5), [](double x, double y) {
     const bool wire = static_cast<int>(x + y) % 5 == 0 || static_cast<int>(x - y + 64) % 5 == 0;
-    const Colour ball = mix(rgb(0xf4f0fa), rgb(0x8c84a0), (x + y - 44) / 44);
+    const Color ball = mix(rgb(0xf4f0fa), rgb(0x8c84a0), (x + y - 44) / 44);
     return wire ? mix(ball, rgb(0x504868), 0.45) : ball;
   });
   canvas.fill(line({24.5, 26}, {38, 39.5}, 2.4), rgb(0xffc04c));

@@ -79,13 +79,13 @@ void paintBoard(Canvas& canvas) {
 }
 
 void paintSwatches(Canvas& canvas) {
-  constexpr unsigned Colours[] = {0x47aff7, 0xf74747, 0x3fbf3f, 0xe63fe6, 0xff9000, 0xe6e65f};
+  constexpr unsigned Colors[] = {0x47aff7, 0xf74747, 0x3fbf3f, 0xe63fe6, 0xff9000, 0xe6e65f};
   int place = 0;
-  for (const unsigned colour : Colours) {
+  for (const unsigned color : Colors) {
     const QPointF centre(352 + 66 * place++, 424);
     canvas.fill(moved(disc(centre, 21), 0, 3), rgb(0x1c1030, 0.45), 8);
     canvas.fill(disc(centre, 21), rgb(0xfff8ec));
-    canvas.fill(disc(centre, 17), rgb(colour));
+    canvas.fill(disc(centre, 17), rgb(color));
     canvas.fill(disc(centre - QPointF(5, 6), 5), rgb(0xffffff, 0.55), 3);
   }
 }
@@ -98,7 +98,7 @@ void paintMicrophone(Canvas& canvas) {
   canvas.fill(area({{176, 330}, {232, 236}, {196, 214}, {160, 318}}, 5),
               [](double x, double y) { return mix(rgb(0x6a5c8c), rgb(0x1e1434), (x - 150) / 90 + (y - 210) / 400); });
   canvas.fill(disc({236, 188}, 56), [](double x, double y) {
-    const Colour ball = mix(rgb(0xfffaf2), rgb(0x5c5074), std::hypot(x - 216, y - 166) / 92);
+    const Color ball = mix(rgb(0xfffaf2), rgb(0x5c5074), std::hypot(x - 216, y - 166) / 92);
     const double mesh = std::min(std::abs(std::fmod(x + y, 9) - 4.5), std::abs(std::fmod(x - y + 900, 9) - 4.5));
     return mix(ball, rgb(0x2c2044), 0.55 * (1 - smooth(0.4, 1.8, mesh)));
   });
@@ -108,16 +108,16 @@ void paintMicrophone(Canvas& canvas) {
 void paintNotes(Canvas& canvas) {
   struct Note {
     double x, y, size;
-    unsigned colour;
+    unsigned color;
   };
   constexpr Note Notes[] = {{66, 250, 1.2, 0xfff0c8},  {112, 120, 0.9, 0xffd0e0}, {746, 150, 1.1, 0xffe8b0},
                             {752, 320, 0.8, 0xffffff}, {300, 70, 0.8, 0xffe0f0},  {40, 400, 0.8, 0xffffff}};
   for (const Note& note : Notes) {
     const auto at = [&](double dx, double dy) { return QPointF(note.x + dx * note.size, note.y + dy * note.size); };
-    const Colour colour = rgb(note.colour, 0.9);
-    canvas.fill(line(at(-4, 2), at(4, -2), 7 * note.size), colour);
-    canvas.fill(line(at(9, -3), at(9, -40), 2 * note.size), colour);
-    canvas.fill(area({at(8, -42), at(20, -34), at(22, -20), at(16, -28), at(8, -31)}, 1), colour);
+    const Color color = rgb(note.color, 0.9);
+    canvas.fill(line(at(-4, 2), at(4, -2), 7 * note.size), color);
+    canvas.fill(line(at(9, -3), at(9, -40), 2 * note.size), color);
+    canvas.fill(area({at(8, -42), at(20, -34), at(22, -20), at(16, -28), at(8, -31)}, 1), color);
   }
 }
 

@@ -7,8 +7,8 @@ namespace sample {
 
 namespace {
 
-constexpr Colour White = rgb(0xffffff);
-constexpr Colour Black = rgb(0x000000);
+constexpr Color White = rgb(0xffffff);
+constexpr Color Black = rgb(0x000000);
 
 QRectF inner(const Canvas& canvas, double margin) {
   return QRectF(0, 0, canvas.width(), canvas.height()).adjusted(margin, margin, -margin, -margin);
@@ -23,9 +23,9 @@ void dropShadow(Canvas& canvas, const Shape& shape) {
 void paintTitleBar(Canvas& canvas, const Look& look) {
   const double edge = canvas.height() - 8;
   canvas.shade([&](double, double y) {
-    Colour colour = mix(look.buttonTop, look.buttonBottom, y / edge);
-    colour = mix(colour, Black, 0.35);
-    return faded(colour, y < edge ? 0.92 : 0.5 * (1 - smooth(edge, canvas.height(), y)));
+    Color color = mix(look.buttonTop, look.buttonBottom, y / edge);
+    color = mix(color, Black, 0.35);
+    return faded(color, y < edge ? 0.92 : 0.5 * (1 - smooth(edge, canvas.height(), y)));
   });
   canvas.shade([&](double, double y) { return faded(look.buttonEdge, std::abs(y - edge) < 1.2 ? 0.9 : 0); });
 }
@@ -105,8 +105,8 @@ void paintTrack(Canvas& canvas, const Look& look) {
 
 void paintLevel(Canvas& canvas, const Look& look) {
   canvas.shade([&](double x, double y) {
-    const Colour colour = mix(mix(look.buttonTop, White, 0.2), look.buttonBottom, y / canvas.height());
-    return std::fmod(x + y, 24) < 12 ? colour : mix(colour, White, 0.08);
+    const Color color = mix(mix(look.buttonTop, White, 0.2), look.buttonBottom, y / canvas.height());
+    return std::fmod(x + y, 24) < 12 ? color : mix(color, White, 0.08);
   });
 }
 
@@ -157,10 +157,10 @@ void paintPhoto(Canvas& canvas, const Look& look) {
     const double bend = cloud(x / 170, y / 170, 5) - 0.5;
     const double haze = cloud(x / 120 + bend, y / 90 - bend, 11);
     const double down = y / canvas.height();
-    const Colour colour = mix(look.photoDark, look.photoLight, haze * 1.2 - 0.25 + 0.35 * (1 - down));
+    const Color color = mix(look.photoDark, look.photoLight, haze * 1.2 - 0.25 + 0.35 * (1 - down));
     const double warmth = (cloud(x / 60, y / 60, 23) - 0.5) * 0.4;
     const auto speck = [&] { return grain.next(-0.035, 0.035); };
-    return Colour{colour.r + warmth + speck(), colour.g + speck(), colour.b - warmth + speck(), 1};
+    return Color{color.r + warmth + speck(), color.g + speck(), color.b - warmth + speck(), 1};
   });
   for (int lamp = 0; lamp < 16; ++lamp) {
     const QPointF centre = grain.point(QRectF(0, 0, 512, 300));
@@ -170,7 +170,7 @@ void paintPhoto(Canvas& canvas, const Look& look) {
   for (int head = 0; head < 26; ++head) {
     const double x = grain.next(0, 512);
     const double y = 440 + grain.next(-40, 40);
-    const Colour shade = faded(mix(look.photoDark, Black, 0.55), 0.85);
+    const Color shade = faded(mix(look.photoDark, Black, 0.55), 0.85);
     canvas.fill(disc({x, y}, 24), shade, 5);
     canvas.fill(roundBox(QRectF(x - 36, y + 20, 72, 150), 30), shade, 5);
     if (head % 3 == 0) canvas.fill(line({x + 26, y + 40}, {x + 34, y - 50}, 8), shade, 4);

@@ -6,9 +6,9 @@ namespace sample {
 
 /// What makes the textures of one skin look alike.
 struct Look {
-  Colour panel, panelEdge;
-  Colour buttonTop, buttonBottom, buttonEdge;
-  Colour photoDark, photoLight;
+  Color panel, panelEdge;
+  Color buttonTop, buttonBottom, buttonEdge;
+  Color photoDark, photoLight;
   double roundness = 0;  // of a button's corners, as a part of half its height
 };
 

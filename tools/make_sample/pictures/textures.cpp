@@ -54,9 +54,9 @@ IndexedPicture equalizer(const Look& look) {
   const auto byte = [](double channel) { return static_cast<int>(std::lround(channel * 255)); };
   IndexedPicture picture{Columns * BlockWidth, Blocks * BlockHeight, {qRgb(0, 0, 0)}, {}, 0};
   for (int block = 1; block <= Blocks; ++block) {
-    picture.colours.push_back(qRgb(towards(byte(look.buttonEdge.r), byte(look.buttonBottom.r), block, Blocks),
-                                   towards(byte(look.buttonEdge.g), byte(look.buttonBottom.g), block, Blocks),
-                                   towards(byte(look.buttonEdge.b), byte(look.buttonBottom.b), block, Blocks)));
+    picture.colors.push_back(qRgb(towards(byte(look.buttonEdge.r), byte(look.buttonBottom.r), block, Blocks),
+                                  towards(byte(look.buttonEdge.g), byte(look.buttonBottom.g), block, Blocks),
+                                  towards(byte(look.buttonEdge.b), byte(look.buttonBottom.b), block, Blocks)));
   }
   constexpr int Heights[Columns] = {3, 5, 8, 6, 9, 10, 7, 4, 6, 8, 9, 5, 3, 4, 7, 9, 8, 6, 4, 2};
   for (int y = 0; y < picture.height; ++y) {

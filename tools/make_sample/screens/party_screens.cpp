@@ -155,7 +155,7 @@ Screen playersScreen() {
                                 at,
                                 {"Plain", "Accent", "1", player(team, "Light"), "0.5"},
                                 {caption(at, numbered("SINGER_", (team - 1) * 4 + member), 0, 9)}});
-      screen.buttons.back().texts.front().colour = "Ink";
+      screen.buttons.back().texts.front().color = "Ink";
     }
   }
   return screen;

@@ -16,7 +16,7 @@ struct StaticRow {
   std::string name;
   std::string tex;
   Place at;
-  std::string colour;
+  std::string color;
   std::string type = "Transparent";
   std::string more = {};
 };
@@ -27,16 +27,16 @@ struct TextRow {
   int font = 0;
   int size = 10;
   int align = 0;
-  std::string colour;  // empty where `more` gives the channels
-  std::string key;     // of the words in the language files
+  std::string color;  // empty where `more` gives the channels
+  std::string key;    // of the words in the language files
   std::string more = {};
 };
 
 /// How a button is coloured in its two states.
 struct ButtonLook {
   std::string type;
-  std::string colour, intensity;
-  std::string deselectedColour, deselectedIntensity;
+  std::string color, intensity;
+  std::string deselectedColor, deselectedIntensity;
 };
 
 struct ButtonRow {

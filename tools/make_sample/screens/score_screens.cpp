@@ -35,28 +35,28 @@ constexpr ScoreLine Lines[] = {
 void addSeat(Screen& screen, const Seat& seat) {
   const std::string digit = std::to_string(seat.digit);
   const std::string person = "Player" + digit;
-  const std::string colour = numbered("P", seat.player);
+  const std::string color = numbered("P", seat.player);
   const int left = seat.x + 4 + seat.width / 20;
   const int right = seat.x + seat.width - 4 - seat.width / 20;
   const int middle = seat.x + seat.width / 2;
   const int level = (right - left - 28) * seat.level / 100;
   screen.statics.push_back({person + "Static1Panel", "PanelTall", {seat.x, 80, seat.width, 422}, "White"});
   screen.statics.push_back(
-      {person + "Static2Photo", "Photo", {left, 94, right - left, 84}, colour + "Dark", "Colorized"});
-  screen.texts.push_back({person + "Text1", middle, 178, 1, 9, 1, colour + "Light", numbered("PLAYER_", seat.player)});
+      {person + "Static2Photo", "Photo", {left, 94, right - left, 84}, color + "Dark", "Colorized"});
+  screen.texts.push_back({person + "Text1", middle, 178, 1, 9, 1, color + "Light", numbered("PLAYER_", seat.player)});
   for (const ScoreLine& line : Lines) {
     const int textTop = line.top + middleOf(36, 0, 8);
     const int points = seat.level * line.share;
     screen.statics.push_back(
-        {line.box + digit, "RowBright", {left, line.top, right - left, 36}, colour + line.shade, "Colorized"});
+        {line.box + digit, "RowBright", {left, line.top, right - left, 36}, color + line.shade, "Colorized"});
     screen.texts.push_back({line.word + digit, left + 12, textTop, 0, 8, 0, "White", line.key});
     screen.texts.push_back({line.value + digit, right - 12, textTop, 0, 8, 2, "White", std::to_string(points)});
   }
   screen.statics.push_back({"StaticBackLevel" + digit, "Track", {left, 350, right - left, 24}, "White"});
   screen.statics.push_back({"StaticBackLevelRound" + digit, "Cap", {right - 14, 354, 8, 16}, "Plum", "Colorized"});
-  screen.statics.push_back({"StaticLevel" + digit, "Level", {left + 8, 354, level, 16}, colour + "Dark", "Colorized"});
+  screen.statics.push_back({"StaticLevel" + digit, "Level", {left + 8, 354, level, 16}, color + "Dark", "Colorized"});
   screen.statics.push_back(
-      {"StaticLevelRound" + digit, "Cap", {left + 8 + level, 354, 8, 16}, colour + "Dark", "Colorized"});
+      {"StaticLevelRound" + digit, "Cap", {left + 8 + level, 354, 8, 16}, color + "Dark", "Colorized"});
   screen.texts.push_back({"TextTotal" + digit, left, 386, 0, 10, 0, "Body", "SCORE_TOTAL"});
   screen.texts.push_back({"TextTotalScore" + digit, right, 376, 1, 11, 2, "Gold", std::to_string(seat.level * 100)});
   screen.texts.push_back({"TextScore" + digit, middle, 438, 1, 10, 1, "Title", numbered("RATING_", seat.player)});

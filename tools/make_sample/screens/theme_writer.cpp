@@ -40,13 +40,13 @@ std::string placeLines(const Place& at) {
 }
 
 std::string staticText(const Screen& screen, const StaticRow& row) {
-  return header(screen.stem + row.name) + line("Tex", row.tex) + placeLines(row.at) + line("Color", row.colour) +
+  return header(screen.stem + row.name) + line("Tex", row.tex) + placeLines(row.at) + line("Color", row.color) +
          line("Type", row.type) + moreLines(row.more) + moreLines(screen.staticsMore) + "\n";
 }
 
 std::string textText(const std::string& section, const TextRow& row) {
   return header(section) + line("X", row.x) + line("Y", row.y) + line("Font", row.font) + line("Size", row.size) +
-         line("Align", row.align) + (row.colour.empty() ? std::string() : line("Color", row.colour)) +
+         line("Align", row.align) + (row.color.empty() ? std::string() : line("Color", row.color)) +
          line("Text", row.key) + moreLines(row.more) + "\n";
 }
 
@@ -54,8 +54,8 @@ std::string buttonText(const std::string& stem, const ButtonRow& row) {
   const std::string section = stem + row.name;
   int lastChild = 0;
   for (const TextRow& text : row.texts) lastChild = std::max(lastChild, std::stoi(text.name));
-  std::string lines = header(section) + line("Tex", row.tex) + placeLines(row.at) + line("Color", row.look.colour) +
-                      line("INT", row.look.intensity) + line("DColor", row.look.deselectedColour) +
+  std::string lines = header(section) + line("Tex", row.tex) + placeLines(row.at) + line("Color", row.look.color) +
+                      line("INT", row.look.intensity) + line("DColor", row.look.deselectedColor) +
                       line("DINT", row.look.deselectedIntensity) + line("Type", row.look.type) +
                       line("Texts", lastChild) + moreLines(row.more) + "\n";
   for (const TextRow& text : row.texts) lines += textText(section + "Text" + text.name, text);

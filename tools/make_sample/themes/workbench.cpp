@@ -25,7 +25,7 @@ QImage styled(int width, int height, TextureStyle style) {
 /// A ground that lets through what lies below it, more so to the right.
 QImage glass() {
   Canvas canvas(300, 225, 800, 600);
-  canvas.shade([&](double x, double y) { return Colour{0.4, 0.6 + 0.3 * y / 600, 0.8, 1 - x / 800}; });
+  canvas.shade([&](double x, double y) { return Color{0.4, 0.6 + 0.3 * y / 600, 0.8, 1 - x / 800}; });
   return canvas.image();
 }
 
@@ -33,7 +33,7 @@ QImage glass() {
 IndexedPicture dot() {
   constexpr int Size = 48;
   IndexedPicture picture{Size, Size, {qRgb(255, 0, 255)}, {}, 0};
-  for (int step = 0; step < 16; ++step) picture.colours.push_back(qRgb(40 + step * 8, 90 + step * 10, 200 + step * 3));
+  for (int step = 0; step < 16; ++step) picture.colors.push_back(qRgb(40 + step * 8, 90 + step * 10, 200 + step * 3));
   for (int y = 0; y < Size; ++y) {
     for (int x = 0; x < Size; ++x) {
       const int across = 2 * x - Size + 1;
