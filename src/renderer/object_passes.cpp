@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <new>
 
+#include <QHash>
+#include <QRegularExpression>
+
 #include "drawing/system_colours.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
@@ -10,12 +13,15 @@
 #include "renderer/text_objects.h"
 #include "renderer/texture_pipeline.h"
 #include "themefiles/colour_tables.h"
+#include "themefiles/screen_table.h"
 
 namespace renderer {
 namespace {
 
 constexpr int MostButtons = 255;
 constexpr int ChildrenBetweenYields = 50;
+
+constexpr std::initializer_list<QStringView> StaticWords{u"STATIC", u"SONGVIDEOICON"};
 
 bool holdsAny(const QString& text, std::initializer_list<QStringView> words) {
   return std::any_of(words.begin(), words.end(), [&](QStringView word) { return text.contains(word); });
@@ -65,7 +71,7 @@ void drawObject(RenderContext& context, const ObjectSection& section, const Pict
       break;
     case TextureOutcome::NoArea:
       leaveOut(context, section.Name(), Reason::NoArea, QStringLiteral("W x H"),
-               QStringLiteral("%1 x %2").arg(box.W).arg(box.H));
+               QStringLiteral("%1 x %2").arg(QString::number(box.W), QString::number(box.H)));
       break;
   }
 }
@@ -96,24 +102,25 @@ void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, 
 }
 
 /// A button that grows sets `textShift`. The next child text is moved by it, even if it belongs to another button.
-void drawButton(RenderContext& context, const QString& tag, int& textShift) {
+/// Returns the reason for its texts if they are left out, too.
+std::optional<Reason> drawButton(RenderContext& context, const QString& tag, int& textShift) {
   const ObjectSection section(context, tag);
   const QString visible = section.Value(QStringLiteral("Visible"));
   if (visible == u"0") {
     leaveOut(context, tag, Reason::Hidden, QStringLiteral("Visible"), visible);
-    return;
+    return Reason::HiddenWithButton;
   }
   const bool selected = countButton(context.state);
   const PictureFile file = texturePath(context, section);
-  if (file.path.isEmpty()) return;
+  if (file.path.isEmpty()) return Reason::WithButton;
   auto box = themeBox(context, section, screenStep());
-  if (!box) return;
+  if (!box) return Reason::WithButton;
   Look look{QStringLiteral("DColor"), QStringLiteral("DINT")};
   if (selected) {
     look.colorKey = QStringLiteral("Color");
     look.intensityKey = QStringLiteral("INT");
     const auto selectedHeight = themeInt16(context, section, QStringLiteral("SelectH"), screenStep());
-    if (!selectedHeight) return;
+    if (!selectedHeight) return Reason::WithButton;
     if (*selectedHeight != 0) {
       if (!platform::upperCase(tag).contains(u"COLLECTION")) textShift = *selectedHeight - box->H;
       box->H = *selectedHeight;
@@ -122,9 +129,26 @@ void drawButton(RenderContext& context, const QString& tag, int& textShift) {
   }
   drawObject(context, section, file, *box, look);
   const auto texts = themeInt16(context, section, QStringLiteral("TEXTS"), screenStep());
-  if (!texts) return;
+  if (!texts) return Reason::WithButton;
   drawChildTexts(context, tag, *box, *texts, textShift);
   showObject(context);
+  return std::nullopt;
+}
+
+/// Enters the listed texts of the buttons without texts, by the buttons' names in upper case.
+void leaveOutTexts(RenderContext& context, const QHash<QString, Reason>& buttons) {
+  if (buttons.isEmpty()) return;
+  for (int row = 0; row < context.tags.ListCount(); ++row) {
+    const QString tag = context.tags.List(row);
+    const QString button = buttonOfText(tag);
+    const auto found = buttons.constFind(platform::upperCase(button));
+    if (found != buttons.constEnd()) leaveOut(context, tag, *found, {}, button);
+  }
+}
+
+/// Whether the tag, in upper case, is drawn as something else as well: on the screen Name every name is a button's.
+bool isNoMereButton(const QString& tag, const QString& stem) {
+  return holdsAny(tag, StaticWords) || tag == stem || tag == stem + QStringLiteral("BACKGROUND");
 }
 
 }  // namespace
@@ -134,8 +158,15 @@ bool isButton(const QString& tag) {
   return holdsAny(upper, {u"BUTTON", u"SELECT", u"NAME"}) && !upper.contains(u"TEXT");
 }
 
+QString buttonOfText(const QString& tag) {
+  static const QRegularExpression Ending(QStringLiteral("TEXT[1-9][0-9]*$"), QRegularExpression::CaseInsensitiveOption);
+  const qsizetype head = tag.indexOf(Ending);
+  return head > 0 && isButton(tag.first(head)) ? tag.first(head) : QString();
+}
+
 void DrawBackground(RenderContext& context, const QString& stem) {
   const QString section = stem + QStringLiteral("Background");
+  context.account.background = section;
   const PictureFile file = texturePath(context, ObjectSection(context, section));
   const auto wipe = [&] { context.Workspace.wipe(drawing::colorOf(context.state.BackgroundColor)); };
   if (file.path.isEmpty()) return wipe();
@@ -158,7 +189,7 @@ void DrawBackground(RenderContext& context, const QString& stem) {
 void DrawStatics(RenderContext& context) {
   for (int row = 0; row < context.tags.ListCount(); ++row) {
     const QString tag = context.tags.List(row);
-    if (!holdsAny(platform::upperCase(tag), {u"STATIC", u"SONGVIDEOICON"})) continue;
+    if (!holdsAny(platform::upperCase(tag), StaticWords)) continue;
     const ObjectSection section(context, tag);
     const PictureFile file = texturePath(context, section);
     if (file.path.isEmpty()) continue;
@@ -179,11 +210,25 @@ void DrawTexts(RenderContext& context) {
 }
 
 void DrawButtons(RenderContext& context) {
+  const QString stem = platform::upperCase(themefiles::stemOf(context.state, context.host.screenName()));
+  std::vector<LeftOut>& missing = context.account.missing;
+  QHash<QString, Reason> withoutTexts;
   int textShift = 0;
   for (int row = 0; row < context.tags.ListCount(); ++row) {
     const QString tag = context.tags.List(row);
-    if (isButton(tag)) drawButton(context, tag, textShift);
+    if (!isButton(tag)) continue;
+    const QString upper = platform::upperCase(tag);
+    const auto before = static_cast<std::ptrdiff_t>(missing.size());
+    const std::optional<Reason> withoutText = drawButton(context, tag, textShift);
+    if (isNoMereButton(upper, stem)) {
+      // What is drawn as something else isn't missed as a button.
+      const auto isButtons = [&](const LeftOut& entry) { return entry.section == tag; };
+      missing.erase(std::remove_if(missing.begin() + before, missing.end(), isButtons), missing.end());
+    } else if (withoutText) {
+      withoutTexts.insert(upper, *withoutText);
+    }
   }
+  leaveOutTexts(context, withoutTexts);
 }
 
 }  // namespace renderer

@@ -8,6 +8,9 @@ namespace renderer {
 /// Whether the tag is that of a button.
 bool isButton(const QString& tag);
 
+/// The button to which a child text belongs by its name, as "MainButton" for "MainButtonText1"; empty for other tags.
+QString buttonOfText(const QString& tag);
+
 /// Draws the background picture over the whole surface, or else fills it with the background colour.
 void DrawBackground(RenderContext& context, const QString& stem);
 

@@ -4,6 +4,8 @@
 
 #include <QStringView>
 
+#include "platform/code_page.h"
+
 namespace renderer {
 namespace {
 
@@ -12,7 +14,7 @@ struct Wording {
   QStringView text;  ///< %1 is the value, %2 the key
 };
 
-constexpr std::array<Wording, 10> Wordings{{
+constexpr std::array<Wording, 12> Wordings{{
     {Reason::NoTexture, u"texture '%1' has no entry in the skin"},
     {Reason::NoFile, u"no file '%1'"},
     {Reason::Unseen, u"file '%1' can't be looked at"},
@@ -23,9 +25,17 @@ constexpr std::array<Wording, 10> Wordings{{
     {Reason::NoArea, u"%2: '%1' leaves no area"},
     {Reason::Hidden, u"hidden: %2 is %1"},
     {Reason::NoSize, u"%2: '%1' is no size of a text"},
+    {Reason::HiddenWithButton, u"hidden with its button '%1'"},
+    {Reason::WithButton, u"left out with its button '%1'"},
 }};
 
 }  // namespace
+
+QSet<QString> drawnSections(const RenderAccount& account) {
+  QSet<QString> drawn{platform::upperCase(account.background)};
+  for (const DrawnObject& object : account.objects) drawn.insert(platform::upperCase(object.section));
+  return drawn;
+}
 
 QString reasonText(const LeftOut& entry) {
   for (const Wording& wording : Wordings) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <QRect>
+#include <QSet>
 #include <QString>
 
 #include "drawing/surface.h"
@@ -14,16 +15,18 @@ namespace renderer {
 
 /// Why an object isn't drawn, or not seen.
 enum class Reason {
-  NoTexture,       ///< the texture has no entry in the skin
-  NoFile,          ///< the entry names no file
-  Unseen,          ///< whether that file is there can't be seen
-  NoPicture,       ///< the file can't be decoded
-  UnknownColor,    ///< the colour is in no table
-  ColorRange,      ///< a channel leaves 0 to 255 under the intensity
-  NumberTooLarge,  ///< a number doesn't fit 16 bits
-  NoArea,          ///< width or height is 0 or negative
-  Hidden,          ///< Visible is 0
-  NoSize,          ///< a text whose size is 0 or below
+  NoTexture,         ///< the texture has no entry in the skin
+  NoFile,            ///< the entry names no file
+  Unseen,            ///< whether that file is there can't be seen
+  NoPicture,         ///< the file can't be decoded
+  UnknownColor,      ///< the colour is in no table
+  ColorRange,        ///< a channel leaves 0 to 255 under the intensity
+  NumberTooLarge,    ///< a number doesn't fit 16 bits
+  NoArea,            ///< width or height is 0 or negative
+  Hidden,            ///< Visible is 0
+  NoSize,            ///< a text whose size is 0 or below
+  HiddenWithButton,  ///< the text of a hidden button
+  WithButton,        ///< the text of a button that is left out for another reason
 };
 
 /// One object that the render left out: the section, and the key and value that decided it.
@@ -46,10 +49,14 @@ struct DrawnObject {
 struct RenderAccount {
   std::vector<DrawnObject> objects;
   std::vector<LeftOut> missing;
+  QString background;  ///< the section of the screen's background; without a picture it is a plain colour
   /// The picture files that it looked for, by the program's path, as the first look found each: none where no file was.
   std::map<QString, std::optional<platform::FileIdentity>> pictures;
   std::optional<drawing::Pen> startPen;  ///< as the render found it; none before the first one
 };
+
+/// The sections that were drawn, the background's among them, in upper case.
+QSet<QString> drawnSections(const RenderAccount& account);
 
 /// The reason in words: "no file 'x.png'".
 QString reasonText(const LeftOut& entry);

@@ -25,7 +25,6 @@ class ScreenCheck {
   ScreenCheck(const CheckedTheme& theme, const themefiles::ModuleState& state, const themefiles::ScreenRow& screen,
               QString skin, renderer::PreparedPictures& pictures, Findings& findings)
       : theme_(theme),
-        screen_(screen),
         skin_(std::move(skin)),
         findings_(findings),
         chosen_(state, screen.Name, themefiles::schemeNames(state).value(0), reports_) {
@@ -44,7 +43,6 @@ class ScreenCheck {
   bool isUnseen(const renderer::DrawnObject& object, bool isText) const;
 
   const CheckedTheme& theme_;
-  const themefiles::ScreenRow& screen_;
   QString skin_;
   QString language_;
   bool picturesDrawn_ = false;
@@ -122,15 +120,15 @@ void ScreenCheck::draw(renderer::RenderContext context, Pass pass) {
   }
 }
 
-/// A missing background is no finding, and a screen's own section is no object.
-bool isNoFault(const renderer::LeftOut& entry, const QString& stem) {
-  return entry.why == renderer::Reason::NoTexture && entry.value.isEmpty() &&
-         (platform::sameName(entry.section, stem) ||
-          platform::sameName(entry.section, stem + QStringLiteral("Background")));
+/// A missing background is no finding. The texts of a button share its cause, and that is told of the button.
+bool isNoFault(const renderer::LeftOut& entry, const QString& background) {
+  using renderer::Reason;
+  return entry.why == Reason::HiddenWithButton || entry.why == Reason::WithButton ||
+         (entry.why == Reason::NoTexture && entry.value.isEmpty() && entry.section == background);
 }
 
 void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
-  if (isNoFault(entry, screen_.Stem)) return;
+  if (isNoFault(entry, chosen_.account.background)) return;
   Place place = theme_.theme.place(entry.section, entry.key);
   // Width and height make one finding, at the first of the two lines.
   for (const QString& key : entry.key.split(QStringLiteral(" x "))) {

@@ -1,7 +1,6 @@
 #include "toolwindow/object_selection.h"
 
 #include <map>
-#include <set>
 #include <utility>
 
 #include <QSignalBlocker>
@@ -114,8 +113,7 @@ void showReasons(Form2& form, const renderer::RenderAccount& account) {
     const QString text = renderer::reasonText(entry);
     if (!texts.contains(text)) texts += text;
   }
-  std::set<QString> drawn;
-  for (const renderer::DrawnObject& object : account.objects) drawn.insert(platform::upperCase(object.section));
+  const QSet<QString> drawn = renderer::drawnSections(account);
   form.Combo3->updateSwatches();  // the squares may be those of another scheme
   for (int row = 0; row < form.List1->ListCount(); ++row) {
     const QString name = platform::upperCase(form.List1->List(row));

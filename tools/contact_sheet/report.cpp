@@ -12,8 +12,7 @@ namespace {
 /// What a render says of each section. A theme's files may spell one section in several ways.
 class Outcomes {
  public:
-  explicit Outcomes(const renderer::RenderAccount& account) {
-    for (const renderer::DrawnObject& object : account.objects) drawn_.insert(platform::upperCase(object.section));
+  explicit Outcomes(const renderer::RenderAccount& account) : drawn_(renderer::drawnSections(account)) {
     for (const renderer::LeftOut& entry : account.missing) {
       QStringList& reasons = reasons_[platform::upperCase(entry.section)];
       const QString reason = renderer::reasonText(entry);
@@ -21,11 +20,10 @@ class Outcomes {
     }
   }
 
-  ReportRow rowOf(const QString& section, bool isBackground) const {
+  ReportRow rowOf(const QString& section) const {
     const QString name = platform::upperCase(section);
     const QStringList reasons = reasons_.value(name);
-    // The background isn't in the account's list of objects: it is no object that can be picked.
-    const bool drawn = drawn_.contains(name) || (isBackground && reasons.isEmpty());
+    const bool drawn = drawn_.contains(name);
     const bool told = drawn || !reasons.isEmpty();
     return {section, drawn, told ? reasons.join(QStringLiteral("; ")) : QStringLiteral("not part of the preview")};
   }
@@ -42,9 +40,8 @@ QString field(QString text) {
 
 }  // namespace
 
-std::vector<ReportRow> rowsOf(const QString& background, const themefiles::TagList& tags,
-                              const renderer::RenderAccount& account) {
-  QStringList sections{background};
+std::vector<ReportRow> rowsOf(const themefiles::TagList& tags, const renderer::RenderAccount& account) {
+  QStringList sections{account.background};
   for (int row = 0; row < tags.ListCount(); ++row) sections += tags.List(row);
   for (const renderer::DrawnObject& object : account.objects) sections += object.section;
   for (const renderer::LeftOut& entry : account.missing) sections += entry.section;
@@ -54,7 +51,7 @@ std::vector<ReportRow> rowsOf(const QString& background, const themefiles::TagLi
   for (const QString& section : sections) {
     const qsizetype before = told.size();
     told.insert(platform::upperCase(section));
-    if (told.size() > before) rows.push_back(outcomes.rowOf(section, rows.empty()));
+    if (told.size() > before) rows.push_back(outcomes.rowOf(section));
   }
   return rows;
 }

@@ -14,13 +14,12 @@ namespace contactsheet {
 struct ReportRow {
   QString section;
   bool drawn = false;
-  QString reason;  ///< why it, or a part of it, was left out
+  QString reason;  ///< why it, or a part of it, was left out; of a background, why it is a plain colour
 };
 
 /// One row a section: the background, which every screen asks for, the rows of the tag list in the order of painting,
 /// and what was drawn without being listed.
-std::vector<ReportRow> rowsOf(const QString& background, const themefiles::TagList& tags,
-                              const renderer::RenderAccount& account);
+std::vector<ReportRow> rowsOf(const themefiles::TagList& tags, const renderer::RenderAccount& account);
 
 /// The rows of every screen, in the order of the screens, as a table with a header line, UTF-8.
 QByteArray reportText(const std::vector<std::vector<ReportRow>>& screens);

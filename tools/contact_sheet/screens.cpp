@@ -16,8 +16,7 @@ Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const
     chosen.state.SelectedButton = *selected;
     renderer::DrawScreen(context);
   }
-  return {screen.Name, chosen.workspace.image(),
-          rowsOf(screen.Stem + QStringLiteral("Background"), chosen.tags, chosen.account)};
+  return {screen.Name, chosen.workspace.image(), rowsOf(chosen.tags, chosen.account)};
 }
 
 }  // namespace contactsheet
