@@ -40,11 +40,10 @@ constexpr std::array<KindRow, 20> Kinds{{
 
 constexpr std::array<QStringView, 3> LevelNames{u"error", u"warning", u"note"};
 
+/// The words with `fill` in place of %1 and %2, whatever stands in it.
 QString wordsOf(const KindRow& row, const QStringList& fill) {
-  QString words = row.words.toString();
-  // %2 first: the text for %1 may hold a "%2".
-  for (qsizetype place = fill.size(); place > 0; --place) words.replace(u'%' + QString::number(place), fill[place - 1]);
-  return words;
+  const QString words = row.words.toString();
+  return fill.size() > 1 ? words.arg(fill[0], fill[1]) : fill.size() > 0 ? words.arg(fill[0]) : words;
 }
 
 void addName(QStringList& names, const QString& name) {

@@ -23,7 +23,9 @@ constexpr const char* SmallTheme =
     "Themes/T.ini: [Colors]|Ink=250 10 20|[LoadingBackground]|Tex=Gone|[Loading]|Loop=1|"
     "[LoadingButtonOne]|Tex=Block|X=300|Y=9|W=30|H=9|Color=Ink|DColor=Ink|TEXTS=1|"
     "[LoadingButtonOneText1]|Text=A|X=1|Y=1|Size=10|[LoadingButtonOneText2]|Text=B|X=1|Y=1|Size=10|"
-    "[LoadingTextHalf]|Text=A|X=5|Y=5|Size=0|[LoadingStatic\tTab]|Tex=a\tb|[Main]|Loop=1|";
+    "[LoadingButtonOff]|Visible=0|[LoadingButtonOffText1]|X=1|"
+    "[LoadingTextHalf]|Text=A|X=5|Y=5|Size=0|[LoadingStatic\tTab]|Tex=a\tb|[Main]|Loop=1|"
+    "[Name]|Visible=0|[NameBackground]|Tex=Block|Visible=0|[NameStaticBar]|Tex=Block|W=9|H=9|Color=Ink|Visible=0|";
 
 }  // namespace
 
@@ -69,11 +71,13 @@ class ContactSheetTest : public QObject {
     draw(0, {game.path(), u"T"_s, u"Dusk"_s, u"English"_s, output});
     const QByteArrayList lines = readFile(output + u"/report.tsv"_s).split('\n');
     for (const char* line :
-         {"screen\tsection\tresult\treason", "1\tLoadingBackground\tleft out\tno file 'gone.png'",
-          "2\tMainBackground\tleft out\ttexture '' has no entry in the skin",
+         {"screen\tsection\tresult\treason", "1\tLoadingBackground\tdrawn\tno file 'gone.png'",
+          "2\tMainBackground\tdrawn\ttexture '' has no entry in the skin",
           "1\tLoading\tleft out\tnot part of the preview", "1\tLoadingButtonOne\tdrawn\t",
           "1\tLoadingTextHalf\tleft out\tSize: '0' is no size of a text", "1\tLoadingButtonOneText1\tdrawn\t",
           "1\tLoadingButtonOneText2\tleft out\tnot part of the preview",
+          "1\tLoadingButtonOffText1\tleft out\thidden with its button 'LoadingButtonOff'",
+          "21\tNameBackground\tdrawn\t", "21\tNameStaticBar\tdrawn\t",
           "1\tLoadingStatic Tab\tleft out\ttexture 'a b' has no entry in the skin"}) {
       QVERIFY2(lines.count(line) == 1, line);
     }
@@ -81,6 +85,8 @@ class ContactSheetTest : public QObject {
 
   void refuses() {
     const QTemporaryDir place;
+    const QTemporaryDir links;
+    QVERIFY(QFile::link(Sample + u"/Skins"_s, links.filePath(u"link"_s)));
     const QStringList plain = sampleTheme(place.filePath(u"out"_s));
     const auto with = [&](int argument, const QString& name) {
       QStringList arguments = plain;
@@ -91,11 +97,16 @@ class ContactSheetTest : public QObject {
              std::pair(QStringList(), "Usage"),
              {with(3, u"Nix"_s), "Languages/Nix.ini"},
              {with(4, Sample + u"/../Cantorama/Themes/sheet"_s), "lies in the game folder"},
+             {with(4, links.filePath(u"link/new/sheet"_s)), "lies in the game folder"},
+             {with(4, links.filePath(u"link/../sheet"_s)), "lies in the game folder"},
+             {with(4, Sample + u"\\sheet"_s), "lies in the game folder"},
+             {with(3, u"%1 %2\n\x1b[2J"_s), "Languages/%1 %2??[2J.ini [%1 %2??[2J.ini: No such file"},
              {plain + QStringList{u"-platform"_s, u"xcb"_s}, "'platform'"},
              {plain + QStringList{u"--scheme=Mauve"_s}, "no colour scheme 'Mauve'; there are: Blue, Green"},
              {plain + QStringList{u"--selected=256"_s}, "--selected takes a number from 1 to 255"},
          }) {
-      const QByteArray errors = draw(2, arguments);
+      const QByteArray errors = draw(2, arguments, {u"-uXDG_RUNTIME_DIR"_s});
+      QVERIFY2(errors.startsWith("cantorama-contact-sheet: "), errors);  // and no word of the toolkit
       QVERIFY2(errors.contains(message), message + errors);
       QVERIFY(QDir(place.path()).isEmpty());
     }

@@ -1,9 +1,14 @@
 #include "arguments.h"
 
+#include <algorithm>
+
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 
 #include "platform/failure.h"
+#include "platform/paths.h"
+#include "windowless_tool.h"
 
 namespace contactsheet {
 namespace {
@@ -28,15 +33,17 @@ quint8 buttonNumber(const QString& text) {
   return static_cast<quint8>(number);
 }
 
-/// A path without links and dots, for a folder that is there.
-QString plainFolder(const QString& folder) {
-  const QString canonical = QDir(folder).canonicalPath();
-  return canonical.isEmpty() ? QDir::cleanPath(QDir(folder).absolutePath()) : canonical;
+/// The path without links and dots, as it is once what isn't there yet was made.
+QString resolved(const QString& path) {
+  const QFileInfo info(QDir().absoluteFilePath(path));
+  if (info.exists() || info.isRoot()) return info.canonicalFilePath();
+  const QString& whole = info.filePath();
+  const qsizetype slash = whole.lastIndexOf(u'/');
+  return QDir::cleanPath(resolved(whole.first(std::max<qsizetype>(slash, 1))) + whole.sliced(slash));
 }
 
 void refuseOutputInGame(const Arguments& arguments) {
-  const QString output = plainFolder(arguments.outputFolder) + u'/';
-  if (output.startsWith(plainFolder(arguments.gameFolder) + u'/')) {
+  if ((arguments.outputFolder + u'/').startsWith(resolved(platform::nativePath(arguments.gameFolder)) + u'/')) {
     throw platform::Failure(QStringLiteral("the output folder '%1' lies in the game folder, where nothing is written")
                                 .arg(arguments.outputFolder));
   }
@@ -59,14 +66,14 @@ Arguments parseArguments(const QStringList& words) {
   if (!arguments.answer.isEmpty()) return arguments;
   const QStringList names = parser.positionalArguments();
   if (names.size() != Names) {
-    throw platform::Failure(QStringLiteral("%1 names given where %2 are wanted\n").arg(names.size()).arg(Names) +
-                            usage());
+    throw windowless::WrongUsage(QStringLiteral("%1 names given where %2 are wanted").arg(names.size()).arg(Names),
+                                 usage());
   }
   arguments.gameFolder = names[0];
   arguments.theme = names[1];
   arguments.skin = names[2];
   arguments.language = names[3];
-  arguments.outputFolder = names[4];
+  arguments.outputFolder = resolved(platform::plainPath(names[4]));
   arguments.scheme = parser.value(scheme);
   if (parser.isSet(selected)) arguments.selected = buttonNumber(parser.value(selected));
   refuseOutputInGame(arguments);

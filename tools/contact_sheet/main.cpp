@@ -17,7 +17,7 @@ using windowless::print;
 /// Writes every report to the standard error output.
 class ErrorOutput : public platform::StatusLine {
  protected:
-  void showReport(const QString& text) override { print(stderr, text); }
+  void showReport(const QString& text) override { print(stderr, windowless::onOneLine(text)); }
 };
 
 /// The path of a file of the output folder, which is made when it isn't there.
@@ -41,17 +41,15 @@ void drawSheet(const contactsheet::Arguments& arguments) {
     contactsheet::writePng(screen.picture, outputPath(arguments.outputFolder, number + QStringLiteral(".png")));
     const auto drawn =
         std::count_if(screen.rows.begin(), screen.rows.end(), [](const auto& line) { return line.drawn; });
+    const auto leftOut = static_cast<qsizetype>(screen.rows.size()) - drawn;
     print(stderr, QStringLiteral("%1/%2 %3: %4 drawn, %5 left out")
-                      .arg(number)
-                      .arg(theme.state().ScreenTable.size())
-                      .arg(screen.name)
-                      .arg(drawn)
-                      .arg(static_cast<qsizetype>(screen.rows.size()) - drawn));
+                      .arg(number, QString::number(theme.state().ScreenTable.size()), screen.name,
+                           QString::number(drawn), QString::number(leftOut)));
   }
   contactsheet::writePng(contactsheet::overview(screens),
                          outputPath(arguments.outputFolder, QStringLiteral("overview.png")));
   platform::writeFile(outputPath(arguments.outputFolder, QStringLiteral("report.tsv")),
-                      contactsheet::reportText(report));
+                      contactsheet::reportText(report), platform::AtLink::Replace);
 }
 
 }  // namespace

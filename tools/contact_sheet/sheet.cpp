@@ -45,7 +45,7 @@ void writePng(const QImage& picture, const QString& path) {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   if (!picture.save(&buffer, "PNG")) throw platform::Failure(QStringLiteral("can't make the picture ") + path);
-  platform::writeFile(path, bytes);
+  platform::writeFile(path, bytes, platform::AtLink::Replace);
 }
 
 }  // namespace contactsheet

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 
 #include "platform/failure.h"
+#include "windowless_tool.h"
 
 namespace themechecktool {
 namespace {
@@ -49,7 +50,7 @@ Arguments parseArguments(const QStringList& words) {
   if (parser.isSet(version)) arguments.answer = QStringLiteral("cantorama-theme-check " CANTORAMA_VERSION);
   if (!arguments.answer.isEmpty()) return arguments;
   const QStringList names = parser.positionalArguments();
-  if (names.isEmpty()) throw platform::Failure(QStringLiteral("no game folder is named\n") + usage());
+  if (names.isEmpty()) throw windowless::WrongUsage(QStringLiteral("no game folder is named"), usage());
   const QString form = parser.value(format);
   if (form != u"text" && form != u"json") {
     throw platform::Failure(QStringLiteral("--format takes text or json, not '%1'").arg(form));

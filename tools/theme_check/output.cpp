@@ -1,10 +1,10 @@
 #include "output.h"
 
-#include <algorithm>
-
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include "windowless_tool.h"
 
 namespace themechecktool {
 namespace {
@@ -13,18 +13,11 @@ using themecheck::Finding;
 using themecheck::Level;
 
 QString counted(int number, const QString& what) {
-  return QStringLiteral("%1 %2%3").arg(number).arg(what, number == 1 ? QString() : QStringLiteral("s"));
+  return QStringLiteral("%1 %2%3").arg(QString::number(number), what, number == 1 ? QString() : QStringLiteral("s"));
 }
 
 QString field(const QString& text) {
   return text.isEmpty() ? QStringLiteral("-") : text;
-}
-
-/// What a file holds can't end the line or steer the terminal.
-QString onOneLine(QString text) {
-  std::replace_if(
-      text.begin(), text.end(), [](QChar letter) { return letter.category() == QChar::Other_Control; }, QChar(u'?'));
-  return text;
 }
 
 }  // namespace
@@ -47,10 +40,11 @@ QString countsText(const Counts& counts) {
 
 QString lineOf(const Finding& finding) {
   const themecheck::Place& place = finding.place;
-  const QString head = QStringLiteral("%1:%2: %3: ").arg(place.file).arg(place.line).arg(nameOf(finding.level));
+  const QString head =
+      QStringLiteral("%1:%2: %3: ").arg(place.file, QString::number(place.line), nameOf(finding.level));
   const QString rest = QStringList{field(place.section), field(place.key), finding.text}.join(QStringLiteral(": "));
   const QString where = finding.where.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.where);
-  return onOneLine(head + rest + where);
+  return windowless::onOneLine(head + rest + where);
 }
 
 QByteArray jsonOf(const std::vector<Finding>& findings) {

@@ -1,28 +1,66 @@
 #include "windowless_tool.h"
 
+#include <algorithm>
+#include <array>
+#include <csignal>
+
 #include <QGuiApplication>
 
-#include "platform/failure.h"
-
 namespace windowless {
+namespace {
+
+/// They are about a desktop that isn't there, and about pictures, of which the program tells itself.
+void dropMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
+  if (type == QtCriticalMsg || type == QtFatalMsg) print(stderr, onOneLine(text));
+}
+
+bool steers(QChar letter) {
+  constexpr std::array<QChar::Category, 4> Steering{QChar::Other_Control, QChar::Other_Format, QChar::Separator_Line,
+                                                    QChar::Separator_Paragraph};
+  return std::find(Steering.begin(), Steering.end(), letter.category()) != Steering.end();
+}
+
+/// Runs the program, and makes sure that all of its output is written.
+int runAndFlush(const std::function<int(const QStringList& words)>& run, const QStringList& words) {
+  const int status = run(words);
+  if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) {
+    throw platform::Failure(QStringLiteral("the output can't be written"));
+  }
+  return status;
+}
+
+}  // namespace
+
+QString onOneLine(QString text) {
+  std::replace_if(text.begin(), text.end(), steers, QChar(u'?'));
+  return text;
+}
 
 void print(std::FILE* stream, const QString& text) {
-  std::fprintf(stream, "%s\n", text.toLocal8Bit().constData());
+  std::fprintf(stream, "%s\n", text.toUtf8().constData());
 }
 
 int runTool(const QString& name, int argc, char** argv, const std::function<int(const QStringList& words)>& run) {
+#ifdef SIGPIPE
+  std::signal(SIGPIPE, SIG_IGN);  // a reader that has ended is a failure to write
+#endif
+  qInstallMessageHandler(dropMessage);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   int programOnly =
       1;  // the toolkit's own options stay away from the command line, the choice of a platform among them
   const QGuiApplication application(programOnly, argv);
   QStringList words;
   for (int word = 0; word < argc; ++word) words += QString::fromLocal8Bit(argv[word]);
+  const QString head = name + QStringLiteral(": ");
   try {
-    return run(words);
+    return runAndFlush(run, words);
+  } catch (const WrongUsage& failure) {
+    print(stderr, head + onOneLine(failure.description()));
+    print(stderr, failure.usage);
   } catch (const platform::Failure& failure) {
-    print(stderr, name + QStringLiteral(": ") + failure.description());
-    return WrongInput;
+    print(stderr, head + onOneLine(failure.description()));
   }
+  return WrongInput;
 }
 
 }  // namespace windowless
