@@ -147,7 +147,7 @@ void leaveOutTexts(RenderContext& context, const QHash<QString, Reason>& buttons
 }
 
 /// Whether the tag, in upper case, is drawn as something else as well: on the screen Name every name is a button's.
-bool isNoMereButton(const QString& tag, const QString& stem) {
+bool isDrawnElsewhere(const QString& tag, const QString& stem) {
   return holdsAny(tag, StaticWords) || tag == stem || tag == stem + QStringLiteral("BACKGROUND");
 }
 
@@ -211,23 +211,18 @@ void DrawTexts(RenderContext& context) {
 
 void DrawButtons(RenderContext& context) {
   const QString stem = platform::upperCase(themefiles::stemOf(context.state, context.host.screenName()));
-  std::vector<LeftOut>& missing = context.account.missing;
   QHash<QString, Reason> withoutTexts;
   int textShift = 0;
   for (int row = 0; row < context.tags.ListCount(); ++row) {
     const QString tag = context.tags.List(row);
     if (!isButton(tag)) continue;
     const QString upper = platform::upperCase(tag);
-    const auto before = static_cast<std::ptrdiff_t>(missing.size());
+    const bool isMereButton = !isDrawnElsewhere(upper, stem);
+    context.notMissed = isMereButton ? QString() : tag;
     const std::optional<Reason> withoutText = drawButton(context, tag, textShift);
-    if (isNoMereButton(upper, stem)) {
-      // What is drawn as something else isn't missed as a button.
-      const auto isButtons = [&](const LeftOut& entry) { return entry.section == tag; };
-      missing.erase(std::remove_if(missing.begin() + before, missing.end(), isButtons), missing.end());
-    } else if (withoutText) {
-      withoutTexts.insert(upper, *withoutText);
-    }
+    if (isMereButton && withoutText) withoutTexts.insert(upper, *withoutText);
   }
+  context.notMissed.clear();
   leaveOutTexts(context, withoutTexts);
 }
 

@@ -40,6 +40,7 @@ double ObjectSection::number(const QString& key) const {
 }
 
 void leaveOut(RenderContext& context, const QString& section, Reason why, const QString& key, const QString& value) {
+  if (!section.isEmpty() && section == context.notMissed) return;
   context.account.missing.push_back({section, why, key, value});
 }
 

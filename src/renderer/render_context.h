@@ -25,6 +25,7 @@ struct RenderContext {
   RenderAccount& account;
   PreparedPictures* pictures = nullptr;  ///< the cache; null for none
   TrialFrame* trial = nullptr;           ///< the values on trial; null for none
+  QString notMissed = {};                ///< a section drawn once more that isn't entered as left out
   bool textsOnly = false;                ///< skips the pictures of statics and buttons, in the account as well
 };
 

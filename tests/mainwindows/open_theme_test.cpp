@@ -269,7 +269,8 @@ class OpenThemeTest : public QObject {
       return mainwindows::commandLineAnswer(QStringList{u"program"_s} + words);
     };
     QVERIFY(answer({u"--help"_s}).startsWith(u"Usage: cantorama-theme-edit [GAME_FOLDER]"_s));
-    QVERIFY(answer({u"--version"_s}).endsWith(QStringLiteral(" " CANTORAMA_VERSION)) && answer({u"-platform"_s}).isEmpty());
+    QVERIFY(answer({u"--version"_s}).endsWith(QStringLiteral(" " CANTORAMA_VERSION)) &&
+            answer({u"-platform"_s}).isEmpty());
     const QTemporaryDir folder;
     const QStringList named{u"program"_s, folder.path()};
     QCOMPARE(mainwindows::parseCommandLine(named).gameFolder, platform::programPath(folder.path()) + u'\\');
