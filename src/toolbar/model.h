@@ -67,7 +67,11 @@ class Model {
   /// Swaps the two buttons.
   void MoveButtonTo(int ButtonIndex, int NewIndex);
 
-  // The same for the button Button_Index, as properties that can only be written.
+  // The same for the button Button_Index, as properties that can only be written: reading one gives WriteOnly.
+  static constexpr int WriteOnly = -1;
+  static int ButtonRemove() { return WriteOnly; }
+  static int ButtonMoveTo() { return WriteOnly; }
+  static int ButtonInsertTo() { return WriteOnly; }
   /// 1 removes the button. Any other value does nothing.
   void SetButtonRemove(int value);
   void SetButtonMoveTo(int index);

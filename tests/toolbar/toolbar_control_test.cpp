@@ -248,6 +248,8 @@ class ControlTest : public QObject {
              QByteArray("axcd 2 ButtonCaption R"));
     QCOMPARE(after([](Model& m) { m.setValue(&Properties::ButtonsMode, 2); }), QByteArray("abcd 2 ButtonsMode L"));
     QCOMPARE(after([](Model& m) { m.setValue(&Properties::BackColor, 5U); }), QByteArray("abcd 2 BackColor B"));
+    QCOMPARE((QList<int>{Model::ButtonRemove(), Model::ButtonMoveTo(), Model::ButtonInsertTo()}),
+             (QList<int>{-1, -1, -1}));
     const auto blank = [](Model& m) {
       m.pointAt(0);  // no button
       m.setCurrentValue(toolbar::CaptionProperty, m.currentValue(toolbar::EnabledProperty));
