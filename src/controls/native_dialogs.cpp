@@ -1,13 +1,13 @@
 #include "controls/native_dialogs.h"
 
 #include <QColorDialog>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QScreen>
 
+#include "controls/file_dialog.h"
 #include "controls/modal.h"
 #include "controls/thumbnail.h"
 #include "controls/twips.h"
@@ -26,6 +26,12 @@ void fitScreen(QDialog& dialog) {
   if (dialog.size().boundedTo(most) == dialog.size()) return;
   dialog.resize(dialog.size().boundedTo(most));
   dialog.move(room.topLeft());
+}
+
+/// The proposed file as it is called on disk.
+QString proposedFile(const platform::FileRequest& request) {
+  if (request.folder.isEmpty()) return request.fileName;
+  return platform::nativePath(request.folder + u'\\' + request.fileName);
 }
 
 }  // namespace
@@ -57,14 +63,11 @@ QString NativeDialogs::inputBox(QWidget* parent, const QString& prompt, const QS
 }
 
 QString NativeDialogs::openFile(QWidget* parent, const platform::FileRequest& request) {
-  QFileDialog dialog(parent, request.title);
-  dialog.setAcceptMode(QFileDialog::AcceptOpen);
-  dialog.setFileMode(QFileDialog::ExistingFile);
-  dialog.setOption(QFileDialog::HideNameFilterDetails);
+  FileDialog dialog(parent, request.title);
   dialog.setNameFilters(nameFilters(request.filter));
   if (!request.folder.isEmpty()) dialog.setDirectory(platform::nativePath(request.folder));
-  if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
   if (request.pictures) addThumbnail(dialog);
+  if (!request.fileName.isEmpty()) dialog.selectFile(proposedFile(request));
   fitScreen(dialog);
   if (runModal(dialog) != QDialog::Accepted) return {};
   const QStringList files = dialog.selectedFiles();

@@ -21,13 +21,12 @@ QPixmap thumbnailOf(const QString& path) {
   return QPixmap::fromImage(fits ? picture : picture.scaled(Side, Side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
-/// Fits the list's columns to their contents and widens the dialog for them.
-void widen(QFileDialog& dialog) {
-  const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
-  if (list != nullptr) {
-    for (int column = 1; column < list->header()->count(); ++column) {
-      list->header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
-    }
+/// Fits the list's columns to their contents, the names to what is left, and widens the dialog for them.
+void widen(QFileDialog& dialog, const QTreeView& list) {
+  list.header()->setStretchLastSection(false);
+  list.header()->setSectionResizeMode(0, QHeaderView::Stretch);
+  for (int column = 1; column < list.header()->count(); ++column) {
+    list.header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
   }
   dialog.resize(WideEnough, dialog.height());
 }
@@ -36,16 +35,17 @@ void widen(QFileDialog& dialog) {
 
 void addThumbnail(QFileDialog& dialog) {
   auto* grid = qobject_cast<QGridLayout*>(dialog.layout());
-  if (grid == nullptr) return;
+  const auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+  if (grid == nullptr || list == nullptr) return;
   auto* label = new QLabel(&dialog);
   label->setObjectName(QStringLiteral("thumbnail"));
   label->setFixedSize(Side, Side);
   label->setAlignment(Qt::AlignCenter);
   label->setFrameStyle(static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken));
   grid->addWidget(label, 1, grid->columnCount(), Qt::AlignTop);
-  widen(dialog);
-  QObject::connect(&dialog, &QFileDialog::currentChanged, label,
-                   [label](const QString& path) { label->setPixmap(thumbnailOf(path)); });
+  widen(dialog, *list);
+  QObject::connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, label,
+                   [label, &dialog] { label->setPixmap(thumbnailOf(dialog.selectedFiles().value(0))); });
 }
 
 }  // namespace controls

@@ -4,7 +4,7 @@ class QFileDialog;
 
 namespace controls {
 
-/// Shows a thumbnail of the dialog's current file beside its list of files. Does nothing for a dialog of the desktop,
+/// Shows a thumbnail of the dialog's selected file beside its list of files. Does nothing for a dialog of the desktop,
 /// which has no place for it.
 void addThumbnail(QFileDialog& dialog);
 

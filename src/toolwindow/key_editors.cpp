@@ -125,8 +125,8 @@ void Command4_Click(Form2& form) {
   const QString& skinFolder = form.services.state.paths.SkinDirectory;
   const QString path = form.services.dialogs.openFile(
       &form, {QStringLiteral("Change Filename"),
-              QStringLiteral("All supported image files (*.bmp,*.gif,*.jpg,*.png)|*.bmp;*.gif;*.jpg;*.png"), QString(),
-              skinFolder, true});
+              QStringLiteral("All supported image files (*.bmp,*.gif,*.jpg,*.png)|*.bmp;*.gif;*.jpg;*.png"),
+              form.Text3->Text(), skinFolder, true});
   if (path.isEmpty()) return;
   const qsizetype separator = path.lastIndexOf(u'\\');
   if (!platform::sameFolder(path.left(separator), skinFolder)) {
