@@ -5,6 +5,11 @@
 #include "platform/failure.h"
 
 namespace controls {
+namespace {
+
+constexpr int WhyBold = Qt::UserRole;
+
+}  // namespace
 
 ListBox::ListBox(Order order, QWidget* parent) : RowPicking(parent), order_(order) {
   setSelectionMode(QAbstractItemView::SingleSelection);
@@ -57,15 +62,19 @@ QString ListBox::Text() const {
 void ListBox::setRowToolTip(int index, const QString& text) {
   QListWidgetItem* row = item(index);
   // A change of one row, even from nothing to nothing, has the list look for the row from its end.
-  if (row != nullptr && row->toolTip() != text) row->setToolTip(text);
+  if (row == nullptr || row->toolTip() == text) return;
+  row->setToolTip(text);
+  describe(*row);
 }
 
-void ListBox::setBold(int index, bool bold) {
+void ListBox::setBold(int index, const QString& why) {
   QListWidgetItem* row = item(index);
-  if (row == nullptr || row->data(Qt::FontRole).isValid() == bold) return;
+  if (row == nullptr || row->data(WhyBold).toString() == why) return;
   QFont letters = font();
   letters.setBold(true);
-  row->setData(Qt::FontRole, bold ? QVariant(letters) : QVariant());
+  row->setData(Qt::FontRole, why.isEmpty() ? QVariant() : QVariant(letters));
+  row->setData(WhyBold, why);
+  describe(*row);
 }
 
 void ListBox::setGrey(int index, bool grey) {
@@ -75,6 +84,17 @@ void ListBox::setGrey(int index, bool grey) {
   row->setData(Qt::ForegroundRole, grey ? QVariant(brush) : QVariant());
 }
 
+QString ListBox::told(int index) const {
+  const QListWidgetItem* row = item(index);
+  return row == nullptr ? QString() : row->data(Qt::AccessibleDescriptionRole).toString();
+}
+
+void ListBox::describe(QListWidgetItem& row) {
+  QStringList lines{row.data(WhyBold).toString(), row.toolTip()};
+  lines.removeAll(QString());
+  row.setData(Qt::AccessibleDescriptionRole, lines.join(u'\n'));
+}
+
 void ListBox::timerEvent(QTimerEvent* event) {
   // The view's layout timer would fire at each yield until the frame is shown.
   if (updatesEnabled()) RowPicking::timerEvent(event);
@@ -82,6 +102,10 @@ void ListBox::timerEvent(QTimerEvent* event) {
 
 void ListBox::picked(int) {
   Q_EMIT Click(Cause::User);
+}
+
+void ListBox::menuWanted(int row, const QPoint& place) {
+  Q_EMIT menuAsked(row, place);
 }
 
 }  // namespace controls

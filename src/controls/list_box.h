@@ -31,18 +31,26 @@ class ListBox : public RowPicking<QListWidget> {
   QString Text() const;
   /// Sets a row's tool tip, plain text; an empty one removes it. If the row's name is cut, the tip begins with it.
   void setRowToolTip(int index, const QString& text);
-  /// Shows the text of a row in bold letters, or in grey ones unless the row is selected.
-  void setBold(int index, bool bold);
+  /// Shows the text of a row in bold letters; `why` tells who doesn't see that, an empty one takes it back.
+  void setBold(int index, const QString& why);
+  /// Shows the text of a row in grey letters unless the row is selected. Why that is so belongs in the tool tip.
   void setGrey(int index, bool grey);
+  /// What bold letters and tool tip tell of a row, a line each: also its description for screen readers.
+  QString told(int index) const;
 
  Q_SIGNALS:
   void Click(controls::Cause cause);
+  /// The user has asked for the menu of a row, by the mouse or the keyboard.
+  void menuAsked(int row, const QPoint& place);
 
  protected:
   void picked(int row) override;
+  void menuWanted(int row, const QPoint& place) override;
   void timerEvent(QTimerEvent* event) override;
 
  private:
+  void describe(QListWidgetItem& row);
+
   Order order_;
   FramePacer frame_{[this] { setUpdatesEnabled(true); }};  ///< shows the added rows, once a frame
 };

@@ -64,6 +64,7 @@ void ListView::setSaved(int row, const QString& text) {
   letters.setBold(!text.isEmpty());
   for (const int column : {TextColumn, SubItemColumn}) {
     item->setToolTip(column, text);
+    item->setData(column, Qt::AccessibleDescriptionRole, text);
     item->setFont(column, letters);
   }
 }
@@ -72,18 +73,15 @@ void ListView::picked(int row) {
   Q_EMIT ItemClick(row);
 }
 
+void ListView::menuWanted(int row, const QPoint& place) {
+  Q_EMIT menuAsked(row, place);
+}
+
 void ListView::resizeEvent(QResizeEvent* event) {
   RowPicking::resizeEvent(event);
   const int more = gain() - given_;
   given_ += more;
   if (more != 0) setColumnWidth(SubItemColumn, columnWidth(SubItemColumn) + more);
-}
-
-void ListView::contextMenuEvent(QContextMenuEvent* event) {
-  const bool mouse = event->reason() == QContextMenuEvent::Mouse;
-  const int row = mouse ? indexAt(event->pos()).row() : selectedRow();
-  const QPoint below = visualRect(model()->index(row, SubItemColumn)).bottomLeft();
-  if (row >= 0) Q_EMIT menuAsked(row, mouse ? event->globalPos() : viewport()->mapToGlobal(below));
 }
 
 }  // namespace controls

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QContextMenuEvent>
 #include <QTreeWidget>
 
 #include "controls/row_picking.h"
@@ -23,7 +22,8 @@ class ListView : public RowPicking<QTreeWidget> {
   QString rowText(int row) const;
   QString subItem(int row) const;
   void setSubItem(int row, const QString& text);
-  /// Marks a row in bold letters, with `text` in its tool tip; an empty text takes the mark away.
+  /// Marks a row in bold letters, with `text` in its tool tip and its description for screen readers; an empty text
+  /// takes the mark away.
   void setSaved(int row, const QString& text);
   /// Number of the selected row, -1 without one.
   using RowPicking::selectedRow;
@@ -38,8 +38,8 @@ class ListView : public RowPicking<QTreeWidget> {
 
  protected:
   void picked(int row) override;
+  void menuWanted(int row, const QPoint& place) override;
   void resizeEvent(QResizeEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   int gain() const { return std::max(0, width() - widthAsTold_); }

@@ -4,6 +4,7 @@
 #include <optional>
 
 #include <QAbstractItemView>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
@@ -20,8 +21,8 @@ std::optional<int> rowForKey(int key, int selected, int rows, int page);
 void showCellTip(const QAbstractItemView& view, const QHelpEvent& help);
 
 /// A view of rows in which the user picks one: by a press of the left button, also on the row that is selected, or by a
-/// key that changes the row. A text that its cell cuts shows whole as a tool tip. Neither a drag nor a key leaves a
-/// list without its selected row.
+/// key that changes the row. A row can be asked for a menu by the mouse or the keyboard. A text that its cell cuts
+/// shows whole as a tool tip. Neither a drag nor a key leaves a list without its selected row.
 template <typename View>
 class RowPicking : public View {
  protected:
@@ -29,6 +30,8 @@ class RowPicking : public View {
 
   /// The user has picked the row.
   virtual void picked(int row) = 0;
+  /// The user has asked for the menu of the row.
+  virtual void menuWanted(int row, const QPoint& place) = 0;
 
   /// Number of the selected row, -1 without one.
   int selectedRow() const {
@@ -54,6 +57,14 @@ class RowPicking : public View {
     const QModelIndex cell = this->indexAt(event->position().toPoint());
     if (cell.row() != selectedRow()) return mousePressEvent(event);
     if (event->button() == Qt::LeftButton && cell.isValid()) Q_EMIT this->doubleClicked(cell);
+  }
+
+  void contextMenuEvent(QContextMenuEvent* event) override {
+    const bool mouse = event->reason() == QContextMenuEvent::Mouse;
+    const int row = mouse ? this->indexAt(event->pos()).row() : selectedRow();
+    if (row < 0) return;
+    const QRect lastCell = this->visualRect(this->model()->index(row, this->model()->columnCount() - 1));
+    menuWanted(row, mouse ? event->globalPos() : this->viewport()->mapToGlobal(lastCell.bottomLeft()));
   }
 
   void mouseMoveEvent(QMouseEvent* event) override {

@@ -98,6 +98,8 @@ QPalette Style::standardPalette() const {
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* result) const {
   switch (hint) {
+    case SH_Menu_AllowActiveAndDisabled:  // an entry may only tell something
+      return 1;
     case SH_ComboBox_Popup:  // off: the list drops down below the box and has a limited height
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_ItemView_ActivateItemOnSingleClick:

@@ -6,13 +6,12 @@ namespace toolwindow {
 
 class Form2;
 
-/// Marks what differs from the saved state in bold: rows of the grid, whose tool tips tell the saved values, and the
-/// objects that have such a row.
-void markSaved(Form2& form);
-
-/// Shows the menu of a row of the grid, or that of Command2: its one entry puts the saved value back. No menu is shown
-/// where nothing can be put back.
+/// Shows the menu of a row of the grid, or that of Command2: its one entry puts the saved value back. Where nothing can
+/// be put back, the menu of a row only tells what was saved. None is shown where nothing differs.
 void showRowMenu(Form2& form, int row, const QPoint& place);
 void showColorMenu(Form2& form, const QPoint& place);
+
+/// Shows the menu of an object, which tells why its row is bold or grey; none if there is nothing to tell.
+void showObjectMenu(Form2& form, int row, const QPoint& place);
 
 }  // namespace toolwindow

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
-#include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "themefiles/working_copies.h"
@@ -15,17 +14,10 @@ using platform::ProfileKeys;
 using platform::ProfileLine;
 using themefiles::ThemePaths;
 
-/// The text of the working copy; none if it can't be read, so that nothing is marked.
-QByteArray presentBytes(const QString& path, const QByteArray& saved) {
-  try {
-    return platform::readFile(path);
-  } catch (const platform::Failure&) {
-    return saved;
-  }
-}
-
-const QByteArray& savedBytes(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
-  return state.savedCopies.at(themefiles::copyNumber(copy));
+/// The text that the next edit would change.
+QByteArray presentBytes(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
+  const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
+  return standing && !standing->isEmpty() ? *standing : state.ownCopies.at(themefiles::copyNumber(copy));
 }
 
 /// Whether two lines of a key differ in their value; null is no line.
@@ -48,8 +40,11 @@ QString shownValue(const ProfileLine& line) {
 
 }  // namespace
 
-SavedState::File::File(const QString& path, const QByteArray& savedBytes)
-    : now(presentBytes(path, savedBytes)), saved(savedBytes), nowSections(now), savedSections(saved) {}
+SavedState::File::File(const themefiles::ModuleState& state, QString ThemePaths::*copy)
+    : now(presentBytes(state, copy)),
+      saved(state.savedCopies.at(themefiles::copyNumber(copy))),
+      nowSections(now),
+      savedSections(saved) {}
 
 SavedState::Target::Target(const File& file, QString ThemePaths::*working, const char* name)
     : differs(file.differs()),
@@ -59,9 +54,9 @@ SavedState::Target::Target(const File& file, QString ThemePaths::*working, const
       saved(platform::profileKeys(file.savedSections.lines(name))) {}
 
 SavedState::SavedState(const themefiles::ModuleState& state)
-    : theme_(state.paths.ThemeFile, savedBytes(state, &ThemePaths::ThemeFile)),
-      skin_(state.paths.SkinFile, savedBytes(state, &ThemePaths::SkinFile)),
-      language_(state.paths.LanguageFile, savedBytes(state, &ThemePaths::LanguageFile)),
+    : theme_(state, &ThemePaths::ThemeFile),
+      skin_(state, &ThemePaths::SkinFile),
+      language_(state, &ThemePaths::LanguageFile),
       textures_(skin_, &ThemePaths::SkinFile, "Textures"),
       texts_(language_, &ThemePaths::LanguageFile, "Text") {}
 
@@ -86,34 +81,39 @@ void SavedState::addTarget(SavedValue& saved, const Target& target, const Profil
       {target.copy, QLatin1StringView(target.section), platform::fromAnsi(name), line->line.toByteArray()});
 }
 
-std::optional<SavedValue> SavedState::of(const QString& section, const QString& key,
-                                         std::optional<themefiles::KeyGroup> group) const {
-  const QByteArray keyBytes = platform::toAnsi(key).value_or(QByteArray());
-  const ProfileKeys nowKeys = keysOf(theme_.nowSections, section);
-  const ProfileKeys savedKeys = keysOf(theme_.savedSections, section);
-  const ProfileLine* now = platform::lineOf(nowKeys, keyBytes);
-  const ProfileLine* saved = platform::lineOf(savedKeys, keyBytes);
-  if (now == nullptr) return std::nullopt;
-  const Target* target = targetOf(group);
-  const bool valueDiffers = differ(now, saved);
-  if (!valueDiffers && !differsIn(target, *now)) return std::nullopt;
-  if (saved == nullptr) return SavedValue{{}, QStringLiteral("nothing"), {}};
-  SavedValue result{shownValue(*saved), shownValue(*saved), {}};
-  if (valueDiffers) result.lines.push_back({&ThemePaths::ThemeFile, section, key, saved->line.toByteArray()});
-  if (differsIn(target, *saved)) addTarget(result, *target, *saved);
-  return result;
-}
-
 bool SavedState::differsIn(const QString& section) const {
   const QByteArray name = platform::toAnsi(section).value_or(QByteArray());
   const bool sameLines = theme_.nowSections.lines(name) == theme_.savedSections.lines(name);
   if (sameLines && !textures_.differs && !texts_.differs) return false;
-  const ProfileKeys now = keysOf(theme_.nowSections, section);
-  const ProfileKeys saved = keysOf(theme_.savedSections, section);
-  return std::any_of(now.begin(), now.end(), [&](const ProfileLine& line) {
+  return SavedObject(*this, section).differs();
+}
+
+SavedObject::SavedObject(const SavedState& files, const QString& section)
+    : files_(files),
+      section_(section),
+      now_(keysOf(files.theme_.nowSections, section)),
+      saved_(keysOf(files.theme_.savedSections, section)) {}
+
+std::optional<SavedValue> SavedObject::of(const QString& key, std::optional<themefiles::KeyGroup> group) const {
+  const QByteArray keyBytes = platform::toAnsi(key).value_or(QByteArray());
+  const ProfileLine* now = platform::lineOf(now_, keyBytes);
+  const ProfileLine* saved = platform::lineOf(saved_, keyBytes);
+  if (now == nullptr) return std::nullopt;
+  const SavedState::Target* target = files_.targetOf(group);
+  const bool valueDiffers = differ(now, saved);
+  if (!valueDiffers && !SavedState::differsIn(target, *now)) return std::nullopt;
+  if (saved == nullptr) return SavedValue{{}, QStringLiteral("nothing"), {}};
+  SavedValue result{shownValue(*saved), shownValue(*saved), {}};
+  if (valueDiffers) result.lines.push_back({&ThemePaths::ThemeFile, section_, key, saved->line.toByteArray()});
+  if (SavedState::differsIn(target, *saved)) SavedState::addTarget(result, *target, *saved);
+  return result;
+}
+
+bool SavedObject::differs() const {
+  return std::any_of(now_.begin(), now_.end(), [this](const ProfileLine& line) {
     if (line.key.startsWith('#')) return false;  // no row of the grid
-    const Target* target = targetOf(themefiles::groupOf(themefiles::keyIdentity(platform::fromAnsi(line.key))));
-    return differ(&line, platform::lineOf(saved, line.key)) || differsIn(target, line);
+    const auto* target = files_.targetOf(themefiles::groupOf(themefiles::keyIdentity(platform::fromAnsi(line.key))));
+    return differ(&line, platform::lineOf(saved_, line.key)) || SavedState::differsIn(target, line);
   });
 }
 

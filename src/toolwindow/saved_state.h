@@ -25,22 +25,42 @@ struct SavedValue {
   std::vector<SavedLine> lines;  ///< to write back: the theme's, then the language's or skin's
 };
 
-/// The working copies beside what Open or Save last copied. Reads each working copy once.
-class SavedState {
+class SavedState;
+
+/// The keys of an object, now and as they were saved. Refers to the SavedState.
+class SavedObject {
  public:
-  explicit SavedState(const themefiles::ModuleState& state);
+  SavedObject(const SavedState& files, const QString& section);
 
   /// What was saved for a key of the theme; none if nothing differs. If the key's `group` makes it a reference, its
   /// words or its picture's file are compared, too.
-  std::optional<SavedValue> of(const QString& section, const QString& key,
-                               std::optional<themefiles::KeyGroup> group) const;
+  std::optional<SavedValue> of(const QString& key, std::optional<themefiles::KeyGroup> group) const;
+
+  /// Whether a key differs.
+  bool differs() const;
+
+ private:
+  const SavedState& files_;
+  QString section_;
+  platform::ProfileKeys now_, saved_;
+};
+
+/// The working copies beside what Open or Save last copied. Reads each working copy once.
+class SavedState {
+ public:
+  /// Throws platform::Failure if a working copy can't be read. One that is gone or empty counts as this program wrote
+  /// it last, since the next edit makes it anew so.
+  explicit SavedState(const themefiles::ModuleState& state);
+  Q_DISABLE_COPY_MOVE(SavedState)
 
   /// Whether a key of the object differs.
   bool differsIn(const QString& section) const;
 
  private:
+  friend class SavedObject;
+
   struct File {
-    File(const QString& path, const QByteArray& savedBytes);
+    File(const themefiles::ModuleState& state, QString themefiles::ThemePaths::*copy);
     bool differs() const { return now != saved; }
 
     QByteArray now, saved;

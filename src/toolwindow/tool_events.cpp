@@ -18,6 +18,7 @@
 #include "toolwindow/key_editors.h"
 #include "toolwindow/number_editor.h"
 #include "toolwindow/object_selection.h"
+#include "toolwindow/saved_marking.h"
 #include "toolwindow/saved_marks.h"
 #include "toolwindow/tool_window.h"
 #include "toolwindow/value_commit.h"
@@ -53,15 +54,6 @@ void connectSelection(Form2& form) {
 }
 
 void connectMarks(Form2& form) {
-  QObject::connect(&form, &Form2::markingDue, &form, [&form] {
-    if (!form.services.queue.busy()) {
-      markSaved(form);
-      return;
-    }
-    form.services.queue.runOutside([open = QPointer<Form2>(&form)] {
-      if (open) open->markLater();
-    });
-  });
   // The toolkit sends this event for the menu key only.
   auto* keys = new QShortcut(QKeySequence(Qt::ShiftModifier | Qt::Key_F10), &form);
   QObject::connect(keys, &QShortcut::activated, &form, [&form] {
@@ -73,6 +65,8 @@ void connectMarks(Form2& form) {
   });
   QObject::connect(form.ListView1, &controls::ListView::menuAsked, &form,
                    [&form](int row, const QPoint& place) { showRowMenu(form, row, place); });
+  QObject::connect(form.List1, &controls::ListBox::menuAsked, &form,
+                   [&form](int row, const QPoint& place) { showObjectMenu(form, row, place); });
   QObject::connect(form.Command2, &controls::SwatchButton::menuAsked, &form,
                    [&form](const QPoint& place) { showColorMenu(form, place); });
 }
@@ -122,6 +116,9 @@ class ConnectedForm2 final : public Form2 {
     connectColors(*this);
     connectKeys(*this);
   }
+
+ private:
+  SavedMarking marking_{*this};
 };
 
 }  // namespace

@@ -145,8 +145,6 @@ Form2::Form2(ToolServices given, QWidget* owner)
   }
   for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
   Combo3->setSwatches([this](const QString& name) { return previewColor(services, name); });
-  marking_.setSingleShot(true);
-  connect(&marking_, &QTimer::timeout, this, &Form2::markingDue);
   services.state.EditorShown = false;
   fitWindow();
   ListView1->setColumns({QStringLiteral("Item"), QStringLiteral("Value")},

@@ -4,7 +4,6 @@
 #include <optional>
 #include <vector>
 
-#include <QTimer>
 #include <QWidget>
 
 #include "themefiles/key_table.h"
@@ -111,7 +110,7 @@ class Form2 : public QWidget {
   const std::optional<themefiles::Hit>& awaited() const { return awaited_; }
 
   /// Something may differ from the saved files, or no longer: has the marks renewed when the program is idle.
-  void markLater() { marking_.start(); }
+  void markLater() { Q_EMIT markingAsked(); }
 
   /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
   void ShowEditorFrame(themefiles::EditorFrame frame);
@@ -125,8 +124,8 @@ class Form2 : public QWidget {
  Q_SIGNALS:
   /// Enter was pressed in an editor that has no use of its own for it.
   void enterPressed();
-  /// The program is idle: the marks that markLater asked for are due.
-  void markingDue();
+  /// See markLater.
+  void markingAsked();
 
  protected:
   /// The window without its events, see makeForm2.
@@ -153,7 +152,6 @@ class Form2 : public QWidget {
 
   std::optional<QString> listed_;  ///< the screen whose list is complete
   std::optional<themefiles::Hit> awaited_;
-  QTimer marking_;
   ToolLayout layout_ = loadedLayout();
   std::vector<PlacedControl> placed_;
   ToolLayout fitted_;  ///< the layout of the size that the window last gave itself

@@ -1,7 +1,8 @@
+#include <QMenu>
+
 #include "endurance/system_calls.h"
 #include "support/snapshot.h"
-#include "toolwindow/saved_state.h"
-#include "toolwindow/value_commit.h"
+#include "toolwindow/saved_marks.h"
 
 using namespace support;
 using platform::BoxAnswer;
@@ -80,9 +81,13 @@ void moveByHand(Program& program, const std::function<void()>& armed) {
 
 void putSavedValueBack(Program& program, const std::function<void()>& armed) {
   toolwindow::Form2& tools = program.tools();
-  const auto saved = toolwindow::SavedState(program.state).of(tools.List1->Text(), u"X"_s, themefiles::groupOf(u"X"_s));
+  toolwindow::showRowMenu(tools, tools.ListView1->selectedRow(), {});
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  if (menu == nullptr) return;  // nothing differs any more
+  menu->close();
   armed();
-  if (saved) toolwindow::putSavedBack(tools, tools.ListView1->selectedRow(), *saved);
+  menu->actions().constFirst()->trigger();
+  QCoreApplication::sendPostedEvents(&tools, QEvent::MetaCall);
 }
 
 Standing standing(const Program& program, const GameFolder& game) {

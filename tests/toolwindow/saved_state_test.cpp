@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QMenu>
 
 #include "support/windows.h"
@@ -24,22 +25,30 @@ class SavedStateTest : public ProgramTest {
     }
     return all.join(u'|');
   }
-  /// Asks a widget for its menu; gives whether there is one, and takes its only entry.
-  static bool putBackBy(QWidget& widget, bool keyboard, const QPoint& place = {4, 4}) {
+  /// Asks a widget for its menu; gives its entries, those in brackets that can't be taken, and takes the first one.
+  static QString menuOf(
+      QWidget& widget, bool keyboard, const QPoint& place = {4, 4}, const std::function<void()>& meanwhile = [] {}) {
     QContextMenuEvent asked(keyboard ? QContextMenuEvent::Keyboard : QContextMenuEvent::Mouse, place,
                             widget.mapToGlobal(place));
     QApplication::sendEvent(&widget, &asked);
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    if (menu == nullptr) return false;
-    QTest::keyClick(menu, Qt::Key_Return);
+    if (menu == nullptr) return {};
+    QStringList entries;
+    for (const QAction* action : menu->actions()) {
+      entries += action->isEnabled() ? action->text() : u'(' + action->text() + u')';
+    }
+    meanwhile();
+    if (menu->activeAction() == menu->actions().constFirst()) QTest::keyClick(menu, Qt::Key_Return);
+    menu->close();
     settle();
-    return true;
+    return entries.join(u'|');
   }
-  bool putRowBack(const QString& key) {
+  QString menuOfRow(
+      const QString& key, const std::function<void()>& meanwhile = [] {}) const {
     controls::ListView& grid = *program->tools().ListView1;
     const auto found = grid.findItems(key, Qt::MatchExactly);
     if (found.isEmpty()) qFatal("no row %s", qPrintable(key));
-    return putBackBy(*grid.viewport(), false, grid.visualItemRect(found.first()).center());
+    return menuOf(*grid.viewport(), false, grid.visualItemRect(found.first()).center(), meanwhile);
   }
   void writeWords(const QString& text) {
     program->row(u"Text"_s);
@@ -71,10 +80,9 @@ class SavedStateTest : public ProgramTest {
     program->open();
     const QByteArray words = game->get(LanguageFile);
     program->edit();
-    QVERIFY(!putRowBack(u"Y"_s));
-    QVERIFY(!putRowBack(u"ColR"_s));
+    QCOMPARE(menuOfRow(u"Y"_s) + menuOfRow(u"ColR"_s), QString());
     program->state.Changed = false;
-    QVERIFY(putRowBack(u"X"_s));
+    QCOMPARE(menuOfRow(u"X"_s), u"Put the saved value back: 40"_s);
     QVERIFY(game->get(ThemeCopy).contains("X= 40 \r\n") && program->state.Changed && program->enabled(2));
     QCOMPARE(program->value(u"X"_s) + program->tools().Text1->Text(), u"4040"_s);
     QCOMPARE(program->form.Workspace->mark().x(), 40.0);
@@ -102,16 +110,63 @@ class SavedStateTest : public ProgramTest {
     const Form2& tools = program->tools();
     const auto before = game->files();
     program->soleRow(u"COLOR"_s, u"Red"_s);
-    QVERIFY(!putBackBy(*tools.Command2, true));
+    QCOMPARE(menuOf(*tools.Command2, true), QString());
     program->dialogs.colors = {QColor(1, 2, 3)};
     tools.Command2->click();
     program->form.ShowStatus(QString());
-    QVERIFY(putBackBy(*tools.Command2, true));
+    QCOMPARE(menuOf(*tools.Command2, true), u"Put the saved value back: 200 40 40"_s);
     QCOMPARE(game->files(), before);
     QCOMPARE(tools.Command2->BackColor(), QColor(200, 40, 40));
     QCOMPARE(tools.Combo3->itemIcon(0).pixmap(11, 11).toImage().pixelColor(5, 5), QColor(200, 40, 40));
     QVERIFY(program->colors().contains(u"Red=200 40 40"_s) && !program->state.Changed);
     QVERIFY(program->status().startsWith(u"Kept in the working copy"));
+  }
+
+  /// What bold and grey letters and tips show is told to a screen reader, too, and in the menus.
+  void tells() {
+    const Form2& tools = program->tools();
+    game->put(ThemeCopy, game->get(ThemeCopy).replace("ColR=0.5", "ColR=0.7\r\nNew=1"));
+    program->edit(u"H"_s, u"0"_s);
+    program->tag(u"LoadingStaticA"_s);
+    settle();
+    QCOMPARE(menuOfRow(u"ColR"_s), u"(saved: 0.5)"_s);
+    QCOMPARE(menuOfRow(u"New"_s), u"(saved: nothing)"_s);
+    const QString told = u"differs from the saved state|W x H: '100 x 0' leaves no area"_s;
+    QCOMPARE(menuOf(*tools.List1->viewport(), true), u'(' + QString(told).replace(u"|"_s, u")|("_s) + u')');
+    QCOMPARE(menuOf(*tools.List1->viewport(), false), QString());  // of another object
+    const auto description = [](QWidget* list, int cell) {
+      return QAccessible::queryAccessibleInterface(list)->child(cell)->text(QAccessible::Description);
+    };
+    QCOMPARE(description(tools.List1, tools.List1->ListIndex()), QString(told).replace(u'|', u'\n'));
+    QCOMPARE(description(tools.List1, 0), QString());
+    const int header = 2;
+    QCOMPARE(description(tools.ListView1, header + 2 * 4), u"saved: 60"_s);
+    QCOMPARE(description(tools.ListView1, header + 2 * 3), QString());
+  }
+
+  /// A saved value that can't come back is no silent matter.
+  void putBackFails() {
+    const auto block = [this] {
+      QFile::remove(game->native(ThemeCopy));
+      QDir().mkdir(game->native(ThemeCopy));
+    };
+    const auto unblock = [this] { QDir().rmdir(game->native(ThemeCopy)); };
+    program->edit();
+    QCOMPARE(menuOfRow(u"X"_s, block), u"Put the saved value back: 40"_s);
+    QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["_s), qPrintable(program->status()));
+    QCOMPARE(menuOfRow(u"X"_s), QString());
+    QVERIFY2(program->status().startsWith(u"Error while reading Value ["_s), qPrintable(program->status()));
+    unblock();
+    // A copy that is gone is made anew, as for any edit.
+    QCOMPARE(menuOfRow(u"X"_s), u"Put the saved value back: 40"_s);
+    QVERIFY2(program->status().contains(u"was gone and is made anew"_s), qPrintable(program->status()));
+    QCOMPARE(game->get(ThemeCopy), game->get(ThemeFile));
+    // The same for a colour.
+    program->soleRow(u"COLOR"_s, u"Red"_s);
+    program->dialogs.colors = {QColor(1, 2, 3)};
+    program->tools().Command2->click();
+    QCOMPARE(menuOf(*program->tools().Command2, true, {}, block), u"Put the saved value back: 200 40 40"_s);
+    QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["_s), qPrintable(program->status()));
   }
 
   void squaresAndGreyRows() {
