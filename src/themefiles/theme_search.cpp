@@ -14,13 +14,19 @@ namespace themefiles {
 namespace {
 
 // How well an entry matches, the best first.
-enum Rank { SameName, InNames, InLines, NoHit };
-
-bool inLines(const auto& lines, const QString& word) {
-  return std::any_of(lines.begin(), lines.end(), [&](const auto& line) { return line.upper.contains(word); });
-}
+enum Rank { SameName, NameBegins, InNames, InLines, NoHit };
 
 }  // namespace
+
+/// Whether the line has the word. "X=1" means a key X whose value, or words, begin with 1.
+bool ThemeSearch::has(const Line& line, const QString& word) {
+  const qsizetype equals = word.indexOf(u'=');
+  if (equals <= 0) return line.upper.contains(word);
+  if (keyIdentity(line.key) != QStringView(word).first(equals)) return false;
+  const QString value = word.sliced(equals + 1);
+  const QStringView shown = QStringView(line.upper).sliced(line.key.size() + 1);
+  return shown.startsWith(value) || shown.contains(u'\n' + value);
+}
 
 /// The theme's files while the search is built.
 class ThemeSearch::Reading {
@@ -79,12 +85,15 @@ class ThemeSearch::Reading {
 
 ThemeSearch::ThemeSearch(const ModuleState& state) {
   Reading files(state);
+  const auto nothing = std::make_shared<const Lines>();
   for (const ScreenRow& screen : state.ScreenTable) {
     const QString upperScreen = platform::upperCase(screen.Name);
-    entries_.push_back({screen.Name, {}, upperScreen, {}, std::make_shared<const Lines>()});
+    entries_.push_back({screen.Name, {}, upperScreen, {}, nothing});
     for (const QString& object : files.tags().of(state, screen.Name)) {
       if (entries_.back().object == object) continue;  // the file has the section twice
-      entries_.push_back({screen.Name, object, upperScreen, platform::upperCase(object), files.linesOf(object)});
+      const QString upperObject = platform::upperCase(object);
+      const bool shows = upperObject != platform::upperCase(screen.Stem);  // the screen's own section doesn't
+      entries_.push_back({screen.Name, object, upperScreen, upperObject, shows ? files.linesOf(object) : nothing});
     }
   }
 }
@@ -93,9 +102,13 @@ int ThemeSearch::rankOf(const Entry& entry, const QStringList& words) {
   int rank = InNames;
   for (const QString& word : words) {
     if (entry.upperScreen.contains(word) || entry.upperObject.contains(word)) continue;
-    if (!inLines(*entry.lines, word)) return NoHit;
+    const auto hasWord = [&](const Line& line) { return has(line, word); };
+    if (std::none_of(entry.lines->begin(), entry.lines->end(), hasWord)) return NoHit;
     rank = InLines;
   }
+  const QString& name = entry.object.isEmpty() ? entry.upperScreen : entry.upperObject;
+  const auto beginsName = [&](const QString& word) { return name.startsWith(word); };
+  if (rank == InNames && std::any_of(words.begin(), words.end(), beginsName)) rank = NameBegins;
   const QString whole = words.join(u' ');
   return whole == entry.upperObject || (entry.object.isEmpty() && whole == entry.upperScreen) ? SameName : rank;
 }
@@ -103,16 +116,19 @@ int ThemeSearch::rankOf(const Entry& entry, const QStringList& words) {
 Hit ThemeSearch::hitOf(const Entry& entry, const QStringList& words) {
   Hit hit{entry.screen, entry.object, -1, {}, entry.screen};
   if (!entry.object.isEmpty()) hit.shown += QStringLiteral(", ") + entry.object;
-  // The best line contains most of the words that neither screen nor object has in its name.
+  // The best line has most of the words that neither screen nor object has in its name, and begins with most of them.
   const Line* best = nullptr;
-  qsizetype bestCount = 0;
+  std::pair<int, int> bestCounts;
   for (const Line& line : *entry.lines) {
-    const qsizetype count = std::count_if(words.begin(), words.end(), [&](const QString& word) {
-      return line.upper.contains(word) && !entry.upperScreen.contains(word) && !entry.upperObject.contains(word);
-    });
-    if (count <= bestCount) continue;
+    std::pair<int, int> counts;
+    for (const QString& word : words) {
+      if (entry.upperScreen.contains(word) || entry.upperObject.contains(word) || !has(line, word)) continue;
+      ++counts.first;
+      if (line.upper.startsWith(word)) ++counts.second;
+    }
+    if (counts <= bestCounts) continue;
     best = &line;
-    bestCount = count;
+    bestCounts = counts;
   }
   if (best == nullptr) return hit;
   hit.row = best->row;

@@ -32,7 +32,9 @@ class ThemeSearch {
   /// Reads the working copies. Throws platform::Failure if one can't be read.
   explicit ThemeSearch(const ModuleState& state);
 
-  /// The screens and objects that contain every word of `typed`, in any case; at most `most` of them.
+  /// The screens and objects that contain every word of `typed`, in any case; at most `most` of them. "x=" finds the
+  /// key X. Names that begin with a word come before names that hold it, and these before values. A screen's own
+  /// section is found only by its names.
   Hits find(const QString& typed, int most) const;
 
  private:
@@ -52,6 +54,7 @@ class ThemeSearch {
   };
   class Reading;
 
+  static bool has(const Line& line, const QString& word);
   static int rankOf(const Entry& entry, const QStringList& words);
   static Hit hitOf(const Entry& entry, const QStringList& words);
 

@@ -163,10 +163,12 @@ class ThemeReadingTest : public QObject {
 
   void finds() {
     Theme theme(
-        "[Main]|[MainStaticBar]|X=120|x=7|#Y=1|Color=Red=|[MainTextGo]|Size=9|Text=\"Go\"|Text=OWN|[MainTextOwn]|X=1|"
-        "[MainStaticBar]|X=5|[Song]|[SongStaticParty]|X=1|[SongTextGo]|text= "
+        "[Main]|[MainStaticBar]|Tex=1|X=120|x=7|#Y=1|Color=Red=|[MainTextGo]|Size=9|Text=\"Go\"|Text=OWN|[MainTextOwn]|"
+        "X=1|"
+        "[MainStaticBar]|X=5|[MainSongs]|[Song]|[SongStaticParty]|X=1|[SongTextGo]|text= "
         "GO|[SongMenu]|[ErrorPopup]|Text=|[Stray]|");
-    theme.folder.put(u"l.ini"_s, linesOf("[Text]|GO='Los, gr\xFC\xDF Gott'|go=other|MAINTEXTOWN=own words|SPARE=x|"));
+    theme.folder.put(u"l.ini"_s,
+                     linesOf("[Text]|GO='Los, gr\xFC\xDF Gott'|go=other|MAINTEXTOWN=own words|MAIN=Spare|SPARE=x|"));
     theme.state.paths.LanguageFile = theme.folder.path(u"l.ini"_s);
     const ThemeSearch search(theme.state);
     // What is typed, and the hits with their rows.
@@ -176,11 +178,21 @@ class ThemeReadingTest : public QObject {
              {u"stray"_s, QString()},
              {u"Y=1"_s, QString()},
              {u"main red nosuch"_s, QString()},
-             {u" STATICBAR  x=120 "_s, u"Main Screen, MainStaticBar: X = 120 @0"_s},
-             {u"x=7"_s, u"Main Screen, MainStaticBar: x = 7 @1"_s},
+             {u" STATICBAR  x=120 "_s, u"Main Screen, MainStaticBar: X = 120 @1"_s},
+             {u"x=7"_s, u"Main Screen, MainStaticBar: x = 7 @2"_s},
              {u"x=5"_s, QString()},
-             {u"120 red"_s, u"Main Screen, MainStaticBar: X = 120 @0"_s},
-             {u"red 120 color"_s, u"Main Screen, MainStaticBar: Color = Red @2"_s},
+             {u"X="_s,
+              u"Main Screen, MainStaticBar: X = 120 @1|Main Screen, MainTextOwn: X = 1 @0|"
+              "Song Screen (Party), SongStaticParty: X = 1 @0"_s},
+             {u"x"_s,
+              u"Main Screen, MainTextGo @-1|Main Screen, MainTextOwn @-1|Song Screen (Single), SongTextGo @-1|and 3"_s},
+             {u"bar x"_s, u"Main Screen, MainStaticBar: X = 120 @1"_s},
+             {u"text=los"_s,
+              u"Main Screen, MainTextGo: Text = \"Go\", Los, grüß Gott @1|"
+              "Song Screen (Single), SongTextGo: text = GO, Los, grüß Gott @0|"
+              "Song Screen (Party), SongTextGo: text = GO, Los, grüß Gott @0"_s},
+             {u"120 red"_s, u"Main Screen, MainStaticBar: X = 120 @1"_s},
+             {u"red 120 color"_s, u"Main Screen, MainStaticBar: Color = Red @3"_s},
              {u"GRÜß los"_s,
               u"Main Screen, MainTextGo: Text = \"Go\", Los, grüß Gott @1|"
               "Song Screen (Single), SongTextGo: text = GO, Los, grüß Gott @0|"
@@ -192,7 +204,7 @@ class ThemeReadingTest : public QObject {
              {u"single song"_s,
               u"Song Screen (Single) @-1|Song Screen (Single), Song @-1|Song Screen (Single), SongTextGo @-1"_s},
              {u"song"_s,
-              u"Song Screen (Single), Song @-1|Song Screen (Party), Song @-1|Song Screen (Single) @-1|and 7"_s},
+              u"Song Screen (Single), Song @-1|Song Screen (Party), Song @-1|Song Screen (Single) @-1|and 8"_s},
          }) {
       const Hits hits = search.find(typed, 3);
       QStringList shown;
