@@ -18,6 +18,7 @@
 #include "mainwindows/workspace.h"
 #include "platform/numbers.h"
 #include "toolbar/mc_toolbar.h"
+#include "toolwindow/colour_editor.h"
 
 namespace mainwindows {
 namespace {
@@ -80,6 +81,7 @@ void ConnectedForm1::connectCommands() {
 
 void ConnectedForm1::connectLists() {
   connect(Combo1, &controls::ComboBox::Click, this, [this](controls::Cause cause) {
+    if (toolWindow() != nullptr) toolwindow::followScheme(*toolWindow());
     if (cause == controls::Cause::User) queue().draw();
   });
   connect(Combo2, &controls::ComboBox::Click, this, [this](controls::Cause cause) {

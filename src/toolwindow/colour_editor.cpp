@@ -121,6 +121,11 @@ void Combo3_Click(Form2& form) {
   }
 }
 
+void followScheme(Form2& form) {
+  form.Combo3->updateSwatches();
+  if (form.Combo4->ListIndex() == ProgramGroup && form.Combo3->ListIndex() >= 0) Combo3_Click(form);
+}
+
 void Command2_Click(Form2& form) {
   if (form.Combo3->ListIndex() < 0) return;
   themefiles::ModuleState& state = form.services.state;

@@ -22,6 +22,9 @@ void Combo4_Click(Form2& form, controls::Cause cause);
 /// A name has been selected: paints the swatch.
 void Combo3_Click(Form2& form);
 
+/// Another colour scheme is in force: squares and swatch show its colours.
+void followScheme(Form2& form);
+
 /// Changes the selected colour by the colour dialog. A failed write is reported; other failures end it silently.
 void Command2_Click(Form2& form);
 

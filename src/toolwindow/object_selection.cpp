@@ -114,7 +114,6 @@ void showReasons(Form2& form, const renderer::RenderAccount& account) {
     if (!texts.contains(text)) texts += text;
   }
   const QSet<QString> drawn = renderer::drawnSections(account);
-  form.Combo3->updateSwatches();  // the squares may be those of another scheme
   for (int row = 0; row < form.List1->ListCount(); ++row) {
     const QString name = platform::upperCase(form.List1->List(row));
     const auto found = reasons.find(name);

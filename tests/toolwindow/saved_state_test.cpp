@@ -174,8 +174,10 @@ class SavedStateTest : public ProgramTest {
     for (const auto& [scheme, name, color] : {std::tuple{u"Blue"_s, u"Red"_s, u"#c82828"_s},
                                               {u"Blue"_s, u"ColorDark"_s, u"#47aff7"_s},
                                               {u"Brown"_s, u"ColorDark"_s, u"#c07f1f"_s}}) {
-      program->form.Combo1->SetText(scheme);
+      program->form.Combo1->SetText(u"Red"_s);
       program->soleRow(u"COLOR"_s, name);
+      program->form.Combo1->SetText(scheme);
+      QCOMPARE(tools.Command2->BackColor().name(), color);
       const QIcon square = tools.Combo3->itemIcon(tools.Combo3->findText(name));
       QCOMPARE(square.pixmap(11, 11).toImage().pixelColor(5, 5).name(), color);
     }
