@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include <QFontDatabase>
 #include <QFontInfo>
+
+#include "drawing/shipped_fonts.h"
 
 namespace drawing {
 
@@ -26,15 +29,17 @@ constexpr Substitute Substitutes[] = {
     {nullptr, "Liberation Sans", QFont::Normal},
 };
 
-/// Whether the face is installed. Asking the font takes a hundredth of the time of listing all families. A family that
-/// two foundries offer has the foundry in brackets after its name.
+/// Whether the face is installed in a form that can be drawn at any size. Asking the font takes a hundredth of the time
+/// of listing all families. A family that two foundries offer has the foundry in brackets after its name.
 bool isInstalled(const QString& face) {
   const QString family = QFontInfo(QFont(face)).family();
-  return family.compare(face, Qt::CaseInsensitive) == 0 ||
-         family.startsWith(face + QStringLiteral(" ["), Qt::CaseInsensitive);
+  const bool same = family.compare(face, Qt::CaseInsensitive) == 0 ||
+                    family.startsWith(face + QStringLiteral(" ["), Qt::CaseInsensitive);
+  return same && QFontDatabase::isSmoothlyScalable(family);
 }
 
 QFont fontOf(const QString& face) {
+  addShippedFonts();
   if (isInstalled(face)) return QFont(face);
   const Substitute* row = Substitutes;
   while (row->face && face.compare(QLatin1String(row->face), Qt::CaseInsensitive) != 0) ++row;
