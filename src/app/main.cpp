@@ -9,6 +9,7 @@
 #include "mainwindows/config_file.h"
 #include "mainwindows/main_events.h"
 #include "mainwindows/main_window.h"
+#include "platform/console.h"
 #include "platform/failure.h"
 #include "themefiles/module_state.h"
 
@@ -16,24 +17,26 @@ namespace {
 
 constexpr int WrongCommandLine = 2;
 
-QStringList wordsOf(int argc, char** argv) {
-  QStringList words;
-  for (int word = 0; word < argc; ++word) words += QString::fromLocal8Bit(argv[word]);
-  return words;
-}
-
-void print(std::FILE* stream, const QString& text) {
-  std::fprintf(stream, "%s\n", text.toLocal8Bit().constData());
+/// On Windows texts are drawn as everywhere else, not by the system, and the windows stay light.
+void choosePlatform() {
+#ifdef Q_OS_WIN
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "windows:fontengine=freetype,darkmode=0");
+  }
+#endif
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  platform::prepareOutput();
   // Before there is an application: that needs a display.
-  if (const QString answer = mainwindows::commandLineAnswer(wordsOf(argc, argv)); !answer.isEmpty()) {
-    print(stdout, answer);
+  if (const QString answer = mainwindows::commandLineAnswer(platform::commandLineWords(argc, argv));
+      !answer.isEmpty()) {
+    platform::print(stdout, answer);
     return 0;
   }
+  choosePlatform();
   QApplication::setDesktopSettingsAware(false);
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Cantorama Theme Edit"));
@@ -42,7 +45,7 @@ int main(int argc, char** argv) {
   try {
     commandLine = mainwindows::parseCommandLine(QApplication::arguments());
   } catch (const platform::Failure& failure) {
-    print(stderr, QStringLiteral("cantorama-theme-edit: ") + failure.description());
+    platform::print(stderr, QStringLiteral("cantorama-theme-edit: ") + failure.description());
     return WrongCommandLine;
   }
   controls::applyLook(application);

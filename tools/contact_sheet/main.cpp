@@ -4,6 +4,7 @@
 #include <QDir>
 
 #include "arguments.h"
+#include "platform/console.h"
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/paths.h"
@@ -12,7 +13,7 @@
 
 namespace {
 
-using windowless::print;
+using platform::print;
 
 /// Writes every report to the standard error output.
 class ErrorOutput : public platform::StatusLine {

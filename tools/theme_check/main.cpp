@@ -2,13 +2,14 @@
 
 #include "arguments.h"
 #include "output.h"
+#include "platform/console.h"
 #include "platform/failure.h"
 #include "progress.h"
 #include "windowless_tool.h"
 
 namespace {
 
-using windowless::print;
+using platform::print;
 
 std::vector<themecheck::Finding> check(const themecheck::Request& request) {
   themechecktool::ProgressLine line;

@@ -6,8 +6,12 @@
 
 #include <QGuiApplication>
 
+#include "platform/console.h"
+
 namespace windowless {
 namespace {
+
+using platform::print;
 
 /// They are about a desktop that isn't there, and about pictures, of which the program tells itself.
 void dropMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
@@ -36,10 +40,6 @@ QString onOneLine(QString text) {
   return text;
 }
 
-void print(std::FILE* stream, const QString& text) {
-  std::fprintf(stream, "%s\n", text.toUtf8().constData());
-}
-
 int runTool(const QString& name, int argc, char** argv, const std::function<int(const QStringList& words)>& run) {
 #ifdef SIGPIPE
   std::signal(SIGPIPE, SIG_IGN);  // a reader that has ended is a failure to write
@@ -49,11 +49,10 @@ int runTool(const QString& name, int argc, char** argv, const std::function<int(
   int programOnly =
       1;  // the toolkit's own options stay away from the command line, the choice of a platform among them
   const QGuiApplication application(programOnly, argv);
-  QStringList words;
-  for (int word = 0; word < argc; ++word) words += QString::fromLocal8Bit(argv[word]);
+  platform::prepareOutput();
   const QString head = name + QStringLiteral(": ");
   try {
-    return runAndFlush(run, words);
+    return runAndFlush(run, platform::commandLineWords(argc, argv));
   } catch (const WrongUsage& failure) {
     print(stderr, head + onOneLine(failure.description()));
     print(stderr, failure.usage);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdio>
 #include <functional>
 #include <utility>
 
@@ -23,9 +22,6 @@ struct WrongUsage : platform::Failure {
 /// The text with a "?" for each letter that would end the line or steer the terminal. Names of files and what stands in
 /// them may hold such letters.
 QString onOneLine(QString text);
-
-/// Prints text of the program's own and a line end, as UTF-8.
-void print(std::FILE* stream, const QString& text);
 
 /// Runs a program that draws with no display, and with no setting of a desktop, by the words of its command line;
 /// gives its exit status. A platform::Failure goes to the standard error output behind the program's name, on one line;
