@@ -1,6 +1,4 @@
 #include <atomic>
-#include <fcntl.h>
-#include <unistd.h>
 
 #include <QThread>
 
@@ -91,16 +89,16 @@ class SecondEditorTest : public QObject {
     Program program(game);
     program.open();
     const QByteArray first = game.get(ThemeCopy);
-    const QByteArray name = game.native(ThemeCopy).toUtf8();
+    const QString name = game.native(ThemeCopy);
     std::atomic<bool> over = false;
     std::atomic<int> turns = 0;
     const auto neighbour = std::unique_ptr<QThread>(QThread::create([&] {
       for (; !over; ++turns) {
-        ::unlink(name);
+        QFile::remove(name);
         QThread::usleep(turns % 3 * 20);
-        const int file = ::open(name, O_WRONLY | O_CREAT | O_TRUNC, 0666);
-        if (::write(file, first, size_t(first.size())) < 0) return;
-        ::close(file);
+        QFile file(name);
+        if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) file.write(first);
+        file.close();
         QThread::usleep(turns % 50 == 0 ? 2000 : 20);
       }
     }));

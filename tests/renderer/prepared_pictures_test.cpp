@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <sys/stat.h>
 
 #include <QRandomGenerator>
 

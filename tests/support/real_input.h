@@ -4,6 +4,9 @@
 #include <QProcess>
 
 #include "support/windows.h"
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
 
 // Mouse and keyboard on the program's real windows, as a user has them.
 
@@ -81,7 +84,11 @@ inline void open(Program& program, const char* theme, const char* skin, Qt::Key 
 /// Has the window manager bring a window to the front, as a taskbar does. The window's own request is lost when the
 /// last event that the program knows of is older than the last change of focus; events made by a test have no time.
 inline void bringToFront(const QWidget& window) {
+#ifdef Q_OS_WIN
+  ::SetForegroundWindow(reinterpret_cast<HWND>(window.winId()));
+#else
   QProcess::execute(u"xdotool"_s, {u"windowactivate"_s, QString::number(window.winId())});
+#endif
 }
 
 }  // namespace support

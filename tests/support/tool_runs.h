@@ -24,9 +24,14 @@ constexpr int Either = -1;
 inline ToolRun runTool(const QString& program, int status, const QStringList& arguments,
                        const QStringList& variables = {}) {
   using namespace Qt::StringLiterals;
-  const QStringList display{u"-uDISPLAY"_s, u"-uWAYLAND_DISPLAY"_s, u"-uQT_QPA_PLATFORM"_s};
   QProcess tool;
-  tool.start(u"env"_s, display + variables + QStringList{program} + arguments);
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  for (const char* display : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) {
+    environment.remove(QLatin1StringView(display));
+  }
+  for (const QString& variable : variables) environment.insert(variable.section(u'=', 0, 0), variable.section(u'=', 1));
+  tool.setProcessEnvironment(environment);
+  tool.start(program, arguments);
   const bool ended = tool.waitForFinished(240'000) && tool.exitStatus() == QProcess::NormalExit;
   const ToolRun run{tool.readAllStandardOutput(), tool.readAllStandardError()};
   const bool expected = status == Either ? tool.exitCode() < 2 : tool.exitCode() == status;

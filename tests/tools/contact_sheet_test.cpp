@@ -5,6 +5,7 @@
 
 #include "platform/files.h"
 #include "support/pictures.h"
+#include "support/results.h"
 #include "support/tool_runs.h"
 
 using platform::readFile;
@@ -45,6 +46,18 @@ class ContactSheetTest : public QObject {
   }
 
   void cleanupTestCase() { QCOMPARE(support::contentsOf(Sample), before_); }
+
+  /// The same pixels on every system: their sums are kept.
+  void screensOfTheSample() {
+    QStringList lines;
+    for (int screen = 1; screen <= 32; ++screen) {
+      const QImage picture = QImage(pictureOf(sheet_, screen)).convertToFormat(QImage::Format_ARGB32);
+      const QByteArrayView pixels(picture.constBits(), picture.sizeInBytes());
+      lines += u"%1 "_s.arg(screen, 2, 10, QChar(u'0')) +
+               QString::fromLatin1(QCryptographicHash::hash(pixels, QCryptographicHash::Sha1).toHex());
+    }
+    support::compareText(u"pixels_of_sample.txt"_s, lines);
+  }
 
   void drawsTheSameAnywhere() {
     const QTemporaryDir output;
