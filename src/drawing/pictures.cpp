@@ -4,7 +4,6 @@
 
 #include <QBuffer>
 #include <QColorSpace>
-#include <QFile>
 #include <QImageReader>
 
 #include "drawing/jpeg_pictures.h"
@@ -44,8 +43,10 @@ const Kind* kindOf(QByteArrayView bytes) {
 }
 
 /// Whether the file can be a picture, by its size and first bytes. Nothing more is read.
-bool mayBePicture(QFile& file) {
-  return file.size() <= LargestBytes && kindOf(file.peek(LongestMark));
+bool mayBePicture(const platform::OpenFile& file) {
+  if (file.size() > LargestBytes) return false;
+  const auto head = file.head(LongestMark);
+  return head && kindOf(*head);
 }
 
 }  // namespace
@@ -73,9 +74,9 @@ QImage decodePicture(QByteArrayView bytes) {
 QImage LoadPicture(const QString& path) {
   try {
     const auto file = platform::openFile(path);
-    if (!mayBePicture(*file)) return {};
-    const QByteArray bytes = file->readAll();
-    return file->error() == QFileDevice::NoError ? decodePicture(bytes) : QImage();
+    if (!mayBePicture(file)) return {};
+    const auto bytes = file.bytes();
+    return bytes ? decodePicture(*bytes) : QImage();
   } catch (const platform::Failure&) {
     return {};
   }

@@ -31,7 +31,7 @@ QStringList placesOf(const QString& picture) {
 
 /// Of the account, only the pictures that a drawing found differently from now.
 bool isChanged(const std::pair<const QString, std::optional<platform::FileIdentity>>& picture) {
-  return platform::roughIdentityOf(picture.first) != picture.second;
+  return platform::identityIfSeen(picture.first) != picture.second;
 }
 
 }  // namespace

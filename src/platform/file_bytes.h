@@ -1,45 +1,56 @@
 #pragma once
 
-#include <optional>
-
 #include <QByteArray>
-#include <QByteArrayView>
-#include <QFile>
 #include <QString>
 #include <QStringList>
 
 #include "platform/at_link.h"
+#include "platform/file_handle.h"
+#include "platform/file_result.h"
 
-/// System calls on files and folders by their native paths. They return errors and throw nothing; each platform has its
-/// own sources. Only regular files are read and written. Opening a pipe or a device never blocks.
+/// System calls on files and folders by their native paths. They throw nothing; each platform has its own sources. Only
+/// regular files are opened. Opening a pipe or a device never blocks.
 namespace platform {
-
-struct FileError {
-  QString description;   ///< the system's own text
-  bool missing = false;  ///< there is nothing at the path; after any other error there may be something
-};
 
 /// What is at a path.
 struct Look {
-  bool stands = false;     ///< there is something
-  bool isFile = false;     ///< a regular file
-  qint64 lastWritten = 0;  ///< in nanoseconds since 1970
+  bool stands = false;  ///< there is something
+  bool isFile = false;  ///< a regular file
 };
 
 /// Looks up what is at the path. With Replace that is the link itself. Nothing there is no error.
-std::optional<FileError> lookAt(const QString& native, AtLink atLink, Look& found);
+FileResult<Look> lookAt(const QString& native, AtLink atLink);
 
-/// Appends the names in a folder without "." and "..", in any order.
-std::optional<FileError> listNames(const QString& native, QStringList& names);
+/// The names in a folder without "." and "..", in any order.
+FileResult<QStringList> listNames(const QString& native);
 
-/// Reads the whole file. With Replace a link counts as missing.
-std::optional<FileError> readBytes(const QString& native, AtLink atLink, QByteArray& bytes);
+/// A regular file that is open for reading. All that it tells comes from this one opening.
+class OpenFile {
+ public:
+  /// With Replace a link counts as missing.
+  static FileResult<OpenFile> open(const QString& native, AtLink atLink);
 
-/// Opens the file for reading piece by piece.
-std::optional<FileError> openBytes(const QString& native, QFile& file);
+  /// In bytes, and in nanoseconds since 1970, when the file was opened.
+  qint64 size() const { return size_; }
+  qint64 lastWritten() const { return lastWritten_; }
 
-/// Replaces or creates the file: writes and flushes a temporary file, then renames it. On an error the old file is
-/// untouched and the temporary one is removed. Fails if the old file may not be written.
-std::optional<FileError> replaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink);
+  /// The whole file.
+  FileResult<QByteArray> bytes() const;
+  /// Its first bytes, at most so many.
+  FileResult<QByteArray> head(qsizetype most) const;
+
+  const FileHandle& handle() const { return handle_; }
+
+ private:
+  OpenFile(FileHandle handle, qint64 size, qint64 lastWritten)
+      : handle_(std::move(handle)), size_(size), lastWritten_(lastWritten) {}
+
+  /// One read: gives how many bytes it got, 0 behind the end.
+  FileResult<qsizetype> readAt(qsizetype place, char* to, qsizetype most) const;
+
+  FileHandle handle_;
+  qint64 size_;
+  qint64 lastWritten_;
+};
 
 }  // namespace platform

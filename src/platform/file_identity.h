@@ -5,6 +5,8 @@
 #include <QString>
 #include <QtGlobal>
 
+#include "platform/file_result.h"
+
 namespace platform {
 
 /// Identifies a state of a file: differs between two files, and between a file before and after a change. Times are
@@ -18,13 +20,16 @@ struct FileIdentity {
   friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
 };
 
-/// The identity of the file at the program's path, links followed. None if there is no file, or on a platform that
-/// doesn't know all of these values.
+/// The identity of the file at the native path, links followed; none if what is there is no regular file. Each platform
+/// has its own source.
+FileResult<std::optional<FileIdentity>> identityAt(const QString& native);
+
+/// The identity of the file at the program's path, links followed; none if there is no file. Throws Failure if it can't
+/// be looked at.
 std::optional<FileIdentity> identityOf(const QString& path);
 
-/// As much of that as the platform knows: enough to notice that a file was written. None also if the file can't be
-/// looked at.
-std::optional<FileIdentity> roughIdentityOf(const QString& path);
+/// The same, but none also if the file can't be looked at.
+std::optional<FileIdentity> identityIfSeen(const QString& path);
 
 /// Whether any further change is certain to change the times. False for two seconds after a change, since a coarse
 /// clock may give the next change the same time, and for a change in the future.

@@ -1,79 +1,84 @@
 #include "platform/files.h"
 
 #include <algorithm>
-#include <functional>
 
 #include "platform/code_page.h"
-#include "platform/failure.h"
-#include "platform/file_bytes.h"
-#include "platform/paths.h"
+#include "platform/file_names.h"
+#include "platform/found_path.h"
 
 namespace platform {
 
 namespace {
 
-Failure failureOf(const QString& native, const FileError& error) {
-  return Failure(native.section(u'/', -1) + QStringLiteral(": ") + error.description);
+/// The value of a result. Throws its error.
+template <typename Value>
+Value valueOf(FileResult<Value>&& result, const QString& path) {
+  if (!result) throw failureOf(path, result.error());
+  return std::move(*result);
 }
 
-/// Tries the step on the path as written. If there is nothing, tries it on the path found regardless of case. Returns
-/// the failure if there is nothing either, and throws any other.
-std::optional<Failure> touch(const QString& path, const std::function<std::optional<FileError>(const QString&)>& step) {
-  QString native = plainPath(path);
-  auto error = step(native);
-  if (error && error->missing) error = step(native = findPath(native));
-  if (!error) return std::nullopt;
-  if (!error->missing) throw failureOf(native, *error);
-  return failureOf(native, *error);
+FileResult<OpenFile> opened(const QString& path, AtLink atLink) {
+  return atFoundPath(path, [&](const QString& native) { return OpenFile::open(native, atLink); });
 }
 
 /// What is at the path. `native` becomes the path that it was found at.
 Look look(const QString& path, AtLink atLink, QString& native) {
-  Look found;
-  touch(path, [&](const QString& at) {
-    auto error = lookAt(native = at, atLink, found);
-    if (!error && !found.stands) error = FileError{QString(), true};
-    return error;
+  auto found = atFoundPath(path, [&](const QString& at) -> FileResult<Look> {
+    auto there = lookAt(native = at, atLink);
+    if (there && !there->stands) return FileError{QString(), true};
+    return there;
   });
-  return found;
+  return found.isMissing() ? Look() : valueOf(std::move(found), path);
+}
+
+/// The turn at the file, under the name that it has on the disk.
+Turn turnAt(const QString& path, AtLink atLink) {
+  QString native;
+  look(path, AtLink::Replace, native);
+  return valueOf(Turn::take(native, atLink), path);
 }
 
 }  // namespace
 
+OpenFile openFile(const QString& path) {
+  return valueOf(opened(path, AtLink::Follow), path);
+}
+
+std::optional<OpenFile> openIfThere(const QString& path, AtLink atLink) {
+  auto file = opened(path, atLink);
+  if (file.isMissing()) return std::nullopt;
+  return valueOf(std::move(file), path);
+}
+
+QByteArray bytesOf(const OpenFile& file, const QString& path) {
+  return valueOf(file.bytes(), path);
+}
+
 QByteArray readFile(const QString& path) {
-  QByteArray bytes;
-  const auto missing = touch(path, [&](const QString& native) { return readBytes(native, AtLink::Follow, bytes); });
-  if (missing) throw Failure(*missing);
-  return bytes;
+  return bytesOf(openFile(path), path);
 }
 
 std::optional<QByteArray> readIfThere(const QString& path, AtLink atLink) {
-  QByteArray bytes;
-  if (touch(path, [&](const QString& native) { return readBytes(native, atLink, bytes); })) return std::nullopt;
-  return bytes;
+  const auto file = openIfThere(path, atLink);
+  return file ? std::optional(bytesOf(*file, path)) : std::nullopt;
 }
 
-std::unique_ptr<QFile> openFile(const QString& path) {
-  auto file = std::make_unique<QFile>();
-  const auto missing = touch(path, [&](const QString& native) { return openBytes(native, *file); });
-  if (missing) throw Failure(*missing);
-  return file;
+FileTurn::FileTurn(const QString& path, AtLink atLink) : path_(path), turn_(turnAt(path, atLink)) {
+  if (turn_.present()) text_ = bytesOf(*turn_.present(), path);
 }
 
-void writeFile(const QString& path, QByteArrayView bytes, AtLink atLink) {
-  QString native;
-  look(path, AtLink::Replace, native);
-  if (const auto error = replaceBytes(native, bytes, atLink)) throw failureOf(native, *error);
+void FileTurn::replace(QByteArrayView bytes, const OpenFile* like) {
+  valueOf(turn_.replace(bytes, like), path_);
+}
+
+void writeFile(const QString& path, QByteArrayView bytes) {
+  Turn turn = turnAt(path, AtLink::Follow);
+  valueOf(turn.replace(bytes, nullptr), path);
 }
 
 bool fileExists(const QString& path) {
   QString native;
   return look(path, AtLink::Follow, native).isFile;
-}
-
-qint64 lastWritten(const QString& path) {
-  QString native;
-  return look(path, AtLink::Replace, native).lastWritten;
 }
 
 bool folderHoldsFiles(const QString& folder) {
@@ -86,18 +91,17 @@ bool folderHoldsFiles(const QString& folder) {
 
 QStringList listFiles(const QString& folder, const QString& ending) {
   const QString native = findPath(plainPath(folder));
-  QStringList names;
-  const auto error = listNames(native, names);
-  if (error && !error->missing) throw failureOf(native, *error);
+  auto listed = listNames(native);
+  QStringList names = listed.isMissing() ? QStringList() : valueOf(std::move(listed), folder);
   names.removeIf([&](const QString& name) {
     if (name.startsWith(u'.') || name.size() < ending.size()) return true;
     if (!sameName(QStringView(name).last(ending.size()), ending)) return true;
-    Look found;
     // A file that can't be looked at stays in the list: reading it will report why.
-    return !lookAt(native + u'/' + name, AtLink::Follow, found) && !found.isFile;
+    const auto found = lookAt(native + u'/' + name, AtLink::Follow);
+    return found && !found->isFile;
   });
   std::sort(names.begin(), names.end(), [](const QString& a, const QString& b) {
-    return sameName(a, b) ? QFile::encodeName(a) < QFile::encodeName(b) : nameLess(a, b);
+    return sameName(a, b) ? encodedName(a) < encodedName(b) : nameLess(a, b);
   });
   return names;
 }

@@ -1,11 +1,11 @@
 #include "platform/paths.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/file_bytes.h"
+#include "platform/file_names.h"
 
 namespace platform {
 
@@ -13,25 +13,28 @@ namespace {
 
 constexpr QChar Slash(u'/');
 
-/// Throws if it is unknown whether there is something at the path.
-void check(const QString& path, const std::optional<FileError>& error) {
-  if (error && !error->missing) throw Failure(path.section(Slash, -1) + QStringLiteral(": ") + error->description);
+/// Throws what keeps from knowing whether there is something at the path.
+void check(const QString& path, const FileError& error) {
+  if (!error.missing) throw Failure(path.section(Slash, -1) + QStringLiteral(": ") + error.description);
 }
 
 bool stands(const QString& path) {
-  Look found;
-  check(path, lookAt(path, AtLink::Replace, found));
-  return found.stands;
+  const auto found = lookAt(path, AtLink::Replace);
+  if (!found) check(path, found.error());
+  return found && found->stands;
 }
 
 /// The entry of `folder` that equals `name` regardless of case, the first in byte order; else `name` itself.
 QString entryLike(const QString& folder, const QString& name) {
+  const auto entries = listNames(folder);
+  if (!entries) {
+    check(folder + name, entries.error());
+    return name;
+  }
   QString best;
-  QStringList entries;
-  check(folder + name, listNames(folder, entries));
-  for (const QString& entry : entries) {
+  for (const QString& entry : *entries) {
     if (!sameName(entry, name)) continue;
-    if (best.isEmpty() || QFile::encodeName(entry) < QFile::encodeName(best)) best = entry;
+    if (best.isEmpty() || encodedName(entry) < encodedName(best)) best = entry;
   }
   return best.isEmpty() ? name : best;
 }

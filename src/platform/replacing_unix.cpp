@@ -6,7 +6,9 @@
 #include <thread>
 #include <unistd.h>
 
-#include "platform/file_bytes.h"
+#include "platform/file_access_unix.h"
+#include "platform/file_names.h"
+#include "platform/replacing.h"
 #include "platform/unix_errors.h"
 
 namespace platform {
@@ -14,142 +16,141 @@ namespace platform {
 namespace {
 
 /// Added to a file's name, it names the temporary file. The name is always the same, so that killed programs leave at
-/// most one such file behind, and the next write removes it.
+/// most one such file behind, and the next turn removes it.
 constexpr char TemporaryEnding[] = ".unfinished";
 
-int writeAll(int file, QByteArrayView bytes) {
+constexpr mode_t ForAll = 0666;  // less what the user's mask takes
+constexpr mode_t ForOwner = 0600;
+
+FileResult<> writeAll(const FileHandle& file, QByteArrayView bytes) {
   while (!bytes.isEmpty()) {
-    const ssize_t put = ::write(file, bytes.data(), bytes.size());
+    const ssize_t put = ::write(static_cast<int>(file.value()), bytes.data(), static_cast<size_t>(bytes.size()));
     if (put < 0 && errno == EINTR) continue;
-    if (put < 0) return errno;
+    if (put < 0) return systemError();
     bytes = bytes.sliced(put);
   }
-  return 0;
+  return Done();
 }
 
 /// It is no error if the file system has no flush.
-int flush(int file) {
-  const int error = errorNumber(::fsync(file));
-  return error == EINVAL || error == ENOTSUP ? 0 : error;
+FileResult<> flush(const FileHandle& file) {
+  const auto flushed = called(::fsync(static_cast<int>(file.value())));
+  if (flushed || (flushed.error().number != EINVAL && flushed.error().number != ENOTSUP)) return Done();
+  return flushed;
 }
 
-/// Replaces the path of a symbolic link by its final target, whether that exists or not.
-int followLinks(QByteArray& path) {
+/// The final target of a symbolic link, whether that exists or not; else the path itself.
+FileResult<QByteArray> followLinks(QByteArray path) {
   constexpr int LongestChain = 40;
   for (int i = 0; i < LongestChain; ++i) {
     QByteArray behind(4096, Qt::Uninitialized);
-    const ssize_t length = ::readlink(path.constData(), behind.data(), behind.size());
+    const ssize_t length = ::readlink(path.constData(), behind.data(), static_cast<size_t>(behind.size()));
     // EINVAL: no link. ENOENT: nothing there.
-    if (length < 0) return errno == EINVAL || errno == ENOENT ? 0 : errno;
+    if (length < 0 && (errno == EINVAL || errno == ENOENT)) return path;
+    if (length < 0) return systemError();
     behind.truncate(length);
     path = behind.startsWith('/') ? behind : path.left(path.lastIndexOf('/') + 1) + behind;
   }
-  return ELOOP;
-}
-
-/// The owner's write bit has to be set even for the superuser.
-std::optional<FileError> checkWritable(const QByteArray& name, const struct stat& status) {
-  if (S_ISDIR(status.st_mode)) return errorOf(EISDIR);
-  if (!S_ISREG(status.st_mode)) return noRegularFile();
-  if ((status.st_mode & S_IWUSR) == 0) return FileError{QStringLiteral("The file is write-protected")};
-  return errorOf(errorNumber(::faccessat(AT_FDCWD, name.constData(), W_OK, AT_EACCESS)));
-}
-
-/// Copies owner and group where the system permits, then the mode: a change of the owner clears some of its bits.
-int keepOwnerAndMode(int file, const struct stat& old) {
-  const auto refused = [](int error) { return error == EPERM || error == EINVAL || error == ENOTSUP; };
-  struct stat fresh;
-  int error = errorNumber(::fstat(file, &fresh));
-  if (error != 0) return error;
-  if (fresh.st_uid != old.st_uid) error = errorNumber(::fchown(file, old.st_uid, old.st_gid));
-  if (refused(error) || (fresh.st_uid == old.st_uid && fresh.st_gid != old.st_gid)) {
-    error = errorNumber(::fchown(file, static_cast<uid_t>(-1), old.st_gid));
-  }
-  if (error != 0 && !refused(error)) return error;
-  return errorNumber(::fchmod(file, old.st_mode & 07777));
+  return systemError(ELOOP);
 }
 
 bool lacksLocks(int error) {
   return error == ENOLCK || error == EBADF || error == EINVAL || error == ENOTSUP || error == ENOSYS;
 }
 
-/// Locks an open temporary file. The lock shows that a running program is writing it. EAGAIN if another program has the
+/// Locks an open temporary file. The lock shows that a running program has its turn. EAGAIN if another program has the
 /// lock, or if the name no longer leads to this file.
-int lock(int file, const QByteArray& name) {
+FileResult<> lock(const FileHandle& file, const QByteArray& name) {
   struct stat here;
   struct stat there;
-  const int error = errorNumber(::flock(file, LOCK_EX | LOCK_NB));
-  if (error != 0) return error == EWOULDBLOCK ? EAGAIN : error;
-  if (::fstat(file, &here) != 0) return errno;
-  if (::lstat(name.constData(), &there) != 0) return errno == ENOENT ? EAGAIN : errno;
-  return here.st_dev == there.st_dev && here.st_ino == there.st_ino ? 0 : EAGAIN;
+  const auto locked = called(::flock(static_cast<int>(file.value()), LOCK_EX | LOCK_NB));
+  if (!locked) return locked.error().number == EWOULDBLOCK ? systemError(EAGAIN) : locked.error();
+  if (::fstat(static_cast<int>(file.value()), &here) != 0) return systemError();
+  if (::lstat(name.constData(), &there) != 0) return systemError(errno == ENOENT ? EAGAIN : errno);
+  if (here.st_dev != there.st_dev || here.st_ino != there.st_ino) return systemError(EAGAIN);
+  return Done();
 }
 
-/// Removes a temporary file that a killed program left, or a link at its name. EAGAIN if it makes sense to try the name
-/// again. On a file system without locks the file stays, since another program may be writing it.
-int clearAway(const QByteArray& name) {
-  const int file = ::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-  int error = file < 0 ? errno : lock(file, name);
-  if (error == 0 || error == ELOOP) error = errorNumber(::unlink(name.constData()));
-  if (file >= 0) ::close(file);
-  if (error == 0 || error == ENOENT) return EAGAIN;
-  return lacksLocks(error) ? EEXIST : error;
+/// Removes a temporary file that a killed program left, or a link at its name. Gives EAGAIN if it makes sense to try
+/// the name again. On a file system without locks the file stays, since another program may be writing it.
+FileError clearAway(const QByteArray& name) {
+  const FileHandle file(::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  auto cleared = file.isOpen() ? lock(file, name) : systemError();
+  if (cleared || cleared.error().number == ELOOP) cleared = called(::unlink(name.constData()));
+  if (cleared || cleared.error().number == ENOENT) return systemError(EAGAIN);
+  return lacksLocks(cleared.error().number) ? systemError(EEXIST) : cleared.error();
 }
 
 /// Creates a file of that name and locks it.
-int make(const QByteArray& name, int& file) {
-  file = ::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-  if (file < 0) return errno == EEXIST ? clearAway(name) : errno;
-  const int error = lock(file, name);
-  if (error == 0 || lacksLocks(error)) return 0;
-  if (error != EAGAIN) ::unlink(name.constData());
-  ::close(file);
-  return error;
+FileResult<FileHandle> make(const QByteArray& name, mode_t mode) {
+  FileHandle file(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode));
+  if (!file.isOpen()) return errno == EEXIST ? clearAway(name) : systemError();
+  const auto locked = lock(file, name);
+  if (locked || lacksLocks(locked.error().number)) return file;
+  if (locked.error().number != EAGAIN) ::unlink(name.constData());
+  return locked.error();
 }
 
-/// The same, but waits up to a second while another program is writing the file.
-int makeInTurn(const QByteArray& name, int& file) {
-  constexpr int Tries = 200;
+/// The same, but waits up to a second while another program has its turn.
+FileResult<FileHandle> makeInTurn(const QByteArray& name, mode_t mode) {
+  using Clock = std::chrono::steady_clock;
   constexpr std::chrono::milliseconds Pause{5};
-  for (int i = 0; i < Tries; ++i) {
-    if (i > 1) std::this_thread::sleep_for(Pause);
-    const int error = make(name, file);
-    if (error != EAGAIN) return error;
+  const auto end = Clock::now() + std::chrono::seconds(1);
+  for (bool first = true;; first = false) {
+    auto made = make(name, mode);
+    const bool taken = !made && (made.error().number == EAGAIN || made.error().number == EEXIST);
+    if (!taken || Clock::now() > end) return made;
+    if (!first) std::this_thread::sleep_for(Pause);
   }
-  return EAGAIN;
+}
+
+/// What a failed makeInTurn tells.
+FileError withoutTurn(const QByteArray& name, const FileError& error) {
+  if (error.number == EAGAIN) return {QStringLiteral("Another program is writing this file")};
+  struct stat left;
+  if (::lstat(name.constData(), &left) != 0) return error;
+  return {QStringLiteral("%1 is left from an earlier write and can't be removed: %2")
+              .arg(decodedName(name), error.description)};
 }
 
 }  // namespace
 
-std::optional<FileError> replaceBytes(const QString& native, QByteArrayView bytes, AtLink atLink) {
-  QByteArray target = QFile::encodeName(native);
-  if (const int error = atLink == AtLink::Follow ? followLinks(target) : 0) return errorOf(error);
+FileResult<Turn> Turn::take(const QString& native, AtLink atLink) {
+  const auto target = atLink == AtLink::Follow ? followLinks(encodedName(native)) : encodedName(native);
+  if (!target) return target.error();
+  // A file that becomes the copy of another one is nobody else's until it has the rights of that.
   struct stat old;
-  const int looking = errorNumber(::lstat(target.constData(), &old));
-  if (looking != 0 && looking != ENOENT) return errorOf(looking);
-  const bool replacesLink = looking == 0 && S_ISLNK(old.st_mode) && atLink == AtLink::Replace;
-  const bool replaces = looking == 0 && !replacesLink;
-  if (replaces) {
-    if (auto error = checkWritable(target, old)) return error;
-  }
+  const auto looked = atLink == AtLink::Follow ? called(::lstat(target->constData(), &old)) : Done();
+  if (!looked && !looked.isMissing()) return looked.error();
+  const QByteArray temporary = *target + TemporaryEnding;
+  auto file = makeInTurn(temporary, looked ? ForOwner : ForAll);
+  if (!file) return withoutTurn(temporary, file.error());
+  Turn turn(decodedName(*target), decodedName(temporary), std::move(*file));
+  auto present = OpenFile::open(turn.target_, AtLink::Replace);
+  if (!present && !present.isMissing()) return present.error();
+  if (!present) return turn;
+  if (const auto writable = checkWritable(*target, *present); !writable) return writable.error();
+  turn.present_ = std::move(*present);
+  return turn;
+}
 
-  const QByteArray name = target + TemporaryEnding;
-  int file = -1;
-  if (const int error = makeInTurn(name, file)) {
-    if (error == EAGAIN) return FileError{QStringLiteral("Another program is writing this file")};
-    struct stat left;
-    if (::lstat(name.constData(), &left) != 0) return errorOf(error);
-    return FileError{QStringLiteral("%1 is left from an earlier write and can't be removed: %2")
-                         .arg(QFile::decodeName(name), errorOf(error)->description)};
+Turn::~Turn() {
+  if (lock_.isOpen() && !temporary_.isEmpty()) ::unlink(encodedName(temporary_).constData());
+}
+
+FileResult<> Turn::replace(QByteArrayView bytes, const OpenFile* like) {
+  FileResult<> done = Done();
+  if (like) {
+    done = copyAccess(lock_, *like);
+  } else if (present_) {
+    done = keepAttributes(lock_, *present_);
   }
-  int error = replaces ? keepOwnerAndMode(file, old) : 0;
-  if (error == 0) error = writeAll(file, bytes);
-  if (error == 0) error = flush(file);
+  if (done) done = writeAll(lock_, bytes);
+  if (done) done = flush(lock_);
   // The file is renamed while it is open, so that it stays locked. Closing can't fail to write: all is flushed.
-  if (error == 0) error = errorNumber(::rename(name.constData(), target.constData()));
-  if (error != 0) ::unlink(name.constData());
-  ::close(file);
-  return errorOf(error);
+  if (done) done = called(::rename(encodedName(temporary_).constData(), encodedName(target_).constData()));
+  if (done) temporary_.clear();
+  return done;
 }
 
 }  // namespace platform

@@ -1,21 +1,20 @@
 #pragma once
 
 #include <cerrno>
-#include <optional>
 
-#include "platform/file_bytes.h"
+#include "platform/file_result.h"
 
-/// From the results of system calls to errors.
+/// From the results of system calls to those of the file layer.
 namespace platform {
 
-/// The error number of a failed call (-1), or 0.
-inline int errorNumber(int result) {
-  return result < 0 ? errno : 0;
+inline FileError systemError(int number = errno) {
+  return {qt_error_string(number), number == ENOENT || number == ENOTDIR, number};
 }
 
-inline std::optional<FileError> errorOf(int number) {
-  if (number == 0) return std::nullopt;
-  return FileError{qt_error_string(number), number == ENOENT || number == ENOTDIR};
+/// The result of a call that gives -1 when it fails.
+inline FileResult<> called(int result) {
+  if (result < 0) return systemError();
+  return Done();
 }
 
 /// The error for a pipe, a device or a socket.

@@ -13,7 +13,7 @@ namespace {
 void notePicture(const RenderContext& context, const QString& path) {
   auto& pictures = context.account.pictures;
   if (context.trial || pictures.find(path) != pictures.end()) return;
-  pictures.emplace(path, platform::roughIdentityOf(path));
+  pictures.emplace(path, platform::identityIfSeen(path));
 }
 
 }  // namespace

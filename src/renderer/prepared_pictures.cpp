@@ -6,21 +6,8 @@
 #include "drawing/fitted_picture.h"
 #include "drawing/pictures.h"
 #include "drawing/surface.h"
-#include "platform/failure.h"
 
 namespace renderer {
-namespace {
-
-/// None also for a file that can't be looked at: such a picture isn't kept, and reading it tells why it isn't drawn.
-std::optional<platform::FileIdentity> identityOrNone(const QString& path) {
-  try {
-    return platform::identityOf(path);
-  } catch (const platform::Failure&) {
-    return std::nullopt;
-  }
-}
-
-}  // namespace
 
 PreparedPictures::Source PreparedPictures::sourceOf(const PictureWish& wish) {
   QImage picture = drawing::LoadPicture(wish.path);
@@ -49,7 +36,8 @@ PreparedPicture PreparedPictures::fitted(Source source, const PictureWish& wish)
 
 PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   constexpr qsizetype Overhead = 512;
-  const auto file = wish.identity ? wish.identity : identityOrNone(wish.path);
+  // A picture that can't be looked at isn't kept, and reading it tells why it isn't drawn.
+  const auto file = wish.identity ? wish.identity : platform::identityIfSeen(wish.path);
   if (!file) return fitted(sourceOf(wish), wish);
   const Key key{*file, wish.recoloring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
   if (const PreparedPicture* const kept = kept_.object(key)) return *kept;
@@ -58,7 +46,7 @@ PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
   }
   const bool settled = platform::isSettled(*file);
   Source source = sourceOf(wish);
-  const bool keeps = settled && identityOrNone(wish.path) == file;
+  const bool keeps = settled && platform::identityIfSeen(wish.path) == file;
   if (keeps && inHand) {
     source.picture = std::move(source.picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     holdUnscaled({*file, wish.recoloring, source});

@@ -24,12 +24,12 @@ void TrialFiles::beginFrame() {
 TrialFiles::SeenFile& TrialFiles::seen(const QString& file) {
   std::unique_ptr<SeenFile>& seen = files_[file];
   if (seen && seen->isOfThisFrame) return *seen;
-  const auto identity = platform::roughIdentityOf(file);
+  const auto identity = platform::identityIfSeen(file);
   if (!seen || !identity || seen->kept != identity) {
     const bool settled = identity && platform::isSettled(*identity);
     QByteArray bytes = themefiles::bytesOrNone(file);
     if (!seen || seen->bytes != bytes) seen = std::make_unique<SeenFile>(std::move(bytes));
-    seen->kept = settled && platform::roughIdentityOf(file) == identity ? identity : std::nullopt;
+    seen->kept = settled && platform::identityIfSeen(file) == identity ? identity : std::nullopt;
   }
   seen->isOfThisFrame = true;
   return *seen;

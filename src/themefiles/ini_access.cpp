@@ -45,6 +45,16 @@ QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 buf
   return keys.size() < bufferSize ? keys : keys.left(bufferSize - 2);
 }
 
+/// Sets the value in the file, in one turn, and gives the file's text.
+QByteArray put(const QString& Section, const QString& Key, const std::optional<QString>& Value,
+               const QString& FileName) {
+  platform::FileTurn turn(FileName);
+  const QByteArray text = turn.text().value_or(QByteArray());
+  const QByteArray changed = changedText(text, Section, Key, Value);
+  if (changed != text) turn.replace(changed);
+  return changed;
+}
+
 /// The value as it reads back from an ini file.
 std::optional<QByteArray> givenBack(const QByteArray& value) {
   return platform::findProfileValue("[s]\nk=" + value, "s", "k");
@@ -87,9 +97,7 @@ QString SectionReader::Value(const QString& Key, const QString& Default) const {
 
 void PutINI(const QString& Section, const QString& Key, const std::optional<QString>& Value, const QString& FileName) {
   try {
-    const QByteArray text = platform::readIfThere(FileName).value_or(QByteArray());
-    const QByteArray changed = changedText(text, Section, Key, Value);
-    if (changed != text) platform::writeFile(FileName, changed);
+    put(Section, Key, Value, FileName);
   } catch (const platform::Failure&) {
     // By its contract; putINIChecked reports.
   }
@@ -97,10 +105,7 @@ void PutINI(const QString& Section, const QString& Key, const std::optional<QStr
 
 void putINIChecked(const QString& Section, const QString& Key, const std::optional<QString>& Value,
                    const QString& FileName) {
-  const QByteArray text = platform::readIfThere(FileName).value_or(QByteArray());
-  const QByteArray changed = changedText(text, Section, Key, Value);
-  if (changed != text) platform::writeFile(FileName, changed);
-  checkReadsBack(changed, Section, Key, FileName);
+  checkReadsBack(put(Section, Key, Value, FileName), Section, Key, FileName);
 }
 
 QByteArray changedText(const QByteArray& text, const QString& Section, const QString& Key,

@@ -1,12 +1,8 @@
 #include "themefiles/kept_files.h"
 
-#include <algorithm>
-#include <utility>
-#include <vector>
+#include <optional>
 
 #include <QStringList>
-
-#include "platform/files.h"
 
 namespace themefiles {
 namespace {
@@ -19,27 +15,30 @@ QStringList keptNames(const QString& head) {
   return names;
 }
 
+/// A backup that is there already.
+struct Backup {
+  QString name;
+  qint64 written;
+};
+
 }  // namespace
 
-QString keepBeside(const QString& path, const QByteArray& bytes, QStringView ending) {
+QString keepBeside(const QString& path, const QByteArray& bytes, QStringView ending, const platform::OpenFile& like) {
   QString place;
-  std::vector<std::pair<qint64, QString>> others;
+  std::optional<Backup> oldest;
   for (const QString& name : keptNames(path + ending.toString())) {
-    const auto kept = platform::readIfThere(name, platform::AtLink::Replace);
-    if (kept == bytes) return name;
-    if (kept) {
-      others.emplace_back(platform::lastWritten(name), name);
-    } else if (place.isEmpty()) {
-      place = name;
+    const auto kept = platform::openIfThere(name, platform::AtLink::Replace);
+    if (!kept) {
+      if (place.isEmpty()) place = name;
+      continue;
     }
+    if (platform::bytesOf(*kept, name) == bytes) return name;
+    if (!oldest || kept->lastWritten() < oldest->written) oldest = {name, kept->lastWritten()};
   }
-  if (!place.isEmpty()) {
-    platform::writeFile(place, bytes, platform::AtLink::Replace);
-    return place;
-  }
-  place = std::min_element(others.begin(), others.end())->second;
-  platform::writeFile(place, bytes, platform::AtLink::Replace);
-  return QStringLiteral("%1 in place of the oldest of nine").arg(place);
+  const bool isFree = !place.isEmpty();
+  if (!isFree) place = oldest->name;
+  platform::FileTurn(place, platform::AtLink::Replace).replace(bytes, &like);
+  return isFree ? place : QStringLiteral("%1 in place of the oldest of nine").arg(place);
 }
 
 }  // namespace themefiles

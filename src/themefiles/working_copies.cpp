@@ -38,22 +38,37 @@ void noteOtherChanges(QStringList& notes, const QString& path, const QString& ke
   notes += QStringLiteral("%1 held other changes and is kept as %2").arg(path, kept);
 }
 
-std::optional<QByteArray> readCopy(const QString& copy) {
-  return platform::readIfThere(copy, platform::AtLink::Replace);
+platform::FileTurn turnAtCopy(const QString& copy) {
+  return platform::FileTurn(copy, platform::AtLink::Replace);
 }
 
-void writeCopy(const QString& copy, const QByteArray& bytes) {
-  platform::writeFile(copy, bytes, platform::AtLink::Replace);
+QString gameFileOf(const QString& copy) {
+  return copy.chopped(WorkingEnding.size());
 }
 
-/// Makes the working copy of a file and returns the contents.
-QByteArray makeCopy(const QString& file, QStringList& notes) {
+/// A working copy that was made, and what was there before.
+struct MadeCopy {
+  QString path;
+  QByteArray text;
+  std::optional<QByteArray> older;
+};
+
+/// Makes the working copy of a file.
+MadeCopy makeCopy(const QString& file, QStringList& notes) {
   const QString copy = file + WorkingEnding.toString();
-  const QByteArray bytes = platform::readFile(file);
-  const auto older = readCopy(copy);
-  if (older && older != bytes) noteOtherChanges(notes, copy, keepBeside(copy, *older, u".old"));
-  writeCopy(copy, bytes);
-  return bytes;
+  auto turn = turnAtCopy(copy);
+  const platform::OpenFile original = platform::openFile(file);
+  const QByteArray bytes = platform::bytesOf(original, file);
+  const auto& older = turn.text();
+  if (older && older != bytes) noteOtherChanges(notes, copy, keepBeside(copy, *older, u".old", *turn.present()));
+  turn.replace(bytes, &original);
+  return {copy, bytes, older};
+}
+
+/// Writes a working copy that is missing or empty. Nobody may read it who may not read the game's file.
+void makeAnew(platform::FileTurn& turn, const QString& copy, const QByteArray& text) {
+  const auto original = platform::openIfThere(gameFileOf(copy));
+  turn.replace(text, original ? &*original : nullptr);
 }
 
 /// The text that an edit or a Save starts from.
@@ -62,11 +77,12 @@ struct Start {
   bool isThere = true;  ///< the working copy has this text
 };
 
-/// Reads a working copy. If another program has changed it, what this program wrote last is kept: the next Save puts
-/// the other text in the game's file. If the copy is missing or empty, the result is what this program wrote last.
-Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
+/// Reads a working copy, in the turn at it. If another program has changed it, what this program wrote last is kept:
+/// the next Save puts the other text in the game's file. If the copy is missing or empty, the result is what this
+/// program wrote last.
+Start startFrom(const platform::FileTurn& turn, const ModuleState& state, size_t file, QStringList& notes) {
   const QString& copy = state.paths.*CopiedFiles.at(file);
-  const auto standing = readCopy(copy);
+  const auto& standing = turn.text();
   if (!state.ThemeOpened) return {standing.value_or(QByteArray()), standing.has_value()};
   const QByteArray& own = state.ownCopies.at(file);
   // Another program that rewrites the file may have emptied it for a moment.
@@ -79,7 +95,7 @@ Start startFrom(const ModuleState& state, size_t file, QStringList& notes) {
   }
   if (standing != own && !own.isEmpty()) {
     notes += QStringLiteral("%1 was changed by another program; what this one wrote is kept as %2")
-                 .arg(copy, keepBeside(copy, own, u".old"));
+                 .arg(copy, keepBeside(copy, own, u".old", *turn.present()));
   }
   return {*standing};
 }
@@ -90,67 +106,59 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
   const size_t file = copyNumber(copy);
   const QString& path = state.paths.*copy;
   telling(status, [&](QStringList& notes) {
-    const Start start = startFrom(state, file, notes);
+    auto turn = turnAtCopy(path);
+    const Start start = startFrom(turn, state, file, notes);
     const QByteArray changed = change(start.text);
-    if (!start.isThere || changed != start.text) writeCopy(path, changed);
+    if (!start.isThere) {
+      makeAnew(turn, path, changed);
+    } else if (changed != start.text) {
+      turn.replace(changed);
+    }
     state.ownCopies.at(file) = changed;
     for (const QString& key : keys) checkReadsBack(changed, section, key, path);
   });
 }
 
-/// Writes a text over the game's file. If another program has changed the file, its contents are kept.
-void saveCopy(const QString& file, const QByteArray& bytes, const QByteArray& knownDigest, QStringList& notes) {
-  const auto present = platform::readIfThere(file);
+/// Writes a text over the game's file. If another program has changed the file, its contents are kept. If the file is
+/// gone, the new one may be read by whoever may read the working copy.
+void saveCopy(const QString& file, const QByteArray& bytes, const QByteArray& knownDigest,
+              const platform::OpenFile* copy, QStringList& notes) {
+  platform::FileTurn turn(file);
+  const auto& present = turn.text();
   if (present && digest(*present) != knownDigest && present != bytes) {
-    noteOtherChanges(notes, file, keepBeside(file, *present, u".bak"));
+    noteOtherChanges(notes, file, keepBeside(file, *present, u".bak", *turn.present()));
   }
-  platform::writeFile(file, bytes);
+  turn.replace(bytes, present ? nullptr : copy);
 }
 
-/// A file and its former contents.
-struct KeptFile {
-  QString path;
-  QByteArray bytes;
-};
-
-/// The current working copies of the open theme, or none.
-std::vector<KeptFile> openCopies(const ModuleState& state) {
-  std::vector<KeptFile> copies;
-  if (!state.ThemeOpened) return copies;
-  for (const auto file : CopiedFiles) {
-    const QString& path = state.paths.*file;
-    if (auto bytes = readCopy(path)) copies.push_back({path, std::move(*bytes)});
-  }
-  return copies;
-}
-
-void putBack(const std::vector<KeptFile>& files) {
-  for (const KeptFile& file : files) {
-    if (readCopy(file.path) != file.bytes) writeCopy(file.path, file.bytes);
+/// Gives the working copies their former texts, except those that another program has changed since.
+void putBack(const std::vector<MadeCopy>& copies) {
+  for (const MadeCopy& copy : copies) {
+    if (!copy.older || copy.older == copy.text) continue;
+    auto turn = turnAtCopy(copy.path);
+    if (turn.text() == copy.text) turn.replace(*copy.older);
   }
 }
 
 }  // namespace
 
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status) {
-  std::array<QByteArray, CopiedFiles.size()> copies;
-  ThemePaths opened = chosen;
-  const std::vector<KeptFile> before = openCopies(state);
+  std::vector<MadeCopy> copies;
   telling(status, [&](QStringList& notes) {
     try {
-      for (size_t i = 0; i < CopiedFiles.size(); ++i) {
-        copies.at(i) = makeCopy(chosen.*CopiedFiles.at(i), notes);
-        opened.*CopiedFiles.at(i) += WorkingEnding.toString();
-      }
+      for (const auto file : CopiedFiles) copies.push_back(makeCopy(chosen.*file, notes));
     } catch (const platform::Failure&) {
-      putBack(before);
+      if (state.ThemeOpened) putBack(copies);
       throw;
     }
   });
-  state.paths = opened;
-  std::transform(copies.begin(), copies.end(), state.fileDigests.begin(), digest);
-  state.ownCopies = copies;
-  state.savedCopies = copies;
+  state.paths = chosen;
+  for (size_t i = 0; i < CopiedFiles.size(); ++i) {
+    state.paths.*CopiedFiles.at(i) = copies.at(i).path;
+    state.fileDigests.at(i) = digest(copies.at(i).text);
+    state.ownCopies.at(i) = copies.at(i).text;
+    state.savedCopies.at(i) = copies.at(i).text;
+  }
   state.ThemeOpened = true;
 }
 
@@ -184,9 +192,10 @@ void saveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
   telling(status, [&](QStringList& notes) {
     for (size_t i = 0; i < CopiedFiles.size(); ++i) {
       const QString& copy = state.paths.*CopiedFiles.at(i);
-      const Start start = startFrom(state, i, notes);
-      if (!start.isThere) writeCopy(copy, start.text);
-      saveCopy(copy.chopped(WorkingEnding.size()), start.text, state.fileDigests.at(i), notes);
+      auto turn = turnAtCopy(copy);
+      const Start start = startFrom(turn, state, i, notes);
+      if (!start.isThere) makeAnew(turn, copy, start.text);
+      saveCopy(gameFileOf(copy), start.text, state.fileDigests.at(i), turn.present(), notes);
       state.ownCopies.at(i) = start.text;
       state.fileDigests.at(i) = digest(start.text);
       state.savedCopies.at(i) = start.text;

@@ -103,6 +103,11 @@ WRAP(DIR*, opendir, List, nullptr, (const char* path), (path))
 WRAP(dirent*, readdir, List, nullptr, (DIR * folder), (folder))
 WRAP(int, fchmod, Own, -1, (int file, mode_t mode), (file, mode))
 WRAP(int, fchown, Own, -1, (int file, uid_t owner, gid_t group), (file, owner, group))
+WRAP(ssize_t, fgetxattr, Own, -1, (int file, const char* name, void* value, size_t size), (file, name, value, size))
+WRAP(ssize_t, flistxattr, Own, -1, (int file, char* names, size_t size), (file, names, size))
+WRAP(int, fsetxattr, Own, -1, (int file, const char* name, const void* value, size_t size, int flags),
+     (file, name, value, size, flags))
+WRAP(int, fremovexattr, Own, -1, (int file, const char* name), (file, name))
 WRAP(int, flock, Own, -1, (int file, int how), (file, how))
 WRAP(int, fsync, Flush, -1, (int file), (file))
 WRAP(int, rename, Rename, -1, (const char* from, const char* to), (from, to))
@@ -115,7 +120,7 @@ WRAP(int, closedir, Close, (__real_closedir(folder), errno = EIO, -1), (DIR * fo
 WRAP(int, __open_2, Open, -1, (const char* path, int flags), (path, flags))
 
 int __real_open(const char* path, int flags, ...);
-ssize_t __real_read(int file, void* bytes, size_t size);
+ssize_t __real_pread(int file, void* bytes, size_t size, off_t place);
 ssize_t __real_write(int file, const void* bytes, size_t size);
 
 int __wrap_open(const char* path, int flags, ...) {
@@ -126,13 +131,13 @@ int __wrap_open(const char* path, int flags, ...) {
   return fails((flags & O_CREAT) != 0 ? Kind::Make : Kind::Open) ? -1 : __real_open(path, flags, mode);
 }
 
-ssize_t __wrap_read(int file, void* bytes, size_t size) {
+ssize_t __wrap_pread(int file, void* bytes, size_t size, off_t place) {
   const Fault fault = next(Kind::Read);
   if (fault == Fault::Error) {
     errno = EIO;
     return -1;
   }
-  return __real_read(file, bytes, fault == Fault::Short ? std::max<size_t>(size / 2, 1) : size);
+  return __real_pread(file, bytes, fault == Fault::Short ? std::max<size_t>(size / 2, 1) : size, place);
 }
 
 ssize_t __wrap_write(int file, const void* bytes, size_t size) {

@@ -5,16 +5,28 @@
 #include <stdexcept>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <QDir>
 #include <QTest>
 
 #include "drawing/pictures.h"
+#include "platform/code_page.h"
 #include "platform/failure.h"
 #include "support/panel.h"
 
 using namespace platform;
+
+namespace {
+
+constexpr char AccessList[] = "system.posix_acl_access";
+/// The owner reads and writes, user 1234 reads, nobody else.
+constexpr char ForSomeone[] =
+    "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\4\0\xD2\4\0\0\4\0\0\0\xFF\xFF\xFF\xFF"
+    "\x10\0\4\0\xFF\xFF\xFF\xFF\x20\0\0\0\xFF\xFF\xFF\xFF";
+
+}  // namespace
 using namespace Qt::StringLiterals;
 
 class FilesTest : public QObject {
@@ -70,6 +82,51 @@ class FilesTest : public QObject {
     }
   }
 
+  /// The modes of a file that somebody else owns, with a list of who may read it or without, and of a copy of it.
+  void copiesAreForNobodyElse() {
+    if (::geteuid() != 0) QSKIP("only the superuser can try");
+    const QByteArray name = folder_->native(u"a.ini"_s).toUtf8();
+    const QByteArray copy = name + ".tmp";
+    const QByteArray folder = folder_->native(u"."_s).toUtf8();
+    constexpr uid_t Someone = 1234;
+    // The superuser's copy has owner, group and list as well; Someone isn't in the group and drops what it permits.
+    for (const auto& [mode, list, supers, someones] : {std::tuple{0600, false, 0600, 0},
+                                                       {0444, false, 0644, 0644},
+                                                       {0664, false, 0664, 0644},
+                                                       {0640, true, 0640, 0600}}) {
+      folder_->put(u"a.ini"_s, "text");
+      QVERIFY(::chown(name, 1, 1) == 0 && ::chmod(name, mode_t(mode)) == 0 && ::chmod(folder, 0777) == 0);
+      if (list && ::setxattr(name, AccessList, ForSomeone, sizeof(ForSomeone) - 1, 0) != 0) QSKIP("no lists here");
+      for (const auto& [user, expected] : {std::pair{uid_t(0), supers}, {Someone, someones}}) {
+        if (expected == 0) continue;
+        ::unlink(copy);
+        QVERIFY(::setegid(user) == 0 && ::seteuid(user) == 0);
+        const OpenFile model = openFile(at(u"a.ini"_s));
+        FileTurn(at(u"a.ini.tmp"_s), AtLink::Replace).replace("copy", &model);
+        struct stat status;
+        QVERIFY(::seteuid(0) == 0 && ::setegid(0) == 0 && ::stat(copy, &status) == 0);
+        QCOMPARE(std::pair(int(status.st_mode & 07777), status.st_uid), std::pair(expected, user == 0 ? 1 : user));
+        char there[sizeof(ForSomeone)];
+        QCOMPARE(::getxattr(copy, AccessList, there, sizeof(there)) > 0, list && user == 0);
+      }
+    }
+    FileTurn(at(u"b.ini.tmp"_s), AtLink::Replace).replace("of nothing");
+    QCOMPARE(QFile::permissions(folder_->native(u"b.ini.tmp"_s)) & 0x77, QFile::Permissions());
+  }
+
+  void keepsListAndAttributes() {
+    folder_->put(u"a.ini"_s, "old");
+    const QByteArray name = folder_->native(u"a.ini"_s).toUtf8();
+    char there[sizeof(ForSomeone)] = {};
+    const bool lists = ::setxattr(name, AccessList, ForSomeone, sizeof(ForSomeone) - 1, 0) == 0;
+    const bool notes = ::setxattr(name, "user.note", "mine", 4, 0) == 0;
+    if (!lists || !notes) QSKIP("no such attributes here");
+    writeFile(at(u"a.ini"_s), "new");
+    QCOMPARE(::getxattr(name, "user.note", there, sizeof(there)), 4);
+    QCOMPARE(::getxattr(name, AccessList, there, sizeof(there)), qsizetype(sizeof(ForSomeone) - 1));
+    QVERIFY(std::equal(std::begin(there), std::end(there), ForSomeone) && folder_->get(u"a.ini"_s) == "new");
+  }
+
   void onlyRegularFilesAreFiles() {
     QVERIFY(::mkfifo(folder_->native(u"pipe"_s).toUtf8(), 0666) == 0);
     QDir(folder_->native({})).mkdir(u"sub"_s);
@@ -96,7 +153,7 @@ class FilesTest : public QObject {
         QFile::link(target, folder_->native(name));
       }
       QVERIFY(!readIfThere(at(u"a.tmp"_s), AtLink::Replace));
-      writeFile(at(u"a.tmp"_s), "new", AtLink::Replace);
+      FileTurn(at(u"a.tmp"_s), AtLink::Replace).replace("new");
       QVERIFY(!QFileInfo(folder_->native(u"a.tmp"_s)).isSymbolicLink() && folder_->get(u"a.tmp"_s) == "new");
       QCOMPARE(folder_->get(u"mine"_s), QByteArray("mine"));
       QCOMPARE(entries(), (QStringList{u"a.tmp"_s, u"mine"_s}));
@@ -137,6 +194,13 @@ class FilesTest : public QObject {
     QVERIFY(folderHoldsFiles(at({})));
     QVERIFY(!folderHoldsFiles(at({}).chopped(1)));
     QCOMPARE(listFiles(at({}), u".ini"_s), (QStringList{u"a.Ini"_s, u"B.INI"_s, u"b.ini"_s, u"_.ini"_s}));
+    // A name that isn't UTF-8.
+    const QByteArray old = folder_->native(u"caf"_s).toUtf8() + "\xE9.ini";
+    QVERIFY(::rename(folder_->native(u"a.Ini"_s).toUtf8(), old) == 0);
+    const QString listed = listFiles(at({}), u".ini"_s).value(2);
+    writeFile(at(upperCase(listed)), "new");
+    QCOMPARE(listFiles(at({}), u".ini"_s), (QStringList{u"B.INI"_s, u"b.ini"_s, listed, u"_.ini"_s}));
+    QVERIFY(readFile(at(listed)) == "new" && ::unlink(old) == 0);
   }
 
   void nativePaths() {

@@ -1,9 +1,15 @@
 #include "themefiles/working_copies.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <QTest>
 
 #include "platform/failure.h"
 #include "support/panel.h"
+#include "themefiles/ini_access.h"
 
 using namespace themefiles;
 using namespace support;
@@ -102,6 +108,59 @@ class WorkingCopiesTest : public QObject {
     for (int number = 2; number <= 9; ++number) kept += game.folder.get(old + u".%1"_s.arg(number));
     QCOMPARE(kept, QByteArray("1013456789"));
     QVERIFY(!game.folder.has(old + u".10"_s));
+  }
+
+  /// Several programs on one theme, all at once: each edits the theme, stores a setting, and saves.
+  void noEditOfSeveralProgramsVanishes() {
+    constexpr int Programs = 3;
+    constexpr int Edits = 12;
+    Game game;
+    game.folder.put(Theme, "[S]\r\n");
+    const QString config = game.folder.path(u"config.ini"_s);
+    QVERIFY(game.open());
+    int gate[2] = {};
+    QVERIFY(::pipe(gate) == 0);
+    for (int program = 0; program < Programs; ++program) {
+      if (::fork() != 0) continue;
+      ::close(gate[1]);
+      char none = 0;
+      bool done = ::read(gate[0], &none, 1) == 0;  // until all are there
+      for (int edit = 0; edit < Edits && done; ++edit) {
+        const QString key = u"p%1e%2"_s.arg(program).arg(edit);
+        done = platform::guarded(game.panel, QString(), [&] {
+          putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, key, key, game.panel);
+          putINIChecked(u"S"_s, key, key, config);
+        });
+        done = done && (edit % 4 != program || game.save());
+      }
+      if (!done) qWarning("%s", qPrintable(game.panel.texts.join(u"; "_s)));
+      ::_exit(done ? 0 : 1);
+    }
+    ::close(gate[0]);
+    ::close(gate[1]);
+    for (int program = 0; program < Programs; ++program) {
+      int status = -1;
+      QVERIFY(::wait(&status) > 0 && status == 0);
+    }
+    QVERIFY(game.save());
+    for (const QString& name : {Theme, Theme + Copy, u"config.ini"_s}) {
+      const QByteArray text = game.folder.get(name);
+      QCOMPARE(text.count("=p"), Programs * Edits);
+    }
+  }
+
+  void anotherProgramsTurn() {
+    Game game;
+    QVERIFY(game.open());
+    game.folder.put(Theme + Copy, "by another hand");
+    game.folder.put(Theme + u".tmp.unfinished"_s, {});
+    const int other = ::open(game.folder.native(Theme + u".tmp.unfinished"_s).toUtf8(), O_RDONLY);
+    QVERIFY(::flock(other, LOCK_EX) == 0);
+    const auto edit = [&] { putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, u"k"_s, u"v"_s, game.panel); };
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, edit());
+    QVERIFY(game.folder.get(Theme + Copy) == "by another hand" && !game.folder.has(Theme + u".tmp.old"_s));
+    QVERIFY(game.state.ownCopies[0] == Bytes && game.panel.texts.isEmpty());
+    ::close(other);
   }
 
   void linksAtTheNamesOfCopies() {
