@@ -27,9 +27,9 @@ bool isSystemFolder(const QString& folder) {
                      [&](QStringView head) { return native.startsWith(head, Qt::CaseInsensitive); });
 }
 
-/// Whether the program is installed, wherever that is: its data then lies in a folder beside the program's.
-bool isInstalled(const QString& programFolder) {
-  return QDir(programFolder + QStringLiteral("/../share/cantorama-theme-edit")).exists();
+/// Whether the folder is that of an installed program, wherever that is: its data then lies in a folder beside it.
+bool isInstalled(const QString& folder) {
+  return QDir(platform::nativePath(folder) + QStringLiteral("/../share/cantorama-theme-edit")).exists();
 }
 
 /// A folder's path as UTF-8 bytes, each byte one letter of the code page.
@@ -44,9 +44,10 @@ ConfigFile::ConfigFile(const QStringList& folders) {
     const QString path = folder + QStringLiteral("\\config.ini");
     try {
       if (!platform::readIfThere(path)) {
-        if (isSystemFolder(folder)) continue;
+        if (isSystemFolder(folder) || isInstalled(folder)) continue;
         QDir().mkpath(platform::nativePath(folder));  // the making of the file tells if that failed
-        platform::writeFile(path, FirstContent);
+        platform::FileTurn turn(path);
+        if (!turn.text()) turn.replace(FirstContent);
       }
     } catch (const platform::Failure& failure) {
       problem_ = failure.description();
@@ -79,10 +80,8 @@ void ConfigFile::setGameFolder(const QString& folder) {
 }
 
 QStringList configFolders() {
-  QStringList folders;
-  const QString program = QCoreApplication::applicationDirPath();
-  if (!isInstalled(program)) folders += platform::programPath(program);
-  return folders << platform::programPath(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation));
+  return {platform::programPath(QCoreApplication::applicationDirPath()),
+          platform::programPath(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation))};
 }
 
 }  // namespace mainwindows

@@ -10,8 +10,8 @@ namespace mainwindows {
 class ConfigFile {
  public:
   /// Looks for the file in the folders, first to last, and makes it in the first that takes it: the two lines
-  /// "[Setup]" and "EXEDirectory=". A folder is made only for that. Folders of a system's programs are passed over
-  /// unless the file is there already.
+  /// "[Setup]" and "EXEDirectory=". A folder is made only for that. Folders of a system's programs, and that of an
+  /// installed program, are passed over unless the file is there already.
   explicit ConfigFile(const QStringList& folders);
 
   /// Path of the file; empty when no folder took it.
@@ -33,7 +33,7 @@ class ConfigFile {
   QString folderOfThisRun_;
 };
 
-/// The program's folder, unless the program is installed, then the user's configuration folder.
+/// The program's folder, then the user's configuration folder.
 QStringList configFolders();
 
 }  // namespace mainwindows

@@ -46,6 +46,16 @@ class ConfigFileTest : public QObject {
     QVERIFY(!ConfigFile({u"\\dev\\null\\at all"_s}).problem().isEmpty());
   }
 
+  void installedPrograms() {
+    const Folder place;
+    for (const QString& sub : {u"bin"_s, u"share/cantorama-theme-edit"_s}) QDir(place.native({})).mkpath(sub);
+    const QStringList folders{place.path(u"bin"_s), place.path(u"users"_s)};
+    QCOMPARE(ConfigFile(folders).path(), folders[1] + u"\\config.ini"_s);
+    QVERIFY(!place.has(u"bin/config.ini"_s));
+    place.put(u"bin/config.ini"_s, {});
+    QCOMPARE(ConfigFile(folders).path(), folders[0] + u"\\config.ini"_s);
+  }
+
   void folderOutsideTheCodePage() {
     for (const auto& [name, stored] :
          {std::pair{u"M\u00fcller"_s, "M\xfcller"}, {u"\u6b4c \u00fc"_s, "\xe6\xad\x8c \xc3\xbc"}}) {
