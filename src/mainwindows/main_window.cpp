@@ -115,9 +115,14 @@ void Form1::placeControls() {
     QWidget* control;
     const char* name;
     const char* spoken;  // what a screen reader calls it
-  } names[] = {{Workspace, "Workspace", "Preview"},   {ToolBar, "ToolBar", "Commands"},
-               {StatusBar, "StatusBar", "Status"},    {Combo1, "Combo1", "Color scheme"},
-               {Combo2, "Combo2", "Selected button"}, {ProgressBar1, "ProgressBar1", "Progress of the drawing"}};
+  } names[] = {{Workspace, "Workspace", "Preview"},
+               {ToolBar, "ToolBar", "Commands"},
+               {StatusBar, "StatusBar", "Status"},
+               {Combo1, "Combo1", "Color scheme"},
+               {Combo2, "Combo2", "Selected button"},
+               {ProgressBar1, "ProgressBar1", "Progress of the drawing"},
+               {Label1, "Label1", ""},
+               {Label2, "Label2", ""}};
   for (const auto& [control, name, spoken] : names) {
     control->setObjectName(QLatin1StringView(name));
     controls::setSpokenName(*control, QLatin1StringView(spoken));

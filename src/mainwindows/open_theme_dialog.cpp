@@ -37,6 +37,13 @@ Form3::Form3(QString gameFolder, const QStringList& themes, std::function<bool(c
       gameFolder_(std::move(gameFolder)),
       open_(std::move(open)) {
   setObjectName(QStringLiteral("Form3"));
+  const struct {
+    QWidget* control;
+    const char* name;
+  } names[] = {{List1, "List1"},   {List2, "List2"},       {Label4, "Label4"},
+               {Label5, "Label5"}, {Label9, "Label9"},     {Label10, "Label10"},
+               {Combo1, "Combo1"}, {Command1, "Command1"}, {Command2, "Command2"}};
+  for (const auto& [control, name] : names) control->setObjectName(QLatin1StringView(name));
   label(QStringLiteral("Choose your Theme:"), 120, 120, 2295);
   label(QStringLiteral("Name:"), 120, 2880, 615);
   label(QStringLiteral("Creator:"), 120, 3120, 615);

@@ -48,6 +48,7 @@ Workspace::Workspace(QWidget* parent)
   QAccessible::installFactory(makeInterface);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(BlinkInterval);
   connect(&timer1_, &QTimer::timeout, this, &Workspace::Timer1_Timer);
 }

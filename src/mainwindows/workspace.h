@@ -62,7 +62,7 @@ class Workspace : public QWidget, public renderer::CursorMark {
 
   drawing::Surface surface_;
   controls::FramePacer pacer_;
-  QTimer timer1_;
+  QTimer timer1_{this};
   QRectF mark_;
   bool markVisible_ = false;
   bool blinkPhase_ = false;

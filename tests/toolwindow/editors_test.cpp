@@ -148,22 +148,6 @@ class EditorsTest : public ProgramTest {
     QCOMPARE(tools.Text4->Text(), u"1.2.3"_s);
   }
 
-  // 15 twips a pixel: 3105, 3835 and 4235 twips less the frame's 360.
-  void windowFollowsTheEditor() {
-    const Form2& tools = program->tools();
-    const QRect lists = tools.List1->geometry();
-    for (const auto& [key, height] : {std::pair{"X", 232}, {"TEXT", 258}, {"ColR", 183}, {"Z", 232}, {"", 183}}) {
-      // What is hidden gives its focus to the grid.
-      tools.Command1->setFocus();
-      *key == 0 ? program->tag(Static) : program->soleRow(QLatin1StringView(key), u"1"_s);
-      settle();
-      if (height == 183) QCOMPARE(tools.focusWidget(), tools.ListView1);
-      QCOMPARE(tools.height(), height);
-      QVERIFY(tools.Command1->isVisible() == (height > 183) && program->state.EditorShown == (height > 183));
-      QCOMPARE(tools.List1->geometry(), lists);
-    }
-  }
-
   void update() {
     const Form2& tools = program->tools();
     program->tag(Static);

@@ -1,0 +1,225 @@
+#include <QAccessible>
+#include <QHeaderView>
+#include <QLineEdit>
+
+#include "controls/assets.h"
+#include "controls/look.h"
+#include "support/results.h"
+#include "support/windows.h"
+
+using namespace support;
+using mainwindows::Form3;
+
+namespace {
+
+/// The name of the compiled-in picture that an icon shows.
+QString assetOf(const QIcon& icon) {
+  constexpr QSize Size(16, 16);
+  if (icon.isNull()) return {};
+  for (const QString& file : QDir(u":/assets"_s).entryList({u"*.png"_s})) {
+    const QIcon asset = controls::assetIcon(file.chopped(4));
+    if (asset.pixmap(Size).toImage() == icon.pixmap(Size).toImage()) return u"icon "_s + file.chopped(4);
+  }
+  return u"another icon"_s;
+}
+
+/// What the control says: its caption, its text, or what is chosen and how many there are.
+QString textOf(const QWidget& control) {
+  if (const auto* combo = qobject_cast<const QComboBox*>(&control)) {
+    return u"%1 (%2, %3 at a time)"_s.arg(combo->currentText()).arg(combo->count()).arg(combo->maxVisibleItems());
+  }
+  if (const auto* list = qobject_cast<const controls::ListBox*>(&control)) {
+    return u"%1 (%2)"_s.arg(list->Text()).arg(list->ListCount());
+  }
+  if (const auto* grid = qobject_cast<const QTreeWidget*>(&control)) {
+    QStringList columns;
+    for (int i = 0; i < grid->columnCount(); ++i) {
+      columns += grid->headerItem()->text(i) + u' ' + QString::number(grid->columnWidth(i));
+    }
+    return u"%1 (%2)"_s.arg(columns.join(u", ")).arg(grid->topLevelItemCount());
+  }
+  if (const auto* button = qobject_cast<const QPushButton*>(&control)) {
+    return button->text() + assetOf(button->icon()) + (button->isDefault() ? u" (default)"_s : QString());
+  }
+  if (const auto* label = qobject_cast<const QLabel*>(&control)) return label->text();
+  if (const auto* edit = qobject_cast<const QLineEdit*>(&control)) return edit->text();
+  if (const auto* box = qobject_cast<const QGroupBox*>(&control)) return box->title();
+  return control.isWindow() ? control.windowTitle() : QString();
+}
+
+QString fontOf(const QWidget& control) {
+  const QFontInfo font(control.font());
+  return u"%1 %2 %3"_s.arg(font.family()).arg(font.pixelSize()).arg(font.weight());
+}
+
+/// What a screen reader calls the control, unless that is its text.
+QString spokenName(QWidget& control, QString text) {
+  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&control);
+  const QString name = spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
+  return name == text.remove(u'&') ? QString() : name;
+}
+
+/// Whether what is inside the control is the toolkit's own.
+bool isWhole(const QWidget& control) {
+  return control.inherits("QComboBox") || control.inherits("QAbstractItemView") ||
+         control.inherits("QAbstractSlider") || control.inherits("toolbar::McToolBar");
+}
+
+/// The table of a window: a line for each control, in the order in which they lie over each other. Behind its number in
+/// the order of Tab a star is the focus.
+class Table {
+ public:
+  explicit Table(QWidget& window) {
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+      if ((next->focusPolicy() & Qt::TabFocus) != 0 && !next->objectName().startsWith(u"qt_")) tabs_ += next;
+    }
+    addControl(window, {});
+    const auto* bar = window.findChild<toolbar::McToolBar*>();
+    for (int button = 1; bar != nullptr && button <= bar->Button_Count(); ++button) {
+      const auto value = [&](int property) { return bar->GetButtonValue(button, property); };
+      addLine({u"  ToolBar %1"_s.arg(button),
+               {},
+               {},
+               {},
+               {},
+               state(true, value(toolbar::EnabledProperty).toBool()),
+               value(toolbar::CaptionProperty).toString(),
+               value(toolbar::ToolTipTextProperty).toString(),
+               {}});
+    }
+  }
+
+  QStringList lines;
+
+  void addLine(const QStringList& cells) {
+    constexpr int Widths[] = {26, 9, 9, 24, 5, 18, 42, 18, 0};
+    const QRegularExpression time(u"\\[\\d\\d:\\d\\d:\\d\\d\\]"_s), endOfLine(u" +$"_s);
+    QString line;
+    for (qsizetype cell = 0; cell < cells.size(); ++cell) line += cells[cell].leftJustified(Widths[cell] - 2) + u"  "_s;
+    lines += line.replace(time, u"[HH:mm:ss]"_s).remove(endOfLine);
+  }
+
+ private:
+  static QString state(bool shown, bool enabled) {
+    return (shown ? u"shown"_s : u"hidden"_s) + (enabled ? u""_s : u", disabled"_s);
+  }
+  void addControl(QWidget& control, const QString& indent) {
+    const QRect place = control.geometry();
+    const QString text = textOf(control);
+    const QString font = fontOf(control);
+    const bool isWindow = control.isWindow();
+    addLine({indent + (control.objectName().isEmpty() ? u"-"_s : control.objectName()),
+             isWindow ? QString() : u"%1,%2"_s.arg(place.x()).arg(place.y()),
+             u"%1x%2"_s.arg(place.width()).arg(place.height()),
+             isWindow || font != fontOf(*control.parentWidget()) ? font : QString(),
+             (tabs_.contains(&control) ? QString::number(tabs_.indexOf(&control) + 1) : QString()) +
+                 (control.window()->focusWidget() == &control ? u"*"_s : QString()),
+             state(control.isVisible(), control.isEnabled()), text, control.toolTip(), spokenName(control, text)});
+    if (isWhole(control)) return;
+    for (QObject* child : control.children()) {
+      const QString name = child->objectName();
+      const auto* timer = qobject_cast<const QTimer*>(child);
+      if (timer != nullptr && !name.isEmpty())
+        addLine({indent + u"  "_s + name, QString::number(timer->interval()), u"ms"_s});
+      auto* inside = qobject_cast<QWidget*>(child);
+      const bool isBar = name.startsWith(u"qt_scrollarea_h") || name.startsWith(u"qt_scrollarea_vc");
+      if (inside != nullptr && !inside->isWindow() && !isBar) addControl(*inside, indent + u"  "_s);
+    }
+  }
+
+  QWidgetList tabs_;
+};
+
+/// A window in one state after the other as a text: the whole table first, then the lines that became different.
+class States {
+ public:
+  void add(const QString& state, QWidget& window) {
+    settle();
+    Table table(window);
+    lines += QStringList{u""_s, u"== "_s + state};
+    if (before_.isEmpty()) {
+      Table head(window);
+      head.lines.clear();
+      head.addLine(
+          {u"control"_s, u"place"_s, u"size"_s, u"font"_s, u"tab"_s, u"state"_s, u"text"_s, u"tip"_s, u"spoken"_s});
+      lines += head.lines;
+    }
+    for (qsizetype line = 0; line < table.lines.size(); ++line) {
+      if (before_.value(line) != table.lines[line]) lines += table.lines[line];
+    }
+    before_ = table.lines;
+  }
+
+  QStringList lines;
+
+ private:
+  QStringList before_;
+};
+
+}  // namespace
+
+/// Every control of the three forms in all their states, against the tables kept.
+class FormsTest : public ProgramTest {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  void initTestCase() { controls::applyLook(*qApp); }
+
+  void mainWindow() {
+    States states;
+    const Program fresh(*game);
+    states.add(u"at the start"_s, fresh.form);
+    comparePicture(u"toolbar at the start.png"_s, fresh.form.ToolBar->grab().toImage());
+    states.add(u"with a theme"_s, program->form);
+    program->edit();
+    states.add(u"after an edit"_s, program->form);
+    comparePicture(u"toolbar after an edit.png"_s, program->form.ToolBar->grab().toImage());
+    program->screen(u"Main Screen"_s);
+    states.add(u"a screen without buttons"_s, program->form);
+    program->click(2);
+    states.add(u"saved"_s, program->form);
+    program->click(3);
+    states.add(u"after Close"_s, program->form);
+    compareText(u"Form1.txt"_s, states.lines);
+  }
+
+  void toolWindow() {
+    toolwindow::Form2& tools = program->tools();
+    const QPoint place = tools.pos() - program->form.pos();
+    States states;
+    states.add(u"opened, at %1,%2 of the main window"_s.arg(place.x()).arg(place.y()), tools);
+    program->tag(u"LoadingButtonGo"_s);
+    states.add(u"a button chosen"_s, tools);
+    const auto edit = [&](const QString& row, const QSize& size = {}) {
+      tools.Command1->setFocus();  // what is hidden gives its focus to the grid
+      program->soleRow(row.section(u'=', 0, 0), row.section(u'=', 1));
+      if (!size.isEmpty()) tools.resize(size);
+      states.add(row + (size.isEmpty() ? u""_s : u", window made %1x%2"_s.arg(size.width()).arg(size.height())), tools);
+    };
+    for (const char* row : {"X=12", "Z=1.5", "Align=1", "Color=Red", "Tex=Plate", "Text=HELLO", "ColR=1"}) {
+      edit(QLatin1StringView(row));
+    }
+    edit(u"ColR=1"_s, {459, 309});
+    edit(u"Tex=Plate"_s, {550, 400});
+    edit(u"Text=HELLO"_s, {325, 232});
+    edit(u"X=12"_s, {325, 69});   // too low for the lists
+    edit(u"X=12"_s, {252, 232});  // too narrow for the editors
+    edit(u"ColR=1"_s, {40, 20});
+    compareText(u"Form2.txt"_s, states.lines);
+  }
+
+  void openDialog() {
+    game->put(u"Themes/Beta without a skin.ini"_s, "[Theme]\nName=Beta, which has a name of many letters\n");
+    States states;
+    program->openDialog([&](Form3& dialog) {
+      states.add(u"comes up"_s, dialog);
+      dialog.List1->SetListIndex(1);
+      states.add(u"a theme without a skin"_s, dialog);
+      dialog.reject();
+    });
+    compareText(u"Form3.txt"_s, states.lines.replaceInStrings(game->path(), u"GAME"_s));
+  }
+};
+
+QTEST_MAIN(FormsTest)
+#include "forms_test.moc"
