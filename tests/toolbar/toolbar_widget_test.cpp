@@ -1,14 +1,18 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLineEdit>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
+#include "controls/look.h"
 #include "mainwindows/commands.h"
 #include "mainwindows/main_window_tool_bar.h"
 #include "propertybag/stored_bytes.h"
 #include "support/mouse.h"
+#include "support/results.h"
 #include "toolbar/mc_toolbar.h"
+#include "toolbar/tip_window.h"
 
 using toolbar::McToolBar;
 using toolbar::Properties;
@@ -49,6 +53,8 @@ class WidgetTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  void initTestCase() { controls::applyLook(*qApp); }
+
   void valuesOfAButtonByNumber() {
     McToolBar bar(toolbar::ambientOf(nullptr), nullptr);
     bar.UserControl_ReadProperties({});
@@ -91,6 +97,9 @@ class WidgetTest : public QObject {
       QWidget& popup = *form.bar.popupWindow();
       QVERIFY(popup.isVisible());
       QCOMPARE(popup.geometry().topLeft(), form.bar.mapToGlobal(QPoint(80 - 68, 33)));
+      support::moveMouse(popup, {40, 5}, {});
+      support::comparePicture(QStringLiteral("popup.png"), popup.grab().toImage());
+      support::comparePicture(QStringLiteral("below the popup.png"), form.bar.grab().toImage());
       QTest::mouseClick(&popup, Qt::LeftButton, {}, {5, 5});
       QTest::mouseClick(&popup, Qt::LeftButton, {}, {40, 5});
       QCOMPARE(numbers(form.clicks), QStringLiteral("4"));
@@ -153,6 +162,34 @@ class WidgetTest : public QObject {
     QCOMPARE(tip()->grab().toImage().pixelColor(0, 0).alpha(), 0);  // a balloon needs no mask to have its shape
     QTest::mouseMove(&form.bar, {6, 5});
     QTRY_VERIFY(!tip());
+  }
+
+  void looksOfTips_data() {
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<int>("icon");
+    QTest::addColumn<bool>("balloon");
+    QTest::addColumn<QPoint>("pointer");
+    QTest::addRow("balloon") << QStringLiteral("A title") << 1 << true << QPoint(100, 100);
+    QTest::addRow("balloon above") << QString() << 0 << true << QPoint(780, 795);
+    QTest::addRow("rectangle") << QStringLiteral("Another & title") << 3 << false << QPoint(5, 100);
+    QTest::addRow("rectangle above") << QStringLiteral("A title") << 0 << false << QPoint(100, 795);
+  }
+
+  void looksOfTips() {
+    QFETCH(QString, title);
+    QFETCH(int, icon);
+    QFETCH(bool, balloon);
+    QFETCH(QPoint, pointer);
+    QWidget form;
+    const QString text = QStringLiteral(
+        "<b>words</b> in one line, or in two where there are more of them than fit into the width of a tip");
+    toolbar::TipWindow tip({text, title, icon, balloon, 0xE6FDFD, 0x800000}, &form);
+    tip.showAt(pointer);
+    support::comparePicture(QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(".png"),
+                            tip.grab().toImage());
+    const QPoint corner = tip.pos() - pointer;
+    QCOMPARE(corner.y() < 0, pointer.y() > 700);
+    QVERIFY(tip.screen()->availableGeometry().contains(tip.geometry()));
   }
 
   void damagedBagLeavesTheDefaults() {

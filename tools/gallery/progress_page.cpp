@@ -61,20 +61,31 @@ void third(ProgressBar& bar) {
   bar.SetValue(1);
 }
 
+void percentOf200(ProgressBar& bar) {
+  bar.SetMax(200);
+  bar.SetMin(1);
+  bar.set(&progressbar::Properties::TextStyle, 2);
+}
+
 const QList<Row>& rows() {
-  static const QList<int> themes = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+  static const QList<int> themes = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
   static const QList<int> effects = {1, 2, 3, 4, 5, 6};
   static const QList<Row> all = {
       {u"Theme", &progressbar::Properties::Theme, themes, Wide},
       {u"Theme, disabled", &progressbar::Properties::Theme, themes, Wide, disabled},
       {u"Theme, vertical", &progressbar::Properties::Theme, themes, Tall, vertical},
       {u"Theme, vertical, disabled", &progressbar::Properties::Theme, themes, Tall, verticalDisabled},
+      {u"Theme, 9 x 10", &progressbar::Properties::Theme, themes, QSize(9, 10)},
+      {u"Theme, 4 x 5", &progressbar::Properties::Theme, themes, QSize(4, 5)},
+      {u"Theme, 4 x 7, vertical", &progressbar::Properties::Theme, themes, QSize(7, 4), vertical},
       {u"TextEffect", &progressbar::Properties::TextEffect, effects, Broad, large},
       {u"TextEffect, disabled", &progressbar::Properties::TextEffect, effects, Broad, largeDisabled},
-      {u"TextAlignment", &progressbar::Properties::TextAlignment, {1, 2, 3, 4, 5, 6, 7, 8, 9}, QSize(120, 34)},
+      {u"TextAlignment", &progressbar::Properties::TextAlignment, {1, 2, 3, 4, 5, 6, 7, 8, 9, 10}, QSize(109, 35)},
       {u"TextStyle", &progressbar::Properties::TextStyle, {1, 2, 3, 4}, Broad, third},
       {u"Value", &progressbar::Properties::Value, {0, 1, 33, 50, 99, 100}, Broad},
+      {u"Value, of 200", &progressbar::Properties::Value, {1, 2, 67, 200}, Broad, percentOf200},
       {u"RoundedValue", &progressbar::Properties::RoundedValue, {0, 2, 3, 6, 10, 20, 40, 100}, QSize(140, 40)},
+      {u"RoundedValue, 11 x 9", &progressbar::Properties::RoundedValue, {0, 2, 3, 6, 10, 20}, QSize(11, 9)},
       {u"Orientations", &progressbar::Properties::Orientations, {1, 2, 3}, Broad},
   };
   return all;

@@ -20,6 +20,7 @@ using toolbar::McToolBar;
 using toolbar::Model;
 
 constexpr int Hovered = 2;
+constexpr int Pressed = 3;
 constexpr int ButtonWidth = 84;
 constexpr int ButtonHeight = 44;
 
@@ -45,6 +46,31 @@ void fill(Model& model) {
   model.SetButtonValue(5, toolbar::ButtonTypeProperty, 1);
 }
 
+/// The buttons in two rows on a frame, with ramps: those of the first row and column have none in modes 0 to 3.
+void fillRows(Model& model, int mode) {
+  model.setValue(&toolbar::Properties::ButtonsMode, mode);
+  model.setValue(&toolbar::Properties::ButtonsPerRow, 3);
+  model.setValue(&toolbar::Properties::BorderStyle, qint16(mode % 3));
+  model.setValue(&toolbar::Properties::ButtonsBackColor, 0xC08040U);
+  model.setValue(&toolbar::Properties::ButtonsGradientCol, 0x40F0F0U);
+  model.setValue(&toolbar::Properties::ButtonsGradient, 3);
+  model.setValue(&toolbar::Properties::HoverColor, 0x40C0FFU);
+  model.setValue(&toolbar::Properties::ForeColor, 0x0000C0U);
+}
+
+/// Icons of so many pixels in a row, with a clear one: greyed they show what the bytes between rows do.
+void fillWithOddIcons(Model& model) {
+  model.setValue(&toolbar::Properties::Enabled, false);
+  for (int width = 1; width <= model.Button_Count(); ++width) {
+    QImage icon(width, 9, QImage::Format_ARGB32);
+    for (int i = 0; i < width * 9; ++i) {
+      icon.setPixel(i % width, i / width, i == 2 ? 0U : qRgb(i * 20 % 256, 255 - i * 28 % 256, i * 90 % 256));
+    }
+    model.SetButtonValue(width, toolbar::IconProperty, icon);
+    model.SetButtonValue(width, toolbar::ButtonTypeProperty, 0);
+  }
+}
+
 QImage checks() {
   QImage bitmap(8, 8, QImage::Format_RGB32);
   for (int i = 0; i < 64; ++i) bitmap.setPixel(i % 8, i / 8, (i % 8 < 4) == (i < 32) ? 0xFFE8E0D0 : 0xFFC8D8E8);
@@ -56,14 +82,15 @@ class Rows {
  public:
   explicit Rows(QWidget& page) : page_(page), grid_(new QGridLayout(&page)) { grid_->setColumnStretch(2, 1); }
 
-  void add(const QString& title, const std::function<void(Model&)>& change, int width = 460, bool userMode = true) {
+  void add(const QString& title, const std::function<void(Model&)>& change, int width = 460, bool userMode = true,
+           int hovered = Hovered) {
     auto* const bar = new McToolBar({userMode, drawing::controlFont(QStringLiteral("MS Sans Serif"), 11)}, &page_);
     bar->UserControl_ReadProperties({});
     fill(bar->buttons());
     change(bar->buttons());
     bar->resize(width, bar->height());
     bar->setFixedWidth(width);
-    bar->buttons().pointAt(Hovered);
+    bar->buttons().pointAt(hovered);
     bar->buttons().setValue(&toolbar::Properties::ButtonsWidth, ButtonWidth);
     put(title, bar);
   }
@@ -81,7 +108,7 @@ class Rows {
 };
 
 void addGradients(Rows& rows) {
-  for (int kind = 1; kind <= 6; ++kind) {
+  for (int kind = 0; kind <= 7; ++kind) {
     rows.add(QStringLiteral("BackGradient, ButtonsGradient %1").arg(kind), [kind](Model& model) {
       model.setValue(&toolbar::Properties::ButtonsMode, 5);
       model.setValue(&toolbar::Properties::BackColor, 0x808080U);
@@ -93,7 +120,7 @@ void addGradients(Rows& rows) {
 }
 
 void addAlignments(Rows& rows) {
-  for (int alignment = 0; alignment <= 4; ++alignment) {
+  for (int alignment = 0; alignment <= 5; ++alignment) {
     rows.add(QStringLiteral("IconAlignment %1").arg(alignment), [alignment](Model& model) {
       for (int i = 1; i <= model.Button_Count(); ++i) {
         model.SetButtonValue(i, toolbar::IconAlignmentProperty, alignment);
@@ -116,9 +143,20 @@ std::unique_ptr<QWidget> makeToolBarPage() {
     rows.add(QStringLiteral("ButtonsMode %1").arg(mode),
              [mode](Model& model) { model.setValue(&toolbar::Properties::ButtonsMode, mode); });
   }
+  for (int mode = 0; mode <= 7; ++mode) {
+    rows.add(
+        QStringLiteral("ButtonsMode %1, two rows").arg(mode), [mode](Model& model) { fillRows(model, mode); }, 300,
+        true, mode % 2 == 0 ? Hovered : Pressed);
+  }
   addGradients(rows);
   addAlignments(rows);
   rows.add(QStringLiteral("Disabled"), [](Model& model) { model.setValue(&toolbar::Properties::Enabled, false); });
+  rows.add(QStringLiteral("Icons of 1 to 6 pixels"), fillWithOddIcons);
+  rows.add(QStringLiteral("RectBorderColor"), [](Model& model) {
+    model.setValue(&toolbar::Properties::ButtonsMode, 4);
+    model.setValue(&toolbar::Properties::RectBorderColorAutoBlend, false);
+    model.setValue(&toolbar::Properties::RectBorderColor, 0x00C000U);
+  });
   rows.add(QStringLiteral("Sunken frame, tiled background"), [](Model& model) {
     model.setValue(&toolbar::Properties::BorderStyle, 2);
     model.setValue(&toolbar::Properties::Background, toolbar::pictureOfImage(checks()));

@@ -1,0 +1,18 @@
+#include "support/results.h"
+#include "support/tool_runs.h"
+
+class GalleryTest : public QObject {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  /// The toolbar and the progress bar in all their looks.
+  void looks() {
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("gallery.png"));
+    support::runTool(QStringLiteral(GALLERY), 0, {picture});
+    support::comparePicture(QStringLiteral("gallery.png"), QImage(picture));
+  }
+};
+
+QTEST_MAIN(GalleryTest)
+#include "gallery_test.moc"
