@@ -5,11 +5,13 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QSet>
 
 #include "controls/work_queue.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/preview_hand.h"
 #include "platform/paths.h"
+#include "themefiles/module_state.h"
 
 namespace mainwindows {
 namespace {
@@ -19,14 +21,27 @@ using namespace std::chrono_literals;
 constexpr std::chrono::milliseconds RestTime = 100ms;
 constexpr std::chrono::milliseconds LongestUnrest = 2s;
 
-/// The file, if it is there, and the nearest folder of it that is.
-QStringList placesOf(const QString& picture) {
-  QStringList places;
-  QFileInfo place(platform::nativePath(picture));
-  if (place.exists()) places += place.filePath();
-  do place.setFile(place.path());
-  while (!place.isDir() && place.path() != place.filePath());
-  return places += place.filePath();
+/// Adds what a look at a file goes through, as far as it is there: the file, the folders above it, and the same of what
+/// links among them lead to. Whatever moves, goes or comes back on the way shows in one of these.
+void addPlaces(QSet<QString>& places, const QString& file) {
+  QFileInfo place(file);
+  while (true) {
+    if (places.contains(place.filePath())) return;
+    const bool isLink = place.isSymLink();
+    if (place.exists() || isLink) places.insert(place.filePath());
+    if (isLink) addPlaces(places, place.symLinkTarget());
+    if (place.path() == place.filePath()) return;
+    place.setFile(place.path());
+  }
+}
+
+/// The folder of the skin, whose working copy tells which pictures there are.
+QString skinFolder(const Form1& form) {
+  return QFileInfo(platform::nativePath(form.services.state.paths.SkinFile)).path();
+}
+
+bool skinIsThere(const Form1& form) {
+  return QFileInfo::exists(platform::nativePath(form.services.state.paths.SkinFile));
 }
 
 /// Of the account, only the pictures that a drawing found differently from now.
@@ -39,33 +54,37 @@ bool isChanged(const std::pair<const QString, std::optional<platform::FileIdenti
 PictureWatch::PictureWatch(Form1& form, const PreviewHand& hand) : QObject(&form), form_(form), hand_(hand) {
   rest_.setSingleShot(true);
   rest_.callOnTimeout([this] { look(); });
-  connect(&watcher_, &QFileSystemWatcher::fileChanged, this, &PictureWatch::signalled);
-  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &PictureWatch::signalled);
+  connect(&watcher_, &QFileSystemWatcher::fileChanged, this, &PictureWatch::rest);
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &PictureWatch::rest);
 }
 
 void PictureWatch::drawn() {
   if (form_.toolWindow() == nullptr) return;
   pictures_ = form_.account().pictures;
+  withoutSkin_ = !skinIsThere(form_);
   watchAnew();
   // What changed before it was watched has given no signal.
-  if (std::any_of(pictures_.begin(), pictures_.end(), isChanged)) rest();
+  if (differs()) rest();
 }
 
+/// A file that was renamed over another one isn't watched by itself, nor is a folder that has appeared: all is watched
+/// anew before the look, so that nothing gets lost between the two.
 void PictureWatch::look() {
   if (mustWait()) return rest_.start(RestTime);
-  if (std::any_of(pictures_.begin(), pictures_.end(), isChanged)) form_.queue().draw();
+  watchAnew();
+  if (differs()) form_.queue().draw();
+}
+
+bool PictureWatch::differs() const {
+  if (withoutSkin_ && skinIsThere(form_)) return true;
+  return std::any_of(pictures_.begin(), pictures_.end(), isChanged);
 }
 
 void PictureWatch::letGo() {
   rest_.stop();
   pictures_.clear();
+  withoutSkin_ = false;
   stopWatching();
-}
-
-/// A file that was renamed over another one isn't watched by itself, nor is a folder that has appeared.
-void PictureWatch::signalled() {
-  watchAnew();
-  rest();
 }
 
 void PictureWatch::rest() {
@@ -75,11 +94,11 @@ void PictureWatch::rest() {
 
 void PictureWatch::watchAnew() {
   stopWatching();
-  QStringList places;
-  for (const auto& [picture, found] : pictures_) places += placesOf(picture);
-  places.removeDuplicates();
-  if (places.isEmpty()) return;
-  const QStringList left = watch(places);
+  if (form_.toolWindow() == nullptr) return;
+  QSet<QString> places;
+  addPlaces(places, skinFolder(form_));
+  for (const auto& [picture, found] : pictures_) addPlaces(places, platform::nativePath(picture));
+  const QStringList left = watch(places.values());
   const auto stands = [](const QString& place) { return QFileInfo::exists(place); };
   if (toldOfLack_ || std::none_of(left.begin(), left.end(), stands)) return;
   toldOfLack_ = true;

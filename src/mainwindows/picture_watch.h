@@ -12,8 +12,8 @@ namespace mainwindows {
 class Form1;
 class PreviewHand;
 
-/// Watches the pictures of the screen, and where they are missing the nearest folder that is there. When another
-/// program has changed one and has come to rest, the screen is drawn. Only what the files are tells: this program's own
+/// Watches the pictures of the screen and all folders on the way to them that are there. When another program has
+/// changed a picture and has come to rest, the screen is drawn. Only what the files are tells: this program's own
 /// writes beside them draw nothing.
 class PictureWatch : public QObject {
   Q_OBJECT
@@ -36,7 +36,7 @@ class PictureWatch : public QObject {
  private:
   using Pictures = decltype(renderer::RenderAccount::pictures);
 
-  void signalled();
+  bool differs() const;
   void rest();
   void watchAnew();
   void stopWatching();
@@ -45,9 +45,10 @@ class PictureWatch : public QObject {
   Form1& form_;
   const PreviewHand& hand_;
   QFileSystemWatcher watcher_;
-  Pictures pictures_;      ///< those watched, as the last drawing found them
-  QTimer rest_;            ///< runs out when nothing has changed for a while
-  QDeadlineTimer latest_;  ///< when it does at the latest
+  Pictures pictures_;         ///< those watched, as the last drawing found them
+  bool withoutSkin_ = false;  ///< the last drawing found no working copy of the skin, and so no names of pictures
+  QTimer rest_;               ///< runs out when nothing has changed for a while
+  QDeadlineTimer latest_;     ///< when it does at the latest
   bool toldOfLack_ = false;
 };
 

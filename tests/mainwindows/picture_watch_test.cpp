@@ -46,6 +46,18 @@ class PictureWatchTest : public ProgramTest {
   void put(const QString& name, Qt::GlobalColor color) const {
     game->put(name, encoded(plainPicture(4, 4, QColor(color).rgba()), "png"));
   }
+  /// Moves the skin's folder away, and makes it anew with the files that are named, one after the other.
+  void makeFolderAnew(const QStringList& names, const std::function<void()>& gone) const {
+    const QString folder = game->native(u"Skins/Alpha"_s);
+    QVERIFY(QDir().rename(folder, game->native(u"away"_s)));
+    gone();
+    QDir().mkpath(folder);
+    for (const QString& name : names) {
+      QFile::copy(game->native(u"away/"_s + name), folder + u'/' + name);
+      if (name == u"plate.png") put(Plate, Qt::green);
+      QTest::qWait(200);  // the watch has come to rest between the two
+    }
+  }
   void renameOver(const QString& name, Qt::GlobalColor color) const {
     put(u"new"_s, color);
     std::filesystem::rename(game->native(u"new"_s).toStdString(), game->native(name).toStdString());
@@ -70,6 +82,23 @@ class PictureWatchTest : public ProgramTest {
         QTest::qWait(200);  // the watch has come to rest without the picture
       }
       put(u"Skins/Alpha/deep/er/a.png"_s, Qt::green);
+    });
+    const QStringList copyFirst{u"One.ini.tmp"_s, u"plate.png"_s};
+    const QStringList copyLast{u"plate.png"_s, u"One.ini.tmp"_s};
+    const auto seen = [this] { QTRY_VERIFY(!shows(Qt::blue)); };
+    QTest::newRow("its folder made anew") << "plate.png"_ba << Change([=, this] { makeFolderAnew(copyLast, [] {}); });
+    QTest::newRow("its folder comes back") << "plate.png"_ba << Change([=, this] { makeFolderAnew(copyLast, seen); });
+    QTest::newRow("behind the working copy")
+        << "plate.png"_ba << Change([=, this] { makeFolderAnew(copyFirst, seen); });
+    QTest::newRow("a link's target made anew") << "link.png"_ba << Change([this] {
+      const QString target = u"store/a.png"_s;
+      QDir().mkpath(game->native(u"store"_s));
+      put(target, Qt::blue);
+      QFile::link(game->native(target), game->native(u"Skins/Alpha/link.png"_s));
+      QTRY_VERIFY(shows(Qt::blue));
+      QFile::remove(game->native(target));
+      QTRY_VERIFY(!shows(Qt::blue));
+      put(target, Qt::green);
     });
   }
   /// Twice: the watch goes on with the file that is there now.
