@@ -1,7 +1,6 @@
 #include "platform/status_line.h"
 
 #include <new>
-#include <optional>
 
 #include "platform/failure.h"
 
@@ -9,7 +8,62 @@ namespace platform {
 
 namespace {
 
-/// The description of the failure that ended the work, or none if it was completed.
+const QString Separator = QStringLiteral("; ");
+
+}  // namespace
+
+void StatusLine::ShowStatus(const QString& text) {
+  report_ = text;
+  showAll();
+}
+
+void StatusLine::showDone(const QString& text) {
+  done_ = text;
+  report_.clear();
+  showAll();
+}
+
+void StatusLine::note(const QString& text) {
+  if (!notes_.contains(text)) notes_ += text;
+  showAll();
+}
+
+void StatusLine::withdraw(const QString& text) {
+  if (report_ == text) report_.clear();
+  notes_.removeAll(text);
+  if (shown_.removeAll(text) > 0) showReport(shown_.join(Separator));
+}
+
+void StatusLine::startAnew() {
+  done_.clear();
+  report_.clear();
+}
+
+void StatusLine::showAll() {
+  ++told_;
+  shown_ = QStringList{done_, report_} + notes_;
+  shown_.removeAll(QString());
+  showReport(shown_.join(Separator));
+  if (tellings_ == 0) endOperation();
+}
+
+void StatusLine::endOperation() {
+  startAnew();
+  notes_.clear();
+}
+
+Telling::~Telling() {
+  if (--status_.tellings_ == 0) status_.endOperation();
+}
+
+void Telling::success(const QString& text) {
+  if (status_.told_ == before_) status_.ShowStatus(text);
+}
+
+QString reportText(const QString& step, const QString& description) {
+  return step + QStringLiteral(" [") + description + QStringLiteral("]");
+}
+
 std::optional<QString> failureIn(const std::function<void()>& work) {
   try {
     work();
@@ -19,41 +73,6 @@ std::optional<QString> failureIn(const std::function<void()>& work) {
   } catch (const std::bad_alloc&) {
     return QStringLiteral("Out of memory");
   }
-}
-
-}  // namespace
-
-void StatusLine::ShowStatus(const QString& text) {
-  report_ = text;
-  showAll();
-}
-
-void StatusLine::note(const QString& text) {
-  notes_ += text;
-  showAll();
-}
-
-void StatusLine::showAll() {
-  ++told_;
-  const QStringList report = report_.isEmpty() ? QStringList() : QStringList(report_);
-  showReport((report + notes_).join(QStringLiteral("; ")));
-  if (tellings_ > 0) return;
-  report_.clear();
-  notes_.clear();
-}
-
-Telling::~Telling() {
-  if (--status_.tellings_ > 0) return;
-  status_.report_.clear();
-  status_.notes_.clear();
-}
-
-void Telling::success(const QString& text) {
-  if (status_.told_ == before_) status_.ShowStatus(text);
-}
-
-QString reportText(const QString& step, const QString& description) {
-  return step + QStringLiteral(" [") + description + QStringLiteral("]");
 }
 
 bool guarded(StatusLine& status, const QString& step, const std::function<void()>& work) {

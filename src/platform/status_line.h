@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QString>
 #include <QStringList>
@@ -13,8 +14,14 @@ class StatusLine {
   virtual ~StatusLine() = default;
   /// Shows a report. The next one replaces it.
   void ShowStatus(const QString& text);
+  /// Shows what the running operation has done. Its reports from here on stand behind that.
+  void showDone(const QString& text);
   /// Adds a note to the report. Notes stay after every further report until the operation ends.
   void note(const QString& text);
+  /// Takes a report or a note that is over out of what is shown.
+  void withdraw(const QString& text);
+  /// Another operation begins inside the running one: what that has done and reported is shown no more.
+  void startAnew();
   /// The number of reports and notes so far.
   int told() const { return told_; }
 
@@ -24,9 +31,12 @@ class StatusLine {
  private:
   friend class Telling;
   void showAll();
+  void endOperation();
 
-  QString report_;     ///< the last report of the running operation
-  QStringList notes_;  ///< the notes of the running operation
+  QString done_;       ///< by the running operation
+  QString report_;     ///< its last report
+  QStringList notes_;  ///< its notes
+  QStringList shown_;  ///< the parts of the text that is shown
   int tellings_ = 0;
   int told_ = 0;
 };
@@ -50,6 +60,9 @@ class Telling {
 
 /// The text of an error report, for example "Error while reading Theme [no such file]".
 QString reportText(const QString& step, const QString& description);
+
+/// Runs `work`. The description of the Failure, or the lack of memory, that ended it; none if it was completed.
+std::optional<QString> failureIn(const std::function<void()>& work);
 
 /// Runs `work` as an operation. A Failure, or a lack of memory, ends it and is reported as reportText(step, ...).
 /// Returns whether the work was completed.

@@ -16,17 +16,15 @@ namespace {
 constexpr int ChildEnding = 5;
 constexpr double LineHeightFactor = 1.5;
 
-/// The number of a text. Throws Failure if it is infinite or below `least`.
-double measureOf(const QString& text, double least) {
+/// The number of a key's text. Throws Failure if it is infinite or below `least`.
+double measureOf(QStringView key, const QString& text, double least) {
   const double number = platform::numberOf(text);
-  if (!std::isfinite(number) || number < least) {
-    throw platform::Failure(QStringLiteral("%1 is no measure").arg(text));
-  }
+  if (!std::isfinite(number) || number < least) throw platform::Failure(QStringLiteral("%1 is %2").arg(key, text));
   return number;
 }
 
-double placeOf(const QString& text) {
-  return measureOf(text, std::numeric_limits<double>::lowest());
+double placeOf(QStringView key, const QString& text) {
+  return measureOf(key, text, std::numeric_limits<double>::lowest());
 }
 
 void showMark(CursorMark& mark) {
@@ -35,10 +33,10 @@ void showMark(CursorMark& mark) {
 }
 
 void drawFrame(const themefiles::CursorRecord& record, CursorMark& mark) {
-  mark.SetLeft(placeOf(record.X));
-  mark.SetTop(placeOf(record.Y));
-  mark.SetWidth(measureOf(record.W, 0));
-  mark.SetHeight(measureOf(record.H, 0));
+  mark.SetLeft(placeOf(u"X", record.X));
+  mark.SetTop(placeOf(u"Y", record.Y));
+  mark.SetWidth(measureOf(u"W", record.W, 0));
+  mark.SetHeight(measureOf(u"H", record.H, 0));
   showMark(mark);
 }
 
@@ -52,15 +50,15 @@ void setMeasuringFont(const themefiles::CursorRecord& record, drawing::Surface& 
 void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                   CursorMark& mark) {
   const themefiles::CursorRecord& record = state.CursorRect;
-  double x = placeOf(record.X);
-  double y = placeOf(record.Y);
+  double x = placeOf(u"X", record.X);
+  double y = placeOf(u"Y", record.Y);
   const QString tag = tags.ListIndex() < 0 ? QString() : tags.List(tags.ListIndex());
   const QString upper = platform::upperCase(tag);
   if (upper.contains(u"BUTTON") || upper.contains(u"NAME")) {
     const QString parent = tag.chopped(std::min<qsizetype>(tag.size(), ChildEnding));
-    const QString& file = state.paths.ThemeFile;
-    x += placeOf(themefiles::GetINI(parent, QStringLiteral("X"), QString(), file));
-    y += placeOf(themefiles::GetINI(parent, QStringLiteral("Y"), QString(), file));
+    const themefiles::SectionReader owner(parent, state.paths.ThemeFile);
+    x += placeOf(u"X", owner.Value(QStringLiteral("X")));
+    y += placeOf(u"Y", owner.Value(QStringLiteral("Y")));
   }
   setMeasuringFont(record, workspace);
   mark.SetWidth(0);
@@ -70,8 +68,10 @@ void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagLis
   showMark(mark);
 }
 
-void place(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
-           CursorMark& mark) {
+}  // namespace
+
+void placeCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
+                 CursorMark& mark) {
   const themefiles::CursorRecord& record = state.CursorRect;
   if (!record.X.isEmpty() && !record.Y.isEmpty() && !record.W.isEmpty() && !record.H.isEmpty()) {
     drawFrame(record, mark);
@@ -83,12 +83,9 @@ void place(const themefiles::ModuleState& state, const themefiles::TagList& tags
   }
 }
 
-}  // namespace
-
 void DrawCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                 CursorMark& mark, platform::StatusLine& status) {
-  platform::guarded(status, QStringLiteral("Error while drawing highlighting cursor"),
-                    [&] { place(state, tags, workspace, mark); });
+  platform::guarded(status, CursorStep.toString(), [&] { placeCursor(state, tags, workspace, mark); });
 }
 
 }  // namespace renderer

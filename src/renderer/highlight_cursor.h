@@ -19,9 +19,16 @@ class CursorMark {
   virtual void setBlinking(bool blinking) = 0;
 };
 
+/// Step name of the report of a mark that can't be placed.
+inline constexpr QStringView CursorStep = u"Error while drawing highlighting cursor";
+
 /// Places the mark on the selected object by the state's CursorRect: a frame around an object with a rectangle, a
-/// vertical line at the anchor of a text, no mark for any other. Measuring a text sets the surface's font. A failure is
-/// reported; what was set of the mark before stays.
+/// vertical line at the anchor of a text, no mark for any other. Measuring a text sets the surface's font. Throws
+/// platform::Failure if the mark can't be placed: "W is -1"; what was set of it before stays.
+void placeCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
+                 CursorMark& mark);
+
+/// The same, but reports a failure.
 void DrawCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                 CursorMark& mark, platform::StatusLine& status);
 

@@ -10,7 +10,11 @@ enum class MarkPen {
   Kept,  ///< the running work gets its pen back; the mark is placed again at the work's end
 };
 
-/// Places the mark on the selected object.
+/// Places the mark on an object that has been chosen. A mark that can't be placed is reported, until the next choice.
 void placeMark(Form2& form, MarkPen pen);
+
+/// Places the mark anew on the object whose values have been committed. A mark that can't be placed is noted behind
+/// what the commit has told, until the next choice.
+void placeMarkAgain(Form2& form);
 
 }  // namespace toolwindow

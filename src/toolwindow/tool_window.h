@@ -48,8 +48,9 @@ struct ToolServices {
   renderer::CursorMark& mark;
   controls::WorkQueue& queue;
   std::function<void()> enableSave;
-  std::function<QString()> schemeName;       ///< the colour scheme in force
-  std::function<void()> settleHand = [] {};  ///< ends what the user's hand is doing on the preview
+  std::function<QString()> schemeName;         ///< the colour scheme in force
+  std::function<void()> settleHand = [] {};    ///< ends what the user's hand is doing on the preview
+  std::function<void()> objectChosen = [] {};  ///< another object is selected, and its mark placed
 };
 
 /// The tool window: the choice of screen and object, the values of the object, and the editor of one value. It floats
@@ -97,6 +98,8 @@ class Form2 : public QWidget {
   controls::TextBox* Text2;    ///< the words
 
   ListedTags tags;  ///< List1, as the readers and the renderer see it
+
+  QString markReport;  ///< what was last told of a mark that couldn't be placed
 
   /// Empties List1, which isn't complete until endList.
   void beginList();

@@ -10,6 +10,7 @@
 #include "controls/shown_text.h"
 #include "controls/text_box.h"
 #include "controls/work_queue.h"
+#include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
@@ -27,7 +28,8 @@ namespace {
 struct Commit {
   int row;
   QString section;
-  QString key;  ///< identity of the row's key
+  QString key;   ///< identity of the row's key
+  QString name;  ///< the key as the row shows it
 };
 
 /// Throws platform::Failure for a section that can't be written into.
@@ -47,7 +49,8 @@ void checkEditable(const Form2& form, int row) {
 
 Commit commitOf(const Form2& form, int row) {
   if (row < 0) throw platform::Failure(QStringLiteral("no row is selected"));
-  Commit commit{row, platform::trimBlanks(form.List1->Text()), themefiles::keyIdentity(form.ListView1->rowText(row))};
+  const QString key = form.ListView1->rowText(row);
+  Commit commit{row, platform::trimBlanks(form.List1->Text()), themefiles::keyIdentity(key), platform::trimBlanks(key)};
   checkSection(commit.section);
   return commit;
 }
@@ -78,14 +81,34 @@ void commitValue(Form2& form, const Commit& commit, const QString& value) {
   SetSelectedRowValue(form, value);
 }
 
-/// Writes a reference into the theme, and what it refers to into the file that owns that.
-void commitReference(Form2& form, const Commit& commit, KeyEditor editor) {
+QString assignment(const QString& key, const QString& value) {
+  return key + QStringLiteral(" = ") + value;
+}
+
+/// What is told of a key of the language or the skin: "words 'SONG' = Choose a song".
+QString contentAssignment(QString themefiles::ThemePaths::*copy, const QString& name, const QString& content) {
+  const bool isWords = copy == &themefiles::ThemePaths::LanguageFile;
+  return assignment((isWords ? QStringLiteral("words '") : QStringLiteral("texture '")) + name + u'\'', content);
+}
+
+/// Writes a reference into the theme, and what it refers to into the file that owns that. Adds to `told` which of both
+/// has changed.
+void commitReference(Form2& form, const Commit& commit, KeyEditor editor, QStringList& told) {
   const Reference shown = shownReference(form, editor);
   const QString name = selectedName(shown.name);
   themefiles::checkLineText(shown.content);
+  const themefiles::ThemePaths& paths = form.services.state.paths;
+  const bool renamed = themefiles::GetINI(commit.section, commit.key, QString(), paths.ThemeFile) != name;
+  QString content;
+  const bool read =
+      platform::guardedSilently([&] { content = themefiles::wholeValue(shown.section, name, paths.*shown.copy); });
+  const bool refilled = !read || content != shown.content;
   put(form, &themefiles::ThemePaths::ThemeFile, commit.section, commit.key, name);
   put(form, shown.copy, shown.section, name, shown.content);
   SetSelectedRowValue(form, name);
+  if (!refilled) return;
+  if (renamed) told += assignment(commit.name, name);
+  told += contentAssignment(shown.copy, name, shown.content);
 }
 
 /// Updates the record that the mark is drawn from, if the key is one of five.
@@ -100,8 +123,8 @@ void updateCursorRect(themefiles::CursorRecord& record, const QString& key, cons
   if (key == u"SIZE") record.Size = platform::roundToInt16(number).value_or(record.Size);
 }
 
-/// Reads the editor of the group and writes its value.
-void writeEditor(Form2& form, const Commit& commit, themefiles::KeyGroup group) {
+/// Reads the editor of the group and writes its value. Adds to `told` what has changed beside the row.
+void writeEditor(Form2& form, const Commit& commit, themefiles::KeyGroup group, QStringList& told) {
   switch (themefiles::rowOf(group).frame) {
     case themefiles::EditorFrame::Numbers:
       commitValue(form, commit, form.Text1->Text());
@@ -117,10 +140,10 @@ void writeEditor(Form2& form, const Commit& commit, themefiles::KeyGroup group) 
       commitValue(form, commit, selectedName(form.Combo3->Text()));
       break;
     case themefiles::EditorFrame::Texts:
-      commitReference(form, commit, KeyEditor::Text);
+      commitReference(form, commit, KeyEditor::Text, told);
       break;
     case themefiles::EditorFrame::Texture:
-      commitReference(form, commit, KeyEditor::Texture);
+      commitReference(form, commit, KeyEditor::Texture, told);
       break;
   }
 }
@@ -129,25 +152,22 @@ bool isShown(const Form2& form, const QString& section) {
   return platform::trimBlanks(form.List1->Text()) == section;
 }
 
-/// The steps of a commit behind its writes; `assignments` is what it tells: "X = 1".
-void finishCommit(Form2& form, const QString& section, const QString& assignments) {
+/// The steps of a commit behind its writes; `told` is what it has changed: "X = 1".
+void finishCommit(Form2& form, const QString& section, const QStringList& told) {
   const ToolServices& services = form.services;
   services.state.Changed = true;
   services.enableSave();
-  services.status.ShowStatus(section + QStringLiteral(": ") + assignments);
+  services.status.showDone(section + QStringLiteral(": ") + told.join(QStringLiteral(", ")));
   services.queue.draw();
   // If another object was picked during the drawing, it has its mark already.
-  if (isShown(form, section)) placeMark(form, MarkPen::Kept);
-}
-
-QString assignment(const QString& key, const QString& value) {
-  return key + QStringLiteral(" = ") + value;
+  if (isShown(form, section)) placeMarkAgain(form);
 }
 
 /// Runs a commit. A failure is reported and leaves out the steps behind it. Returns whether there was none.
 bool runCommit(Form2& form, const std::function<void()>& commit) {
   const ToolServices& services = form.services;
   const auto telling = std::make_shared<platform::Telling>(services.status);
+  services.status.startAnew();
   const bool done = platform::guarded(services.status, WriteStep.toString(), commit);
   form.markLater();
   // Keeps the notes until a drawing that waits has run, so that both are reported together.
@@ -155,14 +175,16 @@ bool runCommit(Form2& form, const std::function<void()>& commit) {
   return done;
 }
 
-/// A commit into a row of the grid: writes by `write`, and does all that follows. Returns whether it succeeded.
-bool commitRow(Form2& form, int row, const std::function<void(const Commit& commit)>& write) {
+/// A commit into a row of the grid: writes by `write`, and does all that follows. `write` adds to `told` what has
+/// changed if that isn't the row's value. Returns whether it succeeded.
+bool commitRow(Form2& form, int row, const std::function<void(const Commit& commit, QStringList& told)>& write) {
   form.services.settleHand();
   return runCommit(form, [&] {
     const Commit commit = commitOf(form, row);
-    write(commit);
-    const QString key = platform::trimBlanks(form.ListView1->rowText(row));
-    finishCommit(form, commit.section, assignment(key, form.ListView1->subItem(row)));
+    QStringList told;
+    write(commit, told);
+    if (told.isEmpty()) told += assignment(commit.name, form.ListView1->subItem(row));
+    finishCommit(form, commit.section, told);
     form.ListView1->setFocus();
   });
 }
@@ -190,11 +212,11 @@ void showValue(Form2& form, const QString& key, const QString& value) {
 }  // namespace
 
 void Command1_Click(Form2& form) {
-  commitRow(form, form.ListView1->selectedRow(), [&](const Commit& commit) {
+  commitRow(form, form.ListView1->selectedRow(), [&](const Commit& commit, QStringList& told) {
     const auto group = themefiles::groupOf(commit.key);
     if (!group) return;
     checkEditable(form, commit.row);
-    writeEditor(form, commit, *group);
+    writeEditor(form, commit, *group, told);
   });
 }
 
@@ -210,18 +232,21 @@ bool commitValues(Form2& form, const QString& section, const std::vector<std::pa
     if (isShown(form, section)) {
       for (const auto& [key, value] : written) showValue(form, key, value);
     }
-    QStringList assignments;
-    for (const auto& [key, value] : values) assignments += assignment(key, value);
-    finishCommit(form, section, assignments.join(QStringLiteral(", ")));
+    QStringList told;
+    for (const auto& [key, value] : values) told += assignment(key, value);
+    finishCommit(form, section, told);
   });
   return done;
 }
 
 void putSavedBack(Form2& form, int row, const SavedValue& saved) {
   const ToolServices& services = form.services;
-  const bool done = commitRow(form, row, [&](const Commit& commit) {
+  const bool done = commitRow(form, row, [&](const Commit& commit, QStringList& told) {
     for (const SavedLine& line : saved.lines) {
       themefiles::putLineInCopy(services.state, line.copy, line.section, line.key, line.line, services.status);
+      const bool isReferred = line.copy != &themefiles::ThemePaths::ThemeFile;
+      const QString value = platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1));
+      told += isReferred ? contentAssignment(line.copy, line.key, value) : assignment(commit.name, saved.value);
     }
     form.ListView1->setSubItem(row, saved.value);
     updateCursorRect(services.state.CursorRect, commit.key, saved.value);

@@ -79,7 +79,8 @@ class SessionTest : public ProgramTest {
     const QString copy = game->path() + u"Themes\\Alpha.ini.tmp"_s;
     game->put(ThemeCopy, game->get(ThemeCopy) + "; other");
     program->edit(u"Y"_s, u"99999"_s);
-    QVERIFY2(program->status().startsWith(u"Error while draw"), qPrintable(program->status()));
+    QVERIFY2(program->status().startsWith(u"LoadingStaticA: Y = 99999; Error while draw"),
+             qPrintable(program->status()));
     QVERIFY2(program->status().contains(noted.arg(copy)), qPrintable(program->status()));
     // The same before a write that fails.
     program->edit(u"Y"_s, u"50"_s);
@@ -102,6 +103,23 @@ class SessionTest : public ProgramTest {
     program->open();
     QVERIFY2(program->status().startsWith(u"Error while"), qPrintable(program->status()));
     QVERIFY2(program->status().contains(copy + u" held other changes"_s), qPrintable(program->status()));
+  }
+
+  /// The report of a mark that can't be placed stands behind what was done, and goes with the next choice.
+  void withoutMark() {
+    program->click(3);
+    game->put(ThemeFile, game->get(ThemeFile).replace("W=100", "W=-1"));
+    program->open();
+    for (int i = 0; i < 2; ++i) {
+      program->tag(u"LoadingStaticA"_s);
+      QCOMPARE(program->status(), u"Error while drawing highlighting cursor [W is -1]"_s);
+      program->tag(u"LoadingTextFree"_s);
+      QCOMPARE(program->status(), QString());
+    }
+    program->edit(u"X"_s, u"688"_s);
+    QCOMPARE(program->status(), u"LoadingStaticA: X = 688; no mark: W is -1"_s);
+    program->tag(u"LoadingTextFree"_s);
+    QCOMPARE(program->status(), u"LoadingStaticA: X = 688"_s);
   }
 
   void screenWithoutObjectsAndBackgroundColour() {

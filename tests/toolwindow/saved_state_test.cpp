@@ -106,6 +106,29 @@ class SavedStateTest : public ProgramTest {
     QCOMPARE(game->get(LanguageCopy), QByteArray(words).replace("GO = Go\r\n", "") + "\r\nGO = Go\r\n");
   }
 
+  /// A commit, and a put-back, name what they have changed.
+  void toldByName() {
+    program->tag(u"LoadingTextFree"_s);
+    writeWords(u"Hi"_s);
+    QCOMPARE(program->status(), u"LoadingTextFree: words 'HELLO' = Hi"_s);
+    QVERIFY(!menuOfRow(u"Text"_s).isEmpty());
+    QCOMPARE(program->status(), u"LoadingTextFree: words 'HELLO' = Hello there"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingTextFree: Text = HELLO"_s);
+    program->tools().Combo5->SetText(u"GO"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingTextFree: Text = GO"_s);
+    program->tools().Combo5->SetText(u"HELLO"_s);
+    program->tools().Text2->SetText(u"Ho"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingTextFree: Text = HELLO, words 'HELLO' = Ho"_s);
+    program->tag(u"LoadingStaticA"_s);
+    program->row(u"Tex"_s);
+    program->tools().Text3->SetText(u"other.png"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingStaticA: texture 'Plate' = other.png"_s);
+  }
+
   void putColourBack() {
     const Form2& tools = program->tools();
     const auto before = game->files();
