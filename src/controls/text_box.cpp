@@ -10,6 +10,7 @@
 #include <QSignalBlocker>
 #include <QToolTip>
 
+#include "controls/popup_menu.h"
 #include "controls/shown_text.h"
 
 namespace controls {
@@ -101,7 +102,6 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event) {
   const bool pastes = writes && !filtered(QGuiApplication::clipboard()->text()).isEmpty();
   // Non-modal: this box may be deleted while the menu is open.
   auto* menu = new QMenu(this);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
   const auto add = [menu, this](const QString& caption, bool enabled, auto command) {
     menu->addAction(caption, this, command)->setEnabled(enabled);
   };
@@ -113,7 +113,7 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event) {
   add(QStringLiteral("&Delete"), writes && hasSelectedText(), &QLineEdit::del);
   menu->addSeparator();
   add(QStringLiteral("Select &All"), !text().isEmpty(), &QLineEdit::selectAll);
-  menu->popup(event->globalPos());
+  popUp(menu, event->globalPos());
 }
 
 }  // namespace controls

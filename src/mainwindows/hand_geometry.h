@@ -31,20 +31,22 @@ struct HeldNumbers {
   int Y = 0;
   int W = 0;
   int H = 0;
-  QString heightKey;  ///< H, or SelectH of a button that is drawn with that
+  QString heightKey;        ///< H, or SelectH of a button that is drawn with that; empty for a text
+  bool passedOver = false;  ///< the last movement has passed over a place that would mean another one
 };
 
-/// Reads the numbers of the section `name`. `heightKey` is empty for a text. Throws platform::Failure with the reason
-/// why the object can't be moved or sized.
+/// Reads the numbers of the section `name`, fractions rounded. `heightKey` is empty for a text. Throws
+/// platform::Failure with the reason why the object can't be moved or sized.
 HeldNumbers readHeld(const QString& name, const QString& fileName, Grip grip, const QString& heightKey);
 
-/// The numbers after a movement of the grip: whole, 0 to 10,000, sizes from 1. An edge that isn't held stays.
+/// The numbers after a movement of the grip: whole, -10,000 to 10,000, sizes from 1. An edge that isn't held stays. For
+/// a picture or a button -1 would mean its own place, so that -2 and 0 are neighbours.
 HeldNumbers moved(const HeldNumbers& start, Grip grip, const QPoint& movement);
 
 /// Keys with values that differ.
 std::vector<std::pair<QString, QString>> changedValues(const HeldNumbers& start, const HeldNumbers& now);
 
-/// The numbers that a grip changes: "X 120, Y 48" or "W 300, H 60".
+/// The numbers that a grip changes: "X 120, Y 48" or "X 120, W 300, SelectH 60".
 QString labelOf(const HeldNumbers& numbers, Grip grip);
 
 }  // namespace mainwindows

@@ -57,6 +57,7 @@ ConnectedForm1::ConnectedForm1(const MainServices& services) : Form1(services, c
   connectLists();
   connectPreview();
   connect(this, &Form1::settling, this, [this] { hand_.settle(); });
+  connect(this, &Form1::objectChosen, this, [this] { hand_.showChosen(); });
   connect(this, &Form1::themeLeft, this, [this] {
     hand_.letGo();
     watch_.letGo();

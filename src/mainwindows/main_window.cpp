@@ -55,6 +55,7 @@ Form1::Form1(const MainServices& services, CommandRows commands)
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
       services(services),
       client(new QWidget(this)),
+      PreviewArea(new QScrollArea(client)),
       Workspace(new mainwindows::Workspace(client)),
       ToolBar(new toolbar::McToolBar(client)),
       StatusBar(new mainwindows::StatusBar(client)),
@@ -95,11 +96,10 @@ void Form1::placeControls() {
   client->resize(size);
   setBackground(*client, FormColor);
   ToolBar->setGeometry(0, 0, size.width(), ToolBarHeight);
-  auto* preview = new QScrollArea(client);
-  preview->setFrameShape(QFrame::NoFrame);
-  preview->setFocusPolicy(Qt::NoFocus);
-  preview->setWidget(Workspace);
-  preview->setGeometry(0, ToolBarHeight, size.width(), size.height() - ToolBarHeight - StatusBarHeight);
+  PreviewArea->setFrameShape(QFrame::NoFrame);
+  PreviewArea->setFocusPolicy(Qt::NoFocus);
+  PreviewArea->setWidget(Workspace);
+  PreviewArea->setGeometry(0, ToolBarHeight, size.width(), size.height() - ToolBarHeight - StatusBarHeight);
   StatusBar->setGeometry(0, size.height() - StatusBarHeight, size.width(), StatusBarHeight);
   setBackground(*StatusBar, drawing::ButtonFaceColor);
   ProgressBar1->resize(std::min(ProgressBarSize.width(), size.width() + 1), ProgressBarSize.height());
@@ -169,8 +169,8 @@ void Form1::showStartPicture(quint32 backColor) {
 }
 
 void Form1::showReport(const QString& text) {
-  StatusBar->setPanel(1,
-                      u'[' + QTime::currentTime().toString(QStringLiteral("HH:mm:ss")) + QStringLiteral("] ") + text);
+  const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
+  StatusBar->setPanel(1, text.isEmpty() ? QString() : u'[' + time + QStringLiteral("] ") + text);
 }
 
 void Form1::ShowMousePosition(qint16 X, qint16 Y) {

@@ -12,6 +12,7 @@
 #include "renderer/render_account.h"
 
 class QLabel;
+class QScrollArea;
 
 namespace controls {
 class ComboBox;
@@ -62,7 +63,8 @@ class Form1 : public QWidget, public platform::StatusLine {
 
   const MainServices services;
 
-  QWidget* client;  ///< the client area: 800 x 650, or what the screen has room for
+  QWidget* client;           ///< the client area: 800 x 650, or what the screen has room for
+  QScrollArea* PreviewArea;  ///< has scroll bars on a screen that is too small for the preview
   mainwindows::Workspace* Workspace;
   toolbar::McToolBar* ToolBar;
   mainwindows::StatusBar* StatusBar;
@@ -103,6 +105,8 @@ class Form1 : public QWidget, public platform::StatusLine {
  Q_SIGNALS:
   /// Something else is about to happen: a drag has to end, and moves by the arrow keys are to be committed.
   void settling();
+  /// An object has been chosen, by whatever way.
+  void objectChosen();
   /// The theme's tool window is gone.
   void themeLeft();
   /// The user or the end of the desktop session asks to close the window.

@@ -6,18 +6,19 @@
 #include <cmath>
 #include <utility>
 
+#include <QApplication>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPointer>
+#include <QScopedValueRollback>
 
 #include "controls/list_box.h"
 #include "controls/work_queue.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/workspace.h"
-#include "platform/code_page.h"
 #include "platform/failure.h"
-#include "platform/numbers.h"
 #include "themefiles/module_state.h"
+#include "themefiles/working_copies.h"
 #include "toolwindow/object_selection.h"
 #include "toolwindow/tool_window.h"
 #include "toolwindow/value_commit.h"
@@ -51,8 +52,17 @@ QPoint held(const QPoint& movement) {
 
 }  // namespace
 
-PreviewHand::PreviewHand(Form1& form) : QObject(&form), form_(form), trial_(form), pacer_([this] { showFrame(); }) {
-  form.Workspace->installEventFilter(this);
+PreviewHand::PreviewHand(Form1& form)
+    : QObject(&form),
+      form_(form),
+      trial_(form),
+      scroll_(*form.PreviewArea,
+              [this](const QPoint& by) {
+                mouse_ += by;
+                drag(keys_);
+              }),
+      pacer_([this] { showFrame(); }) {
+  qApp->installEventFilter(this);
   rest_.setSingleShot(true);
   rest_.setInterval(KeysRestTime);
   rest_.callOnTimeout([this] {
@@ -81,8 +91,14 @@ void PreviewHand::forgetPlaces() {
   picking_ = {};
 }
 
+void PreviewHand::showChosen() {
+  if (!picks_) scroll_.show(seenPlace(form_));
+}
+
 void PreviewHand::letGo() {
   stage_ = Stage::None;
+  telling_.reset();
+  scroll_.stop();
   trial_.forget();
   heldKeys_.clear();
   form_.Workspace->setHandLabel({});
@@ -91,8 +107,12 @@ void PreviewHand::letGo() {
   form_.Workspace->clearFocus();
 }
 
-bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
+bool PreviewHand::eventFilter(QObject* watched, QEvent* event) {
   if (form_.toolWindow() == nullptr) return false;
+  if (event->type() == QEvent::ContextMenu && watched->isWidgetType() && menuAsked(static_cast<QWidget&>(*watched))) {
+    return true;
+  }
+  if (watched != form_.Workspace) return false;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -119,6 +139,16 @@ bool PreviewHand::eventFilter(QObject* /*watched*/, QEvent* event) {
   }
 }
 
+/// Commits what the arrow keys have done before a menu comes up. Returns whether the menu is no longer meant:
+/// committing has drawn the screen and served events.
+bool PreviewHand::menuAsked(const QWidget& watched) {
+  if (stage_ != Stage::Keys) return false;
+  const QPointer<const QWidget> asked(&watched);
+  settle();
+  return !asked || !asked->isVisible() || QApplication::activePopupWidget() != nullptr ||
+         QApplication::activeModalWidget() != nullptr;
+}
+
 bool PreviewHand::press(const QMouseEvent& event) {
   endedDrag_ = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
   settle();
@@ -126,7 +156,7 @@ bool PreviewHand::press(const QMouseEvent& event) {
   if (event.button() != Qt::LeftButton || form_.toolWindow() == nullptr) return false;
   pressed_ = mouse_ = pixelOf(event);
   const bool free = event.buttons() == Qt::LeftButton && !form_.queue().busy();
-  picksAtRelease_ = free && selectedAt(pressed_).under;
+  picksAtRelease_ = free && selectedAt(form_, pressed_).under;
   if ((picksAtRelease_ || pick(pressed_)) && free) stage_ = Stage::Pressed;
   return true;
 }
@@ -137,6 +167,7 @@ bool PreviewHand::pick(const QPoint& place) {
   if (row < 0) return false;
   form_.toolWindow()->List1->setFocus();
   form_.Workspace->setFocus();  // the keys go on here
+  const QScopedValueRollback picks(picks_, true);
   toolwindow::pickTag(*form_.toolWindow(), row);
   return true;
 }
@@ -150,11 +181,18 @@ void PreviewHand::move(const QMouseEvent& event) {
   const QPoint way = mouse_ - pressed_;
   if (stage_ == Stage::Pressed) {
     if (std::max(std::abs(way.x()), std::abs(way.y())) < DragDistance) return;
-    const Selected selected = selectedAt(pressed_);
+    const SelectedObject selected = selectedAt(form_, pressed_);
     if (!take(selected, gripAt(selected.place, pressed_), true)) return;
     stage_ = Stage::Dragging;
   }
-  now_ = moved(start_, grip_, (event.modifiers() & Qt::ControlModifier) != 0 ? held(way) : way);
+  drag(event.modifiers());
+  scroll_.dragAt(mouse_);
+}
+
+void PreviewHand::drag(Qt::KeyboardModifiers keys) {
+  const QPoint way = mouse_ - pressed_;
+  keys_ = keys;
+  now_ = moved(start_, grip_, (keys & Qt::ControlModifier) != 0 ? held(way) : way);
   pacer_.request();
 }
 
@@ -175,46 +213,30 @@ bool PreviewHand::release(const QMouseEvent& event) {
 /// Gives the pointer the shape of what a press would do here.
 void PreviewHand::hover(const QPoint& place, bool free) {
   if (!free) return;
-  const Selected selected = form_.queue().busy() ? Selected() : selectedAt(place);
+  const SelectedObject selected = form_.queue().busy() ? SelectedObject() : selectedAt(form_, place);
   const Qt::CursorShape shape = selected.under ? shapeOf(gripAt(selected.place, place)) : Qt::ArrowCursor;
   if (form_.Workspace->cursor().shape() != shape) form_.Workspace->setCursor(shape);
 }
 
-PreviewHand::Selected PreviewHand::selectedAt(const QPoint& place) const {
-  const QString name = form_.toolWindow()->List1->Text();
-  Selected selected{platform::trimBlanks(name), {}, {}, false};
-  if (selected.section.isEmpty()) return selected;
-  const bool marked = form_.Workspace->markVisible();
-  const QRect mark = form_.Workspace->markRect();
-  selected.under = marked && mark.contains(place);
-  for (const renderer::DrawnObject& object : form_.account().objects) {
-    if (!platform::sameName(object.section, name)) continue;
-    selected.heightKey = object.heightKey;
-    if (!object.heightKey.isEmpty()) selected.place = object.place;
-    selected.under = selected.under || object.place.contains(place);
-    return selected;
-  }
-  // An object that isn't drawn can be sized by its mark, unless that is a line under a text.
-  const themefiles::CursorRecord& record = form_.services.state.CursorRect;
-  const bool isText = platform::upperCase(name).contains(u"TEXT");
-  if (isText && record.W.isEmpty() && record.H.isEmpty()) return selected;
-  selected.heightKey = QStringLiteral("H");
-  if (marked) selected.place = mark;
-  return selected;
-}
-
 /// Begins to move or size an object. Returns false if it can't be; `tells` has the reason reported.
-bool PreviewHand::take(const Selected& selected, Grip grip, bool tells) {
+bool PreviewHand::take(const SelectedObject& selected, Grip grip, bool tells) {
   stage_ = Stage::None;
   if (selected.section.isEmpty()) return false;
   section_ = selected.section;
   grip_ = grip;
-  const auto read = [&] {
-    start_ = readHeld(section_, form_.services.state.paths.ThemeFile, grip, selected.heightKey);
-    now_ = start_;
-  };
-  if (!tells) return platform::guardedSilently(read);
-  return platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), read);
+  telling_ = std::make_unique<platform::Telling>(form_);
+  const auto read = [&] { now_ = start_ = readNumbers(selected.heightKey); };
+  const bool done = tells ? platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), read)
+                          : platform::guardedSilently(read);
+  if (!done) telling_.reset();
+  return done;
+}
+
+/// The numbers of the object in hand as they stand in the theme. A working copy that is gone is made anew first.
+HeldNumbers PreviewHand::readNumbers(const QString& heightKey) const {
+  themefiles::ModuleState& state = form_.services.state;
+  themefiles::restoreCopy(state, &themefiles::ThemePaths::ThemeFile, form_);
+  return readHeld(section_, state.paths.ThemeFile, grip_, heightKey);
 }
 
 bool PreviewHand::keyPress(const QKeyEvent& event) {
@@ -238,7 +260,7 @@ void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
   if (!free || form_.toolWindow() == nullptr) return;
   // What height a button is drawn with is known when it has been drawn.
   if (stage_ == Stage::None && grip.sizes() && form_.queue().busy()) return;
-  if (stage_ == Stage::None && !take(selectedAt({}), grip, !event.isAutoRepeat())) return;
+  if (stage_ == Stage::None && !take(selectedAt(form_, {}), grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
   heldKeys_.insert(event.key());
   now_ = moved(now_, grip_, (event.modifiers() & Qt::ShiftModifier) != 0 ? step * LongStep : step);
@@ -263,13 +285,14 @@ void PreviewHand::showFrame() {
 
 void PreviewHand::commit() {
   stage_ = Stage::None;
+  scroll_.stop();
   form_.Workspace->setHandLabel({});
   const auto values = changedValues(start_, now_);
+  const auto telling = std::exchange(telling_, nullptr);
   if (values.empty()) return trial_.putBack();
   // Another program may have taken the section away meanwhile.
-  const bool stands = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), [&] {
-    readHeld(section_, form_.services.state.paths.ThemeFile, grip_, start_.heightKey);
-  });
+  const bool stands = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_),
+                                        [&] { readNumbers(start_.heightKey); });
   const QString section = section_;
   if (!stands || !toolwindow::commitValues(*form_.toolWindow(), section, values)) trial_.putBack();
 }
@@ -277,6 +300,8 @@ void PreviewHand::commit() {
 void PreviewHand::giveUp() {
   const bool shown = stage_ != Stage::Pressed;
   stage_ = Stage::None;
+  telling_.reset();
+  scroll_.stop();
   form_.Workspace->setHandLabel({});
   if (shown) trial_.putBack();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include <QMouseEvent>
 #include <QObject>
 #include <QSet>
@@ -8,7 +10,10 @@
 #include "controls/frame_pacer.h"
 #include "mainwindows/hand_geometry.h"
 #include "mainwindows/preview_picking.h"
+#include "mainwindows/preview_scroll.h"
+#include "mainwindows/selected_object.h"
 #include "mainwindows/trial_picture.h"
+#include "platform/status_line.h"
 
 class QKeyEvent;
 
@@ -30,6 +35,8 @@ class PreviewHand : public QObject {
   void giveUpDrag();
   /// The next click picks the topmost object under it. To be called when another screen is listed.
   void forgetPlaces();
+  /// Another object has been chosen: scrolls to it, unless it was clicked on the preview.
+  void showChosen();
   /// Ends everything without a commit or a drawing. To be called when the theme is closed.
   void letGo();
 
@@ -43,24 +50,19 @@ class PreviewHand : public QObject {
     Dragging,  ///< by the mouse
     Keys,      ///< arrow keys that aren't committed yet
   };
-  /// The selected object as the preview has it.
-  struct Selected {
-    QString section;     ///< empty without one
-    QString heightKey;   ///< empty for a text
-    QRect place;         ///< of an object with a rectangle
-    bool under = false;  ///< whether the pixel asked for lies in it
-  };
 
+  bool menuAsked(const QWidget& watched);
   bool press(const QMouseEvent& event);
   void move(const QMouseEvent& event);
   bool release(const QMouseEvent& event);
   bool keyPress(const QKeyEvent& event);
   void keyRelease(const QKeyEvent& event);
   void arrow(const QKeyEvent& event, const QPoint& step);
+  void drag(Qt::KeyboardModifiers keys);
   void hover(const QPoint& place, bool free);
   bool pick(const QPoint& place);
-  Selected selectedAt(const QPoint& place) const;
-  bool take(const Selected& selected, Grip grip, bool tells);
+  bool take(const SelectedObject& selected, Grip grip, bool tells);
+  HeldNumbers readNumbers(const QString& heightKey) const;
   void showFrame();
   void commit();
   void giveUp();
@@ -70,13 +72,17 @@ class PreviewHand : public QObject {
   Stage stage_ = Stage::None;
   bool picksAtRelease_ = false;
   bool endedDrag_ = false;  ///< the last press gave a drag up, and stands for nothing else
+  bool picks_ = false;      ///< an object is being chosen by a click
   QPoint pressed_;          ///< where the button went down
   QPoint mouse_;            ///< where it is now
+  Qt::KeyboardModifiers keys_;
   QString section_;
   Grip grip_;
   HeldNumbers start_;
   HeldNumbers now_;
+  std::unique_ptr<platform::Telling> telling_;  ///< keeps what is noted while an object is in hand for its commit
   TrialPicture trial_;
+  PreviewScroll scroll_;
   QSet<int> heldKeys_;
   QTimer rest_;  ///< runs out when the keys have rested
   controls::FramePacer pacer_;

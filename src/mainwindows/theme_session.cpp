@@ -92,11 +92,11 @@ void dropEarlierTheme(Form1& form) {
 }
 
 void showToolWindow(Form1& form) {
-  form.setToolWindow(
-      toolwindow::makeForm2({form.services.state, form, form.services.dialogs, form.Workspace->surface(),
-                             *form.Workspace, form.queue(), [&form] { form.enableCommand(Command::Save, true); },
-                             [&form] { return form.Combo1->Text(); }, [&form] { Q_EMIT form.settling(); }},
-                            &form));
+  form.setToolWindow(toolwindow::makeForm2(
+      {form.services.state, form, form.services.dialogs, form.Workspace->surface(), *form.Workspace, form.queue(),
+       [&form] { form.enableCommand(Command::Save, true); }, [&form] { return form.Combo1->Text(); },
+       [&form] { Q_EMIT form.settling(); }, [&form] { Q_EMIT form.objectChosen(); }},
+      &form));
   // The lower right corner of the main window, by the outer sizes of both.
   const double formRight =
       form.x() * controls::TwipsPerPixel + form.width() * controls::TwipsPerPixel + controls::FrameWidth;

@@ -6,6 +6,7 @@
 
 #include <QAccessibleWidget>
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -180,7 +181,9 @@ void Workspace::contextMenuEvent(QContextMenuEvent* event) {
 void Workspace::keyPressEvent(QKeyEvent* event) {
   // The toolkit knows only the Menu key.
   if (event->key() != Qt::Key_F10 || event->modifiers() != Qt::ShiftModifier) return QWidget::keyPressEvent(event);
-  Q_EMIT menuAsked(mapToGlobal(rect().center()));
+  const QPoint place = visibleRegion().boundingRect().center();
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, place, mapToGlobal(place));
+  QCoreApplication::sendEvent(this, &asked);
 }
 
 }  // namespace mainwindows

@@ -188,6 +188,12 @@ void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString&
            [&](const QByteArray& text) { return changedLine(text, section, key, line); });
 }
 
+void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status) {
+  const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
+  if (standing && (!standing->isEmpty() || state.ownCopies.at(copyNumber(copy)).isEmpty())) return;
+  editCopy(state, copy, status, {}, {}, [](const QByteArray& text) { return text; });
+}
+
 void saveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
   telling(status, [&](QStringList& notes) {
     for (size_t i = 0; i < CopiedFiles.size(); ++i) {

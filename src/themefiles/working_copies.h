@@ -36,6 +36,9 @@ void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const QStrin
 void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
                    const QByteArray& line, platform::StatusLine& status);
 
+/// Makes a working copy of the open theme anew if it is missing or empty, as an edit would, with a note to `status`.
+void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status);
+
 /// The index of a file in the state's arrays: 0 for the theme, 1 for the skin, 2 for the language.
 size_t copyNumber(QString ThemePaths::*copy);
 

@@ -29,6 +29,7 @@ void showTag(Form2& form, MarkPen pen) {
   }
   if (services.state.EditorShown) form.closeEditorFrame();
   placeMark(form, pen);
+  services.objectChosen();
   form.markLater();
 }
 

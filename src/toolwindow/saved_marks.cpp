@@ -6,6 +6,7 @@
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/list_view.h"
+#include "controls/popup_menu.h"
 #include "controls/work_queue.h"
 #include "platform/failure.h"
 #include "toolwindow/colour_editor.h"
@@ -28,10 +29,8 @@ QString entryText(QString text) {
 /// Shows a menu of lines that only tell something. The keys reach them, too.
 void popUpLines(Form2& form, const QPoint& place, const QStringList& lines) {
   auto* menu = new QMenu(&form);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
   for (const QString& line : lines) menu->addAction(entryText(line))->setEnabled(false);
-  menu->popup(place);
-  menu->setActiveAction(menu->actions().constFirst());
+  controls::popUp(menu, place, menu->actions().constFirst());
 }
 
 /// Shows a menu of one entry, which runs like the other commands that change colours and keys: when no work is running,
@@ -39,7 +38,6 @@ void popUpLines(Form2& form, const QPoint& place, const QStringList& lines) {
 void popUp(Form2& form, const QPoint& place, const SavedValue& saved, const std::function<bool(Form2&)>& stillMeant,
            const std::function<void(Form2&)>& putBack) {
   auto* menu = new QMenu(&form);
-  menu->setAttribute(Qt::WA_DeleteOnClose);
   QAction* action = menu->addAction(entryText(QStringLiteral("Put the saved value back: ") + saved.told));
   const auto chosen = [&form, stillMeant, putBack] {
     form.services.queue.runOutside([open = QPointer<Form2>(&form), stillMeant, putBack] {
@@ -49,8 +47,7 @@ void popUp(Form2& form, const QPoint& place, const SavedValue& saved, const std:
   };
   // Queued: the menu is gone by then.
   QObject::connect(action, &QAction::triggered, &form, chosen, Qt::QueuedConnection);
-  menu->popup(place);
-  menu->setActiveAction(action);
+  controls::popUp(menu, place, action);
 }
 
 /// What was saved for a key of a section of the theme, if that differs.

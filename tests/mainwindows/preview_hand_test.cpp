@@ -1,13 +1,12 @@
 #include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
 
-#include "mainwindows/hand_geometry.h"
 #include "support/row_name.h"
 #include "support/snapshot.h"
 #include "themefiles/ini_access.h"
 
 using namespace support;
-using mainwindows::Grip;
-using mainwindows::HeldNumbers;
 
 namespace {
 
@@ -52,32 +51,6 @@ class PreviewHandTest : public ProgramTest {
   }
 
  private Q_SLOTS:
-  void grips() {
-    const std::pair<QPoint, QString> rows[] = {{{11, 50}, u"X=15 W=95"_s},        {{109, 50}, u"W=105"_s},
-                                               {{60, 21}, u"Y=27 H=73"_s},        {{60, 99}, u"H=87"_s},
-                                               {{60, 50}, u"X=15 Y=27"_s},        {{10, 20}, u"X=15 Y=27 W=95 H=73"_s},
-                                               {{109, 20}, u"Y=27 W=105 H=73"_s}, {{10, 99}, u"X=15 W=95 H=87"_s},
-                                               {{109, 99}, u"W=105 H=87"_s}};
-    for (const auto& [pixel, expected] : rows) {
-      const Grip grip = mainwindows::gripAt({10, 20, 100, 80}, pixel);
-      const HeldNumbers start{10, 20, 100, 80, u"H"_s};
-      QStringList changed;
-      for (const auto& [key, value] : mainwindows::changedValues(start, mainwindows::moved(start, grip, {5, 7}))) {
-        changed += key + u'=' + value;
-      }
-      QCOMPARE(changed.join(u' '), expected);
-    }
-  }
-
-  void limits() {
-    const HeldNumbers start{-20, 9990, 10, 10, u"H"_s};
-    const HeldNumbers right = mainwindows::moved(start, {}, {5, 0});
-    QVERIFY(right.X == 0 && right.Y == 9990);
-    QCOMPARE(mainwindows::moved(start, {}, {0, 50}).X, -20);
-    QCOMPARE(mainwindows::moved(start, {}, {0, 50}).Y, 10000);
-    QCOMPARE(mainwindows::moved(start, {1, 1}, {-50, 0}).W, 1);
-  }
-
   /// A drag leaves what an Update of the same numbers leaves.
   void dragIsAnUpdate() {
     const struct {
@@ -90,7 +63,7 @@ class PreviewHandTest : public ProgramTest {
         {u"LoadingStaticA"_s, Inside, {9, 25}, u"Y=75"_s, Qt::ControlModifier},
         {u"LoadingStaticA"_s, {41, 51}, {-6, 7}, u"X=34 Y=57 W=106 H=53"_s, {}},
         {u"LoadingStaticA"_s, {138, 80}, {12, 30}, u"W=112"_s, {}},
-        {u"LoadingButtonGo"_s, {340, 230}, {-310, 0}, u"X=0"_s, {}},  // the selected one
+        {u"LoadingButtonGo"_s, {340, 230}, {-300, 0}, u"X=0"_s, {}},  // the selected one
         {u"LoadingButtonGo"_s, {378, 258}, {5, 7}, u"W=85 SelectH=67"_s, {}},
         {u"LoadingButtonLast"_s, {340, 338}, {0, 9}, u"H=49"_s, {}},
         {u"LoadingTextFree"_s, {400, 108}, {10, -4}, u"X=410 Y=96"_s, {}},
@@ -190,10 +163,56 @@ class PreviewHandTest : public ProgramTest {
     QCOMPARE(program->picture(), before);
     moveMouse(preview(), Inside + QPoint(5, 0));
     drop(Inside + QPoint(5, 0));
-    QCOMPARE(newLines(left), QStringList{u"X=0"_s});
+    QCOMPARE(newLines(left), QStringList{u"X=-15"_s});
     const QByteArray fraction = draw("Y", "50.5");
     drag(Inside, {0, 6});
     QCOMPARE(newLines(fraction), QStringList{u"Y=56"_s});
+  }
+
+  /// As for an Update: what this program wrote last is the start.
+  void copyGoneOrEmptied() {
+    program->tag(u"LoadingStaticA"_s);
+    const QByteArray before = game->get(ThemeCopy);
+    const QString copy = program->state.paths.ThemeFile;
+    for (const bool gone : {true, false}) {
+      for (const bool inHand : {false, true}) {
+        const auto lose = [&] {
+          game->put(ThemeCopy, {});
+          if (gone) QFile::remove(game->native(ThemeCopy));
+        };
+        if (!inHand) lose();
+        hold(Inside, {30, 0});
+        if (inHand) lose();
+        drop(Inside + QPoint(30, 0));
+        QCOMPARE(newLines(before), QStringList{u"X=70"_s});
+        const QString note = gone ? u"%1 was gone and is made anew"_s : u"%1 was empty and is made anew"_s;
+        QCOMPARE(program->status(), u"LoadingStaticA: X = 70; "_s + note.arg(copy));
+        program->change(u"X"_s, u"40"_s);
+      }
+    }
+  }
+
+  void scrolls() {
+    QScrollArea& area = *program->form.PreviewArea;
+    area.resize(300, 200);
+    const auto sees = [&](const QRect& place) {
+      return QRect(-preview().pos(), area.viewport()->size()).contains(place);
+    };
+    program->tag(u"LoadingButtonLast"_s);
+    QVERIFY(sees({300, 300, 80, 40}));
+    program->tag(u"LoadingStaticA"_s);
+    QVERIFY(sees({40, 50, 100, 60}));
+    // A drag at the edge goes on while the mouse rests, by as much as is scrolled. A click scrolls nothing.
+    hold(Inside, {200, 0});
+    QTRY_VERIFY(area.horizontalScrollBar()->value() >= 24);
+    const int by = area.horizontalScrollBar()->value();
+    drop(Inside + QPoint(200 + by, 0));
+    QCOMPARE(program->value(u"X"_s), QString::number(240 + by));
+    QTest::qWait(100);
+    QCOMPARE(area.horizontalScrollBar()->value(), by);
+    const QPoint before = preview().pos();
+    QTest::mouseClick(&preview(), Qt::LeftButton, {}, {-before.x() + 280, 60});
+    QCOMPARE(preview().pos(), before);
   }
 
   /// The mark of a text is a line; what is dragged lies over a picture.
@@ -265,6 +284,8 @@ class PreviewHandTest : public ProgramTest {
     } rows[] = {{"X", "", {}, u"X is missing"_s},
                 {"X", "wide", {}, u"X: wide is no number"_s},
                 {"Y", "-1", {}, u"Y is -1"_s},
+                {"Y", "-1.4", {}, u"Y is -1"_s},
+                {"X", "-10001", {}, u"X: -10001 is too large"_s},
                 {"X", "99999999999", {}, u"X: 99999999999 is too large"_s},
                 {"X", "-1", Qt::ControlModifier, ownSize},
                 {"H", "-1", Qt::ControlModifier, ownSize}};

@@ -81,13 +81,18 @@ inline void open(Program& program, const char* theme, const char* skin, Qt::Key 
     qFatal("not open");
 }
 
+/// Real keys and the like, all in the queue before the program sees the first.
+inline void xdotool(const QStringList& words) {
+  QProcess::execute(u"xdotool"_s, words);
+}
+
 /// Has the window manager bring a window to the front, as a taskbar does. The window's own request is lost when the
 /// last event that the program knows of is older than the last change of focus; events made by a test have no time.
 inline void bringToFront(const QWidget& window) {
 #ifdef Q_OS_WIN
   ::SetForegroundWindow(reinterpret_cast<HWND>(window.winId()));
 #else
-  QProcess::execute(u"xdotool"_s, {u"windowactivate"_s, QString::number(window.winId())});
+  xdotool({u"windowactivate"_s, QString::number(window.winId())});
 #endif
 }
 
