@@ -109,11 +109,8 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
     auto turn = turnAtCopy(path);
     const Start start = startFrom(turn, state, file, notes);
     const QByteArray changed = change(start.text);
-    if (!start.isThere) {
-      makeAnew(turn, path, changed);
-    } else if (changed != start.text) {
-      turn.replace(changed);
-    }
+    // A value that stands there already is written again.
+    start.isThere ? turn.replace(changed) : makeAnew(turn, path, changed);
     state.ownCopies.at(file) = changed;
     for (const QString& key : keys) checkReadsBack(changed, section, key, path);
   });

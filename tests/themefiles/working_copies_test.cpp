@@ -8,6 +8,7 @@
 #include <QTest>
 
 #include "platform/failure.h"
+#include "platform/file_identity.h"
 #include "support/panel.h"
 #include "themefiles/ini_access.h"
 
@@ -68,6 +69,20 @@ class WorkingCopiesTest : public QObject {
     QCOMPARE(game.folder.get(Theme + u".tmp.old.2"_s), "edited" + Bytes);
     QVERIFY(game.panel.texts.size() == 2 && game.panel.texts[1].contains(u"another program"));
     QVERIFY(!game.folder.has(Theme + u".bak"_s));
+  }
+
+  /// What stands there already is written again: a copy that takes no edit doesn't hide behind it.
+  void unchangedIsWrittenAgain() {
+    Game game;
+    game.folder.put(Theme, "[S]\nk=v\n");
+    QVERIFY(game.open());
+    const auto edit = [&] { putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, u"k"_s, u"v"_s, game.panel); };
+    const auto before = platform::identityOf(game.state.paths.ThemeFile);
+    edit();
+    QVERIFY(platform::identityOf(game.state.paths.ThemeFile) != before);
+    QCOMPARE(game.folder.get(Theme + Copy), "[S]\nk=v\n");
+    game.folder.protect(Theme + Copy);
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, edit());
   }
 
   void keepsWhatOthersWrote() {
