@@ -32,10 +32,10 @@ Look look(const QString& path, AtLink atLink, QString& native) {
 }
 
 /// The turn at the file, under the name that it has on the disk.
-Turn turnAt(const QString& path, AtLink atLink) {
+Turn turnAt(const QString& path, AtLink atLink, Readers readers) {
   QString native;
   look(path, AtLink::Replace, native);
-  return valueOf(Turn::take(native, atLink), path);
+  return valueOf(Turn::take(native, atLink, readers), path);
 }
 
 }  // namespace
@@ -63,7 +63,8 @@ std::optional<QByteArray> readIfThere(const QString& path, AtLink atLink) {
   return file ? std::optional(bytesOf(*file, path)) : std::nullopt;
 }
 
-FileTurn::FileTurn(const QString& path, AtLink atLink) : path_(path), turn_(turnAt(path, atLink)) {
+FileTurn::FileTurn(const QString& path, AtLink atLink)
+    : path_(path), turn_(turnAt(path, atLink, atLink == AtLink::Follow ? Readers::All : Readers::Owner)) {
   if (turn_.present()) text_ = bytesOf(*turn_.present(), path);
 }
 
@@ -71,8 +72,8 @@ void FileTurn::replace(QByteArrayView bytes, const OpenFile* like) {
   valueOf(turn_.replace(bytes, like), path_);
 }
 
-void writeFile(const QString& path, QByteArrayView bytes) {
-  Turn turn = turnAt(path, AtLink::Follow);
+void writeFile(const QString& path, QByteArrayView bytes, AtLink atLink) {
+  Turn turn = turnAt(path, atLink, Readers::All);
   valueOf(turn.replace(bytes, nullptr), path);
 }
 

@@ -32,8 +32,7 @@ std::optional<QByteArray> readIfThere(const QString& path, AtLink atLink = AtLin
 /// that of its game file, and both before that of a file that is kept beside.
 class FileTurn {
  public:
-  /// Waits up to a second for the turn, then reads the file. Fails if the user may not write the file, if the owner's
-  /// write bit is off (even for the superuser), or if the folder doesn't exist.
+  /// Waits up to a second for the turn, then reads the file. Fails if the folder doesn't exist or can't be written.
   explicit FileTurn(const QString& path, AtLink atLink = AtLink::Follow);
 
   /// What stands in the file; none if there is nothing at the path, with Replace also if there is a link.
@@ -42,7 +41,8 @@ class FileTurn {
   const OpenFile* present() const { return turn_.present(); }
 
   /// Replaces or creates the file, once (see Turn::replace). At any instant either the old file or the new one is there
-  /// as a whole.
+  /// as a whole. Fails if the user may not write the file, or if the owner's write bit is off (even for the superuser).
+  /// With Replace a new file that isn't like another one is its user's alone.
   void replace(QByteArrayView bytes, const OpenFile* like = nullptr);
 
  private:
@@ -52,7 +52,7 @@ class FileTurn {
 };
 
 /// Replaces or creates the file, whatever stands in it.
-void writeFile(const QString& path, QByteArrayView bytes);
+void writeFile(const QString& path, QByteArrayView bytes, AtLink atLink = AtLink::Follow);
 
 /// Whether there is a file at the path.
 bool fileExists(const QString& path);

@@ -115,22 +115,21 @@ FileError withoutTurn(const QByteArray& name, const FileError& error) {
 
 }  // namespace
 
-FileResult<Turn> Turn::take(const QString& native, AtLink atLink) {
+FileResult<Turn> Turn::take(const QString& native, AtLink atLink, Readers readers) {
   const auto target = atLink == AtLink::Follow ? followLinks(encodedName(native)) : encodedName(native);
   if (!target) return target.error();
-  // A file that becomes the copy of another one is nobody else's until it has the rights of that.
+  // What replaces a file is nobody else's until it has the rights of that.
   struct stat old;
-  const auto looked = atLink == AtLink::Follow ? called(::lstat(target->constData(), &old)) : Done();
+  const auto looked = called(::lstat(target->constData(), &old));
   if (!looked && !looked.isMissing()) return looked.error();
   const QByteArray temporary = *target + TemporaryEnding;
-  auto file = makeInTurn(temporary, looked ? ForOwner : ForAll);
+  const bool replaces = looked && !S_ISLNK(old.st_mode);
+  auto file = makeInTurn(temporary, replaces || readers == Readers::Owner ? ForOwner : ForAll);
   if (!file) return withoutTurn(temporary, file.error());
   Turn turn(decodedName(*target), decodedName(temporary), std::move(*file));
   auto present = OpenFile::open(turn.target_, AtLink::Replace);
   if (!present && !present.isMissing()) return present.error();
-  if (!present) return turn;
-  if (const auto writable = checkWritable(*target, *present); !writable) return writable.error();
-  turn.present_ = std::move(*present);
+  if (present) turn.present_ = std::move(*present);
   return turn;
 }
 
@@ -139,12 +138,9 @@ Turn::~Turn() {
 }
 
 FileResult<> Turn::replace(QByteArrayView bytes, const OpenFile* like) {
-  FileResult<> done = Done();
-  if (like) {
-    done = copyAccess(lock_, *like);
-  } else if (present_) {
-    done = keepAttributes(lock_, *present_);
-  }
+  FileResult<> done = present_ ? checkWritable(encodedName(target_), *present_) : Done();
+  if (done && like) done = copyAccess(lock_, *like);
+  if (done && !like && present_) done = keepAttributes(lock_, *present_);
   if (done) done = writeAll(lock_, bytes);
   if (done) done = flush(lock_);
   // The file is renamed while it is open, so that it stays locked. Closing can't fail to write: all is flushed.

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -162,6 +163,31 @@ class WorkingCopiesTest : public QObject {
       const QByteArray text = game.folder.get(name);
       QCOMPARE(text.count("=p"), Programs * Edits);
     }
+  }
+
+  void nobodyElseReadsACopy() {
+    Game game;
+    const auto has = [&](const QString& name, mode_t mode) {
+      struct stat status;
+      return ::stat(game.folder.native(name).toUtf8(), &status) == 0 && (status.st_mode & 07777) == mode;
+    };
+    QVERIFY(::chmod(game.folder.native(Theme).toUtf8(), 0600) == 0);
+    game.folder.protect(Skin);  // a working copy can be written all the same
+    QVERIFY(game.open() && has(Theme + Copy, 0600) && has(Skin + Copy, 0600));
+    const auto edit = [&](const QString& value) {
+      putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, u"k"_s, value, game.panel);
+    };
+    game.folder.put(Theme + Copy, "by another hand");
+    edit(u"1"_s);
+    QVERIFY(has(Theme + u".tmp.old"_s, 0600) && has(Theme + Copy, 0600));
+    QVERIFY(QFile::remove(game.folder.native(Theme + Copy)));
+    edit(u"2"_s);
+    QVERIFY(has(Theme + Copy, 0600));
+    game.folder.protect(Skin, false);
+    game.folder.put(Theme, "by another hand");
+    QVERIFY(game.save() && has(Theme + u".bak"_s, 0600) && has(Theme, 0600));
+    QVERIFY(QFile::remove(game.folder.native(Theme)));
+    QVERIFY(game.save() && has(Theme, 0600));
   }
 
   void anotherProgramsTurn() {

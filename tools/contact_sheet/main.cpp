@@ -49,8 +49,8 @@ void drawSheet(const contactsheet::Arguments& arguments) {
   }
   contactsheet::writePng(contactsheet::overview(screens),
                          outputPath(arguments.outputFolder, QStringLiteral("overview.png")));
-  contactsheet::writeOutput(outputPath(arguments.outputFolder, QStringLiteral("report.tsv")),
-                            contactsheet::reportText(report));
+  platform::writeFile(outputPath(arguments.outputFolder, QStringLiteral("report.tsv")),
+                      contactsheet::reportText(report), platform::AtLink::Replace);
 }
 
 }  // namespace

@@ -1,14 +1,11 @@
 #include "sheet.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
 #include <QPainter>
 
 #include "drawing/fonts.h"
 #include "platform/failure.h"
 #include "platform/files.h"
-#include "platform/paths.h"
 
 namespace contactsheet {
 namespace {
@@ -48,15 +45,7 @@ void writePng(const QImage& picture, const QString& path) {
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
   if (!picture.save(&buffer, "PNG")) throw platform::Failure(QStringLiteral("can't make the picture ") + path);
-  writeOutput(path, bytes);
-}
-
-void writeOutput(const QString& path, const QByteArray& bytes) {
-  const QFileInfo present(platform::nativePath(path));
-  if (present.isSymbolicLink() && !QFile::remove(present.filePath())) {
-    throw platform::Failure(QStringLiteral("can't remove the link ") + path);
-  }
-  platform::writeFile(path, bytes);
+  platform::writeFile(path, bytes, platform::AtLink::Replace);
 }
 
 }  // namespace contactsheet
