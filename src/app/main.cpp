@@ -45,7 +45,7 @@ int main(int argc, char** argv) {
   try {
     commandLine = mainwindows::parseCommandLine(QApplication::arguments());
   } catch (const platform::Failure& failure) {
-    platform::print(stderr, QStringLiteral("cantorama-theme-edit: ") + failure.description());
+    platform::print(stderr, QStringLiteral("cantorama-theme-edit: ") + platform::onOneLine(failure.description()));
     return WrongCommandLine;
   }
   controls::applyLook(application);

@@ -1,5 +1,8 @@
 #include "platform/console.h"
 
+#include <algorithm>
+#include <array>
+
 #ifdef Q_OS_WIN
 #include <fcntl.h>
 #include <io.h>
@@ -8,6 +11,16 @@
 #endif
 
 namespace platform {
+
+namespace {
+
+bool steers(QChar letter) {
+  constexpr std::array<QChar::Category, 4> Steering{QChar::Other_Control, QChar::Other_Format, QChar::Separator_Line,
+                                                    QChar::Separator_Paragraph};
+  return std::find(Steering.begin(), Steering.end(), letter.category()) != Steering.end();
+}
+
+}  // namespace
 
 #ifdef Q_OS_WIN
 
@@ -37,6 +50,11 @@ QStringList commandLineWords(int argc, char** argv) {
 void prepareOutput() {}
 
 #endif
+
+QString onOneLine(QString text) {
+  std::replace_if(text.begin(), text.end(), steers, QChar(u'?'));
+  return text;
+}
 
 void print(std::FILE* stream, const QString& text) {
   std::fprintf(stream, "%s\n", text.toUtf8().constData());

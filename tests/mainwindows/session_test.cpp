@@ -93,7 +93,6 @@ class SessionTest : public ProgramTest {
     program->tools().Command1->click();
     QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
     QVERIFY2(program->status().contains(noted.arg(copy)), qPrintable(program->status()));
-    game->protect(LanguageCopy, false);
     program->click(2);
     QVERIFY(program->status() == u"Saved" && !program->state.Changed);
     anOldOne();

@@ -18,7 +18,7 @@ using platform::print;
 /// Writes every report to the standard error output.
 class ErrorOutput : public platform::StatusLine {
  protected:
-  void showReport(const QString& text) override { print(stderr, windowless::onOneLine(text)); }
+  void showReport(const QString& text) override { print(stderr, platform::onOneLine(text)); }
 };
 
 /// The path of a file of the output folder, which is made when it isn't there.

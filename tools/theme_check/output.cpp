@@ -4,7 +4,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include "windowless_tool.h"
+#include "platform/console.h"
 
 namespace themechecktool {
 namespace {
@@ -44,7 +44,7 @@ QString lineOf(const Finding& finding) {
       QStringLiteral("%1:%2: %3: ").arg(place.file, QString::number(place.line), nameOf(finding.level));
   const QString rest = QStringList{field(place.section), field(place.key), finding.text}.join(QStringLiteral(": "));
   const QString where = finding.where.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.where);
-  return windowless::onOneLine(head + rest + where);
+  return platform::onOneLine(head + rest + where);
 }
 
 QByteArray jsonOf(const std::vector<Finding>& findings) {

@@ -2,7 +2,7 @@
 
 #include <cstdio>
 
-#include "windowless_tool.h"
+#include "platform/console.h"
 
 #ifdef Q_OS_WIN
 #include <io.h>
@@ -36,7 +36,7 @@ ProgressLine::~ProgressLine() {
 void ProgressLine::show(const QString& text) {
   if (!onTerminal_ || sinceStart_.elapsed() < LongRun) return;
   shown_ = true;
-  std::fprintf(stderr, "\r\033[K%s", windowless::onOneLine(text).toUtf8().constData());
+  std::fprintf(stderr, "\r\033[K%s", platform::onOneLine(text).toUtf8().constData());
   std::fflush(stderr);
 }
 

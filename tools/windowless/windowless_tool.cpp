@@ -1,7 +1,5 @@
 #include "windowless_tool.h"
 
-#include <algorithm>
-#include <array>
 #include <csignal>
 
 #include <QGuiApplication>
@@ -11,17 +9,12 @@
 namespace windowless {
 namespace {
 
+using platform::onOneLine;
 using platform::print;
 
 /// They are about a desktop that isn't there, and about pictures, of which the program tells itself.
 void dropMessage(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
   if (type == QtCriticalMsg || type == QtFatalMsg) print(stderr, onOneLine(text));
-}
-
-bool steers(QChar letter) {
-  constexpr std::array<QChar::Category, 4> Steering{QChar::Other_Control, QChar::Other_Format, QChar::Separator_Line,
-                                                    QChar::Separator_Paragraph};
-  return std::find(Steering.begin(), Steering.end(), letter.category()) != Steering.end();
 }
 
 /// Runs the program, and makes sure that all of its output is written.
@@ -34,11 +27,6 @@ int runAndFlush(const std::function<int(const QStringList& words)>& run, const Q
 }
 
 }  // namespace
-
-QString onOneLine(QString text) {
-  std::replace_if(text.begin(), text.end(), steers, QChar(u'?'));
-  return text;
-}
 
 int runTool(const QString& name, int argc, char** argv, const std::function<int(const QStringList& words)>& run) {
 #ifdef SIGPIPE

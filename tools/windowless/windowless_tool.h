@@ -19,10 +19,6 @@ struct WrongUsage : platform::Failure {
   QString usage;
 };
 
-/// The text with a "?" for each letter that would end the line or steer the terminal. Names of files and what stands in
-/// them may hold such letters.
-QString onOneLine(QString text);
-
 /// Runs a program that draws with no display, and with no setting of a desktop, by the words of its command line;
 /// gives its exit status. A platform::Failure goes to the standard error output behind the program's name, on one line;
 /// so does output that can't be written in full. The toolkit's own messages are dropped.
