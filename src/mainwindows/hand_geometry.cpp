@@ -6,8 +6,8 @@
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/files.h"
+#include "platform/ini_reading.h"
 #include "platform/numbers.h"
-#include "platform/profile_reading.h"
 #include "themefiles/ini_access.h"
 
 namespace mainwindows {
@@ -111,7 +111,7 @@ Qt::CursorShape shapeOf(Grip grip) {
 HeldNumbers readHeld(const QString& name, const QString& fileName, Grip grip, const QString& heightKey) {
   const QByteArray file = platform::readFile(fileName);
   const themefiles::SectionReader section(
-      file, platform::findProfileSection(file, platform::toAnsi(name).value_or(QByteArray())));
+      file, platform::findIniSection(file, platform::toAnsi(name).value_or(QByteArray())));
   if (!section.isThere()) throw platform::Failure(QStringLiteral("its section is gone"));
   HeldNumbers numbers;
   numbers.heightKey = heightKey;

@@ -11,7 +11,7 @@
 #include <QString>
 
 #include "platform/file_identity.h"
-#include "platform/profile_reading.h"
+#include "platform/ini_reading.h"
 #include "themefiles/ini_access.h"
 
 namespace renderer {
@@ -42,7 +42,7 @@ class TrialFiles {
     Q_DISABLE_COPY_MOVE(SeenFile)
 
     QByteArray bytes;
-    platform::ProfileSections sections;
+    platform::IniSections sections;
     std::map<QString, themefiles::SectionReader> readers;
     std::optional<platform::FileIdentity>
         kept;  ///< the file is the same as long as this is; none if that isn't certain

@@ -4,7 +4,7 @@
 
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "platform/profile_outline.h"
+#include "platform/ini_outline.h"
 #include "platform/text_lines.h"
 
 namespace themecheck {
@@ -55,7 +55,7 @@ QString IniSection::value(const QString& key) const {
 IniFile::IniFile(QString name, const QString& path, QString shown) : name_(std::move(name)), shown_(std::move(shown)) {
   const QByteArray file = platform::readFile(path);
   tagLines_ = linesOfTags(file);
-  for (const platform::OutlineSection& found : platform::profileOutline(file)) {
+  for (const platform::OutlineSection& found : platform::iniOutline(file)) {
     IniSection& section = sections_.emplace_back();
     section.name = platform::fromAnsi(found.name);
     section.line = found.line;

@@ -6,8 +6,8 @@
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/files.h"
-#include "platform/profile_reading.h"
-#include "platform/profile_writing.h"
+#include "platform/ini_reading.h"
+#include "platform/ini_writing.h"
 
 namespace themefiles {
 namespace {
@@ -41,7 +41,7 @@ QByteArray lineBytes(const QString& text) {
 
 /// The key list of a section. A list that is too long is cut so that two NULs still fit into the buffer.
 QByteArray keyList(const QByteArray& file, const QByteArray& section, qint16 bufferSize) {
-  const QByteArray keys = platform::listProfileKeys(file, section);
+  const QByteArray keys = platform::listIniKeys(file, section);
   return keys.size() < bufferSize ? keys : keys.left(bufferSize - 2);
 }
 
@@ -57,7 +57,7 @@ QByteArray put(const QString& Section, const QString& Key, const std::optional<Q
 
 /// The value as it reads back from an ini file.
 std::optional<QByteArray> givenBack(const QByteArray& value) {
-  return platform::findProfileValue("[s]\nk=" + value, "s", "k");
+  return platform::findIniValue("[s]\nk=" + value, "s", "k");
 }
 
 }  // namespace
@@ -78,19 +78,19 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
   const auto key = platform::toAnsi(Key.value_or(QString()));
   const QByteArray file = bytesOrNone(FileName);
   if (!Key) return section ? platform::fromAnsi(keyList(file, *section, BufferSize)) : QString();
-  if (section && key && !key->isEmpty()) found = platform::findProfileValue(file, *section, *key);
+  if (section && key && !key->isEmpty()) found = platform::findIniValue(file, *section, *key);
   return shown(found, Default, BufferSize);
 }
 
 SectionReader::SectionReader(const QString& Section, const QString& FileName) : file_(bytesOrNone(FileName)) {
-  if (const auto section = platform::toAnsi(Section)) lines_ = platform::findProfileSection(file_, *section);
+  if (const auto section = platform::toAnsi(Section)) lines_ = platform::findIniSection(file_, *section);
 }
 
 QString SectionReader::Value(const QString& Key, const QString& Default) const {
   const auto key = platform::toAnsi(Key);
   if (!key || key->isEmpty() || !lines_) return shown(std::nullopt, Default, ValueBufferSize);
-  if (!std::exchange(asked_, true)) return shown(platform::findProfileValue(*lines_, *key), Default, ValueBufferSize);
-  if (keys_.empty()) keys_ = platform::profileLines(*lines_);
+  if (!std::exchange(asked_, true)) return shown(platform::findIniValue(*lines_, *key), Default, ValueBufferSize);
+  if (keys_.empty()) keys_ = platform::iniLines(*lines_);
   const auto* const line = platform::lineOf(keys_, *key);
   return shown(line ? std::optional(platform::unquoted(line->value)) : std::nullopt, Default, ValueBufferSize);
 }
@@ -113,9 +113,9 @@ QByteArray changedText(const QByteArray& text, const QString& Section, const QSt
   const QByteArray section = lineBytes(Section);
   const QByteArray key = lineBytes(Key);
   const QByteArray value = lineBytes(Value.value_or(QString()));
-  if (!Value) return platform::removeProfileKey(text, section, key).value_or(text);
-  const QByteArray changed = platform::setProfileValue(text, section, key, value).value_or(text);
-  if (platform::findProfileValue(changed, section, key) != givenBack(value)) {
+  if (!Value) return platform::removeIniKey(text, section, key).value_or(text);
+  const QByteArray changed = platform::setIniValue(text, section, key, value).value_or(text);
+  if (platform::findIniValue(changed, section, key) != givenBack(value)) {
     throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(Key, Section));
   }
   return changed;
@@ -131,8 +131,8 @@ void checkReadsBack(const QByteArray& written, const QString& Section, const QSt
     throw platform::Failure(
         QStringLiteral("%1 in [%2] was written, but can't be read back: %3").arg(Key, Section, failure.description()));
   }
-  const bool same = now && (*now == written || platform::findProfileValue(*now, section, key) ==
-                                                   platform::findProfileValue(written, section, key));
+  const bool same = now && (*now == written || platform::findIniValue(*now, section, key) ==
+                                                   platform::findIniValue(written, section, key));
   if (same) return;
   throw platform::Failure(
       QStringLiteral("%1 in [%2] was written, but another program has changed the file since").arg(Key, Section));
@@ -141,8 +141,8 @@ void checkReadsBack(const QByteArray& written, const QString& Section, const QSt
 QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line) {
   const QByteArray sectionBytes = lineBytes(section);
   const QByteArray keyBytes = lineBytes(key);
-  const QByteArray changed = platform::setProfileLine(text, sectionBytes, keyBytes, line).value_or(text);
-  if (platform::findProfileValue(changed, sectionBytes, keyBytes) != givenBack(line.sliced(line.indexOf('=') + 1))) {
+  const QByteArray changed = platform::setIniLine(text, sectionBytes, keyBytes, line).value_or(text);
+  if (platform::findIniValue(changed, sectionBytes, keyBytes) != givenBack(line.sliced(line.indexOf('=') + 1))) {
     throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(key, section));
   }
   return changed;
@@ -150,13 +150,13 @@ QByteArray changedLine(const QByteArray& text, const QString& section, const QSt
 
 QString wholeValue(const QString& section, const QString& key, const QString& fileName) {
   const auto file = platform::readIfThere(fileName);
-  const auto value = file ? platform::findProfileValue(*file, lineBytes(section), lineBytes(key)) : std::nullopt;
+  const auto value = file ? platform::findIniValue(*file, lineBytes(section), lineBytes(key)) : std::nullopt;
   return platform::fromAnsi(value.value_or(QByteArray()));
 }
 
 bool holdsKey(const QString& Section, const QString& Key, const QString& FileName) {
   const auto file = platform::readIfThere(FileName);
-  return file && platform::findProfileValue(*file, lineBytes(Section), lineBytes(Key));
+  return file && platform::findIniValue(*file, lineBytes(Section), lineBytes(Key));
 }
 
 void checkLineText(const QString& text) {

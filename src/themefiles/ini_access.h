@@ -9,7 +9,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "platform/profile_reading.h"
+#include "platform/ini_reading.h"
 
 /// Access to the keys of ini files. Each call reads or changes the file on disk.
 namespace themefiles {
@@ -42,7 +42,7 @@ class SectionReader {
   QByteArray file_;
   std::optional<QByteArrayView> lines_;  ///< the section's lines in file_
   mutable bool asked_ = false;
-  mutable std::vector<platform::ProfileLine> keys_;  ///< of these lines, once a second key is asked for
+  mutable std::vector<platform::IniLine> keys_;  ///< of these lines, once a second key is asked for
 };
 
 /// Sets the value of a key; adds key and section if they are missing; without a Value removes the key. All other bytes

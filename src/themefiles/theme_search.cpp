@@ -5,7 +5,7 @@
 
 #include "platform/code_page.h"
 #include "platform/files.h"
-#include "platform/profile_reading.h"
+#include "platform/ini_reading.h"
 #include "themefiles/key_table.h"
 #include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
@@ -37,7 +37,7 @@ class ThemeSearch::Reading {
         tags_(theme_),
         rows_(allTags(theme_)),
         sections_(theme_),
-        words_(platform::profileKeys(platform::ProfileSections(language_).lines("Text"))) {}
+        words_(platform::iniKeys(platform::IniSections(language_).lines("Text"))) {}
 
   const ScreenTags& tags() const { return tags_; }
   /// The lines of an object. Screens share them.
@@ -70,16 +70,16 @@ class ThemeSearch::Reading {
   /// The object's words in the language file, by its Text key or else by its name.
   QString wordsOf(const QString& object) const {
     const QByteArray name = platform::toAnsi(object).value_or(QByteArray());
-    const QByteArray key = platform::findProfileValue(sections_.lines(name), "Text").value_or(name);
-    const platform::ProfileLine* line = key.isEmpty() ? nullptr : platform::lineOf(words_, key);
+    const QByteArray key = platform::findIniValue(sections_.lines(name), "Text").value_or(name);
+    const platform::IniLine* line = key.isEmpty() ? nullptr : platform::lineOf(words_, key);
     return line == nullptr ? QString() : platform::fromAnsi(platform::unquoted(line->value));
   }
 
   QByteArray theme_, language_;
   ScreenTags tags_;
   QHash<QString, std::vector<ValueRow>> rows_;
-  platform::ProfileSections sections_;
-  platform::ProfileKeys words_;
+  platform::IniSections sections_;
+  platform::IniKeys words_;
   QHash<QString, std::shared_ptr<const Lines>> lines_;
 };
 

@@ -10,8 +10,8 @@
 namespace toolwindow {
 namespace {
 
-using platform::ProfileKeys;
-using platform::ProfileLine;
+using platform::IniKeys;
+using platform::IniLine;
 using themefiles::ThemePaths;
 
 /// The text that the next edit would change.
@@ -21,20 +21,20 @@ QByteArray presentBytes(const themefiles::ModuleState& state, QString ThemePaths
 }
 
 /// Whether two lines of a key differ in their value; null is no line.
-bool differ(const ProfileLine* a, const ProfileLine* b) {
+bool differ(const IniLine* a, const IniLine* b) {
   if (a == nullptr || b == nullptr) return a != b;
   return a->value != b->value;
 }
 
-ProfileKeys keysOf(const platform::ProfileSections& sections, const QString& section) {
-  return platform::profileKeys(sections.lines(platform::toAnsi(section).value_or(QByteArray())));
+IniKeys keysOf(const platform::IniSections& sections, const QString& section) {
+  return platform::iniKeys(sections.lines(platform::toAnsi(section).value_or(QByteArray())));
 }
 
-QByteArray nameIn(const ProfileLine& reference) {
+QByteArray nameIn(const IniLine& reference) {
   return platform::unquoted(reference.value).toByteArray();
 }
 
-QString shownValue(const ProfileLine& line) {
+QString shownValue(const IniLine& line) {
   return platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1, 1));
 }
 
@@ -50,8 +50,8 @@ SavedState::Target::Target(const File& file, QString ThemePaths::*working, const
     : differs(file.differs()),
       copy(working),
       section(name),
-      now(platform::profileKeys(file.nowSections.lines(name))),
-      saved(platform::profileKeys(file.savedSections.lines(name))) {}
+      now(platform::iniKeys(file.nowSections.lines(name))),
+      saved(platform::iniKeys(file.savedSections.lines(name))) {}
 
 SavedState::SavedState(const themefiles::ModuleState& state)
     : theme_(state, &ThemePaths::ThemeFile),
@@ -66,15 +66,15 @@ const SavedState::Target* SavedState::targetOf(std::optional<themefiles::KeyGrou
 }
 
 /// Whether what the reference stands for differs.
-bool SavedState::differsIn(const Target* target, const ProfileLine& reference) {
+bool SavedState::differsIn(const Target* target, const IniLine& reference) {
   if (target == nullptr || !target->differs) return false;
   const QByteArray name = nameIn(reference);
   return differ(platform::lineOf(target->now, name), platform::lineOf(target->saved, name));
 }
 
-void SavedState::addTarget(SavedValue& saved, const Target& target, const ProfileLine& reference) {
+void SavedState::addTarget(SavedValue& saved, const Target& target, const IniLine& reference) {
   const QByteArray name = nameIn(reference);
-  const ProfileLine* line = platform::lineOf(target.saved, name);
+  const IniLine* line = platform::lineOf(target.saved, name);
   saved.told += QStringLiteral(" = ") + (line == nullptr ? QStringLiteral("nothing") : platform::fromAnsi(line->value));
   if (line == nullptr) return;
   saved.lines.push_back(
@@ -96,8 +96,8 @@ SavedObject::SavedObject(const SavedState& files, const QString& section)
 
 std::optional<SavedValue> SavedObject::of(const QString& key, std::optional<themefiles::KeyGroup> group) const {
   const QByteArray keyBytes = platform::toAnsi(key).value_or(QByteArray());
-  const ProfileLine* now = platform::lineOf(now_, keyBytes);
-  const ProfileLine* saved = platform::lineOf(saved_, keyBytes);
+  const IniLine* now = platform::lineOf(now_, keyBytes);
+  const IniLine* saved = platform::lineOf(saved_, keyBytes);
   if (now == nullptr) return std::nullopt;
   const SavedState::Target* target = files_.targetOf(group);
   const bool valueDiffers = differ(now, saved);
@@ -110,7 +110,7 @@ std::optional<SavedValue> SavedObject::of(const QString& key, std::optional<them
 }
 
 bool SavedObject::differs() const {
-  return std::any_of(now_.begin(), now_.end(), [this](const ProfileLine& line) {
+  return std::any_of(now_.begin(), now_.end(), [this](const IniLine& line) {
     if (line.key.startsWith('#')) return false;  // no row of the grid
     const auto* target = files_.targetOf(themefiles::groupOf(themefiles::keyIdentity(platform::fromAnsi(line.key))));
     return differ(&line, platform::lineOf(saved_, line.key)) || SavedState::differsIn(target, line);

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/profile_reading.h"
+#include "platform/ini_reading.h"
 #include "themefiles/key_table.h"
 #include "themefiles/module_state.h"
 
@@ -42,7 +42,7 @@ class SavedObject {
  private:
   const SavedState& files_;
   QString section_;
-  platform::ProfileKeys now_, saved_;
+  platform::IniKeys now_, saved_;
 };
 
 /// The working copies beside what Open or Save last copied. Reads each working copy once.
@@ -64,7 +64,7 @@ class SavedState {
     bool differs() const { return now != saved; }
 
     QByteArray now, saved;
-    platform::ProfileSections nowSections, savedSections;
+    platform::IniSections nowSections, savedSections;
   };
 
   /// The section of a language or a skin that references lead to.
@@ -74,12 +74,12 @@ class SavedState {
     bool differs;
     QString themefiles::ThemePaths::*copy;
     const char* section;
-    platform::ProfileKeys now, saved;
+    platform::IniKeys now, saved;
   };
 
   const Target* targetOf(std::optional<themefiles::KeyGroup> group) const;
-  static bool differsIn(const Target* target, const platform::ProfileLine& reference);
-  static void addTarget(SavedValue& saved, const Target& target, const platform::ProfileLine& reference);
+  static bool differsIn(const Target* target, const platform::IniLine& reference);
+  static void addTarget(SavedValue& saved, const Target& target, const platform::IniLine& reference);
 
   File theme_, skin_, language_;
   Target textures_, texts_;

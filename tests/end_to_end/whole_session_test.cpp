@@ -1,4 +1,4 @@
-#include "platform/profile_writing.h"
+#include "platform/ini_writing.h"
 #include "support/real_input.h"
 
 using namespace support;
@@ -97,8 +97,8 @@ class WholeSessionTest : public QObject {
       QVERIFY(program->enabled(2));
       QByteArray& file = expected[QLatin1StringView(row.file)];
       const bool words = row.file == Language;
-      file = platform::setProfileValue(file, words ? "Text" : row.object, words ? row.value : row.key,
-                                       words ? row.text : row.value)
+      file = platform::setIniValue(file, words ? "Text" : row.object, words ? row.value : row.key,
+                                   words ? row.text : row.value)
                  .value_or("not changed");
     }
     for (const char* file : {Theme, Skin, Language}) {

@@ -3,7 +3,7 @@
 #include <QThread>
 
 #include "platform/failure.h"
-#include "platform/profile_writing.h"
+#include "platform/ini_writing.h"
 #include "support/row_name.h"
 #include "support/windows.h"
 #include "themefiles/working_copies.h"
@@ -107,7 +107,7 @@ class SecondEditorTest : public QObject {
     QString lost;
     for (int edit = 0; lost.isEmpty() && (edit < 1000 || (turns < 1000 && edit < 30'000)); ++edit) {
       const QByteArray before = program.state.ownCopies[0];
-      const auto expected = platform::setProfileValue(before, "LoadingStaticA", "X", QByteArray::number(edit));
+      const auto expected = platform::setIniValue(before, "LoadingStaticA", "X", QByteArray::number(edit));
       support::Panel notes;
       QString failure;
       try {

@@ -1,19 +1,19 @@
-#include "platform/profile_writing.h"
+#include "platform/ini_writing.h"
 
 #include <algorithm>
 
-#include "platform/profile_lines.h"
+#include "platform/ini_lines.h"
 
 namespace platform {
 
-using profile::KeyLines;
+using ini::KeyLines;
 
 namespace {
 
 /// The line end of the file's first line, or CR LF if it has none.
 QByteArray firstLineEnd(QByteArrayView file) {
-  const char* const textEnd = profile::lineTextEnd(file.begin(), file.end());
-  const char* const next = profile::nextLine(textEnd, file.end());
+  const char* const textEnd = ini::lineTextEnd(file.begin(), file.end());
+  const char* const next = ini::nextLine(textEnd, file.end());
   return textEnd == next ? QByteArray("\r\n") : QByteArray(textEnd, next - textEnd);
 }
 
@@ -24,13 +24,13 @@ QByteArray replaced(QByteArrayView file, const char* from, const char* to, QByte
 }
 
 bool fitsOneLine(QByteArrayView text) {
-  return std::none_of(text.begin(), text.end(), [](char c) { return profile::isLineEnd(c) || c == '\0'; });
+  return std::none_of(text.begin(), text.end(), [](char c) { return ini::isLineEnd(c) || c == '\0'; });
 }
 
 /// Whether a line with these names can be found again once it is written.
 bool canBeFound(QByteArrayView section, QByteArrayView key) {
-  return fitsOneLine(section) && !section.contains(']') && !profile::endsInTab(section) && fitsOneLine(key) &&
-         !key.isEmpty() && !key.contains('=') && !profile::endsInTab(key) && key.front() != ';' && key.front() != '[';
+  return fitsOneLine(section) && !section.contains(']') && !ini::endsInTab(section) && fitsOneLine(key) &&
+         !key.isEmpty() && !key.contains('=') && !ini::endsInTab(key) && key.front() != ';' && key.front() != '[';
 }
 
 /// Which part of a key's line is set.
@@ -38,17 +38,17 @@ enum class Part { Value, Line };
 
 std::optional<QByteArray> setPart(QByteArrayView file, QByteArrayView section, QByteArrayView key, QByteArrayView text,
                                   Part part) {
-  section = profile::askedName(section);
-  key = profile::askedName(key);
+  section = ini::askedName(section);
+  key = ini::askedName(key);
   if (!canBeFound(section, key) || !fitsOneLine(text)) return std::nullopt;
   const QByteArray lineEnd = firstLineEnd(file);
   QByteArray added = (part == Part::Value ? key.toByteArray() + '=' : QByteArray()) + text.toByteArray() + lineEnd;
 
-  const char* place = profile::findSection(file, section);
+  const char* place = ini::findSection(file, section);
   if (place) {
     KeyLines walk(place, file.end());
     while (const auto line = walk.next()) {
-      if (profile::sameName(line->key, key)) {
+      if (ini::sameName(line->key, key)) {
         const char* const from = part == Part::Value ? line->value : line->begin;
         if (QByteArrayView(from, line->textEnd) == text) return std::nullopt;
         return replaced(file, from, line->textEnd, text);
@@ -59,27 +59,27 @@ std::optional<QByteArray> setPart(QByteArrayView file, QByteArrayView section, Q
     place = file.end();
     added.prepend('[' + section.toByteArray() + ']' + lineEnd);
   }
-  const bool openLine = place != file.begin() && !profile::isLineEnd(place[-1]);
+  const bool openLine = place != file.begin() && !ini::isLineEnd(place[-1]);
   if (openLine) added.prepend(lineEnd);
   return replaced(file, place, place, added);
 }
 
 }  // namespace
 
-std::optional<QByteArray> setProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
-                                          QByteArrayView value) {
+std::optional<QByteArray> setIniValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                      QByteArrayView value) {
   return setPart(file, section, key, value, Part::Value);
 }
 
-std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
-                                         QByteArrayView line) {
+std::optional<QByteArray> setIniLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                     QByteArrayView line) {
   return setPart(file, section, key, line, Part::Line);
 }
 
-std::optional<QByteArray> removeProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
-  const char* const lines = profile::findSection(file, profile::askedName(section));
+std::optional<QByteArray> removeIniKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const char* const lines = ini::findSection(file, ini::askedName(section));
   if (!lines) return std::nullopt;
-  const auto line = KeyLines(lines, file.end()).find(profile::askedName(key));
+  const auto line = KeyLines(lines, file.end()).find(ini::askedName(key));
   if (!line) return std::nullopt;
   return replaced(file, line->begin, line->next, {});
 }

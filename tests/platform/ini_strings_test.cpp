@@ -1,7 +1,7 @@
 #include <QTest>
 
-#include "platform/profile_reading.h"
-#include "platform/profile_writing.h"
+#include "platform/ini_reading.h"
+#include "platform/ini_writing.h"
 #include "support/folder.h"
 
 using namespace platform;
@@ -25,12 +25,12 @@ void compareAll(const char* const (&cases)[Count], Work work) {
 
 }  // namespace
 
-class ProfileStringsTest : public QObject {
+class IniStringsTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
   void values() {
-    const auto valueOfK = [](const QByteArray& file) { return findProfileValue(file, "S", "k"); };
+    const auto valueOfK = [](const QByteArray& file) { return findIniValue(file, "S", "k"); };
     const char* const places[] = {"[S]|[S]|k=v => none", "[S]|[T]|k=v => none", "[S]k=v => none", "[S]|k=v|k=w => v",
                                   " \t[ \tS\t ]|k=v => v", "[MyS]|k=v|[S]|k=w => w", "[S]x]|k=v => v",
                                   "[A]|x=[S]|k=w|[S]|k=v => v", ";[S]|k=w|[S]|k=v => v", "[S]| ;k=v => none",
@@ -44,9 +44,9 @@ class ProfileStringsTest : public QObject {
         "[S]|k=a=b => a=b",
     };
     compareAll(texts, valueOfK);
-    QCOMPARE(findProfileValue("[S\xE4]\nk\xF6=v", " s\xC4 ", "  K\xD6"), QByteArray("v"));
-    QCOMPARE(findProfileValue("[S]\n#k=v", "S", "#k"), QByteArray("v"));
-    QVERIFY(!findProfileValue("k=v\n[S]\nj=w", "", "k"));
+    QCOMPARE(findIniValue("[S\xE4]\nk\xF6=v", " s\xC4 ", "  K\xD6"), QByteArray("v"));
+    QCOMPARE(findIniValue("[S]\n#k=v", "S", "#k"), QByteArray("v"));
+    QVERIFY(!findIniValue("k=v\n[S]\nj=w", "", "k"));
     // Of what is asked for, only blanks are cut off.
     for (const auto& [section, key, found] : {std::tuple("S", "\tk", false),
                                               {"S", "k\t ", false},
@@ -54,8 +54,8 @@ class ProfileStringsTest : public QObject {
                                               {"S\t", "k", false},
                                               {" S ", " k ", true}}) {
       for (const QByteArray file : {"[S]\nk=v", "[ S\t]\n\tk\t=v"}) {
-        QCOMPARE(findProfileValue(file, section, key).has_value(), found);
-        QCOMPARE(setProfileValue(file, section, key, "w").has_value(), found);
+        QCOMPARE(findIniValue(file, section, key).has_value(), found);
+        QCOMPARE(setIniValue(file, section, key, "w").has_value(), found);
       }
     }
   }
@@ -63,7 +63,7 @@ class ProfileStringsTest : public QObject {
   void keyLists() {
     const char* const cases[] = {"[T]|k=v => ", "[S]|;c=1|#d=2|e=3 => #d|e|", "[S]|k=1|j=2|k=3 => k|j|k|",
                                  "[S]|=1| = 2|k=3 => k|", "[S]|\ta b = 1|[ S ]|k=2 => a b|"};
-    compareAll(cases, [](const QByteArray& file) { return listProfileKeys(file, "s").replace('\0', "\r\n"); });
+    compareAll(cases, [](const QByteArray& file) { return listIniKeys(file, "s").replace('\0', "\r\n"); });
   }
 
   void set() {
@@ -76,27 +76,27 @@ class ProfileStringsTest : public QObject {
         "[S]|k=old => [S]|k=v", "[S]|j=1 => [S]|j=1|k=v|", "[T]|[S => [T]|[S|k=v|", "[T]|j=1 => [T]|j=1|[S]|k=v|",
         // New lines take the first line end of the file, a changed one keeps its own.
         "[T]\nj=1| => [T]\nj=1|[S]\nk=v\n", "[T]\r[S]\rj=1\r => [T]\r[S]\rj=1\rk=v\r", "[S]\nk=1|j=2 => [S]\nk=v|j=2"};
-    compareAll(cases, [](const QByteArray& file) { return setProfileValue(file, "S", "k", "v"); });
-    QCOMPARE(setProfileValue("[S]\nk=old\n", "S", "k", " \"v\" "), QByteArray("[S]\nk= \"v\" \n"));
-    QCOMPARE(setProfileValue("[S]\nk=old\n", "S", "k", ""), QByteArray("[S]\nk=\n"));
-    QVERIFY(!setProfileValue("[S]\nk=1\n", "S", "k", "v\nj=1"));
+    compareAll(cases, [](const QByteArray& file) { return setIniValue(file, "S", "k", "v"); });
+    QCOMPARE(setIniValue("[S]\nk=old\n", "S", "k", " \"v\" "), QByteArray("[S]\nk= \"v\" \n"));
+    QCOMPARE(setIniValue("[S]\nk=old\n", "S", "k", ""), QByteArray("[S]\nk=\n"));
+    QVERIFY(!setIniValue("[S]\nk=1\n", "S", "k", "v\nj=1"));
   }
 
   void sectionsAndLines() {
     const QByteArray file("k=0\n [ a\t]x\nk= \"v\" \nK=w\n[b\nj=1\n[A]\nk=2\n[\xE4nd \xFFmany More\xB5]\n[]\ne=");
-    const ProfileSections sections(file);
+    const IniSections sections(file);
     for (const char* name : {"A", " b", "", "a\t", "c", "\xC4ND \x9FMany mORE\xB5", "\xC4ND \x9FMany"}) {
-      const auto found = findProfileSection(file, name);
+      const auto found = findIniSection(file, name);
       QCOMPARE(sections.lines(name).data(), found ? found->data() : nullptr);
     }
     QCOMPARE(sections.lines("a"), QByteArrayView("k= \"v\" \nK=w\n"));
-    const ProfileKeys keys = profileKeys(sections.lines("a"));
-    const ProfileLine* line = lineOf(keys, " K ");
+    const IniKeys keys = iniKeys(sections.lines("a"));
+    const IniLine* line = lineOf(keys, " K ");
     QVERIFY(line != nullptr && lineOf(keys, "j") == nullptr);
     QCOMPARE(line->value, QByteArrayView("\"v\""));
     QCOMPARE(line->line, QByteArrayView("k= \"v\" "));
-    QCOMPARE(setProfileLine("[S]\n K=1 \nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nk = 3 \nj=2"));
-    QCOMPARE(setProfileLine("[S]\nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nj=2\nk = 3 \n"));
+    QCOMPARE(setIniLine("[S]\n K=1 \nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nk = 3 \nj=2"));
+    QCOMPARE(setIniLine("[S]\nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nj=2\nk = 3 \n"));
   }
 
   void remove() {
@@ -104,9 +104,9 @@ class ProfileStringsTest : public QObject {
         "[S]|k=v|[T]| => [S]|[T]|", "[S]|j=1| k = v |;c => [S]|j=1|;c", "[S]|k=v => [S]|",
         "[S]|k=1|k=2| => [S]|k=2|", "[S]\rk=1\rj=2\r => [S]\rj=2\r",    "[S]|j=1|[T]|k=2| => none",
         "[S]|;k=1| => none"};
-    compareAll(cases, [](const QByteArray& file) { return removeProfileKey(file, "s", " K "); });
+    compareAll(cases, [](const QByteArray& file) { return removeIniKey(file, "s", " K "); });
   }
 };
 
-QTEST_APPLESS_MAIN(ProfileStringsTest)
-#include "profile_strings_test.moc"
+QTEST_APPLESS_MAIN(IniStringsTest)
+#include "ini_strings_test.moc"

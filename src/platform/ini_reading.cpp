@@ -1,14 +1,14 @@
-#include "platform/profile_reading.h"
+#include "platform/ini_reading.h"
 
 #include <algorithm>
 #include <cstring>
 
 #include "platform/code_page.h"
-#include "platform/profile_lines.h"
+#include "platform/ini_lines.h"
 
 namespace platform {
 
-using profile::KeyLines;
+using ini::KeyLines;
 
 namespace {
 
@@ -28,21 +28,21 @@ quint64 caseless(QByteArrayView letters) {
 
 }  // namespace
 
-std::optional<QByteArray> findProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
-  const auto lines = findProfileSection(file, section);
-  return lines ? findProfileValue(*lines, key) : std::nullopt;
+std::optional<QByteArray> findIniValue(QByteArrayView file, QByteArrayView section, QByteArrayView key) {
+  const auto lines = findIniSection(file, section);
+  return lines ? findIniValue(*lines, key) : std::nullopt;
 }
 
-std::optional<QByteArrayView> findProfileSection(QByteArrayView file, QByteArrayView section) {
-  const char* const lines = profile::findSection(file, profile::askedName(section));
+std::optional<QByteArrayView> findIniSection(QByteArrayView file, QByteArrayView section) {
+  const char* const lines = ini::findSection(file, ini::askedName(section));
   if (!lines) return std::nullopt;
   return QByteArrayView(lines, file.end());
 }
 
-std::optional<QByteArray> findProfileValue(QByteArrayView lines, QByteArrayView key) {
-  const auto line = KeyLines(lines.begin(), lines.end()).find(profile::askedName(key));
+std::optional<QByteArray> findIniValue(QByteArrayView lines, QByteArrayView key) {
+  const auto line = KeyLines(lines.begin(), lines.end()).find(ini::askedName(key));
   if (!line) return std::nullopt;
-  return unquoted(profile::trimmedValue(*line)).toByteArray();
+  return unquoted(ini::trimmedValue(*line)).toByteArray();
 }
 
 QByteArrayView unquoted(QByteArrayView value) {
@@ -51,20 +51,20 @@ QByteArrayView unquoted(QByteArrayView value) {
   return quoted ? value.sliced(1, value.size() - 2) : value;
 }
 
-QByteArray listProfileKeys(QByteArrayView file, QByteArrayView section) {
+QByteArray listIniKeys(QByteArrayView file, QByteArrayView section) {
   QByteArray keys;
-  const auto lines = findProfileSection(file, section);
+  const auto lines = findIniSection(file, section);
   if (!lines) return keys;
   KeyLines walk(lines->begin(), lines->end());
   while (const auto line = walk.next()) keys.append(line->key).append('\0');
   return keys;
 }
 
-bool operator==(const ProfileName& a, const ProfileName& b) {
-  return profile::sameName(a.letters, b.letters);
+bool operator==(const IniName& a, const IniName& b) {
+  return ini::sameName(a.letters, b.letters);
 }
 
-size_t qHash(const ProfileName& name, size_t seed) {
+size_t qHash(const IniName& name, size_t seed) {
   constexpr quint64 Golden = 0x9E3779B97F4A7C15;  // spreads a word's low bits over its high ones
   constexpr int Half = 32;
   quint64 hash = seed;
@@ -75,38 +75,38 @@ size_t qHash(const ProfileName& name, size_t seed) {
   return hash ^ hash >> Half;
 }
 
-ProfileKeys profileKeys(QByteArrayView lines) {
-  ProfileKeys keys;
-  for (const ProfileLine& line : profileLines(lines)) {
+IniKeys iniKeys(QByteArrayView lines) {
+  IniKeys keys;
+  for (const IniLine& line : iniLines(lines)) {
     if (!keys.contains({line.key})) keys.insert({line.key}, line);
   }
   return keys;
 }
 
-const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key) {
-  const auto line = keys.constFind({profile::askedName(key)});
+const IniLine* lineOf(const IniKeys& keys, QByteArrayView key) {
+  const auto line = keys.constFind({ini::askedName(key)});
   return line == keys.constEnd() ? nullptr : &*line;
 }
 
-std::vector<ProfileLine> profileLines(QByteArrayView lines) {
-  std::vector<ProfileLine> all;
+std::vector<IniLine> iniLines(QByteArrayView lines) {
+  std::vector<IniLine> all;
   KeyLines walk(lines.begin(), lines.end());
   while (const auto line = walk.next()) {
-    all.push_back({line->key, profile::trimmedValue(*line), {line->begin, line->textEnd}});
+    all.push_back({line->key, ini::trimmedValue(*line), {line->begin, line->textEnd}});
   }
   return all;
 }
 
-const ProfileLine* lineOf(const std::vector<ProfileLine>& lines, QByteArrayView key) {
-  const QByteArrayView asked = profile::askedName(key);
-  const auto line = std::find_if(lines.begin(), lines.end(),
-                                 [&](const ProfileLine& each) { return profile::sameName(each.key, asked); });
+const IniLine* lineOf(const std::vector<IniLine>& lines, QByteArrayView key) {
+  const QByteArrayView asked = ini::askedName(key);
+  const auto line =
+      std::find_if(lines.begin(), lines.end(), [&](const IniLine& each) { return ini::sameName(each.key, asked); });
   return line == lines.end() ? nullptr : &*line;
 }
 
-ProfileSections::ProfileSections(QByteArrayView file) {
+IniSections::IniSections(QByteArrayView file) {
   const char* const end = file.end();
-  ProfileName name;
+  IniName name;
   const char* lines = nullptr;
   const auto endSection = [&](const char* sectionEnd) {
     if (!lines) return;
@@ -118,18 +118,18 @@ ProfileSections::ProfileSections(QByteArrayView file) {
     const auto* const bracket = static_cast<const char*>(std::memchr(at, '[', end - at));
     if (!bracket) break;
     at = bracket + 1;
-    const char* const head = profile::lineHeadedBy(bracket, file.begin());
+    const char* const head = ini::lineHeadedBy(bracket, file.begin());
     if (!head) continue;
     endSection(head);
-    const char* const textEnd = profile::lineTextEnd(at, end);
-    name = {profile::sectionName(bracket, textEnd)};
-    at = lines = profile::nextLine(textEnd, end);
+    const char* const textEnd = ini::lineTextEnd(at, end);
+    name = {ini::sectionName(bracket, textEnd)};
+    at = lines = ini::nextLine(textEnd, end);
   }
   endSection(end);
 }
 
-QByteArrayView ProfileSections::lines(QByteArrayView name) const {
-  return sections_.value({profile::askedName(name)});
+QByteArrayView IniSections::lines(QByteArrayView name) const {
+  return sections_.value({ini::askedName(name)});
 }
 
 }  // namespace platform

@@ -17,18 +17,18 @@ namespace platform {
 
 /// The value of a key without blanks and tabs at its ends and without one pair of quotation marks around it. None if
 /// the section or the key is missing.
-std::optional<QByteArray> findProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key);
+std::optional<QByteArray> findIniValue(QByteArrayView file, QByteArrayView section, QByteArrayView key);
 
 /// The same in two steps, for several keys of one section: the file from the section's first line on, and a key's value
 /// in it.
-std::optional<QByteArrayView> findProfileSection(QByteArrayView file, QByteArrayView section);
-std::optional<QByteArray> findProfileValue(QByteArrayView lines, QByteArrayView key);
+std::optional<QByteArrayView> findIniSection(QByteArrayView file, QByteArrayView section);
+std::optional<QByteArray> findIniValue(QByteArrayView lines, QByteArrayView key);
 
 /// All keys of the section in file order, duplicates included, each followed by a NUL. Empty without the section.
-QByteArray listProfileKeys(QByteArrayView file, QByteArrayView section);
+QByteArray listIniKeys(QByteArrayView file, QByteArrayView section);
 
 /// A key line of a section.
-struct ProfileLine {
+struct IniLine {
   QByteArrayView key;
   QByteArrayView value;  ///< without blanks at its ends, with its quotation marks
   QByteArrayView line;   ///< the whole line without its line end
@@ -38,33 +38,33 @@ struct ProfileLine {
 QByteArrayView unquoted(QByteArrayView value);
 
 /// A name in a file's bytes, compared regardless of case.
-struct ProfileName {
+struct IniName {
   QByteArrayView letters;
 };
-bool operator==(const ProfileName& a, const ProfileName& b);
-size_t qHash(const ProfileName& name, size_t seed = 0);
+bool operator==(const IniName& a, const IniName& b);
+size_t qHash(const IniName& name, size_t seed = 0);
 
 /// A section's key lines by the key, for many look-ups. Of duplicates it has the first.
-using ProfileKeys = QHash<ProfileName, ProfileLine>;
-ProfileKeys profileKeys(QByteArrayView lines);
+using IniKeys = QHash<IniName, IniLine>;
+IniKeys iniKeys(QByteArrayView lines);
 
 /// The line of the key, or null.
-const ProfileLine* lineOf(const ProfileKeys& keys, QByteArrayView key);
+const IniLine* lineOf(const IniKeys& keys, QByteArrayView key);
 
 /// A section's key lines in file order, duplicates included, for the few keys of an object.
-std::vector<ProfileLine> profileLines(QByteArrayView lines);
+std::vector<IniLine> iniLines(QByteArrayView lines);
 /// The first line of the key, or null.
-const ProfileLine* lineOf(const std::vector<ProfileLine>& lines, QByteArrayView key);
+const IniLine* lineOf(const std::vector<IniLine>& lines, QByteArrayView key);
 
 /// An index of a file's sections, for many look-ups. It refers to the file's bytes.
-class ProfileSections {
+class IniSections {
  public:
-  explicit ProfileSections(QByteArrayView file);
+  explicit IniSections(QByteArrayView file);
   /// The lines of that section up to the next one; a null view without it.
   QByteArrayView lines(QByteArrayView name) const;
 
  private:
-  QHash<ProfileName, QByteArrayView> sections_;
+  QHash<IniName, QByteArrayView> sections_;
 };
 
 }  // namespace platform

@@ -1,11 +1,11 @@
-#include "platform/profile_lines.h"
+#include "platform/ini_lines.h"
 
 #include <algorithm>
 #include <cstring>
 
 #include "platform/code_page.h"
 
-namespace platform::profile {
+namespace platform::ini {
 
 namespace {
 
@@ -102,4 +102,4 @@ QByteArrayView trimmedValue(const KeyLine& line) {
   return trimmed({line.value, line.textEnd});
 }
 
-}  // namespace platform::profile
+}  // namespace platform::ini

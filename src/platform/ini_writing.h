@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-/// Changes an ini file's bytes by the rules in profile_reading.h. The rest of the file stays byte for byte the same.
+/// Changes an ini file's bytes by the rules in ini_reading.h. The rest of the file stays byte for byte the same.
 namespace platform {
 
 /// Sets a key's value and returns the new file:
@@ -15,14 +15,14 @@ namespace platform {
 /// New lines end as the file's first line does, or in CR LF if it has none.
 /// None if nothing changes, or if the line could never be found again: a text with a line end or NUL, a section's name
 /// with "]", a name with a tab at an end, an empty key, or one that contains "=" or starts with ";" or "[".
-std::optional<QByteArray> setProfileValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
-                                          QByteArrayView value);
+std::optional<QByteArray> setIniValue(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                      QByteArrayView value);
 
 /// The same for the key's whole line. `line` has no line end.
-std::optional<QByteArray> setProfileLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
-                                         QByteArrayView line);
+std::optional<QByteArray> setIniLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
+                                     QByteArrayView line);
 
 /// Removes the key's line and returns the new file. None if there is no such key.
-std::optional<QByteArray> removeProfileKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);
+std::optional<QByteArray> removeIniKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);
 
 }  // namespace platform

@@ -1,9 +1,9 @@
-#include "platform/profile_writing.h"
+#include "platform/ini_writing.h"
 
 #include <algorithm>
 
 #include "input.h"
-#include "platform/profile_reading.h"
+#include "platform/ini_reading.h"
 
 using namespace platform;
 
@@ -15,7 +15,7 @@ bool hasLineEnd(QByteArrayView text) {
 
 /// What reading makes of a value: it is read from a file of its own.
 QByteArray readForm(QByteArrayView value) {
-  return findProfileValue("[S]\nk=" + value.toByteArray(), "S", "k").value_or(QByteArray());
+  return findIniValue("[S]\nk=" + value.toByteArray(), "S", "k").value_or(QByteArray());
 }
 
 /// All bytes outside one place stay, and a place that held something lies inside one line.
@@ -37,16 +37,16 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   const QByteArrayView key = input.line();
   const QByteArrayView value = input.line();
   const QByteArrayView file = input.rest();
-  const auto old = findProfileValue(file, section, key);
+  const auto old = findIniValue(file, section, key);
 
-  if (const auto changed = setProfileValue(file, section, key, value)) {
-    fuzz::require(findProfileValue(*changed, section, key) == readForm(value), "a written value is read back");
+  if (const auto changed = setIniValue(file, section, key, value)) {
+    fuzz::require(findIniValue(*changed, section, key) == readForm(value), "a written value is read back");
     requireOnePlace(file, *changed, old.has_value());
-    fuzz::require(!setProfileValue(*changed, section, key, value), "the second write has nothing to do");
-    const auto removed = removeProfileKey(*changed, section, key);
+    fuzz::require(!setIniValue(*changed, section, key, value), "the second write has nothing to do");
+    const auto removed = removeIniKey(*changed, section, key);
     fuzz::require(removed.has_value(), "a written key can be removed");
     requireOnePlace(*removed, *changed, false);
   }
-  fuzz::require(removeProfileKey(file, section, key).has_value() == old.has_value(), "what is found can be removed");
+  fuzz::require(removeIniKey(file, section, key).has_value() == old.has_value(), "what is found can be removed");
   return 0;
 }

@@ -10,7 +10,7 @@ namespace platform {
 // A section and a key line of an ini file. Lines count from 1.
 struct OutlineKey {
   QByteArray name;
-  QByteArray value;  ///< as findProfileValue gives it
+  QByteArray value;  ///< as findIniValue gives it
   int line = 0;
 };
 struct OutlineSection {
@@ -20,6 +20,6 @@ struct OutlineSection {
 };
 
 /// All sections with all their keys in file order, duplicates included.
-std::vector<OutlineSection> profileOutline(QByteArrayView file);
+std::vector<OutlineSection> iniOutline(QByteArrayView file);
 
 }  // namespace platform

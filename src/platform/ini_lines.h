@@ -4,8 +4,8 @@
 
 #include <QByteArrayView>
 
-/// Scans the lines of ini files for profile_reading.h and profile_writing.h. Pointers lead into the file's bytes.
-namespace platform::profile {
+/// Scans the lines of ini files for ini_reading.h and ini_writing.h. Pointers lead into the file's bytes.
+namespace platform::ini {
 
 constexpr bool isBlank(char c) {
   return c == ' ' || c == '\t';
@@ -60,4 +60,4 @@ class KeyLines {
 /// The value of a key line without blanks and tabs at its ends.
 QByteArrayView trimmedValue(const KeyLine& line);
 
-}  // namespace platform::profile
+}  // namespace platform::ini

@@ -1,4 +1,4 @@
-#include "platform/profile_reading.h"
+#include "platform/ini_reading.h"
 
 #include <optional>
 
@@ -6,8 +6,8 @@
 
 #include "input.h"
 #include "platform/code_page.h"
+#include "platform/ini_outline.h"
 #include "platform/numbers.h"
-#include "platform/profile_outline.h"
 #include "platform/text_lines.h"
 
 using namespace platform;
@@ -56,10 +56,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   const QByteArrayView section = input.line();
   const QByteArrayView key = input.line();
   const QByteArrayView file = input.rest();
-  fuzz::require(findProfileValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
+  fuzz::require(findIniValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
 
   QSet<QString> counted;
-  for (const OutlineSection& found : profileOutline(file)) {
+  for (const OutlineSection& found : iniOutline(file)) {
     const QString name = upperCase(fromAnsi(found.name));
     const bool isFirst = !counted.contains(name);
     counted += name;
@@ -67,19 +67,19 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     for (const OutlineKey& line : found.keys) {
       const QString keyName = upperCase(fromAnsi(line.name));
       if (isFirst && !keys.contains(keyName)) {
-        fuzz::require(findProfileValue(file, found.name, line.name) == line.value, "the outline has what is found");
+        fuzz::require(findIniValue(file, found.name, line.name) == line.value, "the outline has what is found");
       }
       keys += keyName;
     }
   }
 
-  const QByteArray keys = listProfileKeys(file, section);
+  const QByteArray keys = listIniKeys(file, section);
   fuzz::require(keys.isEmpty() || keys.endsWith('\0'), "every key is ended");
   if (QByteArrayView(file).contains('\0')) return 0;
   QByteArrayView rest = keys;
   while (!rest.isEmpty()) {
     const qsizetype end = rest.indexOf('\0');
-    fuzz::require(findProfileValue(file, section, rest.first(end)).has_value(), "a listed key has a value");
+    fuzz::require(findIniValue(file, section, rest.first(end)).has_value(), "a listed key has a value");
     rest = rest.sliced(end + 1);
   }
   return 0;
