@@ -37,6 +37,7 @@ void registerThemeCheck();
 void registerFinding();
 void registerShownScreen(const std::shared_ptr<SampleScreen>& screen);
 void registerListing();
+void registerChoosing();
 /// The screen in a large theme; gives it for its gap.
 std::shared_ptr<SampleScreen> registerLargeTheme(const SampleScreen& screen);
 

@@ -1,3 +1,5 @@
+#include "controls/list_box.h"
+#include "controls/list_view.h"
 #include "figures.h"
 #include "open_editor.h"
 #include "platform/files.h"
@@ -39,6 +41,31 @@ void chooseOften(const OpenEditor& editor, int objects, int times) {
   if (editor.form.toolWindow()->List1->ListCount() != objects + 1) qFatal("not all objects are listed");
 }
 
+/// A theme of one object with so many keys.
+QByteArray heap(int keys, char value) {
+  QByteArray text = "[Theme]\r\nName=Heap\r\n[Colors]\r\n[Loading]\r\n[LoadingObject]\r\n";
+  for (int i = 0; i < keys; ++i) text += "Key" + QByteArray::number(i) + '=' + value + "\r\n";
+  return text;
+}
+
+/// All values of the heap differ from the saved ones.
+std::shared_ptr<OpenEditor> editorOfHeap(int keys) {
+  const QString name = QStringLiteral("Heap");
+  auto editor = std::make_shared<OpenEditor>(name, QStringLiteral("Loading Screen"),
+                                             [&](const QString& game) { addTheme(game, name, heap(keys, '1')); });
+  platform::writeFile(editor->state.paths.ThemeFile, heap(keys, '2'));
+  return editor;
+}
+
+/// Chooses the object, until all of its keys are marked.
+void chooseHeap(const OpenEditor& editor, int keys) {
+  const toolwindow::Form2& tools = *editor.form.toolWindow();
+  tools.List1->SetListIndex(1);
+  const QTreeWidgetItem* last = tools.ListView1->topLevelItem(keys - 1);
+  if (last == nullptr) qFatal("not all keys are listed");
+  while (last->toolTip(0).isEmpty()) QApplication::processEvents();
+}
+
 /// The theme with sections of no screen before and behind its own, as many in all.
 QByteArray padded(const QByteArray& theme, int sections) {
   QByteArray half;
@@ -75,6 +102,21 @@ void registerListing() {
       },
       [few](benchmark::State& state) {
         for ([[maybe_unused]] auto turn : state) chooseOften(*few, Tenth, Many / Tenth);
+      });
+}
+
+void registerChoosing() {
+  const auto few = editorOfHeap(Tenth);
+  const auto many = editorOfHeap(Many);
+  registerBenchmark(
+      {"ManyKeys", 1.5, Held::AtMost},
+      [many](benchmark::State& state) {
+        for ([[maybe_unused]] auto turn : state) chooseHeap(*many, Many);
+      },
+      [few](benchmark::State& state) {
+        for ([[maybe_unused]] auto turn : state) {
+          for (int i = 0; i < Many / Tenth; ++i) chooseHeap(*few, Tenth);
+        }
       });
 }
 

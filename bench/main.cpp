@@ -121,6 +121,7 @@ int main(int argc, char** argv) {
   bench::registerScreen(screen);
   bench::registerShownScreen(screen);
   bench::registerListing();
+  bench::registerChoosing();
   const std::shared_ptr<bench::SampleScreen> large = bench::registerLargeTheme(*screen);
   bench::registerThemeCheck();
   bench::registerFinding();
