@@ -9,6 +9,18 @@ namespace {
 
 constexpr int WhyBold = Qt::UserRole;
 
+/// A row whose text is near at hand: work on long lists spends its time on looking for the texts.
+struct Row : QListWidgetItem {
+  explicit Row(const QString& shown) : QListWidgetItem(shown), name(shown), order(platform::upperCase(shown)) {}
+  const QString name;
+  const QString order;  ///< see platform::nameLess
+};
+
+/// All rows come from AddItem.
+const Row* rowIn(const QListWidget& list, int index) {
+  return static_cast<const Row*>(list.item(index));
+}
+
 }  // namespace
 
 ListBox::ListBox(Order order, QWidget* parent) : RowPicking(parent), order_(order) {
@@ -23,26 +35,27 @@ void ListBox::Clear() {
 }
 
 void ListBox::AddItem(const QString& text) {
+  auto* row = new Row(text);
   int from = 0;
   int to = count();
   if (order_ == Order::AsAdded) from = to;
   while (from < to) {
     const int middle = (from + to) / 2;
-    if (platform::nameLess(text, item(middle)->text())) {
+    if (row->order < rowIn(*this, middle)->order) {
       to = middle;
     } else {
       from = middle + 1;
     }
   }
-  insertItem(from, text);
+  insertItem(from, row);
   // The view would lay out and paint all rows again for each row that is added.
   setUpdatesEnabled(false);
   frame_.request();
 }
 
 QString ListBox::List(int index) const {
-  const QListWidgetItem* row = item(index);
-  return row == nullptr ? QString() : row->text();
+  const Row* row = rowIn(*this, index);
+  return row == nullptr ? QString() : row->name;
 }
 
 int ListBox::ListIndex() const {
