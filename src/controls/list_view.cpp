@@ -1,6 +1,7 @@
 #include "controls/list_view.h"
 
 #include <QHeaderView>
+#include <QSignalBlocker>
 
 #include "controls/shown_text.h"
 
@@ -60,6 +61,8 @@ void ListView::setSubItem(int row, const QString& text) {
 void ListView::setSaved(int row, const QString& text) {
   QTreeWidgetItem* item = topLevelItem(row);
   if (item == nullptr || item->toolTip(TextColumn) == text) return;
+  // At each change the view would look for the row's place among all others.
+  const QSignalBlocker quiet(model());
   QFont letters = font();
   letters.setBold(!text.isEmpty());
   for (const int column : {TextColumn, SubItemColumn}) {
@@ -67,6 +70,7 @@ void ListView::setSaved(int row, const QString& text) {
     item->setData(column, Qt::AccessibleDescriptionRole, text);
     item->setFont(column, letters);
   }
+  viewport()->update();
 }
 
 void ListView::picked(int row) {

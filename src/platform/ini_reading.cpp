@@ -77,7 +77,9 @@ size_t qHash(const IniName& name, size_t seed) {
 
 IniKeys iniKeys(QByteArrayView lines) {
   IniKeys keys;
-  for (const IniLine& line : iniLines(lines)) {
+  const std::vector<IniLine> all = iniLines(lines);
+  keys.reserve(static_cast<qsizetype>(all.size()));
+  for (const IniLine& line : all) {
     if (!keys.contains({line.key})) keys.insert({line.key}, line);
   }
   return keys;

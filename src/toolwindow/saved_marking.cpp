@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <QPointer>
-#include <QSet>
 
 #include "controls/list_box.h"
 #include "controls/list_view.h"
@@ -41,17 +40,14 @@ struct SavedMarking::Pass {
  private:
   void markKey(int row) {
     const QString key = themefiles::keyIdentity(grid.rowText(row));
-    std::optional<SavedValue> value;
-    if (!seen.contains(key)) value = keys.of(key, themefiles::groupOf(key));
-    seen += key;  // the first of equal keys counts
+    const auto value = keys.takeOf(key, themefiles::groupOf(key));
     grid.setSaved(row, value ? QStringLiteral("saved: ") + value->told : QString());
   }
 
   const SavedState saved;
-  const SavedObject keys;
+  SavedObject keys;
   controls::ListView& grid;
   controls::ListBox& objects;
-  QSet<QString> seen;
   int gridRow = 0;
   int objectRow = 0;
 };

@@ -109,6 +109,12 @@ std::optional<SavedValue> SavedObject::of(const QString& key, std::optional<them
   return result;
 }
 
+std::optional<SavedValue> SavedObject::takeOf(const QString& key, std::optional<themefiles::KeyGroup> group) {
+  auto value = of(key, group);
+  now_.remove({platform::toAnsi(key).value_or(QByteArray())});
+  return value;
+}
+
 bool SavedObject::differs() const {
   return std::any_of(now_.begin(), now_.end(), [this](const IniLine& line) {
     if (line.key.startsWith('#')) return false;  // no row of the grid

@@ -35,6 +35,8 @@ class SavedObject {
   /// What was saved for a key of the theme; none if nothing differs. If the key's `group` makes it a reference, its
   /// words or its picture's file are compared, too.
   std::optional<SavedValue> of(const QString& key, std::optional<themefiles::KeyGroup> group) const;
+  /// The same once: none when the key is asked for again. Of equal keys the first one counts.
+  std::optional<SavedValue> takeOf(const QString& key, std::optional<themefiles::KeyGroup> group);
 
   /// Whether a key differs.
   bool differs() const;

@@ -148,10 +148,10 @@ class SavedStateTest : public ProgramTest {
   /// What bold and grey letters and tips show is told to a screen reader, too, and in the menus.
   void tells() {
     const Form2& tools = program->tools();
-    game->put(ThemeCopy, game->get(ThemeCopy).replace("ColR=0.5", "ColR=0.7\r\nNew=1"));
+    game->put(ThemeCopy, game->get(ThemeCopy).replace("ColR=0.5", "ColR=0.7\r\nNew=1\r\nColR=0.8"));
     program->edit(u"H"_s, u"0"_s);
     program->tag(u"LoadingStaticA"_s);
-    settle();
+    QCOMPARE(marked(), u"LoadingStaticA|H saved: 60|ColR saved: 0.5|New saved: nothing"_s);
     QCOMPARE(menuOfRow(u"ColR"_s), u"(saved: 0.5)"_s);
     QCOMPARE(menuOfRow(u"New"_s), u"(saved: nothing)"_s);
     const QString told = u"differs from the saved state|W x H: '100 x 0' leaves no area"_s;
