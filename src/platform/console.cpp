@@ -6,8 +6,9 @@
 #ifdef Q_OS_WIN
 #include <fcntl.h>
 #include <io.h>
-#include <shellapi.h>
-#include <windows.h>
+
+#include "platform/windows_api.h"
+
 #endif
 
 namespace platform {

@@ -13,6 +13,15 @@ namespace {
 
 constexpr QChar Slash(u'/');
 
+/// Whether the system's files may differ by case alone, and how many separators at the start of a path stay.
+#ifdef Q_OS_WIN
+constexpr bool TellsCaseApart = false;
+constexpr qsizetype HeadSeparators = 2;  // they name a server
+#else
+constexpr bool TellsCaseApart = true;
+constexpr qsizetype HeadSeparators = 1;
+#endif
+
 /// Throws what keeps from knowing whether there is something at the path.
 void check(const QString& path, const FileError& error) {
   if (!error.missing) throw Failure(path.section(Slash, -1) + QStringLiteral(": ") + error.description);
@@ -44,20 +53,14 @@ QString entryLike(const QString& folder, const QString& name) {
 QString plainPath(const QString& path) {
   QString plain = path;
   plain.replace(QChar(u'\\'), Slash);
-#ifdef Q_OS_WIN
-  constexpr qsizetype from = 1;  // two separators at the start name a server
-#else
-  constexpr qsizetype from = 0;
-#endif
   const QString doubled(2, Slash);
-  for (qsizetype at = plain.indexOf(doubled, from); at >= 0; at = plain.indexOf(doubled, at)) plain.remove(at, 1);
+  for (qsizetype at = plain.indexOf(doubled, HeadSeparators - 1); at >= 0; at = plain.indexOf(doubled, at))
+    plain.remove(at, 1);
   return plain;
 }
 
 QString findPath(const QString& plain) {
-#ifdef Q_OS_WIN
-  return plain;
-#else
+  if (!TellsCaseApart) return plain;
   const QStringList components = plain.split(Slash);
   QString found;
   for (qsizetype i = 0; i < components.size(); ++i) {
@@ -67,7 +70,6 @@ QString findPath(const QString& plain) {
         name.isEmpty() || stands(found + name) ? name : entryLike(found.isEmpty() ? QStringLiteral("./") : found, name);
   }
   return found;
-#endif
 }
 
 QString nativePath(const QString& path) {
