@@ -5,7 +5,7 @@
 
 #include "support/windows.h"
 #ifdef Q_OS_WIN
-#include <qt_windows.h>
+#include "platform/windows_api.h"
 #endif
 
 // Mouse and keyboard on the program's real windows, as a user has them.
