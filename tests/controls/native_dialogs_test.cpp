@@ -26,16 +26,12 @@ namespace {
 
 constexpr int Patience = 60'000;  // milliseconds, for a busy machine
 
-/// Does something to the dialog that is about to come up, once it is there.
+/// Does something to the dialog that is about to come up.
 template <typename Dialog, typename Act>
 void whenShown(Act act) {
-  auto* const look = new QTimer(qApp);
-  look->start(1);
-  look->callOnTimeout([look, act] {
+  QTimer::singleShot(50, [act] {
     auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !dialog->isVisible()) return;
-    look->stop();
-    look->deleteLater();
+    if (dialog == nullptr) qFatal("another dialog than expected");
     act(*dialog);
     if (QTest::currentTestFailed()) dialog->reject();
   });

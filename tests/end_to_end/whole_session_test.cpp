@@ -89,7 +89,7 @@ class WholeSessionTest : public QObject {
       pickNamed(*tools.List1, row.object);
       pickNamed(*tools.ListView1, row.key);
       QVERIFY2(program->state.EditorShown && tools.Command1->isVisible(), row.key);
-      settle();
+      QTest::qWait(20);
       enter(tools, row.text);
       press(*tools.Command1);
       QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));

@@ -50,8 +50,101 @@ class SavedStateTest : public ProgramTest {
     if (found.isEmpty()) qFatal("no row %s", qPrintable(key));
     return menuOf(*grid.viewport(), false, grid.visualItemRect(found.first()).center(), meanwhile);
   }
+  void writeWords(const QString& text) {
+    program->row(u"Text"_s);
+    program->tools().Text2->SetText(text);
+    program->tools().Command1->click();
+  }
 
  private Q_SLOTS:
+  void marks() {
+    QCOMPARE(marked(), QString());
+    program->edit();
+    QCOMPARE(marked(), u"LoadingStaticA|X saved: 40"_s);
+    program->tag(u"LoadingTextFree"_s);
+    writeWords(u"Hi"_s);
+    QCOMPARE(marked(), u"LoadingStaticA|LoadingTextFree|Text saved: HELLO = Hello there"_s);
+    program->screen(u"Main Screen"_s);  // its text says the same words
+    QCOMPARE(marked(), u"MainTextFree"_s);
+    program->screen(u"Loading Screen"_s);
+    program->edit(u"X"_s, u"40"_s);
+    QCOMPARE(marked(), u"LoadingTextFree"_s);
+    program->click(2);
+    QCOMPARE(marked(), QString());
+  }
+
+  void putBack() {
+    program->click(3);
+    game->put(ThemeFile, game->get(ThemeFile).replace("X=40", "X= 40 "));
+    game->put(LanguageFile, game->get(LanguageFile).replace("GO=", "GO = ") + "LAST= end\t");
+    program->open();
+    const QByteArray words = game->get(LanguageFile);
+    program->edit();
+    QCOMPARE(menuOfRow(u"Y"_s) + menuOfRow(u"ColR"_s), QString());
+    program->state.Changed = false;
+    QCOMPARE(menuOfRow(u"X"_s), u"Put the saved value back: 40"_s);
+    QVERIFY(game->get(ThemeCopy).contains("X= 40 \r\n") && program->state.Changed && program->enabled(2));
+    QCOMPARE(program->value(u"X"_s) + program->tools().Text1->Text(), u"4040"_s);
+    QCOMPARE(program->form.Workspace->mark().x(), 40.0);
+    QCOMPARE(program->status(), u"LoadingStaticA: X = 40"_s);
+    QCOMPARE(marked(), QString());
+    // A reference with its words; the line of these is gone.
+    program->tag(u"LoadingTextLater"_s);
+    program->row(u"Text"_s);
+    program->dialogs.boxes = {platform::BoxAnswer::Yes};
+    program->tools().Command7->click();
+    program->tools().Combo5->SetText(u"HELLO"_s);
+    program->tools().Command1->click();
+    QCOMPARE(marked().section(u'|', -1), u"Text saved: GO = Go"_s);
+    program->tools().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&program->tools()));
+    QTest::keyClick(program->tools().ListView1, Qt::Key_F10, Qt::ShiftModifier);
+    QVERIFY(QApplication::activePopupWidget() != nullptr);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    QCOMPARE(marked(), QString());
+    QCOMPARE(game->get(ThemeCopy), game->get(ThemeFile));
+    QCOMPARE(game->get(LanguageCopy), QByteArray(words).replace("GO = Go\r\n", "") + "\r\nGO = Go\r\n");
+  }
+
+  /// A commit, and a put-back, name what they have changed.
+  void toldByName() {
+    program->tag(u"LoadingTextFree"_s);
+    writeWords(u"Hi"_s);
+    QCOMPARE(program->status(), u"LoadingTextFree: words 'HELLO' = Hi"_s);
+    QVERIFY(!menuOfRow(u"Text"_s).isEmpty());
+    QCOMPARE(program->status(), u"LoadingTextFree: words 'HELLO' = Hello there"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingTextFree: Text = HELLO"_s);
+    program->tools().Combo5->SetText(u"GO"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingTextFree: Text = GO"_s);
+    program->tools().Combo5->SetText(u"HELLO"_s);
+    program->tools().Text2->SetText(u"Ho"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingTextFree: Text = HELLO, words 'HELLO' = Ho"_s);
+    program->tag(u"LoadingStaticA"_s);
+    program->row(u"Tex"_s);
+    program->tools().Text3->SetText(u"other.png"_s);
+    program->tools().Command1->click();
+    QCOMPARE(program->status(), u"LoadingStaticA: texture 'Plate' = other.png"_s);
+  }
+
+  void putColourBack() {
+    const Form2& tools = program->tools();
+    const auto before = game->files();
+    program->soleRow(u"COLOR"_s, u"Red"_s);
+    QCOMPARE(menuOf(*tools.Command2, true), QString());
+    program->dialogs.colors = {QColor(1, 2, 3)};
+    tools.Command2->click();
+    program->form.ShowStatus(QString());
+    QCOMPARE(menuOf(*tools.Command2, true), u"Put the saved value back: 200 40 40"_s);
+    QCOMPARE(game->files(), before);
+    QCOMPARE(tools.Command2->BackColor(), QColor(200, 40, 40));
+    QCOMPARE(tools.Combo3->itemIcon(0).pixmap(11, 11).toImage().pixelColor(5, 5), QColor(200, 40, 40));
+    QVERIFY(program->colors().contains(u"Red=200 40 40"_s) && !program->state.Changed);
+    QVERIFY(program->status().startsWith(u"Kept in the working copy"));
+  }
+
   /// What bold and grey letters and tips show is told to a screen reader, too, and in the menus.
   void tells() {
     const Form2& tools = program->tools();
