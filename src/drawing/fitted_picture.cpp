@@ -44,7 +44,7 @@ QImage fittedPicture(QImage picture, const QSize& size, const QRect& part) {
   return fitted;
 }
 
-QImage withoutIdleAlpha(QImage picture) {
+QImage withoutUnusedAlpha(QImage picture) {
   for (int row = 0; row < picture.height(); ++row) {
     const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(row));
     const QRgb all = std::accumulate(pixels, pixels + picture.width(), ~QRgb(0), std::bit_and<>());

@@ -15,6 +15,6 @@ QRect partOnSurface(const QRect& target);
 QImage fittedPicture(QImage picture, const QSize& size, const QRect& part);
 
 /// The picture without an alpha channel if all of it is opaque: drawing it copies its pixels, which is faster.
-QImage withoutIdleAlpha(QImage picture);
+QImage withoutUnusedAlpha(QImage picture);
 
 }  // namespace drawing

@@ -17,7 +17,15 @@ ChosenScreen::ChosenScreen(themefiles::ModuleState opened, const QString& screen
 }
 
 RenderContext ChosenScreen::context(const themefiles::TagList& rows) {
-  return {state, rows, workspace, host_, status_, dialogs_, graphics_, account, pictures};
+  return {.state = state,
+          .tags = rows,
+          .Workspace = workspace,
+          .host = host_,
+          .status = status_,
+          .dialogs = dialogs_,
+          .graphics = graphics_,
+          .account = account,
+          .pictures = pictures};
 }
 
 }  // namespace renderer

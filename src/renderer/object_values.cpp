@@ -57,8 +57,8 @@ std::optional<qint16> themeInt16(RenderContext& context, const ObjectSection& se
 }
 
 std::optional<Box> themeBox(RenderContext& context, const ObjectSection& section, const QString& step) {
-  constexpr std::array<std::pair<QStringView, qint16 Box::*>, 4> Sides{
-      {{u"X", &Box::X}, {u"Y", &Box::Y}, {u"W", &Box::W}, {u"H", &Box::H}}};
+  constexpr auto Sides = std::to_array<std::pair<QStringView, qint16 Box::*>>(
+      {{u"X", &Box::X}, {u"Y", &Box::Y}, {u"W", &Box::W}, {u"H", &Box::H}});
   Box box;
   for (const auto& [key, side] : Sides) {
     const auto number = themeInt16(context, section, key.toString(), step);

@@ -9,10 +9,10 @@
 
 namespace renderer {
 
-PreparedPictures::Source PreparedPictures::sourceOf(const PictureWish& wish) {
-  QImage picture = drawing::LoadPicture(wish.path);
+PreparedPictures::Source PreparedPictures::sourceOf(const PictureRequest& request) {
+  QImage picture = drawing::LoadPicture(request.path);
   if (picture.isNull()) return {Reason::NoPicture, {}};
-  const Recoloring& recoloring = wish.recoloring;
+  const Recoloring& recoloring = request.recoloring;
   if (recoloring.type == Recoloring::Type::Colorized) colorize(picture, recoloring.color);
   if (recoloring.type == Recoloring::Type::FontBlack && !recolorFont(picture, recoloring.color, recoloring.intensity)) {
     return {Reason::ColorRange, {}};
@@ -20,40 +20,40 @@ PreparedPictures::Source PreparedPictures::sourceOf(const PictureWish& wish) {
   return {{}, std::move(picture)};
 }
 
-QRect PreparedPictures::partOf(const PictureWish& wish) {
-  if (!wish.ownSize) return drawing::partOnSurface(wish.place);
-  const QPoint hidden(std::max(0, -wish.place.x()), std::max(0, -wish.place.y()));
+QRect PreparedPictures::partOf(const PictureRequest& request) {
+  if (!request.ownSize) return drawing::partOnSurface(request.place);
+  const QPoint hidden(std::max(0, -request.place.x()), std::max(0, -request.place.y()));
   return {hidden, QSize(drawing::Surface::Width, drawing::Surface::Height)};
 }
 
-PreparedPicture PreparedPictures::fitted(Source source, const PictureWish& wish) {
+PreparedPicture PreparedPictures::fitted(Source source, const PictureRequest& request) {
   if (source.missing) return {source.missing, {}, {}, {}};
   const QSize ownSize = source.picture.size();
-  const QSize size = wish.ownSize ? ownSize : wish.place.size();
-  const QRect part = partOf(wish) & QRect(QPoint(0, 0), size);
+  const QSize size = request.ownSize ? ownSize : request.place.size();
+  const QRect part = partOf(request) & QRect(QPoint(0, 0), size);
   return {{}, ownSize, part.topLeft(), drawing::fittedPicture(std::move(source.picture), size, part)};
 }
 
-PreparedPicture PreparedPictures::get(const PictureWish& wish, bool inHand) {
+PreparedPicture PreparedPictures::get(const PictureRequest& request, bool inHand) {
   constexpr qsizetype Overhead = 512;
   // A picture that can't be looked at isn't kept, and reading it tells why it isn't drawn.
-  const auto file = wish.identity ? wish.identity : platform::identityIfSeen(wish.path);
-  if (!file) return fitted(sourceOf(wish), wish);
-  const Key key{*file, wish.recoloring, wish.ownSize ? QSize() : wish.place.size(), partOf(wish)};
+  const auto file = request.identity ? request.identity : platform::identityIfSeen(request.path);
+  if (!file) return fitted(sourceOf(request), request);
+  const Key key{*file, request.recoloring, request.ownSize ? QSize() : request.place.size(), partOf(request)};
   if (const PreparedPicture* const kept = kept_.object(key)) return *kept;
-  if (inHand && unscaled_ && unscaled_->file == *file && unscaled_->recoloring == wish.recoloring) {
-    return fitted(unscaled_->source, wish);
+  if (inHand && unscaled_ && unscaled_->file == *file && unscaled_->recoloring == request.recoloring) {
+    return fitted(unscaled_->source, request);
   }
   const bool settled = platform::isSettled(*file);
-  Source source = sourceOf(wish);
-  const bool keeps = settled && platform::identityIfSeen(wish.path) == file;
+  Source source = sourceOf(request);
+  const bool keeps = settled && platform::identityIfSeen(request.path) == file;
   if (keeps && inHand) {
     source.picture = std::move(source.picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    holdUnscaled({*file, wish.recoloring, source});
+    holdUnscaled({*file, request.recoloring, source});
   }
-  PreparedPicture prepared = fitted(std::move(source), wish);
+  PreparedPicture prepared = fitted(std::move(source), request);
   if (keeps && !inHand) {
-    prepared.picture = drawing::withoutIdleAlpha(std::move(prepared.picture));
+    prepared.picture = drawing::withoutUnusedAlpha(std::move(prepared.picture));
     kept_.insert(key, new PreparedPicture(prepared), prepared.picture.sizeInBytes() + Overhead);
   }
   return prepared;
@@ -75,10 +75,10 @@ void PreparedPictures::clear() {
   kept_.clear();
 }
 
-PreparedPicture prepare(PreparedPictures* store, const PictureWish& wish, bool inHand) {
+PreparedPicture prepare(PreparedPictures* store, const PictureRequest& request, bool inHand) {
   PreparedPicture prepared =
-      store ? store->get(wish, inHand) : PreparedPictures::fitted(PreparedPictures::sourceOf(wish), wish);
-  prepared.corner += wish.place.topLeft();
+      store ? store->get(request, inHand) : PreparedPictures::fitted(PreparedPictures::sourceOf(request), request);
+  prepared.corner += request.place.topLeft();
   return prepared;
 }
 

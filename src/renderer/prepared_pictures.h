@@ -22,7 +22,7 @@ struct Recoloring {
 };
 
 /// A picture to draw: recoloured and scaled to `place`, or with `ownSize` at its own size at the top left of `place`.
-struct PictureWish {
+struct PictureRequest {
   QString path;
   Recoloring recoloring = {};
   QRect place;
@@ -49,7 +49,7 @@ class PreparedPictures {
 
   /// Returns the picture from the cache, or prepares it. For the object in hand, whose size changes with each frame,
   /// the unscaled picture is kept instead of the scaled ones. Throws std::bad_alloc.
-  PreparedPicture get(const PictureWish& wish, bool inHand);
+  PreparedPicture get(const PictureRequest& request, bool inHand);
   /// Has to be called when no object is in hand any more.
   void letGo();
   /// Empties the cache.
@@ -80,10 +80,10 @@ class PreparedPictures {
     Source source;
   };
 
-  friend PreparedPicture prepare(PreparedPictures* store, const PictureWish& wish, bool inHand);
-  static Source sourceOf(const PictureWish& wish);
-  static QRect partOf(const PictureWish& wish);
-  static PreparedPicture fitted(Source source, const PictureWish& wish);
+  friend PreparedPicture prepare(PreparedPictures* store, const PictureRequest& request, bool inHand);
+  static Source sourceOf(const PictureRequest& request);
+  static QRect partOf(const PictureRequest& request);
+  static PreparedPicture fitted(Source source, const PictureRequest& request);
   qsizetype unscaledBytes() const { return unscaled_ ? unscaled_->source.picture.sizeInBytes() : 0; }
   void holdUnscaled(Unscaled unscaled);
 
@@ -93,6 +93,6 @@ class PreparedPictures {
 };
 
 /// Gets the picture from the store, or prepares it if `store` is null. Throws std::bad_alloc.
-PreparedPicture prepare(PreparedPictures* store, const PictureWish& wish, bool inHand = false);
+PreparedPicture prepare(PreparedPictures* store, const PictureRequest& request, bool inHand = false);
 
 }  // namespace renderer

@@ -5,6 +5,7 @@
 #include <QStringView>
 
 #include "platform/code_page.h"
+#include "platform/row_order.h"
 
 namespace renderer {
 namespace {
@@ -14,7 +15,7 @@ struct Wording {
   QStringView text;  ///< %1 is the value, %2 the key
 };
 
-constexpr std::array<Wording, 12> Wordings{{
+constexpr auto Wordings = std::to_array<Wording>({
     {Reason::NoTexture, u"texture '%1' has no entry in the skin"},
     {Reason::NoFile, u"no file '%1'"},
     {Reason::Unseen, u"file '%1' can't be looked at"},
@@ -27,7 +28,8 @@ constexpr std::array<Wording, 12> Wordings{{
     {Reason::NoSize, u"%2: '%1' is no size of a text"},
     {Reason::HiddenWithButton, u"hidden with its button '%1'"},
     {Reason::WithButton, u"left out with its button '%1'"},
-}};
+});
+static_assert(platform::inOrder(Wordings, &Wording::reason, Reason::WithButton));
 
 }  // namespace
 
@@ -38,11 +40,8 @@ QSet<QString> drawnSections(const RenderAccount& account) {
 }
 
 QString reasonText(const LeftOut& entry) {
-  for (const Wording& wording : Wordings) {
-    if (wording.reason != entry.why) continue;
-    return wording.text.toString().replace(QLatin1String("%2"), entry.key).replace(QLatin1String("%1"), entry.value);
-  }
-  return {};
+  QString text = Wordings.at(static_cast<size_t>(entry.why)).text.toString();
+  return text.replace(QLatin1String("%2"), entry.key).replace(QLatin1String("%1"), entry.value);
 }
 
 }  // namespace renderer

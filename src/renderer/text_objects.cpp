@@ -16,10 +16,10 @@ struct TextFace {
   double pointsPerSize;
 };
 
-constexpr std::array<TextFace, 2> Faces{{
+constexpr auto Faces = std::to_array<TextFace>({
     {0, u"Eurostar Regular Extended", 1.4},
     {1, u"Eurostar Black", 2},
-}};
+});
 
 /// The channel for a fraction from 0 to 1.
 int channelOf(double fraction) {

@@ -39,7 +39,7 @@ std::optional<Recoloring> recoloringOf(const Texture& texture) {
   return Recoloring{};
 }
 
-PictureWish wishOf(const Texture& texture, const Recoloring& recoloring) {
+PictureRequest requestOf(const Texture& texture, const Recoloring& recoloring) {
   const Box& box = texture.box;
   if (box.X == -1 || box.Y == -1) return {texture.file.path, recoloring, QRect(), true, texture.file.identity};
   return {texture.file.path, recoloring, QRect(box.X, box.Y, box.W, box.H), box.W == -1 || box.H == -1,
@@ -49,12 +49,12 @@ PictureWish wishOf(const Texture& texture, const Recoloring& recoloring) {
 TextureResult draw(RenderContext& context, const Texture& texture) {
   const auto recoloring = recoloringOf(texture);
   if (!recoloring) return {TextureOutcome::NoColor, {}};
-  const PictureWish wish = wishOf(texture, *recoloring);
-  const PreparedPicture prepared = prepare(context.pictures, wish, texture.inHand);
+  const PictureRequest request = requestOf(texture, *recoloring);
+  const PreparedPicture prepared = prepare(context.pictures, request, texture.inHand);
   if (prepared.missing == Reason::NoPicture) return {TextureOutcome::NoPicture, {}};
   if (prepared.missing) return {TextureOutcome::ColorRange, {}};
   if (!context.graphics.created()) return {TextureOutcome::NoSession, {}};
-  const QRect place(wish.place.topLeft(), wish.ownSize ? prepared.ownSize : wish.place.size());
+  const QRect place(request.place.topLeft(), request.ownSize ? prepared.ownSize : request.place.size());
   if (place.isEmpty()) return {TextureOutcome::NoArea, place};
   context.graphics.drawImage(prepared.picture, prepared.corner.x(), prepared.corner.y());
   return {TextureOutcome::Drawn, place};

@@ -5,6 +5,8 @@
 
 #include <QStringView>
 
+#include "platform/row_order.h"
+
 namespace themecheck {
 namespace {
 
@@ -14,8 +16,7 @@ struct KindRow {
   QStringView words;
 };
 
-// In the order of Kind.
-constexpr std::array<KindRow, 20> Kinds{{
+constexpr auto Kinds = std::to_array<KindRow>({
     {Kind::CantBeRead, Level::Error, u"can't be read: %1"},
     {Kind::CantBeOpened, Level::Error, u"can't be opened: there is no %1"},
     {Kind::TooManyColors, Level::Error, u"more than 99 colours"},
@@ -36,9 +37,11 @@ constexpr std::array<KindRow, 20> Kinds{{
     {Kind::UnusedTexture, Level::Note, u"texture that no object uses"},
     {Kind::UnusedWords, Level::Note, u"words that no theme uses"},
     {Kind::UnusedPicture, Level::Note, u"picture that no skin names"},
-}};
+});
+static_assert(platform::inOrder(Kinds, &KindRow::kind, Kind::UnusedPicture));
 
-constexpr std::array<QStringView, 3> LevelNames{u"error", u"warning", u"note"};
+constexpr auto LevelNames = std::to_array<QStringView>({u"error", u"warning", u"note"});
+static_assert(LevelNames.size() == static_cast<size_t>(Level::Note) + 1);
 
 /// The words with `fill` in place of %1 and %2, whatever stands in it.
 QString wordsOf(const KindRow& row, const QStringList& fill) {

@@ -22,7 +22,7 @@ using themefiles::KeyGroup;
 const QString Textures = QStringLiteral("Textures");
 const QString Colors = QStringLiteral("Colors");
 constexpr qsizetype MostColors = 99;
-constexpr std::array<QStringView, 5> PictureEndings{u".bmp", u".gif", u".jpg", u".jpeg", u".png"};
+constexpr auto PictureEndings = std::to_array<QStringView>({u".bmp", u".gif", u".jpg", u".jpeg", u".png"});
 
 /// The first key of each name in a section.
 std::vector<const IniKey*> keysOf(const IniFile& file, const QString& name) {

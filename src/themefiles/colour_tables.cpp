@@ -18,7 +18,7 @@ struct BuiltInColor {
   QStringView value;
 };
 
-constexpr std::array<BuiltInColor, 18> Players{{
+constexpr auto Players = std::to_array<BuiltInColor>({
     {u"P1Dark", u"71 175 247"},
     {u"P1Light", u"135 211 251"},
     {u"P1Lightest", u"185 232 253"},
@@ -37,7 +37,8 @@ constexpr std::array<BuiltInColor, 18> Players{{
     {u"P6Dark", u"230 230 95"},
     {u"P6Light", u"242 242 156"},
     {u"P6Lightest", u"249 249 199"},
-}};
+});
+static_assert(Players.size() == std::tuple_size_v<decltype(ModuleState::PlayerColors)>);
 
 /// A scheme has either the three colours of a player (number from 1) or three values of its own.
 struct Scheme {
@@ -46,7 +47,7 @@ struct Scheme {
   std::array<QStringView, RowsPerScheme> values;
 };
 
-constexpr std::array<Scheme, 9> Schemes{{
+constexpr auto Schemes = std::to_array<Scheme>({
     {u"Blue", 1, {}},
     {u"Green", 3, {}},
     {u"Pink", 0, {u"255 175 247", u"255 211 251", u"255 223 251"}},
@@ -56,7 +57,8 @@ constexpr std::array<Scheme, 9> Schemes{{
     {u"Yellow", 6, {}},
     {u"Brown", 0, {u"192 127 31", u"221 180 89", u"229 204 165"}},
     {u"Black", 0, {u"0 0 0", u"0 0 0", u"153 153 153"}},
-}};
+});
+static_assert(Schemes.size() * RowsPerScheme == std::tuple_size_v<decltype(ModuleState::BaseColors)>);
 
 void fillBuiltInColors(ModuleState& state) {
   std::transform(Players.begin(), Players.end(), state.PlayerColors.begin(), [](const BuiltInColor& color) {

@@ -5,6 +5,7 @@
 
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "platform/row_order.h"
 
 namespace themefiles {
 namespace {
@@ -14,7 +15,7 @@ struct KeyRow {
   KeyGroup group;
 };
 
-constexpr std::array<KeyRow, 50> Keys{{
+constexpr auto Keys = std::to_array<KeyRow>({
     {u"X", KeyGroup::WholeNumber},
     {u"Y", KeyGroup::WholeNumber},
     {u"SIZE", KeyGroup::WholeNumber},
@@ -65,17 +66,17 @@ constexpr std::array<KeyRow, 50> Keys{{
     {u"TEXY2", KeyGroup::Decimal},
     {u"INT", KeyGroup::Decimal},
     {u"DINT", KeyGroup::Decimal},
-}};
+});
+static_assert(Keys.size() == 50, "a key was added or lost");
 
-constexpr std::array<QStringView, 3> AlignEntries{u"0 = Left", u"1 = Middle", u"2 = Right"};
-constexpr std::array<QStringView, 4> FontEntries{u"0 = Normal", u"1 = Bold", u"2 = Bold with Outline",
-                                                 u"3 = Bold with dark Outline"};
-constexpr std::array<QStringView, 2> SwitchEntries{u"0 = False", u"1 = True"};
-constexpr std::array<QStringView, 2> DirectionEntries{u"0 = Left to Right", u"1 = Bottom to Top"};
-constexpr std::array<QStringView, 4> TypeEntries{u"Plain", u"Transparent", u"Colorized", u"Font Black"};
+constexpr auto AlignEntries = std::to_array<QStringView>({u"0 = Left", u"1 = Middle", u"2 = Right"});
+constexpr auto FontEntries =
+    std::to_array<QStringView>({u"0 = Normal", u"1 = Bold", u"2 = Bold with Outline", u"3 = Bold with dark Outline"});
+constexpr auto SwitchEntries = std::to_array<QStringView>({u"0 = False", u"1 = True"});
+constexpr auto DirectionEntries = std::to_array<QStringView>({u"0 = Left to Right", u"1 = Bottom to Top"});
+constexpr auto TypeEntries = std::to_array<QStringView>({u"Plain", u"Transparent", u"Colorized", u"Font Black"});
 
-// In the order of KeyGroup.
-constexpr std::array<GroupRow, 10> Groups{{
+constexpr auto Groups = std::to_array<GroupRow>({
     {KeyGroup::WholeNumber, EditorFrame::Numbers, {}},
     {KeyGroup::Alignment, EditorFrame::Selection, AlignEntries},
     {KeyGroup::Font, EditorFrame::Selection, FontEntries},
@@ -86,7 +87,8 @@ constexpr std::array<GroupRow, 10> Groups{{
     {KeyGroup::Color, EditorFrame::Color, {}},
     {KeyGroup::Texture, EditorFrame::Texture, {}},
     {KeyGroup::Decimal, EditorFrame::FloatNumbers, {}},
-}};
+});
+static_assert(platform::inOrder(Groups, &GroupRow::group, KeyGroup::Decimal));
 
 }  // namespace
 

@@ -13,7 +13,7 @@ struct Screen {
   QStringView stem;
 };
 
-constexpr std::array<Screen, 32> Screens{{
+constexpr auto Screens = std::to_array<Screen>({
     {u"Loading Screen", u"Loading"},
     {u"Main Screen", u"Main"},
     {u"Song Screen (Single)", u"Song"},
@@ -46,7 +46,8 @@ constexpr std::array<Screen, 32> Screens{{
     {u"Stats Detail", u"StatDetail"},
     {u"Check Popup", u"CheckPopup"},
     {u"Error Popup", u"ErrorPopup"},
-}};
+});
+static_assert(Screens.size() == std::tuple_size_v<decltype(ModuleState::ScreenTable)>);
 
 /// The filter of a screen. A score screen has `otherPlayers` instead of lists: the digits of the players that it
 /// doesn't show. They are put into the two score templates.
@@ -58,7 +59,7 @@ struct ScreenFilter {
   QStringView otherPlayers;
 };
 
-constexpr std::array<ScreenFilter, 8> Filters{{
+constexpr auto Filters = std::to_array<ScreenFilter>({
     {u"Song Screen (Single)", u"SongStaticParty,SongTextParty,SongStaticTeam", {}, {}, {}},
     {u"Song Screen (Party)", u"SongStaticNonParty,SongTextNonParty", {}, {}, {}},
     {u"Score Screen (1 Player)", {}, {}, {}, u"23456"},
@@ -79,7 +80,7 @@ constexpr std::array<ScreenFilter, 8> Filters{{
      u"Sing,SingTimeProgress,SingTimeText,SingP1ThreePSingBar,SingP2MSingBar,SingP3SingBar",
      u"SingText,SingStatic,SingP1ThreePStatic,SingP1ThreePText,SingP2MStatic,SingP2MText,SingP3RStatic,SingP3RText",
      {}},
-}};
+});
 
 // The score templates. "#" stands for a player's digit.
 constexpr QStringView ScoreTagList =

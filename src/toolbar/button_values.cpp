@@ -16,6 +16,7 @@ constexpr ButtonField Fields[] = {
     {&Button::ToolTipText, u"ButtonToolTip", u"ButtonToolTipText", Effect::None},
     {&Button::ToolTipIcon, u"ButtonToolTipIcon", u"ButtonToolTipIcon", Effect::None},
 };
+static_assert(std::size(Fields) == ToolTipIconProperty + 1);
 
 /// The row of a field; null for an unknown number.
 const ButtonField* fieldOf(int propertyID) {

@@ -82,7 +82,6 @@ class Control : private ModelView {
   void layOut();
   void showChevronPopup();
   std::optional<int> pointedAt(const MouseArguments& arguments);
-  bool canHover(int number, float x) const;
   void pointAt(int index);
   void movedTo(SurfaceName surface, QPoint place);
   void left();

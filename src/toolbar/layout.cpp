@@ -1,6 +1,7 @@
 #include "toolbar/layout.h"
 
 #include <algorithm>
+#include <cmath>
 #include <stdexcept>
 
 #include "toolbar/checked_numbers.h"
@@ -99,6 +100,39 @@ void layOutButtons(Model& model, int innerWidth, Overflow overflow, Layout& layo
   const qint64 columns = std::min(hidden, length);
   layout.popup.setWidth(checkedInt(columns * model.values().ButtonsWidth + PopupExtraWidth));
   layout.popup.setHeight(checkedInt(rows(hidden, length) * model.values().ButtonsHeight + PopupExtraHeight));
+}
+
+bool isOnChevron(const Model& model, const Layout& layout, const QSize& inner, const QPointF& place) {
+  return !layout.HiddenButtons.empty() && place.x() > inner.width() - ChevronZone &&
+         place.y() > static_cast<double>(inner.height()) - model.values().ButtonsHeight;
+}
+
+std::optional<int> buttonAt(const Model& model, const Layout& layout, const QPoint& pixel, bool inPopup) {
+  const int place = HitTest(model, pixel.x(), pixel.y(), inPopup);
+  if (!inPopup) return place;
+  if (place < 1 || place > std::ssize(layout.HiddenButtons)) return std::nullopt;
+  return layout.HiddenButtons[place - 1];
+}
+
+bool canHover(const Model& model, int number, double x, bool inPopup) {
+  const int width = model.values().ButtonsWidth;
+  if (width == 0) throw std::domain_error("buttons without a width");
+  if (std::floor(x / width) >= model.values().ButtonsPerRow) return false;
+  if (number < 1 || number > model.Button_Count()) return false;
+  const ToolbarButton& button = model.Button(number);
+  if (!button.Enabled || button.ButtonType == 1) return false;
+  return inPopup || !model.placeOf(number).InChevron;
+}
+
+std::vector<int> placesForKeys(const Model& model, const Layout& layout, bool inPopup) {
+  std::vector<int> places;
+  for (int i = 1; i <= model.Button_Count(); ++i) {
+    const ToolbarButton& button = model.Button(i);
+    const bool isReached = button.Enabled && button.ButtonType != 1 && model.placeOf(i).InChevron == inPopup;
+    if (isReached) places.push_back(i);
+  }
+  if (!inPopup && !layout.HiddenButtons.empty()) places.push_back(0);
+  return places;
 }
 
 }  // namespace toolbar

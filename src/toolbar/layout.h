@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include <QPoint>
+#include <QPointF>
 #include <QSize>
 
 #include "toolbar/model.h"
@@ -26,6 +28,14 @@ inline constexpr int ChevronWidth = 10;
 QPoint PlaceButton(const Model& model, int n, bool inPopup);
 /// The number of the item at a point, or -1. A point on an edge belongs to no item.
 int HitTest(const Model& model, int x, int y, bool inPopup);
+/// Whether a point of the strip is on the chevron.
+bool isOnChevron(const Model& model, const Layout& layout, const QSize& inner, const QPointF& place);
+/// The number of the button at a pixel. In the strip -1 for no button; none where the popup has no button.
+std::optional<int> buttonAt(const Model& model, const Layout& layout, const QPoint& pixel, bool inPopup);
+/// Whether the pointer highlights the button under it, at `x` of the surface.
+bool canHover(const Model& model, int number, double x, bool inPopup);
+/// The buttons of the strip or of the popup that keys can reach, and 0 for the chevron.
+std::vector<int> placesForKeys(const Model& model, const Layout& layout, bool inPopup);
 
 /// The control's height.
 int laidOutHeight(const Model& model);

@@ -119,4 +119,16 @@ void Model::SetButtonInsertTo(int index) {
   view_.react(Effect::Repaint);
 }
 
+std::optional<ToolTip> Model::toolTip() const {
+  constexpr int RectangularTip = 1;
+  if (index_ < 1 || Button(index_).ToolTipText.isEmpty()) return std::nullopt;
+  const ToolbarButton& button = Button(index_);
+  return ToolTip{.Text = button.ToolTipText,
+                 .title = button.Caption,
+                 .Icon = button.Caption.isEmpty() ? 0 : button.ToolTipIcon,
+                 .isBalloon = values_.TooTipStyle != RectangularTip,
+                 .BackColor = values_.ToolTipBackCol,
+                 .ForeColor = values_.ToolTipForeCol};
+}
+
 }  // namespace toolbar

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <type_traits>
 #include <vector>
 
 #include "platform/failure.h"
 #include "toolbar/button_values.h"
 #include "toolbar/properties.h"
+#include "toolbar/surroundings.h"
 
 namespace toolbar {
 
@@ -76,6 +78,9 @@ class Model {
   void SetButtonRemove(int value);
   void SetButtonMoveTo(int index);
   void SetButtonInsertTo(int index);
+
+  /// The tool tip of the button Button_Index; none without a text.
+  std::optional<ToolTip> toolTip() const;
 
   const ToolbarButton& Button(int number) const { return entry(number).button; }
   const ButtonPlace& placeOf(int number) const { return entry(number).place; }

@@ -42,7 +42,7 @@ class PreparedPicturesTest : public QObject {
         drawing::Surface stretched, blended;
         stretched.drawImageRect(picture, target.x(), target.y(), target.width(), target.height());
         const QRect part = drawing::partOnSurface(target);
-        const QImage fitted = drawing::withoutIdleAlpha(drawing::fittedPicture(picture, target.size(), part));
+        const QImage fitted = drawing::withoutUnusedAlpha(drawing::fittedPicture(picture, target.size(), part));
         QVERIFY(fitted.width() <= 800 && fitted.height() <= 600);
         blended.drawImage(fitted, target.x() + part.x(), target.y() + part.y());
         QCOMPARE(blended.image(), stretched.image());
@@ -129,13 +129,13 @@ class PreparedPicturesTest : public QObject {
     stage.folder.put(u"big.bmp"_s, encoded(noise(64, 48), "bmp"));
     QTest::qWait(2100);
     renderer::PreparedPictures store(64 * 48 * 4 + 9000);
-    const auto wish = [&](int width) {
-      return renderer::PictureWish{stage.folder.path(u"big.bmp"_s), {}, QRect(0, 0, width, 40)};
+    const auto request = [&](int width) {
+      return renderer::PictureRequest{stage.folder.path(u"big.bmp"_s), {}, QRect(0, 0, width, 40)};
     };
-    for (const int width : {30, 40}) QVERIFY(!store.get(wish(width), false).picture.isNull());
+    for (const int width : {30, 40}) QVERIFY(!store.get(request(width), false).picture.isNull());
     QVERIFY(store.bytes() > 70 * 40 * 4);
     for (const int width : {50, 51, 52}) {
-      QCOMPARE(store.get(wish(width), true).picture, renderer::prepare(nullptr, wish(width)).picture);
+      QCOMPARE(store.get(request(width), true).picture, renderer::prepare(nullptr, request(width)).picture);
       QVERIFY(store.bytes() >= 64 * 48 * 4 && store.bytes() <= 64 * 48 * 4 + 9000);
     }
     store.letGo();
