@@ -38,7 +38,7 @@ std::shared_ptr<OpenEditor> editorOfCrowd(int objects) {
 
 void chooseOften(const OpenEditor& editor, int objects, int times) {
   for (int i = 0; i < times; ++i) editor.choose(QStringLiteral("Loading Screen"));
-  if (editor.form.toolWindow()->List1->ListCount() != objects + 1) qFatal("not all objects are listed");
+  if (editor.form.toolWindow()->objects().ListCount() != objects + 1) qFatal("not all objects are listed");
 }
 
 /// A theme of one object with so many keys.

@@ -5,8 +5,7 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "mainwindows/main_events.h"
-#include "mainwindows/main_window.h"
+#include "mainwindows/editor.h"
 #include "mainwindows/open_theme_dialog.h"
 #include "platform/paths.h"
 #include "sample_screens.h"
@@ -21,15 +20,14 @@ struct OpenEditor {
   OpenEditor(
       const QString& theme, const QString& screen,
       const std::function<void(const QString& folder)>& addFiles = [](const QString&) {})
-      : whole(mainwindows::makeForm1({state, boxes, graphics, {platform::programPath(settings.path())}})),
-        form(*whole) {
+      : whole({state, boxes, graphics, {platform::programPath(settings.path())}}), form(whole.form) {
     addFiles(game.path());
     form.config().setGameFolder(platform::programPath(game.path()) + u'\\');
     form.show();
     QTimer::singleShot(0, &form, [&theme] {
       auto& dialog = dynamic_cast<mainwindows::Form3&>(*QApplication::activeModalWidget());
-      dialog.List1->SetListIndex(dialog.List1->row(dialog.List1->findItems(theme, Qt::MatchExactly).first()));
-      dialog.Command1->click();
+      dialog.themes().SetListIndex(dialog.themes().row(dialog.themes().findItems(theme, Qt::MatchExactly).first()));
+      dialog.openButton().click();
     });
     Q_EMIT form.ToolBar->Click(1);
     choose(screen);
@@ -37,7 +35,7 @@ struct OpenEditor {
 
   /// Lists and draws the screen.
   void choose(const QString& screen) const {
-    form.toolWindow()->Combo1->SetText(screen);
+    form.toolWindow()->screens().SetText(screen);
     QApplication::processEvents();
   }
 
@@ -46,7 +44,7 @@ struct OpenEditor {
   themefiles::ModuleState state;
   support::ScriptedDialogs boxes;
   drawing::Graphics graphics;
-  std::unique_ptr<mainwindows::Form1> whole;
+  mainwindows::Editor whole;
   mainwindows::Form1& form;
 };
 

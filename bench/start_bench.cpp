@@ -11,8 +11,7 @@
 #include "controls/look.h"
 #include "controls/native_dialogs.h"
 #include "drawing/graphics.h"
-#include "mainwindows/main_events.h"
-#include "mainwindows/main_window.h"
+#include "mainwindows/editor.h"
 #include "mainwindows/workspace.h"
 #include "platform/paths.h"
 #include "themefiles/module_state.h"
@@ -46,9 +45,9 @@ int showEditor(QApplication& application, const QString& settings) {
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
   drawing::Graphics graphics;
-  const auto form = mainwindows::makeForm1({state, dialogs, graphics, {platform::programPath(settings)}});
-  form->Workspace->installEventFilter(&first);
-  form->show();
+  mainwindows::Editor editor({state, dialogs, graphics, {platform::programPath(settings)}});
+  editor.form.Workspace->installEventFilter(&first);
+  editor.form.show();
   return QApplication::exec();
 }
 

@@ -48,7 +48,7 @@ class Drag : public QObject {
     form_.Workspace->installEventFilter(this);
     send(QEvent::MouseButtonPress, from_);
   }
-  ~Drag() override { Q_EMIT form_.settling(); }
+  ~Drag() override { form_.session().settle(); }
   Q_DISABLE_COPY_MOVE(Drag)
 
   /// From the mouse move to the presented window.

@@ -7,8 +7,7 @@
 #include "drawing/graphics.h"
 #include "mainwindows/command_line.h"
 #include "mainwindows/config_file.h"
-#include "mainwindows/main_events.h"
-#include "mainwindows/main_window.h"
+#include "mainwindows/editor.h"
 #include "platform/console.h"
 #include "platform/failure.h"
 #include "themefiles/module_state.h"
@@ -52,8 +51,8 @@ int main(int argc, char** argv) {
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
   drawing::Graphics graphics;
-  const auto form = mainwindows::makeForm1({state, dialogs, graphics, mainwindows::configFolders()});
-  form->config().setFolderOfThisRun(commandLine.gameFolder);
-  form->show();
+  mainwindows::Editor editor({state, dialogs, graphics, mainwindows::configFolders()});
+  editor.form.config().setFolderOfThisRun(commandLine.gameFolder);
+  editor.form.show();
   return QApplication::exec();
 }

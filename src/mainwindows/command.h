@@ -7,7 +7,6 @@
 namespace mainwindows {
 
 class Form1;
-class PreviewHand;
 class ScreenRefresh;
 
 /// What the main window can be told to do.
@@ -16,7 +15,6 @@ enum class Command { Open, Save, Close, BackgroundColor, AnotherFolder, Refresh,
 /// What a command works on.
 struct CommandTargets {
   Form1& form;
-  PreviewHand& hand;
   ScreenRefresh& refresh;
 };
 

@@ -4,9 +4,9 @@
 
 #include "controls/work_queue.h"
 #include "mainwindows/main_window.h"
-#include "mainwindows/preview_hand.h"
 #include "mainwindows/screen_refresh.h"
 #include "mainwindows/theme_session.h"
+#include "platform/row_order.h"
 #include "themefiles/module_state.h"
 #include "toolwindow/finder_window.h"
 #include "toolwindow/tool_window.h"
@@ -30,7 +30,7 @@ void find(Form1& form) {
 constexpr bool AtOnce = true;
 constexpr bool Waits = false;
 
-constexpr std::array<CommandRow, 8> Rows{{
+constexpr auto Rows = std::to_array<CommandRow>({
     {Command::Open, [](const Targets& to) { OpenTheme(to.form); }, Waits, u"Ctrl+O", 1, u"open", u"Open"},
     {Command::Save, [](const Targets& to) { SaveTheme(to.form); }, AtOnce, u"Ctrl+S", 2, u"save", u"Save"},
     {Command::Close, [](const Targets& to) { CloseTheme(to.form); }, Waits, u"Ctrl+W", 3, u"close", u"Close"},
@@ -40,7 +40,8 @@ constexpr std::array<CommandRow, 8> Rows{{
     {Command::Refresh, [](const Targets& to) { to.refresh.refresh(); }, AtOnce, u"F5"},
     {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, u"F6"},
     {Command::Find, [](const Targets& to) { find(to.form); }, AtOnce, u"Ctrl+F"},
-}};
+});
+static_assert(platform::inOrder(Rows, &CommandRow::command, Command::Find));
 
 /// A theme without changes closes without a question: the running work is given up for it.
 bool endsWork(const Form1& form, Command command) {
@@ -56,11 +57,11 @@ CommandRows commandRows() {
 void runCommand(const CommandTargets& targets, const CommandRow& row) {
   const auto ifEnabled = [targets, &row] {
     if (!targets.form.isVisible()) return;  // the program has ended while the command waited
-    targets.hand.settle();
+    targets.form.session().settle();
     if (targets.form.commandEnabled(row.command)) row.run(targets);
   };
   if (row.atOnce) return ifEnabled();
-  targets.hand.settle();
+  targets.form.session().settle();
   if (!targets.form.commandEnabled(row.command)) return;
   using controls::RunningWork;
   targets.form.queue().runOutside(ifEnabled,

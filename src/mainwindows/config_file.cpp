@@ -20,8 +20,8 @@ constexpr QByteArrayView FirstContent = "[Setup]\r\nEXEDirectory=\r\n";
 
 /// System folders for programs. Settings don't belong there, even if the user may write them.
 bool isSystemFolder(const QString& folder) {
-  constexpr std::array<QStringView, 6> Heads{u"/usr/", u"/bin/",          u"/sbin/",
-                                             u"/opt/", u"/Applications/", u"C:/Program Files"};
+  constexpr auto Heads =
+      std::to_array<QStringView>({u"/usr/", u"/bin/", u"/sbin/", u"/opt/", u"/Applications/", u"C:/Program Files"});
   const QString native = platform::nativePath(folder) + u'/';
   return std::any_of(Heads.begin(), Heads.end(),
                      [&](QStringView head) { return native.startsWith(head, Qt::CaseInsensitive); });

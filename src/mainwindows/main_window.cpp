@@ -28,7 +28,7 @@
 #include "themefiles/module_state.h"
 #include "toolbar/button_values.h"
 #include "toolbar/mc_toolbar.h"
-#include "toolwindow/object_selection.h"
+#include "toolwindow/object_reasons.h"
 #include "toolwindow/tool_window.h"
 
 namespace mainwindows {
@@ -55,19 +55,24 @@ Form1::Form1(const MainServices& services, CommandRows commands)
                            Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint),
       services(services),
       client(new QWidget(this)),
-      PreviewArea(new QScrollArea(client)),
+      previewArea(new QScrollArea(client)),
       Workspace(new mainwindows::Workspace(client)),
       ToolBar(new toolbar::McToolBar(client)),
       StatusBar(new mainwindows::StatusBar(client)),
+      ProgressBar1(new progressbar::ProgressBar(client)),
       Combo1(new controls::ComboBox(client)),
       Combo2(new controls::ComboBox(client)),
       Label1(startLabel(19, 10800, 7800)),
       Label2(startLabel(11, 8160, 8160)),
-      ProgressBar1(new progressbar::ProgressBar(client)),
       commands_(commands),
       config_(services.configFolders),
-      host_(std::make_unique<PreviewHost>(PreviewControls{*Workspace, *ProgressBar1, *Combo1, *Combo2, queue_,
-                                                          [this] { return toolWindow_->Combo1->Text(); }})) {
+      session_(services.state, *this),
+      host_(std::make_unique<PreviewHost>(PreviewControls{.Workspace = *Workspace,
+                                                          .ProgressBar1 = *ProgressBar1,
+                                                          .schemes = *Combo1,
+                                                          .buttons = *Combo2,
+                                                          .queue = queue_,
+                                                          .screenName = [this] { return session_.screen(); }})) {
   setObjectName(QStringLiteral("Form1"));
   setWindowIcon(controls::assetIcon(QStringLiteral("app")));
   ToolBar->UserControl_ReadProperties(mainWindowToolBar(commands_));
@@ -96,10 +101,10 @@ void Form1::placeControls() {
   client->resize(size);
   setBackground(*client, FormColor);
   ToolBar->setGeometry(0, 0, size.width(), ToolBarHeight);
-  PreviewArea->setFrameShape(QFrame::NoFrame);
-  PreviewArea->setFocusPolicy(Qt::NoFocus);
-  PreviewArea->setWidget(Workspace);
-  PreviewArea->setGeometry(0, ToolBarHeight, size.width(), size.height() - ToolBarHeight - StatusBarHeight);
+  previewArea->setFrameShape(QFrame::NoFrame);
+  previewArea->setFocusPolicy(Qt::NoFocus);
+  previewArea->setWidget(Workspace);
+  previewArea->setGeometry(0, ToolBarHeight, size.width(), size.height() - ToolBarHeight - StatusBarHeight);
   StatusBar->setGeometry(0, size.height() - StatusBarHeight, size.width(), StatusBarHeight);
   setBackground(*StatusBar, drawing::ButtonFaceColor);
   ProgressBar1->resize(std::min(ProgressBarSize.width(), size.width() + 1), ProgressBarSize.height());
@@ -168,6 +173,11 @@ void Form1::showStartPicture(quint32 backColor) {
   Label2->show();
 }
 
+void Form1::leaveStartPicture() {
+  Label1->hide();
+  Label2->hide();
+}
+
 void Form1::showReport(const QString& text) {
   const QString time = QTime::currentTime().toString(QStringLiteral("HH:mm:ss"));
   StatusBar->setPanel(1, text.isEmpty() ? QString() : u'[' + time + QStringLiteral("] ") + text);
@@ -178,8 +188,15 @@ void Form1::ShowMousePosition(qint16 X, qint16 Y) {
 }
 
 renderer::RenderContext Form1::renderContext() {
-  return {services.state, toolWindow_->tags, Workspace->surface(), *host_, *this, services.dialogs, services.graphics,
-          account_,       &pictures_};
+  return {.state = services.state,
+          .tags = session_.objects(),
+          .Workspace = Workspace->surface(),
+          .host = *host_,
+          .status = *this,
+          .dialogs = services.dialogs,
+          .graphics = services.graphics,
+          .account = account_,
+          .pictures = &pictures_};
 }
 
 void Form1::DrawScreen() {
@@ -196,7 +213,7 @@ void Form1::DrawScreen() {
   }
   ProgressBar1->hide();
   Workspace->Refresh();
-  toolwindow::showReasons(*toolWindow_, account_);
+  toolwindow::showReasons(toolWindow_->objects(), account_);
 }
 
 int Form1::buttonOf(Command command) const {
@@ -220,8 +237,7 @@ void Form1::unloadToolWindow() {
   toolWindow_->hide();
   toolWindow_->deleteLater();
   toolWindow_ = nullptr;
-  services.state.EditorShown = false;
-  Q_EMIT themeLeft();
+  session_.end();
 }
 
 void Form1::closeEvent(QCloseEvent* event) {

@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include "controls/work_queue.h"
+#include "editing/session.h"
 #include "mainwindows/command.h"
 #include "mainwindows/config_file.h"
 #include "platform/status_line.h"
@@ -54,26 +55,30 @@ struct MainServices {
 };
 
 /// The main window: the preview with its toolbar, status bar and the choices of colour scheme and button. It is there
-/// from the program's start to its end.
+/// from the program's start to its end, and has what the other windows share. What works on it: see Editor.
 class Form1 : public QWidget, public platform::StatusLine {
   Q_OBJECT
 
  public:
+  Form1(const MainServices& services, CommandRows commands);
   ~Form1() override;
 
   const MainServices services;
 
   QWidget* client;           ///< the client area: 800 x 650, or what the screen has room for
-  QScrollArea* PreviewArea;  ///< has scroll bars on a screen that is too small for the preview
+  QScrollArea* previewArea;  ///< has scroll bars on a screen that is too small for the preview
   mainwindows::Workspace* Workspace;
   toolbar::McToolBar* ToolBar;
   mainwindows::StatusBar* StatusBar;
-  controls::ComboBox* Combo1;  ///< the colour scheme
-  controls::ComboBox* Combo2;  ///< which button is shown selected
-  QLabel* Label1;              ///< version
-  QLabel* Label2;              ///< credit
   progressbar::ProgressBar* ProgressBar1;
 
+  /// The lists of the colour schemes, and of the screen's buttons, of which one is shown selected.
+  controls::ComboBox& schemes() const { return *Combo1; }
+  controls::ComboBox& buttons() const { return *Combo2; }
+
+  /// The session of the theme that is open.
+  editing::Session& session() { return session_; }
+  const editing::Session& session() const { return session_; }
   ConfigFile& config() { return config_; }
   controls::WorkQueue& queue() { return queue_; }
   const controls::WorkQueue& queue() const { return queue_; }
@@ -97,25 +102,18 @@ class Form1 : public QWidget, public platform::StatusLine {
   void ShowMousePosition(qint16 X, qint16 Y);
   /// Shows the start picture with the two labels, on a back colour value.
   void showStartPicture(quint32 backColor);
+  /// Hides the labels: the picture is that of a theme now.
+  void leaveStartPicture();
   /// Enables the button of a command.
   void enableCommand(Command command, bool enabled);
   /// Whether the button of a command is enabled; true for a command without one.
   bool commandEnabled(Command command) const;
 
  Q_SIGNALS:
-  /// Something else is about to happen: a drag has to end, and moves by the arrow keys are to be committed.
-  void settling();
-  /// An object has been chosen, by whatever way.
-  void objectChosen();
-  /// The theme's tool window is gone.
-  void themeLeft();
   /// The user or the end of the desktop session asks to close the window.
   void closeAsked();
 
  protected:
-  /// The window without its events, see makeForm1.
-  Form1(const MainServices& services, CommandRows commands);
-
   void showReport(const QString& text) override;
   void closeEvent(QCloseEvent* event) override;
 
@@ -126,8 +124,14 @@ class Form1 : public QWidget, public platform::StatusLine {
   void Form_Load();
   int buttonOf(Command command) const;
 
+  controls::ComboBox* const Combo1;  ///< the colour schemes
+  controls::ComboBox* const Combo2;  ///< the screen's buttons
+  QLabel* const Label1;              ///< version
+  QLabel* const Label2;              ///< credit
+
   CommandRows commands_;
   ConfigFile config_;
+  editing::Session session_;
   controls::WorkQueue queue_;
   toolwindow::Form2* toolWindow_ = nullptr;
   renderer::RenderAccount account_;

@@ -23,15 +23,11 @@ class Form3 : public QDialog {
   Form3(QString gameFolder, const QStringList& themes, std::function<bool(const themefiles::ThemePaths&)> open,
         QWidget* owner);
 
-  controls::ListBox* List1;     ///< themes
-  controls::ListBox* List2;     ///< skins of the theme
-  controls::CutLabel* Label4;   ///< name of the theme
-  controls::CutLabel* Label5;   ///< creator of the theme
-  controls::CutLabel* Label9;   ///< name of the skin
-  controls::CutLabel* Label10;  ///< author of the skin
-  controls::ComboBox* Combo1;   ///< languages
-  QPushButton* Command1;        ///< Open
-  QPushButton* Command2;        ///< Cancel
+  controls::ListBox& themes() const { return *List1; }
+  controls::ListBox& skins() const { return *List2; }
+  controls::ComboBox& languages() const { return *Combo1; }
+  QPushButton& openButton() const { return *Command1; }
+  QPushButton& cancelButton() const { return *Command2; }
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -44,6 +40,16 @@ class Form3 : public QDialog {
   void List2_Click();
   void Command1_Click();
   themefiles::ThemePaths chosen() const;
+
+  controls::ListBox* const List1;     ///< the themes
+  controls::ListBox* const List2;     ///< the skins of the theme
+  controls::CutLabel* const Label4;   ///< name of the theme
+  controls::CutLabel* const Label5;   ///< creator of the theme
+  controls::CutLabel* const Label9;   ///< name of the skin
+  controls::CutLabel* const Label10;  ///< author of the skin
+  controls::ComboBox* const Combo1;   ///< the languages
+  QPushButton* const Command1;        ///< Open
+  QPushButton* const Command2;        ///< Cancel
 
   QString gameFolder_;
   std::function<bool(const themefiles::ThemePaths&)> open_;

@@ -59,7 +59,7 @@ PictureWatch::PictureWatch(Form1& form, const PreviewHand& hand) : QObject(&form
 }
 
 void PictureWatch::drawn() {
-  if (form_.toolWindow() == nullptr) return;
+  if (!form_.session().isOpen()) return;
   pictures_ = form_.account().pictures;
   withoutSkin_ = !skinIsThere(form_);
   watchAnew();
@@ -94,7 +94,7 @@ void PictureWatch::rest() {
 
 void PictureWatch::watchAnew() {
   stopWatching();
-  if (form_.toolWindow() == nullptr) return;
+  if (!form_.session().isOpen()) return;
   QSet<QString> places;
   addPlaces(places, skinFolder(form_));
   for (const auto& [picture, found] : pictures_) addPlaces(places, platform::nativePath(picture));

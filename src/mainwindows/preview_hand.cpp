@@ -14,16 +14,17 @@
 
 #include "controls/list_box.h"
 #include "controls/work_queue.h"
+#include "editing/commit.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/workspace.h"
 #include "platform/failure.h"
 #include "themefiles/module_state.h"
-#include "themefiles/working_copies.h"
-#include "toolwindow/object_selection.h"
 #include "toolwindow/tool_window.h"
-#include "toolwindow/value_commit.h"
 
 namespace mainwindows {
+
+using editing::Grip;
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -37,17 +38,12 @@ struct Arrow {
   int key;
   QPoint step;
 };
-constexpr std::array<Arrow, 4> Arrows{
-    {{Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}}};
+constexpr auto Arrows = std::to_array<Arrow>(
+    {{Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}});
 
 QPoint pixelOf(const QMouseEvent& event) {
   const QPointF place = event.position();
   return {static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))};
-}
-
-/// The movement along its longer direction.
-QPoint held(const QPoint& movement) {
-  return std::abs(movement.x()) >= std::abs(movement.y()) ? QPoint(movement.x(), 0) : QPoint(0, movement.y());
 }
 
 }  // namespace
@@ -56,7 +52,7 @@ PreviewHand::PreviewHand(Form1& form)
     : QObject(&form),
       form_(form),
       trial_(form),
-      scroll_(*form.PreviewArea,
+      scroll_(*form.previewArea,
               [this](const QPoint& by) {
                 mouse_ += by;
                 drag(keys_);
@@ -96,19 +92,17 @@ void PreviewHand::showChosen() {
 }
 
 void PreviewHand::letGo() {
-  stage_ = Stage::None;
+  end();
   telling_.reset();
-  scroll_.stop();
   trial_.forget();
   heldKeys_.clear();
-  form_.Workspace->setHandLabel({});
   form_.Workspace->unsetCursor();
   form_.Workspace->setFocusPolicy(Qt::NoFocus);
   form_.Workspace->clearFocus();
 }
 
 bool PreviewHand::eventFilter(QObject* watched, QEvent* event) {
-  if (form_.toolWindow() == nullptr) return false;
+  if (!form_.session().isOpen()) return false;
   if (event->type() == QEvent::ContextMenu && watched->isWidgetType() && menuAsked(static_cast<QWidget&>(*watched))) {
     return true;
   }
@@ -153,7 +147,7 @@ bool PreviewHand::press(const QMouseEvent& event) {
   endedDrag_ = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
   settle();
   // Committing has drawn the screen and served events: the theme may be closed by now.
-  if (event.button() != Qt::LeftButton || form_.toolWindow() == nullptr) return false;
+  if (event.button() != Qt::LeftButton || !form_.session().isOpen()) return false;
   pressed_ = mouse_ = pixelOf(event);
   const bool free = event.buttons() == Qt::LeftButton && !form_.queue().busy();
   picksAtRelease_ = free && selectedAt(form_, pressed_).under;
@@ -163,12 +157,12 @@ bool PreviewHand::press(const QMouseEvent& event) {
 
 /// Chooses the object at the place; false where there is none.
 bool PreviewHand::pick(const QPoint& place) {
-  const int row = picking_.rowAt(place, form_.account(), form_.toolWindow()->tags);
+  const int row = picking_.rowAt(place, form_.account(), form_.session().objects());
   if (row < 0) return false;
-  form_.toolWindow()->List1->setFocus();
+  form_.toolWindow()->objects().setFocus();
   form_.Workspace->setFocus();  // the keys go on here
   const QScopedValueRollback picks(picks_, true);
-  toolwindow::pickTag(*form_.toolWindow(), row);
+  form_.session().pickObject(row);
   return true;
 }
 
@@ -182,7 +176,7 @@ void PreviewHand::move(const QMouseEvent& event) {
   if (stage_ == Stage::Pressed) {
     if (std::max(std::abs(way.x()), std::abs(way.y())) < DragDistance) return;
     const SelectedObject selected = selectedAt(form_, pressed_);
-    if (!take(selected, gripAt(selected.place, pressed_), true)) return;
+    if (!take(selected, editing::gripAt(selected.place, pressed_), true)) return;
     stage_ = Stage::Dragging;
   }
   drag(event.modifiers());
@@ -192,7 +186,7 @@ void PreviewHand::move(const QMouseEvent& event) {
 void PreviewHand::drag(Qt::KeyboardModifiers keys) {
   const QPoint way = mouse_ - pressed_;
   keys_ = keys;
-  now_ = moved(start_, grip_, (keys & Qt::ControlModifier) != 0 ? held(way) : way);
+  now_ = editing::moved(start_, grip_, (keys & Qt::ControlModifier) != 0 ? editing::straight(way) : way);
   pacer_.request();
 }
 
@@ -206,7 +200,7 @@ bool PreviewHand::release(const QMouseEvent& event) {
                      event.modifiers()));
     commit();
   }
-  if (form_.toolWindow() != nullptr) hover(pixelOf(event), event.buttons() == Qt::NoButton);
+  if (form_.session().isOpen()) hover(pixelOf(event), event.buttons() == Qt::NoButton);
   return true;
 }
 
@@ -214,7 +208,8 @@ bool PreviewHand::release(const QMouseEvent& event) {
 void PreviewHand::hover(const QPoint& place, bool free) {
   if (!free) return;
   const SelectedObject selected = form_.queue().busy() ? SelectedObject() : selectedAt(form_, place);
-  const Qt::CursorShape shape = selected.under ? shapeOf(gripAt(selected.place, place)) : Qt::ArrowCursor;
+  const Qt::CursorShape shape =
+      selected.under ? editing::shapeOf(editing::gripAt(selected.place, place)) : Qt::ArrowCursor;
   if (form_.Workspace->cursor().shape() != shape) form_.Workspace->setCursor(shape);
 }
 
@@ -224,19 +219,12 @@ bool PreviewHand::take(const SelectedObject& selected, Grip grip, bool tells) {
   if (selected.section.isEmpty()) return false;
   section_ = selected.section;
   grip_ = grip;
-  telling_ = std::make_unique<platform::Telling>(form_);
-  const auto read = [&] { now_ = start_ = readNumbers(selected.heightKey); };
+  telling_ = std::make_unique<platform::ReportScope>(form_);
+  const auto read = [&] { now_ = start_ = editing::readHeld(form_.session(), section_, grip, selected.heightKey); };
   const bool done = tells ? platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), read)
                           : platform::guardedSilently(read);
   if (!done) telling_.reset();
   return done;
-}
-
-/// The numbers of the object in hand as they stand in the theme. A working copy that is gone is made anew first.
-HeldNumbers PreviewHand::readNumbers(const QString& heightKey) const {
-  themefiles::ModuleState& state = form_.services.state;
-  themefiles::restoreCopy(state, &themefiles::ThemePaths::ThemeFile, form_);
-  return readHeld(section_, state.paths.ThemeFile, grip_, heightKey);
 }
 
 bool PreviewHand::keyPress(const QKeyEvent& event) {
@@ -257,13 +245,13 @@ void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
   // Committing serves events: a key among them may have begun anew, or the mouse taken over.
   while (stage_ == Stage::Keys && grip != grip_) settle();
   const bool free = stage_ == Stage::None || stage_ == Stage::Keys;
-  if (!free || form_.toolWindow() == nullptr) return;
+  if (!free || !form_.session().isOpen()) return;
   // What height a button is drawn with is known when it has been drawn.
   if (stage_ == Stage::None && grip.sizes() && form_.queue().busy()) return;
   if (stage_ == Stage::None && !take(selectedAt(form_, {}), grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
   heldKeys_.insert(event.key());
-  now_ = moved(now_, grip_, (event.modifiers() & Qt::ShiftModifier) != 0 ? step * LongStep : step);
+  now_ = editing::moved(now_, grip_, (event.modifiers() & Qt::ShiftModifier) != 0 ? step * LongStep : step);
   rest_.start();
   pacer_.request();
 }
@@ -278,31 +266,34 @@ void PreviewHand::keyRelease(const QKeyEvent& event) {
 void PreviewHand::showFrame() {
   if (stage_ != Stage::Dragging && stage_ != Stage::Keys) return;
   if (form_.queue().busy()) return pacer_.request();
-  trial_.show({section_, changedValues(start_, now_)});
-  form_.Workspace->setHandLabel(labelOf(now_, grip_),
+  trial_.show({section_, editing::changedValues(start_, now_)});
+  form_.Workspace->setHandLabel(editing::labelOf(now_, grip_),
                                 stage_ == Stage::Dragging ? mouse_ : form_.Workspace->markRect().bottomRight());
 }
 
-void PreviewHand::commit() {
+void PreviewHand::end() {
   stage_ = Stage::None;
   scroll_.stop();
   form_.Workspace->setHandLabel({});
-  const auto values = changedValues(start_, now_);
+}
+
+void PreviewHand::commit() {
+  end();
+  const auto values = editing::changedValues(start_, now_);
   const auto telling = std::exchange(telling_, nullptr);
   if (values.empty()) return trial_.putBack();
   // Another program may have taken the section away meanwhile.
-  const bool stands = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_),
-                                        [&] { readNumbers(start_.heightKey); });
+  const bool isThere = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), [&] {
+    editing::readHeld(form_.session(), section_, grip_, start_.heightKey);
+  });
   const QString section = section_;
-  if (!stands || !toolwindow::commitValues(*form_.toolWindow(), section, values)) trial_.putBack();
+  if (!isThere || !editing::commitValues(form_.session(), {{section, values}})) trial_.putBack();
 }
 
 void PreviewHand::giveUp() {
   const bool shown = stage_ != Stage::Pressed;
-  stage_ = Stage::None;
+  end();
   telling_.reset();
-  scroll_.stop();
-  form_.Workspace->setHandLabel({});
   if (shown) trial_.putBack();
 }
 

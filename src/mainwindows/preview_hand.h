@@ -8,7 +8,7 @@
 #include <QTimer>
 
 #include "controls/frame_pacer.h"
-#include "mainwindows/hand_geometry.h"
+#include "editing/held_numbers.h"
 #include "mainwindows/preview_picking.h"
 #include "mainwindows/preview_scroll.h"
 #include "mainwindows/selected_object.h"
@@ -61,9 +61,9 @@ class PreviewHand : public QObject {
   void drag(Qt::KeyboardModifiers keys);
   void hover(const QPoint& place, bool free);
   bool pick(const QPoint& place);
-  bool take(const SelectedObject& selected, Grip grip, bool tells);
-  HeldNumbers readNumbers(const QString& heightKey) const;
+  bool take(const SelectedObject& selected, editing::Grip grip, bool tells);
   void showFrame();
+  void end();
   void commit();
   void giveUp();
 
@@ -77,10 +77,10 @@ class PreviewHand : public QObject {
   QPoint mouse_;            ///< where it is now
   Qt::KeyboardModifiers keys_;
   QString section_;
-  Grip grip_;
-  HeldNumbers start_;
-  HeldNumbers now_;
-  std::unique_ptr<platform::Telling> telling_;  ///< keeps what is noted while an object is in hand for its commit
+  editing::Grip grip_;
+  editing::HeldNumbers start_;
+  editing::HeldNumbers now_;
+  std::unique_ptr<platform::ReportScope> telling_;  ///< keeps what is noted while an object is in hand for its commit
   TrialPicture trial_;
   PreviewScroll scroll_;
   QSet<int> heldKeys_;

@@ -3,12 +3,9 @@
 #include <utility>
 
 #include "controls/combo_box.h"
-#include "controls/list_box.h"
 #include "controls/work_queue.h"
 #include "mainwindows/main_window.h"
 #include "themefiles/module_state.h"
-#include "toolwindow/object_selection.h"
-#include "toolwindow/tool_window.h"
 
 namespace mainwindows {
 namespace {
@@ -18,10 +15,10 @@ constexpr quint8 FirstButton = 1;
 }  // namespace
 
 void ScreenRefresh::list() {
-  toolwindow::Form2* tools = form_.toolWindow();
-  if (tools == nullptr) return;
-  if (kept_ && kept_->screen != tools->Combo1->Text()) kept_.reset();
-  toolwindow::listScreen(*tools, kept_ ? kept_->object : QString());
+  editing::Session& session = form_.session();
+  if (!session.isOpen()) return;
+  if (kept_ && kept_->screen != session.screen()) kept_.reset();
+  session.listObjects(kept_ ? kept_->object : QString(), [this] { form_.queue().yield(); });
 }
 
 void ScreenRefresh::draw() {
@@ -30,15 +27,15 @@ void ScreenRefresh::draw() {
 }
 
 void ScreenRefresh::refresh() {
-  const toolwindow::Form2* tools = form_.toolWindow();
-  if (tools == nullptr) return;
+  const editing::Session& session = form_.session();
+  if (!session.isOpen()) return;
   form_.forgetPictures();
-  const QString screen = tools->Combo1->Text();
+  const QString& screen = session.screen();
   // If an earlier refresh hasn't ended, its choices are kept: the lists may be empty now.
   if (!kept_ || kept_->screen != screen) {
     // Until a screen's list of buttons is filled, the selected one is that of the screen before.
     const themefiles::ModuleState& state = form_.services.state;
-    kept_ = {screen, tools->List1->Text(), state.ButtonListFilled ? state.SelectedButton : FirstButton};
+    kept_ = {screen, session.object(), state.ButtonListFilled ? state.SelectedButton : FirstButton};
   }
   form_.queue().choose();
 }
@@ -49,9 +46,9 @@ void ScreenRefresh::keepButton(quint8 button) {
 
 /// Selects the button that was selected before the list of buttons was filled anew, and has it drawn so.
 void ScreenRefresh::selectButtonAgain(quint8 button) {
-  if (button == form_.services.state.SelectedButton || button > form_.Combo2->ListCount()) return;
+  if (button == form_.services.state.SelectedButton || button > form_.buttons().ListCount()) return;
   form_.services.state.SelectedButton = button;
-  form_.Combo2->SetListIndex(button - 1);
+  form_.buttons().SetListIndex(button - 1);
   form_.queue().draw();
 }
 

@@ -2,13 +2,11 @@
 
 #include <algorithm>
 
-#include "controls/list_box.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/workspace.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "themefiles/module_state.h"
-#include "toolwindow/tool_window.h"
 
 namespace mainwindows {
 namespace {
@@ -25,7 +23,7 @@ const renderer::DrawnObject* drawnObject(const Form1& form, const QString& name)
 }  // namespace
 
 SelectedObject selectedAt(const Form1& form, const QPoint& pixel) {
-  const QString name = form.toolWindow()->List1->Text();
+  const QString name = form.session().object();
   SelectedObject selected{platform::trimBlanks(name), {}, {}, false};
   if (selected.section.isEmpty()) return selected;
   const bool marked = form.Workspace->markVisible();
@@ -47,7 +45,7 @@ SelectedObject selectedAt(const Form1& form, const QPoint& pixel) {
 }
 
 QRect seenPlace(const Form1& form) {
-  const renderer::DrawnObject* const drawn = drawnObject(form, form.toolWindow()->List1->Text());
+  const renderer::DrawnObject* const drawn = drawnObject(form, form.session().object());
   if (drawn != nullptr) return drawn->place;
   return form.Workspace->markVisible() ? form.Workspace->markRect() : QRect();
 }

@@ -3,11 +3,9 @@
 #include <optional>
 
 #include <QApplication>
-#include <QLabel>
 
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
-#include "controls/list_view.h"
 #include "controls/modal.h"
 #include "controls/twips.h"
 #include "drawing/system_colours.h"
@@ -22,7 +20,6 @@
 #include "themefiles/module_state.h"
 #include "themefiles/theme_paths.h"
 #include "themefiles/working_copies.h"
-#include "toolwindow/tool_events.h"
 #include "toolwindow/tool_window.h"
 
 namespace mainwindows {
@@ -92,11 +89,13 @@ void dropEarlierTheme(Form1& form) {
 }
 
 void showToolWindow(Form1& form) {
-  form.setToolWindow(toolwindow::makeForm2(
-      {form.services.state, form, form.services.dialogs, form.Workspace->surface(), *form.Workspace, form.queue(),
-       [&form] { form.enableCommand(Command::Save, true); }, [&form] { return form.Combo1->Text(); },
-       [&form] { Q_EMIT form.settling(); }, [&form] { Q_EMIT form.objectChosen(); }},
-      &form));
+  form.setToolWindow(new toolwindow::Form2({.session = form.session(),
+                                            .dialogs = form.services.dialogs,
+                                            .Workspace = form.Workspace->surface(),
+                                            .mark = *form.Workspace,
+                                            .queue = form.queue(),
+                                            .schemeName = [&form] { return form.schemes().Text(); }},
+                                           &form));
   // The lower right corner of the main window, by the outer sizes of both.
   const double formRight =
       form.x() * controls::TwipsPerPixel + form.width() * controls::TwipsPerPixel + controls::FrameWidth;
@@ -111,19 +110,13 @@ void showToolWindow(Form1& form) {
 
 void ReadTheme(Form1& form) {
   platform::guarded(form, QStringLiteral("Error while reading Theme"), [&] {
-    form.Label1->hide();
-    form.Label2->hide();
+    form.leaveStartPicture();
     themefiles::ReadColors(form.services.state, form);
-    form.Combo1->Clear();
-    for (const QString& scheme : themefiles::schemeNames(form.services.state)) form.Combo1->AddItem(scheme);
-    form.Combo1->SetListIndex(0);
-    toolwindow::Form2& tools = *form.toolWindow();
-    for (QWidget* control : std::initializer_list<QWidget*>{tools.Combo1, tools.List1, tools.ListView1}) {
-      control->setEnabled(true);
-    }
-    tools.activateWindow();
-    tools.Combo1->setFocus();
-    tools.Combo1->SetListIndex(0);
+    controls::ComboBox& schemes = form.schemes();
+    schemes.Clear();
+    for (const QString& scheme : themefiles::schemeNames(form.services.state)) schemes.AddItem(scheme);
+    schemes.SetListIndex(0);
+    form.toolWindow()->start();
   });
 }
 
@@ -139,7 +132,7 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
       form.ShowStatus(QStringLiteral("Ctrl+Shift+O asks for another game folder"));
       return;
     }
-    std::optional<platform::Telling> telling;
+    std::optional<platform::ReportScope> telling;
     const auto open = [&](const themefiles::ThemePaths& chosen) {
       telling.reset();  // drops the notes of an attempt that failed
       telling.emplace(form);
@@ -152,8 +145,8 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
     ReadTheme(form);
     form.enableCommand(Command::Close, true);
     form.enableCommand(Command::BackgroundColor, true);
-    form.Combo1->show();
-    const QStringList opened{dialog.List1->Text(), dialog.List2->Text(), dialog.Combo1->Text()};
+    form.schemes().show();
+    const QStringList opened{dialog.themes().Text(), dialog.skins().Text(), dialog.languages().Text()};
     telling->success(gameFolder.problem.isEmpty() ? opened.join(QStringLiteral(", ")) : gameFolder.problem);
   });
 }
@@ -170,21 +163,21 @@ void openAnotherFolder(Form1& form) {
 
 void SaveTheme(Form1& form) {
   platform::guarded(form, QStringLiteral("Error while saving files"), [&] {
-    platform::Telling telling(form);
+    platform::ReportScope telling(form);
     themefiles::saveWorkingCopies(form.services.state, form);
     form.enableCommand(Command::Save, false);
     telling.success(QStringLiteral("Saved"));
-    form.toolWindow()->markLater();
+    Q_EMIT form.session().differencesDue();
   });
 }
 
 void CloseTheme(Form1& form) {
-  platform::Telling telling(form);
+  platform::ReportScope telling(form);
   if (!mayDropChanges(form)) return;
   form.queue().forget();
   themefiles::forgetTheme(form.services.state);
   hideMark(form);
-  for (QWidget* control : std::initializer_list<QWidget*>{form.Combo1, form.Combo2, form.ProgressBar1}) {
+  for (QWidget* control : std::initializer_list<QWidget*>{&form.schemes(), &form.buttons(), form.ProgressBar1}) {
     control->hide();
   }
   form.unloadToolWindow();

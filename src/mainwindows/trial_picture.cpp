@@ -5,7 +5,6 @@
 #include "renderer/render_context.h"
 #include "renderer/trial_drawing.h"
 #include "themefiles/module_state.h"
-#include "toolwindow/tool_window.h"
 
 namespace mainwindows {
 
@@ -13,17 +12,17 @@ void TrialPicture::show(const renderer::TrialValues& values) {
   Workspace& preview = *form_.Workspace;
   if (!shown_) shown_ = Shown{preview.surface().image(), {}};
   platform::guardedSilently([&] { renderer::drawTrial(form_.renderContext(), values, shown_->files); });
-  renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, values);
+  renderer::drawTrialCursor(form_.services.state, form_.session().objects(), preview.surface(), preview, values);
   preview.Refresh();
 }
 
 void TrialPicture::putBack() {
-  if (form_.toolWindow() == nullptr) return;
+  if (!form_.session().isOpen()) return;
   Workspace& preview = *form_.Workspace;
   if (shown_) preview.surface().putBack(shown_->before);
   forget();
   form_.renderContext().pictures->letGo();
-  renderer::drawTrialCursor(form_.services.state, form_.toolWindow()->tags, preview.surface(), preview, {});
+  renderer::drawTrialCursor(form_.services.state, form_.session().objects(), preview.surface(), preview, {});
   preview.Refresh();
 }
 

@@ -1,7 +1,6 @@
 #include "mainwindows/workspace.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 #include <QAccessibleWidget>
@@ -145,10 +144,10 @@ void Workspace::paintEvent(QPaintEvent* event) {
 
 void Workspace::paintMark(QPainter& painter) const {
   const QRect outer = markRect();
-  const std::array<QRect, 4> edges{{{outer.left(), outer.top(), outer.width(), 1},
-                                    {outer.left(), outer.bottom(), outer.width(), 1},
-                                    {outer.left(), outer.top(), 1, outer.height()},
-                                    {outer.right(), outer.top(), 1, outer.height()}}};
+  const QRect edges[] = {{outer.left(), outer.top(), outer.width(), 1},
+                         {outer.left(), outer.bottom(), outer.width(), 1},
+                         {outer.left(), outer.top(), 1, outer.height()},
+                         {outer.right(), outer.top(), 1, outer.height()}};
   for (const QRect& edge : edges) painter.fillRect(edge, borderColor_);
 }
 

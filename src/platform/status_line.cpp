@@ -52,11 +52,11 @@ void StatusLine::endOperation() {
   notes_.clear();
 }
 
-Telling::~Telling() {
+ReportScope::~ReportScope() {
   if (--status_.tellings_ == 0) status_.endOperation();
 }
 
-void Telling::success(const QString& text) {
+void ReportScope::success(const QString& text) {
   if (status_.told_ == before_) status_.ShowStatus(text);
 }
 
@@ -76,7 +76,7 @@ std::optional<QString> failureIn(const std::function<void()>& work) {
 }
 
 bool guarded(StatusLine& status, const QString& step, const std::function<void()>& work) {
-  const Telling telling(status);
+  const ReportScope telling(status);
   const auto description = failureIn(work);
   if (description) status.ShowStatus(reportText(step, *description));
   return !description;

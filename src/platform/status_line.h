@@ -29,7 +29,7 @@ class StatusLine {
   virtual void showReport(const QString& text) = 0;
 
  private:
-  friend class Telling;
+  friend class ReportScope;
   void showAll();
   void endOperation();
 
@@ -43,12 +43,12 @@ class StatusLine {
 
 /// Brackets an operation: the status line shows its last report and all its notes together. An operation inside another
 /// one belongs to that.
-class Telling {
+class ReportScope {
  public:
-  explicit Telling(StatusLine& status) : status_(status), before_(status.told_) { ++status_.tellings_; }
-  ~Telling();
-  Telling(const Telling&) = delete;
-  Telling& operator=(const Telling&) = delete;
+  explicit ReportScope(StatusLine& status) : status_(status), before_(status.told_) { ++status_.tellings_; }
+  ~ReportScope();
+  ReportScope(const ReportScope&) = delete;
+  ReportScope& operator=(const ReportScope&) = delete;
 
   /// Reports success, unless there was a report or a note since the operation began.
   void success(const QString& text);

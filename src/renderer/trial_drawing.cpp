@@ -1,9 +1,8 @@
 #include "renderer/trial_drawing.h"
 
-#include <array>
-
 #include "renderer/plain_host.h"
 #include "renderer/render_driver.h"
+#include "themefiles/mark_record.h"
 
 namespace renderer {
 namespace {
@@ -36,23 +35,28 @@ RenderAccount drawTrial(const RenderContext& context, const TrialValues& values,
   NoDialogs dialogs(status);
   TrialFrame frame(values, files);
   RenderAccount account;
-  RenderContext trial{
-      state, context.tags, context.Workspace, host, status, dialogs, context.graphics, account, context.pictures,
-      &frame};
+  RenderContext trial{.state = state,
+                      .tags = context.tags,
+                      .Workspace = context.Workspace,
+                      .host = host,
+                      .status = status,
+                      .dialogs = dialogs,
+                      .graphics = context.graphics,
+                      .account = account,
+                      .pictures = context.pictures,
+                      .trial = &frame};
   drawPasses(trial);
   return account;
 }
 
 void drawTrialCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                      CursorMark& mark, const TrialValues& values) {
-  using themefiles::CursorRecord;
-  constexpr std::array<std::pair<const char*, QString CursorRecord::*>, 4> Fields{
-      {{"X", &CursorRecord::X}, {"Y", &CursorRecord::Y}, {"W", &CursorRecord::W}, {"H", &CursorRecord::H}}};
   const PenKeeper pen(workspace);
   QuietStatus status;
   themefiles::ModuleState tried = state;
-  for (const auto& [key, field] : Fields) {
-    if (const QString* const value = values.find(QString::fromLatin1(key))) tried.CursorRect.*field = *value;
+  for (const themefiles::MarkKey& row : themefiles::MarkKeys) {
+    const QString* const value = values.find(row.key.toString());
+    if (value != nullptr) themefiles::followCommit(tried.CursorRect, row.key.toString(), *value);
   }
   DrawCursor(tried, tags, workspace, mark, status);
 }

@@ -4,6 +4,7 @@
 #include "platform/files.h"
 #include "platform/numbers.h"
 #include "platform/text_lines.h"
+#include "themefiles/mark_record.h"
 
 namespace themefiles {
 namespace {
@@ -19,16 +20,6 @@ ValueRow rowOf(const QStringList& parts) {
   return {parts[0], platform::trimBlanks(parts[1])};
 }
 
-/// The record's text field for a key, or null.
-QString* textField(CursorRecord& record, const QString& key) {
-  if (key == u"X") return &record.X;
-  if (key == u"Y") return &record.Y;
-  if (key == u"W") return &record.W;
-  if (key == u"H") return &record.H;
-  if (key == u"TEXT") return &record.Text;
-  return nullptr;
-}
-
 /// Stores the number, or reports that it is out of range.
 template <typename Field>
 void storeNumber(Field& field, std::optional<Field> number, const QString& key, const QString& value,
@@ -41,10 +32,13 @@ void storeNumber(Field& field, std::optional<Field> number, const QString& key, 
 }
 
 void updateRecord(CursorRecord& record, const QString& key, const QString& value, platform::StatusLine& status) {
-  if (QString* field = textField(record, key)) {
-    *field = value;
-  } else if (key == u"SIZE") {
-    storeNumber(record.Size, platform::roundToInt16(platform::numberOf(value)), key, value, status);
+  const MarkKey* const row = markKeyOf(key);
+  if (row != nullptr && row->measure != nullptr) {
+    record.*row->measure = value;
+  } else if (row != nullptr) {
+    storeNumber(record.*row->roundedSize, platform::roundToInt16(platform::numberOf(value)), key, value, status);
+  } else if (key == u"TEXT") {
+    record.Text = value;
   } else if (key == u"FONT") {
     storeNumber(record.Font, platform::roundToByte(platform::numberOf(value)), key, value, status);
   }

@@ -18,8 +18,8 @@ namespace themefiles {
 namespace {
 
 /// The files of a theme in the order in which they are copied.
-constexpr std::array<QString ThemePaths::*, 3> CopiedFiles{&ThemePaths::ThemeFile, &ThemePaths::SkinFile,
-                                                           &ThemePaths::LanguageFile};
+constexpr std::array CopiedFiles{&ThemePaths::ThemeFile, &ThemePaths::SkinFile, &ThemePaths::LanguageFile};
+static_assert(CopiedFiles.size() == std::tuple_size_v<decltype(ModuleState::ownCopies)>);
 
 QByteArray digest(const QByteArray& bytes) {
   return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
@@ -100,9 +100,9 @@ Start startFrom(const platform::FileTurn& turn, const ModuleState& state, size_t
   return {*standing};
 }
 
-/// Applies `change` to a working copy's text, writes it once, and checks that the file has the keys.
-void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status, const QString& section,
-              const QStringList& keys, const std::function<QByteArray(const QByteArray& text)>& change) {
+/// Applies `change` to a working copy's text, writes it once, and checks that the file has the keys that were `edited`.
+void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status,
+              const std::vector<KeyValue>& edited, const std::function<QByteArray(const QByteArray& text)>& change) {
   const size_t file = copyNumber(copy);
   const QString& path = state.paths.*copy;
   telling(status, [&](QStringList& notes) {
@@ -112,7 +112,7 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
     // A value that stands there already is written again.
     start.isThere ? turn.replace(changed) : makeAnew(turn, path, changed);
     state.ownCopies.at(file) = changed;
-    for (const QString& key : keys) checkReadsBack(changed, section, key, path);
+    for (const KeyValue& each : edited) checkReadsBack(changed, each.section, each.key, path);
   });
 }
 
@@ -165,30 +165,28 @@ size_t copyNumber(QString ThemePaths::*copy) {
 
 void putInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status) {
-  editCopy(state, copy, status, Section, {Key},
+  editCopy(state, copy, status, {{Section, Key, {}}},
            [&](const QByteArray& text) { return changedText(text, Section, Key, Value); });
 }
 
-void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section,
-                     const std::vector<std::pair<QString, QString>>& values, platform::StatusLine& status) {
-  QStringList keys;
-  for (const auto& [key, value] : values) keys += key;
-  editCopy(state, copy, status, section, keys, [&](QByteArray text) {
-    for (const auto& [key, value] : values) text = changedText(text, section, key, value);
+void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::vector<KeyValue>& values,
+                     platform::StatusLine& status) {
+  editCopy(state, copy, status, values, [&](QByteArray text) {
+    for (const auto& [section, key, value] : values) text = changedText(text, section, key, value);
     return text;
   });
 }
 
 void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
                    const QByteArray& line, platform::StatusLine& status) {
-  editCopy(state, copy, status, section, {key},
+  editCopy(state, copy, status, {{section, key, {}}},
            [&](const QByteArray& text) { return changedLine(text, section, key, line); });
 }
 
 void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status) {
   const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
   if (standing && (!standing->isEmpty() || state.ownCopies.at(copyNumber(copy)).isEmpty())) return;
-  editCopy(state, copy, status, {}, {}, [](const QByteArray& text) { return text; });
+  editCopy(state, copy, status, {}, [](const QByteArray& text) { return text; });
 }
 
 void saveWorkingCopies(ModuleState& state, platform::StatusLine& status) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <utility>
 #include <vector>
 
 #include <QString>
@@ -28,9 +27,16 @@ void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::S
 void putInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& Section, const QString& Key,
                const std::optional<QString>& Value, platform::StatusLine& status);
 
-/// Sets several values of one section by a single write: either all of them are written, or none.
-void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section,
-                     const std::vector<std::pair<QString, QString>>& values, platform::StatusLine& status);
+/// A key of a section, and its value.
+struct KeyValue {
+  QString section;
+  QString key;
+  QString value;
+};
+
+/// Sets several values by a single write: either all of them are written, or none.
+void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::vector<KeyValue>& values,
+                     platform::StatusLine& status);
 
 /// Like putInCopy, but sets the key's whole line as changedLine does.
 void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,

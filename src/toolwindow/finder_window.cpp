@@ -6,8 +6,7 @@
 #include <QKeyEvent>
 #include <QVBoxLayout>
 
-#include "toolwindow/edit_reports.h"
-#include "toolwindow/object_selection.h"
+#include "editing/reports.h"
 #include "toolwindow/tool_window.h"
 
 namespace toolwindow {
@@ -66,8 +65,9 @@ void FinderWindow::search() {
   themefiles::Hits hits;
   const bool asked = !Line->Text().trimmed().isEmpty();
   if (asked) {
-    platform::guarded(form_.services.status, FindStep.toString(),
-                      [&] { hits = themefiles::ThemeSearch(form_.services.state).find(Line->Text(), MostRows); });
+    const editing::Session& session = form_.services.session;
+    platform::guarded(session.status(), editing::FindStep.toString(),
+                      [&] { hits = themefiles::ThemeSearch(session.state()).find(Line->Text(), MostRows); });
   }
   List->Clear();
   for (const themefiles::Hit& hit : hits.first) List->AddItem(hit.shown);
@@ -81,7 +81,7 @@ void FinderWindow::accept() {
   if (row < 0) return;
   const themefiles::Hit hit = hits_.at(row);
   hideFor(&form_);
-  goToHit(form_, hit);
+  form_.goTo(hit);
 }
 
 /// Gives the keyboard away before it goes: a window manager would give it to the main window.

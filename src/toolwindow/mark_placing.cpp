@@ -6,54 +6,41 @@
 #include "drawing/surface.h"
 #include "platform/status_line.h"
 #include "renderer/highlight_cursor.h"
-#include "toolwindow/tool_window.h"
 
 namespace toolwindow {
-namespace {
 
-using Tell = void (*)(Form2& form, const QString& cause);
+using editing::MarkReason;
 
-void report(Form2& form, const QString& cause) {
-  form.markReport = platform::reportText(renderer::CursorStep.toString(), cause);
-  form.services.status.ShowStatus(form.markReport);
+MarkPlacing::MarkPlacing(const ToolServices& services) : services_(services) {
+  connect(&services.session, &editing::Session::markWanted, this, &MarkPlacing::place);
 }
 
-void note(Form2& form, const QString& cause) {
-  form.markReport = QStringLiteral("no mark: ") + cause;
-  form.services.status.note(form.markReport);
-}
-
-void drawCursor(Form2& form, Tell tell) {
-  const ToolServices& services = form.services;
-  const auto cause =
-      platform::failureIn([&] { renderer::placeCursor(services.state, form.tags, services.Workspace, services.mark); });
-  if (cause) tell(form, *cause);
-}
-
-void place(Form2& form, MarkPen pen, Tell tell) {
-  const ToolServices& services = form.services;
-  if (pen == MarkPen::Left || !services.queue.busy()) {
-    drawCursor(form, tell);
-    return;
+void MarkPlacing::place(MarkReason reason) {
+  if (reason != MarkReason::Committed) {
+    if (!report_.isEmpty()) services_.session.status().withdraw(report_);
+    report_.clear();
   }
-  const drawing::Pen before = services.Workspace.pen();
-  drawCursor(form, tell);
-  services.Workspace.setPen(before);
-  services.queue.runBehind([open = QPointer<Form2>(&form), tell] {
-    if (open) drawCursor(*open, tell);
+  if (reason == MarkReason::Listed || !services_.queue.busy()) return draw(reason);
+  const drawing::Pen before = services_.Workspace.pen();
+  draw(reason);
+  services_.Workspace.setPen(before);
+  services_.queue.runBehind([open = QPointer<MarkPlacing>(this), reason] {
+    if (open && open->services_.session.isOpen()) open->draw(reason);
   });
 }
 
-}  // namespace
-
-void placeMark(Form2& form, MarkPen pen) {
-  if (!form.markReport.isEmpty()) form.services.status.withdraw(form.markReport);
-  form.markReport.clear();
-  place(form, pen, report);
-}
-
-void placeMarkAgain(Form2& form) {
-  place(form, MarkPen::Kept, note);
+void MarkPlacing::draw(MarkReason reason) {
+  const editing::Session& session = services_.session;
+  const auto cause = platform::failureIn(
+      [&] { renderer::placeCursor(session.state(), session.objects(), services_.Workspace, services_.mark); });
+  if (!cause) return;
+  if (reason == MarkReason::Committed) {
+    report_ = QStringLiteral("no mark: ") + *cause;
+    session.status().note(report_);
+  } else {
+    report_ = platform::reportText(renderer::CursorStep.toString(), *cause);
+    session.status().ShowStatus(report_);
+  }
 }
 
 }  // namespace toolwindow

@@ -1,20 +1,27 @@
 #pragma once
 
+#include <QObject>
+
+#include "editing/session.h"
+#include "toolwindow/tool_services.h"
+
 namespace toolwindow {
 
-class Form2;
+/// Places the mark on the chosen object when the session wants it. A mark that can't be placed is reported, or noted
+/// behind what a commit has told, until the next choice. Measuring a text sets the surface's pen: the work that runs
+/// gets its own back, unless the mark is a step of it, and the mark is placed again at its end.
+class MarkPlacing : public QObject {
+  Q_OBJECT
 
-/// Placing the mark measures text with the surface's pen. What becomes of that pen while a screen is listed or drawn.
-enum class MarkPen {
-  Left,  ///< it stays as measuring has set it: measuring is a step of the running work
-  Kept,  ///< the running work gets its pen back; the mark is placed again at the work's end
+ public:
+  explicit MarkPlacing(const ToolServices& services);
+
+ private:
+  void place(editing::MarkReason reason);
+  void draw(editing::MarkReason reason);
+
+  const ToolServices& services_;
+  QString report_;  ///< of the mark that couldn't be placed
 };
-
-/// Places the mark on an object that has been chosen. A mark that can't be placed is reported, until the next choice.
-void placeMark(Form2& form, MarkPen pen);
-
-/// Places the mark anew on the object whose values have been committed. A mark that can't be placed is noted behind
-/// what the commit has told, until the next choice.
-void placeMarkAgain(Form2& form);
 
 }  // namespace toolwindow

@@ -6,10 +6,10 @@
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "controls/work_queue.h"
+#include "editing/saved_state.h"
+#include "editing/session.h"
 #include "platform/failure.h"
 #include "platform/status_line.h"
-#include "toolwindow/saved_state.h"
-#include "toolwindow/tool_window.h"
 
 namespace toolwindow {
 namespace {
@@ -20,17 +20,17 @@ constexpr int LongestPart = 10;  // milliseconds
 
 /// One marking of all rows: first those of the grid, then the objects.
 struct SavedMarking::Pass {
-  explicit Pass(const Form2& form)
-      : saved(form.services.state), keys(saved, form.List1->Text()), grid(*form.ListView1), objects(*form.List1) {}
+  Pass(const editing::Session& session, controls::ListView& grid, controls::ListBox& objects)
+      : saved_(session.state()), keys_(saved_, session.object()), grid_(grid), objects_(objects) {}
 
   /// Marks the next row; false without one.
   bool markNext() {
-    if (gridRow < grid.rowCount()) {
-      markKey(gridRow++);
-    } else if (objectRow < objects.ListCount()) {
-      const bool differs = saved.differsIn(objects.List(objectRow));
-      objects.setBold(objectRow, differs ? QStringLiteral("differs from the saved state") : QString());
-      ++objectRow;
+    if (gridRow_ < grid_.rowCount()) {
+      markKey(gridRow_++);
+    } else if (objectRow_ < objects_.ListCount()) {
+      const bool differs = saved_.differsIn(objects_.List(objectRow_));
+      objects_.setBold(objectRow_, differs ? QStringLiteral("differs from the saved state") : QString());
+      ++objectRow_;
     } else {
       return false;
     }
@@ -39,23 +39,24 @@ struct SavedMarking::Pass {
 
  private:
   void markKey(int row) {
-    const QString key = themefiles::keyIdentity(grid.rowText(row));
-    const auto value = keys.takeOf(key, themefiles::groupOf(key));
-    grid.setSaved(row, value ? QStringLiteral("saved: ") + value->told : QString());
+    const QString key = themefiles::keyIdentity(grid_.rowText(row));
+    const auto value = keys_.takeOf(key, themefiles::groupOf(key));
+    grid_.setSaved(row, value ? QStringLiteral("saved: ") + value->told : QString());
   }
 
-  const SavedState saved;
-  SavedObject keys;
-  controls::ListView& grid;
-  controls::ListBox& objects;
-  int gridRow = 0;
-  int objectRow = 0;
+  const editing::SavedState saved_;
+  editing::SavedObject keys_;
+  controls::ListView& grid_;
+  controls::ListBox& objects_;
+  int gridRow_ = 0;
+  int objectRow_ = 0;
 };
 
-SavedMarking::SavedMarking(Form2& form) : form_(form) {
+SavedMarking::SavedMarking(const ToolServices& services, controls::ListView& values, controls::ListBox& objects)
+    : services_(services), values_(values), objects_(objects) {
   idle_.setSingleShot(true);
   connect(&idle_, &QTimer::timeout, this, &SavedMarking::goOn);
-  connect(&form, &Form2::markingAsked, this, &SavedMarking::begin);
+  connect(&services.session, &editing::Session::differencesDue, this, &SavedMarking::begin);
 }
 
 SavedMarking::~SavedMarking() = default;
@@ -66,18 +67,18 @@ void SavedMarking::begin() {
 }
 
 void SavedMarking::goOn() {
-  if (!form_.services.queue.busy()) {
+  if (!services_.queue.busy()) {
     if (!platform::guardedSilently([this] { markRows(); })) pass_.reset();
     return;
   }
   pass_.reset();
-  form_.services.queue.runOutside([open = QPointer<SavedMarking>(this)] {
+  services_.queue.runOutside([open = QPointer<SavedMarking>(this)] {
     if (open) open->begin();
   });
 }
 
 void SavedMarking::markRows() {
-  if (!pass_) pass_ = std::make_unique<Pass>(form_);
+  if (!pass_) pass_ = std::make_unique<Pass>(services_.session, values_, objects_);
   const QDeadlineTimer end(LongestPart);
   while (pass_->markNext()) {
     if (!end.hasExpired()) continue;

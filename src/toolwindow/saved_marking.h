@@ -5,16 +5,22 @@
 #include <QObject>
 #include <QTimer>
 
-namespace toolwindow {
+#include "toolwindow/tool_services.h"
 
-class Form2;
+namespace controls {
+class ListBox;
+class ListView;
+}  // namespace controls
+
+namespace toolwindow {
 
 /// Marks what differs from the saved state in bold: rows of the grid, whose tool tips tell the saved values, and the
 /// objects that have such a row. It marks when the program is idle, a few rows at a time, so that events come between
-/// them, and begins anew when Form2::markLater asks for it. A working copy that can't be read ends it silently.
+/// them, and begins anew when the session tells that there may be other differences. A working copy that can't be read
+/// ends it silently.
 class SavedMarking : public QObject {
  public:
-  explicit SavedMarking(Form2& form);
+  SavedMarking(const ToolServices& services, controls::ListView& values, controls::ListBox& objects);
   ~SavedMarking() override;
   Q_DISABLE_COPY_MOVE(SavedMarking)
 
@@ -25,7 +31,9 @@ class SavedMarking : public QObject {
   void goOn();
   void markRows();
 
-  Form2& form_;
+  const ToolServices& services_;
+  controls::ListView& values_;
+  controls::ListBox& objects_;
   QTimer idle_;
   std::unique_ptr<Pass> pass_;  ///< the marking that has begun
 };

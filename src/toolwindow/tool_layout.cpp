@@ -32,7 +32,7 @@ constexpr Side W = &TwipsRect::Width;
 constexpr Side H = &TwipsRect::Height;
 using TL = ToolLayout;
 
-constexpr std::array<Step, 9> WithoutEditor{{
+constexpr auto WithoutEditor = std::to_array<Step>({
     {&TL::Combo1, W, [](const TL& l) { return l.Width - 110; }},
     {&TL::List1, W, [](const TL& l) { return l.Width / 2 - 110; }},
     {&TL::List1, H, [](const TL& l) { return l.Height - l.List1.Top - BelowWindow; }},
@@ -42,9 +42,9 @@ constexpr std::array<Step, 9> WithoutEditor{{
     {&TL::Frame1, T, [](const TL& l) { return l.List1.Height + l.List1.Top + Gap; }},
     {&TL::Frame1, W, [](const TL& l) { return l.Width - 1100; }},
     {&TL::Command1, T, [](const TL& l) { return l.Frame1.Top + 90; }},
-}};
+});
 
-constexpr std::array<Step, 26> WithEditor{{
+constexpr auto WithEditor = std::to_array<Step>({
     {&TL::Frame1, T, [](const TL& l) { return l.Height - l.Frame1.Height - 390; }, true},
     {&TL::List1, H, [](const TL& l) { return l.Frame1.Top - ListsTop; }, true},
     {&TL::Frame1, W, [](const TL& l) { return l.Width - 1100; }},
@@ -71,7 +71,7 @@ constexpr std::array<Step, 26> WithEditor{{
     {&TL::Command9, L, [](const TL& l) { return l.Texture.Width - 570; }},
     {&TL::Command8, L, [](const TL& l) { return l.Texture.Width - 975; }},
     {&TL::Combo6, W, [](const TL& l) { return l.Texture.Width - l.Combo6.Left - 1080; }},
-}};
+});
 
 /// Carries out a step. Returns false if a size would be negative.
 bool carryOut(ToolLayout& layout, const Step& step) {

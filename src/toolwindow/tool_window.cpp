@@ -1,6 +1,5 @@
 #include "toolwindow/tool_window.h"
 
-#include <array>
 #include <cmath>
 #include <cstdlib>
 
@@ -9,49 +8,30 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
-#include "controls/assets.h"
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
 #include "controls/list_view.h"
-#include "controls/number_bar.h"
-#include "controls/spoken_name.h"
-#include "controls/swatch_button.h"
-#include "controls/text_box.h"
-#include "drawing/system_colours.h"
-#include "themefiles/colour_tables.h"
+#include "controls/shown_text.h"
+#include "controls/work_queue.h"
+#include "editing/reports.h"
+#include "platform/failure.h"
 #include "themefiles/module_state.h"
 #include "themefiles/screen_table.h"
+#include "toolwindow/colour_frame.h"
+#include "toolwindow/number_frames.h"
+#include "toolwindow/reference_frame.h"
+#include "toolwindow/saved_marking.h"
+#include "toolwindow/saved_menus.h"
+#include "toolwindow/selection_frame.h"
 
 namespace toolwindow {
 namespace {
 
-constexpr int NumberLimit = 10000;
-constexpr int NumberAtLoad = -1000;
+using controls::Cause;
+using editing::Session;
+using themefiles::EditorFrame;
 
-struct FrameRow {
-  themefiles::EditorFrame frame;
-  QWidget* Form2::*widget;
-  controls::TwipsRect ToolLayout::*place;
-};
-
-constexpr std::array<FrameRow, 6> Frames{{
-    {themefiles::EditorFrame::Numbers, &Form2::Numbers, &ToolLayout::Numbers},
-    {themefiles::EditorFrame::FloatNumbers, &Form2::FloatNumbers, &ToolLayout::FloatNumbers},
-    {themefiles::EditorFrame::Selection, &Form2::Selection, &ToolLayout::Selection},
-    {themefiles::EditorFrame::Color, &Form2::Color, &ToolLayout::Color},
-    {themefiles::EditorFrame::Texture, &Form2::Texture, &ToolLayout::Texture},
-    {themefiles::EditorFrame::Texts, &Form2::Texts, &ToolLayout::Texts},
-}};
-
-const FrameRow& rowOf(themefiles::EditorFrame frame) {
-  return Frames.at(static_cast<size_t>(frame));
-}
-
-/// A colour as the preview shows it.
-QColor previewColor(const ToolServices& services, const QString& name) {
-  const QString color = themefiles::ResolveColor(services.state, name, services.schemeName());
-  return drawing::colorOf(static_cast<quint32>(themefiles::ColorToRGB(color)));
-}
+static_assert(editing::LongestValue == controls::LongestText, "an editor takes what its controls show whole");
 
 /// Client size of a window, in pixels, from its outer size in twips.
 QSize clientSize(const ToolLayout& layout) {
@@ -68,124 +48,184 @@ Form2::Form2(ToolServices given, QWidget* owner)
       List1(new controls::ListBox(controls::ListBox::Order::Sorted, this)),
       ListView1(new controls::ListView(this)),
       Frame1(new QGroupBox(QStringLiteral("Edit Value"), this)),
-      Command1(new QPushButton(QStringLiteral("&Update"), this)),
-      Numbers(new QWidget(Frame1)),
-      Text1(new controls::TextBox(Numbers)),
-      VScroll1(new controls::NumberBar(NumberLimit, NumberAtLoad, Numbers)),
-      FloatNumbers(new QWidget(Frame1)),
-      Text4(new controls::TextBox(FloatNumbers)),
-      Selection(new QWidget(Frame1)),
-      Combo2(new controls::ComboBox(Selection)),
-      Color(new QWidget(Frame1)),
-      Combo4(new controls::ComboBox(Color)),
-      Command3(iconButton(Color, QStringLiteral("plus"), QStringLiteral("Add a new Color"))),
-      Command5(iconButton(Color, QStringLiteral("minus"), QStringLiteral("Remove Color"))),
-      Combo3(new controls::ComboBox(Color)),
-      Command2(new controls::SwatchButton(Color)),
-      Texture(new QWidget(Frame1)),
-      Combo6(new controls::ComboBox(Texture)),
-      Command8(iconButton(Texture, QStringLiteral("plus"), QString())),
-      Command9(iconButton(Texture, QStringLiteral("minus"), QString())),
-      Text3(new controls::TextBox(Texture)),
-      Command4(iconButton(Texture, QStringLiteral("folder"), QStringLiteral("Change Filename"))),
-      Texts(new QWidget(Frame1)),
-      Combo5(new controls::ComboBox(Texts)),
-      Command6(iconButton(Texts, QStringLiteral("plus"), QStringLiteral("Add New Key"))),
-      Command7(iconButton(Texts, QStringLiteral("minus"), QStringLiteral("Remove Key"))),
-      Text2(new controls::TextBox(Texts)),
-      tags(*List1) {
-  using TL = ToolLayout;
-  placed_ = {
-      {Combo1, &TL::Combo1, "Combo1", "Screen"},
-      {List1, &TL::List1, "List1", "Objects of the screen"},
-      {ListView1, &TL::ListView1, "ListView1", "Keys of the object"},
-      {Frame1, &TL::Frame1, "Frame1"},
-      {Command1, &TL::Command1, "Command1"},
-      {Numbers, &TL::Numbers, "Numbers"},
-      {Text1, &TL::Text1, "Text1", "Number"},
-      {VScroll1, &TL::VScroll1, "VScroll1", "Raise or lower the number"},
-      {FloatNumbers, &TL::FloatNumbers, "FloatNumbers"},
-      {Text4, &TL::Text4, "Text4", "Number with a fraction"},
-      {Selection, &TL::Selection, "Selection"},
-      {Combo2, &TL::Combo2, "Combo2", "Value"},
-      {Color, &TL::Color, "Color"},
-      {Combo4, &TL::Combo4, "Combo4", "Group of colors"},
-      {Command3, &TL::Command3, "Command3", "Add a new Color"},
-      {Command5, &TL::Command5, "Command5", "Remove Color"},
-      {Combo3, &TL::Combo3, "Combo3", "Color"},
-      {Command2, &TL::Command2, "Command2", "Change Color"},
-      {Texture, &TL::Texture, "Texture"},
-      {Combo6, &TL::Combo6, "Combo6", "Texture key"},
-      {Command8, &TL::Command8, "Command8", "Add New Key"},
-      {Command9, &TL::Command9, "Command9", "Remove Key"},
-      {Text3, &TL::Text3, "Text3", "Image file"},
-      {Command4, &TL::Command4, "Command4", "Change Filename"},
-      {Texts, &TL::Texts, "Texts"},
-      {Combo5, &TL::Combo5, "Combo5", "Text key"},
-      {Command6, &TL::Command6, "Command6", "Add New Key"},
-      {Command7, &TL::Command7, "Command7", "Remove Key"},
-      {Text2, &TL::Text2, "Text2", "Words"},
-  };
+      tags_(*List1),
+      markPlacing_(services) {
+  build();
+  services.session.begin(tags_);
+  marking_ = std::make_unique<SavedMarking>(services, *ListView1, *List1);
+  connectLists();
+  connectSession();
+  connectMenus();
+}
+
+Form2::~Form2() = default;
+
+void Form2::build() {
   setObjectName(QStringLiteral("Form2"));
-  for (const PlacedControl& control : placed_) {
-    control.widget->setObjectName(QLatin1StringView(control.name));
-    controls::setSpokenName(*control.widget, QLatin1StringView(control.spoken));
-  }
-  setTabOrder(Text2, Command1);  // Update behind every editor
   setWindowTitle(QStringLiteral("Tool"));
   setAttribute(Qt::WA_MacAlwaysShowToolWindow);
-  for (QWidget* control : std::initializer_list<QWidget*>{Combo1, List1, ListView1, Text3}) control->setEnabled(false);
-  Command2->setToolTip(QStringLiteral("Change Color"));
+  placed_.add(*Combo1, &ToolLayout::Combo1, "Combo1", "Screen");
+  placed_.add(*List1, &ToolLayout::List1, "List1", "Objects of the screen");
+  placed_.add(*ListView1, &ToolLayout::ListView1, "ListView1", "Keys of the object");
+  placed_.add(*Frame1, &ToolLayout::Frame1, "Frame1");
+  // In the order of EditorFrame, which is also that of the Tab key: Update comes behind every editor.
+  using editing::ReferenceKind;
+  frames_ = {new NumberFrame(services, placed_, Frame1),
+             new DecimalFrame(services, placed_, Frame1),
+             new SelectionFrame(services, placed_, Frame1),
+             new ColorFrame(services, placed_, Frame1),
+             new ReferenceFrame(ReferenceKind::Texture, services, placed_, Frame1),
+             new ReferenceFrame(ReferenceKind::Text, services, placed_, Frame1)};
+  Command1 = new QPushButton(QStringLiteral("&Update"), this);
+  placed_.add(*Command1, &ToolLayout::Command1, "Command1");
+  for (QWidget* control : std::initializer_list<QWidget*>{Combo1, List1, ListView1}) control->setEnabled(false);
   HideEditorFrames();
   Frame1->hide();
   Command1->hide();
-  themefiles::InitScreenTable(services.state);
-  for (const themefiles::ScreenRow& row : services.state.ScreenTable) {
+  themefiles::ModuleState& state = services.session.state();
+  themefiles::InitScreenTable(state);
+  for (const themefiles::ScreenRow& row : state.ScreenTable) {
     if (!row.Name.isEmpty()) Combo1->AddItem(row.Name);
   }
-  for (const auto& group : {"Theme", "Program", "Player"}) Combo4->AddItem(QLatin1StringView(group));
-  Combo3->setSwatches([this](const QString& name) { return previewColor(services, name); });
-  services.state.EditorShown = false;
+  state.EditorShown = false;
   fitWindow();
   ListView1->setColumns({QStringLiteral("Item"), QStringLiteral("Value")},
                         {controls::toPixels(950), controls::toPixels(1300)});
 }
 
-QPushButton* Form2::iconButton(QWidget* frame, const QString& icon, const QString& toolTip) {
-  auto* button = new QPushButton(frame);
-  if (!icon.isEmpty()) button->setIcon(controls::assetIcon(icon));
-  button->setToolTip(toolTip);
-  return button;
+void Form2::connectLists() {
+  connect(Combo1, &controls::ComboBox::Click, this, [this] {
+    services.session.chooseScreen(Combo1->Text());
+    services.queue.choose();
+  });
+  connect(List1, &controls::ListBox::Click, this, [this](Cause cause) {
+    services.session.objectClicked(cause == Cause::User ? editing::Chooser::User : editing::Chooser::List);
+  });
+  connect(ListView1, &controls::ListView::ItemClick, this, &Form2::ListView1_ItemClick);
+  connect(Command1, &QPushButton::clicked, this, &Form2::Command1_Click);
+  for (const ValueFrame* frame : frames_) connect(frame, &ValueFrame::updateWanted, this, &Form2::Command1_Click);
 }
 
-void Form2::beginList() {
-  List1->Clear();
-  listed_.reset();
+void Form2::connectSession() {
+  Session& session = services.session;
+  connect(&session, &Session::valuesRead, this, &Form2::showValues);
+  connect(&session, &Session::valueWritten, this, &Form2::showWritten);
+  connect(&session, &Session::rowWanted, this, &Form2::chooseRow);
+  connect(&session, &Session::screenWanted, this, [this](const QString& name) {
+    platform::guarded(services.session.status(), editing::FindStep.toString(), [&] { Combo1->SetText(name); });
+  });
+  connect(&session, &Session::drawWanted, this, [this] { services.queue.draw(); });
+  // Keeps the notes until a drawing that waits has run, so that both are reported together.
+  connect(&session, &Session::edited, this,
+          [this](const std::shared_ptr<platform::ReportScope>& scope) { services.queue.runOutside([scope] {}); });
 }
 
-void Form2::endList() {
-  listed_ = Combo1->Text();
+void Form2::connectMenus() {
+  openMenusByKeys(*this);
+  auto* rowMenu = new RowMenu(services, *ListView1);
+  connect(rowMenu, &RowMenu::putBack, this, &Form2::showPutBack);
+  connect(List1, &controls::ListBox::menuAsked, this, [this](int row, const QPoint& place) {
+    const QString told = List1->told(row);
+    if (!told.isEmpty()) showLinesMenu(*this, place, told.split(u'\n'));
+  });
 }
 
-bool Form2::listIsComplete() const {
-  return listed_ == Combo1->Text();
+void Form2::start() {
+  for (QWidget* control : std::initializer_list<QWidget*>{Combo1, List1, ListView1}) control->setEnabled(true);
+  activateWindow();
+  Combo1->setFocus();
+  Combo1->SetListIndex(0);
 }
 
-QWidget* Form2::frameOf(themefiles::EditorFrame frame) const {
-  return this->*rowOf(frame).widget;
+void Form2::goTo(const themefiles::Hit& hit) {
+  activateWindow();
+  QWidget* found = hit.object.isEmpty() ? static_cast<QWidget*>(Combo1) : List1;
+  if (hit.row >= 0) found = ListView1;
+  found->setFocus();
+  services.session.goTo(hit);
 }
 
-void Form2::ShowEditorFrame(themefiles::EditorFrame frame) {
+/// Shows the values of another object. An open editor was that of a row that is gone.
+void Form2::showValues(const std::vector<themefiles::ValueRow>& rows) {
+  ListView1->clearRows();
+  for (const themefiles::ValueRow& row : rows) ListView1->addRow(row.Item, row.Value);
+  if (services.session.state().EditorShown) closeEditorFrame();
+}
+
+/// Goes on to the row of a search hit.
+void Form2::chooseRow(const themefiles::Hit& hit) {
+  platform::guarded(services.session.status(), editing::FindStep.toString(), [&] {
+    if (hit.row >= ListView1->rowCount() || ListView1->rowText(hit.row) != hit.key) {
+      throw platform::Failure(QStringLiteral("%1 of %2 is gone").arg(hit.key, hit.object));
+    }
+    ListView1->selectRow(hit.row);
+    ListView1_ItemClick(hit.row);
+  });
+}
+
+/// A row of the grid has been clicked: opens the editor that fits its key, with its value, or closes an open one if no
+/// editor fits. A value that the editor can't show is reported, and all frames stay hidden.
+void Form2::ListView1_ItemClick(int row) {
+  platform::guarded(services.session.status(), editing::ReadStep.toString(), [&] {
+    HideEditorFrames();
+    const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
+    if (group) {
+      const QString value = ListView1->subItem(row);
+      if (value.size() > editing::LongestValue) throw platform::Failure(editing::tooLongText(ListView1->rowText(row)));
+      const themefiles::GroupRow& groupRow = themefiles::rowOf(*group);
+      frameOf(groupRow.frame)->load(groupRow, value);
+      ShowEditorFrame(groupRow.frame);
+    } else if (services.session.state().EditorShown) {
+      closeEditorFrame();
+    }
+  });
+}
+
+editing::EditedRow Form2::editedRow(int row) const {
+  return {row, ListView1->rowText(row), ListView1->subItem(row)};
+}
+
+/// Update. The editor is the one of the selected row's key, whatever frame is open.
+void Form2::Command1_Click() {
+  services.session.settle();
+  const bool done = editing::commitRow(services.session, editedRow(ListView1->selectedRow()),
+                                       [this](EditorFrame frame) { return frameOf(frame)->proposal(); });
+  if (done) ListView1->setFocus();
+}
+
+/// Shows a value that has been written. If it was written by hand, an open editor of the row follows, and the focus
+/// stays.
+void Form2::showWritten(int row, const QString& key, const QString& value) {
+  if (row >= 0) return ListView1->setSubItem(row, value);
+  const int first = firstRowOf(*ListView1, key);
+  if (first < 0) return;
+  ListView1->setSubItem(first, value);
+  if (!services.session.state().EditorShown || ListView1->selectedRow() != first) return;
+  QWidget* const focus = focusWidget();
+  ListView1_ItemClick(first);
+  if (focus != nullptr) focus->setFocus();
+}
+
+/// The saved value of a row has been put back: an open editor of it is loaded again. That comes behind the report of
+/// the commit, so that a value that no editor can show is reported, too.
+void Form2::showPutBack(int row) {
+  ListView1->setFocus();
+  if (services.session.state().EditorShown && ListView1->selectedRow() == row) ListView1_ItemClick(row);
+}
+
+/// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
+void Form2::ShowEditorFrame(EditorFrame frame) {
   frameOf(frame)->show();
-  services.state.EditorShown = true;
-  layOutOpening(layout_, layout_.*rowOf(frame).place);
+  services.session.state().EditorShown = true;
+  layOutOpening(layout_, placed_.placeOf(*frameOf(frame), layout_));
   Frame1->show();
   Command1->show();
   fitWindow();
 }
 
+/// Closes the editor area: the window shrinks to the lists.
 void Form2::closeEditorFrame() {
-  services.state.EditorShown = false;
+  services.session.state().EditorShown = false;
   layOutClosing(layout_);
   HideEditorFrames();
   Frame1->hide();
@@ -197,14 +237,11 @@ bool Form2::inEditorArea(const QWidget* control) const {
   return control != nullptr && (control == Command1 || Frame1->isAncestorOf(control));
 }
 
+/// Hides the six frames. If a control of the editor area has the focus, the grid gets it.
 void Form2::HideEditorFrames() {
   // Otherwise the toolkit would give the focus to the next control.
   if (inEditorArea(focusWidget())) ListView1->setFocus();
-  for (const FrameRow& row : Frames) (this->*row.widget)->hide();
-}
-
-void Form2::applyLayout() {
-  for (const PlacedControl& control : placed_) controls::place(*control.widget, layout_.*control.place);
+  for (ValueFrame* frame : frames_) frame->hide();
 }
 
 /// Gives the window the layout's size, and the controls their places.
@@ -229,7 +266,8 @@ void Form2::resizeEvent(QResizeEvent* event) {
     layout_ = fitted_;
   } else {
     layOut(layout_, event->size().width() * controls::TwipsPerPixel + controls::FrameWidth,
-           event->size().height() * controls::TwipsPerPixel + controls::FrameHeight, services.state.EditorShown, false);
+           event->size().height() * controls::TwipsPerPixel + controls::FrameHeight,
+           services.session.state().EditorShown, false);
   }
   applyLayout();
 }
@@ -248,7 +286,7 @@ void Form2::keyPressEvent(QKeyEvent* event) {
   if (button != nullptr) {
     button->click();
   } else {
-    Q_EMIT enterPressed();
+    Command1_Click();
   }
 }
 

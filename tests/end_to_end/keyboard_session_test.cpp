@@ -80,9 +80,9 @@ class KeyboardSessionTest : public QObject {
 
     const auto choose = [](mainwindows::Form3& dialog) {
       activeWindow(&dialog);
-      goDownTo(*dialog.List1, "Stagelight");
-      goDownTo(*dialog.List2, "Neon");
-      goDownTo(*dialog.Combo1, "English");
+      goDownTo(dialog.themes(), "Stagelight");
+      goDownTo(dialog.skins(), "Neon");
+      goDownTo(dialog.languages(), "English");
       key(dialog, Qt::Key_Return);
     };
     program.openDialog(choose, [&] {
@@ -91,14 +91,14 @@ class KeyboardSessionTest : public QObject {
     });
     QVERIFY(form.toolWindow() != nullptr);
     toolwindow::Form2& tools = *form.toolWindow();
-    QVERIFY(&activeWindow(&tools) == &tools && tools.Combo1->hasFocus());
-    goDownTo(*tools.Combo1, "Main Screen");
+    QVERIFY(&activeWindow(&tools) == &tools && tools.screens().hasFocus());
+    goDownTo(tools.screens(), "Main Screen");
 
-    goDownTo(*tools.List1, "MainStaticIcon");
-    goDownTo(*tools.ListView1, "Color");
-    goDownTo(*tools.Combo4, "Player");
-    goDownTo(*tools.Combo3, "P1Light");
-    tabTo(*tools.Command1);
+    goDownTo(tools.objects(), "MainStaticIcon");
+    goDownTo(tools.values(), "Color");
+    goDownTo(*Editors(tools).Combo4, "Player");
+    goDownTo(*Editors(tools).Combo3, "P1Light");
+    tabTo(*Editors(tools).Command1);
     key(tools, Qt::Key_Space);
 
     program.dialogs.colors = {QColor(1, 2, 3)};
@@ -154,10 +154,10 @@ class KeyboardSessionTest : public QObject {
     letters(finder, "mainstatica x=10");
     key(finder, Qt::Key_Return);
     activeWindow(&tools);
-    tabTo(*tools.Text1);
+    tabTo(*Editors(tools).Text1);
     letters(tools, "12");
     key(tools, Qt::Key_Return);
-    QVERIFY(tools.ListView1->hasFocus());
+    QVERIFY(tools.values().hasFocus());
     key(tools, Qt::Key_S, Qt::ControlModifier);
     QVERIFY(fresh.get(ThemeFile).contains("[MainStaticA]\r\nTex=Plate\r\nX=12\r\n"));
     QCOMPARE(heard, QStringList({u"List Theme"_s, u"List Skin"_s, u"ComboBox English Language"_s, u"Button Open"_s,
@@ -173,8 +173,8 @@ class KeyboardSessionTest : public QObject {
           {"StaticA", "Tex",
            u"ComboBox Plate Texture key|Button Add New Key|Button Remove Key|Button Change Filename"_s},
           {"TextFree", "Text", u"ComboBox HELLO Text key|Button Add New Key|Button Remove Key|EditableText Words"_s}}) {
-      goDownTo(*tools.List1, QByteArray("Loading").append(object));
-      goDownTo(*tools.ListView1, row);
+      goDownTo(tools.objects(), QByteArray("Loading").append(object));
+      goDownTo(tools.values(), row);
       QCOMPARE(spoken(tools).join(u'|'),
                u"ComboBox Loading Screen Screen|List Objects of the screen|Tree Keys of the object|"_s + editor +
                    u"|Button Update"_s);
@@ -189,7 +189,7 @@ class KeyboardSessionTest : public QObject {
     Program program(game, true, &native);
     openOnScreen(program);
     toolwindow::Form2& tools = program.tools();
-    const int height = tools.List1->height();
+    const int height = tools.objects().height();
     QTimer escape;
     int dialogs = 0;
     escape.callOnTimeout([&] {
@@ -199,10 +199,11 @@ class KeyboardSessionTest : public QObject {
       key(*dialog, Qt::Key_Escape);
     });
     escape.start(10);
-    pickNamed(*tools.List1, "LoadingStaticA");
-    pickNamed(*tools.ListView1, "Color");
-    for (QWidget* button : {static_cast<QWidget*>(tools.Command3), static_cast<QWidget*>(tools.Command5),
-                            static_cast<QWidget*>(tools.Command2)}) {
+    pickNamed(tools.objects(), "LoadingStaticA");
+    pickNamed(tools.values(), "Color");
+    for (QWidget* button :
+         {static_cast<QWidget*>(Editors(tools).Command3), static_cast<QWidget*>(Editors(tools).Command5),
+          static_cast<QWidget*>(Editors(tools).Command2)}) {
       tabTo(*button);
       key(tools, Qt::Key_Return);
       QVERIFY(&activeWindow(&tools) == button->window() && button->hasFocus());
@@ -211,22 +212,22 @@ class KeyboardSessionTest : public QObject {
     activeWindow(&tools);
     QCOMPARE(dialogs, 4);
 
-    pickNamed(*tools.ListView1, "X");
-    type(*tools.Text1, "12");
+    pickNamed(tools.values(), "X");
+    type(*Editors(tools).Text1, "12");
     program.form.showMinimized();
     QTRY_VERIFY(QApplication::activeWindow() == nullptr);
     program.form.showNormal();
     QTRY_VERIFY(QApplication::activeWindow() != nullptr);
     bringToFront(tools);
     activeWindow(&tools);
-    QVERIFY(tools.Text1->hasFocus());
+    QVERIFY(Editors(tools).Text1->hasFocus());
     // However often an editor opens and closes, the lists keep their height.
     for (const char* row : {"Color", "Tex", "Tex", "X"}) {
-      pickNamed(*tools.ListView1, row);
+      pickNamed(tools.values(), row);
       QTest::qWait(100);
-      pickNamed(*tools.List1, "LoadingStaticA");
+      pickNamed(tools.objects(), "LoadingStaticA");
       QTest::qWait(100);
-      QCOMPARE(tools.List1->height(), height);
+      QCOMPARE(tools.objects().height(), height);
     }
   }
 };

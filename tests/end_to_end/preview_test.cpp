@@ -44,23 +44,24 @@ class PreviewTest : public QObject {
                                                      {{115, 115}, "LoadingStaticUnder"},
                                                      {{115, 115}, "LoadingButtonA"},
                                                      {{600, 400}, "LoadingButtonA"}};
-    pickNamed(*tools().List1, "LoadingButtonB");
+    pickNamed(tools().objects(), "LoadingButtonB");
     for (const auto& [place, object] : clicks) {
-      pickNamed(*tools().ListView1, "X");
-      press(*tools().Text1);
+      pickNamed(tools().values(), "X");
+      press(*Editors(tools()).Text1);
       clickAt(*program->form.Workspace, place);
-      QVERIFY(tools().focusWidget() == (place.x() == 600 ? static_cast<QWidget*>(tools().Text1) : tools().List1));
-      QCOMPARE(tools().List1->Text(), QLatin1StringView(object));
-      QCOMPARE(program->value(u"W"_s), tools().List1->Text().endsWith(u"Under") ? u"20"_s : u"100"_s);
+      QVERIFY(tools().focusWidget() ==
+              (place.x() == 600 ? static_cast<QWidget*>(Editors(tools()).Text1) : &tools().objects()));
+      QCOMPARE(tools().objects().Text(), QLatin1StringView(object));
+      QCOMPARE(program->value(u"W"_s), tools().objects().Text().endsWith(u"Under") ? u"20"_s : u"100"_s);
     }
     // Another screen, or the same one anew, begins at the top again.
     for (int i = 0; i < 2; ++i) {
       clickAt(*program->form.Workspace, {115, 115});
-      QCOMPARE(tools().List1->Text(), u"LoadingButtonA"_s);
+      QCOMPARE(tools().objects().Text(), u"LoadingButtonA"_s);
       program->screen(u"Loading Screen"_s);
     }
     const QString reason = u"texture 'Nothing' has no entry in the skin"_s;
-    for (const auto* row : tools().List1->findItems(u"Loading"_s, Qt::MatchStartsWith)) {
+    for (const auto* row : tools().objects().findItems(u"Loading"_s, Qt::MatchStartsWith)) {
       QCOMPARE(row->toolTip().contains(reason), row->text().endsWith(u"Lost"));
     }
   }
@@ -68,13 +69,13 @@ class PreviewTest : public QObject {
   void colourFollowsAtTheNextCommit() {
     pick("LoadingStaticA", "Color");
     program->dialogs.colors = {QColor(200, 100, 50)};
-    press(*tools().Command2);
+    press(*Editors(tools()).Command2);
     QVERIFY(game.get(ThemeCopy).contains("Ink=200 100 50\r\n"));
-    QCOMPARE(tools().Command2->BackColor(), QColor(200, 100, 50));
+    QCOMPARE(Editors(tools()).Command2->BackColor(), QColor(200, 100, 50));
     QCOMPARE(pixel(), QColor(10, 20, 30));
     QVERIFY(!program->state.Changed && !program->enabled(2));
     QCOMPARE(program->status(), Kept);
-    press(*tools().Command1);
+    press(*Editors(tools()).Command1);
     QCOMPARE(pixel(), QColor(200, 100, 50));
     QVERIFY(program->state.Changed && program->enabled(2));
   }
@@ -82,15 +83,15 @@ class PreviewTest : public QObject {
   void newColour() {
     pick("LoadingStaticA", "Color");
     program->dialogs.inputs = {u"Leaf"_s};
-    press(*tools().Command3);
+    press(*Editors(tools()).Command3);
     QVERIFY(game.get(ThemeCopy).contains("\r\nOff=0 0 250\r\nLeaf=150 150 150\r\n[Loading]"));
-    QCOMPARE(listing(*tools().Combo3), u"Ink,On,Off,Leaf: Leaf"_s);
-    QCOMPARE(tools().Command2->BackColor(), QColor(150, 150, 150));
-    press(*tools().Command1);
+    QCOMPARE(listing(*Editors(tools()).Combo3), u"Ink,On,Off,Leaf: Leaf"_s);
+    QCOMPARE(Editors(tools()).Command2->BackColor(), QColor(150, 150, 150));
+    press(*Editors(tools()).Command1);
     QCOMPARE(pixel(), QColor(150, 150, 150));
-    remove(tools().Command5);
-    QCOMPARE(listing(*tools().Combo3), u"Ink,On,Off: "_s);
-    QCOMPARE(tools().Command2->BackColor(), QColor(212, 208, 200));
+    remove(Editors(tools()).Command5);
+    QCOMPARE(listing(*Editors(tools()).Combo3), u"Ink,On,Off: "_s);
+    QCOMPARE(Editors(tools()).Command2->BackColor(), QColor(212, 208, 200));
     QVERIFY(program->state.ThemeColors[3].Name.isEmpty());
     QVERIFY(!game.get(ThemeCopy).contains("Leaf=") && game.get(ThemeCopy).contains("Color=Leaf\r\n"));
   }
@@ -99,44 +100,44 @@ class PreviewTest : public QObject {
     const QImage before = program->picture();
     pick("LoadingTextA", "Text");
     program->dialogs.inputs = {u"GREETING"_s};
-    press(*tools().Command6);
+    press(*Editors(tools()).Command6);
     QCOMPARE(game.get(LanguageCopy), Language + "GREETING=\r\n");
-    QCOMPARE(listing(*tools().Combo5) + tools().Text2->Text(), u"HELLO,GREETING: GREETING"_s);
-    type(*tools().Text2, "Good evening");
-    press(*tools().Command1);
+    QCOMPARE(listing(*Editors(tools()).Combo5) + Editors(tools()).Text2->Text(), u"HELLO,GREETING: GREETING"_s);
+    type(*Editors(tools()).Text2, "Good evening");
+    press(*Editors(tools()).Command1);
     QCOMPARE(game.get(LanguageCopy), Language + "GREETING=Good evening\r\n");
     QVERIFY(game.get(ThemeCopy).contains("Text=GREETING\r\n"));
     QVERIFY(program->picture() != before);
-    remove(tools().Command7);
+    remove(Editors(tools()).Command7);
     QCOMPARE(game.get(LanguageCopy), Language);
-    QCOMPARE(listing(*tools().Combo5) + tools().Text2->Text(), u"HELLO: "_s);
+    QCOMPARE(listing(*Editors(tools()).Combo5) + Editors(tools()).Text2->Text(), u"HELLO: "_s);
   }
 
   void anotherImage() {
     pick("LoadingStaticA", "Color");
-    pickEntry(*tools().Combo4, 0);
-    press(*tools().Command1);
+    pickEntry(*Editors(tools()).Combo4, 0);
+    press(*Editors(tools()).Command1);
     QCOMPARE(pixel(), QColor(200, 100, 50));
     pick("LoadingStaticA", "Tex");
     program->dialogs.files = {game.path() + u"Skins\\Alpha\\paper.png"_s};
-    press(*tools().Command4);
-    QCOMPARE(tools().Text3->Text(), u"paper.png"_s);
+    press(*Editors(tools()).Command4);
+    QCOMPARE(Editors(tools()).Text3->Text(), u"paper.png"_s);
     QCOMPARE(pixel(), QColor(200, 100, 50));
-    press(*tools().Command1);
+    press(*Editors(tools()).Command1);
     QVERIFY(game.get(SkinCopy).contains("Plate=paper.png\r\n"));
     QCOMPARE(pixel(), QColor(Qt::white));
-    remove(tools().Command9);
+    remove(Editors(tools()).Command9);
     QCOMPARE(game.get(SkinCopy), "[Textures]\r\n");
-    QCOMPARE(listing(*tools().Combo6) + tools().Text3->Text(), u": "_s);
+    QCOMPARE(listing(*Editors(tools()).Combo6) + Editors(tools()).Text3->Text(), u": "_s);
   }
 
   void newTexture() {
     program->dialogs.inputs = {u"Fr\u00ff"_s};
-    press(*tools().Command8);
-    QCOMPARE(listing(*tools().Combo6) + tools().Text3->Text(), u"Fr\u00ff: Fr\u00ff"_s);
+    press(*Editors(tools()).Command8);
+    QCOMPARE(listing(*Editors(tools()).Combo6) + Editors(tools()).Text3->Text(), u"Fr\u00ff: Fr\u00ff"_s);
     program->dialogs.files = {game.path() + u"Skins\\Alpha\\ink.png"_s};
-    press(*tools().Command4);
-    press(*tools().Command1);
+    press(*Editors(tools()).Command4);
+    press(*Editors(tools()).Command1);
     QCOMPARE(game.get(SkinCopy), "[Textures]\r\nFr\xff=ink.png\r\n");
     QVERIFY(game.get(ThemeCopy).contains("Tex=Fr\xff\r\n"));
     QCOMPARE(pixel(), QColor(200, 100, 50));
@@ -157,7 +158,7 @@ class PreviewTest : public QObject {
     const auto expect = [&](const char* was, const char* is) {
       expected.replace(expected.indexOf(was, at), QByteArrayView(was).size(), is);
     };
-    pickNamed(*tools().List1, "LoadingStaticRecord");
+    pickNamed(tools().objects(), "LoadingStaticRecord");
     QWidget& preview = *program->form.Workspace;
     bringToFront(program->form);
     QTRY_COMPARE(QApplication::activeWindow(), &program->form);
@@ -187,8 +188,8 @@ class PreviewTest : public QObject {
   Form2& tools() const { return program->tools(); }
   QColor pixel(int x = 320, int y = 120) const { return program->picture().pixelColor(x, y); }
   void pick(const char* object, const char* key) const {
-    pickNamed(*tools().List1, object);
-    pickNamed(*tools().ListView1, key);
+    pickNamed(tools().objects(), object);
+    pickNamed(tools().values(), key);
   }
 
   void remove(QPushButton* button) const {

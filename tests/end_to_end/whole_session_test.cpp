@@ -30,20 +30,20 @@ const EditRow Edits[] = {
 
 /// Enters a text into the editor that is open, by mouse and keyboard; a colour's name is one of the players'.
 void enter(toolwindow::Form2& tools, const char* text) {
-  for (QLineEdit* box : {tools.Text1, tools.Text4, tools.Text2}) {
+  for (QLineEdit* box : {Editors(tools).Text1, Editors(tools).Text4, Editors(tools).Text2}) {
     if (box->isVisible()) type(*box, text);
   }
-  if (tools.Combo4->isVisible()) pickEntry(*tools.Combo4, 2);
-  for (QComboBox* box : {tools.Combo2, tools.Combo3, tools.Combo6}) {
+  if (Editors(tools).Combo4->isVisible()) pickEntry(*Editors(tools).Combo4, 2);
+  for (QComboBox* box : {Editors(tools).Combo2, Editors(tools).Combo3, Editors(tools).Combo6}) {
     if (box->isVisible()) pickEntry(*box, box->findText(QLatin1StringView(text)));
   }
 }
 
 void chooseMainScreen(Program& program) {
-  program.tools().Combo1->setFocus();
+  program.tools().screens().setFocus();
   key(program.tools(), Qt::Key_Home);
   key(program.tools(), Qt::Key_Down);
-  QCOMPARE(program.tools().Combo1->Text(), u"Main Screen"_s);
+  QCOMPARE(program.tools().screens().Text(), u"Main Screen"_s);
 }
 
 }  // namespace
@@ -67,15 +67,15 @@ class WholeSessionTest : public QObject {
     QStringList before;
     QImage pictureBefore;
     for (int screen = 0; screen < 32; ++screen) {
-      const QString name = tools.Combo1->Text();
-      QCOMPARE(tools.Combo1->ListIndex(), screen);
-      const QStringList objects = entries(*tools.List1);
+      const QString name = tools.screens().Text();
+      QCOMPARE(tools.screens().ListIndex(), screen);
+      const QStringList objects = entries(tools.objects());
       const QImage picture = program->picture();
       // The views of one screen for one or more players, too, show other objects each.
       QVERIFY2(!objects.isEmpty() && objects != std::exchange(before, objects), qPrintable(name));
       QVERIFY2(picture != std::exchange(pictureBefore, picture), qPrintable(name));
       QVERIFY2(!program->status().startsWith(u"Error"), qPrintable(name + program->status()));
-      QCOMPARE(program->form.Combo2->isVisible(), program->state.ButtonCount > 0);
+      QCOMPARE(program->form.buttons().isVisible(), program->state.ButtonCount > 0);
       key(tools, Qt::Key_Down);
     }
     QVERIFY(program->state.ThemeOpened && !program->state.Changed);
@@ -86,12 +86,12 @@ class WholeSessionTest : public QObject {
     toolwindow::Form2& tools = program->tools();
     chooseMainScreen(*program);
     for (const EditRow& row : Edits) {
-      pickNamed(*tools.List1, row.object);
-      pickNamed(*tools.ListView1, row.key);
-      QVERIFY2(program->state.EditorShown && tools.Command1->isVisible(), row.key);
+      pickNamed(tools.objects(), row.object);
+      pickNamed(tools.values(), row.key);
+      QVERIFY2(program->state.EditorShown && Editors(tools).Command1->isVisible(), row.key);
       QTest::qWait(20);
       enter(tools, row.text);
-      press(*tools.Command1);
+      press(*Editors(tools).Command1);
       QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
       QVERIFY2(!program->status().startsWith(u"Error"), qPrintable(program->status()));
       QVERIFY(program->enabled(2));
@@ -113,20 +113,20 @@ class WholeSessionTest : public QObject {
 
     toolBar(*program, 3);
     settle();
-    QVERIFY(program->form.toolWindow() == nullptr && program->form.Label1->isVisible());
+    QVERIFY(program->form.toolWindow() == nullptr && named<QLabel>(program->form, "Label1")->isVisible());
     QVERIFY(program->dialogs.asked.isEmpty());
     open(*program, "Workbench", "Grey", Qt::Key_End);
     QCOMPARE(program->state.paths.ThemeFile.section(u'\\', -1), u"Workbench.ini.tmp"_s);
-    QVERIFY(program->form.Label1->isHidden());
+    QVERIFY(named<QLabel>(program->form, "Label1")->isHidden());
     open(*program, "Stagelight", "Neon", Qt::Key_Home);
     chooseMainScreen(*program);
     for (const EditRow& row : Edits) {
-      pickNamed(*program->tools().List1, row.object);
+      pickNamed(program->tools().objects(), row.object);
       QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
     }
-    pickNamed(*program->tools().List1, "MainTextHelp");
-    pickNamed(*program->tools().ListView1, "Text");
-    QCOMPARE(program->tools().Text2->Text(), u"Los! = [Enter];"_s);
+    pickNamed(program->tools().objects(), "MainTextHelp");
+    pickNamed(program->tools().values(), "Text");
+    QCOMPARE(Editors(program->tools()).Text2->Text(), u"Los! = [Enter];"_s);
   }
 
  private:

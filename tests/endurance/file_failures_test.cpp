@@ -2,7 +2,6 @@
 
 #include "endurance/system_calls.h"
 #include "support/snapshot.h"
-#include "toolwindow/saved_marks.h"
 
 using namespace support;
 using platform::BoxAnswer;
@@ -35,8 +34,8 @@ auto editor(const char* tag, const char* key) {
     program.open();
     program.tag(QLatin1StringView(tag));
     program.row(QLatin1StringView(key));
-    program.tools().Text1->SetText(u"77"_s);
-    program.tools().Text2->SetText(u"Off we go"_s);
+    Editors(program.tools()).Text1->SetText(u"77"_s);
+    Editors(program.tools()).Text2->SetText(u"Off we go"_s);
   };
 }
 
@@ -53,7 +52,7 @@ auto press(const char* button) {
 
 void edited(Program& program, const GameFolder& game) {
   editor("LoadingStaticA", "X")(program, game);
-  program.tools().Command1->click();
+  Editors(program.tools()).Command1->click();
   program.dialogs.boxes = {BoxAnswer::Yes, BoxAnswer::Yes};
 }
 
@@ -65,7 +64,7 @@ void save(Program& program, const std::function<void()>& armed) {
 void open(Program& program, const std::function<void()>& armed) {
   armed();
   program.openDialog([&](mainwindows::Form3& dialog) {
-    dialog.Command1->click();
+    dialog.openButton().click();
     system_calls::disarm();
     if (dialog.isVisible()) dialog.reject();
   });
@@ -76,12 +75,12 @@ void open(Program& program, const std::function<void()>& armed) {
 void moveByHand(Program& program, const std::function<void()>& armed) {
   for (const auto arrow : {Qt::Key_Right, Qt::Key_Down}) QTest::keyClick(program.form.Workspace, arrow);
   armed();
-  Q_EMIT program.form.settling();
+  program.form.session().settle();
 }
 
 void putSavedValueBack(Program& program, const std::function<void()>& armed) {
   toolwindow::Form2& tools = program.tools();
-  toolwindow::showRowMenu(tools, tools.ListView1->selectedRow(), {});
+  Q_EMIT tools.values().menuAsked(tools.values().selectedRow(), {});
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   if (menu == nullptr) return;  // nothing differs any more
   menu->close();

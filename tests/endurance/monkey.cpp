@@ -3,7 +3,7 @@
 #include <QScopeGuard>
 #include <QShortcut>
 
-#include "mainwindows/main_events.h"
+#include "mainwindows/editor.h"
 #include "platform/paths.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
@@ -194,7 +194,8 @@ void Monkey::check() {
   checkColors();
   const toolwindow::Form2& tools = *form().toolWindow();
   int shown = 0;
-  for (QWidget* frame : {tools.Numbers, tools.FloatNumbers, tools.Selection, tools.Color, tools.Texture, tools.Texts}) {
+  for (QWidget* frame : {support::Editors(tools).Numbers, support::Editors(tools).FloatNumbers, support::Editors(tools).Selection,
+                         support::Editors(tools).Color, support::Editors(tools).Texture, support::Editors(tools).Texts}) {
     shown += frame->isHidden() ? 0 : 1;
   }
   require(shown <= 1 && (shown == 0 || state().EditorShown), u"editor frames"_s);

@@ -23,10 +23,10 @@ void Monkey::act() {
     gesture();
   } else if (tools == nullptr || chance_.one(50)) {
     touch(form());
-  } else if (chance_.one(4) || tools->List1->ListIndex() < 0) {
+  } else if (chance_.one(4) || tools->objects().ListIndex() < 0) {
     touch(*tools, Qt::FindDirectChildrenOnly);
   } else {
-    touch(*tools->Frame1);
+    touch(*support::named<QWidget>(*tools, "Frame1"));
   }
   readStatus();
 }
@@ -88,8 +88,9 @@ void Monkey::pick(QAbstractItemView& list) {
     list.scrollTo(index);
     click(*list.viewport(), list.visualRect(index).center());
   }
-  if (form().toolWindow() == nullptr || &list != form().toolWindow()->ListView1) return;
-  for (const QWidget* frame : form().toolWindow()->Frame1->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+  if (form().toolWindow() == nullptr || &list != &form().toolWindow()->values()) return;
+  for (const QWidget* frame :
+       support::named<QWidget>(*form().toolWindow(), "Frame1")->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
     if (frame->isVisible()) ++counts_[frame->objectName()];
   }
 }
@@ -129,7 +130,7 @@ void Monkey::arrowKeys() {
   const auto with = chance_.of(std::array{Qt::ShiftModifier, Qt::NoModifier, Qt::ControlModifier, Qt::ControlModifier});
   for (int i = chance_.below(4); i >= 0; --i) key(*form().Workspace, chance_.of(Keys), with);
   if (chance_.one(6)) key(*form().Workspace, Qt::Key_Escape);
-  if (!chance_.one(4)) Q_EMIT form().settling();
+  if (!chance_.one(4)) form().session().settle();
 }
 
 /// A drag that ends in any way, or never.

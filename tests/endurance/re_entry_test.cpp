@@ -25,7 +25,7 @@ constexpr const char* Static = "LoadingStaticA";
 constexpr const char* Ahead = "[LoadingTextAhead]\r\nX=400\r\nY=30\r\nFont=2\r\nText=HELLO\r\n[LoadingTextF";
 
 bool pickTag(Program& program, const char* tag) {
-  controls::ListBox& list = *program.tools().List1;
+  controls::ListBox& list = program.tools().objects();
   if (list.findItems(QLatin1StringView(tag), Qt::MatchExactly).isEmpty()) return false;  // it is still filling
   {
     const QSignalBlocker quiet(list);
@@ -50,8 +50,8 @@ bool click(Program& program) {
 }
 
 bool update(Program& program) {
-  program.tools().Text1->SetText(u"88"_s);
-  program.tools().Command1->click();
+  Editors(program.tools()).Text1->SetText(u"88"_s);
+  Editors(program.tools()).Command1->click();
   return true;
 }
 
@@ -68,13 +68,13 @@ bool pressOn(Program& program) {
   QTest::mousePress(&preview, Qt::LeftButton, {}, place);
   if (program.form.queue().busy()) moveMouse(preview, place * 2);
   QTest::mouseRelease(&preview, Qt::LeftButton, {}, place);
-  return program.tools().List1->Text() == u"LoadingTextFree";
+  return program.tools().objects().Text() == u"LoadingTextFree";
 }
 
 bool arrowKeys(Program& program) {
-  if (program.tools().List1->ListIndex() < 0) return false;
+  if (program.tools().objects().ListIndex() < 0) return false;
   for (const auto key : {Qt::Key_Right, Qt::Key_Down}) QTest::keyClick(program.form.Workspace, key);
-  Q_EMIT program.form.settling();
+  program.form.session().settle();
   return true;
 }
 
@@ -98,8 +98,8 @@ constexpr Wish Wishes[] = {
     {"a new key", nullptr, "LoadingButtonGoText1", "Text", "Command6", 't', true},
     {"no such key", nullptr, Static, "Tex", "Command9", 'i', true},
     {"another screen", [](Program& p) { return screen(p); }},
-    {"another scheme", [](Program& p) { return choose(*p.form.Combo1, 3); }},
-    {"another button", [](Program& p) { return choose(*p.form.Combo2, 1, p.state.ButtonListFilled); }},
+    {"another scheme", [](Program& p) { return choose(p.form.schemes(), 3); }},
+    {"another button", [](Program& p) { return choose(p.form.buttons(), 1, p.state.ButtonListFilled); }},
     {"a background colour", click<4>},
     {"Save", click<2>},
     {"Close", click<3>},
@@ -125,13 +125,13 @@ bool make(const Wish& wish, Program& program) {
   if (wish.other != nullptr) return wish.other(program);
   if (program.form.toolWindow() == nullptr || !program.tools().isVisible()) return false;
   // While the list fills nothing is selected, and what is picked then ends with its editor closed.
-  if (program.tools().List1->ListIndex() < 0 || !pickTag(program, wish.tag)) return false;
+  if (program.tools().objects().ListIndex() < 0 || !pickTag(program, wish.tag)) return false;
   program.row(QLatin1StringView(wish.key));
   toolwindow::Form2& form = program.tools();
   // What Update takes: from the editor that the key has opened.
-  form.Text1->SetText(u"88"_s);
-  form.Text2->SetText(u"Go on"_s);
-  if (wish.frame == 'i' && !wish.waits) form.Combo6->SetText(u"Back"_s);
+  Editors(form).Text1->SetText(u"88"_s);
+  Editors(form).Text2->SetText(u"Go on"_s);
+  if (wish.frame == 'i' && !wish.waits) Editors(form).Combo6->SetText(u"Back"_s);
   form.findChild<QPushButton*>(QLatin1StringView(wish.button))->click();
   return true;
 }

@@ -58,7 +58,7 @@ class Watch {
                    .arg(files->testOption(QFileDialog::ReadOnly));
     }
     auto* open = qobject_cast<mainwindows::Form3*>(&dialog);
-    open != nullptr&& saysYes ? open->Command1->click() : dialog.reject();
+    open != nullptr&& saysYes ? open->openButton().click() : dialog.reject();
   }
   void answerBox(QMessageBox& box) {
     const QStringList icons{u"no icon"_s, u"information"_s, u"warning"_s, u"critical"_s, u"question"_s};
@@ -109,21 +109,21 @@ class DialogsTest : public QObject {
     const toolwindow::Form2& tools = program.tools();
     watch.when(u"background colour"_s, [&] { program.click(4); });
     program.soleRow(u"Color"_s, u"Red"_s);
-    watch.when(u"change a colour"_s, [&] { tools.Command2->click(); });
+    watch.when(u"change a colour"_s, [&] { Editors(tools).Command2->click(); });
     watch.names = QStringList{u"red"_s, u"a=b"_s};
-    watch.when(u"add a colour that is there"_s, [&] { tools.Command3->click(); });
-    watch.when(u"add a colour of a name that no file holds"_s, [&] { tools.Command3->click(); });
-    watch.when(u"remove a colour"_s, [&] { tools.Command5->click(); });
+    watch.when(u"add a colour that is there"_s, [&] { Editors(tools).Command3->click(); });
+    watch.when(u"add a colour of a name that no file holds"_s, [&] { Editors(tools).Command3->click(); });
+    watch.when(u"remove a colour"_s, [&] { Editors(tools).Command5->click(); });
     program.soleRow(u"Tex"_s, u"Plate"_s);
-    watch.when(u"choose an image"_s, [&] { tools.Command4->click(); });
+    watch.when(u"choose an image"_s, [&] { Editors(tools).Command4->click(); });
     watch.names = QStringList{u"plate"_s, u"[x"_s};
-    watch.when(u"add a texture that is there"_s, [&] { tools.Command8->click(); });
-    watch.when(u"add a texture of a name that no file holds"_s, [&] { tools.Command8->click(); });
-    watch.when(u"remove a texture"_s, [&] { tools.Command9->click(); });
+    watch.when(u"add a texture that is there"_s, [&] { Editors(tools).Command8->click(); });
+    watch.when(u"add a texture of a name that no file holds"_s, [&] { Editors(tools).Command8->click(); });
+    watch.when(u"remove a texture"_s, [&] { Editors(tools).Command9->click(); });
     program.soleRow(u"Text"_s, u"HELLO"_s);
     watch.names = QStringList{u"hello"_s};
-    watch.when(u"add a text that is there"_s, [&] { tools.Command6->click(); });
-    watch.when(u"remove a text"_s, [&] { tools.Command7->click(); });
+    watch.when(u"add a text that is there"_s, [&] { Editors(tools).Command6->click(); });
+    watch.when(u"remove a text"_s, [&] { Editors(tools).Command7->click(); });
     program.edit();
     watch.saysYes = false;
     watch.when(u"Open with changes"_s, [&] { program.click(1); });

@@ -191,7 +191,7 @@ class FormsTest : public ProgramTest {
     program->tag(u"LoadingButtonGo"_s);
     states.add(u"a button chosen"_s, tools);
     const auto edit = [&](const QString& row, const QSize& size = {}) {
-      tools.Command1->setFocus();  // what is hidden gives its focus to the grid
+      Editors(tools).Command1->setFocus();  // what is hidden gives its focus to the grid
       program->soleRow(row.section(u'=', 0, 0), row.section(u'=', 1));
       if (!size.isEmpty()) tools.resize(size);
       states.add(row + (size.isEmpty() ? u""_s : u", window made %1x%2"_s.arg(size.width()).arg(size.height())), tools);
@@ -213,7 +213,7 @@ class FormsTest : public ProgramTest {
     States states;
     program->openDialog([&](Form3& dialog) {
       states.add(u"comes up"_s, dialog);
-      dialog.List1->SetListIndex(1);
+      dialog.themes().SetListIndex(1);
       states.add(u"a theme without a skin"_s, dialog);
       dialog.reject();
     });

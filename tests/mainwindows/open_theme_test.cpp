@@ -32,7 +32,7 @@ class OpenThemeTest : public QObject {
       program.dialogs.files = {chosen ? game.path() + u"Vocora.exe"_s : QString()};
       const bool came = program.openDialog([&](Form3& dialog) {
         QCOMPARE(dialog.windowTitle(), u"Open Theme ["_s + game.path() + u']');
-        dialog.Command2->click();
+        dialog.cancelButton().click();
       });
       QCOMPARE(came, dialogComes);
       QCOMPARE(program.dialogs.asked.size(), *stored == 0 ? 0 : 1);
@@ -56,23 +56,29 @@ class OpenThemeTest : public QObject {
       const int middle = dialog.screen()->availableGeometry().center().x();
       QVERIFY(qAbs(dialog.geometry().center().x() - middle) < 4);  // a frame
       const auto chosen = [&] {
-        return QStringList{dialog.List1->Text(), dialog.Label4->whole(), dialog.Label5->whole(),
-                           dialog.List2->Text(), dialog.Label9->whole(), dialog.Label10->whole(),
-                           dialog.Combo1->Text()}
+        return QStringList{dialog.themes().Text(),
+                           named<controls::CutLabel>(dialog, "Label4")->whole(),
+                           named<controls::CutLabel>(dialog, "Label5")->whole(),
+                           dialog.skins().Text(),
+                           named<controls::CutLabel>(dialog, "Label9")->whole(),
+                           named<controls::CutLabel>(dialog, "Label10")->whole(),
+                           dialog.languages().Text()}
             .join(u'|');
       };
       QCOMPARE(chosen(), u"Alpha|The Alpha theme|Ann|One|First|Bob|English"_s);
-      dialog.List2->SetListIndex(1);
+      dialog.skins().SetListIndex(1);
       QCOMPARE(chosen(), u"Alpha|The Alpha theme|Ann|Two|Second|Cid|English"_s);
-      dialog.List1->SetListIndex(1);
+      dialog.themes().SetListIndex(1);
       QCOMPARE(chosen(), u"beta.1|<b>Beta</b>|%1||||English"_s.arg(QString(40, u'W')));
-      QVERIFY(dialog.Label5->text().endsWith(u'\u2026') && dialog.Label5->toolTip() == dialog.Label5->whole());
-      QVERIFY(!dialog.Command1->isEnabled() && dialog.List2->ListCount() == 0);
+      QVERIFY(named<controls::CutLabel>(dialog, "Label5")->text().endsWith(u'\u2026') &&
+              named<controls::CutLabel>(dialog, "Label5")->toolTip() ==
+                  named<controls::CutLabel>(dialog, "Label5")->whole());
+      QVERIFY(!dialog.openButton().isEnabled() && dialog.skins().ListCount() == 0);
       QTest::keyClick(&dialog, Qt::Key_Return);
-      doubleClick(*dialog.List1);
+      doubleClick(dialog.themes());
       QVERIFY(dialog.isVisible());
-      dialog.List1->SetListIndex(0);
-      QVERIFY(dialog.Command1->isEnabled());
+      dialog.themes().SetListIndex(0);
+      QVERIFY(dialog.openButton().isEnabled());
       QTest::keyClick(&dialog, Qt::Key_Escape);
       QVERIFY(!dialog.isVisible());
     }));
@@ -88,8 +94,8 @@ class OpenThemeTest : public QObject {
     QVERIFY(program.state.ThemeOpened && !program.state.Changed);
     QCOMPARE(program.buttons(), u"+-++"_s);
     const toolwindow::Form2& tools = program.tools();
-    QVERIFY(tools.isVisible() && tools.List1->isEnabled() && tools.focusWidget() == tools.Combo1);
-    const QStringList lists{program.form.Combo1->Text(), tools.Combo1->Text(), tools.List1->Text()};
+    QVERIFY(tools.isVisible() && tools.objects().isEnabled() && tools.focusWidget() == &tools.screens());
+    const QStringList lists{program.form.schemes().Text(), tools.screens().Text(), tools.objects().Text()};
     QCOMPARE(lists, QStringList({u"Blue"_s, u"Loading Screen"_s, u"Loading"_s}));
     for (const QString& file : {ThemeFile, SkinFile, LanguageFile}) files[file + u".tmp"_s] = files[file];
     QCOMPARE(game.files(), files);
@@ -127,8 +133,8 @@ class OpenThemeTest : public QObject {
             game.protect(name);
           }
           edited = game.get(ThemeCopy);
-          if (!game.has(u"Languages"_s)) dialog.Combo1->Clear();
-          dialog.Command1->click();
+          if (!game.has(u"Languages"_s)) dialog.languages().Clear();
+          dialog.openButton().click();
           QVERIFY(dialog.isVisible());
           QVERIFY2(program.status().startsWith(u"Error while saving temporary files ["), qPrintable(program.status()));
           dialog.reject();
@@ -143,11 +149,11 @@ class OpenThemeTest : public QObject {
   }
 
   void doubleClickOpens() {
-    for (controls::ListBox* Form3::*list : {&Form3::List1, &Form3::List2}) {
+    for (controls::ListBox& (Form3::*list)() const : {&Form3::themes, &Form3::skins}) {
       const GameFolder game;
       Program program(game);
       program.openDialog([&](Form3& dialog) {
-        doubleClick(*(dialog.*list));
+        doubleClick((dialog.*list)());
         if (dialog.isVisible()) dialog.reject();
       });
       QVERIFY(program.state.ThemeOpened);
@@ -163,8 +169,10 @@ class OpenThemeTest : public QObject {
       for (const QString& name : names) game.put(u"Languages/%1.ini"_s.arg(name), "");
       Program program(game);
       program.openDialog([&](Form3& dialog) {
-        QCOMPARE(dialog.Combo1->Text(), names.isEmpty() ? QString() : names.size() == 3 ? u"english"_s : u"Deutsch"_s);
-        dialog.Command1->click();
+        QCOMPARE(dialog.languages().Text(), names.isEmpty()     ? QString()
+                                            : names.size() == 3 ? u"english"_s
+                                                                : u"Deutsch"_s);
+        dialog.openButton().click();
         if (dialog.isVisible()) dialog.reject();
       });
       QCOMPARE(program.state.ThemeOpened, !names.isEmpty());
@@ -188,8 +196,8 @@ class OpenThemeTest : public QObject {
       const QVariantMap before = snapshot(program, game);
       program.dialogs.boxes = {goesOn ? BoxAnswer::Yes : BoxAnswer::No};
       const bool came = program.openDialog([&](Form3& dialog) {
-        dialog.List1->SetListIndex(1);
-        goesOn ? dialog.Command1->click() : dialog.reject();
+        dialog.themes().SetListIndex(1);
+        goesOn ? dialog.openButton().click() : dialog.reject();
       });
       settle();
       QCOMPARE(program.dialogs.asked.size(), dirty ? 1 : 0);
@@ -202,9 +210,9 @@ class OpenThemeTest : public QObject {
       QVERIFY(program.state.paths.ThemeFile.endsWith(u"Beta.ini.tmp"));
       QVERIFY(!program.state.Changed && program.buttons() == u"+-++");
       QVERIFY(program.state.ThemeColors[0].Name.isEmpty() && program.state.ThemeColors[1].Name.isEmpty());
-      QCOMPARE(program.tools().List1->ListCount(), 0);
+      QCOMPARE(program.tools().objects().ListCount(), 0);
       QVERIFY2(!program.form.Workspace->markVisible(), "the mark of the theme before");
-      QVERIFY(program.form.Combo2->isHidden());
+      QVERIFY(program.form.buttons().isHidden());
       QCOMPARE(program.picture().pixelColor(400, 300), QColor(Qt::white));
     }
   }
@@ -221,7 +229,7 @@ class OpenThemeTest : public QObject {
     program.form.activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&program.form));
     const auto list = [&](Form3& dialog) {
-      themes = entries(*dialog.List1);
+      themes = entries(dialog.themes());
       dialog.reject();
     };
     program.openDialog(list,
@@ -240,11 +248,11 @@ class OpenThemeTest : public QObject {
     game.addPicture("plate.png", Qt::green, {10, 8});
     QTest::keyClick(&program.form, Qt::Key_F5);
     settle();
-    QCOMPARE(program.tools().List1->Text(), u"LoadingTextFree"_s);
+    QCOMPARE(program.tools().objects().Text(), u"LoadingTextFree"_s);
     QCOMPARE(program.picture().pixelColor(90, 80), QColor(Qt::green));
     // On a screen that is coming up the selected button is still that of the screen before.
-    program.form.Combo2->setCurrentIndex(1);
-    Q_EMIT program.form.Combo2->Click(controls::Cause::User);
+    program.form.buttons().setCurrentIndex(1);
+    Q_EMIT program.form.buttons().Click(controls::Cause::User);
     program.screen(u"Main Screen"_s);
     bool pressed = false;
     connect(&program.form.queue(), &controls::WorkQueue::yielding, this, [&] {

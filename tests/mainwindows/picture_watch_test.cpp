@@ -132,9 +132,9 @@ class PictureWatchTest : public ProgramTest {
     program->edit();
     QCOMPARE(draws_, 1);
     program->row(u"Tex"_s);
-    program->tools().Combo6->selectText(u"Plate"_s);
-    program->tools().Text3->SetText(u"back.png"_s);
-    program->tools().Command1->click();
+    Editors(program->tools()).Combo6->selectText(u"Plate"_s);
+    Editors(program->tools()).Text3->SetText(u"back.png"_s);
+    Editors(program->tools()).Command1->click();
     program->click(2);
     QCOMPARE(draws_, 2);
     // The skin's folder tells of the writes; a look after them finds nothing.

@@ -22,8 +22,8 @@ class PreviewMenusTest : public ProgramTest {
     QTest::newRow("preview, keys") << Ask(
         [](Program& p) { QTest::keyClick(p.form.Workspace, Qt::Key_F10, Qt::ShiftModifier); });
     QTest::newRow("preview, mouse") << Ask([](Program& p) { ask(*p.form.Workspace, QContextMenuEvent::Mouse); });
-    QTest::newRow("row") << Ask([](Program& p) { ask(*p.tools().ListView1->viewport(), QContextMenuEvent::Keyboard); });
-    QTest::newRow("text box") << Ask([](Program& p) { ask(*p.tools().Text1, QContextMenuEvent::Mouse); });
+    QTest::newRow("row") << Ask([](Program& p) { ask(*p.tools().values().viewport(), QContextMenuEvent::Keyboard); });
+    QTest::newRow("text box") << Ask([](Program& p) { ask(*Editors(p.tools()).Text1, QContextMenuEvent::Mouse); });
   }
   /// The keys are committed first, and the drawing of that serves an Esc. Neither takes the menu away under itself.
   void menusBehindKeys() {
@@ -56,7 +56,7 @@ class PreviewMenusTest : public ProgramTest {
     connect(
         &program->form.queue(), &controls::WorkQueue::yielding, this, [this] { program->click(3); },
         Qt::SingleShotConnection);
-    ask(*program->tools().Text1, QContextMenuEvent::Mouse);
+    ask(*Editors(program->tools()).Text1, QContextMenuEvent::Mouse);
     QVERIFY(QApplication::activePopupWidget() == nullptr);
     settle();
     QVERIFY(!program->state.ThemeOpened);

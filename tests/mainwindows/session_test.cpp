@@ -20,8 +20,8 @@ QColor shownAt(const Program& program, const QPoint& place) {
 void checkWithoutTheme(const Program& program, const QColor& back) {
   const Form1& form = program.form;
   QCOMPARE(program.buttons(), u"+---"_s);
-  QVERIFY(form.Label1->isVisible() && form.Label2->isVisible());
-  QVERIFY(form.Combo1->isHidden() && form.Combo2->isHidden() && form.ProgressBar1->isHidden());
+  QVERIFY(named<QLabel>(form, "Label1")->isVisible() && named<QLabel>(form, "Label2")->isVisible());
+  QVERIFY(form.schemes().isHidden() && form.buttons().isHidden() && form.ProgressBar1->isHidden());
   QVERIFY(form.toolWindow() == nullptr && form.findChildren<toolwindow::Form2*>().isEmpty());
   QVERIFY(!form.Workspace->markVisible() && !form.Workspace->blinking());
   QVERIFY(!program.state.ThemeOpened && !program.state.Changed && program.state.paths.ThemeFile.isEmpty());
@@ -43,7 +43,7 @@ class SessionTest : public ProgramTest {
   void startAndAfterClose() {
     const Program fresh(*game);
     QCOMPARE(fresh.form.windowTitle(), QStringLiteral("Cantorama Theme Edit v." CANTORAMA_VERSION));
-    QCOMPARE(fresh.form.Label1->text(), QStringLiteral("v." CANTORAMA_VERSION));
+    QCOMPARE(named<QLabel>(fresh.form, "Label1")->text(), QStringLiteral("v." CANTORAMA_VERSION));
     checkWithoutTheme(fresh, QColor(0x80, 0x80, 0x80));
     program->click(3);
     settle();
@@ -88,9 +88,9 @@ class SessionTest : public ProgramTest {
     game->put(ThemeCopy, game->get(ThemeCopy) + "; other");
     program->tag(u"LoadingTextFree"_s);
     program->row(u"Text"_s);
-    program->tools().Text2->SetText(u"Hi"_s);
+    Editors(program->tools()).Text2->SetText(u"Hi"_s);
     game->protect(LanguageCopy);
-    program->tools().Command1->click();
+    Editors(program->tools()).Command1->click();
     QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
     QVERIFY2(program->status().contains(noted.arg(copy)), qPrintable(program->status()));
     program->click(2);
@@ -126,9 +126,9 @@ class SessionTest : public ProgramTest {
     program->tag(u"LoadingStaticA"_s);
     program->screen(u"Top5 Screen"_s);
     const Form1& form = program->form;
-    QCOMPARE(program->tools().List1->ListCount(), 0);
+    QCOMPARE(program->tools().objects().ListCount(), 0);
     QCOMPARE(program->state.ProgressStep, qint16(0));
-    QVERIFY(form.ProgressBar1->isHidden() && form.Combo2->isHidden());
+    QVERIFY(form.ProgressBar1->isHidden() && form.buttons().isHidden());
     QCOMPARE(pixel(60, 70), QColor(Qt::white));
     QVERIFY2(form.Workspace->markVisible(), "it stays until an object is chosen");
     QCOMPARE(program->value(u"X"_s), u"40"_s);
@@ -146,20 +146,20 @@ class SessionTest : public ProgramTest {
     Form1& form = program->form;
     const auto isRed = [this](int x, int y) { return pixel(x, y).red() > pixel(x, y).blue(); };
     QVERIFY(isRed(340, 220) && isRed(340, 320));  // the selected one by Color, the other by DColor
-    form.Combo2->setFocus();
-    QTest::keyClick(form.Combo2, Qt::Key_Down);
+    form.buttons().setFocus();
+    QTest::keyClick(&form.buttons(), Qt::Key_Down);
     QCOMPARE(program->state.SelectedButton, quint8(2));
     QVERIFY(!isRed(340, 220) && !isRed(340, 320));
     QVERIFY2(pixel(310, 250) == pixel(310, 270), "the first button isn't the higher one any more");
     program->edit();
-    QCOMPARE(form.Combo2->Text(), u"Select Button 2"_s);
+    QCOMPARE(form.buttons().Text(), u"Select Button 2"_s);
     program->screen(u"Main Screen"_s);
-    QVERIFY(form.Combo2->isHidden() && form.Combo2->ListCount() == 0 && program->state.SelectedButton == 1);
+    QVERIFY(form.buttons().isHidden() && form.buttons().ListCount() == 0 && program->state.SelectedButton == 1);
     program->state.ProgressStep = 77;
-    form.Combo1->SetListIndex(3);
+    form.schemes().SetListIndex(3);
     QVERIFY2(program->state.ProgressStep == 77, "drawn without the user");
-    form.Combo1->setFocus();
-    QTest::keyClick(form.Combo1, Qt::Key_Down);
+    form.schemes().setFocus();
+    QTest::keyClick(&form.schemes(), Qt::Key_Down);
     QVERIFY(program->state.ProgressStep != 77);
   }
 

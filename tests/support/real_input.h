@@ -71,11 +71,11 @@ inline void openOnScreen(Program& program) {
 inline void open(Program& program, const char* theme, const char* skin, Qt::Key language) {
   program.openDialog([=](mainwindows::Form3& dialog) {
     if (!QTest::qWaitForWindowExposed(&dialog)) qFatal("no dialog");
-    pickNamed(*dialog.List1, theme);
-    pickNamed(*dialog.List2, skin);
-    dialog.Combo1->setFocus();
+    pickNamed(dialog.themes(), theme);
+    pickNamed(dialog.skins(), skin);
+    dialog.languages().setFocus();
     key(dialog, language);
-    press(*dialog.Command1);
+    press(dialog.openButton());
   });
   if (program.form.toolWindow() == nullptr || !QTest::qWaitForWindowExposed(program.form.toolWindow()))
     qFatal("not open");

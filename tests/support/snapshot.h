@@ -27,8 +27,8 @@ inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
                   {u"files"_s, QVariant::fromValue(game.files())}};
   if (!form.isVisible()) return all;
   mainwindows::Workspace& preview = *form.Workspace;
-  all.insert({{u"lists shown"_s, QVariantList{form.Combo1->isVisible(), form.Combo2->isVisible()}},
-              {u"scheme"_s, form.Combo1->Text()},
+  all.insert({{u"lists shown"_s, QVariantList{form.schemes().isVisible(), form.buttons().isVisible()}},
+              {u"scheme"_s, form.schemes().Text()},
               {u"blinking"_s, preview.blinking()},
               {u"mark"_s, preview.markVisible() ? preview.mark() : QRectF()},
               {u"enabled"_s, program.buttons()},
@@ -36,11 +36,12 @@ inline QVariantMap snapshot(const Program& program, const GameFolder& game) {
   if (!state.ThemeOpened || form.toolWindow() == nullptr) return all;
   const toolwindow::Form2& tools = program.tools();
   all.insert(
-      {{u"lists"_s, entries(*form.Combo2) + entries(*tools.List1) + program.rows()},
-       {u"editors"_s, QStringList{listing(*tools.Combo3), listing(*tools.Combo5), listing(*tools.Combo6),
-                                  tools.Text2->Text(), tools.Text3->Text(), tools.Command2->BackColor().name()}},
-       {u"chosen"_s, QVariantList{form.Combo2->ListIndex(), tools.Combo1->Text(), tools.List1->ListIndex(),
-                                  tools.ListView1->selectedRow()}},
+      {{u"lists"_s, entries(form.buttons()) + entries(tools.objects()) + program.rows()},
+       {u"editors"_s, QStringList{listing(*Editors(tools).Combo3), listing(*Editors(tools).Combo5),
+                                  listing(*Editors(tools).Combo6), Editors(tools).Text2->Text(),
+                                  Editors(tools).Text3->Text(), Editors(tools).Command2->BackColor().name()}},
+       {u"chosen"_s, QVariantList{form.buttons().ListIndex(), tools.screens().Text(), tools.objects().ListIndex(),
+                                  tools.values().selectedRow()}},
        {u"editor"_s, state.EditorShown},
        {u"flags"_s, QVariantList{state.ButtonListFilled, state.SelectedButton, state.ButtonCount, state.ProgressStep,
                                  state.Filter.OnlyTags + state.Filter.SkipTags}},

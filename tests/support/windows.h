@@ -19,8 +19,7 @@
 #include "controls/swatch_button.h"
 #include "controls/text_box.h"
 #include "drawing/graphics.h"
-#include "mainwindows/main_events.h"
-#include "mainwindows/main_window.h"
+#include "mainwindows/editor.h"
 #include "mainwindows/open_theme_dialog.h"
 #include "mainwindows/status_bar.h"
 #include "mainwindows/workspace.h"
@@ -122,15 +121,58 @@ inline void settle() {
   QCoreApplication::processEvents();
 }
 
+/// A control of a window by its object name.
+template <typename Control>
+Control* named(const QWidget& window, const char* name) {
+  auto* control = window.findChild<Control*>(QLatin1StringView(name));
+  if (control == nullptr) qFatal("no control %s", name);
+  return control;
+}
+
+/// The controls of the tool window's editor area by the names that the game's world gives.
+struct Editors {
+  explicit Editors(const toolwindow::Form2& window) : window(window) {}
+  const toolwindow::Form2& window;
+  template <typename Control>
+  Control* at(const char* name) const {
+    return named<Control>(window, name);
+  }
+  QPushButton* const Command1 = at<QPushButton>("Command1");
+  QWidget* const Numbers = at<QWidget>("Numbers");
+  controls::TextBox* const Text1 = at<controls::TextBox>("Text1");
+  controls::NumberBar* const VScroll1 = at<controls::NumberBar>("VScroll1");
+  QWidget* const FloatNumbers = at<QWidget>("FloatNumbers");
+  controls::TextBox* const Text4 = at<controls::TextBox>("Text4");
+  QWidget* const Selection = at<QWidget>("Selection");
+  controls::ComboBox* const Combo2 = at<controls::ComboBox>("Combo2");
+  QWidget* const Color = at<QWidget>("Color");
+  controls::ComboBox* const Combo4 = at<controls::ComboBox>("Combo4");
+  QPushButton* const Command3 = at<QPushButton>("Command3");
+  QPushButton* const Command5 = at<QPushButton>("Command5");
+  controls::ComboBox* const Combo3 = at<controls::ComboBox>("Combo3");
+  controls::SwatchButton* const Command2 = at<controls::SwatchButton>("Command2");
+  QWidget* const Texture = at<QWidget>("Texture");
+  controls::ComboBox* const Combo6 = at<controls::ComboBox>("Combo6");
+  QPushButton* const Command8 = at<QPushButton>("Command8");
+  QPushButton* const Command9 = at<QPushButton>("Command9");
+  controls::TextBox* const Text3 = at<controls::TextBox>("Text3");
+  QPushButton* const Command4 = at<QPushButton>("Command4");
+  QWidget* const Texts = at<QWidget>("Texts");
+  controls::ComboBox* const Combo5 = at<controls::ComboBox>("Combo5");
+  QPushButton* const Command6 = at<QPushButton>("Command6");
+  QPushButton* const Command7 = at<QPushButton>("Command7");
+  controls::TextBox* const Text2 = at<controls::TextBox>("Text2");
+};
+
 /// The program's windows with their events connected.
 class Program {
  public:
   /// config.ini in a folder of its own; the game folder is stored in it unless that is asked away. Dialogs answer by
   /// script, or those given.
   explicit Program(const GameFolder& game, bool storeFolder = true, platform::Dialogs* answering = nullptr)
-      : whole_(mainwindows::makeForm1(
-            {state, answering != nullptr ? *answering : dialogs, graphics, {platform::programPath(settings.path())}})),
-        form(*whole_) {
+      : whole_(
+            {state, answering != nullptr ? *answering : dialogs, graphics, {platform::programPath(settings.path())}}),
+        form(whole_.form) {
     if (storeFolder) form.config().setGameFolder(game.path());
     form.show();
   }
@@ -145,7 +187,7 @@ class Program {
   QTemporaryDir settings;
 
  private:
-  std::unique_ptr<mainwindows::Form1> whole_;
+  mainwindows::Editor whole_;
 
  public:
   mainwindows::Form1& form;
@@ -164,7 +206,7 @@ class Program {
   /// The rows of the grid, and those of the theme's colours: "name=value".
   QStringList rows() const {
     QStringList all;
-    const controls::ListView& grid = *tools().ListView1;
+    const controls::ListView& grid = tools().values();
     for (int row = 0; row < grid.rowCount(); ++row) all += grid.rowText(row) + u'=' + grid.subItem(row);
     return all;
   }
@@ -193,36 +235,36 @@ class Program {
   /// Opens the first theme, Alpha, with its first skin and English.
   void open() {
     openDialog([](mainwindows::Form3& dialog) {
-      dialog.Command1->click();
+      dialog.openButton().click();
       if (dialog.isVisible()) dialog.reject();
     });
     settle();
   }
   /// Chooses a screen, or an object, by name.
-  void screen(const QString& name) { tools().Combo1->SetText(name); }
+  void screen(const QString& name) { tools().screens().SetText(name); }
   void tag(const QString& name) {
-    const auto found = tools().List1->findItems(name, Qt::MatchExactly);
+    const auto found = tools().objects().findItems(name, Qt::MatchExactly);
     if (found.isEmpty()) qFatal("no object %s", qPrintable(name));
-    tools().List1->SetListIndex(tools().List1->row(found.first()));
+    tools().objects().SetListIndex(tools().objects().row(found.first()));
   }
   /// A click on the row of the grid that shows the key.
   void row(const QString& key) {
     const int row = rowOf(key);
     if (row < 0) qFatal("no row %s", qPrintable(key));
-    tools().ListView1->selectRow(row);
-    Q_EMIT tools().ListView1->ItemClick(row);
+    tools().values().selectRow(row);
+    Q_EMIT tools().values().ItemClick(row);
   }
   /// A grid of this one row, and a click on it.
   void soleRow(const QString& key, const QString& value) {
-    tools().ListView1->clearRows();
-    tools().ListView1->addRow(key, value);
+    tools().values().clearRows();
+    tools().values().addRow(key, value);
     row(key);
   }
   /// Enters a number for a key, or changes one of LoadingStaticA.
   void change(const QString& key, const QString& text) {
     row(key);
-    tools().Text1->SetText(text);
-    tools().Command1->click();
+    Editors(tools()).Text1->SetText(text);
+    Editors(tools()).Command1->click();
   }
   void edit(const QString& key = u"X"_s, const QString& text = u"77"_s) {
     tag(u"LoadingStaticA"_s);
@@ -230,7 +272,7 @@ class Program {
   }
   /// The value that the grid shows for the key.
   QString value(const QString& key) const {
-    return rowOf(key) < 0 ? u"no row"_s : tools().ListView1->subItem(rowOf(key));
+    return rowOf(key) < 0 ? u"no row"_s : tools().values().subItem(rowOf(key));
   }
 
  private:

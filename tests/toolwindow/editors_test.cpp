@@ -11,7 +11,8 @@ const QString Static = u"LoadingStaticA"_s;
 /// Name of the editor frame on show; "none", or both names of two.
 QString shownFrame(const Form2& form) {
   QStringList shown;
-  for (const QWidget* frame : {form.Numbers, form.FloatNumbers, form.Selection, form.Color, form.Texture, form.Texts}) {
+  for (const QWidget* frame : {Editors(form).Numbers, Editors(form).FloatNumbers, Editors(form).Selection,
+                               Editors(form).Color, Editors(form).Texture, Editors(form).Texts}) {
     if (!frame->isHidden()) shown += frame->objectName();
   }
   return shown.isEmpty() ? u"none"_s : shown.join(u'+');
@@ -20,22 +21,22 @@ QString shownFrame(const Form2& form) {
 /// What the editor on show holds that isn't a number: the parts of its frame.
 QString shownValue(const Form2& form) {
   const QString frame = shownFrame(form);
-  if (frame == u"Selection") return form.Combo2->Text();
-  if (frame == u"Texts") return form.Combo5->Text() + u'|' + form.Text2->Text();
-  if (frame == u"Texture") return form.Combo6->Text() + u'|' + form.Text3->Text();
-  if (frame == u"Color") return form.Combo4->Text() + u'|' + form.Combo3->Text();
+  if (frame == u"Selection") return Editors(form).Combo2->Text();
+  if (frame == u"Texts") return Editors(form).Combo5->Text() + u'|' + Editors(form).Text2->Text();
+  if (frame == u"Texture") return Editors(form).Combo6->Text() + u'|' + Editors(form).Text3->Text();
+  if (frame == u"Color") return Editors(form).Combo4->Text() + u'|' + Editors(form).Combo3->Text();
   return frame;
 }
 
 const std::pair<const char*, void (*)(Program&)> RefusedUpdates[] = {
-    {"no row", [](Program& p) { p.tools().ListView1->selectRow(-1); }},
+    {"no row", [](Program& p) { p.tools().values().selectRow(-1); }},
     {"no such choice", [](Program& p) { p.soleRow(u"TYPE"_s, u"plain"_s); }},
     {"no such texture", [](Program& p) { p.soleRow(u"TEX"_s, u"Lost"_s); }},
-    {"no object", [](Program& p) { p.tools().List1->SetListIndex(-1); }},
+    {"no object", [](Program& p) { p.tools().objects().SetListIndex(-1); }},
     {"outside the code page",
      [](Program& p) {
        p.soleRow(u"TEXT"_s, u"GO"_s);
-       p.tools().Text2->SetText(u"\u4e2d"_s);
+       Editors(p.tools()).Text2->SetText(u"\u4e2d"_s);
      }},
 };
 
@@ -99,7 +100,7 @@ class EditorsTest : public ProgramTest {
         const QString report = u"Error while reading Value [%1 is too long to be edited here]"_s;
         QCOMPARE(program->status(), fits ? QString() : report.arg(*key == 'Z' ? u"Z"_s : u"HELLO"_s));
         const QByteArray theme = game->get(ThemeCopy);
-        tools.Command1->click();
+        Editors(tools).Command1->click();
         if (*key == 'Z') {
           QCOMPARE(game->get(ThemeCopy) == theme, !fits);
           continue;
@@ -121,31 +122,33 @@ class EditorsTest : public ProgramTest {
                 {5, "-10001", "0", 0}, {5, "10001", "10001", 10000}};
     Form2& tools = program->tools();
     for (const auto& [bar, text, shown, barAfter] : rows) {
-      tools.VScroll1->setValueQuietly(bar);
+      Editors(tools).VScroll1->setValueQuietly(bar);
       program->soleRow(u"X"_s, QLatin1StringView(text));
-      QCOMPARE(tools.Text1->Text(), QLatin1StringView(shown));
-      QCOMPARE(tools.VScroll1->Value(), barAfter);
+      QCOMPARE(Editors(tools).Text1->Text(), QLatin1StringView(shown));
+      QCOMPARE(Editors(tools).VScroll1->Value(), barAfter);
     }
-    tools.VScroll1->SetValue(9999);
-    QCOMPARE(tools.Text1->Text(), u"9999"_s);
-    tools.Text1->selectAll();
-    QTest::keyClicks(tools.Text1, u"1a-2.3"_s);
-    QCOMPARE(tools.Text1->Text(), u"123"_s);
-    QCOMPARE(tools.VScroll1->Value(), 123);
-    tools.Text1->SetText(u"1"_s);
+    Editors(tools).VScroll1->SetValue(9999);
+    QCOMPARE(Editors(tools).Text1->Text(), u"9999"_s);
+    Editors(tools).Text1->selectAll();
+    QTest::keyClicks(Editors(tools).Text1, u"1a-2.3"_s);
+    QCOMPARE(Editors(tools).Text1->Text(), u"123"_s);
+    QCOMPARE(Editors(tools).VScroll1->Value(), 123);
+    Editors(tools).Text1->SetText(u"1"_s);
     for (const auto& [key, number] :
          {std::pair{Qt::Key_Down, "0"}, {Qt::Key_PageDown, "0"}, {Qt::Key_PageUp, "1"}, {Qt::Key_Up, "2"}}) {
-      QTest::keyClick(tools.Text1, key);
-      QCOMPARE(tools.Text1->Text(), QLatin1StringView(number));
+      QTest::keyClick(Editors(tools).Text1, key);
+      QCOMPARE(Editors(tools).Text1->Text(), QLatin1StringView(number));
     }
-    for (QWidget* part : std::initializer_list<QWidget*>{tools.Text1, tools.VScroll1, tools.Command1}) {
+    for (QWidget* part :
+         std::initializer_list<QWidget*>{Editors(tools).Text1, Editors(tools).VScroll1, Editors(tools).Command1}) {
       part->setFocus();
-      for (QWidget* under : std::initializer_list<QWidget*>{tools.Text1, tools.VScroll1}) turnWheel(*under, 60);
+      for (QWidget* under : std::initializer_list<QWidget*>{Editors(tools).Text1, Editors(tools).VScroll1})
+        turnWheel(*under, 60);
     }
-    QCOMPARE(tools.Text1->Text(), u"4"_s);
+    QCOMPARE(Editors(tools).Text1->Text(), u"4"_s);
     program->soleRow(u"Z"_s, QString());
-    QTest::keyClicks(tools.Text4, u"-1.2,.3e"_s);
-    QCOMPARE(tools.Text4->Text(), u"1.2.3"_s);
+    QTest::keyClicks(Editors(tools).Text4, u"-1.2,.3e"_s);
+    QCOMPARE(Editors(tools).Text4->Text(), u"1.2.3"_s);
   }
 
   void update() {
@@ -154,16 +157,16 @@ class EditorsTest : public ProgramTest {
     auto files = game->files();
     for (const auto& [key, before, after] : {std::tuple{u"Z"_s, "Z=0.25", "Z=1.5."}, {u"ColR"_s, "", ""}}) {
       program->row(key);  // the second has no editor: nothing is written, the rest happens
-      tools.Text4->SetText(u"1.5."_s);
+      Editors(tools).Text4->SetText(u"1.5."_s);
       files[ThemeCopy].replace(before, after);
       program->state.ProgressStep = 77;
       program->state.Changed = false;
       program->form.enableCommand(mainwindows::Command::Save, false);
-      tools.Command1->click();
+      Editors(tools).Command1->click();
       QCOMPARE(game->files(), files);
       QVERIFY(program->state.Changed && program->enabled(2) && program->state.ProgressStep != 77);
       QCOMPARE(program->state.EditorShown, *before != 0);
-      QCOMPARE(tools.focusWidget(), tools.ListView1);
+      QCOMPARE(tools.focusWidget(), &tools.values());
     }
     QCOMPARE(program->value(u"Z"_s) + program->value(u"ColR"_s), u"1.5.0.5"_s);
   }
@@ -177,7 +180,7 @@ class EditorsTest : public ProgramTest {
       prepare(*program);
       program->form.ShowStatus(QString());
       program->state.ProgressStep = 77;
-      program->tools().Command1->click();
+      Editors(program->tools()).Command1->click();
       QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
       QCOMPARE(game->files(), files);
       QVERIFY(!program->state.Changed && !program->enabled(2) && program->state.ProgressStep == 77);

@@ -23,14 +23,14 @@ class FinderTest : public ProgramTest {
   /// Screen, object and row that are chosen: "Main Screen/MainStaticA/X".
   QString place() const {
     const Form2& tools = program->tools();
-    const QString row = tools.ListView1->rowText(tools.ListView1->selectedRow());
-    return QStringList{tools.Combo1->Text(), tools.List1->Text(), row}.join(u'/');
+    const QString row = tools.values().rowText(tools.values().selectedRow());
+    return QStringList{tools.screens().Text(), tools.objects().Text(), row}.join(u'/');
   }
 
  private Q_SLOTS:
   void goes() {
     const Form2& tools = program->tools();
-    QSignalSpy chosen(tools.Combo1, &controls::ComboBox::Click);
+    QSignalSpy chosen(&tools.screens(), &controls::ComboBox::Click);
     for (const auto& [typed, downs, expected, choices] :
          {std::tuple{"there hello textfree", 0, u"Loading Screen/LoadingTextFree/Text"_s, 0},
           {"there hello textfree", 1, u"Main Screen/MainTextFree/Text"_s, 1},
@@ -45,8 +45,8 @@ class FinderTest : public ProgramTest {
       QVERIFY(!finder.isVisible());
       QCOMPARE(place(), expected);
       QCOMPARE(chosen.size(), choices);
-      if (expected.endsWith(u"Text")) QCOMPARE(tools.Text2->Text(), u"Hello there"_s);
-      if (expected.endsWith(u"X") || expected.endsWith(u"ColR")) QVERIFY(tools.focusWidget() == tools.ListView1);
+      if (expected.endsWith(u"Text")) QCOMPARE(Editors(tools).Text2->Text(), u"Hello there"_s);
+      if (expected.endsWith(u"X") || expected.endsWith(u"ColR")) QVERIFY(tools.focusWidget() == &tools.values());
     }
     FinderWindow& finder = find("selecth");
     const QRect row = finder.List->visualItemRect(finder.List->item(0));
@@ -70,11 +70,11 @@ class FinderTest : public ProgramTest {
 
   void comesAndGoes() {
     Form2& tools = program->tools();
-    tools.ListView1->setFocus();
+    tools.values().setFocus();
     FinderWindow& finder = find("hello");
     QCOMPARE(finder.windowTitle(), u"Find: 2"_s);
     key(finder, Qt::Key_Escape);
-    QVERIFY(!finder.isVisible() && QTest::qWaitForWindowActive(&tools) && tools.ListView1->hasFocus());
+    QVERIFY(!finder.isVisible() && QTest::qWaitForWindowActive(&tools) && tools.values().hasFocus());
     QByteArray many = "[Main]|";
     for (int i = 0; i < 400; ++i) many += "[MainObject" + QByteArray::number(i) + "]|";
     game->put(ThemeCopy, linesOf(many));

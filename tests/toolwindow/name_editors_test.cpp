@@ -12,17 +12,21 @@ QString text(const QByteArray& latin1) {
 }
 
 /// The editor of one of the three lists of names: its row of the grid and its controls.
-struct Editor {
+struct NameEditor {
   const char *key, *entry;
-  controls::ComboBox* Form2::*list;
-  QPushButton *Form2::*add, *Form2::*remove;
+  controls::ComboBox* const Editors::*list;
+  QPushButton* const Editors::*add;
+  QPushButton* const Editors::*remove;
   const char *kind, *naming;  ///< what dialogs call it
 };
 
-const Editor Editors[] = {
-    {"COLOR", "Red", &Form2::Combo3, &Form2::Command3, &Form2::Command5, "Color", "New Color: Name of the New Color:"},
-    {"TEXT", "HELLO", &Form2::Combo5, &Form2::Command6, &Form2::Command7, "Key", "New TextKey: Name of the New Key:"},
-    {"TEX", "Plate", &Form2::Combo6, &Form2::Command8, &Form2::Command9, "Key", "New TextureKey: Name of the New Key:"},
+const NameEditor NameEditors[] = {
+    {"COLOR", "Red", &Editors::Combo3, &Editors::Command3, &Editors::Command5, "Color",
+     "New Color: Name of the New Color:"},
+    {"TEXT", "HELLO", &Editors::Combo5, &Editors::Command6, &Editors::Command7, "Key",
+     "New TextKey: Name of the New Key:"},
+    {"TEX", "Plate", &Editors::Combo6, &Editors::Command8, &Editors::Command9, "Key",
+     "New TextureKey: Name of the New Key:"},
 };
 
 /// A name to add, the one of the entry in other letters, or the removal of the entry, and the last dialog.
@@ -41,22 +45,22 @@ class NameEditorsTest : public ProgramTest {
 
  private:
   QString lastAsked() const { return program->dialogs.asked.value(program->dialogs.asked.size() - 1); }
-  QString swatch() const { return program->tools().Command2->BackColor().name(); }
+  QString swatch() const { return Editors(program->tools()).Command2->BackColor().name(); }
 
  private Q_SLOTS:
   void refusedNames() {
     Form2& tools = program->tools();
-    for (const Editor& editor : Editors) {
+    for (const NameEditor& editor : NameEditors) {
       for (const auto& [act, asked] : RefusedNames) {
         const RowName name(QByteArray(editor.key) + ' ' + act);
         program->soleRow(text(editor.key), text(editor.entry));
-        if (qstrcmp(act, "remove none") == 0) (tools.*editor.list)->SetListIndex(-1);
+        if (qstrcmp(act, "remove none") == 0) (Editors(tools).*editor.list)->SetListIndex(-1);
         const QVariantMap before = snapshot(*program, *game);
         program->form.ShowStatus(QString());
         program->dialogs.asked.clear();
         const bool same = qstrcmp(act, "the entry") == 0;
         program->dialogs.inputs = {same ? text(editor.entry).toUpper().replace(u'L', u'l') : text(act)};
-        (tools.*(text(act).startsWith(u"remove") ? editor.remove : editor.add))->click();
+        (Editors(tools).*(text(act).startsWith(u"remove") ? editor.remove : editor.add))->click();
         QCOMPARE(differences(snapshot(*program, *game), before), QStringList());
         QCOMPARE(lastAsked(), text(asked)
                                   .replace(u"%1"_s, text(editor.kind))
@@ -71,19 +75,19 @@ class NameEditorsTest : public ProgramTest {
     Form2& tools = program->tools();
     program->soleRow(u"COLOR"_s, u"Red"_s);
     const QVariantMap before = snapshot(*program, *game);
-    tools.Command2->click();  // Cancel
+    Editors(tools).Command2->click();  // Cancel
     QCOMPARE(lastAsked(), u"colour: #c82828"_s);
     QCOMPARE(differences(snapshot(*program, *game), before), QStringList());
     // One that isn't the theme's: only the swatch.
     const auto files = game->files();
     program->soleRow(u"COLOR"_s, u"P1Dark"_s);
     program->dialogs.colors = {QColor(1, 2, 3)};
-    tools.Command2->click();
+    Editors(tools).Command2->click();
     QCOMPARE(lastAsked(), u"colour: #47aff7"_s);
     QCOMPARE(swatch(), u"#010203"_s);
     program->dialogs.boxes = {BoxAnswer::Yes};
-    tools.Command5->click();
-    QCOMPARE(tools.Combo3->Text(), u"P1Dark"_s);
+    Editors(tools).Command5->click();
+    QCOMPARE(Editors(tools).Combo3->Text(), u"P1Dark"_s);
     QCOMPARE(game->files(), files);
   }
 
@@ -102,19 +106,20 @@ class NameEditorsTest : public ProgramTest {
       if (*row != 0) {
         program->soleRow(u"COLOR"_s, text(row));
       } else {
-        tools.Combo4->setCurrentIndex(group);
-        Q_EMIT tools.Combo4->Click(controls::Cause::User);
+        Editors(tools).Combo4->setCurrentIndex(group);
+        Q_EMIT Editors(tools).Combo4->Click(controls::Cause::User);
       }
       QByteArray enabled;
-      for (const QWidget* button : std::initializer_list<QWidget*>{tools.Command3, tools.Command2, tools.Command5}) {
+      for (const QWidget* button :
+           std::initializer_list<QWidget*>{Editors(tools).Command3, Editors(tools).Command2, Editors(tools).Command5}) {
         enabled += button->isEnabled() ? '+' : '-';
       }
       QCOMPARE(enabled + ' ' + swatch().toLatin1(), shown);
-      QCOMPARE(tools.Command2->grab().toImage().pixelColor(10, 10), tools.Command2->BackColor());
+      QCOMPARE(Editors(tools).Command2->grab().toImage().pixelColor(10, 10), Editors(tools).Command2->BackColor());
     }
-    program->form.Combo1->SetText(u"Brown"_s);
+    program->form.schemes().SetText(u"Brown"_s);
     program->soleRow(u"COLOR"_s, u"ColorLightest"_s);
-    QCOMPARE(entries(*tools.Combo3), QStringList({u"ColorDark"_s, u"ColorLight"_s, u"ColorLightest"_s}));
+    QCOMPARE(entries(*Editors(tools).Combo3), QStringList({u"ColorDark"_s, u"ColorLight"_s, u"ColorLightest"_s}));
     QCOMPARE(swatch(), u"#e5cca5"_s);
   }
 
@@ -122,12 +127,12 @@ class NameEditorsTest : public ProgramTest {
     const QString folder = game->path() + u"Skins\\Alpha"_s;
     program->soleRow(u"TEX"_s, u"Plate"_s);
     program->dialogs.files = {folder + u"\\sub\\x.png"_s, game->path() + u"Skins\\\\alpha\\back.png"_s};
-    program->tools().Command4->click();
-    QCOMPARE(program->tools().Text3->Text(), u"plate.png"_s);
+    Editors(program->tools()).Command4->click();
+    QCOMPARE(Editors(program->tools()).Text3->Text(), u"plate.png"_s);
     QVERIFY(program->dialogs.asked.first().endsWith(folder));
     QCOMPARE(program->dialogs.asked.last(), u"Error: Image must be in "_s + folder);
-    program->tools().Command4->click();
-    QCOMPARE(program->tools().Text3->Text(), u"back.png"_s);
+    Editors(program->tools()).Command4->click();
+    QCOMPARE(Editors(program->tools()).Text3->Text(), u"back.png"_s);
   }
 };
 

@@ -16,11 +16,11 @@ class SavedStateTest : public ProgramTest {
     settle();
     QStringList all;
     const Form2& tools = program->tools();
-    for (int row = 0; row < tools.List1->count(); ++row) {
-      if (tools.List1->item(row)->font().bold()) all += tools.List1->List(row);
+    for (int row = 0; row < tools.objects().count(); ++row) {
+      if (tools.objects().item(row)->font().bold()) all += tools.objects().List(row);
     }
-    for (int row = 0; row < tools.ListView1->rowCount(); ++row) {
-      const QTreeWidgetItem& item = *tools.ListView1->topLevelItem(row);
+    for (int row = 0; row < tools.values().rowCount(); ++row) {
+      const QTreeWidgetItem& item = *tools.values().topLevelItem(row);
       if (item.font(1).bold()) all += item.text(0) + u' ' + item.toolTip(0);
     }
     return all.join(u'|');
@@ -45,15 +45,15 @@ class SavedStateTest : public ProgramTest {
   }
   QString menuOfRow(
       const QString& key, const std::function<void()>& meanwhile = [] {}) const {
-    controls::ListView& grid = *program->tools().ListView1;
+    controls::ListView& grid = program->tools().values();
     const auto found = grid.findItems(key, Qt::MatchExactly);
     if (found.isEmpty()) qFatal("no row %s", qPrintable(key));
     return menuOf(*grid.viewport(), false, grid.visualItemRect(found.first()).center(), meanwhile);
   }
   void writeWords(const QString& text) {
     program->row(u"Text"_s);
-    program->tools().Text2->SetText(text);
-    program->tools().Command1->click();
+    Editors(program->tools()).Text2->SetText(text);
+    Editors(program->tools()).Command1->click();
   }
 
  private Q_SLOTS:
@@ -84,7 +84,7 @@ class SavedStateTest : public ProgramTest {
     program->state.Changed = false;
     QCOMPARE(menuOfRow(u"X"_s), u"Put the saved value back: 40"_s);
     QVERIFY(game->get(ThemeCopy).contains("X= 40 \r\n") && program->state.Changed && program->enabled(2));
-    QCOMPARE(program->value(u"X"_s) + program->tools().Text1->Text(), u"4040"_s);
+    QCOMPARE(program->value(u"X"_s) + Editors(program->tools()).Text1->Text(), u"4040"_s);
     QCOMPARE(program->form.Workspace->mark().x(), 40.0);
     QCOMPARE(program->status(), u"LoadingStaticA: X = 40"_s);
     QCOMPARE(marked(), QString());
@@ -92,13 +92,13 @@ class SavedStateTest : public ProgramTest {
     program->tag(u"LoadingTextLater"_s);
     program->row(u"Text"_s);
     program->dialogs.boxes = {platform::BoxAnswer::Yes};
-    program->tools().Command7->click();
-    program->tools().Combo5->SetText(u"HELLO"_s);
-    program->tools().Command1->click();
+    Editors(program->tools()).Command7->click();
+    Editors(program->tools()).Combo5->SetText(u"HELLO"_s);
+    Editors(program->tools()).Command1->click();
     QCOMPARE(marked().section(u'|', -1), u"Text saved: GO = Go"_s);
     program->tools().activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&program->tools()));
-    QTest::keyClick(program->tools().ListView1, Qt::Key_F10, Qt::ShiftModifier);
+    QTest::keyClick(&program->tools().values(), Qt::Key_F10, Qt::ShiftModifier);
     QVERIFY(QApplication::activePopupWidget() != nullptr);
     QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
     QCOMPARE(marked(), QString());
@@ -113,19 +113,19 @@ class SavedStateTest : public ProgramTest {
     QCOMPARE(program->status(), u"LoadingTextFree: words 'HELLO' = Hi"_s);
     QVERIFY(!menuOfRow(u"Text"_s).isEmpty());
     QCOMPARE(program->status(), u"LoadingTextFree: words 'HELLO' = Hello there"_s);
-    program->tools().Command1->click();
+    Editors(program->tools()).Command1->click();
     QCOMPARE(program->status(), u"LoadingTextFree: Text = HELLO"_s);
-    program->tools().Combo5->SetText(u"GO"_s);
-    program->tools().Command1->click();
+    Editors(program->tools()).Combo5->SetText(u"GO"_s);
+    Editors(program->tools()).Command1->click();
     QCOMPARE(program->status(), u"LoadingTextFree: Text = GO"_s);
-    program->tools().Combo5->SetText(u"HELLO"_s);
-    program->tools().Text2->SetText(u"Ho"_s);
-    program->tools().Command1->click();
+    Editors(program->tools()).Combo5->SetText(u"HELLO"_s);
+    Editors(program->tools()).Text2->SetText(u"Ho"_s);
+    Editors(program->tools()).Command1->click();
     QCOMPARE(program->status(), u"LoadingTextFree: Text = HELLO, words 'HELLO' = Ho"_s);
     program->tag(u"LoadingStaticA"_s);
     program->row(u"Tex"_s);
-    program->tools().Text3->SetText(u"other.png"_s);
-    program->tools().Command1->click();
+    Editors(program->tools()).Text3->SetText(u"other.png"_s);
+    Editors(program->tools()).Command1->click();
     QCOMPARE(program->status(), u"LoadingStaticA: texture 'Plate' = other.png"_s);
   }
 
@@ -133,14 +133,14 @@ class SavedStateTest : public ProgramTest {
     const Form2& tools = program->tools();
     const auto before = game->files();
     program->soleRow(u"COLOR"_s, u"Red"_s);
-    QCOMPARE(menuOf(*tools.Command2, true), QString());
+    QCOMPARE(menuOf(*Editors(tools).Command2, true), QString());
     program->dialogs.colors = {QColor(1, 2, 3)};
-    tools.Command2->click();
+    Editors(tools).Command2->click();
     program->form.ShowStatus(QString());
-    QCOMPARE(menuOf(*tools.Command2, true), u"Put the saved value back: 200 40 40"_s);
+    QCOMPARE(menuOf(*Editors(tools).Command2, true), u"Put the saved value back: 200 40 40"_s);
     QCOMPARE(game->files(), before);
-    QCOMPARE(tools.Command2->BackColor(), QColor(200, 40, 40));
-    QCOMPARE(tools.Combo3->itemIcon(0).pixmap(11, 11).toImage().pixelColor(5, 5), QColor(200, 40, 40));
+    QCOMPARE(Editors(tools).Command2->BackColor(), QColor(200, 40, 40));
+    QCOMPARE(Editors(tools).Combo3->itemIcon(0).pixmap(11, 11).toImage().pixelColor(5, 5), QColor(200, 40, 40));
     QVERIFY(program->colors().contains(u"Red=200 40 40"_s) && !program->state.Changed);
     QVERIFY(program->status().startsWith(u"Kept in the working copy"));
   }
@@ -155,16 +155,16 @@ class SavedStateTest : public ProgramTest {
     QCOMPARE(menuOfRow(u"ColR"_s), u"(saved: 0.5)"_s);
     QCOMPARE(menuOfRow(u"New"_s), u"(saved: nothing)"_s);
     const QString told = u"differs from the saved state|W x H: '100 x 0' leaves no area"_s;
-    QCOMPARE(menuOf(*tools.List1->viewport(), true), u'(' + QString(told).replace(u"|"_s, u")|("_s) + u')');
-    QCOMPARE(menuOf(*tools.List1->viewport(), false), QString());  // of another object
+    QCOMPARE(menuOf(*tools.objects().viewport(), true), u'(' + QString(told).replace(u"|"_s, u")|("_s) + u')');
+    QCOMPARE(menuOf(*tools.objects().viewport(), false), QString());  // of another object
     const auto description = [](QWidget* list, int cell) {
       return QAccessible::queryAccessibleInterface(list)->child(cell)->text(QAccessible::Description);
     };
-    QCOMPARE(description(tools.List1, tools.List1->ListIndex()), QString(told).replace(u'|', u'\n'));
-    QCOMPARE(description(tools.List1, 0), QString());
+    QCOMPARE(description(&tools.objects(), tools.objects().ListIndex()), QString(told).replace(u'|', u'\n'));
+    QCOMPARE(description(&tools.objects(), 0), QString());
     const int header = 2;
-    QCOMPARE(description(tools.ListView1, header + 2 * 4), u"saved: 60"_s);
-    QCOMPARE(description(tools.ListView1, header + 2 * 3), QString());
+    QCOMPARE(description(&tools.values(), header + 2 * 4), u"saved: 60"_s);
+    QCOMPARE(description(&tools.values(), header + 2 * 3), QString());
   }
 
   /// A saved value that can't come back is no silent matter.
@@ -187,8 +187,8 @@ class SavedStateTest : public ProgramTest {
     // The same for a colour.
     program->soleRow(u"COLOR"_s, u"Red"_s);
     program->dialogs.colors = {QColor(1, 2, 3)};
-    program->tools().Command2->click();
-    QCOMPARE(menuOf(*program->tools().Command2, true, {}, block), u"Put the saved value back: 200 40 40"_s);
+    Editors(program->tools()).Command2->click();
+    QCOMPARE(menuOf(*Editors(program->tools()).Command2, true, {}, block), u"Put the saved value back: 200 40 40"_s);
     QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["_s), qPrintable(program->status()));
   }
 
@@ -197,14 +197,14 @@ class SavedStateTest : public ProgramTest {
     for (const auto& [scheme, name, color] : {std::tuple{u"Blue"_s, u"Red"_s, u"#c82828"_s},
                                               {u"Blue"_s, u"ColorDark"_s, u"#47aff7"_s},
                                               {u"Brown"_s, u"ColorDark"_s, u"#c07f1f"_s}}) {
-      program->form.Combo1->SetText(u"Red"_s);
+      program->form.schemes().SetText(u"Red"_s);
       program->soleRow(u"COLOR"_s, name);
-      program->form.Combo1->SetText(scheme);
-      QCOMPARE(tools.Command2->BackColor().name(), color);
-      const QIcon square = tools.Combo3->itemIcon(tools.Combo3->findText(name));
+      program->form.schemes().SetText(scheme);
+      QCOMPARE(Editors(tools).Command2->BackColor().name(), color);
+      const QIcon square = Editors(tools).Combo3->itemIcon(Editors(tools).Combo3->findText(name));
       QCOMPARE(square.pixmap(11, 11).toImage().pixelColor(5, 5).name(), color);
     }
-    const QListWidgetItem* row = tools.List1->findItems(u"LoadingStaticA"_s, Qt::MatchExactly).value(0);
+    const QListWidgetItem* row = tools.objects().findItems(u"LoadingStaticA"_s, Qt::MatchExactly).value(0);
     for (const char* height : {"60", "0", "60"}) {
       program->edit(u"H"_s, QLatin1StringView(height));
       QCOMPARE(row->data(Qt::ForegroundRole).isValid(), *height == '0');
@@ -214,13 +214,13 @@ class SavedStateTest : public ProgramTest {
   /// The last column takes what a wider window gives, and gives it back.
   void columns() {
     Form2& tools = program->tools();
-    const int told = tools.ListView1->columnWidth(1);
-    const int width = tools.ListView1->width();
+    const int told = tools.values().columnWidth(1);
+    const int width = tools.values().width();
     for (const int more : {0, 150, -20, 0}) {
       tools.resize(385 + more, tools.height());
       settle();
-      QCOMPARE(tools.ListView1->columnWidth(1), told + std::max(0, tools.ListView1->width() - width));
-      QCOMPARE(tools.ListView1->columnWidth(0), 63);
+      QCOMPARE(tools.values().columnWidth(1), told + std::max(0, tools.values().width() - width));
+      QCOMPARE(tools.values().columnWidth(0), 63);
     }
   }
 };

@@ -8,8 +8,7 @@
 #include "controls/look.h"
 #include "controls/native_dialogs.h"
 #include "drawing/graphics.h"
-#include "mainwindows/main_events.h"
-#include "mainwindows/main_window.h"
+#include "mainwindows/editor.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "session.h"
@@ -30,12 +29,12 @@ int main(int argc, char** argv) {
   themefiles::ModuleState state;
   controls::NativeDialogs dialogs;
   drawing::Graphics graphics;
-  const auto form = mainwindows::makeForm1({state, dialogs, graphics, {platform::programPath(configFolder.path())}});
+  mainwindows::Editor editor({state, dialogs, graphics, {platform::programPath(configFolder.path())}});
   try {
     const QString output = QDir(folders[1]).absolutePath();
     // The dialog for the game's program file opens there.
     QDir::setCurrent(folders[0]);
-    screenshots::Session(*form, output).run();
+    screenshots::Session(editor.form, output).run();
   } catch (const std::exception& failure) {
     std::fprintf(stderr, "cantorama-screenshots: %s\n", failure.what());
     return 2;

@@ -17,7 +17,6 @@
 #include "platform/paths.h"
 #include "toolbar/mc_toolbar.h"
 #include "toolwindow/tool_window.h"
-#include "toolwindow/value_grid.h"
 #include "waiting.h"
 
 namespace screenshots {
@@ -70,15 +69,20 @@ int rowOf(const List& list, const QString& text) {
 
 /// Picks the object and clicks the key's row in the grid.
 void openEditor(toolwindow::Form2& tools, const Row& wanted) {
-  tools.List1->SetListIndex(rowOf(*tools.List1, wanted.tag.toString()));
-  for (int row = 0; row < tools.ListView1->rowCount(); ++row) {
-    if (tools.ListView1->rowText(row) != wanted.key) continue;
-    tools.ListView1->selectRow(row);
-    toolwindow::ListView1_ItemClick(tools, row);
+  tools.objects().SetListIndex(rowOf(tools.objects(), wanted.tag.toString()));
+  for (int row = 0; row < tools.values().rowCount(); ++row) {
+    if (tools.values().rowText(row) != wanted.key) continue;
+    tools.values().selectRow(row);
+    Q_EMIT tools.values().ItemClick(row);
     settle();
     return;
   }
   throw platform::Failure(QStringLiteral("no key '%1'").arg(wanted.key));
+}
+
+/// A button of the tool window by its object name.
+QPushButton& button(const toolwindow::Form2& tools, const char* name) {
+  return *tools.findChild<QPushButton*>(QLatin1StringView(name));
 }
 
 void cancel(QDialog& dialog) {
@@ -132,7 +136,7 @@ void Session::run() {
 }
 
 void Session::openTheme() {
-  const auto open = [](QDialog& dialog) { dynamic_cast<mainwindows::Form3&>(dialog).Command1->click(); };
+  const auto open = [](QDialog& dialog) { dynamic_cast<mainwindows::Form3&>(dialog).openButton().click(); };
   dialogs_.run({{QStringLiteral("box-game-folder"), choosing(QDir::current().filePath(QStringLiteral("Vocora.exe")))},
                 {QStringLiteral("open-theme"), open}},
                [this] { Q_EMIT form_.ToolBar->Click(OpenButton); });
@@ -140,7 +144,7 @@ void Session::openTheme() {
 }
 
 void Session::showScreen(const QString& name) {
-  controls::ComboBox& screens = *form_.toolWindow()->Combo1;
+  controls::ComboBox& screens = form_.toolWindow()->screens();
   screens.SetListIndex(rowOf(screens, name));
   settle();
 }
@@ -149,7 +153,7 @@ void Session::showScreen(const QString& name) {
 void Session::showDrag() {
   constexpr QPoint From(200, 500);
   constexpr QPoint By(226, 18);
-  form_.toolWindow()->List1->SetListIndex(rowOf(*form_.toolWindow()->List1, DraggedTag.toString()));
+  form_.toolWindow()->objects().SetListIndex(rowOf(form_.toolWindow()->objects(), DraggedTag.toString()));
   mainwindows::Workspace& preview = *form_.Workspace;
   const auto send = [&preview](QEvent::Type type, const QPoint& place) {
     const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
@@ -160,7 +164,7 @@ void Session::showDrag() {
   send(QEvent::MouseMove, From + By);
   settle();
   save(form_, QStringLiteral("drag"));
-  Q_EMIT form_.settling();
+  form_.session().settle();
 }
 
 void Session::showEditors() {
@@ -173,25 +177,25 @@ void Session::showEditors() {
 void Session::showColorBoxes() {
   toolwindow::Form2& tools = *form_.toolWindow();
   openEditor(tools, ThemeColorRow);
-  const QString present = tools.Combo3->Text();
-  const auto add = [&tools] { tools.Command3->click(); };
-  dialogs_.run({{QStringLiteral("box-color-dialog"), cancel}}, [&tools] { tools.Command2->click(); });
+  const QString present = tools.findChild<controls::ComboBox*>(QStringLiteral("Combo3"))->Text();
+  const auto add = [&tools] { button(tools, "Command3").click(); };
+  dialogs_.run({{QStringLiteral("box-color-dialog"), cancel}}, [&tools] { button(tools, "Command2").click(); });
   dialogs_.run({{QStringLiteral("box-new-color"), entering(present)}, {QStringLiteral("box-color-exists"), accept}},
                add);
   dialogs_.run({{QString(), entering(QStringLiteral("a=b"))}, {QStringLiteral("box-name-unusable"), accept}}, add);
-  dialogs_.run({{QStringLiteral("box-delete-color"), cancel}}, [&tools] { tools.Command5->click(); });
+  dialogs_.run({{QStringLiteral("box-delete-color"), cancel}}, [&tools] { button(tools, "Command5").click(); });
 }
 
 void Session::showKeyBoxes() {
   toolwindow::Form2& tools = *form_.toolWindow();
   openEditor(tools, TextRow);
-  const QString present = tools.Combo5->Text();
+  const QString present = tools.findChild<controls::ComboBox*>(QStringLiteral("Combo5"))->Text();
   dialogs_.run({{QStringLiteral("box-new-textkey"), entering(present)}, {QStringLiteral("box-key-exists"), accept}},
-               [&tools] { tools.Command6->click(); });
-  dialogs_.run({{QStringLiteral("box-delete-key"), cancel}}, [&tools] { tools.Command7->click(); });
+               [&tools] { button(tools, "Command6").click(); });
+  dialogs_.run({{QStringLiteral("box-delete-key"), cancel}}, [&tools] { button(tools, "Command7").click(); });
   openEditor(tools, TextureRow);
-  dialogs_.run({{QStringLiteral("box-new-texturekey"), cancel}}, [&tools] { tools.Command8->click(); });
-  const auto changeImage = [&tools] { tools.Command4->click(); };
+  dialogs_.run({{QStringLiteral("box-new-texturekey"), cancel}}, [&tools] { button(tools, "Command8").click(); });
+  const auto changeImage = [&tools] { button(tools, "Command4").click(); };
   dialogs_.run({{QStringLiteral("box-image-dialog"), cancel}}, changeImage);
   const QString elsewhere =
       platform::nativePath(form_.services.state.paths.SkinDirectory + QStringLiteral("\\..\\Workbench\\plate.png"));
@@ -200,7 +204,7 @@ void Session::showKeyBoxes() {
 
 void Session::showCloseQuestion() {
   openEditor(*form_.toolWindow(), NumberRow);
-  form_.toolWindow()->Command1->click();
+  button(*form_.toolWindow(), "Command1").click();
   settle();
   dialogs_.run({{QStringLiteral("box-close"), cancel}}, [this] { Q_EMIT form_.ToolBar->Click(CloseButton); });
 }

@@ -1,0 +1,177 @@
+#include "editing/commit.h"
+
+#include "editing/reference_keys.h"
+#include "editing/reports.h"
+#include "platform/code_page.h"
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "themefiles/ini_access.h"
+#include "themefiles/mark_record.h"
+#include "themefiles/working_copies.h"
+
+namespace editing {
+namespace {
+
+using themefiles::EditorFrame;
+using themefiles::ThemePaths;
+
+/// Throws platform::Failure for a section that can't be written into.
+void checkSection(const QString& section) {
+  if (section.isEmpty()) throw platform::Failure(QStringLiteral("no object is selected"));
+  if (section.contains(u']') || section.startsWith(u'\t') || section.endsWith(u'\t')) {
+    throw platform::Failure(QStringLiteral("the section %1 can't be found again").arg(section));
+  }
+}
+
+QString assignment(const QString& key, const QString& value) {
+  return key + QStringLiteral(" = ") + value;
+}
+
+/// What is told of a key of the language or the skin: "words 'SONG' = Choose a song".
+QString contentAssignment(QString ThemePaths::*copy, const QString& name, const QString& content) {
+  const bool isWords = copy == &ThemePaths::LanguageFile;
+  return assignment((isWords ? QStringLiteral("words '") : QStringLiteral("texture '")) + name + u'\'', content);
+}
+
+void put(const Session& session, QString ThemePaths::*copy, const QString& section, const QString& key,
+         const QString& value) {
+  themefiles::putInCopy(session.state(), copy, section, key, value, session.status());
+}
+
+/// A row that is edited: the section and the key that it stands for.
+struct Target {
+  QString section;
+  QString key;   ///< its identity
+  QString name;  ///< as the row shows it
+};
+
+/// Writes a reference into the theme, and what it stands for into the file that has that. Adds to `told` which of both
+/// has changed.
+void writeReference(const Session& session, const Target& target, ReferenceKind kind, const Proposal& proposal,
+                    QStringList& told) {
+  const QString& name = *proposal.value;
+  const ReferenceFile file = fileOf(kind);
+  const themefiles::ThemePaths& paths = session.state().paths;
+  themefiles::checkLineText(proposal.content);
+  const bool renamed = themefiles::GetINI(target.section, target.key, QString(), paths.ThemeFile) != name;
+  QString content;
+  const bool read =
+      platform::guardedSilently([&] { content = themefiles::wholeValue(file.section, name, paths.*file.copy); });
+  const bool refilled = !read || content != proposal.content;
+  put(session, &ThemePaths::ThemeFile, target.section, target.key, name);
+  put(session, file.copy, file.section, name, proposal.content);
+  if (!refilled) return;
+  if (renamed) told += assignment(target.name, name);
+  told += contentAssignment(file.copy, name, proposal.content);
+}
+
+void write(const Session& session, const Target& target, EditorFrame frame, const Proposal& proposal,
+           QStringList& told) {
+  if (!proposal.value) throw platform::Failure(QStringLiteral("nothing is selected"));
+  const auto kind = referenceOf(frame);
+  if (kind) {
+    writeReference(session, target, *kind, proposal, told);
+  } else {
+    put(session, &ThemePaths::ThemeFile, target.section, target.key, *proposal.value);
+  }
+}
+
+/// Brings a value that was written into the row and into the record that the mark is drawn from.
+void show(Session& session, int row, const QString& key, const QString& value) {
+  Q_EMIT session.valueWritten(row, key, value);
+  themefiles::followCommit(session.state().CursorRect, key, value);
+}
+
+/// The steps of a commit behind its writes; `told` is what it has changed.
+void finish(Session& session, const QStringList& sections, const QString& told) {
+  session.state().Changed = true;
+  Q_EMIT session.changed();
+  session.status().showDone(told);
+  Q_EMIT session.drawWanted();
+  // If another object was picked during the drawing, it has its mark already.
+  if (sections.contains(session.section())) Q_EMIT session.markWanted(MarkReason::Committed);
+}
+
+QString toldOf(const QString& section, const QStringList& assignments) {
+  return section + QStringLiteral(": ") + assignments.join(QStringLiteral(", "));
+}
+
+/// Runs a commit. Returns whether it succeeded.
+bool run(Session& session, const std::function<void()>& steps) {
+  const auto scope = std::make_shared<platform::ReportScope>(session.status());
+  session.status().startAnew();
+  const bool done = platform::guarded(session.status(), WriteStep.toString(), steps);
+  Q_EMIT session.differencesDue();
+  Q_EMIT session.edited(scope);
+  return done;
+}
+
+/// A commit into a row. `write` gives the row's new value, none if it stays, and adds to `told` what has changed if
+/// that isn't the row's value.
+bool runInRow(Session& session, const EditedRow& row,
+              const std::function<std::optional<QString>(const Target& target, QStringList& told)>& write) {
+  return run(session, [&] {
+    if (row.number < 0) throw platform::Failure(QStringLiteral("no row is selected"));
+    const Target target{session.section(), themefiles::keyIdentity(row.key), platform::trimBlanks(row.key)};
+    checkSection(target.section);
+    QStringList told;
+    const auto value = write(target, told);
+    if (value) show(session, row.number, target.key, *value);
+    if (told.isEmpty()) told += assignment(target.name, value.value_or(row.value));
+    finish(session, {target.section}, toldOf(target.section, told));
+  });
+}
+
+}  // namespace
+
+bool commitRow(Session& session, const EditedRow& row, const std::function<Proposal(EditorFrame)>& editor) {
+  return runInRow(session, row, [&](const Target& target, QStringList& told) -> std::optional<QString> {
+    const auto group = themefiles::groupOf(target.key);
+    if (!group) return std::nullopt;
+    if (row.value.size() > LongestValue) throw platform::Failure(tooLongText(row.key));
+    const EditorFrame frame = themefiles::rowOf(*group).frame;
+    const Proposal proposal = editor(frame);
+    write(session, target, frame, proposal, told);
+    return proposal.value;
+  });
+}
+
+bool putSavedBack(Session& session, const EditedRow& row, const SavedValue& saved) {
+  return runInRow(session, row, [&](const Target& target, QStringList& told) {
+    putLinesBack(session.state(), saved, session.status());
+    for (const SavedLine& line : saved.lines) {
+      const bool isReferred = line.copy != &ThemePaths::ThemeFile;
+      const QString value = platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1));
+      told += isReferred ? contentAssignment(line.copy, line.key, value) : assignment(target.name, saved.value);
+    }
+    return std::optional(saved.value);
+  });
+}
+
+bool commitValues(Session& session, const std::vector<renderer::TrialValues>& objects) {
+  bool written = false;
+  run(session, [&] {
+    std::vector<themefiles::KeyValue> all;
+    QStringList sections;
+    QStringList told;
+    for (const auto& [section, values] : objects) {
+      checkSection(section);
+      QStringList assignments;
+      for (const auto& [key, value] : values) {
+        all.push_back({section, themefiles::keyIdentity(key), value});
+        assignments += assignment(key, value);
+      }
+      sections += section;
+      told += toldOf(section, assignments);
+    }
+    themefiles::putValuesInCopy(session.state(), &ThemePaths::ThemeFile, all, session.status());
+    written = true;
+    for (const auto& [section, key, value] : all) {
+      if (section == session.section()) show(session, -1, key, value);
+    }
+    finish(session, sections, told.join(QStringLiteral("; ")));
+  });
+  return written;
+}
+
+}  // namespace editing

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "mainwindows/command.h"
+#include "mainwindows/main_window.h"
+#include "mainwindows/picture_watch.h"
+#include "mainwindows/preview_hand.h"
+#include "mainwindows/screen_refresh.h"
+
+namespace mainwindows {
+
+/// The whole editor: the main window with all that works on it, and their events.
+class Editor {
+ public:
+  /// The window isn't shown yet.
+  explicit Editor(const MainServices& services);
+  Q_DISABLE_COPY_MOVE(Editor)
+
+  Form1 form;
+
+ private:
+  void connectQueue();
+  void connectCommands();
+  void connectLists();
+  void connectPreview();
+  void connectSession();
+  void run(const CommandRow& row);
+  void end();
+
+  PreviewHand hand_{form};
+  PictureWatch watch_{form, hand_};
+  ScreenRefresh refresh_{form};
+  const CommandTargets targets_{form, refresh_};
+};
+
+}  // namespace mainwindows

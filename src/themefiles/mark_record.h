@@ -1,0 +1,34 @@
+#pragma once
+
+#include <array>
+
+#include <QString>
+#include <QStringView>
+
+#include "themefiles/module_state.h"
+
+/// The keys of a section that its mark is placed by, and their fields of the state's CursorRect.
+namespace themefiles {
+
+struct MarkKey {
+  QStringView key;                              ///< in upper case
+  QString CursorRecord::*measure = nullptr;     ///< a field that has the value as it is in the file
+  qint16 CursorRecord::*roundedSize = nullptr;  ///< or one that has its number
+};
+
+inline constexpr auto MarkKeys = std::to_array<MarkKey>({
+    {.key = u"X", .measure = &CursorRecord::X},
+    {.key = u"Y", .measure = &CursorRecord::Y},
+    {.key = u"W", .measure = &CursorRecord::W},
+    {.key = u"H", .measure = &CursorRecord::H},
+    {.key = u"SIZE", .roundedSize = &CursorRecord::Size},
+});
+
+/// The row of a key; null for any other key.
+const MarkKey* markKeyOf(QStringView key);
+
+/// Brings the record up to a committed value, as a number. A value that is none stays as it is, for the placing of the
+/// mark to report; a size that doesn't fit changes nothing.
+void followCommit(CursorRecord& record, const QString& key, const QString& value);
+
+}  // namespace themefiles
