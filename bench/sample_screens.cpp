@@ -7,6 +7,7 @@
 #include <QDir>
 
 #include "drawing/pictures.h"
+#include "file_readings.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
@@ -62,6 +63,10 @@ void SampleScreen::draw() {
 void SampleScreen::redraw() {
   renderer::RenderContext all = context(&store_);
   renderer::DrawScreen(all);
+}
+
+std::vector<QString> SampleScreen::readings() {
+  return readingsOf({state_.paths.ThemeFile, state_.paths.SkinFile, state_.paths.LanguageFile}, [this] { redraw(); });
 }
 
 void SampleScreen::runForGap() {

@@ -40,6 +40,8 @@ class SampleScreen {
   void draw();
   /// Draws with the pictures kept from the times before.
   void redraw();
+  /// The theme's files as a drawing with kept pictures reads them, each as often as it does.
+  std::vector<QString> readings();
   /// Chooses and draws once more, with an eye on the time between two yields.
   void runForGap();
   /// The longest of these times so far, in milliseconds.
