@@ -167,10 +167,9 @@ bool PreviewHand::pick(const QPoint& place) {
 }
 
 void PreviewHand::move(const QMouseEvent& event) {
-  const bool down = (event.buttons() & Qt::LeftButton) != 0;
   const bool byMouse = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
   if (!byMouse) return hover(pixelOf(event), event.buttons() == Qt::NoButton);
-  if (!down) return giveUp();
+  if ((event.buttons() & Qt::LeftButton) == 0) return giveUp();
   mouse_ = pixelOf(event);
   const QPoint way = mouse_ - pressed_;
   if (stage_ == Stage::Pressed) {

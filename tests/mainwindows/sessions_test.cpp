@@ -62,8 +62,8 @@ class SessionsTest : public QObject {
     program->dialogs.boxes = {BoxAnswer::Yes};
     d.step(u"Open Beta, Yes"_s, [&] {
       program->openDialog([](Form3& dialog) {
-        dialog.List1->SetListIndex(1);
-        dialog.Command1->click();
+        dialog.themes().SetListIndex(1);
+        dialog.openButton().click();
       });
     });
     d.screen(u"Main Screen"_s);
@@ -146,8 +146,8 @@ class SessionsTest : public QObject {
     d.choose("Combo4", 1);
     d.press("Command1");
     d.step(u"another scheme"_s, [&] {
-      program->form.Combo1->setFocus();
-      QTest::keyClick(program->form.Combo1, Qt::Key_Down);
+      program->form.schemes().setFocus();
+      QTest::keyClick(&program->form.schemes(), Qt::Key_Down);
     });
     d.tag(u"LoadingButtonGo"_s);
     d.row(u"DColor"_s);
@@ -155,8 +155,8 @@ class SessionsTest : public QObject {
     program->dialogs.colors = {QColor(1, 2, 3)};
     d.row(u"Color"_s);
     d.step(u"button 2"_s, [&] {
-      program->form.Combo2->setFocus();
-      QTest::keyClick(program->form.Combo2, Qt::Key_Down);
+      program->form.buttons().setFocus();
+      QTest::keyClick(&program->form.buttons(), Qt::Key_Down);
     });
   }
 
