@@ -15,6 +15,17 @@ bool endsName(const char* at, const char* fileEnd) {
   return at == fileEnd || *at == ']' || isLineEnd(*at);
 }
 
+/// The start of the next section's line, or the file's end.
+const char* sectionEnd(const char* section, const char* fileEnd) {
+  for (const char* at = section; at != fileEnd;) {
+    const auto* const bracket = static_cast<const char*>(std::memchr(at, '[', fileEnd - at));
+    if (!bracket) break;
+    if (const char* const head = lineHeadedBy(bracket, section)) return head;
+    at = bracket + 1;
+  }
+  return fileEnd;
+}
+
 }  // namespace
 
 QByteArrayView trimmed(QByteArrayView text) {
@@ -92,10 +103,28 @@ std::optional<KeyLine> KeyLines::next() {
   return std::nullopt;
 }
 
+/// Goes from "=" to "=": the letter in front of one rules out most lines.
 std::optional<KeyLine> KeyLines::find(QByteArrayView key) {
-  auto line = next();
-  while (line && !sameName(line->key, key)) line = next();
-  return line;
+  const bool isNoKey = std::any_of(key.begin(), key.end(), [](char c) { return c == '=' || isLineEnd(c); });
+  if (key.isEmpty() || isNoKey || endsInTab(key) || key.front() == ';' || key.front() == '[') return std::nullopt;
+  const char last = upperCaseByte(key.back());
+  const char* const end = sectionEnd(at_, end_);
+  for (const char* at = at_; at != end;) {
+    const auto* const sign = static_cast<const char*>(std::memchr(at, '=', end - at));
+    if (!sign) return std::nullopt;
+    at = sign + 1;
+    const char* keyEnd = sign;
+    while (keyEnd != at_ && isBlank(keyEnd[-1])) --keyEnd;
+    if (keyEnd - at_ < key.size() || upperCaseByte(keyEnd[-1]) != last) continue;
+    const QByteArrayView found(keyEnd - key.size(), keyEnd);
+    if (!sameName(found, key)) continue;
+    const char* const begin = lineHeadedBy(found.begin(), at_);
+    if (!begin) continue;
+    const char* const textEnd = lineTextEnd(at, end_);
+    at_ = nextLine(textEnd, end_);
+    return KeyLine{found, begin, sign + 1, textEnd, at_};
+  }
+  return std::nullopt;
 }
 
 QByteArrayView trimmedValue(const KeyLine& line) {
