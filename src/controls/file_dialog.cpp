@@ -40,9 +40,16 @@ void FileDialog::accept() {
   if (line != nullptr && list != nullptr) {
     const QFileInfo typed(line->text());
     // While the path was typed, the toolkit has selected the folders on the way, and would open one of them.
-    if (typed.isAbsolute() && typed.isFile()) list->selectionModel()->clearSelection();
+    if (typed.isAbsolute() && typed.isFile()) {
+      typed_ = typed.filePath();
+      return QDialog::accept();
+    }
   }
   QFileDialog::accept();
+}
+
+QString FileDialog::chosenFile() const {
+  return typed_.isEmpty() ? selectedFiles().value(0) : typed_;
 }
 
 }  // namespace controls

@@ -11,11 +11,16 @@ class FileDialog : public QFileDialog {
  public:
   FileDialog(QWidget* parent, const QString& title);
 
+  /// The file that was chosen, as the system names it; empty before that.
+  QString chosenFile() const;
+
  protected:
   void accept() override;
 
  private:
   void bringSelectionIntoSight() const;
+
+  QString typed_;
 };
 
 }  // namespace controls

@@ -70,8 +70,8 @@ QString NativeDialogs::openFile(QWidget* parent, const platform::FileRequest& re
   if (!request.fileName.isEmpty()) dialog.selectFile(proposedFile(request));
   fitScreen(dialog);
   if (runModal(dialog) != QDialog::Accepted) return {};
-  const QStringList files = dialog.selectedFiles();
-  return files.isEmpty() ? QString() : platform::programPath(files.first());
+  const QString file = dialog.chosenFile();
+  return file.isEmpty() ? QString() : platform::programPath(file);
 }
 
 std::optional<QColor> NativeDialogs::chooseColor(QWidget* parent, const QColor& present) {
