@@ -45,7 +45,7 @@ struct Look {
 /// Draws the object's texture and enters the outcome in the account.
 void drawObject(RenderContext& context, const ObjectSection& section, const PictureFile& file, const Box& box,
                 const Look& look) {
-  if (context.textsOnly) return;
+  if (context.parts == Parts::Texts) return;
   const QString colorName = section.Value(look.colorKey);
   const QString color = themefiles::ResolveColor(context.state, colorName, context.host.schemeName());
   const float intensity =
@@ -58,8 +58,10 @@ void drawObject(RenderContext& context, const ObjectSection& section, const Pict
       break;
     case TextureOutcome::NoSession:
       break;
+    case TextureOutcome::Unread:
     case TextureOutcome::NoPicture:
-      leaveOut(context, section.Name(), Reason::NoPicture, QStringLiteral("Tex"), file.path.section(u'\\', -1));
+      leaveOut(context, section.Name(), result.outcome == TextureOutcome::Unread ? Reason::Unread : Reason::NoPicture,
+               QStringLiteral("Tex"), file.path.section(u'\\', -1));
       break;
     case TextureOutcome::NoColor:
       leaveOut(context, section.Name(), Reason::UnknownColor, look.colorKey, colorName);
@@ -67,10 +69,10 @@ void drawObject(RenderContext& context, const ObjectSection& section, const Pict
     case TextureOutcome::ColorRange:
       leaveOut(context, section.Name(), Reason::ColorRange,
                look.intensityKey.isEmpty() ? look.colorKey : look.intensityKey,
-               look.intensityKey.isEmpty() ? color : platform::numberText(intensity));
+               look.intensityKey.isEmpty() ? color : section.Value(look.intensityKey));
       break;
     case TextureOutcome::NoArea:
-      leaveOut(context, section.Name(), Reason::NoArea, QStringLiteral("W x H"),
+      leaveOut(context, section.Name(), Reason::NoArea, QStringLiteral("W x ") + look.heightKey,
                QStringLiteral("%1 x %2").arg(QString::number(box.W), QString::number(box.H)));
       break;
   }
@@ -93,9 +95,12 @@ bool countButton(themefiles::ModuleState& state) {
 void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, int count, int& textShift) {
   for (int number = 1; number <= count; ++number) {
     const ObjectSection child(context, tag + QStringLiteral("TEXT") + QString::number(number));
-    if (!child.Value(QStringLiteral("X")).isEmpty()) {
+    const QString x = QStringLiteral("X");
+    if (!child.Value(x).isEmpty()) {
       DrawTextObject(context, child, box.X, box.Y + textShift, tag);
       textShift = 0;
+    } else if (child.isThere()) {
+      leaveOut(context, child.Name(), Reason::NoPlace, x, {});
     }
     if (number % ChildrenBetweenYields == 0) context.host.yield();
   }
@@ -111,8 +116,9 @@ std::optional<Reason> drawButton(RenderContext& context, const QString& tag, int
     return Reason::HiddenWithButton;
   }
   const bool selected = countButton(context.state);
-  const PictureFile file = texturePath(context, section);
-  if (file.path.isEmpty()) return Reason::WithButton;
+  const bool hasPicture = context.parts != Parts::Texts;
+  const PictureFile file = hasPicture ? texturePath(context, section) : PictureFile();
+  if (hasPicture && file.path.isEmpty()) return Reason::WithButton;
   auto box = themeBox(context, section, screenStep());
   if (!box) return Reason::WithButton;
   Look look{QStringLiteral("DColor"), QStringLiteral("DINT")};
@@ -130,7 +136,7 @@ std::optional<Reason> drawButton(RenderContext& context, const QString& tag, int
   drawObject(context, section, file, *box, look);
   const auto texts = themeInt16(context, section, QStringLiteral("TEXTS"), screenStep());
   if (!texts) return Reason::WithButton;
-  drawChildTexts(context, tag, *box, *texts, textShift);
+  if (context.parts != Parts::Pictures) drawChildTexts(context, tag, *box, *texts, textShift);
   showObject(context);
   return std::nullopt;
 }
@@ -152,6 +158,15 @@ bool isDrawnElsewhere(const QString& tag, const QString& stem) {
 }
 
 }  // namespace
+
+bool isStatic(const QString& tag) {
+  return holdsAny(platform::upperCase(tag), StaticWords);
+}
+
+bool isFreeText(const QString& tag) {
+  const QString upper = platform::upperCase(tag);
+  return upper.contains(u"TEXT") && !holdsAny(upper, {u"BUTTON", u"NAME", u"TEXTURES"});
+}
 
 bool isButton(const QString& tag) {
   const QString upper = platform::upperCase(tag);
@@ -179,7 +194,7 @@ void DrawBackground(RenderContext& context, const QString& stem) {
   }
   if (prepared.missing || prepared.picture.hasAlphaChannel()) wipe();  // else it covers all
   if (prepared.missing) {
-    leaveOut(context, section, Reason::NoPicture, QStringLiteral("Tex"), file.path.section(u'\\', -1));
+    leaveOut(context, section, *prepared.missing, QStringLiteral("Tex"), file.path.section(u'\\', -1));
     return;
   }
   context.Workspace.drawImage(prepared.picture, 0, 0);
@@ -189,7 +204,7 @@ void DrawBackground(RenderContext& context, const QString& stem) {
 void DrawStatics(RenderContext& context) {
   for (int row = 0; row < context.tags.ListCount(); ++row) {
     const QString tag = context.tags.List(row);
-    if (!holdsAny(platform::upperCase(tag), StaticWords)) continue;
+    if (!isStatic(tag)) continue;
     const ObjectSection section(context, tag);
     const PictureFile file = texturePath(context, section);
     if (file.path.isEmpty()) continue;
@@ -203,9 +218,7 @@ void DrawStatics(RenderContext& context) {
 void DrawTexts(RenderContext& context) {
   for (int row = 0; row < context.tags.ListCount(); ++row) {
     const QString tag = context.tags.List(row);
-    const QString upper = platform::upperCase(tag);
-    if (holdsAny(upper, {u"BUTTON", u"NAME", u"TEXTURES"}) || !upper.contains(u"TEXT")) continue;
-    DrawTextObject(context, ObjectSection(context, tag), 0, 0, {});
+    if (isFreeText(tag)) DrawTextObject(context, ObjectSection(context, tag), 0, 0, {});
   }
 }
 

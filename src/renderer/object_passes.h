@@ -5,7 +5,9 @@
 /// The passes of a render. Words anywhere in a tag's name, in any case, tell which pass it belongs to.
 namespace renderer {
 
-/// Whether the tag is that of a button.
+/// Whether the tag is that of a static, a free text or a button. One may be both a static and another.
+bool isStatic(const QString& tag);
+bool isFreeText(const QString& tag);
 bool isButton(const QString& tag);
 
 /// The button to which a child text belongs by its name, as "MainButton" for "MainButtonText1"; empty for other tags.

@@ -25,6 +25,8 @@ class ObjectSection {
   QString Value(const QString& key, const QString& defaultValue = QString()) const;
   /// The number of a key; 0 without the key.
   double number(const QString& key) const;
+  /// Whether the theme has the section.
+  bool isThere() const { return reader_.isThere(); }
   /// Whether values of the object are on trial.
   bool inHand() const { return trial_ != nullptr; }
 

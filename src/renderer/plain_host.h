@@ -54,6 +54,7 @@ class PlainHost : public RenderHost {
   void setButtonListVisible(bool /*visible*/) override {}
   QString screenName() const override { return screen_; }
   QString schemeName() const override { return scheme_; }
+  void setScheme(const QString& scheme) { scheme_ = scheme; }
 
  private:
   QString screen_;

@@ -6,12 +6,25 @@
 #include "drawing/fitted_picture.h"
 #include "drawing/pictures.h"
 #include "drawing/surface.h"
+#include "platform/failure.h"
+#include "platform/files.h"
 
 namespace renderer {
+namespace {
+
+bool isReadable(const QString& path) {
+  try {
+    return static_cast<bool>(platform::openFile(path).head(1));
+  } catch (const platform::Failure&) {
+    return false;
+  }
+}
+
+}  // namespace
 
 PreparedPictures::Source PreparedPictures::sourceOf(const PictureRequest& request) {
   QImage picture = drawing::LoadPicture(request.path);
-  if (picture.isNull()) return {Reason::NoPicture, {}};
+  if (picture.isNull()) return {isReadable(request.path) ? Reason::NoPicture : Reason::Unread, {}};
   const Recoloring& recoloring = request.recoloring;
   if (recoloring.type == Recoloring::Type::Colorized) colorize(picture, recoloring.color);
   if (recoloring.type == Recoloring::Type::FontBlack && !recolorFont(picture, recoloring.color, recoloring.intensity)) {

@@ -32,7 +32,7 @@ struct PictureRequest {
 
 /// A picture ready to be blended on the surface at `corner`, or the reason why there is none.
 struct PreparedPicture {
-  std::optional<Reason> missing;  ///< NoPicture or ColorRange
+  std::optional<Reason> missing;  ///< Unread, NoPicture or ColorRange
   QSize ownSize;
   QPoint corner;
   QImage picture;  ///< null if nothing of it shows

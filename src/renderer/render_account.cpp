@@ -1,5 +1,6 @@
 #include "renderer/render_account.h"
 
+#include <algorithm>
 #include <array>
 
 #include <QStringView>
@@ -19,6 +20,7 @@ constexpr auto Wordings = std::to_array<Wording>({
     {Reason::NoTexture, u"texture '%1' has no entry in the skin"},
     {Reason::NoFile, u"no file '%1'"},
     {Reason::Unseen, u"file '%1' can't be looked at"},
+    {Reason::Unread, u"file '%1' can't be read"},
     {Reason::NoPicture, u"'%1' is no picture"},
     {Reason::UnknownColor, u"%2: colour '%1' is in no table"},
     {Reason::ColorRange, u"%2: '%1' brings the colour out of its range"},
@@ -26,10 +28,22 @@ constexpr auto Wordings = std::to_array<Wording>({
     {Reason::NoArea, u"%2: '%1' leaves no area"},
     {Reason::Hidden, u"hidden: %2 is %1"},
     {Reason::NoSize, u"%2: '%1' is no size of a text"},
+    {Reason::NoPlace, u"%2: the text of a button isn't drawn without it"},
     {Reason::HiddenWithButton, u"hidden with its button '%1'"},
     {Reason::WithButton, u"left out with its button '%1'"},
 });
 static_assert(platform::inOrder(Wordings, &Wording::reason, Reason::WithButton));
+constexpr QStringView KeyHead = u"%2: ";
+
+QStringView wordingOf(Reason reason) {
+  const auto* const row =
+      std::find_if(Wordings.begin(), Wordings.end(), [&](const Wording& wording) { return wording.reason == reason; });
+  return row == Wordings.end() ? QStringView() : row->text;
+}
+
+QString filled(QStringView wording, const LeftOut& entry) {
+  return wording.toString().replace(QLatin1String("%2"), entry.key).replace(QLatin1String("%1"), entry.value);
+}
 
 }  // namespace
 
@@ -40,8 +54,12 @@ QSet<QString> drawnSections(const RenderAccount& account) {
 }
 
 QString reasonText(const LeftOut& entry) {
-  QString text = Wordings.at(static_cast<size_t>(entry.why)).text.toString();
-  return text.replace(QLatin1String("%2"), entry.key).replace(QLatin1String("%1"), entry.value);
+  return filled(wordingOf(entry.why), entry);
+}
+
+QString reasonWithoutKey(const LeftOut& entry) {
+  const QStringView wording = wordingOf(entry.why);
+  return filled(wording.startsWith(KeyHead) ? wording.sliced(KeyHead.size()) : wording, entry);
 }
 
 }  // namespace renderer

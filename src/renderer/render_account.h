@@ -18,6 +18,7 @@ enum class Reason {
   NoTexture,         ///< the texture has no entry in the skin
   NoFile,            ///< the entry names no file
   Unseen,            ///< whether that file is there can't be seen
+  Unread,            ///< the file can't be read
   NoPicture,         ///< the file can't be decoded
   UnknownColor,      ///< the colour is in no table
   ColorRange,        ///< a channel leaves 0 to 255 under the intensity
@@ -25,6 +26,7 @@ enum class Reason {
   NoArea,            ///< width or height is 0 or negative
   Hidden,            ///< Visible is 0
   NoSize,            ///< a text whose size is 0 or below
+  NoPlace,           ///< the text of a button that has no X
   HiddenWithButton,  ///< the text of a hidden button
   WithButton,        ///< the text of a button that is left out for another reason
 };
@@ -58,7 +60,10 @@ struct RenderAccount {
 /// The sections that were drawn, the background's among them, in upper case.
 QSet<QString> drawnSections(const RenderAccount& account);
 
-/// The reason in words: "no file 'x.png'".
+/// The reason in words: "Size: '0' is no size of a text".
 QString reasonText(const LeftOut& entry);
+
+/// The same without the name of the key at its head.
+QString reasonWithoutKey(const LeftOut& entry);
 
 }  // namespace renderer

@@ -13,6 +13,9 @@
 
 namespace renderer {
 
+/// What the passes draw, and enter in the account. Texts look for no picture: the texts of a button don't wait for its.
+enum class Parts { All, Pictures, Texts };
+
 /// Everything that a render needs.
 struct RenderContext {
   themefiles::ModuleState& state;
@@ -26,7 +29,7 @@ struct RenderContext {
   PreparedPictures* pictures = nullptr;  ///< the cache; null for none
   TrialFrame* trial = nullptr;           ///< the values on trial; null for none
   QString notMissed = {};                ///< a section drawn once more that isn't entered as left out
-  bool textsOnly = false;                ///< skips the pictures of statics and buttons, in the account as well
+  Parts parts = Parts::All;
 };
 
 /// Advances the progress bar by `step` per cent and yields.

@@ -51,6 +51,7 @@ TextureResult draw(RenderContext& context, const Texture& texture) {
   if (!recoloring) return {TextureOutcome::NoColor, {}};
   const PictureRequest request = requestOf(texture, *recoloring);
   const PreparedPicture prepared = prepare(context.pictures, request, texture.inHand);
+  if (prepared.missing == Reason::Unread) return {TextureOutcome::Unread, {}};
   if (prepared.missing == Reason::NoPicture) return {TextureOutcome::NoPicture, {}};
   if (prepared.missing) return {TextureOutcome::ColorRange, {}};
   if (!context.graphics.created()) return {TextureOutcome::NoSession, {}};

@@ -19,7 +19,7 @@ struct Texture {
   bool inHand = false;  ///< its size may change with each frame
 };
 
-enum class TextureOutcome { Drawn, NoSession, NoPicture, NoColor, ColorRange, NoArea };
+enum class TextureOutcome { Drawn, NoSession, Unread, NoPicture, NoColor, ColorRange, NoArea };
 
 /// The outcome of DrawTexture, and the rectangle that it drew.
 struct TextureResult {

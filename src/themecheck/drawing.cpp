@@ -1,168 +1,249 @@
+#include "themecheck/drawing.h"
+
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include <QRect>
-#include <QSet>
 
 #include "platform/code_page.h"
 #include "renderer/chosen_screen.h"
 #include "renderer/object_passes.h"
-#include "renderer/prepared_pictures.h"
-#include "themecheck/checked_theme.h"
+#include "renderer/plain_host.h"
 #include "themefiles/colour_tables.h"
-#include "themefiles/ini_access.h"
 #include "themefiles/screen_table.h"
-#include "themefiles/theme_paths.h"
 
 namespace themecheck {
 namespace {
 
+using renderer::Reason;
+
 constexpr QRect Shown(0, 0, drawing::Surface::Width, drawing::Surface::Height);
 
-/// A screen of a theme with one skin, drawn pass by pass as a render does. The account of each pass is examined.
+/// What a reason makes in the check, and whether it depends on the skin. The texts of a button that is left out share
+/// its cause, which is told of the button.
+struct ReasonRow {
+  Reason reason;
+  Kind kind;
+  bool ofSkin = false;
+};
+
+constexpr auto Reasons = std::to_array<ReasonRow>({
+    {Reason::NoTexture, Kind::NameLeftOut, true},
+    {Reason::NoFile, Kind::NameLeftOut, true},
+    {Reason::Unseen, Kind::NameLeftOut, true},
+    {Reason::Unread, Kind::NameLeftOut, true},
+    {Reason::NoPicture, Kind::NameLeftOut, true},
+    {Reason::UnknownColor, Kind::NameLeftOut},
+    {Reason::ColorRange, Kind::LeftOut, true},
+    {Reason::NumberTooLarge, Kind::LeftOut},
+    {Reason::NoArea, Kind::LeftOut},
+    {Reason::Hidden, Kind::Hidden},
+    {Reason::NoSize, Kind::LeftOut},
+    {Reason::NoPlace, Kind::NoPlace},
+});
+
+/// Chooses a screen, unless that was done before.
+const DrawingTools::Screen& chosenScreen(const CheckedTheme& theme, const QString& name, DrawingTools& tools) {
+  const auto [place, isNew] = tools.screens.try_emplace(name);
+  if (!isNew) return place->second;
+  HeardReports reports;
+  const renderer::ChosenScreen screen(openState(theme, {}, {}), name, {}, reports);
+  place->second = {screen.tags.rows(), screen.workspace.pen()};
+  return place->second;
+}
+
+/// A screen with a skin or in a language, drawn part by part, and the findings in what the renderer tells of each.
 class ScreenCheck {
  public:
-  ScreenCheck(const CheckedTheme& theme, const themefiles::ModuleState& state, const themefiles::ScreenRow& screen,
-              QString skin, renderer::PreparedPictures& pictures, Findings& findings)
+  ScreenCheck(const CheckedTheme& theme, const QString& screen, Setting setting, renderer::Parts parts,
+              DrawingTools& tools, Findings& findings)
       : theme_(theme),
-        skin_(std::move(skin)),
+        setting_(std::move(setting)),
+        parts_(parts),
+        tags_(chosenScreen(theme, screen, tools).tags),
+        tools_(tools),
         findings_(findings),
-        chosen_(state, screen.Name, themefiles::schemeNames(state).value(0), reports_) {
-    chosen_.pictures = &pictures;
+        frame_(tools.noValues, tools.files),
+        state_(openState(theme, setting_.skin, setting_.language)),
+        host_(screen, themefiles::schemeNames(theme.state).value(0)) {
+    tools.surface.setPen(chosenScreen(theme, screen, tools).pen);
   }
 
-  void run();
+  void drawPictures();
+  void drawTexts();
 
  private:
   using Pass = void (*)(renderer::RenderContext&);
 
-  void draw(renderer::RenderContext context, Pass pass);
-  void drawWords(const QString& language);
-  void selectInTurn();
+  void drawInSchemes(QStringList buttons);
+  void drawButtons(const QStringList& buttons, int selected);
+  void draw(const QStringList& tags, Pass pass);
+  QStringList visibleButtons() const;
   void tellMissing(const renderer::LeftOut& entry);
-  bool isUnseen(const renderer::DrawnObject& object, bool isText) const;
+  Place placeOf(const renderer::LeftOut& entry) const;
+  bool isToldElsewhere(const renderer::LeftOut& entry, const IniSection& section) const;
+  bool isUnseen(const renderer::DrawnObject& object) const;
 
   const CheckedTheme& theme_;
-  QString skin_;
-  QString language_;
-  bool picturesDrawn_ = false;
+  Setting setting_;
+  renderer::Parts parts_;
+  const QStringList& tags_;
+  DrawingTools& tools_;
   Findings& findings_;
-  HeardReports reports_;  // dropped: the accounts have the same
-  renderer::ChosenScreen chosen_;
+  renderer::TrialFrame frame_;
+  themefiles::ModuleState state_;
+  renderer::PlainHost host_;
+  renderer::RenderAccount account_;
+  HeardReports reports_;  // dropped: the account has the same
+  renderer::NoDialogs dialogs_{reports_};
+  drawing::Graphics graphics_;
 };
 
-void drawGround(renderer::RenderContext& context) {
+void drawBackgroundAndStatics(renderer::RenderContext& context) {
   renderer::DrawBackground(context, themefiles::stemOf(context.state, context.host.screenName()));
   renderer::DrawStatics(context);
 }
 
-/// Draws everything, with the first button selected.
-void drawButtons(renderer::RenderContext& context) {
-  context.state.SelectedButton = 1;
-  context.state.ButtonCount = 0;
-  renderer::DrawButtons(context);
+/// The buttons that can be selected: those that are shown and counted.
+QStringList ScreenCheck::visibleButtons() const {
+  QStringList buttons = tags_;
+  buttons.removeIf([&](const QString& tag) {
+    const IniSection* section = theme_.theme().find(tag);
+    return !renderer::isButton(tag) || (section && section->value(QStringLiteral("Visible")) == u"0");
+  });
+  buttons.resize(std::min<qsizetype>(buttons.size(), state_.ButtonCount));
+  return buttons;
 }
 
-void ScreenCheck::run() {
-  draw(chosen_.context(), drawGround);
-  const drawing::Pen pen = chosen_.workspace.pen();
-  // Without a language the keys of the words are drawn.
-  const QStringList none{QString()};
-  for (const QString& language : theme_.languageNames.isEmpty() ? none : theme_.languageNames) {
-    chosen_.workspace.setPen(pen);
-    drawWords(language);
-    picturesDrawn_ = true;
+void ScreenCheck::drawPictures() {
+  draw(tags_, drawBackgroundAndStatics);
+  drawButtons(tags_, 0);
+  const QStringList buttons = visibleButtons();
+  for (const QString& button : buttons) drawButtons({button}, 1);
+  drawInSchemes(buttons);
+}
+
+/// Only an intensity can make the colour of one scheme another fault than that of the first.
+void ScreenCheck::drawInSchemes(QStringList buttons) {
+  buttons.removeIf([&](const QString& tag) {
+    const IniSection* section = theme_.theme().find(tag);
+    const auto isOfScheme = [&](const QString& key) {
+      return themefiles::programColorNames().contains(section->value(key), Qt::CaseInsensitive);
+    };
+    return !section || !platform::sameName(section->value(QStringLiteral("Type")), u"FONT BLACK") ||
+           (!isOfScheme(QStringLiteral("Color")) && !isOfScheme(QStringLiteral("DColor")));
+  });
+  if (buttons.isEmpty()) return;
+  for (const QString& scheme : themefiles::schemeNames(state_)) {
+    host_.setScheme(scheme);
+    setting_.scheme = scheme;
+    drawButtons(buttons, 0);
+    for (const QString& button : buttons) drawButtons({button}, 1);
   }
 }
 
-/// A language changes only words: pictures are drawn for one language, texts for each.
-void ScreenCheck::drawWords(const QString& language) {
-  language_ = language;
-  chosen_.state.paths.LanguageFile =
-      themefiles::pathsOf(theme_.gameFolder, theme_.theme.name(), skin_, language).LanguageFile;
-  draw(chosen_.context(), renderer::DrawTexts);
-  draw(chosen_.context(), drawButtons);
-  selectInTurn();
-}
-
-/// Draws each other button as the selected one. Only that button looks different, so it is drawn alone. If it has no
-/// text of its own, its growth moves the texts of the next button that has some, which is drawn, too.
-void ScreenCheck::selectInTurn() {
-  QSet<QString> hidden;
-  for (const renderer::LeftOut& entry : chosen_.account.missing) {
-    if (entry.why == renderer::Reason::Hidden) hidden += entry.section;
-  }
+void ScreenCheck::drawTexts() {
+  draw(tags_, renderer::DrawTexts);
+  drawButtons(tags_, 0);
   QSet<QString> withTexts;
-  for (const renderer::DrawnObject& object : chosen_.account.objects) withTexts += object.owner;
-  QStringList buttons = chosen_.tags.rows();
-  buttons.removeIf([&](const QString& tag) { return !renderer::isButton(tag) || hidden.contains(tag); });
-  buttons.resize(std::min<qsizetype>(buttons.size(), chosen_.state.ButtonCount));
-  for (qsizetype button = 1; button < buttons.size(); ++button) {
-    themefiles::SortedTags rows;
-    rows.AddItem(buttons[button]);
-    const auto mover = std::find_if(buttons.begin() + button, buttons.end(),
-                                    [&](const QString& tag) { return withTexts.contains(tag); });
-    if (mover != buttons.end() && *mover != buttons[button]) rows.AddItem(*mover);
-    draw(chosen_.context(rows), drawButtons);
+  for (const renderer::DrawnObject& object : account_.objects) withTexts += object.owner;
+  const QStringList buttons = visibleButtons();
+  for (auto button = buttons.begin(); button != buttons.end(); ++button) {
+    const IniSection* section = theme_.theme().find(*button);
+    if (!section || section->value(QStringLiteral("SelectH")).isEmpty()) continue;
+    // A selected button that has no text moves the texts of the next one that has some.
+    const auto mover = std::find_if(button, buttons.end(), [&](const QString& tag) { return withTexts.contains(tag); });
+    QStringList rows{*button};
+    if (mover != buttons.end() && mover != button) rows += *mover;
+    drawButtons(rows, 1);
   }
 }
 
-void ScreenCheck::draw(renderer::RenderContext context, Pass pass) {
-  context.textsOnly = picturesDrawn_;
-  chosen_.account = {};
+void ScreenCheck::drawButtons(const QStringList& buttons, int selected) {
+  state_.SelectedButton = static_cast<quint8>(selected);
+  state_.ButtonCount = 0;
+  draw(buttons, renderer::DrawButtons);
+}
+
+void ScreenCheck::draw(const QStringList& tags, Pass pass) {
+  themefiles::SortedTags rows;
+  for (const QString& tag : tags) rows.AddItem(tag);
+  account_ = {};
+  renderer::RenderContext context{state_,    rows,     tools_.surface,   host_,  reports_, dialogs_,
+                                  graphics_, account_, &tools_.pictures, &frame_};
+  context.parts = parts_;
   pass(context);
-  for (const renderer::LeftOut& entry : chosen_.account.missing) tellMissing(entry);
-  for (const renderer::DrawnObject& object : chosen_.account.objects) {
-    const bool isText = pass == renderer::DrawTexts || !object.owner.isEmpty();
-    if (!isUnseen(object, isText)) continue;
-    findings_.add(Kind::OutsideSurface, theme_.theme.place(object.section), {},
-                  {skin_, isText ? language_ : QString()});
+  for (const renderer::LeftOut& entry : account_.missing) tellMissing(entry);
+  for (const renderer::DrawnObject& object : account_.objects) {
+    if (isUnseen(object)) findings_.add(Kind::OutsideSurface, theme_.theme().place(object.section), {}, setting_);
   }
-}
-
-/// A missing background is no finding. The texts of a button share its cause, and that is told of the button.
-bool isNoFault(const renderer::LeftOut& entry, const QString& background) {
-  using renderer::Reason;
-  return entry.why == Reason::HiddenWithButton || entry.why == Reason::WithButton ||
-         (entry.why == Reason::NoTexture && entry.value.isEmpty() && entry.section == background);
 }
 
 void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
-  if (isNoFault(entry, chosen_.account.background)) return;
-  Place place = theme_.theme.place(entry.section, entry.key);
-  // Width and height make one finding, at the first of the two lines.
-  for (const QString& key : entry.key.split(QStringLiteral(" x "))) {
-    const Place line = theme_.theme.place(entry.section, key);
-    if (line.line == place.line) continue;
-    place.line = line.line;
-    break;
+  const auto* const row =
+      std::find_if(Reasons.begin(), Reasons.end(), [&](const ReasonRow& known) { return known.reason == entry.why; });
+  const IniSection* section = theme_.theme().find(entry.section);
+  // Without a section, its line is told.
+  if (row == Reasons.end() || !section || isToldElsewhere(entry, *section)) return;
+  // What no name stands for has no cause elsewhere.
+  const Kind kind = row->kind == Kind::NameLeftOut && entry.value.isEmpty() ? Kind::LeftOut : row->kind;
+  Setting setting;
+  if (row->ofSkin) setting.skin = setting_.skin;
+  if (entry.why == Reason::ColorRange) setting.scheme = setting_.scheme;
+  findings_.add(kind, placeOf(entry), {renderer::reasonWithoutKey(entry)}, setting);
+}
+
+/// Width and height make one finding, at the first of the two lines.
+Place ScreenCheck::placeOf(const renderer::LeftOut& entry) const {
+  Place place = theme_.theme().valueOf(entry.section, entry.key);
+  const QStringList sides = entry.key.split(QStringLiteral(" x "));
+  for (const QString& side : sides) {
+    const Place line = theme_.theme().valueOf(entry.section, side);
+    if (sides.size() == 1 || line.column == 0 || (place.column > 0 && place.line < line.line)) continue;
+    place = line;
+    place.key = entry.key;
   }
-  const Kind kind = entry.why == renderer::Reason::Hidden ? Kind::Hidden : Kind::LeftOut;
-  findings_.add(kind, place, {renderer::reasonText(entry)}, {skin_, {}});
+  return place;
+}
+
+bool ScreenCheck::isToldElsewhere(const renderer::LeftOut& entry, const IniSection& section) const {
+  const auto isBad = [&](const QString& color) { return theme_.badColors.contains(color); };
+  switch (entry.why) {
+    case Reason::NoTexture:
+      return entry.value.isEmpty() && entry.section == account_.background;  // no fault at all
+    case Reason::NoFile:
+      return theme_.picturelessSkins.contains(setting_.skin);
+    case Reason::UnknownColor:
+      return isBad(entry.value) || (theme_.colorsLost && !isBuiltInColor(theme_, entry.value));
+    case Reason::ColorRange:
+      return isBad(section.value(entry.key.startsWith(u'D') ? QStringLiteral("DColor") : QStringLiteral("Color")));
+    default:
+      return false;
+  }
 }
 
 /// Whether an object lies wholly outside the screen. A text without words doesn't: it would show nowhere.
-bool ScreenCheck::isUnseen(const renderer::DrawnObject& object, bool isText) const {
+bool ScreenCheck::isUnseen(const renderer::DrawnObject& object) const {
   if (object.place.intersects(Shown)) return false;
-  if (!isText) return true;
-  const IniSection* section = theme_.theme.find(object.section);
+  if (parts_ == renderer::Parts::Pictures) return true;
+  const IniSection* section = theme_.theme().find(object.section);
   const QString key = section ? wordsKeyOf(*section) : object.section;
   // A text without a key is drawn by the object's name.
-  return key.isEmpty() ||
-         !themefiles::GetINI(QStringLiteral("Text"), key, key, chosen_.state.paths.LanguageFile).isEmpty();
+  const QString words = frame_.section(QStringLiteral("Text"), state_.paths.LanguageFile).Value(key, key);
+  return key.isEmpty() || !words.isEmpty();
 }
 
 }  // namespace
 
-void checkDrawing(const CheckedTheme& theme, Findings& findings, const Progress& progress) {
-  renderer::PreparedPictures pictures;
-  for (const QString& skin : theme.skinNames) {
-    const themefiles::ModuleState state = openState(theme, skin, theme.languageNames.value(0));
-    for (const themefiles::ScreenRow& screen : state.ScreenTable) {
-      progress(theme.theme.name(), skin, screen.Name);
-      ScreenCheck(theme, state, screen, skin, pictures, findings).run();
-    }
-  }
+void checkPicturesOf(const CheckedTheme& theme, const QString& screen, const QString& skin, DrawingTools& tools,
+                     Findings& findings) {
+  ScreenCheck(theme, screen, {skin, {}, {}}, renderer::Parts::Pictures, tools, findings).drawPictures();
+}
+
+void checkTextsOf(const CheckedTheme& theme, const QString& screen, const QString& language, DrawingTools& tools,
+                  Findings& findings) {
+  ScreenCheck(theme, screen, {{}, language, {}}, renderer::Parts::Texts, tools, findings).drawTexts();
 }
 
 }  // namespace themecheck

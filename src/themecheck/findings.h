@@ -1,7 +1,9 @@
 #pragma once
 
 #include <map>
+#include <set>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include <QString>
@@ -15,20 +17,43 @@ enum class Level { Error, Warning, Note };
 enum class Kind {
   CantBeRead,
   CantBeOpened,
+  UnclosedHead,
+  UnopenedHead,
+  FollowedHead,
   TooManyColors,
+  BadColor,
+  NoTable,
+  NoWordsTable,
+  EmptyTable,
+  EmptyWordsTable,
+  NoPictures,
+  HidingMark,
+  WordsHidingMark,
+  Mark,
+  Utf8,
   LeftOut,
+  NameLeftOut,
+  NoPlace,
   Hidden,
   OutsideSurface,
   NoScreen,
+  BehindScreen,
+  IndentedHead,
+  NoKind,
+  NoButton,
+  TextNumber,
+  BeyondTexts,
   DoubledSection,
   DoubledKey,
   NoNumber,
   OutsideList,
-  NoEditor,
-  BeyondTexts,
   NoWords,
+  NoLanguage,
+  GameColor,
+  GameTexture,
   LackingTexture,
   OtherCase,
+  NoEditor,
   UnusedColor,
   UnusedTexture,
   UnusedWords,
@@ -37,16 +62,18 @@ enum class Kind {
 
 /// The place of a finding in the files.
 struct Place {
-  QString file;     ///< relative to the game folder, with slashes
-  int line = 0;     ///< from 1; 0 for the file as a whole
+  QString file;     ///< as findings name it
+  int line = 1;     ///< from 1; that is also the place of a file as a whole
+  int column = 0;   ///< from 1, of the key or the value; 0 if it is about neither
   QString section;  ///< empty if it is about none
   QString key;
 };
 
-/// The skin and the language in which something was found; empty if it doesn't depend on them.
+/// The skin, the language and the colour scheme in which something was found; empty if it doesn't depend on them.
 struct Setting {
   QString skin;
   QString language;
+  QString scheme;
 };
 
 struct Finding {
@@ -55,25 +82,42 @@ struct Finding {
   QString text;
   QStringList skins;      ///< in which it was found; empty if it doesn't depend on them
   QStringList languages;  ///< the same
-  QString where;          ///< these skins and languages as text; empty if they are all that were checked
+  QStringList schemes;    ///< the same
+  QString where;          ///< those of the three that have to be named, as text
+};
+
+/// How many skins, languages and colour schemes a theme has. A finding that holds for all of them names none.
+struct Scope {
+  qsizetype skins = 0;
+  qsizetype languages = 0;
+  qsizetype schemes = 0;
 };
 
 /// "error", "warning" or "note".
 QString nameOf(Level level);
 
-/// Collects findings: each once, with all skins and languages in which it was found.
+/// Collects findings: each once, with all skins, languages and colour schemes in which it was found. What has one cause
+/// in many sections, as a colour that is in no table, is one finding at the first of them, with their number.
 class Findings {
  public:
   /// Adds a finding. `fill` replaces %1 and %2 in the text of its kind.
   void add(Kind kind, const Place& place, const QStringList& fill = {}, const Setting& setting = {});
-  /// All findings; `skins` and `languages` are those that were checked.
-  std::vector<Finding> taken(const QStringList& skins, const QStringList& languages) const;
+  /// Whether what a render left out is told for that key of that section, or the section as a whole is.
+  bool isTold(const QString& section, const QString& key) const;
+  /// All findings, sorted by file and line.
+  std::vector<Finding> taken(const Scope& scope) const;
 
  private:
-  std::map<std::tuple<QString, int, Level, QString, QString, QString>, Finding> findings_;
+  struct Entry {
+    Finding finding;
+    std::set<QString> sections;
+  };
+
+  std::map<std::tuple<QString, Level, QString, int, int, QString, QString>, Entry> entries_;
+  std::set<std::pair<QString, QString>> told_;  ///< sections and keys in upper case; the key is empty for a whole one
 };
 
-/// Sorts by file and line.
+/// Sorts by file and line, and drops what is there twice.
 void sortFindings(std::vector<Finding>& findings);
 
 }  // namespace themecheck

@@ -2,12 +2,16 @@
 
 #include <vector>
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 
 #include "themecheck/findings.h"
 
 namespace themecheck {
+
+/// What some editors write at the head of a file in UTF-8. It is no part of the game's code page.
+inline constexpr QByteArrayView ByteOrderMark("\xEF\xBB\xBF");
 
 struct IniKey {
   QString name;
@@ -16,10 +20,14 @@ struct IniKey {
   int counted = 0;  ///< line of the first key of this name, the one that counts
 };
 
+/// What is wrong with the line of a section.
+enum class Head { Right, Indented, Unopened, Unclosed, Followed, FollowedByBlanks };
+
 struct IniSection {
   QString name;
   int line = 0;
   int counted = 0;
+  Head head = Head::Right;
   std::vector<IniKey> keys;
   QHash<QString, qsizetype> byName;  ///< the keys that count
 
@@ -28,29 +36,53 @@ struct IniSection {
   QString value(const QString& key) const;
 };
 
-/// An ini file of the game, read once, with the line numbers of its sections and keys.
+/// A file that is checked: where it is read, and how findings name it.
+struct CheckedFile {
+  QString name;  ///< of the theme, the skin or the language
+  QString path;
+  QString shown;
+  bool isChecked = true;  ///< else it is only compared with the others
+};
+
+/// An ini file of the game, read once, with the places of its sections and keys.
 class IniFile {
  public:
-  /// `shown` is the path that findings name. Throws platform::Failure for a file that can't be read.
-  IniFile(QString name, const QString& path, QString shown);
+  /// Throws platform::Failure for a file that can't be read, or that isn't written in single bytes.
+  explicit IniFile(CheckedFile file);
 
-  const QString& name() const { return name_; }
+  const QString& name() const { return file_.name; }
+  bool isChecked() const { return file_.isChecked; }
+  const std::vector<QByteArrayView>& lines() const { return lines_; }
   const std::vector<IniSection>& sections() const { return sections_; }
   /// The section that counts, by its name in any case; null without one.
   const IniSection* find(const QString& section) const;
+  /// The first key of each name in a section; none without the section.
+  std::vector<const IniKey*> keysOf(const QString& section) const;
+  bool has(const QString& section, const QString& key) const;
+  /// The section in the first line, if a byte order mark hides it; empty without one.
+  QString sectionBehindMark() const;
 
-  Place wholeFile() const { return {shown_, 0, {}, {}}; }
-
-  /// The place of a key, spelled as in the file. If the key is missing, the place of its section; if that is missing,
-  /// too, the file. A section may also be named as the reader of tags names it.
-  Place place(const QString& section, const QString& key = {}) const;
+  Place wholeFile() const { return {file_.shown, 1, 0, {}, {}}; }
+  /// The place of a section, spelled as in the file. If it is missing, the file.
+  Place place(const QString& section) const;
+  /// The place of the value of a key that counts. If the key is missing, that of its section.
+  Place valueOf(const QString& section, const QString& key) const;
+  /// The place of a section's or a key's own line.
+  Place placeOf(const IniSection& section) const { return {file_.shown, section.line, 0, section.name, {}}; }
+  Place placeOf(const IniSection& section, const IniKey& key) const;
+  Place lineAt(int line, int column) const { return {file_.shown, line, column, {}, {}}; }
 
  private:
-  QString name_;
-  QString shown_;
+  void readSections();
+  void splitAtUnopenedHeads();
+  void enterNames();
+  QByteArrayView line(int number) const;
+
+  CheckedFile file_;
+  QByteArray bytes_;
+  std::vector<QByteArrayView> lines_;  ///< of bytes_
   std::vector<IniSection> sections_;
   QHash<QString, qsizetype> byName_;
-  QHash<QString, int> tagLines_;
 };
 
 }  // namespace themecheck

@@ -1,3 +1,5 @@
+#include <map>
+
 #include <QRegularExpression>
 #include <QSet>
 
@@ -5,36 +7,117 @@
 #include "platform/numbers.h"
 #include "renderer/object_passes.h"
 #include "themecheck/checked_theme.h"
+#include "themefiles/screen_table.h"
 #include "themefiles/tag_listing.h"
 
 namespace themecheck {
 namespace {
 
-/// The sections that belong to a screen, in upper case, also those that its filter hides.
-QSet<QString> listedSections(const themefiles::ModuleState& state) {
-  QSet<QString> listed;
+using platform::upperCase;
+
+/// What the screens make of the names of a theme's sections.
+class Listing {
+ public:
+  explicit Listing(const CheckedTheme& theme);
+
+  bool isListed(const QString& name) const { return listed_.contains(upperCase(name)); }
+  bool isScreen(const QString& name) const { return runs_.contains(upperCase(name)); }
+  /// Whether a screen's background, or named in the filter of a screen.
+  bool isKnown(const QString& name) const { return known_.contains(upperCase(name)); }
+  /// The other screen's section behind which a section of a screen stands that isn't listed; empty without one.
+  QString screenBefore(const IniSection& section) const;
+
+ private:
+  /// The sections of one screen, and what ends them.
+  struct Run {
+    bool began = false;
+    const IniSection* end = nullptr;
+  };
+
+  void findEnds(const IniFile& theme);
+
+  QSet<QString> listed_;         ///< sections that belong to a screen, also those that its filter hides
+  std::map<QString, Run> runs_;  ///< by the screen's own name
+  QSet<QString> known_;
+};
+
+Listing::Listing(const CheckedTheme& theme) {
+  const themefiles::ModuleState state = openState(theme, {}, {});
   HeardReports reports;
-  QSet<QString> stems;
   for (const themefiles::ScreenRow& screen : state.ScreenTable) {
-    if (stems.contains(screen.Stem)) continue;
-    stems += screen.Stem;
+    const themefiles::TagFilter filter = themefiles::filterOf(screen.Name);
+    for (const QString& name : (filter.OnlyTags + u',' + filter.SkipTags).split(u',')) known_ += upperCase(name);
+    if (!runs_.try_emplace(upperCase(screen.Stem)).second) continue;
+    known_ += upperCase(screen.Stem + QStringLiteral("Background"));
     themefiles::SortedTags tags;
     themefiles::ReadTags(state, screen.Name, tags, reports, [] {});
-    for (const QString& tag : tags.rows()) listed += platform::upperCase(tag);
+    for (const QString& tag : tags.rows()) listed_ += upperCase(tag);
   }
-  return listed;
+  findEnds(theme.theme());
 }
 
-/// The number of a button's text that is greater than the button's Texts.
-void checkButtonText(const CheckedTheme& theme, const IniSection& object, Findings& findings) {
-  static const QRegularExpression NumberedText(QStringLiteral("^(.+)TEXT([1-9][0-9]*)$"),
-                                               QRegularExpression::CaseInsensitiveOption);
-  const QRegularExpressionMatch match = NumberedText.match(object.name);
-  const IniSection* button = match.hasMatch() ? theme.theme.find(match.captured(1)) : nullptr;
-  if (!button || !renderer::isButton(button->name)) return;
-  const auto texts = platform::roundToInt16(platform::numberOf(button->value(QStringLiteral("Texts"))));
-  if (!texts || platform::numberOf(match.captured(2)) <= *texts) return;
-  findings.add(Kind::BeyondTexts, theme.theme.place(object.name), {button->name, QString::number(*texts)});
+void Listing::findEnds(const IniFile& theme) {
+  for (const IniSection& section : theme.sections()) {
+    const QString name = upperCase(section.name);
+    for (auto& [screen, run] : runs_) {
+      if (name.startsWith(screen)) {
+        run.began = run.began || isListed(name);
+      } else if (run.began && !run.end && isScreen(name)) {
+        run.end = &section;
+      }
+    }
+  }
+}
+
+QString Listing::screenBefore(const IniSection& section) const {
+  const Run* own = nullptr;
+  qsizetype longest = 0;
+  for (const auto& [screen, run] : runs_) {
+    if (screen.size() <= longest || !upperCase(section.name).startsWith(screen)) continue;
+    longest = screen.size();
+    own = &run;
+  }
+  return own && own->end && own->end->line < section.line ? own->end->name : QString();
+}
+
+bool drawsSomething(const IniSection& object) {
+  return object.find(QStringLiteral("Tex")) || object.find(QStringLiteral("Text"));
+}
+
+void tellStray(const CheckedTheme& theme, const Listing& listing, const IniSection& object, Findings& findings) {
+  const QString before = listing.screenBefore(object);
+  const Place place = theme.theme().placeOf(object);
+  if (object.head == Head::Indented) {
+    findings.add(Kind::IndentedHead, place);
+  } else if (before.isEmpty()) {
+    findings.add(Kind::NoScreen, place);
+  } else {
+    findings.add(Kind::BehindScreen, place, {before});
+  }
+}
+
+/// A text of a button whose name doesn't lead to one, or whose number leads too far.
+void checkButtonText(const CheckedTheme& theme, const Listing& listing, const IniSection& object, Findings& findings) {
+  static const QRegularExpression Ending(QStringLiteral("TEXT([0-9]+)$"), QRegularExpression::CaseInsensitiveOption);
+  const QRegularExpressionMatch match = Ending.match(object.name);
+  const QString name = object.name.first(match.hasMatch() ? match.capturedStart() : 0);
+  if (!renderer::isButton(name) || listing.isScreen(name) || listing.isKnown(name)) return;
+  const Place place = theme.theme().placeOf(object);
+  const IniSection* button = theme.theme().find(name);
+  if (!button) {
+    findings.add(Kind::NoButton, place, {name});
+  } else if (match.captured(1).startsWith(u'0')) {
+    findings.add(Kind::TextNumber, place);
+  } else {
+    const auto texts = platform::roundToInt16(platform::numberOf(button->value(QStringLiteral("Texts"))));
+    if (!texts || platform::numberOf(match.captured(1)) <= *texts) return;
+    findings.add(Kind::BeyondTexts, place, {button->name, QString::number(*texts)});
+  }
+}
+
+/// Texts of things that have a name of their own in the game, such as a player's name, are the game's.
+bool isOfSomeKind(const QString& name) {
+  return renderer::isStatic(name) || renderer::isButton(name) || upperCase(name).contains(u"TEXT");
 }
 
 template <typename Named>
@@ -44,31 +127,43 @@ bool isDouble(const Named& named) {
 
 }  // namespace
 
+void checkHeads(const IniFile& file, bool isTheme, Findings& findings) {
+  for (const IniSection& section : file.sections()) {
+    const Place place = file.placeOf(section);
+    if (section.head == Head::Unclosed) findings.add(Kind::UnclosedHead, place);
+    if (section.head == Head::Unopened) findings.add(Kind::UnopenedHead, place);
+    if (section.head == Head::Followed || (isTheme && section.head == Head::FollowedByBlanks)) {
+      findings.add(Kind::FollowedHead, place);
+    }
+  }
+}
+
 void checkDoubles(const IniFile& file, Findings& findings, const std::optional<QSet<QString>>& only) {
   for (const IniSection& section : file.sections()) {
-    Place place = file.place(section.name);
-    place.line = section.line;
-    place.section = section.name;
     if (isDouble(section)) {
-      findings.add(Kind::DoubledSection, place, {QString::number(section.counted)});
+      findings.add(Kind::DoubledSection, file.placeOf(section), {QString::number(section.counted)});
       continue;
     }
     for (const IniKey& key : section.keys) {
-      if (only && !only->contains(platform::upperCase(key.name))) continue;
-      place.line = key.line;
-      place.key = key.name;
-      if (isDouble(key)) findings.add(Kind::DoubledKey, place, {QString::number(key.counted)});
+      if (only && !only->contains(upperCase(key.name))) continue;
+      if (isDouble(key)) findings.add(Kind::DoubledKey, file.placeOf(section, key), {QString::number(key.counted)});
     }
   }
 }
 
 void checkSections(const CheckedTheme& theme, Findings& findings) {
-  const QSet<QString> listed = listedSections(openState(theme, {}, {}));
-  for (const IniSection* object : objectsOf(theme.theme)) {
-    if (!listed.contains(platform::upperCase(object->name))) {
-      findings.add(Kind::NoScreen, theme.theme.place(object->name));
+  const Listing listing(theme);
+  for (const IniSection* object : objectsOf(theme.theme())) {
+    if (object->head != Head::Right && object->head != Head::Indented) continue;
+    if (!listing.isListed(object->name)) {
+      tellStray(theme, listing, *object, findings);
+      continue;
     }
-    checkButtonText(theme, *object, findings);
+    checkButtonText(theme, listing, *object, findings);
+    if (drawsSomething(*object) && !isOfSomeKind(object->name) && !listing.isScreen(object->name) &&
+        !listing.isKnown(object->name)) {
+      findings.add(Kind::NoKind, theme.theme().placeOf(*object));
+    }
   }
 }
 

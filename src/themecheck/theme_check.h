@@ -1,27 +1,55 @@
 #pragma once
 
+#include <deque>
+#include <functional>
 #include <vector>
 
+#include <QSet>
 #include <QString>
-#include <QStringList>
 
+#include "renderer/prepared_pictures.h"
 #include "themecheck/checked_theme.h"
+#include "themecheck/drawing.h"
 #include "themecheck/findings.h"
 
-/// Finds what is wrong or unused in a game's themes, in each with all its skins and all languages. It uses the editor's
-/// own readers and renderer, and writes nothing.
 namespace themecheck {
 
-/// What is to be checked.
-struct Request {
-  QString gameFolder;  ///< as the system names it
-  QStringList themes;  ///< names of themes; empty for all
-  QString skin;        ///< the only skin to check; empty for all
-  QString language;    ///< the only language to check; empty for all
-};
+/// Finds what is wrong or unused in a theme with all its skins and languages, as its files stand. It uses the editor's
+/// own readers and renderer, and writes nothing. The work is cut into steps, so that a caller can do other things in
+/// between: a file, or a screen with one skin or in one language.
+class ThemeCheck {
+ public:
+  /// `pictureBytes` is how much the prepared pictures may take.
+  explicit ThemeCheck(ThemeFiles files, qsizetype pictureBytes = renderer::PreparedPictures::MostBytes);
+  Q_DISABLE_COPY_MOVE(ThemeCheck)
 
-/// All findings, sorted by file and line. Throws platform::Failure if the folder has no theme, or not the one, the skin
-/// or the language asked for.
-std::vector<Finding> checkGame(const Request& request, const Progress& progress);
+  bool isDone() const { return steps_.empty(); }
+  /// What the next step is about: "Main Screen, Neon". Empty when it is done.
+  QString next() const { return isDone() ? QString() : steps_.front().about; }
+  /// Does the next step.
+  void step();
+
+  /// What was found so far, sorted by file and line. What has to do with several files is told at the end.
+  std::vector<Finding> findings() const;
+  /// The keys of all words that the theme uses, in upper case. None if it can't be read.
+  QSet<QString> usedWords() const;
+  bool isRead() const { return theme_.file.has_value(); }
+
+ private:
+  struct Step {
+    QString about;
+    std::function<void()> work;
+  };
+
+  void readTheme();
+  std::optional<IniFile> read(const CheckedFile& file);
+  void checkFiles();
+  void addScreens();
+
+  CheckedTheme theme_;
+  DrawingTools tools_;
+  Findings findings_;
+  std::deque<Step> steps_;
+};
 
 }  // namespace themecheck

@@ -2,13 +2,14 @@
 
 #include <QStringList>
 
-#include "themecheck/theme_check.h"
+#include "themecheck/game_check.h"
 
 namespace themechecktool {
 
 /// What the command line asks for.
 struct Arguments {
   themecheck::Request request;
+  QString ignored;  ///< the file with the patterns of findings that are left out; empty for none
   bool json = false;
   bool strict = false;  ///< warnings count as errors do
   QString answer;       ///< usage or version, when that is all that is wanted

@@ -1,6 +1,7 @@
 #include <cstdio>
 
 #include "arguments.h"
+#include "ignored.h"
 #include "output.h"
 #include "platform/console.h"
 #include "platform/failure.h"
@@ -13,9 +14,8 @@ using platform::print;
 
 std::vector<themecheck::Finding> check(const themecheck::Request& request) {
   themechecktool::ProgressLine line;
-  return themecheck::checkGame(request, [&](const QString& theme, const QString& skin, const QString& screen) {
-    line.show(QStringList{theme, skin, screen}.join(QStringLiteral(", ")));
-  });
+  return themecheck::checkGame(
+      request, [&](const QString& theme, const QString& about) { line.show(theme + QStringLiteral(", ") + about); });
 }
 
 int run(const QStringList& words) {
@@ -24,8 +24,12 @@ int run(const QStringList& words) {
     print(stdout, arguments.answer);
     return 0;
   }
-  const std::vector<themecheck::Finding> findings = check(arguments.request);
-  const themechecktool::Counts counts = themechecktool::countsOf(findings);
+  const auto ignored =
+      arguments.ignored.isEmpty() ? themechecktool::Ignored() : themechecktool::Ignored(arguments.ignored);
+  std::vector<themecheck::Finding> findings = check(arguments.request);
+  const int takenOut = ignored.takeOut(findings);
+  themechecktool::Counts counts = themechecktool::countsOf(findings);
+  counts.ignored = takenOut;
   if (arguments.json) {
     std::fputs(themechecktool::jsonOf(findings).constData(), stdout);
   } else {

@@ -33,18 +33,23 @@ Counts countsOf(const std::vector<Finding>& findings) {
 }
 
 QString countsText(const Counts& counts) {
-  return QStringList{counted(counts.errors, QStringLiteral("error")),
-                     counted(counts.warnings, QStringLiteral("warning")), counted(counts.notes, QStringLiteral("note"))}
-      .join(QStringLiteral(", "));
+  QStringList texts{counted(counts.errors, QStringLiteral("error")),
+                    counted(counts.warnings, QStringLiteral("warning")), counted(counts.notes, QStringLiteral("note"))};
+  if (counts.ignored > 0) texts += QStringLiteral("%1 ignored").arg(counts.ignored);
+  return texts.join(QStringLiteral(", "));
+}
+
+QString withoutPlace(const Finding& finding) {
+  return QStringList{nameOf(finding.level), field(finding.place.section), field(finding.place.key), finding.text}.join(
+      QStringLiteral(": "));
 }
 
 QString lineOf(const Finding& finding) {
   const themecheck::Place& place = finding.place;
-  const QString head =
-      QStringLiteral("%1:%2: %3: ").arg(place.file, QString::number(place.line), nameOf(finding.level));
-  const QString rest = QStringList{field(place.section), field(place.key), finding.text}.join(QStringLiteral(": "));
+  QStringList head{place.file, QString::number(place.line)};
+  if (place.column > 0) head += QString::number(place.column);
   const QString where = finding.where.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.where);
-  return platform::onOneLine(head + rest + where);
+  return platform::onOneLine(head.join(u':') + QStringLiteral(": ") + withoutPlace(finding) + where);
 }
 
 QByteArray jsonOf(const std::vector<Finding>& findings) {
@@ -52,12 +57,14 @@ QByteArray jsonOf(const std::vector<Finding>& findings) {
   for (const Finding& finding : findings) {
     array += QJsonObject{{QStringLiteral("file"), finding.place.file},
                          {QStringLiteral("line"), finding.place.line},
+                         {QStringLiteral("column"), finding.place.column},
                          {QStringLiteral("level"), nameOf(finding.level)},
                          {QStringLiteral("section"), finding.place.section},
                          {QStringLiteral("key"), finding.place.key},
                          {QStringLiteral("text"), finding.text},
                          {QStringLiteral("skins"), QJsonArray::fromStringList(finding.skins)},
-                         {QStringLiteral("languages"), QJsonArray::fromStringList(finding.languages)}};
+                         {QStringLiteral("languages"), QJsonArray::fromStringList(finding.languages)},
+                         {QStringLiteral("schemes"), QJsonArray::fromStringList(finding.schemes)}};
   }
   return QJsonDocument(array).toJson();
 }

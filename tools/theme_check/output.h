@@ -14,14 +14,18 @@ struct Counts {
   int errors = 0;
   int warnings = 0;
   int notes = 0;
+  int ignored = 0;
 };
 
 Counts countsOf(const std::vector<themecheck::Finding>& findings);
 
-/// "1 error, 2 warnings, 0 notes"
+/// "1 error, 2 warnings, 0 notes", and ", 3 ignored" where some are.
 QString countsText(const Counts& counts);
 
-/// The finding on one line, in the form that compilers use; a "-" stands for a section or a key that there is none of.
+/// "error: MainStaticIcon: Tex: no file 'x.png'"; a "-" stands for a section or a key that there is none of.
+QString withoutPlace(const themecheck::Finding& finding);
+
+/// The finding on one line, in the form that compilers use.
 QString lineOf(const themecheck::Finding& finding);
 
 /// All findings as one array, UTF-8.
