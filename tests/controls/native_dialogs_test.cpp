@@ -113,7 +113,11 @@ class NativeDialogsTest : public QObject {
         const QPixmap shown = dialog.findChild<QLabel*>(u"thumbnail"_s)->pixmap();
         QCOMPARE(shown.toImage().pixelColor(1, 1), QColor(200, 0, 0));
         if (!typed.isEmpty()) {
-          dialog.findChild<QLineEdit*>()->setText(typed);
+          auto& line = *dialog.findChild<QLineEdit*>();
+          dialog.activateWindow();
+          line.setFocus();
+          QTRY_VERIFY_WITH_TIMEOUT(line.hasFocus(), Patience);  // else the selection takes the line's text
+          line.setText(typed);
           // As the toolkit does when the folders on the way are slow to be listed.
           list.selectionModel()->select(list.rootIndex(), QItemSelectionModel::Select | QItemSelectionModel::Rows);
         }
