@@ -60,8 +60,8 @@ std::shared_ptr<OpenEditor> editorOfHeap(int keys) {
 /// Chooses the object, until all of its keys are marked.
 void chooseHeap(const OpenEditor& editor, int keys) {
   const toolwindow::Form2& tools = *editor.form.toolWindow();
-  tools.List1->SetListIndex(1);
-  const QTreeWidgetItem* last = tools.ListView1->topLevelItem(keys - 1);
+  tools.objects().SetListIndex(1);
+  const QTreeWidgetItem* last = tools.values().topLevelItem(keys - 1);
   if (last == nullptr) qFatal("not all keys are listed");
   while (last->toolTip(0).isEmpty()) QApplication::processEvents();
 }

@@ -42,7 +42,7 @@ void FileDialog::accept() {
     // While the path was typed, the toolkit has selected the folders on the way, and would open one of them.
     if (typed.isAbsolute() && typed.isFile()) {
       typed_ = typed.filePath();
-      return QDialog::accept();
+      return done(QDialog::Accepted);
     }
   }
   QFileDialog::accept();

@@ -16,7 +16,6 @@ namespace {
 
 using platform::upperCase;
 
-const QString Textures = QStringLiteral("Textures");
 constexpr auto PictureEndings = std::to_array<QStringView>({u".bmp", u".gif", u".jpg", u".jpeg", u".png"});
 
 /// Where a picture is looked for, and where it is found without regard to case. Empty without a picture.

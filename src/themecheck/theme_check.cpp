@@ -10,9 +10,6 @@
 namespace themecheck {
 namespace {
 
-const QString Textures = QStringLiteral("Textures");
-const QString Text = QStringLiteral("Text");
-
 /// How many of the files there are; one more if only some of them were asked for, so that these are always named.
 qsizetype scopeOf(const std::vector<CheckedFile>& files) {
   const bool all = std::all_of(files.begin(), files.end(), [](const CheckedFile& file) { return file.isChecked; });

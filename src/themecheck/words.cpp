@@ -6,8 +6,6 @@
 namespace themecheck {
 namespace {
 
-const QString Text = QStringLiteral("Text");
-
 bool hasWords(const IniFile& language, const QString& key) {
   return language.has(Text, key);
 }

@@ -15,12 +15,12 @@ constexpr double Gap = 30;           // between the lists, and from them to the 
 constexpr double BelowWindow = 360;  // from the window's lower edge to the client area's, in the rules below
 constexpr double FrameMargin = 300;  // height of the group box less that of the frame in it
 
-using Control = TwipsRect ToolLayout::*;
+using Place = TwipsRect ToolLayout::*;
 using Side = double TwipsRect::*;
 
 /// One step of a resize: which side of which control becomes what.
 struct Step {
-  Control control;
+  Place control;
   Side side;
   double (*value)(const ToolLayout& l);
   bool onlyByUser = false;  ///< skipped while the editor area changes the window's height
@@ -87,7 +87,7 @@ bool carryOut(ToolLayout& layout, const Step& step) {
 ToolLayout loadedLayout() {
   ToolLayout layout;
   layout.Frame1.Height = LoadedFrameHeight;
-  for (const Control frame : {&TL::Selection, &TL::Texts, &TL::Color, &TL::Texture, &TL::FloatNumbers}) {
+  for (const Place frame : {&TL::Selection, &TL::Texts, &TL::Color, &TL::Texture, &TL::FloatNumbers}) {
     (layout.*frame).Top = layout.Numbers.Top;
   }
   layOut(layout, layout.Width, LoadedHeight, false, false);
