@@ -92,7 +92,7 @@ class HeldNumbersTest : public QObject {
     for (const auto& [line, instead, grip, heightKey, why] : rows) {
       const RowName name(instead + ' ' + heightKey);
       theme.putCopy("theme", line.isEmpty() ? section : QByteArray(section).replace(line, instead));
-      const auto failure = platform::failureIn([&] { read(grip, heightKey); });
+      const auto failure = platform::failureIn([&, grip = grip, heightKey = heightKey] { read(grip, heightKey); });
       QCOMPARE(failure.value_or(QString()), why);
     }
     // A working copy that is gone is made anew.

@@ -196,7 +196,8 @@ class Diary {
       if (std::find(shown_.begin(), shown_.end(), line) == shown_.end()) lines += line.first + u": "_s + line.second;
     }
     QStringList gone;
-    for (const auto& [name, value] : shown_) {
+    for (const auto& before : shown_) {
+      const QString& name = before.first;
       const bool stands = std::any_of(after.begin(), after.end(), [&](const auto& line) { return line.first == name; });
       if (!stands) gone += name;
     }
