@@ -105,7 +105,6 @@ class ChoiceControlsTest : public QObject {
     for (int i = 0; i < 2; ++i) {
       QTest::mouseClick(window.list.viewport(), Qt::LeftButton, {}, window.listPlace(2));
       QTest::mouseClick(window.view.viewport(), Qt::LeftButton, Qt::ControlModifier, window.viewPlace(2));
-      QTest::qWait(QApplication::doubleClickInterval() + 1);
     }
     QCOMPARE(window.state(), (QList<qsizetype>{2, 2, 2, 2}));
     drag(window.list.viewport(), window.listPlace(1), window.listPlace(4));

@@ -26,12 +26,16 @@ namespace {
 
 constexpr int Patience = 60'000;  // milliseconds, for a busy machine
 
-/// Does something to the dialog that is about to come up.
+/// Does something to the dialog that is about to come up, once it is there.
 template <typename Dialog, typename Act>
 void whenShown(Act act) {
-  QTimer::singleShot(50, [act] {
+  auto* const look = new QTimer(qApp);
+  look->start(1);
+  look->callOnTimeout([look, act] {
     auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr) qFatal("another dialog than expected");
+    if (dialog == nullptr || !dialog->isVisible()) return;
+    look->stop();
+    look->deleteLater();
     act(*dialog);
     if (QTest::currentTestFailed()) dialog->reject();
   });

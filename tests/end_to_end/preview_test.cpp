@@ -11,8 +11,6 @@ const QByteArray Theme = linesOf(
     "[LoadingStaticLost]|Tex=Nothing|X=1|Y=1|W=9|H=9|Color=On|"
     "[LoadingStaticUnder]|Tex=Plate|X=110|Y=110|W=20|H=20|Color=Off|"
     "[LoadingTextA]|X=300|Y=300|Font=0|Size=20|Color=Ink|Text=HELLO|");
-const QByteArray Language = linesOf("[Text]|HELLO=Hello|");
-const QString Kept = u"Kept in the working copy; the next Update makes Save available"_s;
 
 /// A drag of the mouse over the window, in three steps.
 static void drag(QWidget& widget, const QPoint& from, const QPoint& by) {
@@ -23,7 +21,7 @@ static void drag(QWidget& widget, const QPoint& from, const QPoint& by) {
   QTest::mouseRelease(window, Qt::LeftButton, {}, place + by);
 }
 
-/// One session: what is picked in the preview and the lists, then colours and keys that are added, used and removed.
+/// What is picked and moved on the preview, by real clicks and keys.
 class PreviewTest : public QObject {
   Q_OBJECT
 
@@ -31,9 +29,7 @@ class PreviewTest : public QObject {
   void initTestCase() {
     game.put(ThemeFile, Theme);
     game.put(SkinFile, "[Textures]\r\nPlate=ink.png\r\n");
-    game.put(LanguageFile, Language);
     game.addPicture("ink.png", Qt::black);
-    game.addPicture("paper.png", Qt::white);
     program = std::make_unique<Program>(game);
     openOnScreen(*program);
   }
@@ -64,84 +60,6 @@ class PreviewTest : public QObject {
     for (const auto* row : tools().objects().findItems(u"Loading"_s, Qt::MatchStartsWith)) {
       QCOMPARE(row->toolTip().contains(reason), row->text().endsWith(u"Lost"));
     }
-  }
-
-  void colourFollowsAtTheNextCommit() {
-    pick("LoadingStaticA", "Color");
-    program->dialogs.colors = {QColor(200, 100, 50)};
-    press(*Editors(tools()).Command2);
-    QVERIFY(game.get(ThemeCopy).contains("Ink=200 100 50\r\n"));
-    QCOMPARE(Editors(tools()).Command2->BackColor(), QColor(200, 100, 50));
-    QCOMPARE(pixel(), QColor(10, 20, 30));
-    QVERIFY(!program->state.Changed && !program->enabled(2));
-    QCOMPARE(program->status(), Kept);
-    press(*Editors(tools()).Command1);
-    QCOMPARE(pixel(), QColor(200, 100, 50));
-    QVERIFY(program->state.Changed && program->enabled(2));
-  }
-
-  void newColour() {
-    pick("LoadingStaticA", "Color");
-    program->dialogs.inputs = {u"Leaf"_s};
-    press(*Editors(tools()).Command3);
-    QVERIFY(game.get(ThemeCopy).contains("\r\nOff=0 0 250\r\nLeaf=150 150 150\r\n[Loading]"));
-    QCOMPARE(listing(*Editors(tools()).Combo3), u"Ink,On,Off,Leaf: Leaf"_s);
-    QCOMPARE(Editors(tools()).Command2->BackColor(), QColor(150, 150, 150));
-    press(*Editors(tools()).Command1);
-    QCOMPARE(pixel(), QColor(150, 150, 150));
-    remove(Editors(tools()).Command5);
-    QCOMPARE(listing(*Editors(tools()).Combo3), u"Ink,On,Off: "_s);
-    QCOMPARE(Editors(tools()).Command2->BackColor(), QColor(212, 208, 200));
-    QVERIFY(program->state.ThemeColors[3].Name.isEmpty());
-    QVERIFY(!game.get(ThemeCopy).contains("Leaf=") && game.get(ThemeCopy).contains("Color=Leaf\r\n"));
-  }
-
-  void newWords() {
-    const QImage before = program->picture();
-    pick("LoadingTextA", "Text");
-    program->dialogs.inputs = {u"GREETING"_s};
-    press(*Editors(tools()).Command6);
-    QCOMPARE(game.get(LanguageCopy), Language + "GREETING=\r\n");
-    QCOMPARE(listing(*Editors(tools()).Combo5) + Editors(tools()).Text2->Text(), u"HELLO,GREETING: GREETING"_s);
-    type(*Editors(tools()).Text2, "Good evening");
-    press(*Editors(tools()).Command1);
-    QCOMPARE(game.get(LanguageCopy), Language + "GREETING=Good evening\r\n");
-    QVERIFY(game.get(ThemeCopy).contains("Text=GREETING\r\n"));
-    QVERIFY(program->picture() != before);
-    remove(Editors(tools()).Command7);
-    QCOMPARE(game.get(LanguageCopy), Language);
-    QCOMPARE(listing(*Editors(tools()).Combo5) + Editors(tools()).Text2->Text(), u"HELLO: "_s);
-  }
-
-  void anotherImage() {
-    pick("LoadingStaticA", "Color");
-    pickEntry(*Editors(tools()).Combo4, 0);
-    press(*Editors(tools()).Command1);
-    QCOMPARE(pixel(), QColor(200, 100, 50));
-    pick("LoadingStaticA", "Tex");
-    program->dialogs.files = {game.path() + u"Skins\\Alpha\\paper.png"_s};
-    press(*Editors(tools()).Command4);
-    QCOMPARE(Editors(tools()).Text3->Text(), u"paper.png"_s);
-    QCOMPARE(pixel(), QColor(200, 100, 50));
-    press(*Editors(tools()).Command1);
-    QVERIFY(game.get(SkinCopy).contains("Plate=paper.png\r\n"));
-    QCOMPARE(pixel(), QColor(Qt::white));
-    remove(Editors(tools()).Command9);
-    QCOMPARE(game.get(SkinCopy), "[Textures]\r\n");
-    QCOMPARE(listing(*Editors(tools()).Combo6) + Editors(tools()).Text3->Text(), u": "_s);
-  }
-
-  void newTexture() {
-    program->dialogs.inputs = {u"Fr\u00ff"_s};
-    press(*Editors(tools()).Command8);
-    QCOMPARE(listing(*Editors(tools()).Combo6) + Editors(tools()).Text3->Text(), u"Fr\u00ff: Fr\u00ff"_s);
-    program->dialogs.files = {game.path() + u"Skins\\Alpha\\ink.png"_s};
-    press(*Editors(tools()).Command4);
-    press(*Editors(tools()).Command1);
-    QCOMPARE(game.get(SkinCopy), "[Textures]\r\nFr\xff=ink.png\r\n");
-    QVERIFY(game.get(ThemeCopy).contains("Tex=Fr\xff\r\n"));
-    QCOMPARE(pixel(), QColor(200, 100, 50));
-    QCOMPARE(game.get(ThemeFile), Theme);
   }
 
   /// Moves an object of the sample by the mouse and then by keys, and saves.
@@ -186,17 +104,6 @@ class PreviewTest : public QObject {
 
  private:
   Form2& tools() const { return program->tools(); }
-  QColor pixel(int x = 320, int y = 120) const { return program->picture().pixelColor(x, y); }
-  void pick(const char* object, const char* key) const {
-    pickNamed(tools().objects(), object);
-    pickNamed(tools().values(), key);
-  }
-
-  void remove(QPushButton* button) const {
-    program->dialogs.boxes = {platform::BoxAnswer::Yes};
-    press(*button);
-    QCOMPARE(program->status(), Kept);
-  }
 
   GameFolder game;
   std::unique_ptr<Program> program;

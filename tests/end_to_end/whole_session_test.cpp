@@ -89,7 +89,7 @@ class WholeSessionTest : public QObject {
       pickNamed(tools.objects(), row.object);
       pickNamed(tools.values(), row.key);
       QVERIFY2(program->state.EditorShown && Editors(tools).Command1->isVisible(), row.key);
-      QTest::qWait(20);
+      settle();
       enter(tools, row.text);
       press(*Editors(tools).Command1);
       QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));

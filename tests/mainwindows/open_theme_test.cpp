@@ -84,26 +84,6 @@ class OpenThemeTest : public QObject {
     }));
   }
 
-  /// From files that are read-only; their working copies can be written.
-  void opened() {
-    const GameFolder game;
-    for (const QString& file : {ThemeFile, SkinFile, LanguageFile}) game.protect(file);
-    Program program(game);
-    auto files = game.files();
-    program.open();
-    QVERIFY(program.state.ThemeOpened && !program.state.Changed);
-    QCOMPARE(program.buttons(), u"+-++"_s);
-    const toolwindow::Form2& tools = program.tools();
-    QVERIFY(tools.isVisible() && tools.objects().isEnabled() && tools.focusWidget() == &tools.screens());
-    const QStringList lists{program.form.schemes().Text(), tools.screens().Text(), tools.objects().Text()};
-    QCOMPARE(lists, QStringList({u"Blue"_s, u"Loading Screen"_s, u"Loading"_s}));
-    for (const QString& file : {ThemeFile, SkinFile, LanguageFile}) files[file + u".tmp"_s] = files[file];
-    QCOMPARE(game.files(), files);
-    program.edit();
-    QVERIFY(program.state.Changed && game.get(ThemeCopy).contains("X=77"));
-    QVERIFY(!program.tools().close() && program.tools().isVisible());
-  }
-
   /// The files are spoilt while the dialog is up: with no theme open, and with one open that has changes.
   void failedCopies() {
     const std::pair<QString, QString> rows[] = {{ThemeFile, u"gone"_s},        {LanguageFile, u"gone"_s},
@@ -176,44 +156,6 @@ class OpenThemeTest : public QObject {
         if (dialog.isVisible()) dialog.reject();
       });
       QCOMPARE(program.state.ThemeOpened, !names.isEmpty());
-    }
-  }
-
-  /// `goesOn`: Yes to the question about changes; without changes, not Cancel in the dialog.
-  void secondOpen() {
-    for (const int row : {0, 1, 2, 3}) {
-      const bool dirty = row > 1;
-      const bool goesOn = row % 2 == 1;
-      const RowName rowName(QByteArray(dirty ? "changes, " : "clean, ") + (goesOn ? "goes on" : "doesn't"));
-      const GameFolder game;
-      game.put(u"Themes/Beta.ini"_s, "[Main]\n");
-      QVERIFY(QDir().mkdir(game.native(u"Skins/Beta"_s)));
-      game.put(u"Skins/Beta/Sole.ini"_s, "");
-      Program program(game);
-      program.open();
-      program.edit();
-      if (!dirty) program.click(2);
-      const QVariantMap before = snapshot(program, game);
-      program.dialogs.boxes = {goesOn ? BoxAnswer::Yes : BoxAnswer::No};
-      const bool came = program.openDialog([&](Form3& dialog) {
-        dialog.themes().SetListIndex(1);
-        goesOn ? dialog.openButton().click() : dialog.reject();
-      });
-      settle();
-      QCOMPARE(program.dialogs.asked.size(), dirty ? 1 : 0);
-      QCOMPARE(came, !dirty || goesOn);
-      QVERIFY(game.get(ThemeCopy).contains("X=77"));
-      if (!goesOn) {
-        QCOMPARE(differences(snapshot(program, game), before), QStringList());
-        continue;
-      }
-      QVERIFY(program.state.paths.ThemeFile.endsWith(u"Beta.ini.tmp"));
-      QVERIFY(!program.state.Changed && program.buttons() == u"+-++");
-      QVERIFY(program.state.ThemeColors[0].Name.isEmpty() && program.state.ThemeColors[1].Name.isEmpty());
-      QCOMPARE(program.tools().objects().ListCount(), 0);
-      QVERIFY2(!program.form.Workspace->markVisible(), "the mark of the theme before");
-      QVERIFY(program.form.buttons().isHidden());
-      QCOMPARE(program.picture().pixelColor(400, 300), QColor(Qt::white));
     }
   }
 

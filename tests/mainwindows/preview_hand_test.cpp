@@ -26,7 +26,6 @@ class PreviewHandTest : public ProgramTest {
     QTest::mousePress(&preview(), Qt::LeftButton, keys, from);
     moveMouse(preview(), from + by / 2, Qt::LeftButton, keys);
     moveMouse(preview(), from + by, Qt::LeftButton, keys);
-    QTest::qWait(40);
   }
   void drop(const QPoint& place, Qt::KeyboardModifiers keys = {}) const {
     QTest::mouseRelease(&preview(), Qt::LeftButton, keys, place);
@@ -142,7 +141,7 @@ class PreviewHandTest : public ProgramTest {
       drag(Inside, {3, 3});
       QCOMPARE(differences(before, snapshot(*program, *game)), QStringList());
       hold(Inside, by);
-      QVERIFY(program->picture() != before[u"picture"_s].value<QImage>());
+      QTRY_VERIFY(program->picture() != before[u"picture"_s].value<QImage>());
       ending(*program);
       drop(Inside + by);
       const QStringList differing = differences(before, snapshot(*program, *game));
@@ -230,7 +229,7 @@ class PreviewHandTest : public ProgramTest {
     program->tag(u"LoadingStaticA"_s);
     const QImage before = program->picture();
     hold(Inside, {30, 20});
-    QCOMPARE(preview().accessibleDescription(), u"X 70, Y 70"_s);  // the label's words
+    QTRY_COMPARE(preview().accessibleDescription(), u"X 70, Y 70"_s);  // the label's words
     const QByteArray without = game->get(ThemeCopy).replace("[LoadingStaticA]", "[Elsewhere]");
     game->put(ThemeCopy, without);
     drop(Inside + QPoint(30, 20));
@@ -257,9 +256,11 @@ class PreviewHandTest : public ProgramTest {
     const int y = program->value(u"Y"_s).toInt();
     preview().setFocus();
     const QByteArray file = game->get(ThemeCopy);
-    for (int press = 0; press < 5; ++press) QTest::keyClick(&preview(), Qt::Key_Right);
+    // While a key is held nothing is committed, however long that lasts.
+    for (int press = 0; press < 5; ++press) QTest::keyPress(&preview(), Qt::Key_Right);
     for (int press = 0; press < 2; ++press) QTest::keyClick(&preview(), Qt::Key_Down);
     QCOMPARE(game->get(ThemeCopy), file);
+    QTest::keyRelease(&preview(), Qt::Key_Right);
     QTRY_COMPARE(program->value(u"Y"_s), QString::number(y + 2));
     QCOMPARE(program->value(u"X"_s), QString::number(x + 5));
     QCOMPARE(Editors(program->tools()).Text1->Text(), QString::number(x + 5));  // the open editor
@@ -271,7 +272,7 @@ class PreviewHandTest : public ProgramTest {
     const QVariantMap saved = snapshot(*program, *game);
     QTest::keyClick(&preview(), Qt::Key_Left);
     QTest::keyClick(&preview(), Qt::Key_Escape);
-    QTest::qWait(400);
+    program->form.session().settle();  // commits what waits
     QCOMPARE(differences(saved, snapshot(*program, *game)), QStringList());
   }
 
@@ -287,8 +288,9 @@ class PreviewHandTest : public ProgramTest {
       put(key, value);
       const QByteArray file = game->get(ThemeCopy);
       preview().setFocus();
+      program->form.ShowStatus(QString());
       QTest::keyClick(&preview(), Qt::Key_Right, keys);
-      QTest::qWait(400);
+      program->form.session().settle();
       QCOMPARE(program->status(), u"LoadingStaticA stays as it is [%1]"_s.arg(why));
       QCOMPARE(game->get(ThemeCopy), file);
       put(key, "40");

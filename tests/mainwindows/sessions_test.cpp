@@ -117,6 +117,16 @@ class SessionsTest : public QObject {
     d.type("Text1", u"0"_s);
     d.press("Command1");
     d.tool(2);
+    // Updates that are refused.
+    d.step(u"no row"_s, [&] { program->tools().values().selectRow(-1); });
+    d.press("Command1");
+    for (const auto& [key, value] :
+         {std::pair(u"TYPE"_s, u"plain"_s), {u"TEX"_s, u"Lost"_s}, {u"COLOR"_s, u"lost"_s}}) {
+      d.soleRow(key, value);
+      d.press("Command1");
+    }
+    d.step(u"no object"_s, [&] { program->tools().objects().SetListIndex(-1); });
+    d.press("Command1");
     d.screen(u"Top5 Screen"_s);
     d.screen(u"Level Screen"_s);
     d.tag(u"LevelStatic]x"_s);
@@ -145,6 +155,14 @@ class SessionsTest : public QObject {
     d.press("Command1");
     d.choose("Combo4", 1);
     d.press("Command1");
+    // Colours that aren't the theme's.
+    program->dialogs.colors = {QColor(1, 2, 3)};
+    program->dialogs.boxes = {BoxAnswer::Yes};
+    for (const auto& name : {u"P1Dark"_s, u"Lost"_s, u"ColorLightest"_s, u"Blue"_s}) {
+      d.soleRow(u"COLOR"_s, name);
+      d.press("Command2");
+      d.press("Command5");
+    }
     d.step(u"another scheme"_s, [&] {
       program->form.schemes().setFocus();
       QTest::keyClick(&program->form.schemes(), Qt::Key_Down);
@@ -193,6 +211,35 @@ class SessionsTest : public QObject {
     d.press("Command1");
   }
 
+  /// One report at a time: what has succeeded, or what failed first, and what else is to be known behind it.
+  void reports() {
+    game->put(ThemeFile, game->get(ThemeFile).replace("W=80", "W=-1"));
+    Diary& d = opened();
+    d.step(u"an old report"_s, [&] { program->form.ShowStatus(u"Error"_s); });
+    d.tag(u"LoadingButtonGo"_s);
+    d.tag(u"LoadingStaticA"_s);
+    const auto byAnother = [&](const QString& file) { game->put(file, game->get(file) + "; other\r\n"); };
+    byAnother(ThemeCopy);
+    d.step(u"a place that can't be drawn, in a copy that another program changed"_s,
+           [&] { program->edit(u"Y"_s, u"99999"_s); });
+    d.tag(u"LoadingButtonGo"_s);
+    d.row(u"X"_s);
+    d.type("Text1", u"301"_s);
+    d.press("Command1");
+    d.tag(u"LoadingTextFree"_s);
+    d.row(u"Text"_s);
+    d.type("Text2", u"Hi"_s);
+    game->protect(LanguageCopy);
+    byAnother(ThemeCopy);
+    d.press("Command1");
+    game->protect(LanguageCopy, false);
+    d.tool(2);
+    program->dialogs.boxes = {BoxAnswer::Yes};
+    d.tool(3);
+    game->put(ThemeFile, game->get(ThemeFile).replace("[Colors]\r\n", linesOf(manyColors(120))));
+    d.step(u"Open with too many colours"_s, [&] { program->open(); });
+  }
+
   /// What is full, too long, or differs only in case.
   void limits() {
     QByteArray theme = game->get(ThemeFile).replace("[Colors]\r\n", linesOf(manyColors(98)));
@@ -232,7 +279,7 @@ class SessionsTest : public QObject {
       d.step(u"Enter"_s, [&] { QTest::keyClick(&finder, Qt::Key_Return); });
       if (finder.isVisible()) d.step(u"Esc"_s, [&] { QTest::keyClick(&finder, Qt::Key_Escape); });
     };
-    for (const char* words : {"hello", "x=10", "main red", "colr", "nothing of this"}) find(words);
+    for (const char* words : {"hello", "x=10 static", "colr", "check pop", "nothing of this"}) find(words);
   }
 
   void putBack() {
@@ -244,6 +291,15 @@ class SessionsTest : public QObject {
     d.tag(u"LoadingTextFree"_s);
     d.row(u"Text"_s);
     d.type("Text2", u"Hi"_s);
+    d.press("Command1");
+    d.menuOfRow(u"Text"_s, 0);
+    program->dialogs.boxes = {BoxAnswer::Yes};
+    d.press("Command7");
+    d.choose("Combo5", 0);
+    d.type("Text2", u"Ho"_s);
+    d.press("Command1");
+    d.menuOfRow(u"Text"_s, 0);
+    d.type("Text2", u"Ha"_s);
     d.press("Command1");
     d.screen(u"Main Screen"_s);
     d.tag(u"MainTextFree"_s);

@@ -56,6 +56,10 @@ class Diary {
   void row(const QString& key) {
     step(u"row "_s + key, [&] { program_.row(key); });
   }
+  /// A grid of this one row, and a click on it.
+  void soleRow(const QString& key, const QString& value) {
+    step(u"row %1=%2"_s.arg(key, value), [&] { program_.soleRow(key, value); });
+  }
   void screen(const QString& name) {
     step(u"screen "_s + name, [&] { program_.screen(name); });
   }

@@ -72,28 +72,6 @@ class ThemeReadingTest : public QObject {
     QCOMPARE(schemeNames(oneTooMany.state), QStringList(9, QString()));
   }
 
-  void colourNames() {
-    Theme theme("[Colors]|Own=1 2 3|P2Dark=0 0 0|Twice=7 8 9|Twice=0 0 0|ColorDark=1 1 1|");
-    ReadColors(theme.state, theme.panel);
-    // Name, scheme, colour.
-    for (const QString& row :
-         {u"/Blue/"_s, u"colorlight/Blue/135 211 251"_s, u"COLORLIGHTEST/Brown/229 204 165"_s,
-          u"ColorDark/Pink/255 175 247"_s, u"ColorLightest/Violet/230 63 230"_s, u"ColorDark/red/"_s, u"p1dark/Blue/"_s,
-          u"P2Dark/Blue/247 71 71"_s, u"Own/Blue/1 2 3"_s, u"own/Blue/"_s, u"Twice/Blue/7 8 9"_s}) {
-      const QStringList parts = row.split(u'/');
-      QVERIFY2(ResolveColor(theme.state, parts[0], parts[1]) == parts[2], qPrintable(row));
-    }
-  }
-
-  void colourNumbers() {
-    const auto number = [](const char* text) { return ColorToRGB(QString::fromLatin1(text)); };
-    QCOMPARE(number("1 2 3 4"), 0x030201);
-    QCOMPARE(number("12.5 13.5 0.5"), 0x000E0C);
-    QCOMPARE(number("x  3"), 0x030000);
-    QCOMPARE(number("32767 32767 32767"), 0x7F7EFF);
-    for (const char* text : {"1 2", "-1 2 3", "1 2 32768"}) QCOMPARE(number(text), 0);
-  }
-
   void runsOfTags() {
     // Screen, theme, tags.
     for (const auto& [screen, theme, listed] : {
@@ -121,33 +99,6 @@ class ThemeReadingTest : public QObject {
     theme.tags.Clear();
     QCOMPARE(ReadTags(theme.state, u"Main Screen"_s, theme.tags, theme.panel, pickTheSecond), -1);
     QVERIFY(theme.reported(1, u"Tags"_s) && theme.tags.ListIndex() == -1);
-  }
-
-  void filters() {
-    // The tags with a "-" are left out.
-    for (const auto& [screen, tags] : {
-             std::pair(u"Song Screen (Single)"_s, "SongStaticNonParty SongText -SongStaticParty1 -MySongStaticTeamX"),
-             {u"Song Screen (Party)"_s, "SongStaticParty SongStaticTeam1 -SongStaticNonParty -SongTextNonPartyX"},
-             {u"Score Screen (1 Player)"_s,
-              "Score ScoreStaticBoxLightest1 ScorePlayer1Text ScoreTextName22 -ScoreTextName2 -scoretexttotalscore6 "
-              "-ScorePlayer2TextX -ScorePlayer6Static1 -ScoreStaticLevelRound3"},
-             {u"Score Screen (2 Player)"_s,
-              "ScoreTextScore2 ScorePlayer3Static2 -ScoreTextLineBonus4 -ScoreTextGoldenNotes6 -ScorePlayer1Text"},
-             {u"Score Screen (3 Player)"_s,
-              "ScoreTextTotal5 ScorePlayer4Text -ScoreStaticBackLevel1 -ScoreStaticLevel3 -ScorePlayer3Static"},
-             {u"Sing Screen (1 Player)"_s,
-              "Sing SINGTIMEPROGRESS SingP1SingBar SingText1 SingP1StaticX -SingP1TwoPStatic -SingTimeProgressX"},
-             {u"Sing Screen (2 Player)"_s,
-              "SingP1TwoPSingBar SingP2RSingBar SingP2RStatic2 SingStatic -SingP1SingBar -SingP2MStatic"},
-             {u"Sing Screen (3 Player)"_s,
-              "SingTimeText SingP2MSingBar SingP3SingBar SingP1ThreePStatic SingP3RText -SingP3RSingBar -SingP1Text"},
-             {u"Main Screen"_s, "Main SongStaticParty ScoreTextName2"},
-         }) {
-      for (const QByteArray& tag : QByteArray(tags).split(' ')) {
-        const bool leftOut = tag.startsWith('-');
-        QVERIFY2(SplitTags(filterOf(screen), QString::fromLatin1(tag.mid(leftOut ? 1 : 0))) == leftOut, tag);
-      }
-    }
   }
 
   void rowsOfATag() {

@@ -28,21 +28,9 @@ QString shownValue(const Form2& form) {
   return frame;
 }
 
-const std::pair<const char*, void (*)(Program&)> RefusedUpdates[] = {
-    {"no row", [](Program& p) { p.tools().values().selectRow(-1); }},
-    {"no such choice", [](Program& p) { p.soleRow(u"TYPE"_s, u"plain"_s); }},
-    {"no such texture", [](Program& p) { p.soleRow(u"TEX"_s, u"Lost"_s); }},
-    {"no object", [](Program& p) { p.tools().objects().SetListIndex(-1); }},
-    {"outside the code page",
-     [](Program& p) {
-       p.soleRow(u"TEXT"_s, u"GO"_s);
-       Editors(p.tools()).Text2->SetText(u"\u4e2d"_s);
-     }},
-};
-
 }  // namespace
 
-/// What the editors show of a value of the grid, and what Update makes of it.
+/// What the editors show of a value of the grid.
 class EditorsTest : public ProgramTest {
   Q_OBJECT
 
@@ -149,57 +137,6 @@ class EditorsTest : public ProgramTest {
     program->soleRow(u"Z"_s, QString());
     QTest::keyClicks(Editors(tools).Text4, u"-1.2,.3e"_s);
     QCOMPARE(Editors(tools).Text4->Text(), u"1.2.3"_s);
-  }
-
-  void update() {
-    const Form2& tools = program->tools();
-    program->tag(Static);
-    auto files = game->files();
-    for (const auto& [key, before, after] : {std::tuple{u"Z"_s, "Z=0.25", "Z=1.5."}, {u"ColR"_s, "", ""}}) {
-      program->row(key);  // the second has no editor: nothing is written, the rest happens
-      Editors(tools).Text4->SetText(u"1.5."_s);
-      files[ThemeCopy].replace(before, after);
-      program->state.ProgressStep = 77;
-      program->state.Changed = false;
-      program->form.enableCommand(mainwindows::Command::Save, false);
-      Editors(tools).Command1->click();
-      QCOMPARE(game->files(), files);
-      QVERIFY(program->state.Changed && program->enabled(2) && program->state.ProgressStep != 77);
-      QCOMPARE(program->state.EditorShown, *before != 0);
-      QCOMPARE(tools.focusWidget(), &tools.values());
-    }
-    QCOMPARE(program->value(u"Z"_s) + program->value(u"ColR"_s), u"1.5.0.5"_s);
-  }
-
-  void refusedUpdates() {
-    const auto files = game->files();
-    for (const auto& [name, prepare] : RefusedUpdates) {
-      const RowName rowName(name);
-      program->tag(Static);
-      program->row(u"X"_s);
-      prepare(*program);
-      program->form.ShowStatus(QString());
-      program->state.ProgressStep = 77;
-      Editors(program->tools()).Command1->click();
-      QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
-      QCOMPARE(game->files(), files);
-      QVERIFY(!program->state.Changed && !program->enabled(2) && program->state.ProgressStep == 77);
-    }
-  }
-
-  void theMarkFollowsFiveKeys() {
-    const mainwindows::Workspace& preview = *program->form.Workspace;
-    program->tag(Static);
-    QCOMPARE(preview.mark(), QRectF(40, 50, 100, 60));
-    program->change(u"X"_s, u"45"_s);
-    program->change(u"W"_s, u"120"_s);
-    QCOMPARE(preview.mark(), QRectF(45, 50, 120, 60));
-    program->tag(u"LoadingTextFree"_s);
-    const double line = preview.mark().height();
-    for (const char* size : {"24", "70000"}) {  // the second is none for the mark
-      program->change(u"Size"_s, QLatin1StringView(size));
-      QVERIFY(line > 12 && preview.mark().width() == 0 && qAbs(preview.mark().height() - 2 * line) < 6);
-    }
   }
 };
 

@@ -28,32 +28,6 @@ class FinderTest : public ProgramTest {
   }
 
  private Q_SLOTS:
-  void goes() {
-    const Form2& tools = program->tools();
-    QSignalSpy chosen(&tools.screens(), &controls::ComboBox::Click);
-    for (const auto& [typed, downs, expected, choices] :
-         {std::tuple{"there hello textfree", 0, u"Loading Screen/LoadingTextFree/Text"_s, 0},
-          {"there hello textfree", 1, u"Main Screen/MainTextFree/Text"_s, 1},
-          {"x=10 static", 0, u"Main Screen/MainStaticA/X"_s, 0},
-          {"mainstatica", 9, u"Main Screen/MainStaticA/"_s, 0},
-          {"check pop", 0, u"Check Popup//"_s, 1},
-          {"colr", 0, u"Loading Screen/LoadingStaticA/ColR"_s, 1}}) {
-      chosen.clear();
-      FinderWindow& finder = find(typed);
-      for (int i = 0; i < downs; ++i) key(finder, Qt::Key_Down);
-      key(finder, Qt::Key_Return);
-      QVERIFY(!finder.isVisible());
-      QCOMPARE(place(), expected);
-      QCOMPARE(chosen.size(), choices);
-      if (expected.endsWith(u"Text")) QCOMPARE(Editors(tools).Text2->Text(), u"Hello there"_s);
-      if (expected.endsWith(u"X") || expected.endsWith(u"ColR")) QVERIFY(tools.focusWidget() == &tools.values());
-    }
-    FinderWindow& finder = find("selecth");
-    const QRect row = finder.List->visualItemRect(finder.List->item(0));
-    QTest::mouseDClick(finder.List->viewport(), Qt::LeftButton, {}, row.center());
-    QCOMPARE(place(), u"Loading Screen/LoadingButtonGo/SelectH"_s);
-  }
-
   void tellsWhatIsGone() {
     for (const auto& [section, told] :
          {std::pair{"[MainStaticA]\r\nY=1\r\n", u"X of MainStaticA"_s}, {"[Main]\r\n", u"MainStaticA"_s}}) {
