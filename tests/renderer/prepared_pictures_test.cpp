@@ -36,7 +36,7 @@ class PreparedPicturesTest : public QObject {
   Q_OBJECT
 
  private:
-  const Folder folder_;
+  Folder folder_;
 
  private Q_SLOTS:
   void initTestCase() { folder_.put(u"big.bmp"_s, encoded(noise(64, 48), "bmp")); }
