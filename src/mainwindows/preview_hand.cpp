@@ -59,6 +59,7 @@ PreviewHand::PreviewHand(Form1& form)
               }),
       pacer_([this] { showFrame(); }) {
   qApp->installEventFilter(this);
+  rest_.setObjectName(QStringLiteral("KeysAtRest"));
   rest_.setSingleShot(true);
   rest_.setInterval(KeysRestTime);
   rest_.callOnTimeout([this] {

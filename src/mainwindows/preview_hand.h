@@ -84,7 +84,7 @@ class PreviewHand : public QObject {
   TrialPicture trial_;
   PreviewScroll scroll_;
   QSet<int> heldKeys_;
-  QTimer rest_;  ///< runs out when the keys have rested
+  QTimer rest_{this};  ///< runs out when the keys have rested
   controls::FramePacer pacer_;
 };
 

@@ -74,6 +74,9 @@ class Table {
       if ((next->focusPolicy() & Qt::TabFocus) != 0 && !next->objectName().startsWith(u"qt_")) tabs_ += next;
     }
     addControl(window, {});
+    for (const auto* timer : window.findChildren<QTimer*>()) {
+      if (!timer->objectName().isEmpty()) addLine({u"  "_s + timer->objectName(), u"%1 ms"_s.arg(timer->interval())});
+    }
     const auto* bar = window.findChild<toolbar::McToolBar*>();
     for (int button = 1; bar != nullptr && button <= bar->Button_Count(); ++button) {
       const auto value = [&](int property) { return bar->GetButtonValue(button, property); };
@@ -118,9 +121,6 @@ class Table {
     if (isWhole(control)) return;
     for (QObject* child : control.children()) {
       const QString name = child->objectName();
-      const auto* timer = qobject_cast<const QTimer*>(child);
-      if (timer != nullptr && !name.isEmpty())
-        addLine({indent + u"  "_s + name, QString::number(timer->interval()), u"ms"_s});
       auto* inside = qobject_cast<QWidget*>(child);
       const bool isBar = name.startsWith(u"qt_scrollarea_h") || name.startsWith(u"qt_scrollarea_vc");
       if (inside != nullptr && !inside->isWindow() && !isBar) addControl(*inside, indent + u"  "_s);

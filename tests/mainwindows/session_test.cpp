@@ -44,6 +44,16 @@ class SessionTest : public ProgramTest {
     QVERIFY2(program->state.ProgressStep == 77, "drawn anew");
   }
 
+  void timeOfAReport() {
+    const int before = QTime::currentTime().msecsSinceStartOfDay() / 1000;
+    program->form.ShowStatus(u"what happened"_s);
+    const QString told = program->form.StatusBar->panel(1);
+    const QTime time = QTime::fromString(told.mid(1, 8), u"HH:mm:ss"_s);
+    QVERIFY(told.startsWith(u'[') && told.sliced(9) == u"] what happened" && time.isValid());
+    constexpr int Day = 24 * 60 * 60;
+    QVERIFY((time.msecsSinceStartOfDay() / 1000 - before + Day) % Day < 60);
+  }
+
   void mousePlace() {
     program->tag(u"LoadingStaticA"_s);
     const std::pair<QPointF, const char*> places[] = {{{40, 50}, "x: 41  y: 51"}, {{799.6, 599.4}, "x: 800  y: 600"}};

@@ -233,6 +233,9 @@ class SessionsTest : public QObject {
     byAnother(ThemeCopy);
     d.press("Command1");
     game->protect(LanguageCopy, false);
+    game->protect(ThemeCopy);
+    d.press("Command1");
+    game->protect(ThemeCopy, false);
     d.tool(2);
     program->dialogs.boxes = {BoxAnswer::Yes};
     d.tool(3);
