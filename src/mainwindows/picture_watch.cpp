@@ -52,7 +52,9 @@ bool isChanged(const std::pair<const QString, std::optional<platform::FileIdenti
 }  // namespace
 
 PictureWatch::PictureWatch(Form1& form, const PreviewHand& hand) : QObject(&form), form_(form), hand_(hand) {
+  rest_.setObjectName(QStringLiteral("PicturesAtRest"));
   rest_.setSingleShot(true);
+  rest_.setInterval(RestTime);
   rest_.callOnTimeout([this] { look(); });
   connect(&watcher_, &QFileSystemWatcher::fileChanged, this, &PictureWatch::rest);
   connect(&watcher_, &QFileSystemWatcher::directoryChanged, this, &PictureWatch::rest);

@@ -47,7 +47,7 @@ class PictureWatch : public QObject {
   QFileSystemWatcher watcher_;
   Pictures pictures_;         ///< those watched, as the last drawing found them
   bool withoutSkin_ = false;  ///< the last drawing found no working copy of the skin, and so no names of pictures
-  QTimer rest_;               ///< runs out when nothing has changed for a while
+  QTimer rest_{this};         ///< runs out when nothing has changed for a while
   QDeadlineTimer latest_;     ///< when it does at the latest
   bool toldOfLack_ = false;
 };

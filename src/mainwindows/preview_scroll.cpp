@@ -25,7 +25,8 @@ int edgeAt(int pixel, int length) {
 }  // namespace
 
 PreviewScroll::PreviewScroll(QScrollArea& area, std::function<void(const QPoint& by)> scrolled)
-    : area_(area), scrolled_(std::move(scrolled)) {
+    : area_(area), scrolled_(std::move(scrolled)), steps_(&area) {
+  steps_.setObjectName(QStringLiteral("ScrollSteps"));
   steps_.setInterval(StepTime);
   steps_.callOnTimeout([this] {
     if (!scrollStep()) steps_.stop();

@@ -10,6 +10,11 @@ constexpr int TimerPeriod = 100;  // milliseconds
 
 }  // namespace
 
+ToolBarWindows::ToolBarWindows(QWidget& bar) : bar_(bar) {
+  timer_.setObjectName(QStringLiteral("TipTicks"));
+  timer_.setInterval(TimerPeriod);
+}
+
 void ToolBarWindows::destroyAll() {
   tip_.reset();
   popup_.reset();
@@ -68,10 +73,6 @@ void ToolBarWindows::setPopupVisible(bool visible) {
 void ToolBarWindows::setHand(SurfaceName surface, bool hand) {
   QWidget* const window = surface == SurfaceName::Main ? &bar_ : popup_.get();
   if (window) window->setCursor(hand ? Qt::PointingHandCursor : Qt::ArrowCursor);
-}
-
-void ToolBarWindows::SetTimer() {
-  timer_.start(TimerPeriod);
 }
 
 void ToolBarWindows::ShowToolTip(const ToolTip& tip) {

@@ -13,7 +13,7 @@ namespace toolbar {
 /// The toolbar's widget, the popup of hidden buttons, the tool tip, and the timer for it.
 class ToolBarWindows : public Windows {
  public:
-  explicit ToolBarWindows(QWidget& bar) : bar_(bar) {}
+  explicit ToolBarWindows(QWidget& bar);
 
   QWidget* popup() const { return popup_.get(); }
   QTimer& timerObject() { return timer_; }
@@ -31,7 +31,7 @@ class ToolBarWindows : public Windows {
   void setPopupVisible(bool visible) override;
   bool isPopupVisible() const override { return popup_ && popup_->isVisible(); }
   void setHand(SurfaceName surface, bool hand) override;
-  void SetTimer() override;
+  void SetTimer() override { timer_.start(); }
   void KillTimer() override { timer_.stop(); }
   void StartLeaveTracking(SurfaceName surface) override { tracked_ = surface; }
   void ShowToolTip(const ToolTip& tip) override;
@@ -41,7 +41,7 @@ class ToolBarWindows : public Windows {
   QWidget& bar_;
   std::unique_ptr<QWidget> popup_;
   std::unique_ptr<TipWindow> tip_;
-  QTimer timer_;
+  QTimer timer_{&bar_};
   std::optional<SurfaceName> tracked_;
 };
 

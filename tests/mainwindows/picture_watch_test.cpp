@@ -127,6 +127,22 @@ class PictureWatchTest : public ProgramTest {
     QVERIFY2(draws_ <= 2 + rests, QByteArray::number(draws_));
   }
 
+  /// Changes that never rest are shown all the same, after two seconds.
+  void changesWithoutEnd() {
+    use("plate.png");
+    QElapsedTimer clock, gap;
+    qint64 longestGap = 0;
+    clock.start();
+    gap.start();
+    for (int i = 0; draws_ == 0 && clock.elapsed() < 30'000; ++i) {
+      put(Plate, i % 2 == 0 ? Qt::blue : Qt::green);
+      longestGap = std::max(longestGap, gap.restart());
+      QTest::qWait(5);
+    }
+    QVERIFY2(clock.elapsed() < 2500 + 5 * longestGap, QByteArray::number(clock.elapsed()));
+    QVERIFY2(clock.elapsed() >= 1900 || longestGap > 90, QByteArray::number(clock.elapsed()));
+  }
+
   void ownWrites() {
     use("plate.png");
     program->edit();
