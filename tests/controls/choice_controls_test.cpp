@@ -192,10 +192,11 @@ class ChoiceControlsTest : public QObject {
 
   void popup() {
     Window window;
-    for (int i = 0; i < 30; ++i) window.combo.AddItem(QString::number(i));
+    for (int i = 0; i < 30; ++i) window.combo.AddItem(QString(i, u'W'));
     window.combo.setCurrentIndex(1);
     window.combo.showPopup();
     const QAbstractItemView& popup = *window.combo.view();
+    QVERIFY(popup.viewport()->width() >= popup.sizeHintForColumn(0));
     QCOMPARE(popup.viewport()->height() / popup.sizeHintForRow(0), 20);
     // The choice of the selected entry is one as well.
     const QPoint entry = popup.visualRect(window.combo.model()->index(1, 0)).center();

@@ -36,7 +36,9 @@ QString textOf(const QWidget& control) {
     for (int i = 0; i < grid->columnCount(); ++i) {
       columns += grid->headerItem()->text(i) + u' ' + QString::number(grid->columnWidth(i));
     }
-    return u"%1 (%2)"_s.arg(columns.join(u", ")).arg(grid->topLevelItemCount());
+    return u"%1 (%2, from %3 on)"_s.arg(columns.join(u", "))
+        .arg(grid->topLevelItemCount())
+        .arg(grid->visualItemRect(grid->topLevelItem(0)).left());
   }
   if (const auto* button = qobject_cast<const QPushButton*>(&control)) {
     return button->text() + assetOf(button->icon()) + (button->isDefault() ? u" (default)"_s : QString());
