@@ -1,46 +1,16 @@
-#include "controls/look.h"
 #include "support/diary.h"
-#include "support/real_input.h"
-#include "support/results.h"
 
 using namespace support;
 using mainwindows::Form3;
 using platform::BoxAnswer;
 
-/// Sessions at the windows, step by step, against the diaries kept.
-class SessionsTest : public QObject {
+/// Edits by the tool window's editors, step by step, against the diaries kept.
+class SessionsTest : public DiaryTest {
   Q_OBJECT
 
- private:
-  std::unique_ptr<GameFolder> game;
-  std::unique_ptr<Program> program;
-  std::unique_ptr<Diary> diary;
-
-  /// The diary of a session begins with the theme open.
-  Diary& opened() {
-    program->open();
-    diary = std::make_unique<Diary>(*program, *game);
-    return *diary;
-  }
-
  private Q_SLOTS:
-  void initTestCase() { controls::applyLook(*qApp); }
-  void init() {
-    game = std::make_unique<GameFolder>();
-    game->put(u"Themes/Beta.ini"_s, "[Main]\n[MainStaticB]\nX=1\n");
-    QDir().mkdir(game->native(u"Skins/Beta"_s));
-    game->put(u"Skins/Beta/Sole.ini"_s, "");
-    program = std::make_unique<Program>(*game);
-  }
-  void cleanup() {
-    compareText(QString::fromLatin1(QTest::currentTestFunction()) + u".txt"_s, diary->lines);
-    diary.reset();
-    program.reset();
-  }
-
   void openSaveAndClose() {
-    diary = std::make_unique<Diary>(*program, *game);
-    Diary& d = *diary;
+    Diary& d = begun();
     d.step(u"Open, Cancel"_s, [&] { program->openDialog([](Form3& dialog) { dialog.reject(); }); });
     game->put(ThemeCopy, "[Left]\r\nby=a crash");
     d.step(u"Open"_s, [&] { program->open(); });
@@ -85,37 +55,19 @@ class SessionsTest : public QObject {
   void values() {
     Diary& d = opened();
     d.tag(u"LoadingStaticA"_s);
-    d.row(u"X"_s);
-    d.type("Text1", u"77"_s);
-    d.press("Command1");
-    d.row(u"Z"_s);
-    d.type("Text4", u"1.5."_s);
-    d.press("Command1");
-    d.row(u"Type"_s);
-    d.choose("Combo2", 3);
-    d.press("Command1");
-    d.row(u"Direction"_s);
-    d.choose("Combo2", 1);
-    d.press("Command1");
+    d.change(u"X"_s, "Text1", u"77"_s);
+    d.change(u"Z"_s, "Text4", u"1.5."_s);
+    d.change(u"Type"_s, "Combo2", 3);
+    d.change(u"Direction"_s, "Combo2", 1);
     d.row(u"ColR"_s);
     d.press("Command1");
     d.tag(u"LoadingTextFree"_s);
-    d.row(u"Align"_s);
-    d.choose("Combo2", 2);
-    d.press("Command1");
-    d.row(u"Size"_s);
-    d.type("Text1", u"40000"_s);
-    d.press("Command1");
-    d.row(u"X"_s);
-    d.type("Text1", u"10001"_s);
-    d.press("Command1");
+    d.change(u"Align"_s, "Combo2", 2);
+    d.change(u"Size"_s, "Text1", u"40000"_s);
+    d.change(u"X"_s, "Text1", u"10001"_s);
     d.tag(u"LoadingButtonGo"_s);
-    d.row(u"Visible"_s);
-    d.choose("Combo2", 0);
-    d.press("Command1");
-    d.row(u"H"_s);
-    d.type("Text1", u"0"_s);
-    d.press("Command1");
+    d.change(u"Visible"_s, "Combo2", 0);
+    d.change(u"H"_s, "Text1", u"0"_s);
     d.tool(2);
     // Updates that are refused.
     d.step(u"no row"_s, [&] { program->tools().values().selectRow(-1); });
@@ -134,22 +86,50 @@ class SessionsTest : public QObject {
     d.press("Command1");
   }
 
+  /// The frame of each key, and what its editor makes of a value.
+  void editors() {
+    Diary& d = opened();
+    for (const auto& key :
+         u"X Y SIZE W H PIECEW PIECEH SPACE BANDS LENGTH REFLECTIONSPACING DESELECTREFLECTIONSPACING SELECTH "
+         "SELECTW FADETEXPOS FIRSTCHILD TEXTS PARENT STYLE STATICS SKIPX ALIGN FONT VISIBLE REFLECTION FADE FADETEXT "
+         "REFLECTIONS DIRECTION TYPE TEXT COLOR DCOLOR TCOLOR TDCOLOR SBGCOLOR SBGDCOLOR STCOLOR STDCOLOR TEX FADETEX "
+         "SBGTEX TEXSBG Z TEXX1 TEXY1 TEXX2 TEXY2 INT DINT COLR COLG COLB TEXT1 TEXX STATIC S"_s.split(u' ')) {
+      d.soleRow(u' ' + key.toLower() + u"  "_s, u"0"_s);
+    }
+    for (const char* row :
+         {"ALIGN=2",    "FONT=",       "FONT=3",     "FONT=0.5",    "FONT=1.5",        "FADE=word",
+          "FADE=2",     "DIRECTION=0", "FONT=40000", "DIRECTION=1", "TYPE=font black", "TYPE=Transparent",
+          "TEXT=HELLO", "TEX=Plate",   "COLOR=blue", "COLOR=Blue",  "COLOR=P6Dark",    "COLOR=ColorLight",
+          "COLOR=Red",  "Z="}) {
+      const QString text = QLatin1StringView(row);
+      d.soleRow(text.section(u'=', 0, 0), text.section(u'=', 1));
+    }
+    auto& bar = d.find<controls::NumberBar>("VScroll1");
+    for (const auto& [before, text] : {std::pair(5, u"12.5"_s),
+                                       {5, u"-20"_s},
+                                       {5, u"13.5"_s},
+                                       {5, u"word"_s},
+                                       {0, u"word"_s},
+                                       {120, u"120.2"_s},
+                                       {5, u"-10001"_s},
+                                       {5, u"10001"_s}}) {
+      bar.setValueQuietly(before);
+      d.soleRow(u"X"_s, text);
+    }
+    d.step(u"the bar becomes 9999"_s, [&] { bar.SetValue(9999); });
+  }
+
   void colours() {
     Diary& d = opened();
     d.tag(u"LoadingStaticA"_s);
     d.row(u"Color"_s);
     program->dialogs.colors = {std::nullopt, QColor(200, 100, 50)};
-    d.press("Command2");
-    d.press("Command2");
-    d.press("Command1");
+    d.press("Command2", "Command2", "Command1");
     program->dialogs.inputs = {u""_s, u"RED"_s, u" odd"_s, u"Leaf"_s};
     for (int i = 0; i < 4; ++i) d.press("Command3");
     d.press("Command1");
     program->dialogs.boxes = {BoxAnswer::No, BoxAnswer::Yes};
-    d.press("Command5");
-    d.press("Command5");
-    d.press("Command5");
-    d.press("Command1");
+    d.press("Command5", "Command5", "Command5", "Command1");
     for (const int group : {1, 2, 0}) d.choose("Combo4", group);
     d.choose("Combo3", 1);
     d.press("Command1");
@@ -160,8 +140,7 @@ class SessionsTest : public QObject {
     program->dialogs.boxes = {BoxAnswer::Yes};
     for (const auto& name : {u"P1Dark"_s, u"Lost"_s, u"ColorLightest"_s, u"Blue"_s}) {
       d.soleRow(u"COLOR"_s, name);
-      d.press("Command2");
-      d.press("Command5");
+      d.press("Command2", "Command5");
     }
     d.step(u"another scheme"_s, [&] {
       program->form.schemes().setFocus();
@@ -181,9 +160,7 @@ class SessionsTest : public QObject {
   void wordsAndTextures() {
     Diary& d = opened();
     d.tag(u"LoadingTextFree"_s);
-    d.row(u"Text"_s);
-    d.type("Text2", u"Good morning"_s);
-    d.press("Command1");
+    d.change(u"Text"_s, "Text2", u"Good morning"_s);
     d.type("Text2", u"\u4e2d"_s);
     d.press("Command1");
     d.choose("Combo5", 1);
@@ -192,10 +169,7 @@ class SessionsTest : public QObject {
     for (int i = 0; i < 4; ++i) d.press("Command6");
     d.press("Command1");
     program->dialogs.boxes = {BoxAnswer::No, BoxAnswer::Yes};
-    d.press("Command7");
-    d.press("Command7");
-    d.press("Command7");
-    d.press("Command1");
+    d.press("Command7", "Command7", "Command7", "Command1");
     d.tag(u"LoadingStaticA"_s);
     d.row(u"Tex"_s);
     const QString folder = game->path() + u"Skins\\Alpha"_s;
@@ -203,12 +177,9 @@ class SessionsTest : public QObject {
     for (int i = 0; i < 3; ++i) d.press("Command4");
     d.press("Command1");
     program->dialogs.inputs = {u"plate"_s, u"Leaf"_s};
-    d.press("Command8");
-    d.press("Command8");
-    d.press("Command1");
+    d.press("Command8", "Command8", "Command1");
     program->dialogs.boxes = {BoxAnswer::Yes};
-    d.press("Command9");
-    d.press("Command1");
+    d.press("Command9", "Command1");
   }
 
   /// One report at a time: what has succeeded, or what failed first, and what else is to be known behind it.
@@ -223,9 +194,7 @@ class SessionsTest : public QObject {
     d.step(u"a place that can't be drawn, in a copy that another program changed"_s,
            [&] { program->edit(u"Y"_s, u"99999"_s); });
     d.tag(u"LoadingButtonGo"_s);
-    d.row(u"X"_s);
-    d.type("Text1", u"301"_s);
-    d.press("Command1");
+    d.change(u"X"_s, "Text1", u"301"_s);
     d.tag(u"LoadingTextFree"_s);
     d.row(u"Text"_s);
     d.type("Text2", u"Hi"_s);
@@ -254,145 +223,12 @@ class SessionsTest : public QObject {
     d.row(u"Text"_s);
     d.row(u"Color"_s);
     program->dialogs.inputs = {u"Full"_s, u"Fuller"_s};
-    d.press("Command3");
-    d.press("Command3");
+    d.press("Command3", "Command3");
     program->dialogs.boxes = {BoxAnswer::Yes};
     d.press("Command5");
     program->dialogs.inputs = {u"c98"_s, u"Full"_s};
-    d.press("Command3");
-    d.press("Command3");
-    d.press("Command1");
+    d.press("Command3", "Command3", "Command1");
     d.tool(3);
-  }
-
-  void finder() {
-    Diary& d = opened();
-    toolwindow::Form2& tools = program->tools();
-    tools.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&tools));
-    const auto find = [&](const char* words) {
-      QTRY_COMPARE(QApplication::activeWindow(), &tools);
-      d.step(u"Ctrl+F"_s, [&] {
-        QTest::keyClick(&tools, Qt::Key_F, Qt::ControlModifier);
-        QTRY_VERIFY(QApplication::activeWindow() != &tools && QApplication::activeWindow() != nullptr);
-      });
-      QWidget& finder = *QApplication::activeWindow();
-      d.step(u"words: "_s + QLatin1StringView(words),
-             [&] { finder.findChild<QLineEdit*>()->setText(QLatin1StringView(words)); });
-      d.step(u"Enter"_s, [&] { QTest::keyClick(&finder, Qt::Key_Return); });
-      if (finder.isVisible()) d.step(u"Esc"_s, [&] { QTest::keyClick(&finder, Qt::Key_Escape); });
-    };
-    for (const char* words : {"hello", "x=10 static", "colr", "check pop", "nothing of this"}) find(words);
-  }
-
-  void putBack() {
-    Diary& d = opened();
-    d.step(u"edit"_s, [&] { program->edit(); });
-    d.menuOfRow(u"X"_s);
-    d.menuOfRow(u"Y"_s);
-    d.menuOfRow(u"X"_s, 0);
-    d.tag(u"LoadingTextFree"_s);
-    d.row(u"Text"_s);
-    d.type("Text2", u"Hi"_s);
-    d.press("Command1");
-    d.menuOfRow(u"Text"_s, 0);
-    program->dialogs.boxes = {BoxAnswer::Yes};
-    d.press("Command7");
-    d.choose("Combo5", 0);
-    d.type("Text2", u"Ho"_s);
-    d.press("Command1");
-    d.menuOfRow(u"Text"_s, 0);
-    d.type("Text2", u"Ha"_s);
-    d.press("Command1");
-    d.screen(u"Main Screen"_s);
-    d.tag(u"MainTextFree"_s);
-    d.menuOfRow(u"Text"_s, 0);
-    d.screen(u"Loading Screen"_s);
-    d.tag(u"LoadingStaticA"_s);
-    d.row(u"Color"_s);
-    program->dialogs.colors = {QColor(1, 2, 3)};
-    d.press("Command2");
-    d.menu(u"the colour"_s, d.find<QWidget>("Command2"), {4, 4}, 0);
-    d.menu(u"the list"_s, *d.find<QListWidget>("List1").viewport(), {20, 20});
-    d.menu(u"the preview"_s, *program->form.Workspace, {700, 500});
-  }
-
-  void keys() {
-    Diary& d = opened();
-    toolwindow::Form2& tools = program->tools();
-    tools.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&tools));
-    const auto press = [&](const char* control, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-      auto& widget = d.find<QWidget>(control);
-      d.step(u"%1 gets %2"_s.arg(QLatin1StringView(control), QKeySequence(key | modifiers).toString()), [&] {
-        widget.setFocus();
-        QTest::keyClick(&widget, key, modifiers);
-      });
-    };
-    press("Combo1", Qt::Key_Down);
-    press("Combo1", Qt::Key_Up);
-    press("List1", Qt::Key_End);
-    press("List1", Qt::Key_L);
-    press("List1", Qt::Key_PageUp);
-    d.tag(u"LoadingStaticA"_s);
-    press("ListView1", Qt::Key_Down);
-    press("ListView1", Qt::Key_Down);
-    press("ListView1", Qt::Key_Return);
-    press("Text1", Qt::Key_Up);
-    press("Text1", Qt::Key_PageDown);
-    press("Text1", Qt::Key_Return);
-    press("ListView1", Qt::Key_C);
-    press("Combo3", Qt::Key_Return);
-    press("Command1", Qt::Key_Space);
-    press("ListView1", Qt::Key_S, Qt::ControlModifier);
-    press("ListView1", Qt::Key_F5);
-    press("ListView1", Qt::Key_F10, Qt::ShiftModifier);
-    press("ListView1", Qt::Key_F, Qt::ControlModifier);
-    press("ListView1", Qt::Key_W, Qt::ControlModifier);
-  }
-
-  void hand() {
-    Diary& d = opened();
-    mainwindows::Workspace& preview = *program->form.Workspace;
-    program->form.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&program->form));
-    const auto drag = [&](const char* what, const QPoint& from, const QPoint& by, Qt::KeyboardModifiers keys = {}) {
-      d.step(u"%1: press at %2,%3"_s.arg(QLatin1StringView(what)).arg(from.x()).arg(from.y()),
-             [&] { QTest::mousePress(&preview, Qt::LeftButton, keys, from); });
-      if (!by.isNull()) {
-        d.step(u"move by %1,%2"_s.arg(by.x()).arg(by.y()), [&] {
-          const QString before = preview.accessibleDescription();
-          moveMouse(preview, from + by / 2, Qt::LeftButton, keys);
-          moveMouse(preview, from + by, Qt::LeftButton, keys);
-          QTRY_VERIFY(preview.accessibleDescription() != before);
-        });
-      }
-      d.step(u"release"_s, [&] { QTest::mouseRelease(&preview, Qt::LeftButton, keys, from + by); });
-    };
-    drag("pick", {90, 80}, {});
-    drag("pick again", {90, 80}, {});
-    drag("pick a text", {400, 110}, {});
-    drag("pick nothing", {700, 500}, {});
-    drag("move", {90, 80}, {40, 25});
-    drag("size", {178, 133}, {12, 7});
-    drag("move a button", {340, 230}, {-10, 20}, Qt::ControlModifier);
-    drag("move its text", {305, 235}, {9, 9});
-    d.step(u"right, twice, and down, which stays held"_s, [&] {
-      for (const auto key : {Qt::Key_Right, Qt::Key_Right}) QTest::keyClick(&preview, key);
-      QTest::keyPress(&preview, Qt::Key_Down);
-      QTRY_VERIFY(!preview.accessibleDescription().isEmpty());
-    });
-    d.step(u"no key is held"_s, [&] {
-      QTest::keyRelease(&preview, Qt::Key_Down);
-      QTRY_VERIFY(preview.accessibleDescription().isEmpty());
-    });
-    d.step(u"left, Esc"_s, [&] {
-      for (const auto key : {Qt::Key_Left, Qt::Key_Escape}) QTest::keyClick(&preview, key);
-    });
-    d.step(u"up, Save"_s, [&] {
-      QTest::keyClick(&preview, Qt::Key_Up, Qt::ShiftModifier);
-      program->click(2);
-    });
   }
 };
 

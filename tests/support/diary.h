@@ -1,23 +1,14 @@
 #pragma once
 
-#include <QAccessible>
 #include <QMenu>
 
+#include "controls/look.h"
 #include "platform/code_page.h"
 #include "platform/file_identity.h"
-#include "support/windows.h"
+#include "support/results.h"
+#include "support/shown.h"
 
 namespace support {
-
-/// The marks of a row beside its text: "bold, grey, tip '...', told '...'".
-inline QString marksOf(const QFont& font, const QVariant& foreground, const QString& tip, const QString& told) {
-  QStringList marks;
-  if (font.bold()) marks += u"bold"_s;
-  if (foreground.isValid()) marks += u"grey"_s;
-  if (!tip.isEmpty()) marks += u"tip '%1'"_s.arg(tip);
-  if (!told.isEmpty() && told != tip) marks += u"told '%1'"_s.arg(told);
-  return QString(marks.join(u", ")).replace(u'\n', u'|');
-}
 
 /// A session, written down: what each step has changed of what a user has of the program and of the game's files. A
 /// picture is told by the sum of its pixels.
@@ -39,8 +30,8 @@ class Diary {
     lines += QStringList{u""_s, u"> "_s + what};
     act();
     settle();
-    for (Shown before; before != now();) {  // what comes in idle time
-      before = now();
+    for (Shown before; before != shownNow(program_);) {  // what comes in idle time
+      before = shownNow(program_);
       settle();
     }
     for (const QString& dialog : program_.dialogs.asked.sliced(asked)) lines += u"asked: "_s + dialog;
@@ -66,8 +57,12 @@ class Diary {
   void type(const char* box, const QString& text) {
     step(u"%1 becomes '%2'"_s.arg(QLatin1StringView(box), text), [&] { find<controls::TextBox>(box).SetText(text); });
   }
-  void press(const char* button) {
-    step(u"press "_s + QLatin1StringView(button), [&] { find<QPushButton>(button).click(); });
+  /// Presses one button of the tool window after the other.
+  void press(auto... buttons) {
+    const auto one = [&](const char* button) {
+      step(u"press "_s + QLatin1StringView(button), [&] { find<QPushButton>(button).click(); });
+    };
+    (one(buttons), ...);
   }
   /// An entry of a list of the tool window, as the user chooses it.
   void choose(const char* list, int entry) {
@@ -76,6 +71,17 @@ class Diary {
       combo.setCurrentIndex(entry);
       Q_EMIT combo.Click(controls::Cause::User);
     });
+  }
+  /// Chooses a row of the object, gives the control of its editor another text, or entry, and presses Update.
+  void change(const QString& key, const char* control, const QString& text) {
+    row(key);
+    type(control, text);
+    press("Command1");
+  }
+  void change(const QString& key, const char* list, int entry) {
+    row(key);
+    choose(list, entry);
+    press("Command1");
   }
   void tool(int button) {
     constexpr const char* Names[] = {"Open", "Save", "Close", "Background Color"};
@@ -113,8 +119,6 @@ class Diary {
   }
 
  private:
-  using Shown = std::vector<std::pair<QString, QString>>;
-
   struct Drawings : QObject {
     bool eventFilter(QObject* /*bar*/, QEvent* event) override {
       count += event->type() == QEvent::Show;
@@ -123,79 +127,8 @@ class Diary {
     int count = 0;
   };
 
-  /// What the windows show, by the names of the controls.
-  Shown now() const {
-    Shown all;
-    QWidgetList windows = QApplication::topLevelWidgets();
-    std::sort(windows.begin(), windows.end(),
-              [](const QWidget* a, const QWidget* b) { return a->objectName() < b->objectName(); });
-    for (const QWidget* window : windows) {
-      if (!window->isVisible() || window->windowType() == Qt::ToolTip || window->objectName().startsWith(u"qt_"))
-        continue;
-      const QString name = window->objectName().isEmpty() ? u"window"_s : window->objectName();
-      all.emplace_back(name, window->windowTitle());
-      const QWidget* focus = window->focusWidget();
-      all.emplace_back(name + u" focus"_s, focus == nullptr ? u"none"_s : focus->objectName());
-      for (const QWidget* control : window->findChildren<QWidget*>()) {
-        const QString& own = control->objectName();
-        if (control->window() != window || !control->isVisible() || own.isEmpty() || own.startsWith(u"qt_")) continue;
-        addControl(all, *control, name + u'.' + own);
-      }
-    }
-    const mainwindows::Form1& form = program_.form;
-    const mainwindows::Workspace& preview = *form.Workspace;
-    const QRectF mark = preview.mark();
-    all.emplace_back(u"status"_s, program_.status());
-    all.emplace_back(u"toolbar"_s, program_.buttons());
-    all.emplace_back(u"mark"_s,
-                     preview.markVisible()
-                         ? u"%1,%2 %3x%4"_s.arg(mark.x()).arg(mark.y()).arg(mark.width()).arg(mark.height()) +
-                               (preview.blinking() ? u""_s : u" still"_s)
-                         : u"none"_s);
-    all.emplace_back(u"label"_s, preview.accessibleDescription());
-    return all;
-  }
-
-  static void addControl(Shown& all, const QWidget& control, const QString& name) {
-    const QString state = control.isEnabled() ? QString() : u" (disabled)"_s;
-    if (const auto* combo = qobject_cast<const QComboBox*>(&control)) {
-      QStringList entries;
-      for (int i = 0; i < combo->count(); ++i) entries += combo->itemText(i);
-      all.emplace_back(name + u" entries"_s, entries.join(u','));
-      all.emplace_back(name, combo->currentText() + state);
-    } else if (const auto* list = qobject_cast<const QListWidget*>(&control)) {
-      QStringList rows;
-      for (int i = 0; i < list->count(); ++i) {
-        const QListWidgetItem& row = *list->item(i);
-        rows += row.text();
-        const QString marks = marksOf(row.font(), row.data(Qt::ForegroundRole), row.toolTip(),
-                                      row.data(Qt::AccessibleDescriptionRole).toString());
-        if (!marks.isEmpty()) all.emplace_back(name + u' ' + row.text(), marks);
-      }
-      const auto selected = list->selectedItems();
-      all.emplace_back(name + u" rows"_s, rows.join(u','));
-      all.emplace_back(name, (selected.isEmpty() ? u"none"_s : selected.first()->text()) + state);
-    } else if (const auto* grid = qobject_cast<const QTreeWidget*>(&control)) {
-      for (int i = 0; i < grid->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem& row = *grid->topLevelItem(i);
-        const QString marks =
-            marksOf(row.font(1), {}, row.toolTip(0), row.data(0, Qt::AccessibleDescriptionRole).toString());
-        all.emplace_back(name + u' ' + row.text(0), row.text(1) + (marks.isEmpty() ? QString() : u"   "_s + marks));
-      }
-      const auto selected = grid->selectedItems();
-      all.emplace_back(name, (selected.isEmpty() ? u"none"_s : selected.first()->text(0)) + state);
-    } else if (const auto* edit = qobject_cast<const QLineEdit*>(&control)) {
-      all.emplace_back(
-          name, edit->text() + (edit->hasSelectedText() ? u" ['%1']"_s.arg(edit->selectedText()) : QString()) + state);
-    } else if (const auto* swatch = qobject_cast<const controls::SwatchButton*>(&control)) {
-      all.emplace_back(name, swatch->BackColor().name() + state);
-    } else {
-      all.emplace_back(name, state.isEmpty() ? u"shown"_s : state);
-    }
-  }
-
   void tellShown() {
-    Shown after = now();
+    Shown after = shownNow(program_);
     for (const auto& line : after) {
       if (std::find(shown_.begin(), shown_.end(), line) == shown_.end()) lines += line.first + u": "_s + line.second;
     }
@@ -268,6 +201,49 @@ class Diary {
   Shown shown_;
   quint16 picture_ = 0;
   QMap<QString, Written> written_;
+};
+
+/// A test whose functions each are a session, compared with the diary kept of it.
+class DiaryTest : public QObject {
+  Q_OBJECT
+
+ protected:
+  std::unique_ptr<GameFolder> game;
+  std::unique_ptr<Program> program;
+  std::unique_ptr<Diary> diary;
+
+  Diary& begun() {
+    diary = std::make_unique<Diary>(*program, *game);
+    return *diary;
+  }
+  /// The diary of a session that begins with the theme open.
+  Diary& opened() {
+    program->open();
+    return begun();
+  }
+  /// The same with the keyboard in a window.
+  Diary& openedAt(QWidget& (*window)(const Program& program)) {
+    Diary& d = opened();
+    QWidget& active = window(*program);
+    active.activateWindow();
+    if (!QTest::qWaitForWindowActive(&active)) qFatal("the window isn't active");
+    return d;
+  }
+
+ private Q_SLOTS:
+  void initTestCase() { controls::applyLook(*qApp); }
+  void init() {
+    game = std::make_unique<GameFolder>();
+    game->put(u"Themes/Beta.ini"_s, "[Main]\n[MainStaticB]\nX=1\n");
+    QDir().mkdir(game->native(u"Skins/Beta"_s));
+    game->put(u"Skins/Beta/Sole.ini"_s, "");
+    program = std::make_unique<Program>(*game);
+  }
+  void cleanup() {
+    compareText(QString::fromLatin1(QTest::currentTestFunction()) + u".txt"_s, diary->lines);
+    diary.reset();
+    program.reset();
+  }
 };
 
 }  // namespace support
