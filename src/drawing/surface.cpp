@@ -65,14 +65,14 @@ void Surface::drawImage(const QImage& picture, int x, int y) {
 }
 
 void Surface::SetFontName(const QString& face) {
-  if (face != fontName_) font_.reset();
+  if (face != fontName_) face_ = nullptr;
   fontName_ = face;
 }
 
 void Surface::SetFontSize(float points) {
   if (!(points > 0)) return;
   const float size = std::min(points, static_cast<float>(LargestPoints));
-  if (size != fontSize_) font_.reset();
+  if (size != fontSize_) face_ = nullptr;
   fontSize_ = size;
 }
 
@@ -84,27 +84,45 @@ void Surface::setPen(const Pen& pen) {
   SetFontSize(pen.points);
 }
 
-const QFont& Surface::font() const {
-  if (!font_) font_ = fontOf(fontName_, fontSize_);
-  return *font_;
+Surface::Face& Surface::face() const {
+  constexpr std::size_t MostFaces = 64;
+  if (face_ != nullptr) return *face_;
+  if (faces_.size() >= MostFaces) faces_.clear();
+  const auto [place, isNew] = faces_.try_emplace({fontName_, fontSize_});
+  if (isNew) place->second.font = fontOf(fontName_, fontSize_);
+  face_ = &place->second;
+  return *face_;
+}
+
+Surface::Layout Surface::layoutOf(const QString& text) const {
+  constexpr qsizetype MostTexts = 256;
+  constexpr qsizetype LongestText = 200;
+  QHash<QString, Layout>& texts = face().texts;
+  const auto known = texts.constFind(text);
+  if (known != texts.constEnd()) return *known;
+  const QFontMetricsF metrics(face().font, &image_);
+  const Layout layout{metrics.horizontalAdvance(text), metrics.boundingRect(text)};
+  if (texts.size() >= MostTexts) texts.clear();
+  if (text.size() <= LongestText) texts.insert(text, layout);
+  return layout;
 }
 
 double Surface::TextWidth(const QString& text) const {
-  return QFontMetricsF(font(), &image_).horizontalAdvance(text);
+  return layoutOf(text).width;
 }
 
 double Surface::TextHeight(const QString&) const {
-  return QFontMetricsF(font(), &image_).height();
+  return QFontMetricsF(face().font, &image_).height();
 }
 
 void Surface::Print(const QString& text) {
-  const QFontMetricsF metrics(font(), &image_);
-  const QPointF baseline(CurrentX, static_cast<double>(CurrentY) + metrics.ascent());
+  const double ascent = QFontMetricsF(face().font, &image_).ascent();
+  const QPointF baseline(CurrentX, static_cast<double>(CurrentY) + ascent);
   // Antialiasing may reach one pixel further on each side.
-  const QRectF ink = metrics.boundingRect(text).translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
+  const QRectF ink = layoutOf(text).ink.translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
   if (ink.isEmpty()) return;
   QPainter painter(&image_);
-  painter.setFont(font());
+  painter.setFont(face().font);
   painter.setPen(ForeColor);
   painter.setRenderHint(QPainter::TextAntialiasing);
   painter.drawText(baseline, text);

@@ -1,9 +1,11 @@
 #pragma once
 
-#include <optional>
+#include <map>
+#include <utility>
 
 #include <QColor>
 #include <QFont>
+#include <QHash>
 #include <QImage>
 #include <QRect>
 #include <QString>
@@ -26,6 +28,7 @@ class Surface {
   static constexpr int Height = 600;
 
   Surface();
+  Q_DISABLE_COPY_MOVE(Surface)
 
   const QImage& image() const { return image_; }
 
@@ -60,13 +63,28 @@ class Surface {
   QRect takeDirty();
 
  private:
+  /// What laying a text out tells: its width, and its ink round the beginning of its baseline.
+  struct Layout {
+    double width = 0;
+    QRectF ink;
+  };
+  /// A font, and the texts that were laid out in it.
+  struct Face {
+    QFont font;
+    QHash<QString, Layout> texts;
+  };
+
   void mark(const QRect& rectangle);
-  const QFont& font() const;
+  /// The font of the pen's name and size.
+  Face& face() const;
+  /// Short texts are remembered: a frame of a drag prints the same ones as the frame before.
+  Layout layoutOf(const QString& text) const;
 
   QImage image_;
   QString fontName_;
   float fontSize_ = 0;
-  mutable std::optional<QFont> font_;  ///< made from name and size when first needed
+  mutable std::map<std::pair<QString, float>, Face> faces_;
+  mutable Face* face_ = nullptr;  ///< that of name and size, once it was needed
   QRect dirty_;
 };
 
