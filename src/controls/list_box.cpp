@@ -7,18 +7,26 @@
 namespace controls {
 namespace {
 
-constexpr int WhyBold = Qt::UserRole;
-
-/// A row whose text is near at hand: work on long lists spends its time on looking for the texts.
+/// A row with its text and its looks near at hand: work on long lists spends its time on looking for them.
 struct Row : QListWidgetItem {
   explicit Row(const QString& shown) : QListWidgetItem(shown), name(shown), order(platform::upperCase(shown)) {}
   const QString name;
   const QString order;  ///< see platform::nameLess
+  QString whyBold;
+  QString tip;
+  bool isGrey = false;
 };
 
 /// All rows come from AddItem.
-const Row* rowIn(const QListWidget& list, int index) {
-  return static_cast<const Row*>(list.item(index));
+Row* rowIn(const QListWidget& list, int index) {
+  return static_cast<Row*>(list.item(index));
+}
+
+/// Tells screen readers what bold letters and tool tip tell.
+void describe(Row& row) {
+  QStringList lines{row.whyBold, row.tip};
+  lines.removeAll(QString());
+  row.setData(Qt::AccessibleDescriptionRole, lines.join(u'\n'));
 }
 
 }  // namespace
@@ -73,26 +81,28 @@ QString ListBox::Text() const {
 }
 
 void ListBox::setRowToolTip(int index, const QString& text) {
-  QListWidgetItem* row = item(index);
+  Row* row = rowIn(*this, index);
   // A change of one row, even from nothing to nothing, has the list look for the row from its end.
-  if (row == nullptr || row->toolTip() == text) return;
+  if (row == nullptr || row->tip == text) return;
+  row->tip = text;
   row->setToolTip(text);
   describe(*row);
 }
 
 void ListBox::setBold(int index, const QString& why) {
-  QListWidgetItem* row = item(index);
-  if (row == nullptr || row->data(WhyBold).toString() == why) return;
+  Row* row = rowIn(*this, index);
+  if (row == nullptr || row->whyBold == why) return;
+  row->whyBold = why;
   QFont letters = font();
   letters.setBold(true);
   row->setData(Qt::FontRole, why.isEmpty() ? QVariant() : QVariant(letters));
-  row->setData(WhyBold, why);
   describe(*row);
 }
 
 void ListBox::setGrey(int index, bool grey) {
-  QListWidgetItem* row = item(index);
-  if (row == nullptr || row->data(Qt::ForegroundRole).isValid() == grey) return;
+  Row* row = rowIn(*this, index);
+  if (row == nullptr || row->isGrey == grey) return;
+  row->isGrey = grey;
   const QBrush brush = palette().brush(QPalette::Disabled, QPalette::Text);
   row->setData(Qt::ForegroundRole, grey ? QVariant(brush) : QVariant());
 }
@@ -100,12 +110,6 @@ void ListBox::setGrey(int index, bool grey) {
 QString ListBox::told(int index) const {
   const QListWidgetItem* row = item(index);
   return row == nullptr ? QString() : row->data(Qt::AccessibleDescriptionRole).toString();
-}
-
-void ListBox::describe(QListWidgetItem& row) {
-  QStringList lines{row.data(WhyBold).toString(), row.toolTip()};
-  lines.removeAll(QString());
-  row.setData(Qt::AccessibleDescriptionRole, lines.join(u'\n'));
 }
 
 void ListBox::timerEvent(QTimerEvent* event) {

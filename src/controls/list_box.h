@@ -49,8 +49,6 @@ class ListBox : public RowPicking<QListWidget> {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  void describe(QListWidgetItem& row);
-
   Order order_;
   FramePacer frame_{[this] { setUpdatesEnabled(true); }};  ///< shows the added rows, once a frame
 };
