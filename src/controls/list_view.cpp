@@ -12,6 +12,19 @@ namespace {
 constexpr int NarrowestColumn = 10;
 enum Column { TextColumn, SubItemColumn };
 
+/// Whether a key opens the editor of any row.
+bool opensRow(const QKeyEvent& event) {
+  const bool plain = (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+  return plain && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_F2);
+}
+
+/// The digit that a key types; empty for others.
+QString digitOf(const QKeyEvent& event) {
+  const bool command = (event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) != Qt::NoModifier;
+  const QString typed = event.text();
+  return !command && typed.size() == 1 && u'0' <= typed[0] && typed[0] <= u'9' ? typed : QString();
+}
+
 }  // namespace
 
 ListView::ListView(QWidget* parent) : RowPicking(parent) {
@@ -23,6 +36,7 @@ ListView::ListView(QWidget* parent) : RowPicking(parent) {
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setItemDelegate(new ShownTexts(this));
+  connect(this, &QTreeWidget::doubleClicked, this, [this](const QModelIndex& cell) { Q_EMIT opened(cell.row(), {}); });
   header()->setSectionsMovable(false);
   header()->setStretchLastSection(false);
   header()->setMinimumSectionSize(NarrowestColumn);
@@ -79,6 +93,16 @@ void ListView::picked(int row) {
 
 void ListView::menuWanted(int row, const QPoint& place) {
   Q_EMIT menuAsked(row, place);
+}
+
+void ListView::keyPressEvent(QKeyEvent* event) {
+  const int row = selectedRow();
+  const QString digit = digitOf(*event);
+  const bool types = row >= 0 && !digit.isEmpty() && takesDigits_ && takesDigits_(row);
+  if (row < 0 || !(types || opensRow(*event))) return RowPicking::keyPressEvent(event);
+  if (event->isAutoRepeat()) return;
+  picked(row);
+  Q_EMIT opened(row, digit);
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QTreeWidget>
 
 #include "controls/row_picking.h"
@@ -29,21 +31,28 @@ class ListView : public RowPicking<QTreeWidget> {
   using RowPicking::selectedRow;
   /// Selects the row as code would: fires nothing. -1 selects nothing.
   void selectRow(int row) { select(row); }
+  /// Tells of which rows a digit opens the editor. Of others, and without this, digits search as letters do.
+  void setTakesDigits(std::function<bool(int row)> takesDigits) { takesDigits_ = std::move(takesDigits); }
 
  Q_SIGNALS:
   /// A click on a row, also on the selected one, or a change of row by the keyboard; neither code nor focus.
   void ItemClick(int row);
+  /// Behind the ItemClick: the user wants to go into the editor of the row, by Enter, F2, a double click or a digit,
+  /// which is then the first one `typed` there.
+  void opened(int row, const QString& typed);
   /// The user has asked for the menu of a row, by the mouse or the keyboard.
   void menuAsked(int row, const QPoint& place);
 
  protected:
   void picked(int row) override;
   void menuWanted(int row, const QPoint& place) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   int gain() const { return std::max(0, width() - widthAsTold_); }
 
+  std::function<bool(int row)> takesDigits_;
   int widthAsTold_ = 0;  ///< width of the list when its columns were set
   int given_ = 0;        ///< pixels that the last column has been widened by since then
 };

@@ -124,6 +124,17 @@ bool runInRow(Session& session, const EditedRow& row,
 
 }  // namespace
 
+QString changeText(EditorFrame frame, const QString& key, const Proposal& before, const Proposal& proposal) {
+  if (!proposal.value) return {};
+  QStringList changes;
+  const auto kind = referenceOf(frame);
+  if (proposal.value != before.value) changes += assignment(platform::trimBlanks(key), *proposal.value);
+  if (kind && proposal.content != before.content) {
+    changes += contentAssignment(fileOf(*kind).copy, *proposal.value, proposal.content);
+  }
+  return changes.join(QStringLiteral(", "));
+}
+
 bool commitRow(Session& session, const EditedRow& row, const std::function<Proposal(EditorFrame)>& editor) {
   return runInRow(session, row, [&](const Target& target, QStringList& told) -> std::optional<QString> {
     const auto group = themefiles::groupOf(target.key);

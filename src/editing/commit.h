@@ -29,7 +29,11 @@ struct EditedRow {
 struct Proposal {
   std::optional<QString> value;  ///< none if nothing is selected in the editor
   QString content;               ///< of a reference: the words or the file that its name stands for
+  bool operator==(const Proposal&) const = default;
 };
+
+/// What a commit would tell of a proposal for a key that stands as in `before`; empty if nothing would change.
+QString changeText(themefiles::EditorFrame frame, const QString& key, const Proposal& before, const Proposal& proposal);
 
 /// Update: writes what the editor of the row's key proposes. A key without an editor is written nothing; all other
 /// steps are the same. Returns whether nothing failed.

@@ -70,6 +70,7 @@ void Session::chooseObject(Chooser chooser) {
   if (chooser == Chooser::User) awaited_.reset();
   settle();
   if (!isOpen()) return;  // what came to its end may have served events
+  const platform::ReportScope telling(status_);
   Q_EMIT valuesRead(themefiles::ReadTag(state_, object(), status_));
   Q_EMIT markWanted(chooser == Chooser::User ? MarkReason::Picked : MarkReason::Listed);
   Q_EMIT objectChosen();

@@ -71,6 +71,15 @@ bool openCopies(Form1& form, const themefiles::ThemePaths& chosen) {
                            [&] { themefiles::MakeWorkingCopies(form.services.state, chosen, form); });
 }
 
+/// What is lost of an editor, or left out by Save.
+QString untakenIn(const Form1& form) {
+  return form.toolWindow() == nullptr ? QString() : form.toolWindow()->untaken();
+}
+
+void noteUntaken(Form1& form, const QString& untaken) {
+  if (!untaken.isEmpty()) form.note(untaken);
+}
+
 void hideMark(Form1& form) {
   form.Workspace->setBlinking(false);
   form.Workspace->SetVisible(false);
@@ -140,6 +149,7 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
     };
     Form3 dialog(gameFolder.path, themes, open, &form);
     if (controls::runModal(dialog) != QDialog::Accepted) return;
+    const QString untaken = untakenIn(form);
     dropEarlierTheme(form);
     showToolWindow(form);
     ReadTheme(form);
@@ -148,6 +158,7 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
     form.schemes().show();
     const QStringList opened{dialog.themes().Text(), dialog.skins().Text(), dialog.languages().Text()};
     telling->success(gameFolder.problem.isEmpty() ? opened.join(QStringLiteral(", ")) : gameFolder.problem);
+    noteUntaken(form, untaken);
   });
 }
 
@@ -167,6 +178,7 @@ void SaveTheme(Form1& form) {
     themefiles::saveWorkingCopies(form.services.state, form);
     form.enableCommand(Command::Save, false);
     telling.success(QStringLiteral("Saved"));
+    noteUntaken(form, untakenIn(form));
     Q_EMIT form.session().differencesDue();
   });
 }
@@ -174,6 +186,7 @@ void SaveTheme(Form1& form) {
 void CloseTheme(Form1& form) {
   platform::ReportScope telling(form);
   if (!mayDropChanges(form)) return;
+  const QString untaken = untakenIn(form);
   form.queue().forget();
   themefiles::forgetTheme(form.services.state);
   hideMark(form);
@@ -186,6 +199,7 @@ void CloseTheme(Form1& form) {
     form.enableCommand(command, false);
   }
   telling.success(QStringLiteral("Closed"));
+  noteUntaken(form, untaken);
 }
 
 void ChooseBackgroundColor(Form1& form) {

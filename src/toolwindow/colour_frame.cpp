@@ -42,6 +42,7 @@ ColorFrame::ColorFrame(const ToolServices& services, PlacedControls& placed, QWi
   Command2->setToolTip(QStringLiteral("Change Color"));
   for (const QStringView group : Groups) Combo4->AddItem(group.toString());
   Combo3->setSwatches([this](const QString& name) { return previewColor(name); });
+  for (controls::ComboBox* list : {Combo4, Combo3}) watch(*list);
   connect(Combo4, &controls::ComboBox::Click, this, &ColorFrame::Combo4_Click);
   connect(Combo3, &controls::ComboBox::Click, this, &ColorFrame::Combo3_Click);
   connect(&services.session, &editing::Session::colorsChanged, this, &ColorFrame::updateColors);
@@ -80,6 +81,11 @@ void ColorFrame::load(const themefiles::GroupRow& /*group*/, const QString& valu
   listNames(*group);
   Combo4->SetListIndex(static_cast<int>(*group));
   Combo3->selectText(value);
+}
+
+/// The names, once there are any.
+QWidget* ColorFrame::entrance() const {
+  return Combo3->ListCount() > 0 ? Combo3 : Combo4;
 }
 
 editing::Proposal ColorFrame::proposal() const {

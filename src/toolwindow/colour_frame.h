@@ -18,8 +18,11 @@ class ColorFrame : public ValueFrame {
  public:
   ColorFrame(const ToolServices& services, PlacedControls& placed, QWidget* parent);
 
-  void load(const themefiles::GroupRow& group, const QString& value) override;
   editing::Proposal proposal() const override;
+
+ protected:
+  void load(const themefiles::GroupRow& group, const QString& value) override;
+  QWidget* entrance() const override;
 
  private:
   void updateColors();

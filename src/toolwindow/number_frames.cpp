@@ -40,13 +40,18 @@ NumberFrame::NumberFrame(const ToolServices& services, PlacedControls& placed, Q
   placed.add(*VScroll1, &ToolLayout::VScroll1, "VScroll1", "Raise or lower the number");
   Text1->setKeyFilter(QStringLiteral("0123456789"));
   connect(Text1, &controls::TextBox::Change, this, &NumberFrame::Text1_Change);
-  connect(Text1, &controls::TextBox::enter, this, &ValueFrame::updateWanted);
+  watch(*Text1);
   connect(VScroll1, &controls::NumberBar::Change, this, &NumberFrame::VScroll1_Change);
+  connect(VScroll1, &controls::NumberBar::actionTriggered, this, &NumberFrame::touch);
   for (QObject* part : std::initializer_list<QObject*>{Text1, VScroll1}) part->installEventFilter(this);
 }
 
 void NumberFrame::load(const themefiles::GroupRow& /*group*/, const QString& value) {
   Text1->SetText(value);
+}
+
+QWidget* NumberFrame::entrance() const {
+  return Text1;
 }
 
 editing::Proposal NumberFrame::proposal() const {
@@ -87,6 +92,7 @@ bool NumberFrame::eventFilter(QObject* part, QEvent* event) {
 }
 
 bool NumberFrame::count(int steps) {
+  if (steps != 0) touch();
   VScroll1->SetValue(VScroll1->Value() + steps);
   return steps != 0;
 }
@@ -96,11 +102,15 @@ DecimalFrame::DecimalFrame(const ToolServices& services, PlacedControls& placed,
   placed.add(*this, &ToolLayout::FloatNumbers, "FloatNumbers");
   placed.add(*Text4, &ToolLayout::Text4, "Text4", "Number with a fraction");
   Text4->setKeyFilter(QStringLiteral("0123456789."));
-  connect(Text4, &controls::TextBox::enter, this, &ValueFrame::updateWanted);
+  watch(*Text4);
 }
 
 void DecimalFrame::load(const themefiles::GroupRow& /*group*/, const QString& value) {
   Text4->SetText(value);
+}
+
+QWidget* DecimalFrame::entrance() const {
+  return Text4;
 }
 
 editing::Proposal DecimalFrame::proposal() const {

@@ -17,10 +17,11 @@ class NumberFrame : public ValueFrame {
  public:
   NumberFrame(const ToolServices& services, PlacedControls& placed, QWidget* parent);
 
-  void load(const themefiles::GroupRow& group, const QString& value) override;
   editing::Proposal proposal() const override;
 
  protected:
+  void load(const themefiles::GroupRow& group, const QString& value) override;
+  QWidget* entrance() const override;
   bool eventFilter(QObject* part, QEvent* event) override;
 
  private:
@@ -40,8 +41,11 @@ class DecimalFrame : public ValueFrame {
  public:
   DecimalFrame(const ToolServices& services, PlacedControls& placed, QWidget* parent);
 
-  void load(const themefiles::GroupRow& group, const QString& value) override;
   editing::Proposal proposal() const override;
+
+ protected:
+  void load(const themefiles::GroupRow& group, const QString& value) override;
+  QWidget* entrance() const override;
 
  private:
   controls::TextBox* const Text4;

@@ -78,14 +78,13 @@ ReferenceFrame::ReferenceFrame(ReferenceKind kind, const ToolServices& services,
   add(*add_, parts.add);
   add(*remove_, parts.remove);
   add(*box_, parts.box);
+  watch(*list_);
+  watch(*box_);
   connect(list_, &controls::ComboBox::Click, this, &ReferenceFrame::keyChosen);
   onClick(add_, [this] { addKey(); });
   onClick(
       remove_, [this] { removeKey(); }, list_);
-  if (Command4 == nullptr) {
-    connect(box_, &controls::TextBox::enter, this, &ValueFrame::updateWanted);
-    return;
-  }
+  if (Command4 == nullptr) return;
   box_->setEnabled(false);
   placed.add(*Command4, &TL::Command4, "Command4", "Change Filename");
   onClick(
@@ -100,6 +99,12 @@ void ReferenceFrame::load(const themefiles::GroupRow& /*group*/, const QString& 
   list_->selectText(value);
 }
 
+/// The words, once there is a key for them.
+QWidget* ReferenceFrame::entrance() const {
+  const bool writes = box_->isEnabled() && list_->ListIndex() >= 0;
+  return writes ? static_cast<QWidget*>(box_) : list_;
+}
+
 editing::Proposal ReferenceFrame::proposal() const {
   if (list_->Text().isEmpty()) return {};
   return {list_->Text(), box_->Text()};
@@ -110,6 +115,7 @@ void ReferenceFrame::keyChosen() {
   const auto content = editing::referenceContent(services.session, kind_, list_->Text());
   box_->SetText(content.value_or(QString()));
   if (!content) list_->SetListIndex(-1);
+  contentShown();
 }
 
 void ReferenceFrame::addKey() {

@@ -17,8 +17,11 @@ class ReferenceFrame : public ValueFrame {
  public:
   ReferenceFrame(editing::ReferenceKind kind, const ToolServices& services, PlacedControls& placed, QWidget* parent);
 
-  void load(const themefiles::GroupRow& group, const QString& value) override;
   editing::Proposal proposal() const override;
+
+ protected:
+  void load(const themefiles::GroupRow& group, const QString& value) override;
+  QWidget* entrance() const override;
 
  private:
   void keyChosen();

@@ -10,6 +10,7 @@ SelectionFrame::SelectionFrame(const ToolServices& services, PlacedControls& pla
     : ValueFrame(services, parent), Combo2(new controls::ComboBox(this)) {
   placed.add(*this, &ToolLayout::Selection, "Selection");
   placed.add(*Combo2, &ToolLayout::Combo2, "Combo2", "Value");
+  watch(*Combo2);
 }
 
 void SelectionFrame::load(const themefiles::GroupRow& group, const QString& value) {
@@ -20,6 +21,10 @@ void SelectionFrame::load(const themefiles::GroupRow& group, const QString& valu
   } else {
     Combo2->selectText(value);  // a value outside the list selects nothing
   }
+}
+
+QWidget* SelectionFrame::entrance() const {
+  return Combo2;
 }
 
 /// Selects the entry whose number is the value.

@@ -11,8 +11,11 @@ class SelectionFrame : public ValueFrame {
  public:
   SelectionFrame(const ToolServices& services, PlacedControls& placed, QWidget* parent);
 
-  void load(const themefiles::GroupRow& group, const QString& value) override;
   editing::Proposal proposal() const override;
+
+ protected:
+  void load(const themefiles::GroupRow& group, const QString& value) override;
+  QWidget* entrance() const override;
 
  private:
   void selectNumbered(const QString& value);

@@ -1,7 +1,9 @@
 #include "toolwindow/tool_window.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -37,6 +39,10 @@ static_assert(editing::LongestValue == controls::LongestText, "an editor takes w
 QSize clientSize(const ToolLayout& layout) {
   return {controls::toPixels(layout.Width - controls::FrameWidth),
           controls::toPixels(layout.Height - controls::FrameHeight)};
+}
+
+bool isNumber(EditorFrame frame) {
+  return frame == EditorFrame::Numbers || frame == EditorFrame::FloatNumbers;
 }
 
 }  // namespace
@@ -102,8 +108,13 @@ void Form2::connectLists() {
     services.session.objectClicked(cause == Cause::User ? editing::Chooser::User : editing::Chooser::List);
   });
   connect(ListView1, &controls::ListView::ItemClick, this, &Form2::ListView1_ItemClick);
+  connect(ListView1, &controls::ListView::opened, this, &Form2::enterEditor);
+  ListView1->setTakesDigits([this](int row) {
+    const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
+    return group && isNumber(themefiles::rowOf(*group).frame);
+  });
   connect(Command1, &QPushButton::clicked, this, &Form2::Command1_Click);
-  for (const ValueFrame* frame : frames_) connect(frame, &ValueFrame::updateWanted, this, &Form2::Command1_Click);
+  for (const ValueFrame* frame : frames_) connect(frame, &ValueFrame::enterPressed, this, &Form2::enterPressed);
 }
 
 void Form2::connectSession() {
@@ -145,8 +156,27 @@ void Form2::goTo(const themefiles::Hit& hit) {
   services.session.goTo(hit);
 }
 
+QString Form2::untaken() const {
+  for (const ValueFrame* frame : frames_) {
+    const QString changes = frame->untaken();
+    if (!changes.isEmpty()) return QStringLiteral("not taken over: ") + changes;
+  }
+  return {};
+}
+
+/// What the user has changed in an editor is lost: says so behind all that the running work has to report.
+void Form2::dropChanges() {
+  const QString lost = untaken();
+  for (ValueFrame* frame : frames_) frame->settleChanges();
+  if (lost.isEmpty()) return;
+  const auto scope = std::make_shared<platform::ReportScope>(services.session.status());
+  services.session.status().note(lost);
+  services.queue.runOutside([scope] {});
+}
+
 /// Shows the values of another object. An open editor was that of a row that is gone.
 void Form2::showValues(const std::vector<themefiles::ValueRow>& rows) {
+  dropChanges();
   ListView1->clearRows();
   for (const themefiles::ValueRow& row : rows) ListView1->addRow(row.Item, row.Value);
   if (services.session.state().EditorShown) closeEditorFrame();
@@ -167,18 +197,34 @@ void Form2::chooseRow(const themefiles::Hit& hit) {
 /// editor fits. A value that the editor can't show is reported, and all frames stay hidden.
 void Form2::ListView1_ItemClick(int row) {
   platform::guarded(services.session.status(), editing::ReadStep.toString(), [&] {
+    dropChanges();
     HideEditorFrames();
     const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
     if (group) {
       const QString value = ListView1->subItem(row);
       if (value.size() > editing::LongestValue) throw platform::Failure(editing::tooLongText(ListView1->rowText(row)));
       const themefiles::GroupRow& groupRow = themefiles::rowOf(*group);
-      frameOf(groupRow.frame)->load(groupRow, value);
+      frameOf(groupRow.frame)->open(groupRow, ListView1->rowText(row), value);
       ShowEditorFrame(groupRow.frame);
     } else if (services.session.state().EditorShown) {
       closeEditorFrame();
     }
   });
+}
+
+/// The user wants to go on in the editor of the row, which the click has opened if there is one.
+void Form2::enterEditor(int row, const QString& typed) {
+  const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
+  if (!group) return;
+  ValueFrame* const frame = frameOf(themefiles::rowOf(*group).frame);
+  if (frame->isVisible()) frame->enter(typed);
+}
+
+/// Enter in an editor is Update. If the user hasn't changed anything there, it only goes back to the grid.
+void Form2::enterPressed() {
+  const auto touched = [](const ValueFrame* frame) { return frame->touched(); };
+  if (std::any_of(frames_.begin(), frames_.end(), touched)) return Command1_Click();
+  ListView1->setFocus();
 }
 
 editing::EditedRow Form2::editedRow(int row) const {
@@ -188,15 +234,22 @@ editing::EditedRow Form2::editedRow(int row) const {
 /// Update. The editor is the one of the selected row's key, whatever frame is open.
 void Form2::Command1_Click() {
   services.session.settle();
-  const bool done = editing::commitRow(services.session, editedRow(ListView1->selectedRow()),
-                                       [this](EditorFrame frame) { return frameOf(frame)->proposal(); });
+  const bool done =
+      editing::commitRow(services.session, editedRow(ListView1->selectedRow()), [this](EditorFrame frame) {
+        proposing_ = frameOf(frame);
+        return proposing_->proposal();
+      });
+  proposing_ = nullptr;
   if (done) ListView1->setFocus();
 }
 
 /// Shows a value that has been written. If it was written by hand, an open editor of the row follows, and the focus
 /// stays.
 void Form2::showWritten(int row, const QString& key, const QString& value) {
-  if (row >= 0) return ListView1->setSubItem(row, value);
+  if (row >= 0) {
+    if (ValueFrame* const frame = std::exchange(proposing_, nullptr)) frame->settleChanges();
+    return ListView1->setSubItem(row, value);
+  }
   const int first = firstRowOf(*ListView1, key);
   if (first < 0) return;
   ListView1->setSubItem(first, value);
@@ -286,7 +339,7 @@ void Form2::keyPressEvent(QKeyEvent* event) {
   if (button != nullptr) {
     button->click();
   } else {
-    Command1_Click();
+    enterPressed();
   }
 }
 

@@ -50,6 +50,8 @@ class Form2 : public QWidget {
   void start();
   /// Goes to a search hit, with the focus on what it has found.
   void goTo(const themefiles::Hit& hit);
+  /// What the user has changed in an editor and not taken over: "not taken over: X = 450"; empty for nothing.
+  QString untaken() const;
 
   const ToolLayout& layout() const { return layout_; }
 
@@ -66,6 +68,9 @@ class Form2 : public QWidget {
 
   void Command1_Click();
   void ListView1_ItemClick(int row);
+  void enterEditor(int row, const QString& typed);
+  void enterPressed();
+  void dropChanges();
   editing::EditedRow editedRow(int row) const;
   void showValues(const std::vector<themefiles::ValueRow>& rows);
   void showWritten(int row, const QString& key, const QString& value);
@@ -89,7 +94,8 @@ class Form2 : public QWidget {
 
   PlacedControls placed_;
   std::array<ValueFrame*, static_cast<size_t>(themefiles::EditorFrame::Texts) + 1> frames_{};  ///< by EditorFrame
-  ListedTags tags_;  ///< List1, as the session and the renderer see it
+  ValueFrame* proposing_ = nullptr;  ///< what it proposes is being written
+  ListedTags tags_;                  ///< List1, as the session and the renderer see it
   MarkPlacing markPlacing_;
   std::unique_ptr<SavedMarking> marking_;
   ToolLayout layout_ = loadedLayout();

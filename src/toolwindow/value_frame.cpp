@@ -4,6 +4,7 @@
 
 #include "controls/assets.h"
 #include "controls/combo_box.h"
+#include "controls/text_box.h"
 #include "editing/immediate_edits.h"
 #include "editing/session.h"
 #include "platform/dialogs.h"
@@ -11,6 +12,48 @@
 #include "toolwindow/idle_operation.h"
 
 namespace toolwindow {
+
+void ValueFrame::open(const themefiles::GroupRow& group, const QString& key, const QString& value) {
+  frame_ = group.frame;
+  key_ = key;
+  touched_ = false;
+  load(group, value);
+  value_ = value;
+  contentShown();
+}
+
+void ValueFrame::enter(const QString& typed) {
+  QWidget* const control = entrance();
+  control->setFocus();
+  auto* const box = qobject_cast<controls::TextBox*>(control);
+  if (box == nullptr) return;
+  box->selectAll();
+  if (typed.isEmpty()) return;
+  box->insert(typed);
+  touch();
+}
+
+QString ValueFrame::untaken() const {
+  return touched_ ? editing::changeText(frame_, key_, {value_, content_}, proposal()) : QString();
+}
+
+void ValueFrame::settleChanges() {
+  const editing::Proposal taken = proposal();
+  value_ = taken.value.value_or(value_);
+  content_ = taken.content;
+  touched_ = false;
+}
+
+void ValueFrame::watch(controls::TextBox& box) {
+  connect(&box, &QLineEdit::textEdited, this, &ValueFrame::touch);
+  connect(&box, &controls::TextBox::enter, this, &ValueFrame::enterPressed);
+}
+
+void ValueFrame::watch(controls::ComboBox& list) {
+  connect(&list, &controls::ComboBox::Click, this, [this](controls::Cause cause) {
+    if (cause == controls::Cause::User) touch();
+  });
+}
 
 QPushButton* ValueFrame::iconButton(const QString& icon, const QString& toolTip) {
   auto* button = new QPushButton(this);
@@ -25,7 +68,11 @@ void ValueFrame::onClick(QPushButton* button, const std::function<void()>& opera
     const QString entry = shown == nullptr ? QString() : shown->Text();
     whenIdle(
         *this, services.queue, [shown, entry] { return shown == nullptr || shown->Text() == entry; },
-        [operation] { platform::guardedSilently(operation); });
+        [this, operation] {
+          const editing::Proposal before = proposal();
+          platform::guardedSilently(operation);
+          if (proposal() != before) touch();
+        });
   });
 }
 

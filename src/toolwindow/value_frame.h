@@ -13,25 +13,47 @@ class QPushButton;
 
 namespace controls {
 class ComboBox;
-}
+class TextBox;
+}  // namespace controls
 
 namespace toolwindow {
 
-/// One of the editor frames: shows a value and proposes another one, which Update commits.
+/// One of the editor frames: shows a value and proposes another one, which Update commits. It knows whether the user
+/// has changed anything since the value was shown.
 class ValueFrame : public QWidget {
   Q_OBJECT
 
  public:
-  /// Shows a value of a key of the group. Throws platform::Failure for a value that the frame can't show.
-  virtual void load(const themefiles::GroupRow& group, const QString& value) = 0;
+  /// Shows the value of a row, whose key is of the group. Throws platform::Failure for a value that the frame can't
+  /// show.
+  void open(const themefiles::GroupRow& group, const QString& key, const QString& value);
   virtual editing::Proposal proposal() const = 0;
+  /// Goes into the frame. What is typed there next, or was already, replaces the text or the number.
+  void enter(const QString& typed);
+  /// Whether the user has changed anything that isn't taken over.
+  bool touched() const { return touched_; }
+  /// What that is, as a commit would tell it; empty for nothing.
+  QString untaken() const;
+  /// What the frame proposes has been written, or dropped.
+  void settleChanges();
 
  Q_SIGNALS:
-  /// Enter was pressed in a control of the frame.
-  void updateWanted();
+  /// Enter was pressed in a text box of the frame.
+  void enterPressed();
 
  protected:
   ValueFrame(const ToolServices& services, QWidget* parent) : QWidget(parent), services(services) {}
+
+  /// Shows a value of a key of the group.
+  virtual void load(const themefiles::GroupRow& group, const QString& value) = 0;
+  /// The control in which the user changes the value.
+  virtual QWidget* entrance() const = 0;
+  /// Watches what the user changes in a control.
+  void watch(controls::TextBox& box);
+  void watch(controls::ComboBox& list);
+  void touch() { touched_ = true; }
+  /// The frame shows another content by itself, with which the user's changes begin.
+  void contentShown() { content_ = proposal().content; }
 
   QPushButton* iconButton(const QString& icon, const QString& toolTip = {});
   /// Connects a button to an operation that opens a dialog or changes colours and keys. The operation waits until no
@@ -45,6 +67,13 @@ class ValueFrame : public QWidget {
   bool confirmsRemoval(const QString& question, const QString& name, const QString& title);
 
   const ToolServices& services;
+
+ private:
+  themefiles::EditorFrame frame_{};
+  QString key_;
+  QString value_;    ///< the row's
+  QString content_;  ///< of a reference, as it was shown
+  bool touched_ = false;
 };
 
 }  // namespace toolwindow
