@@ -7,15 +7,28 @@
 namespace mainwindows {
 
 class Form1;
+class Loupe;
 class ScreenRefresh;
 
 /// What the main window can be told to do.
-enum class Command { Open, Save, Close, BackgroundColor, AnotherFolder, Refresh, OtherWindow, Find };
+enum class Command {
+  Open,
+  Save,
+  Close,
+  BackgroundColor,
+  AnotherFolder,
+  Refresh,
+  OtherWindow,
+  Find,
+  Loupe,
+  LargerLoupe
+};
 
 /// What a command works on.
 struct CommandTargets {
   Form1& form;
   ScreenRefresh& refresh;
+  mainwindows::Loupe& loupe;
 };
 
 /// All that the program knows of a command.

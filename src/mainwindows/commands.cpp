@@ -3,6 +3,7 @@
 #include <array>
 
 #include "controls/work_queue.h"
+#include "mainwindows/loupe.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/screen_refresh.h"
 #include "mainwindows/theme_session.h"
@@ -40,8 +41,10 @@ constexpr auto Rows = std::to_array<CommandRow>({
     {Command::Refresh, [](const Targets& to) { to.refresh.refresh(); }, AtOnce, u"F5"},
     {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, u"F6"},
     {Command::Find, [](const Targets& to) { find(to.form); }, AtOnce, u"Ctrl+F"},
+    {Command::Loupe, [](const Targets& to) { to.loupe.toggle(); }, AtOnce, u"F7"},
+    {Command::LargerLoupe, [](const Targets& to) { to.loupe.enlarge(); }, AtOnce, u"Shift+F7"},
 });
-static_assert(platform::inOrder(Rows, &CommandRow::command, Command::Find));
+static_assert(platform::inOrder(Rows, &CommandRow::command, Command::LargerLoupe));
 
 /// A theme without changes closes without a question: the running work is given up for it.
 bool endsWork(const Form1& form, Command command) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainwindows/command.h"
+#include "mainwindows/loupe.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/picture_watch.h"
 #include "mainwindows/preview_hand.h"
@@ -29,7 +30,8 @@ class Editor {
   PreviewHand hand_{form};
   PictureWatch watch_{form, hand_};
   ScreenRefresh refresh_{form};
-  const CommandTargets targets_{form, refresh_};
+  Loupe& loupe_ = *new Loupe(form);  ///< its parent is the main window
+  const CommandTargets targets_{form, refresh_, loupe_};
 };
 
 }  // namespace mainwindows

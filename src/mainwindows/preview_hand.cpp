@@ -79,6 +79,7 @@ void PreviewHand::settle() {
 }
 
 void PreviewHand::giveUpDrag() {
+  naming_.stop();
   if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
   trial_.forget();
   if (stage_ == Stage::Keys) pacer_.request();
@@ -90,10 +91,14 @@ void PreviewHand::forgetPlaces() {
 
 void PreviewHand::showChosen() {
   if (!picks_) scroll_.show(seenPlace(form_));
+  if (!outside_.isEmpty()) form_.withdraw(outside_);
+  outside_ = outsideText(form_);
+  if (!outside_.isEmpty()) form_.note(outside_);
 }
 
 void PreviewHand::letGo() {
   end();
+  naming_.stop();
   telling_.reset();
   trial_.forget();
   heldKeys_.clear();
@@ -124,6 +129,9 @@ bool PreviewHand::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease:
       keyRelease(static_cast<QKeyEvent&>(*event));
       return false;
+    case QEvent::Leave:
+      naming_.stop();
+      return false;
     case QEvent::FocusOut:
     case QEvent::WindowDeactivate:
       heldKeys_.clear();
@@ -145,6 +153,7 @@ bool PreviewHand::menuAsked(const QWidget& watched) {
 }
 
 bool PreviewHand::press(const QMouseEvent& event) {
+  naming_.stop();
   endedDrag_ = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
   settle();
   // Committing has drawn the screen and served events: the theme may be closed by now.
@@ -207,6 +216,7 @@ bool PreviewHand::release(const QMouseEvent& event) {
 /// Gives the pointer the shape of what a press would do here.
 void PreviewHand::hover(const QPoint& place, bool free) {
   if (!free) return;
+  if (stage_ == Stage::None) naming_.pointerAt(place);
   const SelectedObject selected = form_.queue().busy() ? SelectedObject() : selectedAt(form_, place);
   const Qt::CursorShape shape =
       selected.under ? editing::shapeOf(editing::gripAt(selected.place, place)) : Qt::ArrowCursor;
@@ -228,6 +238,7 @@ bool PreviewHand::take(const SelectedObject& selected, Grip grip, bool tells) {
 }
 
 bool PreviewHand::keyPress(const QKeyEvent& event) {
+  naming_.stop();
   if (event.key() == Qt::Key_Escape) {
     if (stage_ == Stage::None) return false;
     giveUp();
@@ -267,8 +278,9 @@ void PreviewHand::showFrame() {
   if (stage_ != Stage::Dragging && stage_ != Stage::Keys) return;
   if (form_.queue().busy()) return pacer_.request();
   trial_.show({section_, editing::changedValues(start_, now_)});
-  form_.Workspace->setHandLabel(editing::labelOf(now_, grip_),
-                                stage_ == Stage::Dragging ? mouse_ : form_.Workspace->markRect().bottomRight());
+  const QRect mark = form_.Workspace->markRect();
+  form_.Workspace->setHandLabel(editing::labelOf(now_, grip_), stage_ == Stage::Dragging ? mouse_ : mark.bottomRight());
+  if (stage_ == Stage::Keys) Q_EMIT form_.Workspace->watched(grip_.sizes() ? mark.bottomRight() : mark.topLeft());
 }
 
 void PreviewHand::end() {

@@ -9,6 +9,7 @@
 
 #include "controls/frame_pacer.h"
 #include "editing/held_numbers.h"
+#include "mainwindows/preview_naming.h"
 #include "mainwindows/preview_picking.h"
 #include "mainwindows/preview_scroll.h"
 #include "mainwindows/selected_object.h"
@@ -35,7 +36,8 @@ class PreviewHand : public QObject {
   void giveUpDrag();
   /// The next click picks the topmost object under it. To be called when another screen is listed.
   void forgetPlaces();
-  /// Another object has been chosen: scrolls to it, unless it was clicked on the preview.
+  /// Another object has been chosen: scrolls to it, unless it was clicked on the preview. Tells where it is if that is
+  /// out of sight.
   void showChosen();
   /// Ends everything without a commit or a drawing. To be called when the theme is closed.
   void letGo();
@@ -69,6 +71,8 @@ class PreviewHand : public QObject {
 
   Form1& form_;
   PreviewPicking picking_;
+  PreviewNaming naming_{form_, picking_};
+  QString outside_;  ///< what is reported of a place out of sight
   Stage stage_ = Stage::None;
   bool picksAtRelease_ = false;
   bool endedDrag_ = false;  ///< the last press gave a drag up, and stands for nothing else

@@ -46,4 +46,11 @@ int PreviewPicking::rowAt(const QPoint& place, const renderer::RenderAccount& ac
   return row;
 }
 
+PreviewPicking::Next PreviewPicking::nextAt(const QPoint& place, const renderer::RenderAccount& account,
+                                            const themefiles::TagList& tags) const {
+  PreviewPicking tried = *this;
+  const int row = tried.rowAt(place, account, tags);
+  return {row, tried.next_ == 0 ? 0 : static_cast<int>(tried.rows_.size() - tried.next_)};
+}
+
 }  // namespace mainwindows

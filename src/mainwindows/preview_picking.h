@@ -15,6 +15,14 @@ class PreviewPicking {
   /// its button. -1 where only the background was drawn.
   int rowAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags);
 
+  /// What a click picks: a row, -1 for none, and how many objects lie below.
+  struct Next {
+    int row;
+    int below;
+  };
+  /// What rowAt would give next at the place.
+  Next nextAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags) const;
+
  private:
   QPoint place_;
   std::vector<int> rows_;  ///< of the objects at the place, topmost first

@@ -50,4 +50,12 @@ QRect seenPlace(const Form1& form) {
   return form.Workspace->markVisible() ? form.Workspace->markRect() : QRect();
 }
 
+QString outsideText(const Form1& form) {
+  const bool isSeen = drawnObject(form, form.session().object()) != nullptr || form.Workspace->markVisible();
+  if (!isSeen || seenPlace(form).intersects(form.Workspace->rect())) return {};
+  const themefiles::CursorRecord& record = form.services.state.CursorRect;
+  return QStringLiteral("%1 lies outside the picture, at X = %2, Y = %3")
+      .arg(form.session().section(), record.X, record.Y);
+}
+
 }  // namespace mainwindows

@@ -23,4 +23,7 @@ SelectedObject selectedAt(const Form1& form, const QPoint& pixel);
 /// Where the selected object is seen; empty if neither it nor its mark is. Only with a theme open.
 QRect seenPlace(const Form1& form);
 
+/// Tells where the selected object is if it lies wholly outside the picture; else empty. Only with a theme open.
+QString outsideText(const Form1& form);
+
 }  // namespace mainwindows

@@ -55,7 +55,9 @@ Workspace::Workspace(QWidget* parent)
 
 void Workspace::Refresh() {
   const QRect dirty = surface_.takeDirty();
-  if (!dirty.isEmpty()) update(dirty);
+  if (dirty.isEmpty()) return;
+  update(dirty);
+  Q_EMIT refreshed();
 }
 
 void Workspace::SetLeft(double left) {

@@ -41,6 +41,10 @@ class Workspace : public QWidget, public renderer::CursorMark {
   bool blinking() const { return timer1_.isActive(); }
 
  Q_SIGNALS:
+  /// The picture shows something else.
+  void refreshed();
+  /// The arrow keys have brought the selected object to a pixel of the surface.
+  void watched(const QPoint& pixel);
   /// The mouse has moved to a place in pixels of the surface.
   void MouseMove(float X, float Y);
   /// The user wants the menu at this place of the screen.

@@ -78,8 +78,8 @@ void Monkey::choose(controls::ComboBox& list) {
 
 /// A click on a row, or a key.
 void Monkey::pick(QAbstractItemView& list) {
-  constexpr std::array Keys{Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_Home,
-                            Qt::Key_End,  Qt::Key_S,  Qt::Key_T};
+  constexpr std::array Keys{Qt::Key_Down, Qt::Key_Up, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End,
+                            Qt::Key_S,    Qt::Key_T,  Qt::Key_4,        Qt::Key_F2,   Qt::Key_Return};
   const int rows = list.model()->rowCount();
   if (rows == 0 || chance_.one(5)) {
     key(list, chance_.of(Keys));
@@ -159,6 +159,7 @@ void Monkey::drag() {
 void Monkey::shortcut() {
   QWidget* window = &form();
   if (form().toolWindow() != nullptr && chance_.one(2)) window = form().toolWindow();
+  if (chance_.one(4)) return key(*window, Qt::Key_F7, chance_.one(2) ? Qt::ShiftModifier : Qt::NoModifier);
   key(*window, chance_.of(std::array{Qt::Key_O, Qt::Key_S, Qt::Key_S, Qt::Key_W}), Qt::ControlModifier);
 }
 

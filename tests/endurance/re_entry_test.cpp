@@ -78,6 +78,15 @@ bool arrowKeys(Program& program) {
   return true;
 }
 
+/// Digits typed on the row of a number, and Enter.
+bool typeInGrid(Program& program) {
+  if (!pickTag(program, Static)) return false;
+  program.row(u"X"_s);
+  QTest::keyClicks(&program.tools().values(), u"7"_s);
+  QTest::keyClick(Editors(program.tools()).Text1, Qt::Key_Return);
+  return true;
+}
+
 /// Goes to what the finder finds.
 bool find(Program& program, const QString& words) {
   if (program.form.toolWindow() == nullptr) return false;
@@ -107,6 +116,7 @@ constexpr Wish Wishes[] = {
     {"another object", [](Program& p) { return pickTag(p, "LoadingTextFree"); }},
     {"a press on the preview", pressOn},
     {"arrow keys", arrowKeys},
+    {"typed in the grid", typeInGrid},
     {"Update", update},
     {"Update, another screen", [](Program& p) { return update(p) && screen(p); }},
     {"another screen and back", [](Program& p) { return screen(p) && screen(p, u"Loading Screen"_s); }},

@@ -128,6 +128,7 @@ void Session::run() {
   controls_.showToolBarStates();
   controls_.showProgress([this] { form_.queue().draw(); });
   showDrag();
+  showLoupe();
   showEditors();
   saveScreen(QStringLiteral("editor"));
   showColorBoxes();
@@ -165,6 +166,17 @@ void Session::showDrag() {
   settle();
   save(form_, QStringLiteral("drag"));
   form_.session().settle();
+}
+
+/// The loupe at an edge in the picture.
+void Session::showLoupe() {
+  constexpr QPoint Edge(166, 330);
+  auto& loupe = *form_.findChild<QWidget*>(QStringLiteral("Loupe"));
+  loupe.show();
+  Q_EMIT form_.Workspace->watched(Edge);
+  settle();
+  save(loupe, QStringLiteral("loupe"));
+  loupe.hide();
 }
 
 void Session::showEditors() {

@@ -20,6 +20,7 @@ class Session {
   void openTheme();
   void showScreen(const QString& name);
   void showDrag();
+  void showLoupe();
   void showEditors();
   void showColorBoxes();
   void showKeyBoxes();
