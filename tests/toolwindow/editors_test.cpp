@@ -1,3 +1,4 @@
+#include "support/row_name.h"
 #include "support/windows.h"
 
 using namespace support;
@@ -86,7 +87,7 @@ class EditorsTest : public ProgramTest {
                 {"Tex", "Plate", key(Qt::Key_Return), "Combo6", "", "", false},
                 {"Text", "HELLO", key(Qt::Key_Return), "Text2", "Hello there", "Hello there", false},
                 {"ColR", "0.5", key(Qt::Key_Return), "ListView1", "", "", false}};
-    program->tag(Static);
+    program->tag(u"LoadingStaticA"_s);
     Form2& tools = program->tools();
     for (const auto& [row, value, way, focus, shown, selected, writes] : rows) {
       const RowName name(row);
