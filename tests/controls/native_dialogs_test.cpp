@@ -82,17 +82,18 @@ class NativeDialogsTest : public QObject {
       list.setFocus();
       QTRY_COMPARE_WITH_TIMEOUT(list.model()->rowCount(list.rootIndex()), 1, Patience);
       list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
-      QTimer::singleShot(100, [] {  // what the toolkit asks before it removes something
+      QTimer yes;
+      yes.callOnTimeout([] {  // to what the toolkit asks before it removes something
         auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (question != nullptr) question->button(QMessageBox::Yes)->click();
       });
+      yes.start(1);
       QTest::keyClick(&list, Qt::Key_Delete);
       QTest::keyClick(&list, Qt::Key_F2);
       if (auto* editor = list.findChild<QLineEdit*>()) {
         QTest::keyClicks(editor, u"other"_s);
         QTest::keyClick(editor, Qt::Key_Return);
       }
-      QTest::qWait(200);
       QVERIFY(folder.has(u"sub/deeper/a.png"_s));
       dialog.reject();
     });

@@ -194,10 +194,8 @@ void Monkey::check() {
   checkColors();
   const toolwindow::Form2& tools = *form().toolWindow();
   int shown = 0;
-  for (QWidget* frame :
-       {support::Editors(tools).Numbers, support::Editors(tools).FloatNumbers, support::Editors(tools).Selection,
-        support::Editors(tools).Color, support::Editors(tools).Texture, support::Editors(tools).Texts}) {
-    shown += frame->isHidden() ? 0 : 1;
+  for (const char* frame : {"Numbers", "FloatNumbers", "Selection", "Color", "Texture", "Texts"}) {
+    shown += support::named<QWidget>(tools, frame)->isHidden() ? 0 : 1;
   }
   require(shown <= 1 && (shown == 0 || state().EditorShown), u"editor frames"_s);
 }

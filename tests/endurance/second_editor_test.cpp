@@ -130,40 +130,6 @@ class SecondEditorTest : public QObject {
     QVERIFY2(lost.isEmpty(), qPrintable(lost));
     QVERIFY2(turns >= 1000 && told > 20, qPrintable(u"%1 %2"_s.arg(turns).arg(told)));
   }
-
-  void theWorkingCopiesAreSweptAway() {
-    const GameFolder game;
-    Program program(game);
-    program.open();
-    program.edit();
-    const QByteArray edited = game.get(ThemeCopy);
-    program.row(u"Y"_s);
-    QVERIFY(QFile::remove(game.native(ThemeCopy)));
-    Editors(program.tools()).Text1->SetText(u"88"_s);
-    Editors(program.tools()).Command1->click();
-    QVERIFY2(program.status().contains(u"made anew"), qPrintable(program.status()));
-    QCOMPARE(game.get(ThemeCopy).size(), edited.size());
-    for (const QString& copy : {ThemeCopy, SkinCopy, LanguageCopy}) QFile::remove(game.native(copy));
-    program.click(2);
-    QVERIFY(program.status().contains(u"made anew") && !program.state.Changed);
-    QVERIFY(game.get(ThemeFile).contains("X=77") && game.get(ThemeFile).contains("Y=88"));
-  }
-
-  void oneRowForOneLineOfColour() {
-    const GameFolder game;
-    game.put(ThemeFile, game.get(ThemeFile).replace("Red=200 40 40", "Red=200 40 40\r\nred=9 9 9"));
-    Program program(game);
-    program.open();
-    program.tag(u"LoadingStaticA"_s);
-    program.row(u"Color"_s);
-    const auto table = [&] { return program.colors().filter(QRegularExpression(u"^[^=]"_s)); };
-    QCOMPARE(table(), (QStringList{u"Red=200 40 40"_s, u"red=200 40 40"_s, u"Blue=30 60 200"_s}));
-    program.dialogs.boxes = {BoxAnswer::Yes};
-    Editors(program.tools()).Combo3->SetText(u"red"_s);
-    Editors(program.tools()).Command5->click();  // the first line of the name goes
-    QCOMPARE(table(), (QStringList{u"red=9 9 9"_s, u"Blue=30 60 200"_s}));
-    QCOMPARE(support::entries(*Editors(program.tools()).Combo3), (QStringList{u"red"_s, u"Blue"_s}));
-  }
 };
 
 QTEST_MAIN(SecondEditorTest)

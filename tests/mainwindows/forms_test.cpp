@@ -1,6 +1,8 @@
 #include <QAccessible>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMetaEnum>
+#include <QScreen>
 
 #include "controls/assets.h"
 #include "controls/look.h"
@@ -54,11 +56,16 @@ QString fontOf(const QWidget& control) {
   return u"%1 %2 %3"_s.arg(font.family()).arg(font.pixelSize()).arg(font.weight());
 }
 
-/// What a screen reader calls the control, unless that is its text.
-QString spokenName(QWidget& control, QString text) {
-  const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&control);
-  const QString name = spoken == nullptr ? QString() : spoken->text(QAccessible::Name);
-  return name == text.remove(u'&') ? QString() : name;
+/// What a screen reader says of the control: its role, its name and its description, but for its text and its tip.
+QString spoken(QWidget& control, QString text) {
+  const QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&control);
+  if (reader == nullptr) return {};
+  QStringList words{reader->text(QAccessible::Name), reader->text(QAccessible::Description)};
+  words.removeAll(text.remove(u'&'));
+  words.removeAll(control.toolTip());
+  words.removeDuplicates();
+  words.prepend(QLatin1StringView(QMetaEnum::fromType<QAccessible::Role>().valueToKey(reader->role())));
+  return words.join(u' ').trimmed();
 }
 
 /// Whether what is inside the control is the toolkit's own.
@@ -119,7 +126,7 @@ class Table {
              isWindow || font != fontOf(*control.parentWidget()) ? font : QString(),
              (tabs_.contains(&control) ? QString::number(tabs_.indexOf(&control) + 1) : QString()) +
                  (control.window()->focusWidget() == &control ? u"*"_s : QString()),
-             state(control.isVisible(), control.isEnabled()), text, control.toolTip(), spokenName(control, text)});
+             state(control.isVisible(), control.isEnabled()), text, control.toolTip(), spoken(control, text)});
     if (isWhole(control)) return;
     for (QObject* child : control.children()) {
       const QString name = child->objectName();
@@ -210,14 +217,40 @@ class FormsTest : public ProgramTest {
     compareText(u"Form2.txt"_s, states.lines);
   }
 
+  void finder() {
+    toolwindow::Form2& tools = program->tools();
+    tools.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&tools));
+    QTest::keyClick(&tools, Qt::Key_F, Qt::ControlModifier);
+    QTRY_VERIFY(QApplication::activeWindow() != nullptr && QApplication::activeWindow() != &tools);
+    QWidget& finder = *QApplication::activeWindow();
+    States states;
+    states.add(u"comes up"_s, finder);
+    QTest::keyClicks(finder.focusWidget(), u"static"_s);
+    states.add(u"with words"_s, finder);
+    compareText(u"Finder.txt"_s, states.lines);
+  }
+
   void openDialog() {
-    game->put(u"Themes/Beta without a skin.ini"_s, "[Theme]\nName=Beta, which has a name of many letters\n");
+    const QByteArray creator(40, 'W');
+    game->put(u"Themes/beta.1.INI"_s, "[Theme]\nName=<b>Beta</b>, without a skin\nCreator=" + creator + '\n');
+    game->put(u"Themes/readme.txt"_s, "");
+    program->form.move(300, 200);
     States states;
     program->openDialog([&](Form3& dialog) {
-      states.add(u"comes up"_s, dialog);
+      const QPoint off = dialog.geometry().center() - dialog.screen()->availableGeometry().center();
+      states.add(u"comes up, %1,%2 off the screen's middle"_s.arg(off.x()).arg(off.y()), dialog);
+      dialog.skins().SetListIndex(1);
+      states.add(u"the other skin"_s, dialog);
       dialog.themes().SetListIndex(1);
       states.add(u"a theme without a skin"_s, dialog);
-      dialog.reject();
+      QTest::keyClick(&dialog, Qt::Key_Return);
+      Q_EMIT dialog.themes().doubleClicked(dialog.themes().currentIndex());
+      QVERIFY(dialog.isVisible());
+      dialog.themes().SetListIndex(0);
+      states.add(u"the first theme again"_s, dialog);
+      QTest::keyClick(&dialog, Qt::Key_Escape);
+      QVERIFY(!dialog.isVisible());
     });
     compareText(u"Form3.txt"_s, states.lines.replaceInStrings(game->path(), u"GAME"_s));
   }

@@ -1,5 +1,3 @@
-#include <QScreen>
-
 #include "mainwindows/command_line.h"
 #include "platform/failure.h"
 #include "support/row_name.h"
@@ -44,44 +42,6 @@ class OpenThemeTest : public QObject {
       QVERIFY(!program.openDialog([](Form3& dialog) { dialog.reject(); }));
       QCOMPARE(program.dialogs.asked.last(), u"Error: No Themes Found"_s);
     }
-  }
-
-  void listsAndLabels() {
-    const GameFolder game;
-    game.put(u"Themes/beta.1.INI"_s, "[Theme]\nName=<b>Beta</b>\nCreator=" + QByteArray(40, 'W') + '\n');
-    game.put(u"Themes/readme.txt"_s, "");
-    Program program(game);
-    program.form.move(300, 200);
-    QVERIFY(program.openDialog([](Form3& dialog) {
-      const int middle = dialog.screen()->availableGeometry().center().x();
-      QVERIFY(qAbs(dialog.geometry().center().x() - middle) < 4);  // a frame
-      const auto chosen = [&] {
-        return QStringList{dialog.themes().Text(),
-                           named<controls::CutLabel>(dialog, "Label4")->whole(),
-                           named<controls::CutLabel>(dialog, "Label5")->whole(),
-                           dialog.skins().Text(),
-                           named<controls::CutLabel>(dialog, "Label9")->whole(),
-                           named<controls::CutLabel>(dialog, "Label10")->whole(),
-                           dialog.languages().Text()}
-            .join(u'|');
-      };
-      QCOMPARE(chosen(), u"Alpha|The Alpha theme|Ann|One|First|Bob|English"_s);
-      dialog.skins().SetListIndex(1);
-      QCOMPARE(chosen(), u"Alpha|The Alpha theme|Ann|Two|Second|Cid|English"_s);
-      dialog.themes().SetListIndex(1);
-      QCOMPARE(chosen(), u"beta.1|<b>Beta</b>|%1||||English"_s.arg(QString(40, u'W')));
-      QVERIFY(named<controls::CutLabel>(dialog, "Label5")->text().endsWith(u'\u2026') &&
-              named<controls::CutLabel>(dialog, "Label5")->toolTip() ==
-                  named<controls::CutLabel>(dialog, "Label5")->whole());
-      QVERIFY(!dialog.openButton().isEnabled() && dialog.skins().ListCount() == 0);
-      QTest::keyClick(&dialog, Qt::Key_Return);
-      doubleClick(dialog.themes());
-      QVERIFY(dialog.isVisible());
-      dialog.themes().SetListIndex(0);
-      QVERIFY(dialog.openButton().isEnabled());
-      QTest::keyClick(&dialog, Qt::Key_Escape);
-      QVERIFY(!dialog.isVisible());
-    }));
   }
 
   /// The files are spoilt while the dialog is up: with no theme open, and with one open that has changes.

@@ -1,5 +1,7 @@
 #include "mainwindows/picture_watch.h"
 
+#include <QSignalSpy>
+
 #include "mainwindows/preview_hand.h"
 #include "support/windows.h"
 
@@ -46,6 +48,12 @@ class PictureWatchTest : public ProgramTest {
   void put(const QString& name, Qt::GlobalColor color) const {
     game->put(name, encoded(plainPicture(4, 4, QColor(color).rgba()), "png"));
   }
+  /// Does something that the watch is told of, and waits until it has come to rest.
+  void rested(const std::function<void()>& act) const {
+    const QSignalSpy rests(form().findChild<QTimer*>(u"PicturesAtRest"_s), &QTimer::timeout);
+    act();
+    QTRY_VERIFY(!rests.isEmpty());
+  }
   /// Moves the skin's folder away, and makes it anew with the files that are named, one after the other.
   void makeFolderAnew(const QStringList& names, const std::function<void()>& gone) const {
     const QString folder = game->native(u"Skins/Alpha"_s);
@@ -53,9 +61,10 @@ class PictureWatchTest : public ProgramTest {
     gone();
     QDir().mkpath(folder);
     for (const QString& name : names) {
-      QFile::copy(game->native(u"away/"_s + name), folder + u'/' + name);
-      if (name == u"plate.png") put(Plate, Qt::green);
-      QTest::qWait(200);  // the watch has come to rest between the two
+      rested([&] {
+        QFile::copy(game->native(u"away/"_s + name), folder + u'/' + name);
+        if (name == u"plate.png") put(Plate, Qt::green);
+      });
     }
   }
   void renameOver(const QString& name, Qt::GlobalColor color) const {
@@ -78,8 +87,7 @@ class PictureWatchTest : public ProgramTest {
     QTest::newRow("appears") << "none.png"_ba << Change([this] { put(u"Skins/Alpha/None.PNG"_s, Qt::green); });
     QTest::newRow("its folder appears") << "deep\\er\\a.png"_ba << Change([this] {
       for (const QString& folder : {u"Skins/Alpha/deep"_s, u"Skins/Alpha/deep/er"_s}) {
-        QDir().mkdir(game->native(folder));
-        QTest::qWait(200);  // the watch has come to rest without the picture
+        rested([&] { QDir().mkdir(game->native(folder)); });
       }
       put(u"Skins/Alpha/deep/er/a.png"_s, Qt::green);
     });

@@ -47,6 +47,10 @@ class SessionsTest : public DiaryTest {
     game->protect(ThemeCopy);
     d.type("Text1", u"9"_s);
     d.press("Command1");
+    game->protect(ThemeCopy, false);
+    d.press("Command1");
+    for (const QString& copy : {ThemeCopy, SkinCopy, LanguageCopy}) QFile::remove(game->native(copy));
+    d.tool(2);
     program->dialogs.boxes = {BoxAnswer::Yes};
     d.tool(3);
     d.step(u"end"_s, [&] { program->form.close(); });

@@ -29,26 +29,20 @@ struct Editors {
     return named<Control>(window, name);
   }
   QPushButton* const Command1 = at<QPushButton>("Command1");
-  QWidget* const Numbers = at<QWidget>("Numbers");
   controls::TextBox* const Text1 = at<controls::TextBox>("Text1");
   controls::NumberBar* const VScroll1 = at<controls::NumberBar>("VScroll1");
-  QWidget* const FloatNumbers = at<QWidget>("FloatNumbers");
   controls::TextBox* const Text4 = at<controls::TextBox>("Text4");
-  QWidget* const Selection = at<QWidget>("Selection");
   controls::ComboBox* const Combo2 = at<controls::ComboBox>("Combo2");
-  QWidget* const Color = at<QWidget>("Color");
   controls::ComboBox* const Combo4 = at<controls::ComboBox>("Combo4");
   QPushButton* const Command3 = at<QPushButton>("Command3");
   QPushButton* const Command5 = at<QPushButton>("Command5");
   controls::ComboBox* const Combo3 = at<controls::ComboBox>("Combo3");
   controls::SwatchButton* const Command2 = at<controls::SwatchButton>("Command2");
-  QWidget* const Texture = at<QWidget>("Texture");
   controls::ComboBox* const Combo6 = at<controls::ComboBox>("Combo6");
   QPushButton* const Command8 = at<QPushButton>("Command8");
   QPushButton* const Command9 = at<QPushButton>("Command9");
   controls::TextBox* const Text3 = at<controls::TextBox>("Text3");
   QPushButton* const Command4 = at<QPushButton>("Command4");
-  QWidget* const Texts = at<QWidget>("Texts");
   controls::ComboBox* const Combo5 = at<controls::ComboBox>("Combo5");
   QPushButton* const Command6 = at<QPushButton>("Command6");
   QPushButton* const Command7 = at<QPushButton>("Command7");

@@ -21,7 +21,11 @@ inline void addControl(Shown& all, const QWidget& control, const QString& name) 
   const QString state = control.isEnabled() ? QString() : u" (disabled)"_s;
   if (const auto* combo = qobject_cast<const QComboBox*>(&control)) {
     QStringList entries;
-    for (int i = 0; i < combo->count(); ++i) entries += combo->itemText(i);
+    for (int i = 0; i < combo->count(); ++i) {
+      const QIcon square = combo->itemIcon(i);
+      entries += combo->itemText(i);
+      if (!square.isNull()) entries.last() += u' ' + square.pixmap(11, 11).toImage().pixelColor(5, 5).name();
+    }
     all.emplace_back(name + u" entries"_s, entries.join(u','));
     all.emplace_back(name, combo->currentText() + state);
   } else if (const auto* list = qobject_cast<const QListWidget*>(&control)) {

@@ -60,21 +60,12 @@ class Stage {
     state.paths.SkinFile = folder.path(QStringLiteral("skin.ini"));
     state.paths.LanguageFile = folder.path(QStringLiteral("language.ini"));
     state.paths.SkinDirectory = folder.path({});
-    for (const auto& [name, color] : {std::pair{"Red", 0xFFFF0000U},
-                                      {"Black", 0xFF000000U},
-                                      {"Blue", 0xFF0000FFU},
-                                      {"Half", 0x80000000U},
-                                      {"Faint", 0x02000000U}}) {
-      addTexture(name, plainPicture(8, 4, color));
+    for (const auto& [name, color] : {std::pair{"Red", 0xFFFF0000U}, {"Blue", 0xFF0000FFU}, {"Half", 0x80000000U}}) {
+      folder.put(QString::fromLatin1(name) + QStringLiteral(".png"), encoded(plainPicture(8, 4, color), "png"));
+      skin += QByteArray(name) + '=' + name + ".png|";
     }
     folder.put(QStringLiteral("Torn.png"), "no picture");
-    skin += "Torn=torn.PNG|NoFile=none.png|";
-  }
-
-  void addTexture(const char* name, const QImage& picture) {
-    const QString file = QString::fromLatin1(name) + QStringLiteral(".png");
-    if (!picture.save(folder.native(file))) qFatal("can't write a texture");
-    skin += QByteArray(name) + '=' + name + ".png|";
+    skin += "Torn=torn.PNG|";
   }
 
   /// Writes the theme ("|" ends a line) and lists all of its sections but the one of colours and the background's.
@@ -103,8 +94,6 @@ class Stage {
   }
 
   QRgb pixel(int x, int y) const { return surface.image().pixel(x, y); }
-  /// Objects drawn or not that came to their progress step, the first call of the driver left out.
-  int steps() const { return static_cast<int>(host.percents.size()) - 1; }
 
   Folder folder;
   QByteArray skin;

@@ -98,38 +98,6 @@ class SavedStateTest : public ProgramTest {
     QCOMPARE(menuOf(*Editors(program->tools()).Command2, true, {}, block), u"Put the saved value back: 200 40 40"_s);
     QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["_s), qPrintable(program->status()));
   }
-
-  void squaresAndGreyRows() {
-    const Form2& tools = program->tools();
-    for (const auto& [scheme, name, color] : {std::tuple{u"Blue"_s, u"Red"_s, u"#c82828"_s},
-                                              {u"Blue"_s, u"ColorDark"_s, u"#47aff7"_s},
-                                              {u"Brown"_s, u"ColorDark"_s, u"#c07f1f"_s}}) {
-      program->form.schemes().SetText(u"Red"_s);
-      program->soleRow(u"COLOR"_s, name);
-      program->form.schemes().SetText(scheme);
-      QCOMPARE(Editors(tools).Command2->BackColor().name(), color);
-      const QIcon square = Editors(tools).Combo3->itemIcon(Editors(tools).Combo3->findText(name));
-      QCOMPARE(square.pixmap(11, 11).toImage().pixelColor(5, 5).name(), color);
-    }
-    const QListWidgetItem* row = tools.objects().findItems(u"LoadingStaticA"_s, Qt::MatchExactly).value(0);
-    for (const char* height : {"60", "0", "60"}) {
-      program->edit(u"H"_s, QLatin1StringView(height));
-      QCOMPARE(row->data(Qt::ForegroundRole).isValid(), *height == '0');
-    }
-  }
-
-  /// The last column takes what a wider window gives, and gives it back.
-  void columns() {
-    Form2& tools = program->tools();
-    const int told = tools.values().columnWidth(1);
-    const int width = tools.values().width();
-    for (const int more : {0, 150, -20, 0}) {
-      tools.resize(385 + more, tools.height());
-      settle();
-      QCOMPARE(tools.values().columnWidth(1), told + std::max(0, tools.values().width() - width));
-      QCOMPARE(tools.values().columnWidth(0), 63);
-    }
-  }
 };
 
 QTEST_MAIN(SavedStateTest)
