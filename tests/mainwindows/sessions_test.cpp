@@ -37,6 +37,7 @@ class SessionsTest : public DiaryTest {
       });
     });
     d.screen(u"Main Screen"_s);
+    d.soleRow(u"COLOR"_s, u"Red"_s);  // of the theme before
     d.tool(3);
     d.step(u"Open"_s, [&] { program->open(); });
     d.tag(u"LoadingStaticA"_s);

@@ -1,6 +1,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -23,8 +24,17 @@ constexpr char ForSomeone[] =
     "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\4\0\xD2\4\0\0\4\0\0\0\xFF\xFF\xFF\xFF"
     "\x10\0\4\0\xFF\xFF\xFF\xFF\x20\0\0\0\xFF\xFF\xFF\xFF";
 
+/// Runs between the making of a temporary file and its lock, once.
+std::function<void()> beforeLock;
+
 }  // namespace
 using namespace Qt::StringLiterals;
+
+/// The system's, behind what another program does at the worst moment.
+extern "C" int flock(int file, int operation) noexcept {
+  if (const auto act = std::exchange(beforeLock, {})) act();
+  return static_cast<int>(::syscall(SYS_flock, file, operation));
+}
 
 /// What files have on Unix alone; files_windows_test has what they have on Windows.
 class FilesUnixTest : public QObject {
@@ -148,6 +158,13 @@ class FilesUnixTest : public QObject {
       QCOMPARE(folder_->get(u"mine"_s), QByteArray("mine"));
       QCOMPARE(entries(), (QStringList{u"a.tmp"_s, u"mine"_s}));
     }
+  }
+
+  /// Another program has taken the new temporary file for one that was left over.
+  void clearedAwayBeforeTheLock() {
+    beforeLock = [this] { QFile::remove(folder_->native(u"a.ini.unfinished"_s)); };
+    writeFile(at(u"a.ini"_s), "text");
+    QVERIFY(folder_->get(u"a.ini"_s) == "text" && !beforeLock);
   }
 
   void leftOverTemporaryFiles() {

@@ -176,7 +176,11 @@ class Diary {
     const auto files = game_.files();
     for (const auto& [name, bytes] : files.asKeyValueRange()) {
       const auto identity = platform::identityOf(game_.path() + name);
-      after[name] = {bytes.split('\n'), identity ? identity->number : 0};
+      after[name] = {bytes.split('\n'), identity ? identity->number : 0, {}};
+#ifndef Q_OS_WIN
+      after[name].open = std::make_shared<QFile>(game_.native(name));
+      after[name].open->open(QIODevice::ReadOnly);
+#endif
       if (!written_.isEmpty() && !written_.contains(name)) lines += u"file %1: new"_s.arg(name);
       if (!written_.contains(name)) continue;
       const QStringList changed = changedLines(written_[name].lines, after[name].lines);
@@ -192,7 +196,8 @@ class Diary {
 
   struct Written {
     QByteArrayList lines;
-    quint64 number = 0;  ///< another one when the file was replaced
+    quint64 number = 0;           ///< another one when the file was replaced,
+    std::shared_ptr<QFile> open;  ///< since the system has no other file of that number as long as this one is open
   };
 
   Program& program_;

@@ -92,7 +92,8 @@ class ThemeCheckTest : public QObject {
 
   void asManyColorsAsThereIsRoomFor() {
     const Game game;
-    for (const auto& [count, status, notes] : {std::tuple(99, 0, "97 notes"), {100, 1, "98 notes"}}) {
+    for (const auto& [count, status, notes] :
+         {std::tuple(99, 0, "\n0 errors, 0 warnings, 97 notes"), {100, 1, "\n1 error, 0 warnings, 98 notes"}}) {
       game.put("Themes/T.ini: " + support::manyColors(count) +
                "[Main]|[MainButtonA]|Tex=A|W=9|H=9|Color=C1|DColor=C99|");
       const QByteArray output = check(status, {game.path()}).output;
