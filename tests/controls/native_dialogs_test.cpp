@@ -105,7 +105,7 @@ class NativeDialogsTest : public QObject {
   void imageDialogShowsThePresentFile() {
     const support::Folder folder;
     for (int i = 0; i < 200; ++i) folder.put(u"p%1.png"_s.arg(i), {});
-    support::plainPicture(4, 400, qRgb(200, 0, 0)).save(folder.native(u"p150.png"_s));
+    support::plainPicture(40, 400, qRgb(200, 0, 0)).save(folder.native(u"p150.png"_s));
     QDir(folder.native({})).mkdir(u"sub"_s);
     support::plainPicture(4, 4, qRgb(0, 200, 0)).save(folder.native(u"sub/other.png"_s));
     const platform::FileRequest request{{}, u"Pictures|*.png"_s, u"P150.png"_s, folder.path({}), true};
@@ -117,8 +117,8 @@ class NativeDialogsTest : public QObject {
         const auto inSight = [&] { return list.viewport()->rect().contains(list.visualRect(list.currentIndex())); };
         QTRY_VERIFY_WITH_TIMEOUT(inSight(), Patience);
         const QPixmap shown = dialog.findChild<QLabel*>(u"thumbnail"_s)->pixmap();
-        const QColor color = shown.toImage().pixelColor(1, 80);
-        QVERIFY(shown.size() == QSize(2, 160) && color.red() > 190 && color.green() == 0);
+        const QColor color = shown.toImage().pixelColor(8, 80);
+        QVERIFY(shown.size() == QSize(16, 160) && color.red() > 190 && color.green() == 0);
         const QSize room = dialog.screen()->availableGeometry().size();  // which has to hold its frame, too
         QVERIFY(dialog.width() < room.width() && dialog.height() < room.height());
         if (!typed.isEmpty()) {
