@@ -2,6 +2,7 @@
 #include <QTest>
 
 #include "drawing/fonts.h"
+#include "drawing/ramps.h"
 #include "drawing/raster_pictures.h"
 #include "drawing/raster_text.h"
 #include "drawing/surface.h"
@@ -45,6 +46,15 @@ class DrawingTest : public QObject {
     raster.RoundRect(0, 0, 12, 7, 100, Edge, Inside);
     QCOMPARE(letters(raster), (QByteArrayList{"....####....", ".###oooo###.", ".#oooooooo#.", "#oooooooooo#",
                                               ".#oooooooo#.", ".###oooo###.", "....####...."}));
+  }
+
+  void shortRamps() {
+    const QRgb from = qRgb(10, 20, 30), to = qRgb(30, 40, 50);
+    Raster raster(QSize(2, 2), Ground);
+    PaintRamp(raster, 0, 0, 2, 1, from, to, 1);
+    PaintRamp(raster, 0, 1, 1, 1, from, to, 1);  // the middle of both
+    QVERIFY(raster.image().pixel(0, 0) == from && raster.image().pixel(1, 0) == to);
+    QCOMPARE(raster.image().pixel(0, 1), qRgb(20, 30, 40));
   }
 
   void pixelRowsKeepTheirBytes() {

@@ -4,7 +4,6 @@
 
 #include "platform/failure.h"
 #include "platform/ini_writing.h"
-#include "support/row_name.h"
 #include "support/windows.h"
 #include "themefiles/working_copies.h"
 
@@ -55,31 +54,6 @@ class SecondEditorTest : public QObject {
     a.edit(u"Y"_s, u"90"_s);
     const QByteArray all = game.files().values().join();
     for (const char* edit : {"X=77", "W=55", "Y=89", "H=33", "Y=90"}) QVERIFY2(all.contains(edit), edit);
-  }
-
-  void bothEditInTurn() {
-    for (const char* act : {"Save", "a commit", "a colour"}) {  // of the first, behind the edit of the second
-      const RowName name(act);
-      const GameFolder game;
-      Program a(game);
-      Program b(game);
-      a.open();
-      b.open();
-      a.edit();
-      const QByteArray edited = game.get(ThemeCopy);
-      b.edit(u"W"_s, u"55"_s);
-      QVERIFY(b.status().contains(u"another program") && game.get(Kept) == game.get(ThemeFile));
-      a.dialogs.inputs = {u"Fresh"_s};
-      if (name.name == "Save") a.click(2);
-      if (name.name == "a commit") a.edit(u"H"_s, u"33"_s);
-      if (name.name == "a colour") a.row(u"Color"_s), Editors(a.tools()).Command3->click();
-      QVERIFY2(a.status().contains(u"another program"), qPrintable(a.status()));
-      QCOMPARE(game.get(Kept + u".2"_s), edited);
-      for (Program* program : {&a, &b}) {
-        program->click(2);
-        QVERIFY(game.get(ThemeFile).contains("X=77") && game.get(ThemeFile).contains("W=55"));
-      }
-    }
   }
 
   /// The neighbour deletes the working copy and makes it anew all the time, as it was at first. Each edit goes into

@@ -16,34 +16,6 @@ class OpenThemeTest : public QObject {
   }
 
  private Q_SLOTS:
-  void gameFolder() {
-    const struct {
-      const char* stored;  // behind the game folder's path; "-" for nothing
-      bool chosen;         // when asked for the program
-      bool dialogComes;
-    } rows[] = {{"", false, true}, {"-", true, true}, {"-", false, false}, {"Skins\\", true, true}};
-    for (const auto& [stored, chosen, dialogComes] : rows) {
-      const GameFolder game;
-      Program program(game, false);
-      if (*stored != '-') program.form.config().setGameFolder(game.path() + QLatin1StringView(stored));
-      const QString before = program.form.config().gameFolder();
-      program.dialogs.files = {chosen ? game.path() + u"Vocora.exe"_s : QString()};
-      const bool came = program.openDialog([&](Form3& dialog) {
-        QCOMPARE(dialog.windowTitle(), u"Open Theme ["_s + game.path() + u']');
-        dialog.cancelButton().click();
-      });
-      QCOMPARE(came, dialogComes);
-      QCOMPARE(program.dialogs.asked.size(), *stored == 0 ? 0 : 1);
-      QCOMPARE(program.form.config().gameFolder(), dialogComes ? game.path() : before);
-      QVERIFY(program.form.toolWindow() == nullptr && !program.enabled(3));
-      // The same folder without themes.
-      program.dialogs.files = {game.path() + u"Vocora.exe"_s};
-      QFile::remove(game.native(ThemeFile));
-      QVERIFY(!program.openDialog([](Form3& dialog) { dialog.reject(); }));
-      QCOMPARE(program.dialogs.asked.last(), u"Error: No Themes Found"_s);
-    }
-  }
-
   /// The files are spoilt while the dialog is up: with no theme open, and with one open that has changes.
   void failedCopies() {
     const std::pair<QString, QString> rows[] = {{ThemeFile, u"gone"_s},        {LanguageFile, u"gone"_s},

@@ -57,6 +57,29 @@ class SessionsTest : public DiaryTest {
     d.step(u"end"_s, [&] { program->form.close(); });
   }
 
+  void gameFolder() {
+    Diary& d = begun();
+    const auto open = [&](const QString& what, const QString& stored, const QString& answer) {
+      program->form.config().setGameFolder(stored);
+      program->dialogs.files = {answer};
+      d.step(what, [&] {
+        program->openDialog([&](Form3& dialog) {
+          d.lines += u"dialog: "_s + dialog.windowTitle();
+          dialog.reject();
+        });
+        d.lines += u"stored: "_s + program->form.config().gameFolder();
+      });
+    };
+    const QString chosen = game->path() + u"Vocora.exe"_s;
+    open(u"Open, a folder stored"_s, game->path(), chosen);
+    open(u"Open, none stored"_s, {}, chosen);
+    open(u"Open, none stored and none chosen"_s, {}, {});
+    open(u"Open, a folder without the program stored"_s, game->path() + u"Skins\\"_s, chosen);
+    for (const char* theme : {"Alpha", "Beta"})
+      QFile::remove(game->native(u"Themes/%1.ini"_s.arg(QLatin1StringView(theme))));
+    open(u"Open, no themes"_s, game->path(), {});
+  }
+
   void values() {
     Diary& d = opened();
     d.tag(u"LoadingStaticA"_s);
@@ -210,8 +233,12 @@ class SessionsTest : public DiaryTest {
     game->protect(ThemeCopy);
     d.press("Command1");
     game->protect(ThemeCopy, false);
+    byAnother(ThemeCopy);
     d.tool(2);
-    program->dialogs.boxes = {BoxAnswer::Yes};
+    d.row(u"Color"_s);
+    byAnother(ThemeCopy);
+    program->dialogs.inputs = {u"Fresh"_s};
+    d.press("Command3");
     d.tool(3);
     game->put(ThemeFile, game->get(ThemeFile).replace("[Colors]\r\n", linesOf(manyColors(120))));
     d.step(u"Open with too many colours"_s, [&] { program->open(); });

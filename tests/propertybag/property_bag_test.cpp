@@ -4,6 +4,7 @@
 #include "drawing/icons.h"
 #include "platform/failure.h"
 #include "propertybag/stored_bytes.h"
+#include "propertybag/stored_values.h"
 
 using propertybag::bagOfBytes;
 using propertybag::PropertyBag;
@@ -24,6 +25,20 @@ class PropertyBagTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  void valuesByTheirKeys() {
+    PropertyBag bag;
+    const auto write = [&](const char* key, int value) { bag.WriteProperty(QLatin1StringView(key), value, 7); };
+    write("Key", 5);
+    write("KEY", 6);
+    QCOMPARE(bag.ReadProperty(QStringLiteral("key"), 7).toInt(), 6);
+    write("key", 7);  // the default, which isn't stored
+    QCOMPARE(bag.ReadProperty(QStringLiteral("Key"), 9).toInt(), 9);
+    propertybag::storeSize(bag, QSize(800, 32));
+    QCOMPARE(propertybag::storedSize(bag), QSize(800, 32));
+    write("_ExtentY", 7);
+    QVERIFY(!propertybag::storedSize(bag));
+  }
+
   // Whatever single byte is wrong, nothing of the bag is taken, or the bag says what the bytes say.
   void bytesSoundAndDamaged() {
     const auto fromHex = &QByteArray::fromHex;
