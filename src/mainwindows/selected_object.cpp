@@ -46,7 +46,7 @@ SelectedObject selectedAt(const Form1& form, const QPoint& pixel) {
 
 QRect seenPlace(const Form1& form) {
   const renderer::DrawnObject* const drawn = drawnObject(form, form.session().object());
-  if (drawn != nullptr) return drawn->place;
+  if (drawn != nullptr && !drawn->place.isEmpty()) return drawn->place;
   return form.Workspace->markVisible() ? form.Workspace->markRect() : QRect();
 }
 

@@ -179,8 +179,9 @@ void SaveTheme(Form1& form) {
     form.enableCommand(Command::Save, false);
     telling.success(QStringLiteral("Saved"));
     noteUntaken(form, untakenIn(form));
-    Q_EMIT form.session().differencesDue();
   });
+  // A Save that failed may have copied some of the files.
+  Q_EMIT form.session().differencesDue();
 }
 
 void CloseTheme(Form1& form) {

@@ -46,6 +46,7 @@ ColorFrame::ColorFrame(const ToolServices& services, PlacedControls& placed, QWi
   connect(Combo4, &controls::ComboBox::Click, this, &ColorFrame::Combo4_Click);
   connect(Combo3, &controls::ComboBox::Click, this, &ColorFrame::Combo3_Click);
   connect(&services.session, &editing::Session::colorsChanged, this, &ColorFrame::updateColors);
+  connect(&services.session, &editing::Session::ended, this, [this] { this->services.session.disconnect(this); });
   connect(Command2, &controls::SwatchButton::menuAsked, this, &ColorFrame::showMenu);
   onClick(
       Command2, [this] { Command2_Click(); }, Combo3);

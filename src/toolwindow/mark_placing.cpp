@@ -13,6 +13,7 @@ using editing::MarkReason;
 
 MarkPlacing::MarkPlacing(const ToolServices& services) : services_(services) {
   connect(&services.session, &editing::Session::markWanted, this, &MarkPlacing::place);
+  connect(&services.session, &editing::Session::ended, this, [this] { services_.session.disconnect(this); });
 }
 
 void MarkPlacing::place(MarkReason reason) {
@@ -20,12 +21,13 @@ void MarkPlacing::place(MarkReason reason) {
     if (!report_.isEmpty()) services_.session.status().withdraw(report_);
     report_.clear();
   }
+  reason_ = reason;
   if (reason == MarkReason::Listed || !services_.queue.busy()) return draw(reason);
   const drawing::Pen before = services_.Workspace.pen();
   draw(reason);
   services_.Workspace.setPen(before);
-  services_.queue.runBehind([open = QPointer<MarkPlacing>(this), reason] {
-    if (open && open->services_.session.isOpen()) open->draw(reason);
+  services_.queue.runBehind([open = QPointer<MarkPlacing>(this)] {
+    if (open && open->services_.session.isOpen()) open->draw(open->reason_);
   });
 }
 

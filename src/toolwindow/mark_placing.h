@@ -21,7 +21,8 @@ class MarkPlacing : public QObject {
   void draw(editing::MarkReason reason);
 
   const ToolServices& services_;
-  QString report_;  ///< of the mark that couldn't be placed
+  editing::MarkReason reason_{};  ///< why it was placed last
+  QString report_;                ///< of the mark that couldn't be placed
 };
 
 }  // namespace toolwindow

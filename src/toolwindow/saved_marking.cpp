@@ -57,6 +57,7 @@ SavedMarking::SavedMarking(const ToolServices& services, controls::ListView& val
   idle_.setSingleShot(true);
   connect(&idle_, &QTimer::timeout, this, &SavedMarking::goOn);
   connect(&services.session, &editing::Session::differencesDue, this, &SavedMarking::begin);
+  connect(&services.session, &editing::Session::ended, this, [this] { services_.session.disconnect(this); });
 }
 
 SavedMarking::~SavedMarking() = default;

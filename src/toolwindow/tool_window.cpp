@@ -119,6 +119,8 @@ void Form2::connectLists() {
 
 void Form2::connectSession() {
   Session& session = services.session;
+  // The window, and all in it that follow the session, may outlive the theme by the begin of the next one.
+  connect(&session, &Session::ended, this, [this] { services.session.disconnect(this); });
   connect(&session, &Session::valuesRead, this, &Form2::showValues);
   connect(&session, &Session::valueWritten, this, &Form2::showWritten);
   connect(&session, &Session::rowWanted, this, &Form2::chooseRow);

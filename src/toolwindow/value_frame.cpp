@@ -71,7 +71,8 @@ void ValueFrame::onClick(QPushButton* button, const std::function<void()>& opera
         [this, operation] {
           const editing::Proposal before = proposal();
           platform::guardedSilently(operation);
-          if (proposal() != before) touch();
+          // What waited may find another row open, whose editor is another frame.
+          if (!isHidden() && proposal() != before) touch();
         });
   });
 }

@@ -29,6 +29,9 @@ class SessionsTest : public DiaryTest {
     program->dialogs.colors = {QColor(10, 20, 30)};
     d.tool(4);
     d.tool(4);
+    d.tag(u"LoadingStaticA"_s);
+    d.row(u"X"_s);
+    d.step(u"5 typed, and not taken over"_s, [&] { QTest::keyClicks(&d.find<controls::TextBox>("Text1"), u"5"_s); });
     program->dialogs.boxes = {BoxAnswer::Yes};
     d.step(u"Open Beta, Yes"_s, [&] {
       program->openDialog([](Form3& dialog) {
