@@ -59,7 +59,9 @@ PreparedPicture PreparedPictures::get(const PictureRequest& request, bool inHand
   }
   const bool settled = platform::isSettled(*file);
   Source source = sourceOf(request);
-  const bool keeps = settled && platform::identityIfSeen(request.path) == file;
+  // What hindered the reading may be over next time, whatever the file's identity tells.
+  const bool wasRead = !source.missing || source.missing == Reason::ColorRange;
+  const bool keeps = settled && wasRead && platform::identityIfSeen(request.path) == file;
   if (keeps && inHand) {
     source.picture = std::move(source.picture).convertToFormat(QImage::Format_ARGB32_Premultiplied);
     holdUnscaled({*file, request.recoloring, source});
