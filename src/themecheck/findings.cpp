@@ -116,15 +116,18 @@ void Findings::add(Kind kind, const Place& place, const QStringList& fill, const
   Entry& entry = entries_[{place.file, row.level, text, folds ? 0 : place.line, folds ? 0 : place.column,
                            folds ? QString() : place.section, key}];
   Finding& finding = entry.finding;
-  if (entry.sections.empty() || place.line < finding.place.line) finding.place = place;
   finding.level = row.level;
   finding.text = text;
-  entry.sections.insert(platform::upperCase(place.section));
+  Place& known = entry.sections.try_emplace(platform::upperCase(place.section), place).first->second;
+  if (place.line < known.line) known = place;
   addName(finding.skins, setting.skin);
   addName(finding.languages, setting.language);
   addName(finding.schemes, setting.scheme);
   const bool isWhole = kind == Kind::NoScreen || kind == Kind::BehindScreen || kind == Kind::NoKind;
-  if (row.level == Level::Error || kind == Kind::NoPlace || isWhole) told_.insert(upper(place.section, place.key));
+  if (row.level == Level::Error || kind == Kind::NoPlace || isWhole) {
+    // An area is told of both sides: "W x H".
+    for (const QString& side : place.key.split(QStringLiteral(" x "))) told_.insert(upper(place.section, side));
+  }
 }
 
 bool Findings::isTold(const QString& section, const QString& key) const {
@@ -135,15 +138,26 @@ std::vector<Finding> Findings::taken(const Scope& scope) const {
   std::vector<Finding> all;
   for (const auto& [identity, entry] : entries_) {
     Finding& settled = all.emplace_back(entry.finding);
-    const size_t others = entry.sections.size() - 1;
-    if (others > 0) {
-      settled.text += QStringLiteral("; the same in %1 more section%2")
-                          .arg(QString::number(others), others == 1 ? QString() : QStringLiteral("s"));
-    }
+    for (const auto& [section, place] : entry.sections) settled.others.push_back(place);
+    placeFirst(settled);
     settled.where = namedSettings(settled, scope);
   }
   sortFindings(all);
   return all;
+}
+
+void placeFirst(Finding& finding) {
+  std::sort(finding.others.begin(), finding.others.end(),
+            [](const Place& a, const Place& b) { return std::tie(a.line, a.column) < std::tie(b.line, b.column); });
+  finding.place = finding.others.front();
+  finding.others.erase(finding.others.begin());
+}
+
+QString furtherSections(const Finding& finding) {
+  const size_t others = finding.others.size();
+  if (others == 0) return {};
+  return QStringLiteral("; the same in %1 more section%2")
+      .arg(QString::number(others), others == 1 ? QString() : QStringLiteral("s"));
 }
 
 void sortFindings(std::vector<Finding>& findings) {

@@ -79,6 +79,7 @@ struct Setting {
 struct Finding {
   Level level = Level::Note;
   Place place;
+  std::vector<Place> others;  ///< the same, in further sections, by their lines
   QString text;
   QStringList skins;      ///< in which it was found; empty if it doesn't depend on them
   QStringList languages;  ///< the same
@@ -92,6 +93,9 @@ struct Scope {
   qsizetype languages = 0;
   qsizetype schemes = 0;
 };
+
+/// What stands behind the text of a finding: "; the same in 2 more sections". Empty without any.
+QString furtherSections(const Finding& finding);
 
 /// "error", "warning" or "note".
 QString nameOf(Level level);
@@ -110,12 +114,15 @@ class Findings {
  private:
   struct Entry {
     Finding finding;
-    std::set<QString> sections;
+    std::map<QString, Place> sections;  ///< by their names in upper case
   };
 
   std::map<std::tuple<QString, Level, QString, int, int, QString, QString>, Entry> entries_;
   std::set<std::pair<QString, QString>> told_;  ///< sections and keys in upper case; the key is empty for a whole one
 };
+
+/// Takes the place of a finding from the first of all its places, which stand in `others`.
+void placeFirst(Finding& finding);
 
 /// Sorts by file and line, and drops what is there twice.
 void sortFindings(std::vector<Finding>& findings);

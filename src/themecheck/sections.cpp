@@ -60,10 +60,10 @@ void Listing::findEnds(const IniFile& theme) {
   for (const IniSection& section : theme.sections()) {
     const QString name = upperCase(section.name);
     for (auto& [screen, run] : runs_) {
-      if (name.startsWith(screen)) {
+      if (name != screen && isScreen(name)) {
+        if (run.began && !run.end) run.end = &section;
+      } else if (name.startsWith(screen)) {
         run.began = run.began || isListed(name);
-      } else if (run.began && !run.end && isScreen(name)) {
-        run.end = &section;
       }
     }
   }

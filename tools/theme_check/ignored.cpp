@@ -32,13 +32,23 @@ Ignored::Ignored(const QString& path) {
   }
 }
 
+bool Ignored::fits(const QString& text) const {
+  return std::any_of(patterns_.begin(), patterns_.end(),
+                     [&](const QRegularExpression& pattern) { return pattern.match(text).hasMatch(); });
+}
+
 int Ignored::takeOut(std::vector<themecheck::Finding>& findings) const {
-  const auto isIgnored = [&](const themecheck::Finding& finding) {
-    const QString text = withoutPlace(finding);
-    return std::any_of(patterns_.begin(), patterns_.end(),
-                       [&](const QRegularExpression& pattern) { return pattern.match(text).hasMatch(); });
-  };
-  return static_cast<int>(std::erase_if(findings, isIgnored));
+  const auto gone = std::erase_if(findings, [&](themecheck::Finding& finding) {
+    std::vector<themecheck::Place> places = finding.others;
+    places.push_back(finding.place);
+    std::erase_if(places, [&](const themecheck::Place& place) { return fits(withoutPlace(finding, place)); });
+    if (places.empty()) return true;
+    finding.others = std::move(places);
+    placeFirst(finding);
+    return false;
+  });
+  sortFindings(findings);
+  return static_cast<int>(gone);
 }
 
 }  // namespace themechecktool

@@ -18,10 +18,13 @@ class Ignored {
   explicit Ignored(const QString& path);
 
   /// Takes out the findings that match a pattern with their level, section, key and text, in any case:
-  /// "note: MainButtonEditor: Visible: the button is hidden". Returns how many.
+  /// "note: MainButtonEditor: Visible: the button is hidden". One that stands for several sections stays for those that
+  /// match none. Returns how many are gone.
   int takeOut(std::vector<themecheck::Finding>& findings) const;
 
  private:
+  bool fits(const QString& text) const;
+
   std::vector<QRegularExpression> patterns_;
 };
 

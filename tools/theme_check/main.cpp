@@ -32,6 +32,7 @@ int run(const QStringList& words) {
   counts.ignored = takenOut;
   if (arguments.json) {
     std::fputs(themechecktool::jsonOf(findings).constData(), stdout);
+    if (counts.ignored > 0) print(stderr, themechecktool::ignoredText(counts));
   } else {
     for (const themecheck::Finding& finding : findings) print(stdout, themechecktool::lineOf(finding));
     print(stdout, themechecktool::countsText(counts));

@@ -32,15 +32,19 @@ Counts countsOf(const std::vector<Finding>& findings) {
   return counts;
 }
 
+QString ignoredText(const Counts& counts) {
+  return QStringLiteral("%1 ignored").arg(counts.ignored);
+}
+
 QString countsText(const Counts& counts) {
   QStringList texts{counted(counts.errors, QStringLiteral("error")),
                     counted(counts.warnings, QStringLiteral("warning")), counted(counts.notes, QStringLiteral("note"))};
-  if (counts.ignored > 0) texts += QStringLiteral("%1 ignored").arg(counts.ignored);
+  if (counts.ignored > 0) texts += ignoredText(counts);
   return texts.join(QStringLiteral(", "));
 }
 
-QString withoutPlace(const Finding& finding) {
-  return QStringList{nameOf(finding.level), field(finding.place.section), field(finding.place.key), finding.text}.join(
+QString withoutPlace(const Finding& finding, const themecheck::Place& place) {
+  return QStringList{nameOf(finding.level), field(place.section), field(place.key), finding.text}.join(
       QStringLiteral(": "));
 }
 
@@ -49,7 +53,8 @@ QString lineOf(const Finding& finding) {
   QStringList head{place.file, QString::number(place.line)};
   if (place.column > 0) head += QString::number(place.column);
   const QString where = finding.where.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.where);
-  return platform::onOneLine(head.join(u':') + QStringLiteral(": ") + withoutPlace(finding) + where);
+  return platform::onOneLine(head.join(u':') + QStringLiteral(": ") + withoutPlace(finding, place) +
+                             furtherSections(finding) + where);
 }
 
 QByteArray jsonOf(const std::vector<Finding>& findings) {
@@ -61,7 +66,7 @@ QByteArray jsonOf(const std::vector<Finding>& findings) {
                          {QStringLiteral("level"), nameOf(finding.level)},
                          {QStringLiteral("section"), finding.place.section},
                          {QStringLiteral("key"), finding.place.key},
-                         {QStringLiteral("text"), finding.text},
+                         {QStringLiteral("text"), finding.text + furtherSections(finding)},
                          {QStringLiteral("skins"), QJsonArray::fromStringList(finding.skins)},
                          {QStringLiteral("languages"), QJsonArray::fromStringList(finding.languages)},
                          {QStringLiteral("schemes"), QJsonArray::fromStringList(finding.schemes)}};

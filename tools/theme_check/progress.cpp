@@ -30,14 +30,19 @@ ProgressLine::ProgressLine() : onTerminal_(isTerminal()) {
 }
 
 ProgressLine::~ProgressLine() {
-  if (shown_) std::fputs("\r\033[K", stderr);
+  if (shown_ > 0) write({});
 }
 
 void ProgressLine::show(const QString& text) {
-  if (!onTerminal_ || sinceStart_.elapsed() < LongRun) return;
-  shown_ = true;
-  std::fprintf(stderr, "\r\033[K%s", platform::onOneLine(text).toUtf8().constData());
+  if (onTerminal_ && sinceStart_.elapsed() >= LongRun) write(platform::onOneLine(text));
+}
+
+/// Blanks wipe what was there: not every terminal knows a command for that.
+void ProgressLine::write(const QString& line) {
+  const QString wiped = QString(shown_, u' ');
+  std::fprintf(stderr, "\r%s\r%s", wiped.toUtf8().constData(), line.toUtf8().constData());
   std::fflush(stderr);
+  shown_ = line.size();
 }
 
 }  // namespace themechecktool

@@ -14,8 +14,10 @@ class ProgressLine {
   void show(const QString& text);
 
  private:
+  void write(const QString& line);
+
   bool onTerminal_;
-  bool shown_ = false;
+  qsizetype shown_ = 0;  ///< length of the line
   QElapsedTimer sinceStart_;
 };
 
