@@ -111,7 +111,7 @@ QString torn(const Files& now, const Files& before, const Files& after, bool tem
   return {};
 }
 
-void putBack(const GameFolder& game, const Files& files) {
+[[maybe_unused]] void putBack(const GameFolder& game, const Files& files) {
   for (const QString& name : game.files().keys()) {
     if (!files.contains(name)) QFile::remove(game.native(name));
   }
@@ -223,9 +223,10 @@ class FileFailuresTest : public QObject {
       QVERIFY2(fault == Fault::Short ? reported == 0 : reported >= 3, QByteArray::number(reported));
     }
 
-    Stage stage(operation);
     int number = 0;
     QString found;
+#ifdef Q_OS_UNIX
+    Stage stage(operation);
     stage.run(operation, [&] {
       // A child has none of the threads that help to paint large areas.
       for (QWidget* window : QApplication::topLevelWidgets()) window->setUpdatesEnabled(false);
@@ -234,6 +235,13 @@ class FileFailuresTest : public QObject {
         putBack(stage.game, stage.before.files);
       }
     });
+#else
+    while (found.isEmpty() && ++number <= calls) {
+      Stage stage(operation);
+      stage.run(operation, Fault::Kill, number);
+      found = torn(stage.game.files(), stage.before.files, after.files, true);
+    }
+#endif
     QVERIFY2(found.isEmpty(), qPrintable(found + QString::number(number)));
     QCOMPARE(number, calls + 1);
     kills += calls;
@@ -244,7 +252,9 @@ class FileFailuresTest : public QObject {
     }
     qInfo("%s: %d points%s", QTest::currentDataTag(), calls, passed.constData());
   }
-  void cleanupTestCase() { qInfo("%d failure points, %d kill points", failures, kills); }
+  void cleanupTestCase() {
+    qInfo("%d failure points, %d kill points", failures, kills);
+  }
 };
 
 QTEST_MAIN(FileFailuresTest)

@@ -2,6 +2,8 @@
 
 #include <vector>
 
+#include <QtGlobal>
+
 /// The system calls by which the program looks at, lists, reads and writes files, with a fault at one of them. The
 /// linker leads the calls of the program's own libraries here (see CMakeLists.txt); the toolkit's aren't touched.
 namespace system_calls {
@@ -26,8 +28,11 @@ const std::vector<Kind>& disarm();
 /// Whether the fault changes anything about such a call.
 bool concerns(Fault fault, Kind kind);
 
+#ifdef Q_OS_UNIX
 /// Goes on in a process of its own, with Kill at that call, and waits here until it has ended: false here when it came
-/// to disarm before. In the other process gives false as well.
+/// to disarm before. In the other process gives false as well. Elsewhere a killed program goes on, but no call of it
+/// does anything any more until disarm.
 bool armInChild(int number);
+#endif
 
 }  // namespace system_calls

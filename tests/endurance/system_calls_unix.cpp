@@ -1,5 +1,3 @@
-#include "endurance/system_calls.h"
-
 #include <algorithm>
 #include <cerrno>
 #include <cstdarg>
@@ -12,53 +10,32 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-namespace system_calls {
+#include "endurance/fault_points.h"
+
+using namespace system_calls;
+
 namespace {
 
 constexpr int KilledStatus = 77;
 
-Fault armed = Fault::None;
-bool counting = false;
-bool diskFull = false;
-int faulty = 0;
-std::vector<Kind> seen;
-
-/// Counts a call; gives what happens to it.
-Fault next(Kind kind) {
-  if (!counting) return Fault::None;
-  seen.push_back(kind);
-  if (static_cast<int>(seen.size()) != faulty) return Fault::None;
-  if (armed == Fault::Kill) ::_exit(KilledStatus);
-  return armed;
+/// What happens to a call; of those that kill, only a write is left to the caller.
+Outcome next(Kind kind) {
+  const Outcome outcome = outcomeOf(kind);
+  if (outcome == Outcome::Dies && kind != Kind::Write) ::_exit(KilledStatus);
+  return outcome;
 }
 
 /// Whether the call fails, with the number in errno.
 bool fails(Kind kind) {
-  const Fault fault = next(kind);
-  const bool takesRoom = concerns(Fault::Full, kind);
-  if (fault == Fault::Full && takesRoom) diskFull = true;
   const int before = errno;
-  errno = diskFull && takesRoom ? ENOSPC : EIO;
-  const bool failing = fault == Fault::Error || (diskFull && takesRoom);
-  if (!failing) errno = before;
-  return failing;
+  const Outcome outcome = next(kind);
+  errno = outcome == Outcome::NoRoom ? ENOSPC : outcome == Outcome::Fails ? EIO : before;
+  return outcome == Outcome::NoRoom || outcome == Outcome::Fails;
 }
 
 }  // namespace
 
-bool concerns(Fault fault, Kind kind) {
-  if (fault == Fault::Short) return kind == Kind::Read || kind == Kind::Write;
-  if (fault != Fault::Full) return true;
-  return kind == Kind::Make || kind == Kind::Write || kind == Kind::Flush || kind == Kind::Rename;
-}
-
-void arm(Fault fault, int number) {
-  armed = fault;
-  faulty = number;
-  seen.clear();
-  diskFull = false;
-  counting = true;
-}
+namespace system_calls {
 
 bool armInChild(int number) {
   const pid_t child = ::fork();
@@ -72,15 +49,11 @@ bool armInChild(int number) {
   return WEXITSTATUS(status) == KilledStatus;
 }
 
-const std::vector<Kind>& disarm() {
-  if (counting && armed == Fault::Kill) ::_exit(0);
-  counting = diskFull = false;
-  return seen;
+void endOfChild() {
+  ::_exit(0);
 }
 
 }  // namespace system_calls
-
-using namespace system_calls;
 
 // The names are the linker's.
 extern "C" {
@@ -132,29 +105,22 @@ int __wrap_open(const char* path, int flags, ...) {
 }
 
 ssize_t __wrap_pread(int file, void* bytes, size_t size, off_t place) {
-  const Fault fault = next(Kind::Read);
-  if (fault == Fault::Error) {
-    errno = EIO;
-    return -1;
-  }
-  return __real_pread(file, bytes, fault == Fault::Short ? std::max<size_t>(size / 2, 1) : size, place);
+  const Outcome outcome = next(Kind::Read);
+  errno = EIO;
+  if (outcome == Outcome::Fails) return -1;
+  return __real_pread(file, bytes, outcome == Outcome::Halved ? std::max<size_t>(size / 2, 1) : size, place);
 }
 
 ssize_t __wrap_write(int file, const void* bytes, size_t size) {
   const size_t half = std::max<size_t>(size / 2, 1);
-  if (counting && static_cast<int>(seen.size()) + 1 == faulty && armed == Fault::Kill) {
+  const Outcome outcome = next(Kind::Write);
+  if (outcome == Outcome::Dies) {
     [[maybe_unused]] const ssize_t put = __real_write(file, bytes, half);
     ::_exit(KilledStatus);
   }
-  if (diskFull) {
-    errno = ENOSPC;
-    return -1;
-  }
-  const Fault fault = next(Kind::Write);
-  errno = EIO;
-  if (fault == Fault::Error) return -1;
-  diskFull = fault == Fault::Full;
-  return __real_write(file, bytes, fault == Fault::Full || fault == Fault::Short ? half : size);
+  errno = outcome == Outcome::NoRoom ? ENOSPC : EIO;
+  if (outcome == Outcome::Fails || outcome == Outcome::NoRoom) return -1;
+  return __real_write(file, bytes, outcome == Outcome::Halved ? half : size);
 }
 
 }  // extern "C"
