@@ -1,7 +1,6 @@
 #include "mainwindows/config_file.h"
 
 #include <algorithm>
-#include <array>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,6 +10,7 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "platform/system_folders.h"
 #include "themefiles/ini_access.h"
 
 namespace mainwindows {
@@ -18,13 +18,12 @@ namespace {
 
 constexpr QByteArrayView FirstContent = "[Setup]\r\nEXEDirectory=\r\n";
 
-/// System folders for programs. Settings don't belong there, even if the user may write them.
-bool isSystemFolder(const QString& folder) {
-  constexpr auto Heads =
-      std::to_array<QStringView>({u"/usr/", u"/bin/", u"/sbin/", u"/opt/", u"/Applications/", u"C:/Program Files"});
+/// Settings don't belong there, even if the user may write them.
+bool isInSystemFolder(const QString& folder) {
   const QString native = platform::nativePath(folder) + u'/';
-  return std::any_of(Heads.begin(), Heads.end(),
-                     [&](QStringView head) { return native.startsWith(head, Qt::CaseInsensitive); });
+  const QStringList heads = platform::systemFolders();
+  return std::any_of(heads.begin(), heads.end(),
+                     [&](const QString& head) { return native.startsWith(head + u'/', Qt::CaseInsensitive); });
 }
 
 /// Whether the folder is that of an installed program, wherever that is: its data then lies in a folder beside it.
@@ -44,7 +43,7 @@ ConfigFile::ConfigFile(const QStringList& folders) {
     const QString path = folder + QStringLiteral("\\config.ini");
     try {
       if (!platform::readIfThere(path)) {
-        if (isSystemFolder(folder) || isInstalled(folder)) continue;
+        if (isInSystemFolder(folder) || isInstalled(folder)) continue;
         QDir().mkpath(platform::nativePath(folder));  // the making of the file tells if that failed
         platform::FileTurn turn(path);
         if (!turn.text()) turn.replace(FirstContent);

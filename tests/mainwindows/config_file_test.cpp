@@ -5,12 +5,22 @@
 
 #include "platform/failure.h"
 #include "support/panel.h"
+#include "support/row_name.h"
 
 using namespace Qt::StringLiterals;
 using mainwindows::ConfigFile;
 using support::Folder;
 
 const QString File = u"config.ini"_s;
+
+// No place for a folder, a file, a system folder, and one of system programs, otherwise written.
+#ifdef Q_OS_WIN
+const QString Programs = qEnvironmentVariable("ProgramFiles");
+const QStringList Unfit{u"NUL\\at all"_s, u"NUL"_s, qEnvironmentVariable("windir"),
+                        Programs.toUpper().replace(u'\\', u"\\\\"_s) + u"\\Game\\bin"_s};
+#else
+const QStringList Unfit{u"\\dev\\null\\at all"_s, u"\\dev\\null"_s, u"\\usr\\local"_s, u"\\usr\\\\local\\bin"_s};
+#endif
 
 class ConfigFileTest : public QObject {
   Q_OBJECT
@@ -34,16 +44,15 @@ class ConfigFileTest : public QObject {
 
   void theNextFolderTakesIt() {
     const Folder next;
-    // No place for a folder, a file, a system folder, and one of system programs, otherwise written.
-    for (const char* first : {"\\dev\\null\\at all", "\\dev\\null", "\\usr\\local", "\\usr\\\\local\\bin"}) {
-      const QString folder = QString::fromLatin1(first);
+    for (const QString& folder : Unfit) {
+      const support::RowName row(folder.toUtf8());
       ConfigFile config({folder, next.path(u"new"_s)});
-      QVERIFY2(config.path() == next.path(u"new\\config.ini"_s) && config.problem().isEmpty(), first);
+      QVERIFY(config.path() == next.path(u"new\\config.ini"_s) && config.problem().isEmpty());
       ConfigFile none({folder});
-      QVERIFY2(none.path().isEmpty() && none.gameFolder().isEmpty(), first);
+      QVERIFY(none.path().isEmpty() && none.gameFolder().isEmpty());
       QVERIFY_THROWS_EXCEPTION(platform::Failure, none.setGameFolder(u"C:\\Games\\"_s));
     }
-    QVERIFY(!ConfigFile({u"\\dev\\null\\at all"_s}).problem().isEmpty());
+    QVERIFY(!ConfigFile({Unfit.first()}).problem().isEmpty());
   }
 
   void installedPrograms() {
