@@ -55,8 +55,15 @@ function(cantorama_room name)
   endif()
 endfunction()
 
-# How a program is run on a display of its own.
-set(CANTORAMA_ON_DISPLAY ${CMAKE_SOURCE_DIR}/tests/with_display ${CMAKE_CROSSCOMPILING_EMULATOR})
+# Adds a run of a test program on a display of its own: cantorama_display_test(NAME PROGRAM)
+function(cantorama_display_test name program)
+  add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/with_display ${CMAKE_CROSSCOMPILING_EMULATOR}
+                                $<TARGET_FILE:${program}>)
+  if(WIN32)
+    # All programs under one Wine have one keyboard.
+    set_property(TEST ${name} PROPERTY RESOURCE_LOCK keyboard)
+  endif()
+endfunction()
 
 # Whether the test isn't for what is built here: cantorama_left_out(NAME RESULT)
 if(WIN32)
@@ -85,7 +92,7 @@ function(cantorama_test file)
   target_compile_definitions(${name} PRIVATE SAMPLE_FOLDER="${CANTORAMA_DRIVE}${CMAKE_SOURCE_DIR}/sample/Cantorama")
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   if(TEST_DISPLAY)
-    add_test(NAME ${name} COMMAND ${CANTORAMA_ON_DISPLAY} $<TARGET_FILE:${name}>)
+    cantorama_display_test(${name} ${name})
   else()
     add_test(NAME ${name} COMMAND ${name})
     set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT QT_QPA_PLATFORM=offscreen)

@@ -3,6 +3,8 @@
 #include "platform/paths.h"
 #include "platform/system_folders.h"
 #include "platform/windows_api.h"
+// Behind the other declarations of the system.
+#include <shlobj.h>
 
 namespace platform {
 

@@ -6,6 +6,5 @@
 #include <windows.h>
 #include <sddl.h>
 #include <shellapi.h>
-#include <shlobj.h>
 #include <winioctl.h>
 // clang-format on

@@ -50,6 +50,8 @@ class KeyboardSessionTest : public QObject {
   GameFolder game;
 
  private Q_SLOTS:
+  void initTestCase() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+
   void openToSaveWithoutAMouse() {
     game.copySample();
     Program program(game);

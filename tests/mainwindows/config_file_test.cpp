@@ -58,7 +58,7 @@ class ConfigFileTest : public QObject {
   void installedPrograms() {
     const Folder place;
     for (const QString& sub : {u"bin"_s, u"share/cantorama-theme-edit"_s}) QDir(place.native({})).mkpath(sub);
-    const QStringList folders{place.path(u"bin"_s), place.path(u"users"_s)};
+    const QStringList folders{place.path(u"bin"_s), place.path(u"own\\users"_s)};
     QCOMPARE(ConfigFile(folders).path(), folders[1] + u"\\config.ini"_s);
     QVERIFY(!place.has(u"bin/config.ini"_s));
     place.put(u"bin/config.ini"_s, {});

@@ -60,7 +60,9 @@ QString fontOf(const QWidget& control) {
 QString spoken(QWidget& control, QString text) {
   const QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(&control);
   if (reader == nullptr) return {};
-  QStringList words{reader->text(QAccessible::Name), reader->text(QAccessible::Description)};
+  // The name of a list to choose from is its text on some systems only.
+  const bool isChoice = reader->role() == QAccessible::ComboBox && !reader->text(QAccessible::Value).isEmpty();
+  QStringList words{reader->text(isChoice ? QAccessible::Value : QAccessible::Name), reader->text(QAccessible::Description)};
   words.removeAll(text.remove(u'&'));
   words.removeAll(control.toolTip());
   words.removeDuplicates();

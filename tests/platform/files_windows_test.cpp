@@ -13,7 +13,7 @@
 #include "platform/file_identity.h"
 #include "platform/files.h"
 #include "platform/links_windows.h"
-#include "platform/windows_api.h"
+#include "support/access.h"
 #include "support/panel.h"
 #include "support/row_name.h"
 
@@ -22,15 +22,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::wstring wide(const QString& native) {
-  return QDir::toNativeSeparators(native).toStdWString();
-}
-
 /// The file open as a neighbour has it.
 class Held {
  public:
   Held(const QString& native, DWORD shared, DWORD access = GENERIC_READ)
-      : handle_(::CreateFileW(wide(native).c_str(), access, shared, nullptr, OPEN_EXISTING, 0, nullptr)) {}
+      : handle_(::CreateFileW(support::widePath(native).c_str(), access, shared, nullptr, OPEN_EXISTING, 0, nullptr)) {}
   ~Held() { release(); }
   Q_DISABLE_COPY_MOVE(Held)
   bool works() const { return handle_ != INVALID_HANDLE_VALUE; }
@@ -44,29 +40,6 @@ class Held {
 };
 
 constexpr DWORD ShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-
-/// Who may do what with the file, in the system's own notation.
-QString accessList(const QString& native) {
-  QByteArray descriptor(4096, Qt::Uninitialized);
-  DWORD size = 0;
-  wchar_t* text = nullptr;
-  ::GetFileSecurityW(wide(native).c_str(), DACL_SECURITY_INFORMATION, descriptor.data(), DWORD(descriptor.size()),
-                     &size);
-  ::ConvertSecurityDescriptorToStringSecurityDescriptorW(descriptor.data(), SDDL_REVISION_1, DACL_SECURITY_INFORMATION,
-                                                         &text, nullptr);
-  const QString list = QString::fromWCharArray(text);
-  ::LocalFree(text);
-  return list;
-}
-
-void setAccessList(const QString& native, const wchar_t* list) {
-  PSECURITY_DESCRIPTOR descriptor = nullptr;
-  ::ConvertStringSecurityDescriptorToSecurityDescriptorW(list, SDDL_REVISION_1, &descriptor, nullptr);
-  ::SetFileSecurityW(wide(native).c_str(), DACL_SECURITY_INFORMATION, descriptor);
-  ::LocalFree(descriptor);
-}
-
-constexpr const wchar_t* OwnersOnly = L"D:P(A;;FA;;;BA)";
 
 /// What a file system keeps of a symbolic link: both forms of its target, the shown one first.
 QByteArray keptLink(const QString& target, const QString& shown, bool relative) {
@@ -200,8 +173,8 @@ class FilesWindowsTest : public QObject {
   void keepsAttributes() {
     folder_->put(u"a.ini"_s, "old");
     const QString native = folder_->native(u"a.ini"_s);
-    setAccessList(native, OwnersOnly);
-    const QString list = accessList(native);
+    support::leaveToOwner(native);
+    const QString list = support::accessTo(native);
     const FILETIME born{0x8000'0000, 0x01d0'0000};
     {
       const Held file(native, ShareAll, FILE_WRITE_ATTRIBUTES);
@@ -215,7 +188,7 @@ class FilesWindowsTest : public QObject {
       bornStays = ::CompareFileTime(&set, &born) == 0;
     }
     writeFile(at(u"a.ini"_s), "new");
-    QCOMPARE(accessList(native), list);
+    QCOMPARE(support::accessTo(native), list);
     FILETIME now;
     {
       const Held file(native, ShareAll);
@@ -227,12 +200,12 @@ class FilesWindowsTest : public QObject {
       const platform::OpenFile model = openFile(at(u"a.ini"_s));
       FileTurn(at(u"b.tmp"_s), AtLink::Replace).replace("copy", &model);
     }
-    QCOMPARE(accessList(folder_->native(u"b.tmp"_s)), list);
+    QCOMPARE(support::accessTo(folder_->native(u"b.tmp"_s)), list);
 
-    QVERIFY(::SetFileAttributesW(wide(native).c_str(), FILE_ATTRIBUTE_READONLY));
+    QVERIFY(::SetFileAttributesW(support::widePath(native).c_str(), FILE_ATTRIBUTE_READONLY));
     QVERIFY_THROWS_EXCEPTION(Failure, writeFile(at(u"a.ini"_s), "newer"));
     QCOMPARE(folder_->get(u"a.ini"_s), QByteArray("new"));
-    QVERIFY(::SetFileAttributesW(wide(native).c_str(), FILE_ATTRIBUTE_NORMAL));
+    QVERIFY(::SetFileAttributesW(support::widePath(native).c_str(), FILE_ATTRIBUTE_NORMAL));
     QCOMPARE(entries(), (QStringList{u"a.ini"_s, u"b.tmp"_s}));
   }
 

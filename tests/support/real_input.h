@@ -81,19 +81,45 @@ inline void open(Program& program, const char* theme, const char* skin, Qt::Key 
     qFatal("not open");
 }
 
-/// Real keys and the like, all in the queue before the program sees the first.
-inline void xdotool(const QStringList& words) {
-  QProcess::execute(u"xdotool"_s, words);
+#ifdef Q_OS_WIN
+
+/// Real keys, such as "shift+F10", all in the queue before the program sees the first.
+inline void realKeys(const QStringList& words) {
+  const QMap<QString, WORD> codes{
+      {u"shift"_s, VK_SHIFT}, {u"F10"_s, VK_F10}, {u"Escape"_s, VK_ESCAPE}, {u"Right"_s, VK_RIGHT}};
+  std::vector<INPUT> input;
+  const auto add = [&](const QString& name, DWORD flags) {
+    if (!codes.contains(name)) qFatal("no key %s", qPrintable(name));
+    INPUT one{};
+    one.type = INPUT_KEYBOARD;
+    one.ki.wVk = codes[name];
+    one.ki.dwFlags = flags | (codes[name] == VK_RIGHT ? KEYEVENTF_EXTENDEDKEY : 0);
+    input.push_back(one);
+  };
+  for (const QString& word : words) {
+    const QStringList keys = word.split(u'+');
+    for (const QString& key : keys) add(key, 0);
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key) add(*key, KEYEVENTF_KEYUP);
+  }
+  ::SendInput(static_cast<UINT>(input.size()), input.data(), sizeof(INPUT));
+}
+
+inline void bringToFront(const QWidget& window) {
+  ::SetForegroundWindow(reinterpret_cast<HWND>(window.winId()));
+}
+
+#else
+
+inline void realKeys(const QStringList& words) {
+  QProcess::execute(u"xdotool"_s, QStringList(u"key"_s) + words);
 }
 
 /// Has the window manager bring a window to the front, as a taskbar does. The window's own request is lost when the
 /// last event that the program knows of is older than the last change of focus; events made by a test have no time.
 inline void bringToFront(const QWidget& window) {
-#ifdef Q_OS_WIN
-  ::SetForegroundWindow(reinterpret_cast<HWND>(window.winId()));
-#else
-  xdotool({u"windowactivate"_s, QString::number(window.winId())});
-#endif
+  QProcess::execute(u"xdotool"_s, {u"windowactivate"_s, QString::number(window.winId())});
 }
+
+#endif
 
 }  // namespace support

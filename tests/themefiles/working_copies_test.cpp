@@ -1,15 +1,14 @@
 #include "themefiles/working_copies.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include <latch>
+#include <thread>
 
 #include <QTest>
 
 #include "platform/failure.h"
 #include "platform/file_identity.h"
+#include "platform/files.h"
+#include "support/access.h"
 #include "support/panel.h"
 #include "themefiles/ini_access.h"
 
@@ -111,7 +110,9 @@ class WorkingCopiesTest : public QObject {
   void ninePlacesForWhatIsKept() {
     Game game;
     const QString old = Theme + u".tmp.old"_s;
+#ifdef Q_OS_UNIX
     QFile::link(Theme, game.folder.native(old + u".3"_s));  // a name of the program's own: no text
+#endif
     QByteArray told;
     for (const char* text : {"1", "2", "3", "2", "4", "5", "6", "7", "8", "9", "9", "10", "1"}) {
       // The clock of files is coarse.
@@ -128,7 +129,8 @@ class WorkingCopiesTest : public QObject {
     QVERIFY(!game.folder.has(old + u".10"_s));
   }
 
-  /// Several programs on one theme, all at once: each edits the theme, stores a setting, and saves.
+  /// Several programs on one theme, all at once: each edits the theme, stores a setting, and saves. Locks of files tell
+  /// threads apart as they do programs.
   void noEditOfSeveralProgramsVanishes() {
     constexpr int Programs = 3;
     constexpr int Edits = 12;
@@ -136,29 +138,29 @@ class WorkingCopiesTest : public QObject {
     game.folder.put(Theme, "[S]\r\n");
     const QString config = game.folder.path(u"config.ini"_s);
     QVERIFY(game.open());
-    int gate[2] = {};
-    QVERIFY(::pipe(gate) == 0);
-    for (int program = 0; program < Programs; ++program) {
-      if (::fork() != 0) continue;
-      ::close(gate[1]);
-      char none = 0;
-      bool done = ::read(gate[0], &none, 1) == 0;  // until all are there
-      for (int edit = 0; edit < Edits && done; ++edit) {
+    std::latch gate(Programs);
+    std::array<Panel, Programs> panels;
+    std::array<bool, Programs> done{};
+    const auto edit = [&](int program) {
+      ModuleState state = game.state;
+      Panel& panel = panels.at(program);
+      bool& works = done.at(program) = true;
+      gate.arrive_and_wait();
+      for (int edit = 0; edit < Edits && works; ++edit) {
         const QString key = u"p%1e%2"_s.arg(program).arg(edit);
-        done = platform::guarded(game.panel, QString(), [&] {
-          putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, key, key, game.panel);
+        works = platform::guarded(panel, QString(), [&] {
+          putInCopy(state, &ThemePaths::ThemeFile, u"S"_s, key, key, panel);
           putINIChecked(u"S"_s, key, key, config);
+          if (edit % 4 == program) saveWorkingCopies(state, panel);
         });
-        done = done && (edit % 4 != program || game.save());
       }
-      if (!done) qWarning("%s", qPrintable(game.panel.texts.join(u"; "_s)));
-      ::_exit(done ? 0 : 1);
+    };
+    {
+      std::vector<std::jthread> programs;
+      for (int program = 0; program < Programs; ++program) programs.emplace_back(edit, program);
     }
-    ::close(gate[0]);
-    ::close(gate[1]);
     for (int program = 0; program < Programs; ++program) {
-      int status = -1;
-      QVERIFY(::wait(&status) > 0 && status == 0);
+      QVERIFY2(done.at(program), qPrintable(panels.at(program).texts.join(u"; "_s)));
     }
     QVERIFY(game.save());
     for (const QString& name : {Theme, Theme + Copy, u"config.ini"_s}) {
@@ -169,44 +171,44 @@ class WorkingCopiesTest : public QObject {
 
   void nobodyElseReadsACopy() {
     Game game;
-    const auto has = [&](const QString& name, mode_t mode) {
-      struct stat status;
-      return ::stat(game.folder.native(name).toUtf8(), &status) == 0 && (status.st_mode & 07777) == mode;
-    };
-    QVERIFY(::chmod(game.folder.native(Theme).toUtf8(), 0600) == 0);
+    leaveToOwner(game.folder.native(Theme));
+    const QString access = accessTo(game.folder.native(Theme));
+    const auto isKept = [&](const QString& name) { return accessTo(game.folder.native(name)) == access; };
+    leaveToOwner(game.folder.native(Skin));
     game.folder.protect(Skin);  // a working copy can be written all the same
-    QVERIFY(game.open() && has(Theme + Copy, 0600) && has(Skin + Copy, 0600));
+    QVERIFY(game.open() && isKept(Theme + Copy));
+#ifdef Q_OS_UNIX
+    QVERIFY(isKept(Skin + Copy));  // elsewhere the protection isn't part of the list
+#endif
     const auto edit = [&](const QString& value) {
       putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, u"k"_s, value, game.panel);
     };
     game.folder.put(Theme + Copy, "by another hand");
     edit(u"1"_s);
-    QVERIFY(has(Theme + u".tmp.old"_s, 0600) && has(Theme + Copy, 0600));
+    QVERIFY(isKept(Theme + u".tmp.old"_s) && isKept(Theme + Copy));
     QVERIFY(QFile::remove(game.folder.native(Theme + Copy)));
     edit(u"2"_s);
-    QVERIFY(has(Theme + Copy, 0600));
+    QVERIFY(isKept(Theme + Copy));
     game.folder.protect(Skin, false);
     game.folder.put(Theme, "by another hand");
-    QVERIFY(game.save() && has(Theme + u".bak"_s, 0600) && has(Theme, 0600));
+    QVERIFY(game.save() && isKept(Theme + u".bak"_s) && isKept(Theme));
     QVERIFY(QFile::remove(game.folder.native(Theme)));
-    QVERIFY(game.save() && has(Theme, 0600));
+    QVERIFY(game.save() && isKept(Theme));
   }
 
   void anotherProgramsTurn() {
     Game game;
     QVERIFY(game.open());
     game.folder.put(Theme + Copy, "by another hand");
-    game.folder.put(Theme + u".tmp.unfinished"_s, {});
-    const int other = ::open(game.folder.native(Theme + u".tmp.unfinished"_s).toUtf8(), O_RDONLY);
-    QVERIFY(::flock(other, LOCK_EX) == 0);
+    const platform::FileTurn other(game.state.paths.ThemeFile, platform::AtLink::Replace);
     const auto edit = [&] { putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, u"k"_s, u"v"_s, game.panel); };
     const QString why = platform::failureIn(edit).value_or(QString());
     QVERIFY2(why.endsWith(u"Another program is writing this file"), qPrintable(why));
     QVERIFY(game.folder.get(Theme + Copy) == "by another hand" && !game.folder.has(Theme + u".tmp.old"_s));
     QVERIFY(game.state.ownCopies[0] == Bytes && game.panel.texts.isEmpty());
-    ::close(other);
   }
 
+#ifdef Q_OS_UNIX
   void linksAtTheNamesOfCopies() {
     Game game;
     game.folder.put(u"mine"_s, "mine");
@@ -220,6 +222,7 @@ class WorkingCopiesTest : public QObject {
     QCOMPARE(game.folder.get(Theme + Copy), Bytes);
     QCOMPARE(game.folder.get(Skin + u".tmp.old"_s), QByteArray("lost edits"));
   }
+#endif
 
   void saveFailsMidway() {
     Game game;

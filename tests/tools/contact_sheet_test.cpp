@@ -99,7 +99,9 @@ class ContactSheetTest : public QObject {
   void refuses() {
     const QTemporaryDir place;
     const QTemporaryDir links;
+#ifdef Q_OS_UNIX
     QVERIFY(QFile::link(Sample + u"/Skins"_s, links.filePath(u"link"_s)));
+#endif
     const QStringList plain = sampleTheme(place.filePath(u"out"_s));
     const auto with = [&](int argument, const QString& name) {
       QStringList arguments = plain;
@@ -110,10 +112,12 @@ class ContactSheetTest : public QObject {
              std::pair(QStringList(), "Usage"),
              {with(3, u"Nix"_s), "Languages/Nix.ini"},
              {with(4, Sample + u"/../Cantorama/Themes/sheet"_s), "lies in the game folder"},
+#ifdef Q_OS_UNIX
              {with(4, links.filePath(u"link/new/sheet"_s)), "lies in the game folder"},
              {with(4, links.filePath(u"link/../sheet"_s)), "lies in the game folder"},
+#endif
              {with(4, Sample + u"\\sheet"_s), "lies in the game folder"},
-             {with(3, u"%1 %2\n\x1b[2J"_s), "Languages/%1 %2??[2J.ini [%1 %2??[2J.ini: No such file"},
+             {with(3, u"%1 %2\n\x1b[2J"_s), "Languages/%1 %2??[2J.ini [%1 %2??[2J.ini: "},
              {plain + QStringList{u"-platform"_s, u"xcb"_s}, "'platform'"},
              {plain + QStringList{u"--scheme=Mauve"_s}, "no colour scheme 'Mauve'; there are: Blue, Green"},
              {plain + QStringList{u"--selected=256"_s}, "--selected takes a number from 1 to 255"},

@@ -5,6 +5,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,13 +38,21 @@ class ThemeCheckTest : public QObject {
   void findsInSample() {
     const ToolRun run = check(1, {Sample});
     // As it is called in the tree.
-    const QStringList found =
-        QString::fromUtf8(run.output).chopped(1).replace(Sample, u"sample/Cantorama"_s).split(u'\n');
+    QStringList found = QString::fromUtf8(run.output).chopped(1).replace(Sample, u"sample/Cantorama"_s).split(u'\n');
+    const qsizetype count = found.size() - 1;  // less the line of counts
+#ifdef Q_OS_WIN
+    // There a file's name holds in any case, so that one warning isn't given.
+    const qsizetype next = found.indexOf(QRegularExpression(u".*/leftover.png:.*"_s));
+    found.insert(next,
+                 u"sample/Cantorama/Skins/Workbench/Spare.ini:8:5: warning: textures: Key: 'KEY.PNG' is found only "
+                 "without regard to case, as 'key.png'"_s);
+    found.last().replace(u" 34 warnings"_s, u" 35 warnings"_s);
+#endif
     support::compareText(u"findings_of_sample.txt"_s, found);
     QVERIFY(!run.errors.contains("Screen"));  // no progress where there is no terminal
 
     const QJsonArray array = QJsonDocument::fromJson(check(1, {Sample, u"--format=json"_s}).output).array();
-    QCOMPARE(array.size(), found.size() - 1);  // less the counts
+    QCOMPARE(array.size(), count);
     const QJsonObject plate = {{u"file"_s, Sample + u"/Skins/Workbench/Grey.ini"_s},
                                {u"line"_s, 8},
                                {u"column"_s, 1},
@@ -127,7 +136,7 @@ class ThemeCheckTest : public QObject {
     writeFile(patterns, "# on purpose\n\nNOTE: MainButtonEditor: Visible: *\n? no pattern\n");
     QCOMPARE(check(0, {Sample, u"Stagelight"_s, u"--ignore"_s, patterns}).output,
              "0 errors, 0 warnings, 0 notes, 1 ignored\n");
-    QVERIFY(check(2, {Sample, u"--ignore=nowhere"_s}).errors.contains("can't read nowhere [nowhere: No such file"));
+    QVERIFY(check(2, {Sample, u"--ignore=nowhere"_s}).errors.contains("can't read nowhere [nowhere: "));
 #ifdef Q_OS_UNIX
     for (const QString& format : {u"text"_s, u"json"_s}) {
       QProcess full;
