@@ -109,4 +109,9 @@ function(cantorama_test file)
                "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/leaks.supp:print_suppressions=0"
                ASAN_OPTIONS=intercept_tls_get_addr=0)
   set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+  if(WIN32)
+    # Wine asks its server for much, which has to wait its turn on a busy machine.
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900)
+    set_property(TEST ${name} APPEND PROPERTY ENVIRONMENT QTEST_FUNCTION_TIMEOUT=900000)
+  endif()
 endfunction()
