@@ -62,7 +62,8 @@ QString spoken(QWidget& control, QString text) {
   if (reader == nullptr) return {};
   // The name of a list to choose from is its text on some systems only.
   const bool isChoice = reader->role() == QAccessible::ComboBox && !reader->text(QAccessible::Value).isEmpty();
-  QStringList words{reader->text(isChoice ? QAccessible::Value : QAccessible::Name), reader->text(QAccessible::Description)};
+  QStringList words{reader->text(isChoice ? QAccessible::Value : QAccessible::Name),
+                    reader->text(QAccessible::Description)};
   words.removeAll(text.remove(u'&'));
   words.removeAll(control.toolTip());
   words.removeDuplicates();
