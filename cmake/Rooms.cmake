@@ -57,6 +57,10 @@ endfunction()
 
 # Adds a run of a test program on a display of its own: cantorama_display_test(NAME PROGRAM)
 function(cantorama_display_test name program)
+  cantorama_left_out(${program} left_out)
+  if(left_out)
+    return()
+  endif()
   add_test(NAME ${name} COMMAND ${CMAKE_SOURCE_DIR}/tests/with_display ${CMAKE_CROSSCOMPILING_EMULATOR}
                                 $<TARGET_FILE:${program}>)
   if(WIN32)
