@@ -1,5 +1,7 @@
 #include "controls/list_box.h"
 
+#include <algorithm>
+
 #include "controls/shown_text.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
@@ -67,13 +69,30 @@ QString ListBox::List(int index) const {
 }
 
 int ListBox::ListIndex() const {
-  return selectedRow();
+  if (selectionMode() == QAbstractItemView::SingleSelection) return selectedRow();
+  const QModelIndex current = currentIndex();
+  return selectionModel()->isSelected(current) ? current.row() : selectedRow();
 }
 
 void ListBox::SetListIndex(int index) {
   if (index < -1 || index >= count()) throw platform::Failure(QStringLiteral("Invalid entry of a list"));
   select(index);
   if (index >= 0) Q_EMIT Click(Cause::Code);
+}
+
+void ListBox::allowSeveral() {
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+}
+
+std::vector<int> ListBox::selectedRows() const {
+  std::vector<int> rows;
+  for (const QModelIndex& cell : selectionModel()->selectedIndexes()) rows.push_back(cell.row());
+  std::sort(rows.begin(), rows.end());
+  return rows;
+}
+
+void ListBox::selectToo(int index) {
+  selectionModel()->setCurrentIndex(model()->index(index, 0), QItemSelectionModel::Select);
 }
 
 QString ListBox::Text() const {

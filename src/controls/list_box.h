@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include <QListWidget>
 
 #include "controls/cause.h"
@@ -27,6 +29,12 @@ class ListBox : public RowPicking<QListWidget> {
   int ListIndex() const;
   /// -1 selects nothing and fires no Click. Throws platform::Failure for a row outside the list.
   void SetListIndex(int index);
+  /// Lets the user select several rows, with Ctrl and Shift as everywhere. ListIndex is the one that the keys move.
+  void allowSeveral();
+  /// The selected rows in their order.
+  std::vector<int> selectedRows() const;
+  /// Selects a row beside those that are selected.
+  void selectToo(int index);
   /// Text of the selected row, empty without one.
   QString Text() const;
   /// Sets a row's tool tip, plain text; an empty one removes it. If the row's name is cut, the tip begins with it.

@@ -23,6 +23,7 @@ void showCellTip(const QAbstractItemView& view, const QHelpEvent& help);
 /// A view of rows in which the user picks one: by a press of the left button, also on the row that is selected, or by a
 /// key that changes the row. A row can be asked for a menu by the mouse or the keyboard. A text that its cell cuts
 /// shows whole as a tool tip. Neither a drag nor a key leaves a list without its selected row.
+/// In a view with extended selection the user picks several, as the toolkit has it, and nobody is told.
 template <typename View>
 class RowPicking : public View {
  protected:
@@ -46,6 +47,7 @@ class RowPicking : public View {
   }
 
   void mousePressEvent(QMouseEvent* event) override {
+    if (picksSeveral()) return View::mousePressEvent(event);
     const int row = rowAt(*event);
     if (event->button() != Qt::LeftButton || row < 0) return;
     select(row);
@@ -78,6 +80,7 @@ class RowPicking : public View {
   }
 
   void keyPressEvent(QKeyEvent* event) override {
+    if (picksSeveral()) return View::keyPressEvent(event);
     const int before = selectedRow();
     const int rows = this->model()->rowCount();
     const int page = rows == 0 ? 1 : std::max(1, this->viewport()->height() / std::max(1, this->sizeHintForRow(0)));
@@ -99,6 +102,7 @@ class RowPicking : public View {
   }
 
  private:
+  bool picksSeveral() const { return this->selectionMode() == QAbstractItemView::ExtendedSelection; }
   int rowAt(const QMouseEvent& event) const { return this->indexAt(event.position().toPoint()).row(); }
 };
 

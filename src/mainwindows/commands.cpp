@@ -9,7 +9,7 @@
 #include "mainwindows/theme_session.h"
 #include "platform/row_order.h"
 #include "themefiles/module_state.h"
-#include "toolwindow/finder_window.h"
+#include "toolwindow/finder.h"
 #include "toolwindow/tool_window.h"
 
 namespace mainwindows {

@@ -4,7 +4,7 @@
 #include "controls/native_dialogs.h"
 #include "support/real_input.h"
 #include "themefiles/ini_access.h"
-#include "toolwindow/finder_window.h"
+#include "toolwindow/list_window.h"
 
 using namespace support;
 
@@ -129,7 +129,7 @@ class KeyboardSessionTest : public QObject {
     QVERIFY(form.toolWindow() != nullptr);
     toolwindow::Form2& tools = *form.toolWindow();
     key(activeWindow(&tools), Qt::Key_F, Qt::ControlModifier);
-    auto& finder = *tools.findChild<toolwindow::FinderWindow*>();
+    auto& finder = *tools.findChild<toolwindow::ListWindow*>();
     activeWindow(&finder);
     letters(finder, "mainstatica x=10");
     key(finder, Qt::Key_Return);

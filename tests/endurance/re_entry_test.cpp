@@ -3,7 +3,8 @@
 #include <tuple>
 
 #include "support/snapshot.h"
-#include "toolwindow/finder_window.h"
+#include "toolwindow/finder.h"
+#include "toolwindow/list_window.h"
 
 using namespace support;
 using platform::BoxAnswer;
@@ -91,7 +92,7 @@ bool typeInGrid(Program& program) {
 bool find(Program& program, const QString& words) {
   if (program.form.toolWindow() == nullptr) return false;
   toolwindow::showFinder(program.tools());
-  auto& finder = *program.tools().findChild<toolwindow::FinderWindow*>();
+  auto& finder = *program.tools().findChild<toolwindow::ListWindow*>();
   QTest::keyClicks(finder.Line, words);
   QTest::keyClick(finder.Line, Qt::Key_Return);
   return !finder.isVisible();

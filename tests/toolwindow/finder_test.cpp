@@ -1,11 +1,11 @@
 #include <QSignalSpy>
 
 #include "support/real_input.h"
-#include "toolwindow/finder_window.h"
+#include "toolwindow/list_window.h"
 
 using namespace support;
-using toolwindow::FinderWindow;
 using toolwindow::Form2;
+using toolwindow::ListWindow;
 
 /// The way from words to the screen, the object and the row that have them.
 class FinderTest : public ProgramTest {
@@ -13,9 +13,9 @@ class FinderTest : public ProgramTest {
 
  private:
   /// Opens the finder by its keys and types.
-  FinderWindow& find(const char* text) const {
+  ListWindow& find(const char* text) const {
     key(program->tools(), Qt::Key_F, Qt::ControlModifier);
-    auto* finder = program->tools().findChild<FinderWindow*>();
+    auto* finder = program->tools().findChild<ListWindow*>();
     if (finder == nullptr || !QTest::qWaitForWindowActive(finder)) qFatal("no finder");
     letters(*finder, text);
     return *finder;
@@ -32,7 +32,7 @@ class FinderTest : public ProgramTest {
     for (const auto& [section, told] :
          {std::pair{"[MainStaticA]\r\nY=1\r\n", u"X of MainStaticA"_s}, {"[Main]\r\n", u"MainStaticA"_s}}) {
       program->screen(u"Loading Screen"_s);
-      FinderWindow& finder = find("mainstatica x=10");
+      ListWindow& finder = find("mainstatica x=10");
       const QByteArray before = game->get(ThemeCopy);
       game->put(ThemeCopy, section);
       key(finder, Qt::Key_Return);
@@ -45,7 +45,7 @@ class FinderTest : public ProgramTest {
   void comesAndGoes() {
     Form2& tools = program->tools();
     tools.values().setFocus();
-    FinderWindow& finder = find("hello");
+    ListWindow& finder = find("hello");
     QCOMPARE(finder.windowTitle(), u"Find: 2"_s);
     key(finder, Qt::Key_Escape);
     QVERIFY(!finder.isVisible() && QTest::qWaitForWindowActive(&tools) && tools.values().hasFocus());
@@ -55,12 +55,12 @@ class FinderTest : public ProgramTest {
     find("mainobject");  // in place of the words that are there
     QCOMPARE(finder.windowTitle(), u"Find: the first 300 of 400"_s);
     QCOMPARE(finder.List->ListCount(), 300);
-    const QPointer<FinderWindow> open = &finder;
+    const QPointer<ListWindow> open = &finder;
     program->click(3);
     settle();
     QVERIFY(open == nullptr || !open->isVisible());
     key(program->form, Qt::Key_F, Qt::ControlModifier);
-    QVERIFY(program->form.findChild<FinderWindow*>() == nullptr);
+    QVERIFY(program->form.findChild<ListWindow*>() == nullptr);
   }
 };
 
