@@ -1,12 +1,19 @@
 #include "editing/commit.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "editing/reference_keys.h"
 #include "editing/reports.h"
+#include "editing/theme_colours.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/ini_reading.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/mark_record.h"
+#include "themefiles/tag_reader.h"
 #include "themefiles/working_copies.h"
 
 namespace editing {
@@ -92,6 +99,14 @@ void finish(Session& session, const QStringList& sections, const QString& told) 
   if (sections.contains(session.section())) Q_EMIT session.markWanted(MarkReason::Committed);
 }
 
+QString valueIn(const SavedLine& saved) {
+  return platform::trimBlanks(platform::fromAnsi(saved.line).section(u'=', 1));
+}
+
+KeyPlace placeOf(const SavedLine& saved) {
+  return {saved.copy, saved.section, saved.key};
+}
+
 QString toldOf(const QString& section, const QStringList& assignments) {
   return section + QStringLiteral(": ") + assignments.join(QStringLiteral(", "));
 }
@@ -122,6 +137,56 @@ bool runInRow(Session& session, const EditedRow& row,
   });
 }
 
+/// What the chosen object's references and colours stand for has been put back: an open editor of one shows it.
+void showContents(Session& session) {
+  const auto file = platform::readIfThere(session.state().paths.ThemeFile).value_or(QByteArray());
+  const auto section = platform::toAnsi(session.section()).value_or(QByteArray());
+  for (const platform::IniLine& line : platform::iniLines(platform::IniSections(file).lines(section))) {
+    const QString key = themefiles::keyIdentity(platform::fromAnsi(line.key));
+    const auto group = themefiles::groupOf(key);
+    if (group == themefiles::KeyGroup::Color || group == themefiles::KeyGroup::Texture ||
+        group == themefiles::KeyGroup::Text) {
+      Q_EMIT session.valueWritten(-1, key, platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1)));
+    }
+  }
+}
+
+/// The steps behind the writes of saved lines.
+void followPutBack(Session& session, const std::vector<SavedLine>& written) {
+  if (written.empty()) return;
+  QStringList sections;
+  QStringList colors;
+  bool isReadAnew = false;
+  for (const SavedLine& line : written) {
+    if (isColor(placeOf(line))) {
+      colors += line.key;
+    } else if (line.copy == &ThemePaths::ThemeFile) {
+      sections += line.section;
+      isReadAnew = isReadAnew || (line.isGone && platform::sameName(line.section, session.section()));
+    }
+  }
+  if (!colors.isEmpty()) followColors(session, colors);
+  if (isReadAnew) {
+    Q_EMIT session.valuesRead(themefiles::ReadTag(session.state(), session.object(), session.status()));
+  } else {
+    for (const SavedLine& line : written) {
+      if (line.copy != &ThemePaths::ThemeFile || !platform::sameName(line.section, session.section())) continue;
+      show(session, -1, themefiles::keyIdentity(line.key), valueIn(line));
+    }
+  }
+  if (!isReadAnew && (!colors.isEmpty() || written.size() > static_cast<size_t>(sections.size())))
+    showContents(session);
+  const QString told = QStringLiteral("Put back: ") + countOf(static_cast<int>(written.size()));
+  if (static_cast<qsizetype>(written.size()) > colors.size()) {
+    const bool isChosen = std::any_of(sections.begin(), sections.end(), [&](const QString& section) {
+      return platform::sameName(section, session.section());
+    });
+    return finish(session, isChosen ? QStringList{session.section()} : QStringList(), told);
+  }
+  session.status().showDone(told);
+  session.status().ShowStatus(KeptInCopy.toString());
+}
+
 }  // namespace
 
 QString changeText(EditorFrame frame, const QString& key, const Proposal& before, const Proposal& proposal) {
@@ -149,13 +214,35 @@ bool commitRow(Session& session, const EditedRow& row, const std::function<Propo
 
 bool putSavedBack(Session& session, const EditedRow& row, const SavedValue& saved) {
   return runInRow(session, row, [&](const Target& target, QStringList& told) {
-    putLinesBack(session.state(), saved, session.status());
+    putLinesBack(session.state(), saved.lines, session.status());
     for (const SavedLine& line : saved.lines) {
       const bool isReferred = line.copy != &ThemePaths::ThemeFile;
-      const QString value = platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1));
-      told += isReferred ? contentAssignment(line.copy, line.key, value) : assignment(target.name, saved.value);
+      told += isReferred ? contentAssignment(line.copy, line.key, valueIn(line)) : assignment(target.name, saved.value);
     }
     return std::optional(saved.value);
+  });
+}
+
+QString countOf(int values) {
+  return QString::number(values) + (values == 1 ? QStringLiteral(" value") : QStringLiteral(" values"));
+}
+
+bool putBack(Session& session, const std::vector<KeyPlace>& places) {
+  return run(session, [&] {
+    const std::vector<SavedLine> lines = savedLines(session.state(), places);
+    std::vector<SavedLine> written;
+    std::optional<QString> failure;
+    for (const auto copy : {&ThemePaths::ThemeFile, &ThemePaths::SkinFile, &ThemePaths::LanguageFile}) {
+      std::vector<SavedLine> own;
+      std::copy_if(lines.begin(), lines.end(), std::back_inserter(own),
+                   [&](const SavedLine& line) { return line.copy == copy; });
+      failure = platform::failureIn([&] { putLinesBack(session.state(), own, session.status()); });
+      if (failure) break;
+      written.insert(written.end(), own.begin(), own.end());
+    }
+    followPutBack(session, written);
+    if (failure) throw platform::Failure(*failure);
+    if (written.empty()) session.status().ShowStatus(QStringLiteral("Nothing to put back"));
   });
 }
 

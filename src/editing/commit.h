@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include "editing/differences.h"
 #include "editing/saved_state.h"
 #include "editing/session.h"
 #include "renderer/trial_values.h"
@@ -41,6 +42,14 @@ bool commitRow(Session& session, const EditedRow& row, const std::function<Propo
 
 /// Puts the saved value of a row back.
 bool putSavedBack(Session& session, const EditedRow& row, const SavedValue& saved);
+
+/// Puts the saved lines of those of the keys that differ back: those of a file by one write, told with their count. If
+/// a file can't be written, those before it stay written. Colours alone leave the theme as changed as it was and draw
+/// nothing. Returns whether nothing failed.
+bool putBack(Session& session, const std::vector<KeyPlace>& places);
+
+/// "3 values"
+QString countOf(int values);
 
 /// Commits what was tried by hand: the values of all objects by one write. Returns whether that succeeded; if not,
 /// nothing has changed.

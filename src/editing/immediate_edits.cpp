@@ -1,5 +1,6 @@
 #include "editing/immediate_edits.h"
 
+#include "editing/reports.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "themefiles/working_copies.h"
@@ -10,7 +11,7 @@ bool writeAtOnce(Session& session, QStringView step, const std::function<void()>
   Q_EMIT session.differencesDue();
   return platform::guarded(session.status(), step.toString(), [&] {
     write();
-    session.status().ShowStatus(QStringLiteral("Kept in the working copy; the next Update makes Save available"));
+    session.status().ShowStatus(KeptInCopy.toString());
   });
 }
 

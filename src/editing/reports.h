@@ -12,6 +12,9 @@ inline constexpr QStringView FindStep = u"Error while finding";
 /// A failed write.
 inline constexpr QStringView WriteStep = u"Error while writing tempfile";
 
+/// An edit that doesn't make Save available.
+inline constexpr QStringView KeptInCopy = u"Kept in the working copy; the next Update makes Save available";
+
 /// A longer value opens no editor and isn't written.
 inline constexpr qsizetype LongestValue = 32'000;
 inline QString tooLongText(const QString& key) {

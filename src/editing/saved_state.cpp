@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
-#include "platform/files.h"
 #include "platform/numbers.h"
 #include "themefiles/working_copies.h"
 
@@ -13,18 +12,6 @@ namespace {
 using platform::IniKeys;
 using platform::IniLine;
 using themefiles::ThemePaths;
-
-/// The text that the next edit would change.
-QByteArray presentBytes(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
-  const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
-  return standing && !standing->isEmpty() ? *standing : state.ownCopies.at(themefiles::copyNumber(copy));
-}
-
-/// Whether two lines of a key differ in their value; null is no line.
-bool differ(const IniLine* a, const IniLine* b) {
-  if (a == nullptr || b == nullptr) return a != b;
-  return a->value != b->value;
-}
 
 IniKeys keysOf(const platform::IniSections& sections, const QString& section) {
   return platform::iniKeys(sections.lines(platform::toAnsi(section).value_or(QByteArray())));
@@ -40,31 +27,28 @@ QString shownValue(const IniLine& line) {
 
 }  // namespace
 
-void putLinesBack(themefiles::ModuleState& state, const SavedValue& saved, platform::StatusLine& status) {
-  for (const SavedLine& line : saved.lines) {
-    themefiles::putLineInCopy(state, line.copy, line.section, line.key, line.line, status);
+void putLinesBack(themefiles::ModuleState& state, const std::vector<SavedLine>& lines, platform::StatusLine& status) {
+  for (const auto copy : {&ThemePaths::ThemeFile, &ThemePaths::SkinFile, &ThemePaths::LanguageFile}) {
+    std::vector<themefiles::KeyedLine> own;
+    for (const SavedLine& line : lines) {
+      if (line.copy == copy) own.push_back({line.section, line.key, line.line});
+    }
+    if (!own.empty()) themefiles::putLinesInCopy(state, copy, own, status);
   }
 }
 
-SavedState::File::File(const themefiles::ModuleState& state, QString ThemePaths::*copy)
-    : now(presentBytes(state, copy)),
-      saved(state.savedCopies.at(themefiles::copyNumber(copy))),
-      nowSections(now),
-      savedSections(saved) {}
-
-SavedState::Target::Target(const File& file, QString ThemePaths::*working, const char* name)
-    : differs(file.differs()),
-      copy(working),
+SavedState::Target::Target(const ComparedFile& file, const char* name)
+    : differs(file.now.lines(name) != file.saved.lines(name)),
+      copy(file.copy),
       section(name),
-      now(platform::iniKeys(file.nowSections.lines(name))),
-      saved(platform::iniKeys(file.savedSections.lines(name))) {}
+      now(platform::iniKeys(file.now.lines(name))),
+      saved(platform::iniKeys(file.saved.lines(name))) {}
 
 SavedState::SavedState(const themefiles::ModuleState& state)
-    : theme_(state, &ThemePaths::ThemeFile),
-      skin_(state, &ThemePaths::SkinFile),
-      language_(state, &ThemePaths::LanguageFile),
-      textures_(skin_, &ThemePaths::SkinFile, "Textures"),
-      texts_(language_, &ThemePaths::LanguageFile, "Text") {}
+    : files_(state),
+      textures_(files_.skin, "Textures"),
+      texts_(files_.language, "Text"),
+      colors_(files_.theme, "Colors") {}
 
 const SavedState::Target* SavedState::targetOf(std::optional<themefiles::KeyGroup> group) const {
   if (group == themefiles::KeyGroup::Text) return &texts_;
@@ -78,6 +62,14 @@ bool SavedState::differsIn(const Target* target, const IniLine& reference) {
   return differ(platform::lineOf(target->now, name), platform::lineOf(target->saved, name));
 }
 
+/// Whether the theme's colour differs. Case counts in the names of colours.
+bool SavedState::colorDiffers(const QByteArray& name) const {
+  const IniLine* now = platform::lineOf(colors_.now, name);
+  const IniLine* saved = platform::lineOf(colors_.saved, name);
+  const bool isNamed = (now != nullptr && now->key == name) || (saved != nullptr && saved->key == name);
+  return isNamed && differ(now, saved);
+}
+
 void SavedState::addTarget(SavedValue& saved, const Target& target, const IniLine& reference) {
   const QByteArray name = nameIn(reference);
   const IniLine* line = platform::lineOf(target.saved, name);
@@ -89,16 +81,16 @@ void SavedState::addTarget(SavedValue& saved, const Target& target, const IniLin
 
 bool SavedState::differsIn(const QString& section) const {
   const QByteArray name = platform::toAnsi(section).value_or(QByteArray());
-  const bool sameLines = theme_.nowSections.lines(name) == theme_.savedSections.lines(name);
-  if (sameLines && !textures_.differs && !texts_.differs) return false;
+  const bool sameLines = files_.theme.now.lines(name) == files_.theme.saved.lines(name);
+  if (sameLines && !textures_.differs && !texts_.differs && !colors_.differs) return false;
   return SavedObject(*this, section).differs();
 }
 
 SavedObject::SavedObject(const SavedState& files, const QString& section)
     : files_(files),
       section_(section),
-      now_(keysOf(files.theme_.nowSections, section)),
-      saved_(keysOf(files.theme_.savedSections, section)) {}
+      now_(keysOf(files.files_.theme.now, section)),
+      saved_(keysOf(files.files_.theme.saved, section)) {}
 
 std::optional<SavedValue> SavedObject::of(const QString& key, std::optional<themefiles::KeyGroup> group) const {
   const QByteArray keyBytes = platform::toAnsi(key).value_or(QByteArray());
@@ -121,12 +113,34 @@ std::optional<SavedValue> SavedObject::takeOf(const QString& key, std::optional<
   return value;
 }
 
+std::optional<SavedValue> SavedObject::colorOf(const QString& key, std::optional<themefiles::KeyGroup> group) const {
+  const IniLine* now = platform::lineOf(now_, platform::toAnsi(key).value_or(QByteArray()));
+  if (now == nullptr || group != themefiles::KeyGroup::Color || !files_.colors_.differs) return std::nullopt;
+  const QByteArray name = nameIn(*now);
+  if (!files_.colorDiffers(name)) return std::nullopt;
+  const QString shown = platform::fromAnsi(name);
+  const IniLine* saved = platform::lineOf(files_.colors_.saved, name);
+  if (saved == nullptr) return SavedValue{{}, QStringLiteral("colour '%1' is new").arg(shown), {}};
+  const QString value = shownValue(*saved);
+  return SavedValue{value,
+                    QStringLiteral("colour '%1' saved: %2").arg(shown, value),
+                    {{&ThemePaths::ThemeFile, QStringLiteral("Colors"), shown, saved->line.toByteArray()}}};
+}
+
 bool SavedObject::differs() const {
   return std::any_of(now_.begin(), now_.end(), [this](const IniLine& line) {
     if (line.key.startsWith('#')) return false;  // no row of the grid
-    const auto* target = files_.targetOf(themefiles::groupOf(themefiles::keyIdentity(platform::fromAnsi(line.key))));
-    return differ(&line, platform::lineOf(saved_, line.key)) || SavedState::differsIn(target, line);
+    const auto group = themefiles::groupOf(themefiles::keyIdentity(platform::fromAnsi(line.key)));
+    if (group == themefiles::KeyGroup::Color && files_.colors_.differs && files_.colorDiffers(nameIn(line)))
+      return true;
+    return differ(&line, platform::lineOf(saved_, line.key)) || SavedState::differsIn(files_.targetOf(group), line);
   });
+}
+
+std::optional<SavedValue> savedColorOf(const themefiles::ModuleState& state, const QString& section,
+                                       const QString& key) {
+  const SavedState saved(state);
+  return SavedObject(saved, section).colorOf(key, themefiles::groupOf(key));
 }
 
 std::optional<SavedValue> savedValue(const themefiles::ModuleState& state, const QString& section, const QString& key) {

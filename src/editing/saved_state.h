@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/ini_reading.h"
+#include "editing/saved_files.h"
 #include "platform/status_line.h"
 #include "themefiles/key_table.h"
 #include "themefiles/module_state.h"
@@ -17,6 +17,7 @@ struct SavedLine {
   QString section;
   QString key;
   QByteArray line;
+  bool isGone = false;  ///< the working copy has no such key any more
 };
 
 /// What was saved where a value differs now.
@@ -26,8 +27,8 @@ struct SavedValue {
   std::vector<SavedLine> lines;  ///< to write back: the theme's, then the language's or skin's
 };
 
-/// Writes the lines of a saved value back. Throws platform::Failure if that fails.
-void putLinesBack(themefiles::ModuleState& state, const SavedValue& saved, platform::StatusLine& status);
+/// Writes saved lines back, those of a file by one write. Throws platform::Failure if that fails.
+void putLinesBack(themefiles::ModuleState& state, const std::vector<SavedLine>& lines, platform::StatusLine& status);
 
 class SavedState;
 
@@ -42,7 +43,10 @@ class SavedObject {
   /// The same once: none when the key is asked for again. Of equal keys the first one counts.
   std::optional<SavedValue> takeOf(const QString& key, std::optional<themefiles::KeyGroup> group);
 
-  /// Whether a key differs.
+  /// What was saved for the colour of the theme that a key of that group names: "colour 'Red' saved: 200 40 40".
+  std::optional<SavedValue> colorOf(const QString& key, std::optional<themefiles::KeyGroup> group) const;
+
+  /// Whether a key differs, or a colour that one names.
   bool differs() const;
 
  private:
@@ -51,14 +55,16 @@ class SavedObject {
   platform::IniKeys now_, saved_;
 };
 
-/// What was saved for a key of a section of the theme, if it differs now. Throws as SavedState does.
+/// What was saved for a key of a section of the theme, or for the colour that it names, if that differs now. Throw as
+/// SavedState does.
+std::optional<SavedValue> savedColorOf(const themefiles::ModuleState& state, const QString& section,
+                                       const QString& key);
 std::optional<SavedValue> savedValue(const themefiles::ModuleState& state, const QString& section, const QString& key);
 
 /// The working copies beside what Open or Save last copied. Reads each working copy once.
 class SavedState {
  public:
-  /// Throws platform::Failure if a working copy can't be read. One that is gone or empty counts as this program wrote
-  /// it last, since the next edit makes it anew so.
+  /// Throws platform::Failure if a working copy can't be read.
   explicit SavedState(const themefiles::ModuleState& state);
   Q_DISABLE_COPY_MOVE(SavedState)
 
@@ -68,17 +74,9 @@ class SavedState {
  private:
   friend class SavedObject;
 
-  struct File {
-    File(const themefiles::ModuleState& state, QString themefiles::ThemePaths::*copy);
-    bool differs() const { return now != saved; }
-
-    QByteArray now, saved;
-    platform::IniSections nowSections, savedSections;
-  };
-
   /// The section of a language or a skin that references lead to.
   struct Target {
-    Target(const File& file, QString themefiles::ThemePaths::*working, const char* name);
+    Target(const ComparedFile& file, const char* name);
 
     bool differs;
     QString themefiles::ThemePaths::*copy;
@@ -88,10 +86,11 @@ class SavedState {
 
   const Target* targetOf(std::optional<themefiles::KeyGroup> group) const;
   static bool differsIn(const Target* target, const platform::IniLine& reference);
+  bool colorDiffers(const QByteArray& name) const;
   static void addTarget(SavedValue& saved, const Target& target, const platform::IniLine& reference);
 
-  File theme_, skin_, language_;
-  Target textures_, texts_;
+  const ComparedFiles files_;
+  Target textures_, texts_, colors_;
 };
 
 }  // namespace editing

@@ -93,9 +93,20 @@ std::optional<SavedValue> savedColor(const ModuleState& state, const QString& na
 }
 
 bool putSavedColorBack(Session& session, const QString& name, const SavedValue& saved) {
-  if (!writeAtOnce(session, WriteStep, [&] { putLinesBack(session.state(), saved, session.status()); })) return false;
+  if (!writeAtOnce(session, WriteStep, [&] { putLinesBack(session.state(), saved.lines, session.status()); }))
+    return false;
   setRowsLike(session, name, themefiles::GetINI(section(), name, newColor(), session.state().paths.ThemeFile));
   return true;
+}
+
+void followColors(Session& session, const QStringList& names) {
+  ModuleState& state = session.state();
+  for (const QString& name : names) {
+    auto row = rowLike(state, name);
+    if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
+    if (row != state.ThemeColors.end() && row->Name.isEmpty()) row->Name = name;
+    setRowsLike(session, name, themefiles::GetINI(section(), name, newColor(), state.paths.ThemeFile));
+  }
 }
 
 std::optional<QString> addColor(Session& session, const QString& name) {

@@ -21,7 +21,8 @@ enum class Command {
   OtherWindow,
   Find,
   Loupe,
-  LargerLoupe
+  LargerLoupe,
+  Changes
 };
 
 /// What a command works on.
@@ -36,7 +37,9 @@ struct CommandRow {
   Command command;
   void (*run)(const CommandTargets& targets);
   bool atOnce;                ///< runs in the middle of a drawing, too; others wait for its end
+  bool needsTheme;            ///< does nothing without an open theme
   QStringView keys;           ///< empty for none
+  QStringView menu = u"";     ///< its entry in the preview's menu; empty for none
   int button = 0;             ///< its number on the toolbar, from 1; 0 for none
   QStringView icon = u"";     ///< the button's, by the name of the asset
   QStringView toolTip = u"";  ///< the button's

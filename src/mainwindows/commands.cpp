@@ -9,6 +9,7 @@
 #include "mainwindows/theme_session.h"
 #include "platform/row_order.h"
 #include "themefiles/module_state.h"
+#include "toolwindow/changes.h"
 #include "toolwindow/finder.h"
 #include "toolwindow/tool_window.h"
 
@@ -24,27 +25,31 @@ void goToOtherWindow(Form1& form) {
   other->raise();
 }
 
-void find(Form1& form) {
-  if (form.toolWindow() != nullptr) toolwindow::showFinder(*form.toolWindow());
-}
-
 constexpr bool AtOnce = true;
 constexpr bool Waits = false;
 
+constexpr bool NeedsTheme = true;
+constexpr bool Always = false;
+
 constexpr auto Rows = std::to_array<CommandRow>({
-    {Command::Open, [](const Targets& to) { OpenTheme(to.form); }, Waits, u"Ctrl+O", 1, u"open", u"Open"},
-    {Command::Save, [](const Targets& to) { SaveTheme(to.form); }, AtOnce, u"Ctrl+S", 2, u"save", u"Save"},
-    {Command::Close, [](const Targets& to) { CloseTheme(to.form); }, Waits, u"Ctrl+W", 3, u"close", u"Close"},
-    {Command::BackgroundColor, [](const Targets& to) { ChooseBackgroundColor(to.form); }, Waits, u"", 4, u"background",
-     u"Background Color"},
-    {Command::AnotherFolder, [](const Targets& to) { openAnotherFolder(to.form); }, Waits, u"Ctrl+Shift+O"},
-    {Command::Refresh, [](const Targets& to) { to.refresh.refresh(); }, AtOnce, u"F5"},
-    {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, u"F6"},
-    {Command::Find, [](const Targets& to) { find(to.form); }, AtOnce, u"Ctrl+F"},
-    {Command::Loupe, [](const Targets& to) { to.loupe.toggle(); }, AtOnce, u"F7"},
-    {Command::LargerLoupe, [](const Targets& to) { to.loupe.enlarge(); }, AtOnce, u"Shift+F7"},
+    {Command::Open, [](const Targets& to) { OpenTheme(to.form); }, Waits, Always, u"Ctrl+O", u"", 1, u"open", u"Open"},
+    {Command::Save, [](const Targets& to) { SaveTheme(to.form); }, AtOnce, Always, u"Ctrl+S", u"", 2, u"save", u"Save"},
+    {Command::Close, [](const Targets& to) { CloseTheme(to.form); }, Waits, Always, u"Ctrl+W", u"", 3, u"close",
+     u"Close"},
+    {Command::BackgroundColor, [](const Targets& to) { ChooseBackgroundColor(to.form); }, Waits, Always, u"", u"", 4,
+     u"background", u"Background Color"},
+    {Command::AnotherFolder, [](const Targets& to) { openAnotherFolder(to.form); }, Waits, Always, u"Ctrl+Shift+O",
+     u"Another game folder..."},
+    {Command::Refresh, [](const Targets& to) { to.refresh.refresh(); }, AtOnce, Always, u"F5"},
+    {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, Always, u"F6"},
+    {Command::Find, [](const Targets& to) { toolwindow::showFinder(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
+     u"Ctrl+F", u"Find..."},
+    {Command::Loupe, [](const Targets& to) { to.loupe.toggle(); }, AtOnce, Always, u"F7", u"Loupe"},
+    {Command::LargerLoupe, [](const Targets& to) { to.loupe.enlarge(); }, AtOnce, Always, u"Shift+F7"},
+    {Command::Changes, [](const Targets& to) { toolwindow::showChanges(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
+     u"Ctrl+Shift+E", u"What differs..."},
 });
-static_assert(platform::inOrder(Rows, &CommandRow::command, Command::LargerLoupe));
+static_assert(platform::inOrder(Rows, &CommandRow::command, Command::Changes));
 
 /// A theme without changes closes without a question: the running work is given up for it.
 bool endsWork(const Form1& form, Command command) {
@@ -57,15 +62,19 @@ CommandRows commandRows() {
   return Rows;
 }
 
+bool canRun(const Form1& form, const CommandRow& row) {
+  return form.commandEnabled(row.command) && (!row.needsTheme || form.toolWindow() != nullptr);
+}
+
 void runCommand(const CommandTargets& targets, const CommandRow& row) {
   const auto ifEnabled = [targets, &row] {
     if (!targets.form.isVisible()) return;  // the program has ended while the command waited
     targets.form.session().settle();
-    if (targets.form.commandEnabled(row.command)) row.run(targets);
+    if (canRun(targets.form, row)) row.run(targets);
   };
   if (row.atOnce) return ifEnabled();
   targets.form.session().settle();
-  if (!targets.form.commandEnabled(row.command)) return;
+  if (!canRun(targets.form, row)) return;
   using controls::RunningWork;
   targets.form.queue().runOutside(ifEnabled,
                                   endsWork(targets.form, row.command) ? RunningWork::GivesWay : RunningWork::Finishes);

@@ -92,11 +92,7 @@ void Editor::connectPreview() {
                            platform::roundToInt16(std::floor(Y)).value_or(0));
   });
   QObject::connect(form.Workspace, &Workspace::menuAsked, &form, [this](const QPoint& place) {
-    showPreviewMenu(form, place, [this](Command command) {
-      for (const CommandRow& row : commandRows()) {
-        if (row.command == command) run(row);
-      }
-    });
+    showPreviewMenu(form, place, [this](const CommandRow& row) { run(row); });
   });
 }
 

@@ -3,24 +3,18 @@
 #include <QMenu>
 
 #include "controls/popup_menu.h"
+#include "mainwindows/commands.h"
+#include "mainwindows/main_window.h"
 
 namespace mainwindows {
-namespace {
-
-struct Entry {
-  Command command;
-  QStringView text;
-};
-constexpr Entry Entries[] = {{Command::AnotherFolder, u"Another game folder..."}, {Command::Loupe, u"Loupe\tF7"}};
-
-}  // namespace
-
-void showPreviewMenu(QWidget& form, const QPoint& place, const std::function<void(Command command)>& run) {
+void showPreviewMenu(Form1& form, const QPoint& place, const std::function<void(const CommandRow& row)>& run) {
   auto* menu = new QMenu(&form);
-  for (const auto& [command, text] : Entries) {
-    const QAction* action = menu->addAction(text.toString());
+  for (const CommandRow& row : commandRows()) {
+    if (row.menu.isEmpty()) continue;
+    QAction* action = menu->addAction(row.menu.toString() + u'\t' + row.keys.toString());
+    action->setEnabled(canRun(form, row));
     QObject::connect(
-        action, &QAction::triggered, &form, [run, chosen = command] { run(chosen); }, Qt::QueuedConnection);
+        action, &QAction::triggered, &form, [run, &row] { run(row); }, Qt::QueuedConnection);
   }
   controls::popUp(menu, place);
 }

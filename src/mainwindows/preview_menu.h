@@ -5,12 +5,12 @@
 #include "mainwindows/command.h"
 
 class QPoint;
-class QWidget;
 
 namespace mainwindows {
 
-/// Shows the menu of the start picture and of the preview at a place of the screen. It doesn't block; `run` gets the
-/// command that was chosen when the menu is gone.
-void showPreviewMenu(QWidget& form, const QPoint& place, const std::function<void(Command command)>& run);
+/// Shows the menu of the start picture and of the preview at a place of the screen: the commands that have an entry,
+/// with their keys; those that can't run now are grey. It doesn't block; `run` gets the command that was chosen when
+/// the menu is gone.
+void showPreviewMenu(Form1& form, const QPoint& place, const std::function<void(const CommandRow& row)>& run);
 
 }  // namespace mainwindows

@@ -9,6 +9,7 @@
 #include "controls/modal.h"
 #include "controls/twips.h"
 #include "drawing/system_colours.h"
+#include "editing/commit.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/open_theme_dialog.h"
 #include "mainwindows/workspace.h"
@@ -175,9 +176,11 @@ void openAnotherFolder(Form1& form) {
 void SaveTheme(Form1& form) {
   platform::guarded(form, QStringLiteral("Error while saving files"), [&] {
     platform::ReportScope telling(form);
+    int values = 0;
+    platform::guardedSilently([&] { values = editing::countDifferences(form.services.state); });
     themefiles::saveWorkingCopies(form.services.state, form);
     form.enableCommand(Command::Save, false);
-    telling.success(QStringLiteral("Saved"));
+    telling.success(values == 0 ? QStringLiteral("Saved") : QStringLiteral("Saved, ") + editing::countOf(values));
     noteUntaken(form, untakenIn(form));
   });
   // A Save that failed may have copied some of the files.

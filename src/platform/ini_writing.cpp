@@ -1,8 +1,10 @@
 #include "platform/ini_writing.h"
 
 #include <algorithm>
+#include <functional>
 
 #include "platform/ini_lines.h"
+#include "platform/ini_reading.h"
 
 namespace platform {
 
@@ -31,6 +33,25 @@ bool fitsOneLine(QByteArrayView text) {
 bool canBeFound(QByteArrayView section, QByteArrayView key) {
   return fitsOneLine(section) && !section.contains(']') && !ini::endsInTab(section) && fitsOneLine(key) &&
          !key.isEmpty() && !key.contains('=') && !ini::endsInTab(key) && key.front() != ';' && key.front() != '[';
+}
+
+/// A text that comes in the place of a part of the file.
+struct Change {
+  const char* from;
+  const char* to;
+  QByteArray text;
+};
+
+QByteArray withChanges(QByteArrayView file, std::vector<Change>& changes) {
+  std::stable_sort(changes.begin(), changes.end(),
+                   [](const Change& a, const Change& b) { return std::less<>{}(a.from, b.from); });
+  QByteArray result;
+  const char* done = file.begin();
+  for (const Change& change : changes) {
+    result.append(QByteArrayView(done, change.from)).append(change.text);
+    done = change.to;
+  }
+  return result.append(QByteArrayView(done, file.end()));
 }
 
 /// Which part of a key's line is set.
@@ -74,6 +95,47 @@ std::optional<QByteArray> setIniValue(QByteArrayView file, QByteArrayView sectio
 std::optional<QByteArray> setIniLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
                                      QByteArrayView line) {
   return setPart(file, section, key, line, Part::Line);
+}
+
+QByteArray setIniLines(QByteArrayView file, const std::vector<IniSetting>& settings) {
+  const QByteArray lineEnd = firstLineEnd(file);
+  const IniSections sections(file);
+  std::vector<IniName> order;
+  QHash<IniName, std::vector<const IniSetting*>> bySection;
+  for (const IniSetting& each : settings) {
+    const IniName name{ini::askedName(each.section)};
+    if (!canBeFound(name.letters, ini::askedName(each.key)) || !fitsOneLine(each.line)) continue;
+    if (!bySection.contains(name)) order.push_back(name);
+    bySection[name].push_back(&each);
+  }
+  std::vector<Change> changes;
+  for (const IniName& name : order) {
+    const QByteArrayView lines = sections.lines(name.letters);
+    const std::vector<IniLine> present = iniLines(lines);
+    const IniKeys keys = iniKeys(lines);
+    QByteArray added;
+    for (const IniSetting* each : bySection[name]) {
+      if (const IniLine* line = lineOf(keys, each->key)) {
+        changes.push_back({line->line.begin(), line->line.end(), each->line});
+      } else {
+        added += each->line + lineEnd;
+      }
+    }
+    if (added.isEmpty()) continue;
+    const char* place = file.end();
+    if (lines.isNull()) {
+      added.prepend('[' + name.letters.toByteArray() + ']' + lineEnd);
+    } else {
+      place = present.empty() ? lines.begin() : ini::nextLine(present.back().line.end(), file.end());
+    }
+    const bool follows =
+        std::any_of(changes.begin(), changes.end(), [&](const Change& change) { return change.from == file.end(); });
+    if (!(follows && place == file.end()) && place != file.begin() && !ini::isLineEnd(place[-1])) {
+      added.prepend(lineEnd);
+    }
+    changes.push_back({place, place, added});
+  }
+  return withChanges(file, changes);
 }
 
 std::optional<QByteArray> removeIniKey(QByteArrayView file, QByteArrayView section, QByteArrayView key) {

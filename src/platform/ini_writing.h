@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -21,6 +22,17 @@ std::optional<QByteArray> setIniValue(QByteArrayView file, QByteArrayView sectio
 /// The same for the key's whole line. `line` has no line end.
 std::optional<QByteArray> setIniLine(QByteArrayView file, QByteArrayView section, QByteArrayView key,
                                      QByteArrayView line);
+
+/// A key's whole line, without its line end.
+struct IniSetting {
+  QByteArray section;
+  QByteArray key;
+  QByteArray line;
+};
+
+/// Sets whole lines, of which no two are of the same key, by the same rules, and returns the new file. New lines of a
+/// section come in the order in which they are given. A line that could never be found again is left out.
+QByteArray setIniLines(QByteArrayView file, const std::vector<IniSetting>& settings);
 
 /// Removes the key's line and returns the new file. None if there is no such key.
 std::optional<QByteArray> removeIniKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);

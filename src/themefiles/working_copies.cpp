@@ -100,6 +100,13 @@ Start startFrom(const platform::FileTurn& turn, const ModuleState& state, size_t
   return {*standing};
 }
 
+/// Whether a file has that text; false if it can't be read.
+bool holdsText(const QString& path, const QByteArray& text) {
+  bool holds = false;
+  platform::guardedSilently([&] { holds = platform::readIfThere(path) == text; });
+  return holds;
+}
+
 /// Applies `change` to a working copy's text, writes it once, and checks that the file has the keys that were `edited`.
 void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status,
               const std::vector<KeyValue>& edited, const std::function<QByteArray(const QByteArray& text)>& change) {
@@ -112,6 +119,7 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
     // A value that stands there already is written again.
     start.isThere ? turn.replace(changed) : makeAnew(turn, path, changed);
     state.ownCopies.at(file) = changed;
+    if (edited.size() > 1 && holdsText(path, changed)) return;
     for (const KeyValue& each : edited) checkReadsBack(changed, each.section, each.key, path);
   });
 }
@@ -177,10 +185,11 @@ void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::v
   });
 }
 
-void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
-                   const QByteArray& line, platform::StatusLine& status) {
-  editCopy(state, copy, status, {{section, key, {}}},
-           [&](const QByteArray& text) { return changedLine(text, section, key, line); });
+void putLinesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::vector<KeyedLine>& lines,
+                    platform::StatusLine& status) {
+  std::vector<KeyValue> edited;
+  for (const auto& [section, key, line] : lines) edited.push_back({section, key, {}});
+  editCopy(state, copy, status, edited, [&](const QByteArray& text) { return changedLines(text, lines); });
 }
 
 void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status) {

@@ -6,6 +6,7 @@
 #include <QString>
 
 #include "platform/status_line.h"
+#include "themefiles/changed_lines.h"
 #include "themefiles/module_state.h"
 
 /// The working copies of a theme's three files, which take all edits until Save.
@@ -38,9 +39,9 @@ struct KeyValue {
 void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::vector<KeyValue>& values,
                      platform::StatusLine& status);
 
-/// Like putInCopy, but sets the key's whole line as changedLine does.
-void putLineInCopy(ModuleState& state, QString ThemePaths::*copy, const QString& section, const QString& key,
-                   const QByteArray& line, platform::StatusLine& status);
+/// Like putValuesInCopy, but sets whole lines.
+void putLinesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::vector<KeyedLine>& lines,
+                    platform::StatusLine& status);
 
 /// Makes a working copy of the open theme anew if it is missing or empty, as an edit would, with a note to `status`.
 void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status);

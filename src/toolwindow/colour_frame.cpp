@@ -166,10 +166,11 @@ void ColorFrame::showMenu(const QPoint& place) {
     const auto saved = savedColor();
     if (!saved || saved->lines.empty()) return;
     const QString name = Combo3->Text();
-    showPutBackMenu(*window(), place, *saved, [this, name] {
+    const auto putBackLater = [this, name] {
       whenIdle(
           *this, services.queue, [this, name] { return Combo3->Text() == name; }, [this] { putBack(); });
-    });
+    };
+    showEntries(*window(), place, {putBackEntry(*saved, putBackLater)});
   });
 }
 

@@ -40,8 +40,12 @@ struct SavedMarking::Pass {
  private:
   void markKey(int row) {
     const QString key = themefiles::keyIdentity(grid_.rowText(row));
+    const auto color = keys_.colorOf(key, themefiles::groupOf(key));
     const auto value = keys_.takeOf(key, themefiles::groupOf(key));
-    grid_.setSaved(row, value ? QStringLiteral("saved: ") + value->told : QString());
+    QStringList told;
+    if (value) told += QStringLiteral("saved: ") + value->told;
+    if (color) told += color->told;
+    grid_.setSaved(row, told.join(u'\n'));
   }
 
   const editing::SavedState saved_;

@@ -35,18 +35,19 @@ void openMenusByKeys(QWidget& window) {
   });
 }
 
-void showLinesMenu(QWidget& window, const QPoint& place, const QStringList& lines) {
+void showEntries(QWidget& window, const QPoint& place, const MenuEntries& entries) {
+  if (entries.empty()) return;
   auto* menu = new QMenu(&window);
-  for (const QString& line : lines) menu->addAction(entryText(line))->setEnabled(false);
+  for (const MenuEntry& entry : entries) {
+    QAction* action = menu->addAction(entryText(entry.text));
+    action->setEnabled(entry.run != nullptr);
+    if (entry.run) QObject::connect(action, &QAction::triggered, &window, entry.run, Qt::QueuedConnection);
+  }
   controls::popUp(menu, place, menu->actions().constFirst());
 }
 
-void showPutBackMenu(QWidget& window, const QPoint& place, const editing::SavedValue& saved,
-                     const std::function<void()>& putBack) {
-  auto* menu = new QMenu(&window);
-  QAction* action = menu->addAction(entryText(QStringLiteral("Put the saved value back: ") + saved.told));
-  QObject::connect(action, &QAction::triggered, &window, putBack, Qt::QueuedConnection);
-  controls::popUp(menu, place, action);
+MenuEntry putBackEntry(const editing::SavedValue& saved, const std::function<void()>& putBack) {
+  return {QStringLiteral("Put the saved value back: ") + saved.told, putBack};
 }
 
 int firstRowOf(const controls::ListView& values, const QString& key) {
@@ -62,24 +63,53 @@ RowMenu::RowMenu(const ToolServices& services, controls::ListView& values)
 }
 
 void RowMenu::show(int row, const QPoint& place) {
-  const editing::Session& session = services_.session;
-  platform::guarded(session.status(), editing::ReadStep.toString(), [&] {
+  platform::guarded(services_.session.status(), editing::ReadStep.toString(), [&] {
     const QString key = themefiles::keyIdentity(values_.rowText(row));
     if (firstRowOf(values_, key) != row) return;
-    const QString object = session.object();
-    const auto saved = editing::savedValue(session.state(), object, key);
-    if (!saved) return;
-    QWidget& window = *values_.window();
-    if (!themefiles::groupOf(key) || saved->lines.empty()) {
-      return showLinesMenu(window, place, {QStringLiteral("saved: ") + saved->told});
-    }
-    const auto stillMeant = [this, row, key, object] {
-      return services_.session.object() == object && themefiles::keyIdentity(values_.rowText(row)) == key;
-    };
-    showPutBackMenu(window, place, *saved, [this, row, key, stillMeant] {
-      whenIdle(values_, services_.queue, stillMeant, [this, row, key] { commit(row, key); });
-    });
+    MenuEntries entries;
+    addValue(entries, row, key);
+    addColor(entries, key);
+    showEntries(*values_.window(), place, entries);
   });
+}
+
+void RowMenu::addValue(MenuEntries& entries, int row, const QString& key) {
+  const editing::Session& session = services_.session;
+  const QString object = session.object();
+  const auto saved = editing::savedValue(session.state(), object, key);
+  if (!saved) return;
+  if (!themefiles::groupOf(key) || saved->lines.empty()) {
+    entries.push_back({QStringLiteral("saved: ") + saved->told, {}});
+    return;
+  }
+  const auto stillMeant = [this, row, key, object] {
+    return services_.session.object() == object && themefiles::keyIdentity(values_.rowText(row)) == key;
+  };
+  entries.push_back(putBackEntry(*saved, [this, row, key, stillMeant] {
+    whenIdle(values_, services_.queue, stillMeant, [this, row, key] { commit(row, key); });
+  }));
+}
+
+/// The colour of the theme that the row names.
+void RowMenu::addColor(MenuEntries& entries, const QString& key) {
+  editing::Session& session = services_.session;
+  const auto color = editing::savedColorOf(session.state(), session.object(), key);
+  if (!color) return;
+  if (color->lines.empty()) {
+    entries.push_back({color->told, {}});
+    return;
+  }
+  const editing::SavedLine& line = color->lines.front();
+  const editing::KeyPlace place{line.copy, line.section, line.key};
+  entries.push_back(
+      {QStringLiteral("Put the saved colour back: %1 = %2").arg(line.key, color->value), [this, &session, place] {
+         whenIdle(
+             values_, services_.queue, [] { return true; },
+             [&session, place] {
+               session.settle();
+               editing::putBack(session, {place});
+             });
+       }});
 }
 
 void RowMenu::commit(int row, const QString& key) {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include <QObject>
+#include <QString>
 
 #include "toolwindow/tool_services.h"
 
@@ -22,18 +24,24 @@ namespace toolwindow {
 /// Lets Shift+F10 ask the control with the focus for its menu, as the menu key does in the toolkit.
 void openMenusByKeys(QWidget& window);
 
-/// Shows a menu of lines that only tell something. The keys reach them, too.
-void showLinesMenu(QWidget& window, const QPoint& place, const QStringList& lines);
+/// An entry of a menu; without something to run it only tells something, and the keys reach it all the same.
+struct MenuEntry {
+  QString text;
+  std::function<void()> run;
+};
+using MenuEntries = std::vector<MenuEntry>;
 
-/// Shows a menu of one entry, which puts a saved value back. `putBack` runs when the menu is gone.
-void showPutBackMenu(QWidget& window, const QPoint& place, const editing::SavedValue& saved,
-                     const std::function<void()>& putBack);
+/// Shows a menu, unless it has no entries. What was chosen runs when the menu is gone.
+void showEntries(QWidget& window, const QPoint& place, const MenuEntries& entries);
+
+/// The entry that puts a saved value back: "Put the saved value back: 120".
+MenuEntry putBackEntry(const editing::SavedValue& saved, const std::function<void()>& putBack);
 
 /// The first row of the key; -1 without one.
 int firstRowOf(const controls::ListView& values, const QString& key);
 
-/// The menu of a row whose value differs: tells the saved one, and puts it back if the row has an editor. Of equal keys
-/// the first counts.
+/// The menu of a row whose value differs, or the colour that it names: tells what was saved, and puts it back; a value
+/// only if the row has an editor. Of equal keys the first counts.
 class RowMenu : public QObject {
   Q_OBJECT
 
@@ -47,6 +55,8 @@ class RowMenu : public QObject {
 
  private:
   void show(int row, const QPoint& place);
+  void addValue(MenuEntries& entries, int row, const QString& key);
+  void addColor(MenuEntries& entries, const QString& key);
   void commit(int row, const QString& key);
 
   const ToolServices& services_;

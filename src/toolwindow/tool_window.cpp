@@ -21,6 +21,7 @@
 #include "themefiles/screen_table.h"
 #include "toolwindow/colour_frame.h"
 #include "toolwindow/number_frames.h"
+#include "toolwindow/object_menu.h"
 #include "toolwindow/reference_frame.h"
 #include "toolwindow/saved_marking.h"
 #include "toolwindow/saved_menus.h"
@@ -137,10 +138,7 @@ void Form2::connectMenus() {
   openMenusByKeys(*this);
   auto* rowMenu = new RowMenu(services, *ListView1);
   connect(rowMenu, &RowMenu::putBack, this, &Form2::showPutBack);
-  connect(List1, &controls::ListBox::menuAsked, this, [this](int row, const QPoint& place) {
-    const QString told = List1->told(row);
-    if (!told.isEmpty()) showLinesMenu(*this, place, told.split(u'\n'));
-  });
+  new ObjectMenu(services, *List1);
 }
 
 void Form2::start() {

@@ -80,6 +80,7 @@ class Monkey {
   void arrowKeys();
   void drag();
   void shortcut();
+  void putBack();
   void resize();
   void loseFolder();
   void protectFiles();

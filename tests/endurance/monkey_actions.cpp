@@ -5,6 +5,7 @@
 
 #include "endurance/monkey.h"
 #include "platform/paths.h"
+#include "toolwindow/list_window.h"
 
 namespace endurance {
 
@@ -14,8 +15,8 @@ void Monkey::act() {
   if (tools == nullptr && !chance_.one(6)) {
     click(*form().ToolBar, {16, 16});
   } else if (chance_.one(70)) {
-    const std::array actions{&Monkey::shortcut, &Monkey::resize, &Monkey::protectFiles, &Monkey::protectFiles,
-                             &Monkey::loseFolder};
+    const std::array actions{&Monkey::shortcut,     &Monkey::resize,     &Monkey::protectFiles,
+                             &Monkey::protectFiles, &Monkey::loseFolder, &Monkey::putBack};
     (this->*chance_.of(actions))();
   } else if (chance_.one(900)) {
     form().close();
@@ -161,6 +162,19 @@ void Monkey::shortcut() {
   if (form().toolWindow() != nullptr && chance_.one(2)) window = form().toolWindow();
   if (chance_.one(4)) return key(*window, Qt::Key_F7, chance_.one(2) ? Qt::ShiftModifier : Qt::NoModifier);
   key(*window, chance_.of(std::array{Qt::Key_O, Qt::Key_S, Qt::Key_S, Qt::Key_W}), Qt::ControlModifier);
+}
+
+/// Something in the list of what differs.
+void Monkey::putBack() {
+  if (form().toolWindow() == nullptr) return;
+  key(form(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+  QTest::qWait(20);
+  auto* list = form().toolWindow()->findChild<toolwindow::ListWindow*>(u"Changes"_s);
+  if (list == nullptr) return;
+  if (chance_.one(2)) key(*list->Line, chance_.of(std::array{Qt::Key_X, Qt::Key_T, Qt::Key_Backspace}));
+  if (chance_.one(2)) key(*list->List, Qt::Key_A, Qt::ControlModifier);
+  counts_[u"put back"_s] += list->Action->isEnabled();
+  chance_.one(2) ? list->Action->click() : key(*list->Line, chance_.one(2) ? Qt::Key_Return : Qt::Key_Escape);
 }
 
 void Monkey::resize() {

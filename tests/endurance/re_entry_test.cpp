@@ -2,6 +2,7 @@
 #include <random>
 #include <tuple>
 
+#include "editing/commit.h"
 #include "support/snapshot.h"
 #include "toolwindow/finder.h"
 #include "toolwindow/list_window.h"
@@ -125,6 +126,13 @@ constexpr Wish Wishes[] = {
     {"a hit elsewhere", [](Program& p) { return find(p, u"mainstatica x=10"_s); }},
     {"a hit, another screen",
      [](Program& p) { return find(p, u"mainstatica x=10"_s) && screen(p, u"Level Screen"_s); }},
+    {"a value put back",
+     [](Program& p) {
+       const editing::KeyPlace place{&themefiles::ThemePaths::ThemeFile, QString::fromLatin1(Static), u"X"_s};
+       if (p.form.toolWindow() == nullptr) return false;
+       p.form.queue().runOutside([&p, place] { editing::putBack(p.form.session(), {place}); });
+       return true;
+     }},
     {"Save, Close", [](Program& p) { return click<2>(p) && click<3>(p); }},
     {"Close, No", [](Program& p) { return p.dialogs.boxes.clear(), click<3>(p); }},
     {"the window's end", [](Program& p) { return p.form.close(), true; }},

@@ -1,6 +1,7 @@
 #include <QTest>
 
 #include "platform/ini_reading.h"
+#include "platform/ini_section_names.h"
 #include "platform/ini_writing.h"
 #include "support/folder.h"
 
@@ -97,6 +98,18 @@ class IniStringsTest : public QObject {
     QCOMPARE(line->line, QByteArrayView("k= \"v\" "));
     QCOMPARE(setIniLine("[S]\n K=1 \nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nk = 3 \nj=2"));
     QCOMPARE(setIniLine("[S]\nj=2", "S", "k", "k = 3 "), QByteArray("[S]\nj=2\nk = 3 \n"));
+    // Several: each stays in its section, whatever comes first, and what can't be found again is left out.
+    QCOMPARE(setIniLines("[S]\rk=1\r;c\r[T]\r[U]\rj=1", {{"u", "k", "k=5"},
+                                                         {"New", "a", "a=1"},
+                                                         {"s", "K", "K =2"},
+                                                         {"S", "n", "n=3"},
+                                                         {"T", "m", "m="},
+                                                         {"S", "a=b", "a=b"},
+                                                         {"new", "b", "b=2"},
+                                                         {"S", "o", "o=4"},
+                                                         {"Other", "c", "c=3"}}),
+             QByteArray("[S]\rK =2\rn=3\ro=4\r;c\r[T]\rm=\r[U]\rj=1\rk=5\r[New]\ra=1\rb=2\r[Other]\rc=3\r"));
+    QCOMPARE(iniSectionNames(file), std::vector<QByteArrayView>({"a", "b", "\xE4nd \xFFmany More\xB5", ""}));
   }
 
   void remove() {

@@ -2,6 +2,8 @@
 #include <QMenu>
 
 #include "support/windows.h"
+#include "toolwindow/changes.h"
+#include "toolwindow/list_window.h"
 
 using namespace support;
 using toolwindow::Form2;
@@ -62,8 +64,6 @@ class SavedStateTest : public ProgramTest {
     QCOMPARE(menuOfRow(u"ColR"_s), u"(saved: 0.5)"_s);
     QCOMPARE(menuOfRow(u"New"_s), u"(saved: nothing)"_s);
     const QString told = u"differs from the saved state|W x H: '100 x 0' leaves no area"_s;
-    QCOMPARE(menuOf(*tools.objects().viewport(), true), u'(' + QString(told).replace(u"|"_s, u")|("_s) + u')');
-    QCOMPARE(menuOf(*tools.objects().viewport(), false), QString());  // of another object
     const auto description = [](QWidget* list, int cell) {
       return QAccessible::queryAccessibleInterface(list)->child(cell)->text(QAccessible::Description);
     };
@@ -72,6 +72,77 @@ class SavedStateTest : public ProgramTest {
     const int header = 2;
     QCOMPARE(description(&tools.values(), header + 2 * 4), u"saved: 60"_s);
     QCOMPARE(description(&tools.values(), header + 2 * 3), QString());
+    QCOMPARE(menuOf(*tools.objects().viewport(), true),
+             u"Put the saved object back: 2 values|Put the whole saved screen back: 2 values|("_s +
+                 QString(told).replace(u"|"_s, u")|("_s) + u')');
+    QCOMPARE(marked(), u"LoadingStaticA|New saved: nothing"_s);
+    QCOMPARE(program->value(u"H"_s), u"60"_s);
+    QVERIFY2(program->status().startsWith(u"Put back: 2 values"_s), qPrintable(program->status()));
+    QCOMPARE(menuOf(*tools.objects().viewport(), false), QString());  // of another object
+  }
+
+  /// A colour that differs shows in all rows that name it, and comes back from their menus, with nothing drawn.
+  void colours() {
+    const Form2& tools = program->tools();
+    program->tag(u"LoadingStaticA"_s);
+    program->row(u"Color"_s);
+    program->dialogs.colors = {QColor(1, 2, 3)};
+    Editors(tools).Command2->click();
+    QCOMPARE(marked(), u"LoadingButtonGo|LoadingButtonLast|LoadingStaticA|Color colour 'Red' saved: 200 40 40"_s);
+    QCOMPARE(menuOfRow(u"Color"_s), u"Put the saved colour back: Red = 200 40 40"_s);
+    QCOMPARE(marked(), QString());
+    QCOMPARE(Editors(tools).Command2->BackColor(), QColor(200, 40, 40));
+    QVERIFY(!program->enabled(2));
+    QCOMPARE(game->get(ThemeCopy), game->get(ThemeFile));
+  }
+
+  /// From the list of all that differs: there, and back as it was saved.
+  void listOfChanges() {
+    Form2& tools = program->tools();
+    program->edit();
+    program->tag(u"LoadingTextFree"_s);
+    program->row(u"Text"_s);
+    Editors(tools).Text2->SetText(u"Hi"_s);
+    Editors(tools).Command1->click();
+    program->screen(u"Main Screen"_s);
+    program->tag(u"MainStaticA"_s);
+    program->row(u"Color"_s);
+    program->dialogs.colors = {QColor(1, 2, 3)};
+    Editors(tools).Command2->click();
+    toolwindow::showChanges(tools);
+    auto& list = *tools.findChild<toolwindow::ListWindow*>();
+    const QStringList all{u"Loading Screen, LoadingStaticA: X = 77 (saved: 40)"_s,
+                          u"colour 'Blue' = 1 2 3 (saved: 30 60 200)"_s, u"words 'HELLO' = Hi (saved: Hello there)"_s};
+    QTRY_COMPARE(entries(*list.List), all);
+    QCOMPARE(list.windowTitle(), u"Differs from the saved state: 3"_s);
+    QTest::keyClicks(list.Line, u"x=77 loading"_s);
+    QCOMPARE(entries(*list.List), all.first(1));
+    QTest::keyClick(list.Line, Qt::Key_Return);
+    QVERIFY(!list.isVisible());
+    QCOMPARE(tools.screens().Text() + tools.objects().Text(), u"Loading ScreenLoadingStaticA"_s);
+    QCOMPARE(tools.values().rowText(tools.values().selectedRow()), u"X"_s);
+    // Words lead to the object that shows them; its open editor follows what comes back.
+    toolwindow::showChanges(tools);
+    list.Line->SetText(u"words"_s);
+    QTest::keyClick(list.Line, Qt::Key_Return);
+    QCOMPARE(tools.objects().Text() + Editors(tools).Text2->Text(), u"LoadingTextFreeHi"_s);
+    toolwindow::showChanges(tools);
+    list.Line->SetText({});
+    QTRY_COMPARE(list.List->ListCount(), 3);
+    QTest::keyClick(list.Line, Qt::Key_Down, Qt::ShiftModifier);
+    QCOMPARE(list.Action->text(), u"Put back 2 values"_s);
+    QTest::keyClick(list.List, Qt::Key_A, Qt::ControlModifier);
+    QCOMPARE(list.Action->text(), u"Put back 3 values"_s);
+    list.Action->setFocus();
+    QTest::keyClick(list.Action, Qt::Key_Return);
+    QTRY_COMPARE(list.List->ListCount(), 0);
+    QVERIFY(!list.Action->isEnabled());
+    QCOMPARE(program->status(), u"Put back: 3 values"_s);
+    QCOMPARE(Editors(tools).Text2->Text(), u"Hello there"_s);
+    for (const QString& file : {ThemeFile, LanguageFile}) QCOMPARE(game->get(file + u".tmp"_s), game->get(file));
+    program->edit();
+    program->click(2);
+    QCOMPARE(program->status(), u"Saved, 1 value"_s);
   }
 
   /// A saved value that can't come back is no silent matter.

@@ -11,11 +11,14 @@
 
 #include "controls/list_view.h"
 #include "controls/swatch_button.h"
+#include "editing/commit.h"
+#include "editing/theme_colours.h"
 #include "mainwindows/open_theme_dialog.h"
 #include "mainwindows/workspace.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "toolbar/mc_toolbar.h"
+#include "toolwindow/changes.h"
 #include "toolwindow/tool_window.h"
 #include "waiting.h"
 
@@ -133,6 +136,7 @@ void Session::run() {
   saveScreen(QStringLiteral("editor"));
   showColorBoxes();
   showKeyBoxes();
+  showLists();
   showCloseQuestion();
 }
 
@@ -212,6 +216,19 @@ void Session::showKeyBoxes() {
   const QString elsewhere =
       platform::nativePath(form_.services.state.paths.SkinDirectory + QStringLiteral("\\..\\Workbench\\plate.png"));
   dialogs_.run({{QString(), choosing(elsewhere)}, {QStringLiteral("box-image-elsewhere"), accept}}, changeImage);
+}
+
+/// The windows that answer a question about the whole theme, after a few edits.
+void Session::showLists() {
+  editing::Session& session = form_.session();
+  editing::commitValues(session, {{QStringLiteral("MainStaticIcon"), {{QStringLiteral("X"), QStringLiteral("24")}}},
+                                  {QStringLiteral("SongStaticBar"), {{QStringLiteral("H"), QStringLiteral("72")}}}});
+  editing::changeColor(session, QStringLiteral("Gold"), QStringLiteral("255 190 60"));
+  toolwindow::showChanges(*form_.toolWindow());
+  settle();
+  QWidget& list = *QApplication::activeWindow();
+  save(list, QStringLiteral("list-changes"));
+  list.hide();
 }
 
 void Session::showCloseQuestion() {

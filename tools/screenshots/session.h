@@ -24,6 +24,7 @@ class Session {
   void showEditors();
   void showColorBoxes();
   void showKeyBoxes();
+  void showLists();
   void showCloseQuestion();
   void save(QWidget& window, const QString& name) const;
   void savePicture(const QPixmap& picture, const QString& name) const;

@@ -1,0 +1,41 @@
+#include "editing/saved_files.h"
+
+#include "platform/files.h"
+#include "themefiles/working_copies.h"
+
+namespace editing {
+namespace {
+
+using themefiles::ThemePaths;
+
+/// The text that the next edit would change.
+QByteArray presentBytes(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
+  const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
+  return standing && !standing->isEmpty() ? *standing : state.ownCopies.at(themefiles::copyNumber(copy));
+}
+
+}  // namespace
+
+ComparedFile::ComparedFile(const themefiles::ModuleState& state, QString ThemePaths::*of)
+    : copy(of),
+      nowText(presentBytes(state, of)),
+      savedText(state.savedCopies.at(themefiles::copyNumber(of))),
+      now(nowText),
+      saved(savedText) {}
+
+ComparedFiles::ComparedFiles(const themefiles::ModuleState& state)
+    : theme(state, &ThemePaths::ThemeFile),
+      skin(state, &ThemePaths::SkinFile),
+      language(state, &ThemePaths::LanguageFile) {}
+
+const ComparedFile& ComparedFiles::of(QString ThemePaths::*copy) const {
+  if (copy == &ThemePaths::SkinFile) return skin;
+  return copy == &ThemePaths::LanguageFile ? language : theme;
+}
+
+bool differ(const platform::IniLine* a, const platform::IniLine* b) {
+  if (a == nullptr || b == nullptr) return a != b;
+  return a->value != b->value;
+}
+
+}  // namespace editing
