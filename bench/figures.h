@@ -33,6 +33,8 @@ void registerScreen(const std::shared_ptr<SampleScreen>& screen);
 /// A drag on a screen of many large pictures. Prints the share of its frames that a display of 60 a second would miss;
 /// whether that is little enough.
 bool drawHeavyDrag();
+/// The steps in which the editor goes over the whole theme. Prints the longest ones; whether they are short enough.
+bool stepsAreShort();
 void registerThemeCheck();
 void registerFinding();
 void registerShownScreen(const std::shared_ptr<SampleScreen>& screen);

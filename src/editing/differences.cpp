@@ -96,28 +96,20 @@ Differences::Differences(const themefiles::ModuleState& state) : state_(state), 
 }
 
 bool Differences::step() {
-  const int screens = found_.empty() ? 0 : static_cast<int>(state_.ScreenTable.size());
   if (!sections_.empty()) {
     compareSection(files_.of(Files.at(file_)), sections_.back(), found_);
     sections_.pop_back();
   } else if (file_ + 1 < Files.size()) {
     sections_ = sectionsOf(files_.of(Files.at(++file_)));
-  } else if (screen_ < screens) {
-    listScreen(screen_++);
-  } else {
+  } else if (found_.empty() || isSorted_) {
     return false;
+  } else if (!places_) {
+    places_.emplace(state_, files_.theme.nowText);
+  } else if (!places_->step()) {
+    sort();
+    isSorted_ = true;
   }
-  if (sections_.empty() && file_ + 1 == Files.size() && screen_ == screens && screens > 0) sort();
   return true;
-}
-
-void Differences::listScreen(int number) {
-  if (!tags_) tags_.emplace(files_.theme.nowText);
-  const QString& screen = state_.ScreenTable.at(static_cast<size_t>(number)).Name;
-  for (const QString& object : tags_->of(state_, screen)) {
-    Listed& listed = listed_[platform::upperCase(platform::trimBlanks(object))];
-    if (listed.screen.isEmpty()) listed = {screen, object, static_cast<int>(listed_.size())};
-  }
 }
 
 /// Brings the differences into the order of the screens and of their lists.
@@ -127,7 +119,7 @@ void Differences::sort() {
   for (Difference& difference : found_) {
     const KeyPlace& place = difference.place;
     const bool isListed = place.copy == &ThemePaths::ThemeFile && !isColor(place);
-    const Listed listed = isListed ? listed_.value(platform::upperCase(place.section)) : Listed{};
+    const ObjectPlaces::Place listed = isListed ? places_->of(place.section) : ObjectPlaces::Place{};
     difference.screen = listed.screen;
     difference.object = listed.object;
     ordered.emplace(listed.screen.isEmpty() ? Behind : listed.order, std::move(difference));

@@ -3,13 +3,12 @@
 #include <optional>
 #include <vector>
 
-#include <QHash>
 #include <QString>
 
+#include "editing/object_places.h"
 #include "editing/saved_files.h"
 #include "editing/saved_state.h"
 #include "themefiles/module_state.h"
-#include "themefiles/tag_listing.h"
 
 namespace editing {
 
@@ -49,22 +48,15 @@ class Differences {
   const std::vector<Difference>& found() const { return found_; }
 
  private:
-  struct Listed {
-    QString screen, object;
-    int order = 0;
-  };
-
-  void listScreen(int number);
   void sort();
 
   const themefiles::ModuleState& state_;
   ComparedFiles files_;
   size_t file_ = 0;
   std::vector<QByteArrayView> sections_;  ///< of that file, still to be compared
-  int screen_ = 0;
   std::vector<Difference> found_;
-  std::optional<themefiles::ScreenTags> tags_;
-  QHash<QString, Listed> listed_;  ///< by the section's name in upper case
+  std::optional<ObjectPlaces> places_;
+  bool isSorted_ = false;
 };
 
 /// How many keys differ. Throws platform::Failure if a working copy can't be read.

@@ -9,6 +9,7 @@ namespace mainwindows {
 class Form1;
 class Loupe;
 class ScreenRefresh;
+class ThemeReview;
 
 /// What the main window can be told to do.
 enum class Command {
@@ -22,7 +23,10 @@ enum class Command {
   Find,
   Loupe,
   LargerLoupe,
-  Changes
+  Changes,
+  Faults,
+  NextFault,
+  SideBySide
 };
 
 /// What a command works on.
@@ -30,6 +34,7 @@ struct CommandTargets {
   Form1& form;
   ScreenRefresh& refresh;
   mainwindows::Loupe& loupe;
+  ThemeReview& review;
 };
 
 /// All that the program knows of a command.

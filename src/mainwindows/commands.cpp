@@ -3,9 +3,12 @@
 #include <array>
 
 #include "controls/work_queue.h"
+#include "mainwindows/fault_list.h"
 #include "mainwindows/loupe.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/screen_refresh.h"
+#include "mainwindows/side_by_side.h"
+#include "mainwindows/theme_review.h"
 #include "mainwindows/theme_session.h"
 #include "platform/row_order.h"
 #include "themefiles/module_state.h"
@@ -25,6 +28,11 @@ void goToOtherWindow(Form1& form) {
   other->raise();
 }
 
+void refresh(const Targets& to) {
+  to.refresh.refresh();
+  to.review.renew();
+}
+
 constexpr bool AtOnce = true;
 constexpr bool Waits = false;
 
@@ -40,7 +48,7 @@ constexpr auto Rows = std::to_array<CommandRow>({
      u"background", u"Background Color"},
     {Command::AnotherFolder, [](const Targets& to) { openAnotherFolder(to.form); }, Waits, Always, u"Ctrl+Shift+O",
      u"Another game folder..."},
-    {Command::Refresh, [](const Targets& to) { to.refresh.refresh(); }, AtOnce, Always, u"F5"},
+    {Command::Refresh, [](const Targets& to) { refresh(to); }, AtOnce, Always, u"F5"},
     {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, Always, u"F6"},
     {Command::Find, [](const Targets& to) { toolwindow::showFinder(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
      u"Ctrl+F", u"Find..."},
@@ -48,8 +56,14 @@ constexpr auto Rows = std::to_array<CommandRow>({
     {Command::LargerLoupe, [](const Targets& to) { to.loupe.enlarge(); }, AtOnce, Always, u"Shift+F7"},
     {Command::Changes, [](const Targets& to) { toolwindow::showChanges(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
      u"Ctrl+Shift+E", u"What differs..."},
+    {Command::Faults, [](const Targets& to) { showFaults(*to.form.toolWindow(), to.review); }, AtOnce, NeedsTheme,
+     u"Ctrl+Shift+K", u"What is wrong..."},
+    {Command::NextFault, [](const Targets& to) { to.review.goToNext(); }, AtOnce, NeedsTheme, u"F8",
+     u"Next that is wrong"},
+    {Command::SideBySide, [](const Targets& to) { showSideBySide(to.form); }, AtOnce, NeedsTheme, u"Ctrl+B",
+     u"Side by side..."},
 });
-static_assert(platform::inOrder(Rows, &CommandRow::command, Command::Changes));
+static_assert(platform::inOrder(Rows, &CommandRow::command, Command::SideBySide));
 
 /// A theme without changes closes without a question: the running work is given up for it.
 bool endsWork(const Form1& form, Command command) {

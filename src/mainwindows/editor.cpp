@@ -10,10 +10,12 @@
 #include "controls/work_queue.h"
 #include "mainwindows/commands.h"
 #include "mainwindows/preview_menu.h"
+#include "mainwindows/side_by_side.h"
 #include "mainwindows/theme_session.h"
 #include "mainwindows/workspace.h"
 #include "platform/numbers.h"
 #include "toolbar/mc_toolbar.h"
+#include "toolwindow/tool_window.h"
 
 namespace mainwindows {
 
@@ -37,6 +39,7 @@ void Editor::connectQueue() {
         hand_.giveUpDrag();
         refresh_.draw();
         watch_.drawn();
+        renewSideBySide(form);
       },
   });
 }
@@ -47,6 +50,9 @@ void Editor::connectSession() {
   QObject::connect(&session, &Session::settling, &form, [this] { hand_.settle(); });
   QObject::connect(&session, &Session::objectChosen, &form, [this] { hand_.showChosen(); });
   QObject::connect(&session, &Session::changed, &form, [this] { form.enableCommand(Command::Save, true); });
+  QObject::connect(&review_, &ThemeReview::goalChosen, &form, [this](const themefiles::Hit& goal) {
+    if (form.toolWindow() != nullptr) form.toolWindow()->goTo(goal);
+  });
   QObject::connect(&session, &Session::ended, &form, [this] {
     hand_.letGo();
     watch_.letGo();

@@ -6,6 +6,7 @@
 #include "mainwindows/picture_watch.h"
 #include "mainwindows/preview_hand.h"
 #include "mainwindows/screen_refresh.h"
+#include "mainwindows/theme_review.h"
 
 namespace mainwindows {
 
@@ -31,7 +32,8 @@ class Editor {
   PictureWatch watch_{form, hand_};
   ScreenRefresh refresh_{form};
   Loupe& loupe_ = *new Loupe(form);  ///< its parent is the main window
-  const CommandTargets targets_{form, refresh_, loupe_};
+  ThemeReview review_{form.session(), form.queue()};
+  const CommandTargets targets_{form, refresh_, loupe_, review_};
 };
 
 }  // namespace mainwindows

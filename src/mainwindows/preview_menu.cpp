@@ -7,6 +7,7 @@
 #include "mainwindows/main_window.h"
 
 namespace mainwindows {
+
 void showPreviewMenu(Form1& form, const QPoint& place, const std::function<void(const CommandRow& row)>& run) {
   auto* menu = new QMenu(&form);
   for (const CommandRow& row : commandRows()) {

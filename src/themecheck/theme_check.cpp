@@ -58,24 +58,31 @@ void ThemeCheck::readTheme() {
   steps_.push_back({theme_.files.theme.name, [this] { checkFiles(); }});
 }
 
+/// A step for each check, as each may have to go through a long file.
 void ThemeCheck::checkFiles() {
-  const IniFile& file = theme_.theme();
   themefiles::InitScreenTable(theme_.state);
   theme_.state = openState(theme_, {}, {});
-  checkLetters(file, QStringLiteral("Colors"), findings_);
-  checkHeads(file, true, findings_);
-  checkDoubles(file, findings_);
-  for (const IniFile& skin : theme_.skins) {
-    if (skin.isChecked()) checkDoubles(skin, findings_);
-  }
-  for (const IniFile& language : theme_.languages) {
-    if (language.isChecked()) checkDoubles(language, findings_, usedWords());
-  }
-  checkSections(theme_, findings_);
-  checkColors(theme_, findings_);
-  checkSkins(theme_, findings_);
-  checkWords(theme_, findings_);
-  addScreens();
+  const auto later = [this](const std::function<void()>& work) { steps_.push_back({theme_.files.theme.name, work}); };
+  later([this] {
+    checkLetters(theme_.theme(), QStringLiteral("Colors"), findings_);
+    checkHeads(theme_.theme(), true, findings_);
+  });
+  later([this] { checkDoubles(theme_.theme(), findings_); });
+  later([this] {
+    for (const IniFile& skin : theme_.skins) {
+      if (skin.isChecked()) checkDoubles(skin, findings_);
+    }
+  });
+  later([this] {
+    for (const IniFile& language : theme_.languages) {
+      if (language.isChecked()) checkDoubles(language, findings_, usedWords());
+    }
+  });
+  later([this] { checkSections(theme_, findings_); });
+  later([this] { checkColors(theme_, findings_); });
+  later([this] { checkSkins(theme_, findings_); });
+  later([this] { checkWords(theme_, findings_); });
+  later([this] { addScreens(); });
 }
 
 void ThemeCheck::addScreens() {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include <QApplication>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPushButton>
@@ -67,10 +66,7 @@ void ListWindow::addAction() {
 }
 
 void ListWindow::open() {
-  if (QApplication::activeWindow() != this) {
-    window_ = QApplication::activeWindow();
-    control_ = QApplication::focusWidget();
-  }
+  former_.remember(*this);
   source_.begin();
   show();
   activateWindow();
@@ -112,7 +108,7 @@ void ListWindow::accept() {
   const int row = List->ListIndex();
   const auto goal = row < 0 ? std::nullopt : source_.goalOf(row);
   if (!goal) return;
-  hideFor(&form_);
+  hideFor(*this, &form_);
   form_.goTo(*goal);
 }
 
@@ -136,24 +132,13 @@ void ListWindow::updateAction() {
   Action->setEnabled(source_.canActOn(rows));
 }
 
-/// Gives the keyboard away before it goes: a window manager would give it to the main window.
-void ListWindow::hideFor(QWidget* window) {
-  if (window != nullptr && window->isVisible()) window->activateWindow();
-  hide();
-}
-
-void ListWindow::goBack() {
-  hideFor(window_);
-  if (control_ != nullptr && control_->isVisible()) control_->setFocus();
-}
-
 void ListWindow::keyPressEvent(QKeyEvent* event) {
   const int page = std::max(1, List->viewport()->height() / std::max(1, List->sizeHintForRow(0)));
   const bool extends = Action != nullptr && event->modifiers().testFlag(Qt::ShiftModifier);
-  if (event->key() == Qt::Key_Escape) return goBack();
+  if (event->key() == Qt::Key_Escape) return former_.giveBack(*this);
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     if (event->isAutoRepeat()) return;
-    Action != nullptr && Action->hasFocus() ? Action->click() : accept();
+    Action != nullptr&& focusWidget() == Action ? Action->click() : accept();
   } else if (const auto row = controls::rowForKey(event->key(), List->ListIndex(), List->ListCount(), page)) {
     extends ? List->selectToo(*row) : List->SetListIndex(*row);
   } else {

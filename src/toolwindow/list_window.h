@@ -3,11 +3,11 @@
 #include <functional>
 #include <vector>
 
-#include <QPointer>
 #include <QWidget>
 
 #include "controls/list_box.h"
 #include "controls/text_box.h"
+#include "toolwindow/former_focus.h"
 #include "toolwindow/list_source.h"
 
 class QPushButton;
@@ -47,12 +47,10 @@ class ListWindow : public QWidget {
   void act();
   void showMenu(const QPoint& place);
   void updateAction();
-  void hideFor(QWidget* window);
-  void goBack();
 
   Form2& form_;
   ListSource& source_;
-  QPointer<QWidget> window_, control_;  ///< had the focus before
+  FormerFocus former_;
 };
 
 /// Shows the tool window's list window of that name. `source` makes what it shows when there is none yet.

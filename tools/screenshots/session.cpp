@@ -6,8 +6,10 @@
 #include <QDir>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QShortcut>
 
 #include "controls/list_view.h"
 #include "controls/swatch_button.h"
@@ -18,7 +20,6 @@
 #include "platform/failure.h"
 #include "platform/paths.h"
 #include "toolbar/mc_toolbar.h"
-#include "toolwindow/changes.h"
 #include "toolwindow/tool_window.h"
 #include "waiting.h"
 
@@ -221,14 +222,27 @@ void Session::showKeyBoxes() {
 /// The windows that answer a question about the whole theme, after a few edits.
 void Session::showLists() {
   editing::Session& session = form_.session();
-  editing::commitValues(session, {{QStringLiteral("MainStaticIcon"), {{QStringLiteral("X"), QStringLiteral("24")}}},
-                                  {QStringLiteral("SongStaticBar"), {{QStringLiteral("H"), QStringLiteral("72")}}}});
+  editing::commitValues(session,
+                        {{QStringLiteral("MainStaticIcon"), {{QStringLiteral("X"), QStringLiteral("24")}}},
+                         {QStringLiteral("MainTextMotto"), {{QStringLiteral("Size"), QStringLiteral("0")}}},
+                         {QStringLiteral("SongStaticBar"), {{QStringLiteral("Tex"), QStringLiteral("Bars")}}}});
   editing::changeColor(session, QStringLiteral("Gold"), QStringLiteral("255 190 60"));
-  toolwindow::showChanges(*form_.toolWindow());
-  settle();
-  QWidget& list = *QApplication::activeWindow();
-  save(list, QStringLiteral("list-changes"));
-  list.hide();
+  for (const auto& [keys, picture] : {std::pair{QStringLiteral("Ctrl+Shift+E"), QStringLiteral("list-changes")},
+                                      {QStringLiteral("Ctrl+Shift+K"), QStringLiteral("list-faults")},
+                                      {QStringLiteral("Ctrl+B"), QStringLiteral("side-by-side")}}) {
+    for (QShortcut* shortcut : form_.findChildren<QShortcut*>()) {
+      if (shortcut->key() == QKeySequence(keys)) Q_EMIT shortcut->activated();
+    }
+    settle();
+    QWidget& window = *QApplication::activeWindow();
+    const auto& list = *window.findChild<QListWidget*>();
+    // What is there last: rows, or the picture of the last one.
+    const bool hasPictures = list.viewMode() == QListView::IconMode;
+    while (list.count() == 0 || (hasPictures && list.item(list.count() - 1)->icon().isNull())) settle();
+    settle();
+    save(window, picture);
+    window.hide();
+  }
 }
 
 void Session::showCloseQuestion() {

@@ -1,0 +1,208 @@
+#include "mainwindows/side_by_side.h"
+
+#include <algorithm>
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "controls/combo_box.h"
+#include "controls/work_queue.h"
+#include "drawing/surface.h"
+#include "mainwindows/main_window.h"
+#include "mainwindows/theme_variants.h"
+#include "mainwindows/variant_drawing.h"
+#include "themefiles/module_state.h"
+#include "toolwindow/tool_window.h"
+
+namespace mainwindows {
+namespace {
+
+constexpr QSize Whole(drawing::Surface::Width, drawing::Surface::Height);
+constexpr QSize Small(240, 180);
+constexpr int PictureGap = 8;
+constexpr int LabelHeight = 20;
+
+QIcon smallPicture(const QImage& picture, qreal scale) {
+  QImage small = picture.scaled(Small * scale, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  small.setDevicePixelRatio(scale);
+  const QPixmap shown = QPixmap::fromImage(small);
+  QIcon icon(shown);
+  icon.addPixmap(shown, QIcon::Selected);  // the toolkit would tint it
+  return icon;
+}
+
+}  // namespace
+
+SideBySide::SideBySide(Form1& form)
+    : QWidget(form.toolWindow(), Qt::Tool),
+      form_(form),
+      pages_(new QStackedWidget(this)),
+      List(new QListWidget(this)),
+      area_(new QScrollArea(this)),
+      Large(new QLabel(this)),
+      prepared_(WholeThemePictures),
+      steps_(
+          form.queue(), [this] { return step(); }, QuietTime) {
+  setObjectName(QStringLiteral("SideBySide"));
+  setAttribute(Qt::WA_MacAlwaysShowToolWindow);
+  List->setObjectName(QStringLiteral("List"));
+  List->setAccessibleName(QStringLiteral("The screen in each skin and language"));
+  List->setViewMode(QListView::IconMode);
+  List->setMovement(QListView::Static);
+  List->setResizeMode(QListView::Adjust);
+  List->setIconSize(Small);
+  List->setGridSize(Small + QSize(PictureGap, PictureGap + LabelHeight));
+  Large->setObjectName(QStringLiteral("Large"));
+  area_->setWidget(Large);
+  area_->setFocusPolicy(Qt::StrongFocus);
+  area_->setFrameShape(QFrame::NoFrame);
+  pages_->addWidget(List);
+  pages_->addWidget(area_);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addWidget(pages_);
+  const QRect room = form.screen()->availableGeometry();
+  resize(Whole.boundedTo(room.size()));
+  move(room.topLeft());
+  connect(List, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { enlarge(List->row(item)); });
+  Large->installEventFilter(this);
+  form.toolWindow()->installEventFilter(this);
+}
+
+SideBySide::~SideBySide() = default;
+
+void SideBySide::open() {
+  former_.remember(*this);
+  QWidget::show();
+  activateWindow();
+  raise();
+  showSmall();
+  listVariants();
+  renew();
+}
+
+/// The skins with the open language first, then the other languages with the open skin.
+void SideBySide::listVariants() {
+  const OpenFiles files(form_.services.state.paths);
+  std::vector<Variant> variants;
+  for (const ReadFile& skin : files.skins) {
+    variants.push_back({skin.name + QStringLiteral(", ") + files.language.name, skin.path, files.language.path});
+  }
+  for (const ReadFile& language : files.languages) {
+    if (language.path == files.language.path) continue;
+    variants.push_back({files.skin.name + QStringLiteral(", ") + language.name, files.skin.path, language.path});
+  }
+  const auto same = [](const Variant& a, const Variant& b) {
+    return a.name == b.name && a.skinFile == b.skinFile && a.languageFile == b.languageFile;
+  };
+  if (std::equal(variants.begin(), variants.end(), variants_.begin(), variants_.end(), same)) return;
+  variants_ = std::move(variants);
+  pictures_.assign(variants_.size(), {});
+  List->clear();
+  for (const Variant& variant : variants_) {
+    List->addItem(variant.name);
+    List->item(List->count() - 1)->setSizeHint(List->gridSize());
+  }
+  List->setCurrentRow(0);
+}
+
+void SideBySide::renew() {
+  if (!isVisible() || form_.toolWindow() == nullptr) return;
+  setWindowTitle(form_.session().screen() + QStringLiteral(" in each skin and language"));
+  drawing_.reset();
+  waiting_.clear();
+  for (int variant = 0; variant < static_cast<int>(variants_.size()); ++variant) waiting_.push_back(variant);
+  // The one that is looked at comes first.
+  if (enlarged_ >= 0) std::swap(waiting_.front(), waiting_.at(static_cast<size_t>(enlarged_)));
+  steps_.begin();
+}
+
+bool SideBySide::step() {
+  if (waiting_.empty() || !form_.session().isOpen()) return false;
+  const int number = waiting_.front();
+  if (!drawing_) {
+    const Variant& variant = variants_.at(static_cast<size_t>(number));
+    themefiles::ModuleState state = form_.services.state;
+    state.paths.SkinFile = variant.skinFile;
+    state.paths.LanguageFile = variant.languageFile;
+    drawing_ =
+        std::make_unique<VariantDrawing>(std::move(state), form_.session().screen(), form_.schemes().Text(), prepared_);
+  } else if (!drawing_->step()) {
+    pictures_.at(static_cast<size_t>(number)) = drawing_->picture().copy();
+    drawing_.reset();
+    waiting_.pop_front();
+    show(number);
+  }
+  return true;
+}
+
+/// Brings a picture that was drawn into the window.
+void SideBySide::show(int variant) {
+  const QImage& picture = pictures_.at(static_cast<size_t>(variant));
+  List->item(variant)->setIcon(smallPicture(picture, devicePixelRatioF()));
+  if (variant == enlarged_) Large->setPixmap(QPixmap::fromImage(picture));
+}
+
+void SideBySide::enlarge(int variant) {
+  if (variant < 0 || pictures_.at(static_cast<size_t>(variant)).isNull()) return;
+  enlarged_ = variant;
+  Large->setPixmap(QPixmap::fromImage(pictures_.at(static_cast<size_t>(variant))));
+  Large->resize(Whole);
+  Large->setAccessibleName(variants_.at(static_cast<size_t>(variant)).name);
+  area_->setAccessibleName(Large->accessibleName());
+  pages_->setCurrentWidget(area_);
+  area_->setFocus();
+}
+
+void SideBySide::showSmall() {
+  enlarged_ = -1;
+  pages_->setCurrentWidget(List);
+  List->setFocus();
+}
+
+void SideBySide::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && !event->isAutoRepeat()) {
+    enlarged_ < 0 ? enlarge(List->currentRow()) : showSmall();
+  } else if (event->key() == Qt::Key_Escape) {
+    enlarged_ < 0 ? former_.giveBack(*this) : showSmall();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+void SideBySide::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  steps_.stop();
+  drawing_.reset();
+  waiting_.clear();
+}
+
+bool SideBySide::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == Large && event->type() == QEvent::MouseButtonPress) {
+    showSmall();
+    return true;
+  }
+  if (event->type() == QEvent::Hide && form_.toolWindow() != nullptr && !form_.toolWindow()->isVisible()) hide();
+  return QWidget::eventFilter(watched, event);
+}
+
+void showSideBySide(Form1& form) {
+  auto* window = form.toolWindow()->findChild<SideBySide*>(QString(), Qt::FindDirectChildrenOnly);
+  if (window == nullptr) window = new SideBySide(form);
+  window->open();
+}
+
+void renewSideBySide(const Form1& form) {
+  if (form.toolWindow() == nullptr) return;
+  auto* window = form.toolWindow()->findChild<SideBySide*>(QString(), Qt::FindDirectChildrenOnly);
+  if (window != nullptr) window->renew();
+}
+
+}  // namespace mainwindows

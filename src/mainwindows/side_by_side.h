@@ -1,0 +1,77 @@
+#pragma once
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+#include <QWidget>
+
+#include "controls/idle_steps.h"
+#include "renderer/prepared_pictures.h"
+#include "toolwindow/former_focus.h"
+
+class QLabel;
+class QListWidget;
+class QScrollArea;
+class QStackedWidget;
+
+namespace mainwindows {
+
+class Form1;
+class VariantDrawing;
+
+/// The present screen as each skin and each language of the theme would draw it, small, with the button and the scheme
+/// in force. A click or Enter shows one at its own size. The pictures are drawn when the program is idle, and anew
+/// after each drawing of the preview; until then the last ones stay. It goes with the tool window.
+class SideBySide : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SideBySide(Form1& form);
+  ~SideBySide() override;
+
+  /// Shows the window, with the focus on the pictures.
+  void open();
+  /// Has the pictures drawn anew, if the window is open.
+  void renew();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  /// A skin with the open language, or a language with the open skin.
+  struct Variant {
+    QString name;
+    QString skinFile;
+    QString languageFile;
+  };
+
+  void listVariants();
+  bool step();
+  void show(int variant);
+  void enlarge(int variant);
+  void showSmall();
+
+  Form1& form_;
+  toolwindow::FormerFocus former_;
+  QStackedWidget* pages_;
+  QListWidget* List;   ///< the small pictures
+  QScrollArea* area_;  ///< has the large one
+  QLabel* Large;
+  int enlarged_ = -1;
+  std::vector<Variant> variants_;
+  std::vector<QImage> pictures_;  ///< by variant
+  std::deque<int> waiting_;       ///< variants that are to be drawn
+  std::unique_ptr<VariantDrawing> drawing_;
+  renderer::PreparedPictures prepared_;
+  controls::IdleSteps steps_;
+};
+
+/// Shows the window of the open theme.
+void showSideBySide(Form1& form);
+/// The preview has been drawn.
+void renewSideBySide(const Form1& form);
+
+}  // namespace mainwindows

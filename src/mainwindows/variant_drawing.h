@@ -1,0 +1,46 @@
+#pragma once
+
+#include <optional>
+
+#include <QImage>
+
+#include "platform/status_line.h"
+#include "renderer/chosen_screen.h"
+#include "renderer/trial_values.h"
+#include "themefiles/module_state.h"
+
+namespace mainwindows {
+
+/// A screen as the preview would draw it with another skin or language, drawn in steps without a window. It writes and
+/// reports nothing.
+class VariantDrawing {
+ public:
+  /// `state` is that of the program, with the paths of the skin and the language in question, and the selected button.
+  VariantDrawing(themefiles::ModuleState state, QString screen, QString scheme, renderer::PreparedPictures& pictures);
+  Q_DISABLE_COPY_MOVE(VariantDrawing)
+
+  /// Does the next step; false when the picture is done.
+  bool step();
+  const QImage& picture() const { return chosen_->workspace.image(); }
+
+ private:
+  class NoStatus : public platform::StatusLine {
+   protected:
+    void showReport(const QString& /*text*/) override {}
+  };
+
+  void choose();
+  void draw(const themefiles::TagList& tags, void (*pass)(renderer::RenderContext&));
+
+  themefiles::ModuleState state_;
+  QString screen_, scheme_;
+  renderer::PreparedPictures& pictures_;
+  NoStatus status_;
+  renderer::TrialValues noValues_;  ///< a frame without values on trial reads each file only once
+  renderer::TrialFiles files_;
+  renderer::TrialFrame frame_{noValues_, files_};
+  std::optional<renderer::ChosenScreen> chosen_;
+  int next_ = 0;
+};
+
+}  // namespace mainwindows

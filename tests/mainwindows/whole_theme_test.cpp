@@ -1,0 +1,112 @@
+#include <QListWidget>
+
+#include "mainwindows/side_by_side.h"
+#include "support/real_input.h"
+#include "toolwindow/list_window.h"
+
+using namespace support;
+
+/// What is done over the whole theme when the program is idle: the check and the pictures side by side.
+class WholeThemeTest : public ProgramTest {
+  Q_OBJECT
+
+ private:
+  toolwindow::ListWindow& faults() const {
+    key(program->tools(), Qt::Key_K, Qt::ControlModifier | Qt::ShiftModifier);
+    return *program->tools().findChild<toolwindow::ListWindow*>(u"Faults"_s);
+  }
+  mainwindows::SideBySide& sideBySide() const {
+    key(program->tools(), Qt::Key_B, Qt::ControlModifier);
+    return *program->tools().findChild<mainwindows::SideBySide*>();
+  }
+  /// The rows of the list that have the word.
+  static QStringList rowsWith(const toolwindow::ListWindow& window, const QString& word) {
+    return entries(*window.List).filter(word);
+  }
+  QString place() const {
+    const toolwindow::Form2& tools = program->tools();
+    const QString row = tools.values().rowText(tools.values().selectedRow());
+    return QStringList{tools.screens().Text(), tools.objects().Text(), row}.join(u'/');
+  }
+  static QImage picture(const QWidget& window) {
+    return named<QLabel>(window, "Large")->pixmap().toImage().convertToFormat(QImage::Format_RGB32);
+  }
+
+ private Q_SLOTS:
+  void mendsFromTheList() {
+    program->edit(u"W"_s, u"0"_s);
+    const auto before = game->files();
+    toolwindow::ListWindow& window = faults();
+    const QString fault = u"error: Loading Screen, LoadingStaticA, W x H: '0 x 60' leaves no area"_s;
+    QTRY_COMPARE_WITH_TIMEOUT(rowsWith(window, u"no area"_s), QStringList(fault), 20000);
+    QCOMPARE(window.windowTitle(), u"What is wrong: %1"_s.arg(window.List->ListCount()));
+    program->screen(u"Main Screen"_s);
+    window.Line->SetText(u"area error"_s);
+    key(window, Qt::Key_Return);
+    QCOMPARE(place(), u"Loading Screen/LoadingStaticA/W"_s);
+    QCOMPARE(game->files(), before);
+    // Behind it comes the next one; the edit's own check follows by itself.
+    program->change(u"W"_s, u"100"_s);
+    window.open();
+    window.Line->SetText({});
+    QTRY_COMPARE_WITH_TIMEOUT(rowsWith(window, u"no area"_s), QStringList(), 20000);
+    QVERIFY(window.List->ListCount() > 0);
+    window.hide();
+    program->screen(u"Main Screen"_s);
+    key(program->form, Qt::Key_F8);
+    QVERIFY2(program->status().contains(u" of %1: "_s.arg(window.List->ListCount())), qPrintable(program->status()));
+  }
+
+  /// The first F8 waits for the check. Close and another Open end it, wherever it is.
+  void goesWithTheTheme() {
+    program->edit(u"W"_s, u"0"_s);
+    key(program->form, Qt::Key_F8);
+    QCOMPARE(program->status(), u"The theme is being checked"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(program->status().contains(u" of "_s), 20000);
+    program->dialogs.boxes.assign(9, platform::BoxAnswer::Yes);
+    for (const int wait : {350, 400, 600}) {
+      faults();
+      sideBySide();
+      QTest::qWait(wait);
+      program->click(3);
+      settle();
+      QVERIFY(program->form.toolWindow() == nullptr);
+      key(program->form, Qt::Key_F8);
+      program->open();
+      QVERIFY(faults().List->ListCount() == 0);
+    }
+    toolwindow::ListWindow& window = faults();
+    QTRY_VERIFY_WITH_TIMEOUT(window.List->ListCount() > 0, 20000);
+  }
+
+  /// Each picture is what the preview would draw; the open one as it stands now.
+  void drawsEachSkinAndLanguage() {
+    const auto before = game->files();
+    mainwindows::SideBySide& window = sideBySide();
+    auto& list = *named<QListWidget>(window, "List");
+    const auto names = [&] {
+      QStringList all;
+      for (int i = 0; i < list.count(); ++i) all += list.item(i)->text();
+      return all.join(u'|');
+    };
+    QCOMPARE(names(), u"One, English|Two, English|One, Deutsch"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(!list.item(2)->icon().isNull(), 20000);
+    key(window, Qt::Key_Return);
+    QCOMPARE(picture(window), program->picture().convertToFormat(QImage::Format_RGB32));
+    QCOMPARE(game->files(), before);
+    program->tag(u"LoadingStaticA"_s);
+    program->change(u"Y"_s, u"200"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(picture(window), program->picture().convertToFormat(QImage::Format_RGB32), 20000);
+    key(window, Qt::Key_Escape);
+    QVERIFY(window.isVisible() && list.hasFocus());
+    list.setCurrentRow(2);
+    key(window, Qt::Key_Return);
+    QVERIFY(picture(window) != program->picture().convertToFormat(QImage::Format_RGB32));
+    key(window, Qt::Key_Escape);
+    key(window, Qt::Key_Escape);
+    QVERIFY(!window.isVisible());
+  }
+};
+
+QTEST_MAIN(WholeThemeTest)
+#include "whole_theme_test.moc"
