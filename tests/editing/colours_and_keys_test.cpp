@@ -56,13 +56,6 @@ class ColoursAndKeysTest : public QObject {
     QVERIFY(theme.report().startsWith(u"Error while adding colors ["));
   }
 
-  void noRoomForAColour() {
-    OpenTheme theme(manyColors(99));
-    theme.state.ThemeColors[99] = {u"C100"_s, u"1 1 1"_s};
-    QVERIFY(!editing::addColor(theme.session, u"More"_s));
-    QCOMPARE(theme.report(), u"Error while adding colors []"_s);
-  }
-
   void colourGroups() {
     const OpenTheme theme("[Colors]|Red=200 40 40|P1Dark=1 1 1|");
     for (const auto& [name, group] :

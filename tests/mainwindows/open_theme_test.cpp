@@ -91,29 +91,6 @@ class OpenThemeTest : public QObject {
     }
   }
 
-  void anotherGameFolder() {
-    const GameFolder first;
-    const GameFolder second;
-    second.put(u"Themes/Beta.ini"_s, "[Theme]\r\n");
-    Program program(first);
-    program.form.config().setFolderOfThisRun(u"C:\\elsewhere\\"_s);
-    QCOMPARE(program.form.config().gameFolder(), u"C:\\elsewhere\\"_s);
-    program.dialogs.files = {second.path() + u"Vocora.exe"_s};
-    QStringList themes;
-    program.form.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&program.form));
-    const auto list = [&](Form3& dialog) {
-      themes = entries(dialog.themes());
-      dialog.reject();
-    };
-    program.openDialog(list,
-                       [&] { QTest::keyClick(&program.form, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier); });
-    settle();
-    QCOMPARE(program.dialogs.asked.size(), 1);
-    QCOMPARE(themes, (QStringList{u"Alpha"_s, u"Beta"_s}));
-    QCOMPARE(program.form.config().gameFolder(), second.path());
-  }
-
   void screenAnew() {
     const GameFolder game;
     Program program(game);
@@ -135,15 +112,6 @@ class OpenThemeTest : public QObject {
     program.screen(u"Loading Screen"_s);
     QVERIFY(pressed);
     QCOMPARE(program.state.SelectedButton, 1);
-  }
-
-  void folderThatCantBeKept() {
-    const GameFolder game;
-    Program program(game, false);
-    QFile::setPermissions(program.settings.filePath(u"config.ini"_s), QFile::ReadOwner);
-    program.dialogs.files = {game.path() + u"Vocora.exe"_s};
-    program.open();
-    QVERIFY(program.status().startsWith(u"The game folder can't be kept in config.ini ["_s));
   }
 
   void commandLine() {

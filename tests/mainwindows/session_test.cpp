@@ -64,6 +64,20 @@ class SessionTest : public ProgramTest {
     }
   }
 
+  /// From the top down, and from the top again on a screen that is chosen anew.
+  void picking() {
+    game->put(ThemeCopy, game->get(ThemeCopy).replace("W=100\r\nH=60", "W=700\r\nH=500"));
+    program->form.queue().draw();
+    for (const char* object : {"LoadingButtonLast", "LoadingStaticA", "LoadingButtonLast", "", "LoadingButtonLast"}) {
+      if (*object == 0) {
+        program->screen(u"Loading Screen"_s);
+        continue;
+      }
+      QTest::mouseClick(program->form.Workspace, Qt::LeftButton, {}, {340, 320});
+      QCOMPARE(program->tools().objects().Text(), QLatin1StringView(object));
+    }
+  }
+
   void theWindowsEndUnderTheOpenDialog() {
     program->edit();
     program->dialogs.boxes = {BoxAnswer::Yes};  // to Open, which asks about the changes
