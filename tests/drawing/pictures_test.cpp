@@ -86,6 +86,17 @@ class PicturesTest : public QObject {
     }
   }
 
+  /// A full table of codes, and the inks of print.
+  void picturesOfOtherPrograms() {
+    const auto decoded = [](const char* name) {
+      QFile file(QFINDTESTDATA("pictures") + u'/' + QLatin1StringView(name));
+      return file.open(QIODevice::ReadOnly) ? decodePicture(file.readAll()) : QImage();
+    };
+    QCOMPARE(decoded("noise.gif").size(), QSize(96, 96));
+    const QColor print = decoded("print.jpg").pixelColor(4, 4);
+    QVERIFY(qAbs(print.red() - 200) < 4 && qAbs(print.green() - 50) < 4 && qAbs(print.blue() - 30) < 4);
+  }
+
   void refused() {
     QVERIFY(LoadPicture(u"\\None.png"_s).isNull());
     QVERIFY(decodePicture("[Setup]\r\nEXEDirectory=\r\n").isNull());

@@ -160,9 +160,12 @@ class FilesUnixTest : public QObject {
     }
   }
 
-  /// Another program has taken the new temporary file for one that was left over.
+  /// Another program has taken the new temporary file for one that was left over, and has put its own there.
   void clearedAwayBeforeTheLock() {
-    beforeLock = [this] { QFile::remove(folder_->native(u"a.ini.unfinished"_s)); };
+    beforeLock = [this] {
+      QFile::remove(folder_->native(u"a.ini.unfinished"_s));
+      folder_->put(u"a.ini.unfinished"_s, "the other program's");
+    };
     writeFile(at(u"a.ini"_s), "text");
     QVERIFY(folder_->get(u"a.ini"_s) == "text" && !beforeLock);
   }
