@@ -5,6 +5,7 @@
 #include <QScopedValueRollback>
 
 #include "editing/reports.h"
+#include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 
@@ -16,17 +17,20 @@ void Session::begin(themefiles::TagList& objects) {
   objects_ = &objects;
   screen_.clear();
   listed_.reset();
+  row_ = -1;
   awaited_.reset();
 }
 
 void Session::end() {
   if (!isOpen()) return;
   objects_ = nullptr;
+  endGroup();
   state_.EditorShown = false;
   Q_EMIT ended();
 }
 
 void Session::listObjects(const QString& kept, const std::function<void()>& yield) {
+  endGroup();
   state_.ButtonListFilled = false;
   objects_->Clear();
   listed_.reset();
@@ -70,11 +74,27 @@ void Session::chooseObject(Chooser chooser) {
   if (chooser == Chooser::User) awaited_.reset();
   settle();
   if (!isOpen()) return;  // what came to its end may have served events
+  endGroup();
+  row_ = -1;
   const platform::ReportScope telling(status_);
   Q_EMIT valuesRead(themefiles::ReadTag(state_, object(), status_));
   Q_EMIT markWanted(chooser == Chooser::User ? MarkReason::Picked : MarkReason::Listed);
   Q_EMIT objectChosen();
   Q_EMIT differencesDue();
+}
+
+void Session::toggleMember(const QString& name) {
+  const auto isNamed = [&](const QString& member) { return platform::sameName(member, name); };
+  const QString chosen = object();
+  if (chosen.isEmpty() || isNamed(chosen) || rowOf(name) < 0) return;
+  if (members_.removeIf(isNamed) == 0) members_ += name;
+  Q_EMIT membersChanged();
+}
+
+void Session::endGroup() {
+  if (members_.isEmpty()) return;
+  members_.clear();
+  Q_EMIT membersChanged();
 }
 
 void Session::goTo(const themefiles::Hit& hit) {

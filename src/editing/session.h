@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
 #include "platform/status_line.h"
 #include "themefiles/module_state.h"
@@ -56,10 +57,21 @@ class Session : public QObject {
   QString object() const;
   /// The section that the object's values stand in; empty without an object.
   QString section() const;
+  /// The chosen row of the object's values; -1 without one.
+  int row() const { return row_; }
+  void chooseRow(int row) { row_ = row; }
   /// Chooses the object of a row as the user does.
   void pickObject(int row);
   /// An object has been chosen in the list: tells its values and has its mark placed. Draws nothing.
   void objectClicked(Chooser chooser);
+
+  /// Further objects beside the chosen one, in the order in which they were added. They are a group with it until the
+  /// next choice or listing.
+  const QStringList& members() const { return members_; }
+  /// Adds an object of the list to the group, or takes it out. The chosen one stays.
+  void toggleMember(const QString& name);
+  /// Leaves only the chosen object.
+  void endGroup();
 
   /// Goes to the screen, the object and the row of a search hit as clicks on them would. The present screen isn't
   /// chosen again. Object and row are picked when the screen's list is complete, unless the user has chosen something
@@ -80,6 +92,8 @@ class Session : public QObject {
   void valuesRead(const std::vector<themefiles::ValueRow>& rows);
   /// All about the object that has been chosen has been told.
   void objectChosen();
+  /// Other objects are in the group with it.
+  void membersChanged();
   /// A value of the chosen object has been written: into this row of its values, or into the first row of the key (-1).
   void valueWritten(int row, const QString& key, const QString& value);
   /// The theme has changes that Save would take over.
@@ -104,6 +118,8 @@ class Session : public QObject {
   themefiles::TagList* objects_ = nullptr;
   QString screen_;
   std::optional<QString> listed_;  ///< the screen whose list is complete
+  int row_ = -1;
+  QStringList members_;
   std::optional<themefiles::Hit> awaited_;
   bool picking_ = false;  ///< the list's Click isn't the user's
 };

@@ -108,6 +108,8 @@ void Form2::connectLists() {
   connect(List1, &controls::ListBox::Click, this, [this](Cause cause) {
     services.session.objectClicked(cause == Cause::User ? editing::Chooser::User : editing::Chooser::List);
   });
+  connect(ListView1, &controls::ListView::itemSelectionChanged, this,
+          [this] { services.session.chooseRow(ListView1->selectedRow()); });
   connect(ListView1, &controls::ListView::ItemClick, this, &Form2::ListView1_ItemClick);
   connect(ListView1, &controls::ListView::opened, this, &Form2::enterEditor);
   ListView1->setTakesDigits([this](int row) {
@@ -234,11 +236,10 @@ editing::EditedRow Form2::editedRow(int row) const {
 /// Update. The editor is the one of the selected row's key, whatever frame is open.
 void Form2::Command1_Click() {
   services.session.settle();
-  const bool done =
-      editing::commitRow(services.session, editedRow(ListView1->selectedRow()), [this](EditorFrame frame) {
-        proposing_ = frameOf(frame);
-        return proposing_->proposal();
-      });
+  const bool done = editing::commitRow(services.session, editedRow(services.session.row()), [this](EditorFrame frame) {
+    proposing_ = frameOf(frame);
+    return proposing_->proposal();
+  });
   proposing_ = nullptr;
   if (done) ListView1->setFocus();
 }
@@ -253,7 +254,7 @@ void Form2::showWritten(int row, const QString& key, const QString& value) {
   const int first = firstRowOf(*ListView1, key);
   if (first < 0) return;
   ListView1->setSubItem(first, value);
-  if (!services.session.state().EditorShown || ListView1->selectedRow() != first) return;
+  if (!services.session.state().EditorShown || services.session.row() != first) return;
   QWidget* const focus = focusWidget();
   ListView1_ItemClick(first);
   if (focus != nullptr) focus->setFocus();
@@ -263,7 +264,7 @@ void Form2::showWritten(int row, const QString& key, const QString& value) {
 /// the commit, so that a value that no editor can show is reported, too.
 void Form2::showPutBack(int row) {
   ListView1->setFocus();
-  if (services.session.state().EditorShown && ListView1->selectedRow() == row) ListView1_ItemClick(row);
+  if (services.session.state().EditorShown && services.session.row() == row) ListView1_ItemClick(row);
 }
 
 /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.

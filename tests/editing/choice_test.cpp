@@ -57,6 +57,38 @@ class ChoiceTest : public QObject {
     QVERIFY(theme.session.object().isEmpty() && theme.state.CursorRect.X == u"1");
   }
 
+  void several() {
+    OpenTheme theme(Theme);
+    theme.session.toggleMember(u"LoadingStaticA"_s);  // nothing is chosen to be beside
+    theme.screen(Loading);
+    theme.told();
+    for (const char* name : {"LoadingTextC", "loading", "Gone", "LoadingStaticA", "LoadingStaticB", "LoadingStaticA"}) {
+      theme.session.toggleMember(QLatin1StringView(name));
+    }
+    QCOMPARE(theme.told(),
+             u"{LoadingTextC}, {LoadingTextC LoadingStaticA}, "
+             "{LoadingTextC LoadingStaticA LoadingStaticB}, {LoadingTextC LoadingStaticB}"_s);
+    // What ends a group: a choice, when all that was done by hand has come to its end; a listing; Esc; the theme's end.
+    const auto add = [&] {
+      theme.session.toggleMember(u"LoadingStaticA"_s);
+      theme.told();
+    };
+    theme.session.chooseRow(0);
+    theme.session.pickObject(0);
+    QCOMPARE(theme.told(), u"settles, {}, Loading(), mark"_s);
+    QCOMPARE(theme.session.row(), -1);
+    add();
+    theme.screen(Loading, u"Loading"_s);
+    QVERIFY(theme.told().startsWith(u"{}, settles"));
+    add();
+    theme.session.endGroup();
+    theme.session.endGroup();
+    QCOMPARE(theme.told(), u"{}"_s);
+    add();
+    theme.session.end();
+    QCOMPARE(theme.told(), u"{}, ends"_s);
+  }
+
   void searchHits() {
     OpenTheme theme(Theme);
     theme.screen(Loading);

@@ -72,6 +72,8 @@ class OpenTheme {
     note(&Session::drawWanted, u"draws"_s);
     note(&Session::colorsChanged, u"colours"_s);
     note(&Session::ended, u"ends"_s);
+    QObject::connect(&session, &Session::membersChanged,
+                     [this] { steps += u'{' + session.members().join(u' ') + u'}'; });
     QObject::connect(&session, &Session::markWanted, [this](editing::MarkReason reason) {
       const QString reasons[] = {u"mark in the work"_s, u"mark"_s, u"mark again"_s};
       steps += reasons[static_cast<int>(reason)];
