@@ -52,7 +52,15 @@ void SampleScreen::choose() {
 
 renderer::RenderContext SampleScreen::context(renderer::PreparedPictures* store) {
   host_.percents.clear();
-  return {state_, tags_, surface_, host_, panel_, boxes_, graphics_, account_, store};
+  return {.state = state_,
+          .tags = tags_,
+          .Workspace = surface_,
+          .host = host_,
+          .status = panel_,
+          .dialogs = boxes_,
+          .graphics = graphics_,
+          .account = account_,
+          .pictures = store};
 }
 
 void SampleScreen::draw() {

@@ -1,6 +1,7 @@
 #include "renderer/highlight_cursor.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
@@ -8,23 +9,37 @@
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/mark_record.h"
 
 namespace renderer {
 namespace {
+
+using themefiles::MarkKey;
+using themefiles::MarkX;
+using themefiles::MarkY;
 
 /// The length of "TEXT1", which a child text's name has after its button's name.
 constexpr int ChildEnding = 5;
 constexpr double LineHeightFactor = 1.5;
 
-/// The number of a key's text. Throws Failure if it is infinite or below `least`.
-double measureOf(QStringView key, const QString& text, double least) {
-  const double number = platform::numberOf(text);
-  if (!std::isfinite(number) || number < least) throw platform::Failure(QStringLiteral("%1 is %2").arg(key, text));
-  return number;
-}
+constexpr double AnyPlace = std::numeric_limits<double>::lowest();
 
-double placeOf(QStringView key, const QString& text) {
-  return measureOf(key, text, std::numeric_limits<double>::lowest());
+/// What a frame takes of a key, and the least that it takes.
+struct Side {
+  const MarkKey& key;
+  void (CursorMark::*set)(double number);
+  double least;
+};
+constexpr auto Sides = std::to_array<Side>({{MarkX, &CursorMark::SetLeft, AnyPlace},
+                                            {MarkY, &CursorMark::SetTop, AnyPlace},
+                                            {themefiles::MarkW, &CursorMark::SetWidth, 0},
+                                            {themefiles::MarkH, &CursorMark::SetHeight, 0}});
+
+/// The number of a key's text. Throws Failure if it is infinite or below `least`.
+double measureOf(const MarkKey& key, const QString& text, double least = AnyPlace) {
+  const double number = platform::numberOf(text);
+  if (!std::isfinite(number) || number < least) throw platform::Failure(QStringLiteral("%1 is %2").arg(key.key, text));
+  return number;
 }
 
 void showMark(CursorMark& mark) {
@@ -33,10 +48,7 @@ void showMark(CursorMark& mark) {
 }
 
 void drawFrame(const themefiles::CursorRecord& record, CursorMark& mark) {
-  mark.SetLeft(placeOf(u"X", record.X));
-  mark.SetTop(placeOf(u"Y", record.Y));
-  mark.SetWidth(measureOf(u"W", record.W, 0));
-  mark.SetHeight(measureOf(u"H", record.H, 0));
+  for (const Side& side : Sides) (mark.*side.set)(measureOf(side.key, record.*side.key.measure, side.least));
   showMark(mark);
 }
 
@@ -50,15 +62,15 @@ void setMeasuringFont(const themefiles::CursorRecord& record, drawing::Surface& 
 void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                   CursorMark& mark) {
   const themefiles::CursorRecord& record = state.CursorRect;
-  double x = placeOf(u"X", record.X);
-  double y = placeOf(u"Y", record.Y);
+  double x = measureOf(MarkX, record.X);
+  double y = measureOf(MarkY, record.Y);
   const QString tag = tags.ListIndex() < 0 ? QString() : tags.List(tags.ListIndex());
   const QString upper = platform::upperCase(tag);
   if (upper.contains(u"BUTTON") || upper.contains(u"NAME")) {
     const QString parent = tag.chopped(std::min<qsizetype>(tag.size(), ChildEnding));
     const themefiles::SectionReader owner(parent, state.paths.ThemeFile);
-    x += placeOf(u"X", owner.Value(QStringLiteral("X")));
-    y += placeOf(u"Y", owner.Value(QStringLiteral("Y")));
+    x += measureOf(MarkX, owner.Value(MarkX.key.toString()));
+    y += measureOf(MarkY, owner.Value(MarkY.key.toString()));
   }
   setMeasuringFont(record, workspace);
   mark.SetWidth(0);
@@ -73,7 +85,8 @@ void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagLis
 void placeCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                  CursorMark& mark) {
   const themefiles::CursorRecord& record = state.CursorRect;
-  if (!record.X.isEmpty() && !record.Y.isEmpty() && !record.W.isEmpty() && !record.H.isEmpty()) {
+  const auto isGiven = [&](const Side& side) { return !(record.*side.key.measure).isEmpty(); };
+  if (std::all_of(Sides.begin(), Sides.end(), isGiven)) {
     drawFrame(record, mark);
   } else if (record.X.isEmpty() || record.Y.isEmpty() || !record.W.isEmpty() || !record.H.isEmpty()) {
     mark.setBlinking(false);

@@ -1,6 +1,5 @@
 #include "renderer/render_account.h"
 
-#include <algorithm>
 #include <array>
 
 #include <QStringView>
@@ -36,9 +35,7 @@ static_assert(platform::inOrder(Wordings, &Wording::reason, Reason::WithButton))
 constexpr QStringView KeyHead = u"%2: ";
 
 QStringView wordingOf(Reason reason) {
-  const auto* const row =
-      std::find_if(Wordings.begin(), Wordings.end(), [&](const Wording& wording) { return wording.reason == reason; });
-  return row == Wordings.end() ? QStringView() : row->text;
+  return Wordings.at(static_cast<size_t>(reason)).text;
 }
 
 QString filled(QStringView wording, const LeftOut& entry) {

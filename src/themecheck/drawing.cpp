@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 #include <QRect>
 
 #include "platform/code_page.h"
+#include "platform/row_order.h"
 #include "renderer/chosen_screen.h"
 #include "renderer/object_passes.h"
 #include "renderer/plain_host.h"
@@ -20,11 +22,10 @@ using renderer::Reason;
 
 constexpr QRect Shown(0, 0, drawing::Surface::Width, drawing::Surface::Height);
 
-/// What a reason makes in the check, and whether it depends on the skin. The texts of a button that is left out share
-/// its cause, which is told of the button.
+/// What a reason makes in the check, and whether it depends on the skin.
 struct ReasonRow {
   Reason reason;
-  Kind kind;
+  std::optional<Kind> kind;  ///< none for the texts of a button that is left out: they share its cause, told of it
   bool ofSkin = false;
 };
 
@@ -41,7 +42,10 @@ constexpr auto Reasons = std::to_array<ReasonRow>({
     {Reason::Hidden, Kind::Hidden},
     {Reason::NoSize, Kind::LeftOut},
     {Reason::NoPlace, Kind::NoPlace},
+    {Reason::HiddenWithButton, {}},
+    {Reason::WithButton, {}},
 });
+static_assert(platform::inOrder(Reasons, &ReasonRow::reason, Reason::WithButton));
 
 /// Chooses a screen, unless that was done before.
 const DrawingTools::Screen& chosenScreen(const CheckedTheme& theme, const QString& name, DrawingTools& tools) {
@@ -170,9 +174,17 @@ void ScreenCheck::draw(const QStringList& tags, Pass pass) {
   themefiles::SortedTags rows;
   for (const QString& tag : tags) rows.AddItem(tag);
   account_ = {};
-  renderer::RenderContext context{state_,    rows,     tools_.surface,   host_,  reports_, dialogs_,
-                                  graphics_, account_, &tools_.pictures, &frame_};
-  context.parts = parts_;
+  renderer::RenderContext context{.state = state_,
+                                  .tags = rows,
+                                  .Workspace = tools_.surface,
+                                  .host = host_,
+                                  .status = reports_,
+                                  .dialogs = dialogs_,
+                                  .graphics = graphics_,
+                                  .account = account_,
+                                  .pictures = &tools_.pictures,
+                                  .trial = &frame_,
+                                  .parts = parts_};
   pass(context);
   for (const renderer::LeftOut& entry : account_.missing) tellMissing(entry);
   for (const renderer::DrawnObject& object : account_.objects) {
@@ -181,15 +193,14 @@ void ScreenCheck::draw(const QStringList& tags, Pass pass) {
 }
 
 void ScreenCheck::tellMissing(const renderer::LeftOut& entry) {
-  const auto* const row =
-      std::find_if(Reasons.begin(), Reasons.end(), [&](const ReasonRow& known) { return known.reason == entry.why; });
+  const ReasonRow& row = Reasons.at(static_cast<size_t>(entry.why));
   const IniSection* section = theme_.theme().find(entry.section);
   // Without a section, its line is told.
-  if (row == Reasons.end() || !section || isToldElsewhere(entry, *section)) return;
+  if (!row.kind || !section || isToldElsewhere(entry, *section)) return;
   // What no name stands for has no cause elsewhere.
-  const Kind kind = row->kind == Kind::NameLeftOut && entry.value.isEmpty() ? Kind::LeftOut : row->kind;
+  const Kind kind = *row.kind == Kind::NameLeftOut && entry.value.isEmpty() ? Kind::LeftOut : *row.kind;
   Setting setting;
-  if (row->ofSkin) setting.skin = setting_.skin;
+  if (row.ofSkin) setting.skin = setting_.skin;
   if (entry.why == Reason::ColorRange) setting.scheme = setting_.scheme;
   findings_.add(kind, placeOf(entry), {renderer::reasonWithoutKey(entry)}, setting);
 }

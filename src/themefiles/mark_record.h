@@ -16,13 +16,12 @@ struct MarkKey {
   qint16 CursorRecord::*roundedSize = nullptr;  ///< or one that has its number
 };
 
-inline constexpr auto MarkKeys = std::to_array<MarkKey>({
-    {.key = u"X", .measure = &CursorRecord::X},
-    {.key = u"Y", .measure = &CursorRecord::Y},
-    {.key = u"W", .measure = &CursorRecord::W},
-    {.key = u"H", .measure = &CursorRecord::H},
-    {.key = u"SIZE", .roundedSize = &CursorRecord::Size},
-});
+inline constexpr MarkKey MarkX{.key = u"X", .measure = &CursorRecord::X};
+inline constexpr MarkKey MarkY{.key = u"Y", .measure = &CursorRecord::Y};
+inline constexpr MarkKey MarkW{.key = u"W", .measure = &CursorRecord::W};
+inline constexpr MarkKey MarkH{.key = u"H", .measure = &CursorRecord::H};
+inline constexpr MarkKey MarkSize{.key = u"SIZE", .roundedSize = &CursorRecord::Size};
+inline constexpr std::array MarkKeys{MarkX, MarkY, MarkW, MarkH, MarkSize};
 
 /// The row of a key; null for any other key.
 const MarkKey* markKeyOf(QStringView key);

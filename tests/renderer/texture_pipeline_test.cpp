@@ -66,8 +66,7 @@ class TexturePipelineTest : public QObject {
       stage.surface.wipe(Qt::white);
       FailingGraphics graphics;
       graphics.failing = failing;
-      RenderContext context{stage.state, stage.tags,    stage.surface, stage.host,
-                            stage.panel, stage.dialogs, graphics,      stage.account};
+      RenderContext context = stage.context(graphics);
       DrawTexture(context, {{stage.folder.path(u"Red.png"_s), {}}, {}, {3, 4, -1, 0}, u"0 0 0"_s});
       QCOMPARE(graphics.steps.join(u' '), steps);
       QCOMPARE(stage.dialogs.asked.join(u' '), message);

@@ -158,7 +158,15 @@ class WholeScreensTest : public QObject {
     drawing::Graphics graphics;
     renderer::NoDialogs dialogs(record);
     renderer::TrialFiles trials;
-    renderer::RenderContext context{state, tags, surface, record, record, dialogs, graphics, record.account, store};
+    renderer::RenderContext context{.state = state,
+                                    .tags = tags,
+                                    .Workspace = surface,
+                                    .host = record,
+                                    .status = record,
+                                    .dialogs = dialogs,
+                                    .graphics = graphics,
+                                    .account = record.account,
+                                    .pictures = store};
     for (const auto& look : {u"drawn:"_s, u"drawn with button 2:"_s}) {
       record.begin(look);
       renderer::DrawScreen(context);

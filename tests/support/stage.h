@@ -85,9 +85,18 @@ class Stage {
     folder.put(QStringLiteral("theme.ini"), folder.get(QStringLiteral("theme.ini")) + linesOf(sections));
   }
 
-  renderer::RenderContext context() {
-    return {state, tags, surface, host, panel, dialogs, graphics, account, pictures};
+  renderer::RenderContext context(drawing::Graphics& by) {
+    return {.state = state,
+            .tags = tags,
+            .Workspace = surface,
+            .host = host,
+            .status = panel,
+            .dialogs = dialogs,
+            .graphics = by,
+            .account = account,
+            .pictures = pictures};
   }
+  renderer::RenderContext context() { return context(graphics); }
   void draw() {
     renderer::RenderContext context = this->context();
     renderer::DrawScreen(context);
