@@ -15,6 +15,7 @@ struct Row : QListWidgetItem {
   const QString name;
   const QString order;  ///< see platform::nameLess
   QString whyBold;
+  QString whyJoined;
   QString tip;
   bool isGrey = false;
 };
@@ -24,9 +25,9 @@ Row* rowIn(const QListWidget& list, int index) {
   return static_cast<Row*>(list.item(index));
 }
 
-/// Tells screen readers what bold letters and tool tip tell.
+/// Tells screen readers what ground, bold letters and tool tip tell.
 void describe(Row& row) {
-  QStringList lines{row.whyBold, row.tip};
+  QStringList lines{row.whyJoined, row.whyBold, row.tip};
   lines.removeAll(QString());
   row.setData(Qt::AccessibleDescriptionRole, lines.join(u'\n'));
 }
@@ -118,6 +119,15 @@ void ListBox::setBold(int index, const QString& why) {
   describe(*row);
 }
 
+void ListBox::setJoined(int index, const QString& why) {
+  Row* row = rowIn(*this, index);
+  if (row == nullptr || row->whyJoined == why) return;
+  row->whyJoined = why;
+  const QBrush ground = palette().brush(QPalette::Inactive, QPalette::Highlight);
+  row->setData(Qt::BackgroundRole, why.isEmpty() ? QVariant() : QVariant(ground));
+  describe(*row);
+}
+
 void ListBox::setGrey(int index, bool grey) {
   Row* row = rowIn(*this, index);
   if (row == nullptr || row->isGrey == grey) return;
@@ -129,6 +139,14 @@ void ListBox::setGrey(int index, bool grey) {
 QString ListBox::told(int index) const {
   const QListWidgetItem* row = item(index);
   return row == nullptr ? QString() : row->data(Qt::AccessibleDescriptionRole).toString();
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+  if (!joins_ || ListIndex() < 0) return RowPicking::keyPressEvent(event);
+  if (event->key() == Qt::Key_Space) return Q_EMIT joinAsked(currentRow());
+  const auto row = event->modifiers() == Qt::ControlModifier ? rowBy(event->key(), currentRow()) : std::nullopt;
+  if (!row) return RowPicking::keyPressEvent(event);
+  selectionModel()->setCurrentIndex(model()->index(*row, 0), QItemSelectionModel::NoUpdate);
 }
 
 void ListBox::timerEvent(QTimerEvent* event) {

@@ -43,21 +43,29 @@ class ListBox : public RowPicking<QListWidget> {
   void setBold(int index, const QString& why);
   /// Shows the text of a row in grey letters unless the row is selected. Why that is so belongs in the tool tip.
   void setGrey(int index, bool grey);
+  /// Lets the user ask for rows beside the selected one: Ctrl with a key that moves leads the focus on, Space asks.
+  void setJoining(bool joins) { joins_ = joins; }
+  /// Shows a row as joined to the selected one; `why` tells who doesn't see that, an empty one takes it back.
+  void setJoined(int index, const QString& why);
   /// What bold letters and tool tip tell of a row, a line each: also its description for screen readers.
   QString told(int index) const;
 
  Q_SIGNALS:
   void Click(controls::Cause cause);
+  /// The user has asked for a row beside the selected one.
+  void joinAsked(int row);
   /// The user has asked for the menu of a row, by the mouse or the keyboard.
   void menuAsked(int row, const QPoint& place);
 
  protected:
   void picked(int row) override;
   void menuWanted(int row, const QPoint& place) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
 
  private:
   Order order_;
+  bool joins_ = false;
   FramePacer frame_{[this] { setUpdatesEnabled(true); }};  ///< shows the added rows, once a frame
 };
 

@@ -46,6 +46,13 @@ class RowPicking : public View {
                                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   }
 
+  /// The row that a key leads to from another one; none if the key doesn't move.
+  std::optional<int> rowBy(int key, int from) const {
+    const int rows = this->model()->rowCount();
+    const int page = rows == 0 ? 1 : std::max(1, this->viewport()->height() / std::max(1, this->sizeHintForRow(0)));
+    return rowForKey(key, from, rows, page);
+  }
+
   void mousePressEvent(QMouseEvent* event) override {
     if (picksSeveral()) return View::mousePressEvent(event);
     const int row = rowAt(*event);
@@ -82,9 +89,7 @@ class RowPicking : public View {
   void keyPressEvent(QKeyEvent* event) override {
     if (picksSeveral()) return View::keyPressEvent(event);
     const int before = selectedRow();
-    const int rows = this->model()->rowCount();
-    const int page = rows == 0 ? 1 : std::max(1, this->viewport()->height() / std::max(1, this->sizeHintForRow(0)));
-    if (const std::optional<int> row = rowForKey(event->key(), before, rows, page)) {
+    if (const std::optional<int> row = rowBy(event->key(), before)) {
       select(*row);
     } else {
       // The focus alone makes the first row the current one: a search by letters would begin behind it.

@@ -8,6 +8,7 @@ namespace mainwindows {
 
 class Form1;
 class Loupe;
+class PreviewHand;
 class ScreenRefresh;
 class ThemeReview;
 
@@ -26,7 +27,18 @@ enum class Command {
   Changes,
   Faults,
   NextFault,
-  SideBySide
+  SideBySide,
+  Guides,
+  AlignLeftEdges,
+  AlignCentresAcross,
+  AlignRightEdges,
+  AlignUpperEdges,
+  AlignCentresDown,
+  AlignLowerEdges,
+  SpaceAcross,
+  SpaceDown,
+  SameWidths,
+  SameHeights
 };
 
 /// What a command works on.
@@ -35,6 +47,7 @@ struct CommandTargets {
   ScreenRefresh& refresh;
   mainwindows::Loupe& loupe;
   ThemeReview& review;
+  PreviewHand& hand;
 };
 
 /// All that the program knows of a command.

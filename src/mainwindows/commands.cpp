@@ -3,9 +3,11 @@
 #include <array>
 
 #include "controls/work_queue.h"
+#include "mainwindows/arranging.h"
 #include "mainwindows/fault_list.h"
 #include "mainwindows/loupe.h"
 #include "mainwindows/main_window.h"
+#include "mainwindows/preview_hand.h"
 #include "mainwindows/screen_refresh.h"
 #include "mainwindows/side_by_side.h"
 #include "mainwindows/theme_review.h"
@@ -31,6 +33,11 @@ void goToOtherWindow(Form1& form) {
 void refresh(const Targets& to) {
   to.refresh.refresh();
   to.review.renew();
+}
+
+template <Arrangement How>
+void arrangeGroup(const Targets& to) {
+  arrange(to.form, How);
 }
 
 constexpr bool AtOnce = true;
@@ -62,8 +69,19 @@ constexpr auto Rows = std::to_array<CommandRow>({
      u"Next that is wrong"},
     {Command::SideBySide, [](const Targets& to) { showSideBySide(to.form); }, AtOnce, NeedsTheme, u"Ctrl+B",
      u"Side by side..."},
+    {Command::Guides, [](const Targets& to) { to.hand.switchGuides(); }, AtOnce, Always, u"", u"Meet guides"},
+    {Command::AlignLeftEdges, arrangeGroup<Arrangement::LeftEdges>, Waits, NeedsTheme, u"", u"Align left edges"},
+    {Command::AlignCentresAcross, arrangeGroup<Arrangement::CentresAcross>, Waits, NeedsTheme, u"", u"Align centres across"},
+    {Command::AlignRightEdges, arrangeGroup<Arrangement::RightEdges>, Waits, NeedsTheme, u"", u"Align right edges"},
+    {Command::AlignUpperEdges, arrangeGroup<Arrangement::UpperEdges>, Waits, NeedsTheme, u"", u"Align upper edges"},
+    {Command::AlignCentresDown, arrangeGroup<Arrangement::CentresDown>, Waits, NeedsTheme, u"", u"Align centres down"},
+    {Command::AlignLowerEdges, arrangeGroup<Arrangement::LowerEdges>, Waits, NeedsTheme, u"", u"Align lower edges"},
+    {Command::SpaceAcross, arrangeGroup<Arrangement::GapsAcross>, Waits, NeedsTheme, u"", u"Equal gaps across"},
+    {Command::SpaceDown, arrangeGroup<Arrangement::GapsDown>, Waits, NeedsTheme, u"", u"Equal gaps down"},
+    {Command::SameWidths, arrangeGroup<Arrangement::Widths>, Waits, NeedsTheme, u"", u"Same width"},
+    {Command::SameHeights, arrangeGroup<Arrangement::Heights>, Waits, NeedsTheme, u"", u"Same height"},
 });
-static_assert(platform::inOrder(Rows, &CommandRow::command, Command::SideBySide));
+static_assert(platform::inOrder(Rows, &CommandRow::command, Command::SameHeights));
 
 /// A theme without changes closes without a question: the running work is given up for it.
 bool endsWork(const Form1& form, Command command) {

@@ -9,6 +9,7 @@
 #include "controls/combo_box.h"
 #include "controls/work_queue.h"
 #include "mainwindows/commands.h"
+#include "mainwindows/group_frames.h"
 #include "mainwindows/preview_menu.h"
 #include "mainwindows/side_by_side.h"
 #include "mainwindows/theme_session.h"
@@ -38,6 +39,7 @@ void Editor::connectQueue() {
       [this] {
         hand_.giveUpDrag();
         refresh_.draw();
+        showGroupFrames(form, form.account());
         watch_.drawn();
         renewSideBySide(form);
       },
@@ -49,6 +51,11 @@ void Editor::connectSession() {
   const Session& session = form.session();
   QObject::connect(&session, &Session::settling, &form, [this] { hand_.settle(); });
   QObject::connect(&session, &Session::objectChosen, &form, [this] { hand_.showChosen(); });
+  QObject::connect(&session, &Session::membersChanged, &form, [this] {
+    if (form.session().isOpen()) hand_.settle();
+    showGroupFrames(form, form.account());
+    groupReport_.tell();
+  });
   QObject::connect(&session, &Session::changed, &form, [this] { form.enableCommand(Command::Save, true); });
   QObject::connect(&review_, &ThemeReview::goalChosen, &form, [this](const themefiles::Hit& goal) {
     if (form.toolWindow() != nullptr) form.toolWindow()->goTo(goal);
@@ -98,7 +105,7 @@ void Editor::connectPreview() {
                            platform::roundToInt16(std::floor(Y)).value_or(0));
   });
   QObject::connect(form.Workspace, &Workspace::menuAsked, &form, [this](const QPoint& place) {
-    showPreviewMenu(form, place, [this](const CommandRow& row) { run(row); });
+    showPreviewMenu(form, place, hand_.guidesOn(), [this](const CommandRow& row) { run(row); });
   });
 }
 

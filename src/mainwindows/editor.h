@@ -1,6 +1,7 @@
 #pragma once
 
 #include "mainwindows/command.h"
+#include "mainwindows/group_frames.h"
 #include "mainwindows/loupe.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/picture_watch.h"
@@ -29,11 +30,12 @@ class Editor {
   void end();
 
   PreviewHand hand_{form};
+  GroupReport groupReport_{form};
   PictureWatch watch_{form, hand_};
   ScreenRefresh refresh_{form};
   Loupe& loupe_ = *new Loupe(form);  ///< its parent is the main window
   ThemeReview review_{form.session(), form.queue()};
-  const CommandTargets targets_{form, refresh_, loupe_, review_};
+  const CommandTargets targets_{form, refresh_, loupe_, review_, hand_};
 };
 
 }  // namespace mainwindows

@@ -4,7 +4,6 @@
 #include <array>
 #include <chrono>
 #include <cmath>
-#include <utility>
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -14,11 +13,9 @@
 
 #include "controls/list_box.h"
 #include "controls/work_queue.h"
-#include "editing/commit.h"
 #include "mainwindows/main_window.h"
+#include "mainwindows/selected_object.h"
 #include "mainwindows/workspace.h"
-#include "platform/failure.h"
-#include "themefiles/module_state.h"
 #include "toolwindow/tool_window.h"
 
 namespace mainwindows {
@@ -46,12 +43,20 @@ QPoint pixelOf(const QMouseEvent& event) {
   return {static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))};
 }
 
+/// Whether the selected object, or another one of its group, lies under a pixel.
+bool isHeld(const Form1& form, const QPoint& pixel) {
+  const QStringList& members = form.session().members();
+  return selectedAt(form, pixel).under || std::any_of(members.begin(), members.end(), [&](const QString& member) {
+           return drawnPlace(form, member).value_or(QRect()).contains(pixel);
+         });
+}
+
 }  // namespace
 
 PreviewHand::PreviewHand(Form1& form)
     : QObject(&form),
       form_(form),
-      trial_(form),
+      held_(form),
       scroll_(*form.previewArea,
               [this](const QPoint& by) {
                 mouse_ += by;
@@ -81,7 +86,7 @@ void PreviewHand::settle() {
 void PreviewHand::giveUpDrag() {
   naming_.stop();
   if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
-  trial_.forget();
+  held_.forgetPicture();
   if (stage_ == Stage::Keys) pacer_.request();
 }
 
@@ -90,7 +95,7 @@ void PreviewHand::forgetPlaces() {
 }
 
 void PreviewHand::showChosen() {
-  if (!picks_) scroll_.show(seenPlace(form_));
+  if (!picks_) scroll_.show(seenPlace(form_, form_.session().object()));
   if (!outside_.isEmpty()) form_.withdraw(outside_);
   outside_ = outsideText(form_);
   if (!outside_.isEmpty()) form_.note(outside_);
@@ -99,8 +104,7 @@ void PreviewHand::showChosen() {
 void PreviewHand::letGo() {
   end();
   naming_.stop();
-  telling_.reset();
-  trial_.forget();
+  held_.letGo();
   heldKeys_.clear();
   form_.Workspace->unsetCursor();
   form_.Workspace->setFocusPolicy(Qt::NoFocus);
@@ -160,9 +164,19 @@ bool PreviewHand::press(const QMouseEvent& event) {
   if (event.button() != Qt::LeftButton || !form_.session().isOpen()) return false;
   pressed_ = mouse_ = pixelOf(event);
   const bool free = event.buttons() == Qt::LeftButton && !form_.queue().busy();
-  picksAtRelease_ = free && selectedAt(form_, pressed_).under;
-  if ((picksAtRelease_ || pick(pressed_)) && free) stage_ = Stage::Pressed;
+  joins_ = event.modifiers() == Qt::ShiftModifier;
+  onHeld_ = free && isHeld(form_, pressed_);
+  if ((joins_ || onHeld_ || pick(pressed_)) && free) stage_ = Stage::Pressed;
   return true;
+}
+
+/// Adds the topmost object at the place to the group of the selected one, or takes it out.
+void PreviewHand::join(const QPoint& place) {
+  const editing::Session& session = form_.session();
+  if (session.object().isEmpty()) return static_cast<void>(pick(place));
+  form_.Workspace->setFocus();
+  const int row = PreviewPicking::topmostBut(session.object(), place, form_.account(), session.objects());
+  if (row >= 0) form_.session().toggleMember(session.objects().List(row));
 }
 
 /// Chooses the object at the place; false where there is none.
@@ -184,18 +198,34 @@ void PreviewHand::move(const QMouseEvent& event) {
   const QPoint way = mouse_ - pressed_;
   if (stage_ == Stage::Pressed) {
     if (std::max(std::abs(way.x()), std::abs(way.y())) < DragDistance) return;
-    const SelectedObject selected = selectedAt(form_, pressed_);
-    if (!take(selected, editing::gripAt(selected.place, pressed_), true)) return;
-    stage_ = Stage::Dragging;
+    if (!startDrag()) return;
   }
   drag(event.modifiers());
   scroll_.dragAt(mouse_);
 }
 
+/// Takes what lies under the press; false if that can't be moved.
+bool PreviewHand::startDrag() {
+  stage_ = Stage::None;
+  if (joins_ && !onHeld_ && !pick(pressed_)) return false;
+  const editing::Grip grip = editing::gripAt(selectedAt(form_, pressed_).place, pressed_);
+  if (!held_.take(grip, true)) return false;
+  guides_ = editing::Guides(held_.guides(), held_.startPlace(), grip);
+  stage_ = Stage::Dragging;
+  return true;
+}
+
 void PreviewHand::drag(Qt::KeyboardModifiers keys) {
   const QPoint way = mouse_ - pressed_;
   keys_ = keys;
-  now_ = editing::moved(start_, grip_, (keys & Qt::ControlModifier) != 0 ? editing::straight(way) : way);
+  const bool oneWay = (keys & Qt::ControlModifier) != 0;
+  editing::MetMovement movement{oneWay ? editing::straight(way) : way, {}};
+  if (guidesOn_ && (keys & Qt::ShiftModifier) == 0) {
+    const QPoint by = movement.by;
+    movement = guides_.met(by, !oneWay || by.x() != 0, !oneWay || by.y() != 0);
+  }
+  met_ = movement.lines;
+  held_.moveFromStart(movement.by);
   pacer_.request();
 }
 
@@ -203,7 +233,11 @@ bool PreviewHand::release(const QMouseEvent& event) {
   if (event.button() != Qt::LeftButton) return false;
   if (stage_ == Stage::Pressed) {
     stage_ = Stage::None;
-    if (picksAtRelease_) pick(pressed_);
+    if (joins_) {
+      join(pressed_);
+    } else if (onHeld_) {
+      pick(pressed_);
+    }
   } else if (stage_ == Stage::Dragging) {
     move(QMouseEvent(QEvent::MouseMove, event.position(), event.globalPosition(), Qt::NoButton, Qt::LeftButton,
                      event.modifiers()));
@@ -217,31 +251,21 @@ bool PreviewHand::release(const QMouseEvent& event) {
 void PreviewHand::hover(const QPoint& place, bool free) {
   if (!free) return;
   if (stage_ == Stage::None) naming_.pointerAt(place);
-  const SelectedObject selected = form_.queue().busy() ? SelectedObject() : selectedAt(form_, place);
+  const bool onHeld = !form_.queue().busy() && isHeld(form_, place);
   const Qt::CursorShape shape =
-      selected.under ? editing::shapeOf(editing::gripAt(selected.place, place)) : Qt::ArrowCursor;
+      onHeld ? editing::shapeOf(editing::gripAt(selectedAt(form_, place).place, place)) : Qt::ArrowCursor;
   if (form_.Workspace->cursor().shape() != shape) form_.Workspace->setCursor(shape);
-}
-
-/// Begins to move or size an object. Returns false if it can't be; `tells` has the reason reported.
-bool PreviewHand::take(const SelectedObject& selected, Grip grip, bool tells) {
-  stage_ = Stage::None;
-  if (selected.section.isEmpty()) return false;
-  section_ = selected.section;
-  grip_ = grip;
-  telling_ = std::make_unique<platform::ReportScope>(form_);
-  const auto read = [&] { now_ = start_ = editing::readHeld(form_.session(), section_, grip, selected.heightKey); };
-  const bool done = tells ? platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), read)
-                          : platform::guardedSilently(read);
-  if (!done) telling_.reset();
-  return done;
 }
 
 bool PreviewHand::keyPress(const QKeyEvent& event) {
   naming_.stop();
   if (event.key() == Qt::Key_Escape) {
-    if (stage_ == Stage::None) return false;
-    giveUp();
+    if (stage_ == Stage::None && form_.session().members().isEmpty()) return false;
+    if (stage_ == Stage::None) {
+      form_.session().endGroup();
+    } else {
+      giveUp();
+    }
     return true;
   }
   const auto* const found =
@@ -254,15 +278,15 @@ bool PreviewHand::keyPress(const QKeyEvent& event) {
 void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
   const Grip grip = (event.modifiers() & Qt::ControlModifier) != 0 ? SizingKeys : Grip();
   // Committing serves events: a key among them may have begun anew, or the mouse taken over.
-  while (stage_ == Stage::Keys && grip != grip_) settle();
+  while (stage_ == Stage::Keys && grip != held_.grip()) settle();
   const bool free = stage_ == Stage::None || stage_ == Stage::Keys;
   if (!free || !form_.session().isOpen()) return;
   // What height a button is drawn with is known when it has been drawn.
   if (stage_ == Stage::None && grip.sizes() && form_.queue().busy()) return;
-  if (stage_ == Stage::None && !take(selectedAt(form_, {}), grip, !event.isAutoRepeat())) return;
+  if (stage_ == Stage::None && !held_.take(grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
   heldKeys_.insert(event.key());
-  now_ = editing::moved(now_, grip_, (event.modifiers() & Qt::ShiftModifier) != 0 ? step * LongStep : step);
+  held_.moveOn((event.modifiers() & Qt::ShiftModifier) != 0 ? step * LongStep : step);
   rest_.start();
   pacer_.request();
 }
@@ -277,36 +301,35 @@ void PreviewHand::keyRelease(const QKeyEvent& event) {
 void PreviewHand::showFrame() {
   if (stage_ != Stage::Dragging && stage_ != Stage::Keys) return;
   if (form_.queue().busy()) return pacer_.request();
-  trial_.show({section_, editing::changedValues(start_, now_)});
+  held_.showFrame();
+  const bool drags = stage_ == Stage::Dragging;
   const QRect mark = form_.Workspace->markRect();
-  form_.Workspace->setHandLabel(editing::labelOf(now_, grip_), stage_ == Stage::Dragging ? mouse_ : mark.bottomRight());
-  if (stage_ == Stage::Keys) Q_EMIT form_.Workspace->watched(grip_.sizes() ? mark.bottomRight() : mark.topLeft());
+  QStringList names;
+  for (const editing::GuideLine& line : met_) names += line.name;
+  names.removeDuplicates();
+  const QString at = names.isEmpty() ? QString() : QStringLiteral(", at ") + names.join(QStringLiteral(" and "));
+  form_.Workspace->setGuideLines(met_);
+  form_.Workspace->setHandLabel(held_.label() + at, drags ? mouse_ : mark.bottomRight());
+  if (!drags) Q_EMIT form_.Workspace->watched(held_.grip().sizes() ? mark.bottomRight() : mark.topLeft());
 }
 
 void PreviewHand::end() {
   stage_ = Stage::None;
+  met_.clear();
   scroll_.stop();
+  form_.Workspace->setGuideLines({});
   form_.Workspace->setHandLabel({});
 }
 
 void PreviewHand::commit() {
   end();
-  const auto values = editing::changedValues(start_, now_);
-  const auto telling = std::exchange(telling_, nullptr);
-  if (values.empty()) return trial_.putBack();
-  // Another program may have taken the section away meanwhile.
-  const bool isThere = platform::guarded(form_, QStringLiteral("%1 stays as it is").arg(section_), [&] {
-    editing::readHeld(form_.session(), section_, grip_, start_.heightKey);
-  });
-  const QString section = section_;
-  if (!isThere || !editing::commitValues(form_.session(), {{section, values}})) trial_.putBack();
+  held_.commit();
 }
 
 void PreviewHand::giveUp() {
   const bool shown = stage_ != Stage::Pressed;
   end();
-  telling_.reset();
-  if (shown) trial_.putBack();
+  if (shown) held_.giveUp();
 }
 
 }  // namespace mainwindows

@@ -1,20 +1,15 @@
 #pragma once
 
-#include <memory>
-
 #include <QMouseEvent>
 #include <QObject>
 #include <QSet>
 #include <QTimer>
 
 #include "controls/frame_pacer.h"
-#include "editing/held_numbers.h"
+#include "mainwindows/held_objects.h"
 #include "mainwindows/preview_naming.h"
 #include "mainwindows/preview_picking.h"
 #include "mainwindows/preview_scroll.h"
-#include "mainwindows/selected_object.h"
-#include "mainwindows/trial_picture.h"
-#include "platform/status_line.h"
 
 class QKeyEvent;
 
@@ -22,8 +17,8 @@ namespace mainwindows {
 
 class Form1;
 
-/// Picking, moving and sizing on the preview, by the mouse and by the arrow keys. While the user drags, picture and
-/// mark follow with values on trial. The end of the drag commits them as one edit.
+/// Picking, grouping, moving and sizing on the preview, by the mouse and by the arrow keys. While the user drags, what
+/// is held meets the guides that it comes near, and the picture follows. The end of the drag commits it as one edit.
 class PreviewHand : public QObject {
  public:
   explicit PreviewHand(Form1& form);
@@ -39,6 +34,9 @@ class PreviewHand : public QObject {
   /// Another object has been chosen: scrolls to it, unless it was clicked on the preview. Tells where it is if that is
   /// out of sight.
   void showChosen();
+  /// Whether a drag meets guides; they are on at the program's start.
+  bool guidesOn() const { return guidesOn_; }
+  void switchGuides() { guidesOn_ = !guidesOn_; }
   /// Ends everything without a commit or a drawing. To be called when the theme is closed.
   void letGo();
 
@@ -63,7 +61,8 @@ class PreviewHand : public QObject {
   void drag(Qt::KeyboardModifiers keys);
   void hover(const QPoint& place, bool free);
   bool pick(const QPoint& place);
-  bool take(const SelectedObject& selected, editing::Grip grip, bool tells);
+  void join(const QPoint& place);
+  bool startDrag();
   void showFrame();
   void end();
   void commit();
@@ -74,18 +73,17 @@ class PreviewHand : public QObject {
   PreviewNaming naming_{form_, picking_};
   QString outside_;  ///< what is reported of a place out of sight
   Stage stage_ = Stage::None;
-  bool picksAtRelease_ = false;
+  bool onHeld_ = false;     ///< the button went down on the selected object or on another one of its group
+  bool joins_ = false;      ///< without a movement the press adds an object to the group or takes it out
   bool endedDrag_ = false;  ///< the last press gave a drag up, and stands for nothing else
   bool picks_ = false;      ///< an object is being chosen by a click
   QPoint pressed_;          ///< where the button went down
   QPoint mouse_;            ///< where it is now
   Qt::KeyboardModifiers keys_;
-  QString section_;
-  editing::Grip grip_;
-  editing::HeldNumbers start_;
-  editing::HeldNumbers now_;
-  std::unique_ptr<platform::ReportScope> telling_;  ///< keeps what is noted while an object is in hand for its commit
-  TrialPicture trial_;
+  HeldObjects held_;
+  bool guidesOn_ = true;
+  editing::Guides guides_;
+  std::vector<editing::GuideLine> met_;
   PreviewScroll scroll_;
   QSet<int> heldKeys_;
   QTimer rest_{this};  ///< runs out when the keys have rested

@@ -46,6 +46,14 @@ int PreviewPicking::rowAt(const QPoint& place, const renderer::RenderAccount& ac
   return row;
 }
 
+int PreviewPicking::topmostBut(const QString& name, const QPoint& place, const renderer::RenderAccount& account,
+                               const themefiles::TagList& tags) {
+  for (const int row : rowsAt(place, account, tags)) {
+    if (tags.List(row) != name) return row;
+  }
+  return -1;
+}
+
 PreviewPicking::Next PreviewPicking::nextAt(const QPoint& place, const renderer::RenderAccount& account,
                                             const themefiles::TagList& tags) const {
   PreviewPicking tried = *this;

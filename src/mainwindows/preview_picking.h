@@ -23,6 +23,10 @@ class PreviewPicking {
   /// What rowAt would give next at the place.
   Next nextAt(const QPoint& place, const renderer::RenderAccount& account, const themefiles::TagList& tags) const;
 
+  /// Row of the topmost object at a place that isn't the one named; -1 without one.
+  static int topmostBut(const QString& name, const QPoint& place, const renderer::RenderAccount& account,
+                        const themefiles::TagList& tags);
+
  private:
   QPoint place_;
   std::vector<int> rows_;  ///< of the objects at the place, topmost first

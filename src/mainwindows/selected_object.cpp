@@ -22,37 +22,60 @@ const renderer::DrawnObject* drawnObject(const Form1& form, const QString& name)
 
 }  // namespace
 
+SelectedObject objectNamed(const Form1& form, const QString& name) {
+  SelectedObject object{platform::trimBlanks(name), {}, {}, false};
+  if (object.section.isEmpty()) return object;
+  if (const renderer::DrawnObject* const drawn = drawnObject(form, name)) {
+    object.heightKey = drawn->heightKey;
+    if (!drawn->heightKey.isEmpty()) object.place = drawn->place;
+    return object;
+  }
+  // The selected object can be sized by its mark if it isn't drawn, unless that is a line under a text.
+  const bool isSelected = name == form.session().object();
+  const themefiles::CursorRecord& record = form.services.state.CursorRect;
+  const bool hasSize = isSelected && !(record.W.isEmpty() && record.H.isEmpty());
+  if (platform::upperCase(name).contains(u"TEXT") && !hasSize) return object;
+  object.heightKey = QStringLiteral("H");
+  if (isSelected && form.Workspace->markVisible()) object.place = form.Workspace->markRect();
+  return object;
+}
+
 SelectedObject selectedAt(const Form1& form, const QPoint& pixel) {
   const QString name = form.session().object();
-  SelectedObject selected{platform::trimBlanks(name), {}, {}, false};
+  SelectedObject selected = objectNamed(form, name);
   if (selected.section.isEmpty()) return selected;
-  const bool marked = form.Workspace->markVisible();
-  const QRect mark = form.Workspace->markRect();
-  selected.under = marked && mark.contains(pixel);
-  if (const renderer::DrawnObject* const drawn = drawnObject(form, name)) {
-    selected.heightKey = drawn->heightKey;
-    if (!drawn->heightKey.isEmpty()) selected.place = drawn->place;
-    selected.under = selected.under || drawn->place.contains(pixel);
-    return selected;
-  }
-  // An object that isn't drawn can be sized by its mark, unless that is a line under a text.
-  const themefiles::CursorRecord& record = form.services.state.CursorRect;
-  const bool isText = platform::upperCase(name).contains(u"TEXT");
-  if (isText && record.W.isEmpty() && record.H.isEmpty()) return selected;
-  selected.heightKey = QStringLiteral("H");
-  if (marked) selected.place = mark;
+  const auto drawn = drawnPlace(form, name);
+  selected.under = (form.Workspace->markVisible() && form.Workspace->markRect().contains(pixel)) ||
+                   (drawn && drawn->contains(pixel));
   return selected;
 }
 
-QRect seenPlace(const Form1& form) {
-  const renderer::DrawnObject* const drawn = drawnObject(form, form.session().object());
-  if (drawn != nullptr && !drawn->place.isEmpty()) return drawn->place;
-  return form.Workspace->markVisible() ? form.Workspace->markRect() : QRect();
+std::optional<QRect> drawnPlace(const Form1& form, const QString& name) {
+  const renderer::DrawnObject* const drawn = drawnObject(form, name);
+  return drawn == nullptr ? std::nullopt : std::optional(drawn->place);
+}
+
+QRect seenPlace(const Form1& form, const QString& name) {
+  const auto drawn = drawnPlace(form, name);
+  if (drawn && !drawn->isEmpty()) return *drawn;
+  const bool isMarked = name == form.session().object() && form.Workspace->markVisible();
+  return isMarked ? form.Workspace->markRect() : QRect();
+}
+
+QStringList groupOf(const editing::Session& session) {
+  return QStringList{session.object()} + session.members();
+}
+
+bool goesAlong(const Form1& form, const QString& name, const QStringList& with) {
+  const renderer::DrawnObject* const drawn = drawnObject(form, name);
+  return drawn != nullptr && std::any_of(with.begin(), with.end(),
+                                         [&](const QString& other) { return platform::sameName(other, drawn->owner); });
 }
 
 QString outsideText(const Form1& form) {
-  const bool isSeen = drawnObject(form, form.session().object()) != nullptr || form.Workspace->markVisible();
-  if (!isSeen || seenPlace(form).intersects(form.Workspace->rect())) return {};
+  const QString name = form.session().object();
+  const bool isSeen = drawnPlace(form, name) || form.Workspace->markVisible();
+  if (!isSeen || seenPlace(form, name).intersects(form.Workspace->rect())) return {};
   const themefiles::CursorRecord& record = form.services.state.CursorRect;
   return QStringLiteral("%1 lies outside the picture, at X = %2, Y = %3")
       .arg(form.session().section(), record.X, record.Y);

@@ -1,14 +1,19 @@
 #pragma once
 
+#include <optional>
+
 #include <QPoint>
 #include <QRect>
 #include <QString>
+#include <QStringList>
+
+#include "editing/session.h"
 
 namespace mainwindows {
 
 class Form1;
 
-/// The selected object as the preview has it.
+/// An object as the preview has it.
 struct SelectedObject {
   QString section;     ///< empty without one
   QString heightKey;   ///< empty for a text
@@ -20,8 +25,20 @@ struct SelectedObject {
 /// theme open.
 SelectedObject selectedAt(const Form1& form, const QPoint& pixel);
 
-/// Where the selected object is seen; empty if neither it nor its mark is. Only with a theme open.
-QRect seenPlace(const Form1& form);
+/// An object of the screen, by its name.
+SelectedObject objectNamed(const Form1& form, const QString& name);
+
+/// Where the last render drew an object; none if it didn't.
+std::optional<QRect> drawnPlace(const Form1& form, const QString& name);
+
+/// Where an object is seen, or the selected one's mark; empty if it isn't. Only with a theme open.
+QRect seenPlace(const Form1& form, const QString& name);
+
+/// The selected object, and behind it the others of its group.
+QStringList groupOf(const editing::Session& session);
+
+/// Whether an object is the text of a button among these, and goes along with that.
+bool goesAlong(const Form1& form, const QString& name, const QStringList& with);
 
 /// Tells where the selected object is if it lies wholly outside the picture; else empty. Only with a theme open.
 QString outsideText(const Form1& form);

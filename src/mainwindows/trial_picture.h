@@ -15,8 +15,8 @@ class TrialPicture {
  public:
   explicit TrialPicture(Form1& form) : form_(form) {}
 
-  /// Draws a frame with the values; the mark follows. Works only while no drawing runs.
-  void show(const renderer::TrialValues& values);
+  /// Draws a frame with the values of some objects; mark and frames follow. Works only while no drawing runs.
+  void show(const std::vector<renderer::TrialValues>& objects);
   /// Puts picture and mark back as they were before the first frame.
   void putBack();
   /// To be called when something else paints the preview: there is nothing to put back.

@@ -20,6 +20,7 @@ constexpr int BlinkInterval = 100;        // ms
 constexpr quint32 MarkBorder = 0xFFFFFF;  // until the first blink
 constexpr quint32 MarkDark = 0x0000C0;    // fill colour
 constexpr quint32 MarkLight = 0x8080FF;   // back colour
+constexpr quint32 GuideColor = 0xFFFF00;
 constexpr quint32 LabelColor = 0xE1FFFF;
 constexpr QSize LabelMargin(10, 4);
 constexpr QPoint LabelOffset(12, 20);
@@ -28,6 +29,11 @@ constexpr double FarAway = 1 << 20;  // pixels: beyond any screen, and safe to r
 /// A half goes to the even neighbour, as everywhere in a theme.
 int pixel(double length) {
   return static_cast<int>(std::nearbyint(std::clamp(length, -FarAway, FarAway)));
+}
+
+QRect placeOf(const editing::GuideLine& line) {
+  if (line.upright) return {QPoint(line.at, line.from), QPoint(line.at, line.to)};
+  return {QPoint(line.from, line.at), QPoint(line.to, line.at)};
 }
 
 class AccessiblePreview : public QAccessibleWidget {
@@ -129,6 +135,22 @@ void Workspace::setHandLabel(const QString& text, const QPoint& place) {
   if (accessibleDescription() != text) setAccessibleDescription(text);
 }
 
+void Workspace::setGroupFrames(const std::vector<QRect>& frames) {
+  if (frames == groupFrames_) return;
+  for (const auto& shown : {groupFrames_, frames}) {
+    for (const QRect& frame : shown) update(frame);
+  }
+  groupFrames_ = frames;
+}
+
+void Workspace::setGuideLines(const std::vector<editing::GuideLine>& lines) {
+  if (lines == guideLines_) return;
+  for (const auto& shown : {guideLines_, lines}) {
+    for (const editing::GuideLine& line : shown) update(placeOf(line).adjusted(-1, -1, 1, 1));
+  }
+  guideLines_ = lines;
+}
+
 void Workspace::updateMark() {
   update(markRect().adjusted(-1, -1, 1, 1));
 }
@@ -139,7 +161,9 @@ void Workspace::paintEvent(QPaintEvent* event) {
   painter.setRenderHint(QPainter::SmoothPixmapTransform, scale != std::floor(scale));
   painter.setClipRegion(event->region());
   painter.drawImage(QRect(0, 0, drawing::Surface::Width, drawing::Surface::Height), surface_.image());
+  paintGroup(painter);
   if (markVisible_) paintMark(painter);
+  paintLines(painter);
   if (!handLabel_.isEmpty()) paintLabel(painter);
   if (hasFocus()) paintFocus(painter);
 }
@@ -151,6 +175,27 @@ void Workspace::paintMark(QPainter& painter) const {
                          {outer.left(), outer.top(), 1, outer.height()},
                          {outer.right(), outer.top(), 1, outer.height()}};
   for (const QRect& edge : edges) painter.fillRect(edge, borderColor_);
+}
+
+/// Dashes of two colours show on any picture.
+void Workspace::paintGroup(QPainter& painter) const {
+  for (const QRect& frame : groupFrames_) {
+    for (const QPen& pen : {QPen(Qt::white), QPen(Qt::black, 1, Qt::DashLine)}) {
+      painter.setPen(pen);
+      painter.drawRect(frame.adjusted(0, 0, -1, -1));
+    }
+  }
+}
+
+/// At any scale a line is one pixel of the screen wide.
+void Workspace::paintLines(QPainter& painter) const {
+  QPen pen(drawing::colorOf(GuideColor), 1);
+  pen.setCosmetic(true);
+  painter.setPen(pen);
+  for (const editing::GuideLine& line : guideLines_) {
+    const QRect place = placeOf(line);
+    painter.drawLine(place.topLeft(), place.bottomRight());
+  }
 }
 
 void Workspace::paintLabel(QPainter& painter) const {

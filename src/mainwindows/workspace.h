@@ -1,10 +1,13 @@
 #pragma once
 
+#include <vector>
+
 #include <QTimer>
 #include <QWidget>
 
 #include "controls/frame_pacer.h"
 #include "drawing/surface.h"
+#include "editing/guides.h"
 #include "renderer/highlight_cursor.h"
 
 namespace mainwindows {
@@ -32,6 +35,10 @@ class Workspace : public QWidget, public renderer::CursorMark {
 
   /// Shows a label beside a pixel of the surface and tells its text to assistive programs. An empty text hides it.
   void setHandLabel(const QString& text, const QPoint& place = {});
+
+  /// Shows thin still frames round places, and thin lines where something is met.
+  void setGroupFrames(const std::vector<QRect>& frames);
+  void setGuideLines(const std::vector<editing::GuideLine>& lines);
 
   /// The mark as it stands, in pixels of the surface.
   const QRectF& mark() const { return mark_; }
@@ -61,6 +68,8 @@ class Workspace : public QWidget, public renderer::CursorMark {
   void updateMark();
   QRect labelRect(const QPoint& place) const;
   void paintMark(QPainter& painter) const;
+  void paintGroup(QPainter& painter) const;
+  void paintLines(QPainter& painter) const;
   void paintLabel(QPainter& painter) const;
   void paintFocus(QPainter& painter) const;
 
@@ -71,6 +80,8 @@ class Workspace : public QWidget, public renderer::CursorMark {
   bool markVisible_ = false;
   bool blinkPhase_ = false;
   QColor borderColor_;
+  std::vector<QRect> groupFrames_;
+  std::vector<editing::GuideLine> guideLines_;
   QString handLabel_;
   QRect label_;  ///< where that stands
 };

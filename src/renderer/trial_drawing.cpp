@@ -26,14 +26,14 @@ class PenKeeper {
 
 }  // namespace
 
-RenderAccount drawTrial(const RenderContext& context, const TrialValues& values, TrialFiles& files) {
+RenderAccount drawTrial(const RenderContext& context, const std::vector<TrialValues>& objects, TrialFiles& files) {
   const PenKeeper pen(context.Workspace);
   if (context.account.startPen) context.Workspace.setPen(*context.account.startPen);
   themefiles::ModuleState state = context.state;
   PlainHost host(context.host.screenName(), context.host.schemeName());
   QuietStatus status;
   NoDialogs dialogs(status);
-  TrialFrame frame(values, files);
+  TrialFrame frame(objects, files);
   RenderAccount account;
   RenderContext trial{.state = state,
                       .tags = context.tags,

@@ -8,9 +8,9 @@
 /// leaves pen, account, state and controls as found.
 namespace renderer {
 
-/// Draws the screen as DrawScreen would if the files held the values, from the pen that the last render started from
-/// (the context's account knows it). Looks at each file once. Gives an account of its own.
-RenderAccount drawTrial(const RenderContext& context, const TrialValues& values, TrialFiles& files);
+/// Draws the screen as DrawScreen would if the files held the values of the objects, from the pen that the last render
+/// started from (the context's account knows it). Looks at each file once. Gives an account of its own.
+RenderAccount drawTrial(const RenderContext& context, const std::vector<TrialValues>& objects, TrialFiles& files);
 
 /// Places the mark as DrawCursor would if the record of the selected object held the values.
 void drawTrialCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,

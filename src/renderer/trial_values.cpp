@@ -44,6 +44,13 @@ const themefiles::SectionReader& TrialFiles::section(const QString& name, const 
   return all.readers.try_emplace(name, all.bytes, lines.isNull() ? std::nullopt : std::optional(lines)).first->second;
 }
 
+const TrialValues* TrialFrame::valuesOf(const QString& section) const {
+  for (const TrialValues& object : objects_) {
+    if (object.areOf(section)) return &object;
+  }
+  return nullptr;
+}
+
 std::optional<platform::FileIdentity> TrialFrame::pictureAt(const QString& path) {
   const auto seen = pictures_.constFind(path);
   return seen != pictures_.constEnd() ? *seen : *pictures_.insert(path, platform::identityOf(path));

@@ -54,13 +54,16 @@ class TrialFiles {
   std::map<QString, std::unique_ptr<SeenFile>> files_;
 };
 
-/// What one frame of a trial sees: the values, and each file as it was when the frame first looked into it.
+/// What one frame of a trial sees: the values of all objects on trial, and each file as it was when the frame first
+/// looked into it.
 class TrialFrame {
  public:
-  TrialFrame(const TrialValues& values, TrialFiles& files) : values_(values), files_(files) { files_.beginFrame(); }
+  TrialFrame(const std::vector<TrialValues>& objects, TrialFiles& files) : objects_(objects), files_(files) {
+    files_.beginFrame();
+  }
 
   /// The values on trial in a section; null without any.
-  const TrialValues* valuesOf(const QString& section) const { return values_.areOf(section) ? &values_ : nullptr; }
+  const TrialValues* valuesOf(const QString& section) const;
   const themefiles::SectionReader& section(const QString& name, const QString& file) const {
     return files_.section(name, file);
   }
@@ -68,7 +71,7 @@ class TrialFrame {
   std::optional<platform::FileIdentity> pictureAt(const QString& path);
 
  private:
-  const TrialValues& values_;
+  const std::vector<TrialValues>& objects_;
   TrialFiles& files_;
   QHash<QString, std::optional<platform::FileIdentity>> pictures_;
 };

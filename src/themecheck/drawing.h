@@ -22,7 +22,7 @@ struct DrawingTools {
   };
 
   renderer::PreparedPictures pictures;
-  renderer::TrialValues noValues = {};  ///< a frame without values on trial reads each file only once
+  std::vector<renderer::TrialValues> noValues = {};  ///< a frame without values on trial reads each file only once
   renderer::TrialFiles files = {};
   drawing::Surface surface = {};
   std::map<QString, Screen> screens = {};  ///< those that were chosen already

@@ -111,6 +111,9 @@ void Form2::connectLists() {
   connect(ListView1, &controls::ListView::itemSelectionChanged, this,
           [this] { services.session.chooseRow(ListView1->selectedRow()); });
   connect(ListView1, &controls::ListView::ItemClick, this, &Form2::ListView1_ItemClick);
+  List1->setJoining(true);
+  connect(List1, &controls::ListBox::joinAsked, this,
+          [this](int row) { services.session.toggleMember(List1->List(row)); });
   connect(ListView1, &controls::ListView::opened, this, &Form2::enterEditor);
   ListView1->setTakesDigits([this](int row) {
     const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
@@ -126,6 +129,7 @@ void Form2::connectSession() {
   connect(&session, &Session::ended, this, [this] { services.session.disconnect(this); });
   connect(&session, &Session::valuesRead, this, &Form2::showValues);
   connect(&session, &Session::valueWritten, this, &Form2::showWritten);
+  connect(&session, &Session::membersChanged, this, &Form2::showMembers);
   connect(&session, &Session::rowWanted, this, &Form2::chooseRow);
   connect(&session, &Session::screenWanted, this, [this](const QString& name) {
     platform::guarded(services.session.status(), editing::FindStep.toString(), [&] { Combo1->SetText(name); });
@@ -182,6 +186,15 @@ void Form2::showValues(const std::vector<themefiles::ValueRow>& rows) {
   ListView1->clearRows();
   for (const themefiles::ValueRow& row : rows) ListView1->addRow(row.Item, row.Value);
   if (services.session.state().EditorShown) closeEditorFrame();
+}
+
+/// Shows in the list which objects are together with the chosen one.
+void Form2::showMembers() {
+  const QStringList& members = services.session.members();
+  for (int row = 0; row < List1->ListCount(); ++row) {
+    const bool joined = members.contains(List1->List(row));
+    List1->setJoined(row, joined ? QStringLiteral("together with ") + services.session.object() : QString());
+  }
 }
 
 /// Goes on to the row of a search hit.
@@ -332,6 +345,7 @@ void Form2::closeEvent(QCloseEvent* event) {
 }
 
 void Form2::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) return services.session.endGroup();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   QWidget* const focus = focusWidget();
   if (!enter || !inEditorArea(focus)) return QWidget::keyPressEvent(event);

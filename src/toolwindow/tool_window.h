@@ -74,6 +74,7 @@ class Form2 : public QWidget {
   editing::EditedRow editedRow(int row) const;
   void showValues(const std::vector<themefiles::ValueRow>& rows);
   void showWritten(int row, const QString& key, const QString& value);
+  void showMembers();
   void chooseRow(const themefiles::Hit& hit);
   void showPutBack(int row);
 

@@ -115,6 +115,9 @@ void Monkey::type(QLineEdit& box) {
 /// Arrow keys on the preview, or a drag; mostly with an object that is drawn.
 void Monkey::gesture() {
   if (!chance_.one(4)) click(*form().Workspace, {chance_.below(800), chance_.below(600)});
+  for (int more = chance_.one(3) ? chance_.below(4) : 0; more > 0; --more) {
+    QTest::mouseClick(form().Workspace, Qt::LeftButton, Qt::ShiftModifier, {chance_.below(800), chance_.below(600)});
+  }
   if (form().toolWindow() == nullptr) return;
   if (chance_.one(2)) {
     arrowKeys();

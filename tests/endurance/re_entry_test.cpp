@@ -80,6 +80,15 @@ bool arrowKeys(Program& program) {
   return true;
 }
 
+/// Two objects that are moved together.
+bool moveGroup(Program& program) {
+  if (program.tools().objects().ListIndex() < 0 || !pickTag(program, "LoadingTextFree")) return false;
+  program.form.session().toggleMember(u"LoadingStaticA"_s);
+  QTest::keyClick(program.form.Workspace, Qt::Key_Right);
+  program.form.session().settle();
+  return true;
+}
+
 /// Digits typed on the row of a number, and Enter.
 bool typeInGrid(Program& program) {
   if (!pickTag(program, Static)) return false;
@@ -119,6 +128,7 @@ constexpr Wish Wishes[] = {
     {"a press on the preview", pressOn},
     {"arrow keys", arrowKeys},
     {"typed in the grid", typeInGrid},
+    {"a group", moveGroup},
     {"Update", update},
     {"Update, another screen", [](Program& p) { return update(p) && screen(p); }},
     {"another screen and back", [](Program& p) { return screen(p) && screen(p, u"Loading Screen"_s); }},

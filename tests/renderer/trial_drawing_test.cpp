@@ -56,7 +56,7 @@ class TrialDrawingTest : public QObject {
     const QByteArray theme = stage.folder.get(u"theme.ini"_s);
     Mark inTrial, real;
     renderer::TrialFiles files;
-    const renderer::RenderAccount account = renderer::drawTrial(stage.context(), tried, files);
+    const renderer::RenderAccount account = renderer::drawTrial(stage.context(), {tried}, files);
     renderer::drawTrialCursor(stage.state, stage.tags, stage.surface, inTrial, tried);
     const QImage trial = stage.surface.image();
     QVERIFY(trial != before && stage.folder.get(u"theme.ini"_s) == theme);

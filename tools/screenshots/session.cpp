@@ -37,6 +37,8 @@ struct Row {
 };
 
 constexpr QStringView DraggedTag = u"MainStaticEqualizer";
+constexpr QStringView GroupTag = u"MainButtonCollectionTools";
+constexpr QStringView MemberTag = u"MainButtonExit";
 constexpr Row ColorRow{u"MainStaticIcon", u"Color"};
 constexpr Row ThemeColorRow{u"MainTextTitle", u"Color"};
 constexpr Row TextRow{u"MainTextTitle", u"Text"};
@@ -131,7 +133,7 @@ void Session::run() {
   save(form_, QStringLiteral("main-window"));
   controls_.showToolBarStates();
   controls_.showProgress([this] { form_.queue().draw(); });
-  showDrag();
+  showDrags();
   showLoupe();
   showEditors();
   saveScreen(QStringLiteral("editor"));
@@ -155,21 +157,30 @@ void Session::showScreen(const QString& name) {
   settle();
 }
 
+void Session::showDrags() {
+  constexpr QPoint Equalizer(200, 500);
+  constexpr QPoint Tools(470, 500);
+  controls::ListBox& objects = form_.toolWindow()->objects();
+  objects.SetListIndex(rowOf(objects, DraggedTag.toString()));
+  showDrag(Equalizer, {226, 18}, QStringLiteral("drag"));
+  objects.SetListIndex(rowOf(objects, GroupTag.toString()));
+  form_.session().toggleMember(MemberTag.toString());
+  showDrag(Tools, {-14, 40}, QStringLiteral("group"));
+  form_.session().endGroup();
+}
+
 /// A drag in flight; it is given up then.
-void Session::showDrag() {
-  constexpr QPoint From(200, 500);
-  constexpr QPoint By(226, 18);
-  form_.toolWindow()->objects().SetListIndex(rowOf(form_.toolWindow()->objects(), DraggedTag.toString()));
+void Session::showDrag(const QPoint& from, const QPoint& by, const QString& name) {
   mainwindows::Workspace& preview = *form_.Workspace;
   const auto send = [&preview](QEvent::Type type, const QPoint& place) {
     const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     QMouseEvent event(type, place, preview.mapToGlobal(place), button, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&preview, &event);
   };
-  send(QEvent::MouseButtonPress, From);
-  send(QEvent::MouseMove, From + By);
+  send(QEvent::MouseButtonPress, from);
+  send(QEvent::MouseMove, from + by);
   settle();
-  save(form_, QStringLiteral("drag"));
+  save(form_, name);
   form_.session().settle();
 }
 

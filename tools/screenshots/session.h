@@ -19,7 +19,8 @@ class Session {
  private:
   void openTheme();
   void showScreen(const QString& name);
-  void showDrag();
+  void showDrags();
+  void showDrag(const QPoint& from, const QPoint& by, const QString& name);
   void showLoupe();
   void showEditors();
   void showColorBoxes();

@@ -1,0 +1,145 @@
+#include "mainwindows/arranging.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "editing/commit.h"
+#include "editing/held_numbers.h"
+#include "mainwindows/main_window.h"
+#include "mainwindows/selected_object.h"
+#include "platform/failure.h"
+
+namespace mainwindows {
+namespace {
+
+constexpr editing::Grip SizingGrip{1, 1};
+constexpr int FewestForGaps = 3;
+
+/// One of the group: where it is drawn, and what it is to become.
+struct Arranged {
+  SelectedObject object;
+  QRect place;
+  QRect wanted;
+};
+
+/// A place along one axis.
+struct Side {
+  int first;
+  int length;
+};
+Side sideOf(const QRect& place, bool across) {
+  return across ? Side{place.left(), place.width()} : Side{place.top(), place.height()};
+}
+void moveSide(QRect& place, bool across, int first) {
+  if (across) {
+    place.moveLeft(first);
+  } else {
+    place.moveTop(first);
+  }
+}
+
+/// How an end or the centre of `place` is brought to that of `first`: 0 the lower end, 1 the centre, 2 the upper end.
+void align(const QRect& first, Arranged& one, bool across, int part) {
+  const Side to = sideOf(first, across);
+  const Side own = sideOf(one.place, across);
+  moveSide(one.wanted, across, to.first + (to.length - own.length) * part / 2);
+}
+
+void spread(std::vector<Arranged>& group, bool across) {
+  if (group.size() < FewestForGaps) throw platform::Failure(QStringLiteral("equal gaps need three objects"));
+  std::vector<Arranged*> inOrder;
+  for (Arranged& one : group) inOrder.push_back(&one);
+  std::stable_sort(inOrder.begin(), inOrder.end(), [&](const Arranged* a, const Arranged* b) {
+    const Side one = sideOf(a->place, across);
+    const Side other = sideOf(b->place, across);
+    return 2 * one.first + one.length < 2 * other.first + other.length;
+  });
+  const Side lowest = sideOf(inOrder.front()->place, across);
+  const Side highest = sideOf(inOrder.back()->place, across);
+  int room = highest.first - lowest.first - lowest.length;
+  for (size_t i = 1; i + 1 < inOrder.size(); ++i) room -= sideOf(inOrder[i]->place, across).length;
+  const double gap = static_cast<double>(room) / static_cast<double>(inOrder.size() - 1);
+  double next = lowest.first + lowest.length + gap;
+  for (size_t i = 1; i + 1 < inOrder.size(); ++i) {
+    moveSide(inOrder[i]->wanted, across, static_cast<int>(std::floor(next + 0.5)));
+    next += sideOf(inOrder[i]->place, across).length + gap;
+  }
+}
+
+void wish(std::vector<Arranged>& group, Arrangement arrangement) {
+  if (arrangement == Arrangement::GapsAcross || arrangement == Arrangement::GapsDown) {
+    return spread(group, arrangement == Arrangement::GapsAcross);
+  }
+  const QRect first = group.front().place;
+  for (Arranged& one : group) {
+    switch (arrangement) {
+      case Arrangement::LeftEdges:
+      case Arrangement::CentresAcross:
+      case Arrangement::RightEdges:
+        align(first, one, true, static_cast<int>(arrangement) - static_cast<int>(Arrangement::LeftEdges));
+        break;
+      case Arrangement::UpperEdges:
+      case Arrangement::CentresDown:
+      case Arrangement::LowerEdges:
+        align(first, one, false, static_cast<int>(arrangement) - static_cast<int>(Arrangement::UpperEdges));
+        break;
+      case Arrangement::Widths:
+        one.wanted.setWidth(first.width());
+        break;
+      default:
+        one.wanted.setHeight(first.height());
+        break;
+    }
+  }
+}
+
+/// The keys of an object that change on the way to its wanted place.
+std::vector<std::pair<QString, QString>> valuesOf(const editing::Session& session, const Arranged& one) {
+  const bool sizes = one.wanted.size() != one.place.size();
+  if (!sizes && one.wanted == one.place) return {};
+  const editing::Grip grip = sizes ? SizingGrip : editing::Grip();
+  const auto start = editing::readHeld(session, one.object.section, grip, one.object.heightKey);
+  const QSize more = one.wanted.size() - one.place.size();
+  const QPoint by = sizes ? QPoint(more.width(), more.height()) : one.wanted.topLeft() - one.place.topLeft();
+  return editing::changedValues(start, editing::moved(start, grip, by));
+}
+
+}  // namespace
+
+void arrange(Form1& form, Arrangement arrangement) {
+  editing::Session& session = form.session();
+  if (!session.isOpen() || session.members().isEmpty()) return;
+  const platform::ReportScope telling(form);
+  const auto stays = [&](const QString& section, const QString& cause) {
+    form.note(platform::reportText(QStringLiteral("%1 stays as it is").arg(section), cause));
+  };
+  const QStringList names = groupOf(session);
+  std::vector<Arranged> group;
+  for (const QString& name : names) {
+    const SelectedObject object = objectNamed(form, name);
+    const auto place = drawnPlace(form, name);
+    if (place) {
+      group.push_back({object, *place, *place});
+    } else if (name == names.front()) {
+      return stays(object.section, QStringLiteral("it isn't drawn"));
+    } else {
+      stays(object.section, QStringLiteral("it isn't drawn"));
+    }
+  }
+  std::vector<renderer::TrialValues> changes;
+  platform::guarded(form, QStringLiteral("All stays as it is"), [&] {
+    wish(group, arrangement);
+    for (const Arranged& one : group) {
+      // The texts of a button that moves come along.
+      if (one.object.section != names.front() && goesAlong(form, one.object.section, names.mid(1))) continue;
+      std::vector<std::pair<QString, QString>> values;
+      const auto cause = platform::failureIn([&] { values = valuesOf(session, one); });
+      if (cause) stays(one.object.section, *cause);
+      if (!values.empty()) changes.push_back({one.object.section, values});
+    }
+  });
+  if (!changes.empty()) editing::commitValues(session, changes);
+}
+
+}  // namespace mainwindows

@@ -1,0 +1,113 @@
+#include "mainwindows/held_objects.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "editing/commit.h"
+#include "mainwindows/main_window.h"
+#include "mainwindows/selected_object.h"
+#include "mainwindows/workspace.h"
+#include "platform/code_page.h"
+#include "platform/numbers.h"
+
+namespace mainwindows {
+
+bool HeldObjects::take(editing::Grip grip, bool tells) {
+  const editing::Session& session = form_.session();
+  held_.clear();
+  grip_ = grip;
+  names_ = groupOf(session);
+  telling_ = std::make_unique<platform::ReportScope>(form_);
+  for (const QString& name : grip.sizes() ? names_.mid(0, 1) : names_) {
+    if (goesAlong(form_, name, names_)) continue;
+    const SelectedObject object = objectNamed(form_, name);
+    Held held{name, object.section, object.heightKey, {}, {}};
+    const auto cause =
+        platform::failureIn([&] { held.start = editing::readHeld(session, held.section, grip, held.heightKey); });
+    held.now = held.start;
+    if (!cause) {
+      held_.push_back(held);
+    } else if (tells) {
+      stays(held.section, *cause);
+    }
+  }
+  if (held_.empty()) telling_.reset();
+  return !held_.empty();
+}
+
+void HeldObjects::stays(const QString& section, const QString& cause) {
+  form_.note(platform::reportText(QStringLiteral("%1 stays as it is").arg(section), cause));
+}
+
+void HeldObjects::moveFromStart(const QPoint& movement) {
+  for (Held& held : held_) held.now = editing::moved(held.start, grip_, movement);
+}
+
+void HeldObjects::moveOn(const QPoint& step) {
+  for (Held& held : held_) held.now = editing::moved(held.now, grip_, step);
+}
+
+QRect HeldObjects::startPlace() const {
+  QRect all;
+  for (const Held& held : held_) all |= seenPlace(form_, held.name);
+  return all;
+}
+
+bool HeldObjects::isOfHand(const QString& section, const QString& owner) const {
+  return std::any_of(names_.begin(), names_.end(), [&](const QString& name) {
+    return platform::sameName(platform::trimBlanks(name), section) || platform::sameName(name, owner);
+  });
+}
+
+std::vector<editing::Guide> HeldObjects::guides() const {
+  std::vector<editing::Guide> guides{{QStringLiteral("the picture"), form_.Workspace->rect()}};
+  for (const renderer::DrawnObject& object : form_.account().objects) {
+    const bool seen = object.place.intersects(form_.Workspace->rect());
+    if (seen && !isOfHand(object.section, object.owner)) guides.push_back({object.section, object.place});
+  }
+  return guides;
+}
+
+QString HeldObjects::label() const {
+  const QString first = editing::labelOf(held_.front().now, grip_);
+  return held_.size() == 1 ? first : first + QStringLiteral(" and %1 more").arg(held_.size() - 1);
+}
+
+void HeldObjects::showFrame() {
+  std::vector<renderer::TrialValues> values;
+  for (const Held& held : held_) values.push_back({held.section, editing::changedValues(held.start, held.now)});
+  trial_.show(values);
+}
+
+void HeldObjects::commit() {
+  const auto telling = std::exchange(telling_, nullptr);
+  std::vector<renderer::TrialValues> changes;
+  for (const Held& held : held_) {
+    const auto values = editing::changedValues(held.start, held.now);
+    if (values.empty()) continue;
+    // Another program may have taken the section away meanwhile.
+    const auto cause =
+        platform::failureIn([&] { editing::readHeld(form_.session(), held.section, grip_, held.heightKey); });
+    if (cause) {
+      stays(held.section, *cause);
+    } else {
+      changes.push_back({held.section, values});
+    }
+  }
+  held_.clear();
+  if (changes.empty() || !editing::commitValues(form_.session(), changes)) trial_.putBack();
+}
+
+void HeldObjects::giveUp() {
+  held_.clear();
+  telling_.reset();
+  trial_.putBack();
+}
+
+void HeldObjects::letGo() {
+  held_.clear();
+  telling_.reset();
+  trial_.forget();
+}
+
+}  // namespace mainwindows
