@@ -159,7 +159,7 @@ void Session::showScreen(const QString& name) {
 
 void Session::showDrags() {
   constexpr QPoint Equalizer(200, 500);
-  constexpr QPoint Tools(470, 500);
+  constexpr QPoint Tools(470, 465);
   controls::ListBox& objects = form_.toolWindow()->objects();
   objects.SetListIndex(rowOf(objects, DraggedTag.toString()));
   showDrag(Equalizer, {226, 18}, QStringLiteral("drag"));
