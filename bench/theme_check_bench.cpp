@@ -117,7 +117,7 @@ class Drawings {
   }
 
   Unread status_;
-  renderer::TrialValues noValues_;
+  std::vector<renderer::TrialValues> noValues_;
   renderer::TrialFiles files_;
   std::vector<std::unique_ptr<renderer::ChosenScreen>> screens_;
 };

@@ -12,6 +12,7 @@ namespace mainwindows {
 /// with their keys; those that can't run now are grey. What arranges
 /// several objects has a menu of its own in it. It doesn't block; `run` gets the command that was chosen when
 /// the menu is gone.
-void showPreviewMenu(Form1& form, const QPoint& place, bool guidesOn, const std::function<void(const CommandRow& row)>& run);
+void showPreviewMenu(Form1& form, const QPoint& place, bool guidesOn,
+                     const std::function<void(const CommandRow& row)>& run);
 
 }  // namespace mainwindows

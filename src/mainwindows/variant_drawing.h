@@ -36,7 +36,7 @@ class VariantDrawing {
   QString screen_, scheme_;
   renderer::PreparedPictures& pictures_;
   NoStatus status_;
-  renderer::TrialValues noValues_;  ///< a frame without values on trial reads each file only once
+  std::vector<renderer::TrialValues> noValues_;  ///< a frame without values on trial reads each file only once
   renderer::TrialFiles files_;
   renderer::TrialFrame frame_{noValues_, files_};
   std::optional<renderer::ChosenScreen> chosen_;
