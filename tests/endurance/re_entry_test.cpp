@@ -91,7 +91,7 @@ bool moveGroup(Program& program) {
 
 /// Digits typed on the row of a number, and Enter.
 bool typeInGrid(Program& program) {
-  if (!pickTag(program, Static)) return false;
+  if (program.tools().objects().ListIndex() < 0 || !pickTag(program, Static)) return false;
   program.row(u"X"_s);
   QTest::keyClicks(&program.tools().values(), u"7"_s);
   QTest::keyClick(Editors(program.tools()).Text1, Qt::Key_Return);
