@@ -29,7 +29,9 @@ void fill(support::Stage& stage) {
   QByteArray theme;
   for (int number = 0; number < Pictures; ++number) {
     const QByteArray name = "Heavy" + QByteArray::number(number);
-    stage.addTexture(name.constData(), pictureOf(number + 1));
+    stage.folder.put(QString::fromLatin1(name) + QStringLiteral(".png"),
+                     support::encoded(pictureOf(number + 1), "png"));
+    stage.skin += QByteArray(name) + '=' + name + ".png|";
     theme += "[MainStatic" + QByteArray::number(number) + "]|Tex=" + name +
              "|Color=P1Dark|W=160|H=120|X=" + QByteArray::number(number % 10 * 70) +
              "|Y=" + QByteArray::number(number / 10 * 90) + (number % 20 == 0 ? "|TYPE=Colorized|" : "|");
@@ -55,10 +57,10 @@ bool drawHeavyDrag() {
   for (int frame = 0; frame < Frames; ++frame) {
     const Clock::time_point start = Clock::now();
     const bool sizes = frame >= Frames / 2;
-    renderer::drawTrial(
-        stage.context(),
-        {QStringLiteral("MainStatic30"), {{sizes ? QStringLiteral("W") : QStringLiteral("X"), QString::number(frame)}}},
-        files);
+    renderer::drawTrial(stage.context(),
+                        {{QStringLiteral("MainStatic30"),
+                          {{sizes ? QStringLiteral("W") : QStringLiteral("X"), QString::number(frame)}}}},
+                        files);
     late += std::chrono::duration<double, std::milli>(Clock::now() - start).count() > FrameTime ? 1 : 0;
   }
   const double share = 100.0 * late / Frames;

@@ -4,6 +4,8 @@
 #include <limits>
 #include <map>
 
+#include <QSet>
+
 #include "editing/reference_keys.h"
 #include "platform/code_page.h"
 #include "platform/ini_section_names.h"

@@ -49,6 +49,7 @@ void align(const QRect& first, Arranged& one, bool across, int part) {
 void spread(std::vector<Arranged>& group, bool across) {
   if (group.size() < FewestForGaps) throw platform::Failure(QStringLiteral("equal gaps need three objects"));
   std::vector<Arranged*> inOrder;
+  inOrder.reserve(group.size());
   for (Arranged& one : group) inOrder.push_back(&one);
   std::stable_sort(inOrder.begin(), inOrder.end(), [&](const Arranged* a, const Arranged* b) {
     const Side one = sideOf(a->place, across);

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int ViewSide = 208;  // pixels; each magnification shows a whole number of those of the picture
 constexpr int LineHeight = 20;
-constexpr int Gap = 8;
+constexpr int LoupeGap = 8;
 constexpr int Least = 2;
 constexpr int Most = 8;
 constexpr quint32 Outside = 0x808080;  // round the picture
@@ -30,7 +30,7 @@ Loupe::Loupe(Form1& form) : QWidget(&form, Qt::Tool), form_(form), told_(new QLa
   setAttribute(Qt::WA_ShowWithoutActivating);
   setFixedSize(ViewSide, ViewSide + LineHeight);
   told_->setTextFormat(Qt::PlainText);
-  told_->setGeometry(Gap / 2, ViewSide, ViewSide - Gap / 2, LineHeight);
+  told_->setGeometry(LoupeGap / 2, ViewSide, ViewSide - LoupeGap / 2, LineHeight);
   connect(form.Workspace, &Workspace::MouseMove, this, [this](float X, float Y) {
     lookAt({static_cast<int>(std::floor(X)), static_cast<int>(std::floor(Y))});
   });
@@ -56,8 +56,8 @@ void Loupe::enlarge() {
 void Loupe::open() {
   const Workspace& preview = *form_.Workspace;
   const QRect room = form_.screen()->availableGeometry();
-  const int right = form_.frameGeometry().right() + Gap;
-  move(std::min(right, room.right() - frameGeometry().width() - Gap), form_.geometry().top());
+  const int right = form_.frameGeometry().right() + LoupeGap;
+  move(std::min(right, room.right() - frameGeometry().width() - LoupeGap), form_.geometry().top());
   show();
   if (preview.underMouse()) {
     lookAt(preview.mapFromGlobal(QCursor::pos()));

@@ -43,26 +43,26 @@ SideBySide::SideBySide(Form1& form)
     : QWidget(form.toolWindow(), Qt::Tool),
       form_(form),
       pages_(new QStackedWidget(this)),
-      List(new QListWidget(this)),
+      list_(new QListWidget(this)),
       area_(new QScrollArea(this)),
-      Large(new QLabel(this)),
+      large_(new QLabel(this)),
       prepared_(WholeThemePictures),
       steps_(
           form.queue(), [this] { return step(); }, QuietTime) {
   setObjectName(QStringLiteral("SideBySide"));
   setAttribute(Qt::WA_MacAlwaysShowToolWindow);
-  List->setObjectName(QStringLiteral("List"));
-  List->setAccessibleName(QStringLiteral("The screen in each skin and language"));
-  List->setViewMode(QListView::IconMode);
-  List->setMovement(QListView::Static);
-  List->setResizeMode(QListView::Adjust);
-  List->setIconSize(Small);
-  List->setGridSize(Small + QSize(PictureGap, PictureGap + LabelHeight));
-  Large->setObjectName(QStringLiteral("Large"));
-  area_->setWidget(Large);
+  list_->setObjectName(QStringLiteral("List"));
+  list_->setAccessibleName(QStringLiteral("The screen in each skin and language"));
+  list_->setViewMode(QListView::IconMode);
+  list_->setMovement(QListView::Static);
+  list_->setResizeMode(QListView::Adjust);
+  list_->setIconSize(Small);
+  list_->setGridSize(Small + QSize(PictureGap, PictureGap + LabelHeight));
+  large_->setObjectName(QStringLiteral("Large"));
+  area_->setWidget(large_);
   area_->setFocusPolicy(Qt::StrongFocus);
   area_->setFrameShape(QFrame::NoFrame);
-  pages_->addWidget(List);
+  pages_->addWidget(list_);
   pages_->addWidget(area_);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
@@ -70,8 +70,8 @@ SideBySide::SideBySide(Form1& form)
   const QRect room = form.screen()->availableGeometry();
   resize(Whole.boundedTo(room.size()));
   move(room.topLeft());
-  connect(List, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { enlarge(List->row(item)); });
-  Large->installEventFilter(this);
+  connect(list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { enlarge(list_->row(item)); });
+  large_->installEventFilter(this);
   form.toolWindow()->installEventFilter(this);
 }
 
@@ -104,12 +104,12 @@ void SideBySide::listVariants() {
   if (std::equal(variants.begin(), variants.end(), variants_.begin(), variants_.end(), same)) return;
   variants_ = std::move(variants);
   pictures_.assign(variants_.size(), {});
-  List->clear();
+  list_->clear();
   for (const Variant& variant : variants_) {
-    List->addItem(variant.name);
-    List->item(List->count() - 1)->setSizeHint(List->gridSize());
+    list_->addItem(variant.name);
+    list_->item(list_->count() - 1)->setSizeHint(list_->gridSize());
   }
-  List->setCurrentRow(0);
+  list_->setCurrentRow(0);
 }
 
 void SideBySide::renew() {
@@ -145,31 +145,31 @@ bool SideBySide::step() {
 /// Brings a picture that was drawn into the window.
 void SideBySide::show(int variant) {
   const QImage& picture = pictures_.at(static_cast<size_t>(variant));
-  List->item(variant)->setIcon(smallPicture(picture, devicePixelRatioF()));
-  if (variant == enlarged_) Large->setPixmap(QPixmap::fromImage(picture));
+  list_->item(variant)->setIcon(smallPicture(picture, devicePixelRatioF()));
+  if (variant == enlarged_) large_->setPixmap(QPixmap::fromImage(picture));
 }
 
 void SideBySide::enlarge(int variant) {
   if (variant < 0 || pictures_.at(static_cast<size_t>(variant)).isNull()) return;
   enlarged_ = variant;
-  Large->setPixmap(QPixmap::fromImage(pictures_.at(static_cast<size_t>(variant))));
-  Large->resize(Whole);
-  Large->setAccessibleName(variants_.at(static_cast<size_t>(variant)).name);
-  area_->setAccessibleName(Large->accessibleName());
+  large_->setPixmap(QPixmap::fromImage(pictures_.at(static_cast<size_t>(variant))));
+  large_->resize(Whole);
+  large_->setAccessibleName(variants_.at(static_cast<size_t>(variant)).name);
+  area_->setAccessibleName(large_->accessibleName());
   pages_->setCurrentWidget(area_);
   area_->setFocus();
 }
 
 void SideBySide::showSmall() {
   enlarged_ = -1;
-  pages_->setCurrentWidget(List);
-  List->setFocus();
+  pages_->setCurrentWidget(list_);
+  list_->setFocus();
 }
 
 void SideBySide::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && !event->isAutoRepeat()) {
-    enlarged_ < 0 ? enlarge(List->currentRow()) : showSmall();
+    enlarged_ < 0 ? enlarge(list_->currentRow()) : showSmall();
   } else if (event->key() == Qt::Key_Escape) {
     enlarged_ < 0 ? former_.giveBack(*this) : showSmall();
   } else {
@@ -185,7 +185,7 @@ void SideBySide::hideEvent(QHideEvent* event) {
 }
 
 bool SideBySide::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == Large && event->type() == QEvent::MouseButtonPress) {
+  if (watched == large_ && event->type() == QEvent::MouseButtonPress) {
     showSmall();
     return true;
   }

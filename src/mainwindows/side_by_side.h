@@ -57,9 +57,9 @@ class SideBySide : public QWidget {
   Form1& form_;
   toolwindow::FormerFocus former_;
   QStackedWidget* pages_;
-  QListWidget* List;   ///< the small pictures
+  QListWidget* list_;  ///< the small pictures
   QScrollArea* area_;  ///< has the large one
-  QLabel* Large;
+  QLabel* large_;
   int enlarged_ = -1;
   std::vector<Variant> variants_;
   std::vector<QImage> pictures_;  ///< by variant

@@ -21,6 +21,7 @@ QByteArray nameBytes(const QString& name) {
 QByteArray changedLines(const QByteArray& text, const std::vector<KeyedLine>& lines) {
   if (lines.size() == 1) return changedLine(text, lines.front().section, lines.front().key, lines.front().line);
   std::vector<platform::IniSetting> settings;
+  settings.reserve(lines.size());
   for (const auto& [section, key, line] : lines) settings.push_back({nameBytes(section), nameBytes(key), line});
   const QByteArray changed = platform::setIniLines(text, settings);
   const platform::IniSections written(changed);

@@ -188,6 +188,7 @@ void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::v
 void putLinesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::vector<KeyedLine>& lines,
                     platform::StatusLine& status) {
   std::vector<KeyValue> edited;
+  edited.reserve(lines.size());
   for (const auto& [section, key, line] : lines) edited.push_back({section, key, {}});
   editCopy(state, copy, status, edited, [&](const QByteArray& text) { return changedLines(text, lines); });
 }

@@ -54,12 +54,12 @@ ListWindow::ListWindow(Form2& form, ListSource* source)
 
 /// The button and the menu for the chosen rows.
 void ListWindow::addAction() {
-  Action = new QPushButton(this);
-  Action->setObjectName(QStringLiteral("Action"));
-  layout()->addWidget(Action);
+  action_ = new QPushButton(this);
+  action_->setObjectName(QStringLiteral("Action"));
+  layout()->addWidget(action_);
   List->allowSeveral();
   openMenusByKeys(*this);
-  connect(Action, &QPushButton::clicked, this, &ListWindow::act);
+  connect(action_, &QPushButton::clicked, this, &ListWindow::act);
   connect(List, &QListWidget::itemSelectionChanged, this, &ListWindow::updateAction);
   connect(List, &controls::ListBox::menuAsked, this, [this](int, const QPoint& place) { showMenu(place); });
   updateAction();
@@ -88,7 +88,7 @@ void ListWindow::showRows(int chosen) {
   for (const QString& row : rows) List->AddItem(row);
   setWindowTitle(source_.title());
   if (!rows.isEmpty()) List->SetListIndex(std::min(chosen, static_cast<int>(rows.size()) - 1));
-  if (Action != nullptr) updateAction();
+  if (action_ != nullptr) updateAction();
 }
 
 /// Shows what has come in place of the rows. The chosen ones stay chosen as far as they are still there.
@@ -118,8 +118,8 @@ void ListWindow::act() {
 
 void ListWindow::showMenu(const QPoint& place) {
   auto* menu = new QMenu(this);
-  QAction* action = menu->addAction(Action->text());
-  action->setEnabled(Action->isEnabled());
+  QAction* action = menu->addAction(action_->text());
+  action->setEnabled(action_->isEnabled());
   connect(action, &QAction::triggered, this, &ListWindow::act, Qt::QueuedConnection);
   const QAction* all = menu->addAction(QStringLiteral("Select all\tCtrl+A"));
   connect(all, &QAction::triggered, List, &QAbstractItemView::selectAll);
@@ -128,17 +128,17 @@ void ListWindow::showMenu(const QPoint& place) {
 
 void ListWindow::updateAction() {
   const std::vector<int> rows = List->selectedRows();
-  Action->setText(source_.actionOn(rows));
-  Action->setEnabled(source_.canActOn(rows));
+  action_->setText(source_.actionOn(rows));
+  action_->setEnabled(source_.canActOn(rows));
 }
 
 void ListWindow::keyPressEvent(QKeyEvent* event) {
   const int page = std::max(1, List->viewport()->height() / std::max(1, List->sizeHintForRow(0)));
-  const bool extends = Action != nullptr && event->modifiers().testFlag(Qt::ShiftModifier);
+  const bool extends = action_ != nullptr && event->modifiers().testFlag(Qt::ShiftModifier);
   if (event->key() == Qt::Key_Escape) return former_.giveBack(*this);
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     if (event->isAutoRepeat()) return;
-    Action != nullptr&& focusWidget() == Action ? Action->click() : accept();
+    action_ != nullptr&& focusWidget() == action_ ? action_->click() : accept();
   } else if (const auto row = controls::rowForKey(event->key(), List->ListIndex(), List->ListCount(), page)) {
     extends ? List->selectToo(*row) : List->SetListIndex(*row);
   } else {

@@ -28,7 +28,8 @@ class ListWindow : public QWidget {
 
   controls::TextBox* const Line;  ///< what is looked for
   controls::ListBox* const List;  ///< the rows that have it
-  QPushButton* Action = nullptr;  ///< null for a source that does nothing with rows
+  /// Does something with the chosen rows; null for a source that has nothing of the kind.
+  QPushButton* action() const { return action_; }
 
   /// Shows the window with the focus in the line.
   void open();
@@ -51,6 +52,7 @@ class ListWindow : public QWidget {
   Form2& form_;
   ListSource& source_;
   FormerFocus former_;
+  QPushButton* action_ = nullptr;
 };
 
 /// Shows the tool window's list window of that name. `source` makes what it shows when there is none yet.

@@ -176,8 +176,8 @@ void Monkey::putBack() {
   if (list == nullptr) return;
   if (chance_.one(2)) key(*list->Line, chance_.of(std::array{Qt::Key_X, Qt::Key_T, Qt::Key_Backspace}));
   if (chance_.one(2)) key(*list->List, Qt::Key_A, Qt::ControlModifier);
-  counts_[u"put back"_s] += list->Action->isEnabled();
-  chance_.one(2) ? list->Action->click() : key(*list->Line, chance_.one(2) ? Qt::Key_Return : Qt::Key_Escape);
+  counts_[u"put back"_s] += list->action()->isEnabled();
+  chance_.one(2) ? list->action()->click() : key(*list->Line, chance_.one(2) ? Qt::Key_Return : Qt::Key_Escape);
 }
 
 void Monkey::resize() {

@@ -130,13 +130,13 @@ class SavedStateTest : public ProgramTest {
     list.Line->SetText({});
     QTRY_COMPARE(list.List->ListCount(), 3);
     QTest::keyClick(list.Line, Qt::Key_Down, Qt::ShiftModifier);
-    QCOMPARE(list.Action->text(), u"Put back 2 values"_s);
+    QCOMPARE(list.action()->text(), u"Put back 2 values"_s);
     QTest::keyClick(list.List, Qt::Key_A, Qt::ControlModifier);
-    QCOMPARE(list.Action->text(), u"Put back 3 values"_s);
-    list.Action->setFocus();
-    QTest::keyClick(list.Action, Qt::Key_Return);
+    QCOMPARE(list.action()->text(), u"Put back 3 values"_s);
+    list.action()->setFocus();
+    QTest::keyClick(list.action(), Qt::Key_Return);
     QTRY_COMPARE(list.List->ListCount(), 0);
-    QVERIFY(!list.Action->isEnabled());
+    QVERIFY(!list.action()->isEnabled());
     QCOMPARE(program->status(), u"Put back: 3 values"_s);
     QCOMPARE(Editors(tools).Text2->Text(), u"Hello there"_s);
     for (const QString& file : {ThemeFile, LanguageFile}) QCOMPARE(game->get(file + u".tmp"_s), game->get(file));
