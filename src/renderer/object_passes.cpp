@@ -42,6 +42,15 @@ struct Look {
   QString heightKey = QStringLiteral("H");
 };
 
+/// Whether none of the first three fields is outside 0 to 255.
+bool isColor(const QString& color) {
+  const QStringList fields = platform::splitAtBlanks(color).first(3);
+  return std::all_of(fields.begin(), fields.end(), [](const QString& field) {
+    const double channel = platform::numberOf(field);
+    return 0 <= channel && channel <= 255;
+  });
+}
+
 /// Draws the object's texture and enters the outcome in the account.
 void drawObject(RenderContext& context, const ObjectSection& section, const PictureFile& file, const Box& box,
                 const Look& look) {
@@ -61,15 +70,18 @@ void drawObject(RenderContext& context, const ObjectSection& section, const Pict
     case TextureOutcome::Unread:
     case TextureOutcome::NoPicture:
       leaveOut(context, section.Name(), result.outcome == TextureOutcome::Unread ? Reason::Unread : Reason::NoPicture,
-               QStringLiteral("Tex"), file.path.section(u'\\', -1));
+               QStringLiteral("Tex"), nameOfPicture(context, file));
       break;
     case TextureOutcome::NoColor:
-      leaveOut(context, section.Name(), Reason::UnknownColor, look.colorKey, colorName);
+      leaveOut(context, section.Name(), color.isEmpty() ? Reason::UnknownColor : Reason::BadColor, look.colorKey,
+               colorName);
       break;
     case TextureOutcome::ColorRange:
-      leaveOut(context, section.Name(), Reason::ColorRange,
-               look.intensityKey.isEmpty() ? look.colorKey : look.intensityKey,
-               look.intensityKey.isEmpty() ? color : section.Value(look.intensityKey));
+      if (look.intensityKey.isEmpty() || !isColor(color)) {
+        leaveOut(context, section.Name(), Reason::BadColor, look.colorKey, colorName);
+      } else {
+        leaveOut(context, section.Name(), Reason::ColorRange, look.intensityKey, section.Value(look.intensityKey));
+      }
       break;
     case TextureOutcome::NoArea:
       leaveOut(context, section.Name(), Reason::NoArea, QStringLiteral("W x ") + look.heightKey,
@@ -194,7 +206,7 @@ void DrawBackground(RenderContext& context, const QString& stem) {
   }
   if (prepared.missing || prepared.picture.hasAlphaChannel()) wipe();  // else it covers all
   if (prepared.missing) {
-    leaveOut(context, section, *prepared.missing, QStringLiteral("Tex"), file.path.section(u'\\', -1));
+    leaveOut(context, section, *prepared.missing, QStringLiteral("Tex"), nameOfPicture(context, file));
     return;
   }
   context.Workspace.drawImage(prepared.picture, 0, 0);

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include <QDir>
+
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
@@ -17,6 +19,12 @@ void notePicture(const RenderContext& context, const QString& path) {
 }
 
 }  // namespace
+
+QString nameOfPicture(const RenderContext& context, const PictureFile& file) {
+  const auto withSlashes = [](QString path) { return path.replace(u'\\', u'/'); };
+  const QDir folder(withSlashes(context.state.paths.SkinDirectory));
+  return folder.relativeFilePath(withSlashes(file.path)).replace(u'/', u'\\');
+}
 
 QString readValue(const RenderContext& context, const QString& section, const QString& file, const QString& key,
                   const QString& defaultValue) {
@@ -72,7 +80,10 @@ PictureFile texturePath(RenderContext& context, const ObjectSection& section) {
   const QString name = section.Value(QStringLiteral("Tex"));
   const QString file = readValue(context, QStringLiteral("Textures"), context.state.paths.SkinFile, name);
   if (file.isEmpty()) {
-    leaveOut(context, section.Name(), Reason::NoTexture, QStringLiteral("Tex"), name);
+    const QString none = QStringLiteral("-");
+    const bool isThere =
+        readValue(context, QStringLiteral("Textures"), context.state.paths.SkinFile, name, none).isEmpty();
+    leaveOut(context, section.Name(), isThere ? Reason::EmptyTexture : Reason::NoTexture, QStringLiteral("Tex"), name);
     return {};
   }
   const QString path = context.state.paths.SkinDirectory + u'\\' + file;

@@ -51,6 +51,9 @@ struct PictureFile {
   std::optional<platform::FileIdentity> identity;
 };
 
+/// The file as its path goes on from the skin's folder, by the shortest way: "icons\\star.png".
+QString nameOfPicture(const RenderContext& context, const PictureFile& file);
+
 /// X, Y, W and H of an object.
 struct Box {
   qint16 X = 0;

@@ -17,11 +17,13 @@ struct Wording {
 
 constexpr auto Wordings = std::to_array<Wording>({
     {Reason::NoTexture, u"texture '%1' has no entry in the skin"},
+    {Reason::EmptyTexture, u"texture '%1' names no file"},
     {Reason::NoFile, u"no file '%1'"},
     {Reason::Unseen, u"file '%1' can't be looked at"},
     {Reason::Unread, u"file '%1' can't be read"},
     {Reason::NoPicture, u"'%1' is no picture"},
     {Reason::UnknownColor, u"%2: colour '%1' is in no table"},
+    {Reason::BadColor, u"%2: colour '%1' isn't three numbers from 0 to 255"},
     {Reason::ColorRange, u"%2: '%1' brings the colour out of its range"},
     {Reason::NumberTooLarge, u"%2: '%1' is too large"},
     {Reason::NoArea, u"%2: '%1' leaves no area"},

@@ -16,11 +16,13 @@ namespace renderer {
 /// Why an object isn't drawn, or not seen.
 enum class Reason {
   NoTexture,         ///< the texture has no entry in the skin
+  EmptyTexture,      ///< its entry names no file
   NoFile,            ///< the entry names no file
   Unseen,            ///< whether that file is there can't be seen
   Unread,            ///< the file can't be read
   NoPicture,         ///< the file can't be decoded
   UnknownColor,      ///< the colour is in no table
+  BadColor,          ///< the colour isn't three numbers from 0 to 255
   ColorRange,        ///< a channel leaves 0 to 255 under the intensity
   NumberTooLarge,    ///< a number doesn't fit 16 bits
   NoArea,            ///< width or height is 0 or negative

@@ -31,11 +31,13 @@ struct ReasonRow {
 
 constexpr auto Reasons = std::to_array<ReasonRow>({
     {Reason::NoTexture, Kind::NameLeftOut, true},
+    {Reason::EmptyTexture, Kind::NameLeftOut, true},
     {Reason::NoFile, Kind::NameLeftOut, true},
     {Reason::Unseen, Kind::NameLeftOut, true},
     {Reason::Unread, Kind::NameLeftOut, true},
     {Reason::NoPicture, Kind::NameLeftOut, true},
     {Reason::UnknownColor, Kind::NameLeftOut},
+    {Reason::BadColor, Kind::NameLeftOut},
     {Reason::ColorRange, Kind::LeftOut, true},
     {Reason::NumberTooLarge, Kind::LeftOut},
     {Reason::NoArea, Kind::LeftOut},
@@ -227,6 +229,8 @@ bool ScreenCheck::isToldElsewhere(const renderer::LeftOut& entry, const IniSecti
       return theme_.picturelessSkins.contains(setting_.skin);
     case Reason::UnknownColor:
       return isBad(entry.value) || (theme_.colorsLost && !isBuiltInColor(theme_, entry.value));
+    case Reason::BadColor:
+      return isBad(entry.value);
     case Reason::ColorRange:
       return isBad(section.value(entry.key.startsWith(u'D') ? QStringLiteral("DColor") : QStringLiteral("Color")));
     default:

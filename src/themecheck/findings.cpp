@@ -58,6 +58,7 @@ constexpr auto Kinds = std::to_array<KindRow>({
     {Kind::NoLanguage, Level::Warning, u"no language has words for '%1'", Fold::ByText},
     {Kind::GameColor, Level::Warning, u"colour '%1' is in no table", Fold::ByText},
     {Kind::GameTexture, Level::Warning, u"texture '%1' has no entry in the skin", Fold::ByText},
+    {Kind::GameEmptyTexture, Level::Warning, u"texture '%1' names no file", Fold::ByText},
     {Kind::LackingTexture, Level::Warning, u"texture that another skin lacks"},
     {Kind::OtherCase, Level::Warning, u"'%1' is found only without regard to case, as '%2'"},
     {Kind::NoEditor, Level::Note, u"key without an editor", Fold::ByKeyAndText},

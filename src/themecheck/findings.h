@@ -51,6 +51,7 @@ enum class Kind {
   NoLanguage,
   GameColor,
   GameTexture,
+  GameEmptyTexture,
   LackingTexture,
   OtherCase,
   NoEditor,

@@ -19,8 +19,10 @@ void checkColor(const CheckedTheme& theme, const IniKey& key, const Place& place
 void checkTexture(const CheckedTheme& theme, const IniKey& key, const Place& place, Findings& findings) {
   for (const IniFile& skin : theme.skins) {
     if (!skin.isChecked() || theme.lostSkins.contains(skin.name())) continue;
-    if (skin.has(QStringLiteral("Textures"), key.value)) continue;
-    findings.add(Kind::GameTexture, place, {key.value}, {skin.name(), {}, {}});
+    const IniSection* const textures = skin.find(QStringLiteral("Textures"));
+    if (textures && !textures->value(key.value).isEmpty()) continue;
+    const bool isEmpty = skin.has(QStringLiteral("Textures"), key.value);
+    findings.add(isEmpty ? Kind::GameEmptyTexture : Kind::GameTexture, place, {key.value}, {skin.name(), {}, {}});
   }
 }
 

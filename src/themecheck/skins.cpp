@@ -25,14 +25,19 @@ struct Picture {
 };
 
 /// All textures, each at its place in the first skin that has it.
+bool hasFile(const IniFile& skin, const QString& texture) {
+  const IniSection* const textures = skin.find(Textures);
+  return textures && !textures->value(texture).isEmpty();
+}
+
 void checkLacking(const CheckedTheme& theme, Findings& findings) {
   QSet<QString> seen;
   for (const IniFile& skin : theme.skins) {
     for (const IniKey* key : skin.keysOf(Textures)) {
-      if (seen.contains(upperCase(key->name))) continue;
+      if (key->value.isEmpty() || seen.contains(upperCase(key->name))) continue;
       seen += upperCase(key->name);
       for (const IniFile& other : theme.skins) {
-        if (!other.isChecked() || other.has(Textures, key->name) || theme.lostSkins.contains(other.name())) continue;
+        if (!other.isChecked() || hasFile(other, key->name) || theme.lostSkins.contains(other.name())) continue;
         findings.add(Kind::LackingTexture, skin.placeOf(*skin.find(Textures), *key), {}, {other.name(), {}, {}});
       }
     }
