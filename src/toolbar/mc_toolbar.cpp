@@ -66,6 +66,8 @@ void McToolBar::watchForm() {
 }
 
 bool McToolBar::event(QEvent* event) {
+  // Children come before the control is there, and go after it.
+  if (event->type() == QEvent::ChildAdded || event->type() == QEvent::ChildRemoved) return QWidget::event(event);
   // In a designer the mouse doesn't belong to the toolbar.
   if (control_.UserMode() && mouse_.deliver(SurfaceName::Main, rect(), event)) return true;
   if (event->type() == QEvent::Show) watchForm();
