@@ -2,57 +2,16 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-#include "mainwindows/arranging.h"
+#include "support/hand.h"
 #include "support/row_name.h"
-#include "support/snapshot.h"
-#include "themefiles/ini_access.h"
 
 using namespace support;
 
 const QPoint Inside(50, 60);  // of LoadingStaticA
 
 /// Moving and sizing of objects by hand.
-class PreviewHandTest : public ProgramTest {
+class PreviewHandTest : public HandTest {
   Q_OBJECT
-
- private:
-  mainwindows::Workspace& preview() const { return *program->form.Workspace; }
-
-  /// Presses at a place and moves the mouse on, by pixels, with Shift, which meets no guides; the button stays down.
-  void hold(const QPoint& from, const QPoint& by, Qt::KeyboardModifiers keys = {}) const {
-    QTest::mousePress(&preview(), Qt::LeftButton, keys, from);
-    moveMouse(preview(), from + by / 2, Qt::LeftButton, keys | Qt::ShiftModifier);
-    moveMouse(preview(), from + by, Qt::LeftButton, keys | Qt::ShiftModifier);
-  }
-  void drop(const QPoint& place, Qt::KeyboardModifiers keys = {}) const {
-    QTest::mouseRelease(&preview(), Qt::LeftButton, keys | Qt::ShiftModifier, place);
-    settle();
-  }
-  void drag(const QPoint& from, const QPoint& by, Qt::KeyboardModifiers keys = {}) const {
-    hold(from, by, keys);
-    drop(from + by, keys);
-  }
-  void put(const char* key, const char* value) const {
-    themefiles::PutINI(u"LoadingStaticA"_s, QLatin1StringView(key), QLatin1StringView(value),
-                       program->state.paths.ThemeFile);
-  }
-  /// Lines of the working copy that aren't those of `before`.
-  QStringList newLines(const QByteArray& before) const {
-    QStringList lines = QString::fromLatin1(game->get(ThemeCopy)).split(u"\r\n"_s);
-    const QStringList old = QString::fromLatin1(before).split(u"\r\n"_s);
-    for (qsizetype line = lines.size() - 1; line >= 0; --line) {
-      if (line < old.size() && lines[line] == old[line]) lines.removeAt(line);
-    }
-    return lines;
-  }
-
-  /// LoadingStaticA, and with it the two buttons and a text of one.
-  void group() const {
-    program->tag(u"LoadingStaticA"_s);
-    for (const QPoint& place : {QPoint(340, 320), QPoint(370, 250), QPoint(340, 230)}) {
-      QTest::mouseClick(&preview(), Qt::LeftButton, Qt::ShiftModifier, place);
-    }
-  }
 
  private Q_SLOTS:
   /// A drag leaves what an Update of the same numbers leaves.
@@ -253,67 +212,6 @@ class PreviewHandTest : public ProgramTest {
     }
   }
 
-  /// At rest the pointer names what a click would take; what goes on then takes the name away.
-  void pointerAtRestNames() {
-    put("W", "400");
-    put("H", "300");
-    program->form.queue().draw();
-    const std::tuple<QPoint, bool, QString> rows[] = {{{370, 250}, false, u"LoadingButtonGo, 1 more below"_s},
-                                                      {{370, 250}, true, u"LoadingStaticA"_s},
-                                                      {{410, 110}, false, u"LoadingTextFree, 1 more below"_s},
-                                                      {{700, 500}, false, QString()}};
-    for (const auto& [place, clicked, name] : rows) {
-      if (clicked) QTest::mouseClick(&preview(), Qt::LeftButton, {}, place);
-      moveMouse(preview(), place + QPoint(1, 0), Qt::NoButton);
-      QCOMPARE(preview().accessibleDescription(), QString());
-      QTest::qWait(600);
-      QCOMPARE(preview().accessibleDescription(), name);
-    }
-    moveMouse(preview(), {340, 320}, Qt::NoButton);
-    QTRY_COMPARE(preview().accessibleDescription(), u"LoadingButtonLast, 1 more below"_s);
-    program->form.queue().draw();
-    QCOMPARE(preview().accessibleDescription(), QString());
-  }
-
-  /// An object out of sight says where it is, and comes back by the keys.
-  void outOfSight() {
-    put("X", "-105");
-    program->form.queue().draw();
-    program->tag(u"LoadingStaticA"_s);
-    QCOMPARE(program->status(), u"LoadingStaticA lies outside the picture, at X = -105, Y = 50"_s);
-    QTest::keyClick(&preview(), Qt::Key_Right, Qt::ShiftModifier);
-    program->form.session().settle();
-    QCOMPARE(program->value(u"X"_s), u"-95"_s);
-    program->tag(u"LoadingButtonGo"_s);
-    program->tag(u"LoadingStaticA"_s);
-    QVERIFY2(!program->status().contains(u"outside"), qPrintable(program->status()));
-  }
-
-  void loupe() {
-    QWidget& form = program->form;
-    QTest::keyClick(&form, Qt::Key_F7);
-    auto& loupe = *named<QWidget>(form, "Loupe");
-    QVERIFY(loupe.isVisible() && QApplication::activeWindow() != &loupe);
-    const auto middle = [&] { return loupe.grab().toImage().pixel(104, 104); };
-    moveMouse(preview(), {41, 51}, Qt::NoButton);
-    const QColor color = program->picture().pixelColor(41, 51);
-    const QString colorText = u"%1 %2 %3"_s.arg(color.red()).arg(color.green()).arg(color.blue());
-    QCOMPARE(loupe.accessibleDescription(), u"X 41, Y 51   %1   4 x"_s.arg(colorText));
-    QCOMPARE(middle(), color.rgb());
-    for (const char* times : {"8 x", "2 x"}) {
-      QTest::keyClick(&form, Qt::Key_F7, Qt::ShiftModifier);
-      QVERIFY(loupe.accessibleDescription().endsWith(QLatin1StringView(times)));
-    }
-    moveMouse(preview(), {799, 0}, Qt::NoButton);
-    QCOMPARE(middle(), program->picture().pixel(799, 0));
-    program->tag(u"LoadingStaticA"_s);
-    QTest::keyPress(&preview(), Qt::Key_Right);
-    QTRY_VERIFY(loupe.accessibleDescription().startsWith(u"X 41, Y 50 "));
-    QTest::keyRelease(&preview(), Qt::Key_Right);
-    QTest::keyClick(&form, Qt::Key_F7);
-    QVERIFY(!loupe.isVisible());
-  }
-
   void keysAreOneEdit() {
     program->tag(u"LoadingStaticA"_s);
     program->row(u"X"_s);
@@ -339,89 +237,6 @@ class PreviewHandTest : public ProgramTest {
     QTest::keyClick(&preview(), Qt::Key_Escape);
     program->form.session().settle();  // commits what waits
     QCOMPARE(differences(saved, snapshot(*program, *game)), QStringList());
-  }
-
-  /// Several objects are moved as one, and what can't be moved stays and says why.
-  void several() {
-    group();
-    const QStringList members = program->form.session().members();
-    QCOMPARE(members.join(u' '), u"LoadingButtonLast LoadingButtonGo LoadingButtonGoText1"_s);
-    const QByteArray file = game->get(ThemeCopy);
-    drag({340, 320}, {40, 25});
-    QCOMPARE(newLines(file).join(u' '), u"X=340 Y=225 X=340 Y=325 X=80 Y=75"_s);
-    QCOMPARE(program->status(),
-             u"LoadingStaticA: X = 80, Y = 75; LoadingButtonLast: X = 340, Y = 325; "
-             "LoadingButtonGo: X = 340, Y = 225"_s);
-    QTest::keyClick(&preview(), Qt::Key_Left, Qt::ShiftModifier);
-    program->form.session().settle();
-    QCOMPARE(newLines(file).join(u' '), u"X=330 Y=225 X=330 Y=325 X=70 Y=75"_s);
-    put("Y", "-1");
-    const QByteArray before = game->get(ThemeCopy);
-    hold({370, 345}, {-10, 0});
-    QTRY_COMPARE(preview().accessibleDescription(), u"X 320, Y 325 and 1 more"_s);
-    QTest::keyClick(&preview(), Qt::Key_Escape);
-    drop({360, 345});
-    QCOMPARE(game->get(ThemeCopy), before);
-    hold({370, 345}, {-10, 0});
-    const QByteArray without = game->get(ThemeCopy).replace("[LoadingButtonGo]", "[Elsewhere]");
-    game->put(ThemeCopy, without);
-    drop({360, 345});
-    QCOMPARE(newLines(without).join(u' '), u"X=320"_s);
-    QVERIFY(program->status().contains(u"LoadingStaticA stays as it is [Y is -1]"));
-    QVERIFY(program->status().contains(u"LoadingButtonGo stays as it is [its section is gone]"));
-    QCOMPARE(program->form.session().members(), members);
-    QTest::keyClick(&preview(), Qt::Key_Escape);
-    QCOMPARE(program->form.session().members(), QStringList());
-    // By the keys of the list: Ctrl leads the focus on, Space joins.
-    controls::ListBox& list = program->tools().objects();
-    const QString chosen = list.Text();
-    QTest::keyClick(&list, Qt::Key_Up, Qt::ControlModifier);
-    for (int times = 1; times <= 3; ++times) {
-      QTest::keyClick(&list, Qt::Key_Space);
-      QCOMPARE(list.Text(), chosen);
-      QCOMPARE(list.told(list.ListIndex() - 1).contains(u"together with "_s + chosen), times % 2 == 1);
-    }
-    QTest::keyClick(&list, Qt::Key_Escape);
-    QCOMPARE(program->form.session().members(), QStringList());
-  }
-
-  void arrangements() {
-    using mainwindows::Arrangement;
-    const std::pair<Arrangement, QString> rows[] = {
-        {Arrangement::LeftEdges, u"X=40 X=40"_s},   {Arrangement::CentresAcross, u"X=50 X=50"_s},
-        {Arrangement::RightEdges, u"X=60 X=60"_s},  {Arrangement::UpperEdges, u"Y=50 Y=50"_s},
-        {Arrangement::CentresDown, u"Y=50 Y=60"_s}, {Arrangement::LowerEdges, u"Y=50 Y=70"_s},
-        {Arrangement::GapsAcross, u"X=180"_s},      {Arrangement::GapsDown, u"Y=175"_s},
-        {Arrangement::Widths, u"W=100 W=100"_s},    {Arrangement::Heights, u"H=60"_s}};
-    for (const auto& [arrangement, lines] : rows) {
-      program = nullptr;
-      init();
-      group();
-      program->form.session().toggleMember(u"LoadingButtonGoText1"_s);
-      const QByteArray file = game->get(ThemeCopy);
-      mainwindows::arrange(program->form, arrangement);
-      QCOMPARE(newLines(file).join(u' '), lines);
-    }
-    program->form.session().endGroup();
-    program->form.session().toggleMember(u"LoadingTextFree"_s);
-    const QByteArray file = game->get(ThemeCopy);
-    for (const auto& [arrangement, told] :
-         {std::pair{Arrangement::Widths, u"LoadingTextFree stays as it is [a text can't be sized]"_s},
-          {Arrangement::GapsDown, u"All stays as it is [equal gaps need three objects]"_s}}) {
-      mainwindows::arrange(program->form, arrangement);
-      QCOMPARE(program->status(), told);
-    }
-    QCOMPARE(game->get(ThemeCopy), file);
-  }
-
-  void guides() {
-    program->tag(u"LoadingStaticA"_s);
-    const QByteArray file = game->get(ThemeCopy);
-    QTest::mousePress(&preview(), Qt::LeftButton, {}, Inside);
-    moveMouse(preview(), Inside + QPoint(158, 5), Qt::LeftButton, Qt::ControlModifier);
-    QTRY_COMPARE(preview().accessibleDescription(), u"X 200, Y 50, at LoadingButtonGo"_s);
-    QTest::mouseRelease(&preview(), Qt::LeftButton, Qt::ControlModifier, Inside + QPoint(158, 5));
-    QCOMPARE(newLines(file).join(u' '), u"X=200"_s);
   }
 
   void refusals() {

@@ -1,0 +1,75 @@
+#include <QApplication>
+
+#include "support/hand.h"
+
+using namespace support;
+
+/// What is told of the preview at rest: what a click takes, what lies outside, and the loupe.
+class PreviewLookTest : public HandTest {
+  Q_OBJECT
+
+ private Q_SLOTS:
+  /// At rest the pointer names what a click would take; what goes on then takes the name away.
+  void pointerAtRestNames() {
+    put("W", "400");
+    put("H", "300");
+    program->form.queue().draw();
+    const std::tuple<QPoint, bool, QString> rows[] = {{{370, 250}, false, u"LoadingButtonGo, 1 more below"_s},
+                                                      {{370, 250}, true, u"LoadingStaticA"_s},
+                                                      {{410, 110}, false, u"LoadingTextFree, 1 more below"_s},
+                                                      {{700, 500}, false, QString()}};
+    for (const auto& [place, clicked, name] : rows) {
+      if (clicked) QTest::mouseClick(&preview(), Qt::LeftButton, {}, place);
+      moveMouse(preview(), place + QPoint(1, 0), Qt::NoButton);
+      QCOMPARE(preview().accessibleDescription(), QString());
+      QTest::qWait(600);
+      QCOMPARE(preview().accessibleDescription(), name);
+    }
+    moveMouse(preview(), {340, 320}, Qt::NoButton);
+    QTRY_COMPARE(preview().accessibleDescription(), u"LoadingButtonLast, 1 more below"_s);
+    program->form.queue().draw();
+    QCOMPARE(preview().accessibleDescription(), QString());
+  }
+
+  /// An object out of sight says where it is, and comes back by the keys.
+  void outOfSight() {
+    put("X", "-105");
+    program->form.queue().draw();
+    program->tag(u"LoadingStaticA"_s);
+    QCOMPARE(program->status(), u"LoadingStaticA lies outside the picture, at X = -105, Y = 50"_s);
+    QTest::keyClick(&preview(), Qt::Key_Right, Qt::ShiftModifier);
+    program->form.session().settle();
+    QCOMPARE(program->value(u"X"_s), u"-95"_s);
+    program->tag(u"LoadingButtonGo"_s);
+    program->tag(u"LoadingStaticA"_s);
+    QVERIFY2(!program->status().contains(u"outside"), qPrintable(program->status()));
+  }
+
+  void loupe() {
+    QWidget& form = program->form;
+    QTest::keyClick(&form, Qt::Key_F7);
+    auto& loupe = *named<QWidget>(form, "Loupe");
+    QVERIFY(loupe.isVisible() && QApplication::activeWindow() != &loupe);
+    const auto middle = [&] { return loupe.grab().toImage().pixel(104, 104); };
+    moveMouse(preview(), {41, 51}, Qt::NoButton);
+    const QColor color = program->picture().pixelColor(41, 51);
+    const QString colorText = u"%1 %2 %3"_s.arg(color.red()).arg(color.green()).arg(color.blue());
+    QCOMPARE(loupe.accessibleDescription(), u"X 41, Y 51   %1   4 x"_s.arg(colorText));
+    QCOMPARE(middle(), color.rgb());
+    for (const char* times : {"8 x", "2 x"}) {
+      QTest::keyClick(&form, Qt::Key_F7, Qt::ShiftModifier);
+      QVERIFY(loupe.accessibleDescription().endsWith(QLatin1StringView(times)));
+    }
+    moveMouse(preview(), {799, 0}, Qt::NoButton);
+    QCOMPARE(middle(), program->picture().pixel(799, 0));
+    program->tag(u"LoadingStaticA"_s);
+    QTest::keyPress(&preview(), Qt::Key_Right);
+    QTRY_VERIFY(loupe.accessibleDescription().startsWith(u"X 41, Y 50 "));
+    QTest::keyRelease(&preview(), Qt::Key_Right);
+    QTest::keyClick(&form, Qt::Key_F7);
+    QVERIFY(!loupe.isVisible());
+  }
+};
+
+QTEST_MAIN(PreviewLookTest)
+#include "preview_look_test.moc"
