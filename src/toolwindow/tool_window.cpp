@@ -1,8 +1,6 @@
 #include "toolwindow/tool_window.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <utility>
 
 #include <QCloseEvent>
@@ -314,22 +312,15 @@ void Form2::HideEditorFrames() {
 /// Gives the window the layout's size, and the controls their places.
 void Form2::fitWindow() {
   fitted_ = layout_;
+  ownSizes_.add(clientSize(layout_));
   resize(clientSize(layout_));
   applyLayout();
-}
-
-/// At a fractional scale the window system may answer a requested size with one that is a pixel off.
-bool Form2::isFitted(const QSize& size) const {
-  const double scale = devicePixelRatioF();
-  const int slack = scale == std::floor(scale) ? 0 : 1;
-  const QSize off = size - clientSize(fitted_);
-  return std::abs(off.width()) <= slack && std::abs(off.height()) <= slack;
 }
 
 void Form2::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
   // The window system also reports sizes that the window gave itself, and late. These are laid out already.
-  if (isFitted(event->size())) {
+  if (ownSizes_.has(event->size(), devicePixelRatioF())) {
     layout_ = fitted_;
   } else {
     layOut(layout_, event->size().width() * controls::TwipsPerPixel + controls::FrameWidth,

@@ -10,6 +10,7 @@
 #include "themefiles/key_table.h"
 #include "toolwindow/listed_tags.h"
 #include "toolwindow/mark_placing.h"
+#include "toolwindow/own_sizes.h"
 #include "toolwindow/placed_controls.h"
 #include "toolwindow/tool_layout.h"
 #include "toolwindow/tool_services.h"
@@ -85,7 +86,6 @@ class Form2 : public QWidget {
   bool inEditorArea(const QWidget* control) const;
   void applyLayout() { placed_.place(layout_); }
   void fitWindow();
-  bool isFitted(const QSize& size) const;
 
   controls::ComboBox* const Combo1;     ///< the screens
   controls::ListBox* const List1;       ///< the screen's objects
@@ -101,6 +101,7 @@ class Form2 : public QWidget {
   std::unique_ptr<SavedMarking> marking_;
   ToolLayout layout_ = loadedLayout();
   ToolLayout fitted_;  ///< the layout of the size that the window last gave itself
+  OwnSizes ownSizes_;
 };
 
 }  // namespace toolwindow

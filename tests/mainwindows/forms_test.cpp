@@ -220,6 +220,29 @@ class FormsTest : public ProgramTest {
     compareText(u"Form2.txt"_s, states.lines);
   }
 
+  /// The window system may report a size that the window gave itself when it has given itself another one since.
+  void lateSizes() {
+    toolwindow::Form2& tools = program->tools();
+    program->tag(u"LoadingButtonGo"_s);
+    const QSize closed = tools.size();
+    const int height = tools.objects().height();
+    program->soleRow(u"X"_s, u"12"_s);
+    const QSize opened = tools.size();
+    QVERIFY(opened.height() > closed.height());
+    const auto report = [&](const QSize& size) {
+      QResizeEvent event(size, tools.size());
+      QApplication::sendEvent(&tools, &event);
+    };
+    report(closed);
+    program->tag(u"LoadingButtonGo"_s);
+    QCOMPARE(tools.objects().height(), height);
+    report(opened);
+    program->soleRow(u"X"_s, u"12"_s);
+    QCOMPARE(tools.objects().height(), height);
+    report(opened + QSize(0, 50));
+    QCOMPARE(tools.objects().height(), height + 50);
+  }
+
   void finder() {
     toolwindow::Form2& tools = program->tools();
     tools.activateWindow();
