@@ -13,7 +13,11 @@ namespace {
 /// The window that has the keyboard, once it has it.
 QWidget& activeWindow(const QWidget* expected) {
   const auto active = [&] { return QApplication::activeWindow() == expected; };
-  if (!QTest::qWaitFor(active, 20000)) qFatal("the window isn't active");
+  if (!QTest::qWaitFor(active, 20000)) {
+    const QWidget* other = QApplication::activeWindow();
+    const QString name = other == nullptr ? u"none"_s : other->windowTitle();
+    qFatal("%s is active, not %s", qPrintable(name), qPrintable(expected->windowTitle()));
+  }
   return *QApplication::activeWindow();
 }
 
