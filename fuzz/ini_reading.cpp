@@ -59,7 +59,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
   fuzz::require(findIniValue(file, section, key) == plainValue(file, section, key), "the fast way finds the same");
 
   QSet<QString> counted;
-  for (const OutlineSection& found : iniOutline(file)) {
+  const IniText text(file.toByteArray());
+  for (const OutlineSection& found : iniOutline(text)) {
     const QString name = upperCase(fromAnsi(found.name));
     const bool isFirst = !counted.contains(name);
     counted += name;

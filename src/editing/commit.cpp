@@ -141,7 +141,8 @@ bool runInRow(Session& session, const EditedRow& row,
 void showContents(Session& session) {
   const auto file = platform::readIfThere(session.state().paths.ThemeFile).value_or(QByteArray());
   const auto section = platform::toAnsi(session.section()).value_or(QByteArray());
-  for (const platform::IniLine& line : platform::iniLines(platform::IniSections(file).lines(section))) {
+  for (const platform::IniLine& line :
+       platform::iniLines(platform::findIniSection(file, section).value_or(QByteArrayView()))) {
     const QString key = themefiles::keyIdentity(platform::fromAnsi(line.key));
     const auto group = themefiles::groupOf(key);
     if (group == themefiles::KeyGroup::Color || group == themefiles::KeyGroup::Texture ||

@@ -56,8 +56,8 @@ void compareSection(const ComparedFile& file, QByteArrayView section, std::vecto
 /// The sections in which a file may differ: those of now in their order, then those that are gone.
 std::vector<QByteArrayView> sectionsOf(const ComparedFile& file) {
   if (!file.differs()) return {};
-  std::vector<QByteArrayView> names = platform::iniSectionNames(file.nowText);
-  for (const QByteArrayView name : platform::iniSectionNames(file.savedText)) {
+  std::vector<QByteArrayView> names = platform::iniSectionNames(file.now.text().bytes());
+  for (const QByteArrayView name : platform::iniSectionNames(file.saved.text().bytes())) {
     if (file.now.lines(name).isNull()) names.push_back(name);
   }
   std::reverse(names.begin(), names.end());  // they are taken from the end
@@ -106,7 +106,7 @@ bool Differences::step() {
   } else if (found_.empty() || isSorted_) {
     return false;
   } else if (!places_) {
-    places_.emplace(state_, files_.theme.nowText);
+    places_.emplace(state_, files_.theme.now.text());
   } else if (!places_->step()) {
     sort();
     isSorted_ = true;
@@ -179,8 +179,8 @@ std::vector<KeyPlace> differencesIn(const themefiles::ModuleState& state, const 
 
 QStringList objectsOfScreen(const themefiles::ModuleState& state, const QString& screen) {
   const ComparedFile theme(state, &ThemePaths::ThemeFile);
-  return themefiles::ScreenTags(theme.nowText).of(state, screen) +
-         themefiles::ScreenTags(theme.savedText).of(state, screen);
+  return themefiles::ScreenTags(theme.now.text()).of(state, screen) +
+         themefiles::ScreenTags(theme.saved.text()).of(state, screen);
 }
 
 std::vector<SavedLine> savedLines(const themefiles::ModuleState& state, const std::vector<KeyPlace>& places) {

@@ -58,7 +58,7 @@ Fits fitsOf(const KeyPlace& place) {
 }  // namespace
 
 Hit goalOf(const themefiles::ModuleState& state, const QString& screen, const KeyPlace& place) {
-  const QByteArray theme = platform::readFile(state.paths.ThemeFile);
+  const platform::IniText theme(platform::readFile(state.paths.ThemeFile));
   const themefiles::ScreenTags tags(theme);
   const auto rows = themefiles::allTags(theme);
   const Fits fits = fitsOf(place);

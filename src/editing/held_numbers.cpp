@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/ini_reading.h"
@@ -115,9 +114,8 @@ QPoint straight(const QPoint& movement) {
 
 HeldNumbers readHeld(const Session& session, const QString& object, Grip grip, const QString& heightKey) {
   themefiles::restoreCopy(session.state(), &themefiles::ThemePaths::ThemeFile, session.status());
-  const QByteArray file = platform::readFile(session.state().paths.ThemeFile);
-  const themefiles::SectionReader section(
-      file, platform::findIniSection(file, platform::toAnsi(object).value_or(QByteArray())));
+  const themefiles::SectionReader section(object,
+                                          platform::IniText(platform::readFile(session.state().paths.ThemeFile)));
   if (!section.isThere()) throw platform::Failure(QStringLiteral("its section is gone"));
   HeldNumbers numbers;
   numbers.heightKey = heightKey;

@@ -17,8 +17,8 @@ class ObjectPlaces {
     int order = 0;   ///< over all screens
   };
 
-  /// Refers to the bytes of `theme`.
-  ObjectPlaces(const themefiles::ModuleState& state, QByteArrayView theme) : state_(state), tags_(theme) {}
+  /// Refers to the text of `theme`.
+  ObjectPlaces(const themefiles::ModuleState& state, const platform::IniText& theme) : state_(state), tags_(theme) {}
 
   /// Lists the next screen; false when all are listed.
   bool step();

@@ -9,19 +9,18 @@ namespace {
 using themefiles::ThemePaths;
 
 /// The text that the next edit would change.
-QByteArray presentBytes(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
+platform::IniText presentText(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
   const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
-  return standing && !standing->isEmpty() ? *standing : state.ownCopies.at(themefiles::copyNumber(copy));
+  return platform::IniText(standing && !standing->isEmpty() ? *standing
+                                                            : state.ownCopies.at(themefiles::copyNumber(copy)));
 }
 
 }  // namespace
 
 ComparedFile::ComparedFile(const themefiles::ModuleState& state, QString ThemePaths::*of)
     : copy(of),
-      nowText(presentBytes(state, of)),
-      savedText(state.savedCopies.at(themefiles::copyNumber(of))),
-      now(nowText),
-      saved(savedText) {}
+      now(presentText(state, of)),
+      saved(platform::IniText(state.savedCopies.at(themefiles::copyNumber(of)))) {}
 
 ComparedFiles::ComparedFiles(const themefiles::ModuleState& state)
     : theme(state, &ThemePaths::ThemeFile),

@@ -14,10 +14,9 @@ struct ComparedFile {
   ComparedFile(const themefiles::ModuleState& state, QString themefiles::ThemePaths::*of);
   Q_DISABLE_COPY_MOVE(ComparedFile)
 
-  bool differs() const { return nowText != savedText; }
+  bool differs() const { return now.text().bytes() != saved.text().bytes(); }
 
   QString themefiles::ThemePaths::*const copy;
-  const QByteArray nowText, savedText;
   const platform::IniSections now, saved;
 };
 

@@ -87,7 +87,7 @@ bool ThemeReview::step() {
   } else if (!check_->isDone()) {
     check_->step();
   } else if (!places_) {
-    theme_ = platform::readFile(state.paths.ThemeFile);
+    theme_ = platform::IniText(platform::readFile(state.paths.ThemeFile));
     places_.emplace(state, theme_);
   } else if (!places_->step()) {
     publish();

@@ -71,7 +71,7 @@ class ThemeReview : public QObject {
   std::vector<Item> items_;
   std::array<QByteArray, 3> checked_;  ///< the working copies that were checked last
   std::unique_ptr<themecheck::ThemeCheck> check_;
-  QByteArray theme_;
+  platform::IniText theme_;
   std::optional<editing::ObjectPlaces> places_;  ///< in it
   controls::IdleSteps steps_;
 };

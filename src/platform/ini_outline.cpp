@@ -7,23 +7,17 @@
 
 namespace platform {
 
-std::vector<OutlineSection> iniOutline(QByteArrayView file) {
+std::vector<OutlineSection> iniOutline(const IniText& file) {
   std::vector<OutlineSection> sections;
-  const char* const end = file.end();
-  const char* next = nullptr;
   int number = 0;
-  for (const char* at = file.begin(); at != end; at = next) {
+  for (const QByteArrayView line : file.lines()) {
     ++number;
-    const char* const textEnd = ini::lineTextEnd(at, end);
-    next = ini::nextLine(textEnd, end);
-    const char* const head = std::find_if_not(at, textEnd, ini::isBlank);
-    if (head != textEnd && *head == '[') {
-      sections.push_back({ini::sectionName(head, textEnd).toByteArray(), number, {}});
+    const char* const head = std::find_if_not(line.begin(), line.end(), ini::isBlank);
+    if (head != line.end() && *head == '[') {
+      sections.push_back({ini::sectionName(head, line.end()), number, {}});
     } else if (!sections.empty()) {
-      const auto key = ini::KeyLines(at, next).next();
-      if (!key) continue;
-      const QByteArray value = unquoted(ini::trimmedValue(*key)).toByteArray();
-      sections.back().keys.push_back({key->key.toByteArray(), value, number});
+      const auto key = ini::KeyLines(line.begin(), line.end()).next();
+      if (key) sections.back().keys.push_back({key->key, unquoted(ini::trimmedValue(*key)), number});
     }
   }
   return sections;

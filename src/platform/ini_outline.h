@@ -2,24 +2,25 @@
 
 #include <vector>
 
-#include <QByteArray>
 #include <QByteArrayView>
+
+#include "platform/ini_text.h"
 
 namespace platform {
 
-// A section and a key line of an ini file. Lines count from 1.
+// A section and a key line of an ini file. They refer to its text. Lines count from 1.
 struct OutlineKey {
-  QByteArray name;
-  QByteArray value;  ///< as findIniValue gives it
+  QByteArrayView name;
+  QByteArrayView value;  ///< as findIniValue gives it
   int line = 0;
 };
 struct OutlineSection {
-  QByteArray name;
+  QByteArrayView name;
   int line = 0;
   std::vector<OutlineKey> keys;
 };
 
 /// All sections with all their keys in file order, duplicates included.
-std::vector<OutlineSection> iniOutline(QByteArrayView file);
+std::vector<OutlineSection> iniOutline(const IniText& file);
 
 }  // namespace platform

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 #include "platform/code_page.h"
 #include "platform/ini_lines.h"
@@ -106,7 +107,8 @@ const IniLine* lineOf(const std::vector<IniLine>& lines, QByteArrayView key) {
   return line == lines.end() ? nullptr : &*line;
 }
 
-IniSections::IniSections(QByteArrayView file) {
+IniSections::IniSections(IniText text) : text_(std::move(text)) {
+  const QByteArrayView file = text_.bytes();
   const char* const end = file.end();
   IniName name;
   const char* lines = nullptr;

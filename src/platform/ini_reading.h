@@ -7,6 +7,8 @@
 #include <QByteArrayView>
 #include <QHash>
 
+#include "platform/ini_text.h"
+
 /// Reads ini files as bytes: nothing here touches a file or keeps state between calls. The rules:
 /// - Names of sections and keys are compared regardless of case, within the code page.
 /// - Of equal names the first section counts, and in it the first key.
@@ -56,15 +58,17 @@ std::vector<IniLine> iniLines(QByteArrayView lines);
 /// The first line of the key, or null.
 const IniLine* lineOf(const std::vector<IniLine>& lines, QByteArrayView key);
 
-/// An index of a file's sections, for many look-ups. It refers to the file's bytes.
+/// A text with an index of its sections, for many look-ups.
 class IniSections {
  public:
-  explicit IniSections(QByteArrayView file);
+  explicit IniSections(IniText text);
+  const IniText& text() const { return text_; }
   /// The lines of that section up to the next one; a null view without it.
   QByteArrayView lines(QByteArrayView name) const;
 
  private:
-  QHash<IniName, QByteArrayView> sections_;
+  IniText text_;
+  QHash<IniName, QByteArrayView> sections_;  ///< in the text
 };
 
 }  // namespace platform

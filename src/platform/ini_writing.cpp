@@ -97,9 +97,9 @@ std::optional<QByteArray> setIniLine(QByteArrayView file, QByteArrayView section
   return setPart(file, section, key, line, Part::Line);
 }
 
-QByteArray setIniLines(QByteArrayView file, const std::vector<IniSetting>& settings) {
+QByteArray setIniLines(const QByteArray& file, const std::vector<IniSetting>& settings) {
   const QByteArray lineEnd = firstLineEnd(file);
-  const IniSections sections(file);
+  const IniSections sections{IniText(file)};
   std::vector<IniName> order;
   QHash<IniName, std::vector<const IniSetting*>> bySection;
   for (const IniSetting& each : settings) {

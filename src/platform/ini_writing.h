@@ -32,7 +32,7 @@ struct IniSetting {
 
 /// Sets whole lines, of which no two are of the same key, by the same rules, and returns the new file. New lines of a
 /// section come in the order in which they are given. A line that could never be found again is left out.
-QByteArray setIniLines(QByteArrayView file, const std::vector<IniSetting>& settings);
+QByteArray setIniLines(const QByteArray& file, const std::vector<IniSetting>& settings);
 
 /// Removes the key's line and returns the new file. None if there is no such key.
 std::optional<QByteArray> removeIniKey(QByteArrayView file, QByteArrayView section, QByteArrayView key);

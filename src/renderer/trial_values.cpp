@@ -28,7 +28,7 @@ TrialFiles::SeenFile& TrialFiles::seen(const QString& file) {
   if (!seen || !identity || seen->kept != identity) {
     const bool settled = identity && platform::isSettled(*identity);
     QByteArray bytes = themefiles::bytesOrNone(file);
-    if (!seen || seen->bytes != bytes) seen = std::make_unique<SeenFile>(std::move(bytes));
+    if (!seen || seen->file.text().bytes() != bytes) seen = std::make_unique<SeenFile>(std::move(bytes));
     seen->kept = settled && platform::identityIfSeen(file) == identity ? identity : std::nullopt;
   }
   seen->isOfThisFrame = true;
@@ -39,9 +39,7 @@ const themefiles::SectionReader& TrialFiles::section(const QString& name, const 
   SeenFile& all = seen(file);
   const auto known = all.readers.find(name);
   if (known != all.readers.end()) return known->second;
-  const auto bytes = platform::toAnsi(name);
-  const QByteArrayView lines = bytes ? all.sections.lines(*bytes) : QByteArrayView();
-  return all.readers.try_emplace(name, all.bytes, lines.isNull() ? std::nullopt : std::optional(lines)).first->second;
+  return all.readers.try_emplace(name, name, all.file).first->second;
 }
 
 const TrialValues* TrialFrame::valuesOf(const QString& section) const {

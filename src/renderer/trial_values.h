@@ -38,11 +38,10 @@ class TrialFiles {
 
  private:
   struct SeenFile {
-    explicit SeenFile(QByteArray all) : bytes(std::move(all)), sections(bytes) {}
+    explicit SeenFile(QByteArray bytes) : file(platform::IniText(std::move(bytes))) {}
     Q_DISABLE_COPY_MOVE(SeenFile)
 
-    QByteArray bytes;
-    platform::IniSections sections;
+    platform::IniSections file;
     std::map<QString, themefiles::SectionReader> readers;
     std::optional<platform::FileIdentity>
         kept;  ///< the file is the same as long as this is; none if that isn't certain

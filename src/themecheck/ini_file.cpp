@@ -8,7 +8,6 @@
 #include "platform/files.h"
 #include "platform/ini_outline.h"
 #include "platform/numbers.h"
-#include "platform/text_lines.h"
 
 namespace themecheck {
 namespace {
@@ -75,17 +74,15 @@ QString IniSection::value(const QString& key) const {
   return found ? found->value : QString();
 }
 
-IniFile::IniFile(CheckedFile file) : file_(std::move(file)), bytes_(platform::readFile(file_.path)) {
-  refuseWideLetters(bytes_);
-  platform::TextLines walk(bytes_);
-  while (const auto line = walk.next()) lines_.push_back(*line);
+IniFile::IniFile(CheckedFile file) : file_(std::move(file)), text_(platform::readFile(file_.path)) {
+  refuseWideLetters(text_.bytes());
   readSections();
   splitAtUnopenedHeads();
   enterNames();
 }
 
 void IniFile::readSections() {
-  for (const platform::OutlineSection& found : platform::iniOutline(bytes_)) {
+  for (const platform::OutlineSection& found : platform::iniOutline(text_)) {
     IniSection& section = sections_.emplace_back();
     section.name = platform::fromAnsi(found.name);
     section.line = found.line;
@@ -98,7 +95,7 @@ void IniFile::readSections() {
 
 /// What stands behind a head without its "[" isn't meant for the section before. That has only its own keys here.
 void IniFile::splitAtUnopenedHeads() {
-  for (int number = 1; number <= std::ssize(lines_); ++number) {
+  for (int number = 1; number <= std::ssize(lines()); ++number) {
     if (!isUnopenedHead(line(number))) continue;
     const auto behind = std::find_if(sections_.begin(), sections_.end(),
                                      [&](const IniSection& section) { return section.line > number; });
@@ -122,7 +119,7 @@ void IniFile::enterNames() {
 }
 
 QByteArrayView IniFile::line(int number) const {
-  return lines_.at(static_cast<size_t>(number - 1));
+  return lines().at(static_cast<size_t>(number - 1));
 }
 
 const IniSection* IniFile::find(const QString& section) const {
@@ -145,7 +142,7 @@ bool IniFile::has(const QString& section, const QString& key) const {
 }
 
 QString IniFile::sectionBehindMark() const {
-  const QByteArrayView first = lines_.empty() ? QByteArrayView() : lines_.front();
+  const QByteArrayView first = lines().empty() ? QByteArrayView() : lines().front();
   const QByteArrayView text = first.startsWith(ByteOrderMark) ? first.sliced(ByteOrderMark.size()) : QByteArrayView();
   if (!text.startsWith('[')) return {};
   return platform::fromAnsi(text.sliced(1, std::max<qsizetype>(text.indexOf(']'), 1) - 1));

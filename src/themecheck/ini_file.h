@@ -2,10 +2,11 @@
 
 #include <vector>
 
-#include <QByteArray>
+#include <QByteArrayView>
 #include <QHash>
 #include <QString>
 
+#include "platform/ini_text.h"
 #include "themecheck/findings.h"
 
 namespace themecheck {
@@ -52,7 +53,7 @@ class IniFile {
 
   const QString& name() const { return file_.name; }
   bool isChecked() const { return file_.isChecked; }
-  const std::vector<QByteArrayView>& lines() const { return lines_; }
+  const std::vector<QByteArrayView>& lines() const { return text_.lines(); }
   const std::vector<IniSection>& sections() const { return sections_; }
   /// The section that counts, by its name in any case; null without one.
   const IniSection* find(const QString& section) const;
@@ -79,8 +80,7 @@ class IniFile {
   QByteArrayView line(int number) const;
 
   CheckedFile file_;
-  QByteArray bytes_;
-  std::vector<QByteArrayView> lines_;  ///< of bytes_
+  platform::IniText text_;
   std::vector<IniSection> sections_;
   QHash<QString, qsizetype> byName_;
 };

@@ -24,7 +24,7 @@ QByteArray changedLines(const QByteArray& text, const std::vector<KeyedLine>& li
   settings.reserve(lines.size());
   for (const auto& [section, key, line] : lines) settings.push_back({nameBytes(section), nameBytes(key), line});
   const QByteArray changed = platform::setIniLines(text, settings);
-  const platform::IniSections written(changed);
+  const platform::IniSections written{platform::IniText(changed)};
   QHash<QByteArray, platform::IniKeys> keysOf;
   for (size_t i = 0; i < lines.size(); ++i) {
     const auto& [section, key, line] = settings.at(i);

@@ -82,8 +82,17 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
   return shown(found, Default, BufferSize);
 }
 
-SectionReader::SectionReader(const QString& Section, const QString& FileName) : file_(bytesOrNone(FileName)) {
-  if (const auto section = platform::toAnsi(Section)) lines_ = platform::findIniSection(file_, *section);
+SectionReader::SectionReader(const QString& Section, const QString& FileName)
+    : SectionReader(Section, platform::IniText(bytesOrNone(FileName))) {}
+
+SectionReader::SectionReader(const QString& Section, platform::IniText file) : file_(std::move(file)) {
+  if (const auto section = platform::toAnsi(Section)) lines_ = platform::findIniSection(file_.bytes(), *section);
+}
+
+SectionReader::SectionReader(const QString& Section, const platform::IniSections& file) : file_(file.text()) {
+  const auto section = platform::toAnsi(Section);
+  const QByteArrayView lines = section ? file.lines(*section) : QByteArrayView();
+  if (!lines.isNull()) lines_ = lines;
 }
 
 QString SectionReader::Value(const QString& Key, const QString& Default) const {

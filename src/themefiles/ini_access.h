@@ -32,14 +32,15 @@ QString GetINI(const QString& Section, const std::optional<QString>& Key, const 
 class SectionReader {
  public:
   SectionReader(const QString& Section, const QString& FileName);
-  /// For the lines of the section, if it is there, in the bytes of `file`.
-  SectionReader(QByteArray file, std::optional<QByteArrayView> lines) : file_(std::move(file)), lines_(lines) {}
+  /// The same in a file that was read already, for one section of it or for many.
+  SectionReader(const QString& Section, platform::IniText file);
+  SectionReader(const QString& Section, const platform::IniSections& file);
   /// Whether the file has the section.
   bool isThere() const { return lines_.has_value(); }
   QString Value(const QString& Key, const QString& Default = QString()) const;
 
  private:
-  QByteArray file_;
+  platform::IniText file_;
   std::optional<QByteArrayView> lines_;  ///< the section's lines in file_
   mutable bool asked_ = false;
   mutable std::vector<platform::IniLine> keys_;  ///< of these lines, once a second key is asked for

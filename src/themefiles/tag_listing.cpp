@@ -1,6 +1,7 @@
 #include "themefiles/tag_listing.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include <QScopeGuard>
 
@@ -80,11 +81,9 @@ bool SplitTags(const TagFilter& filter, const QString& Tag) {
   return leftOut;
 }
 
-ScreenTags::ScreenTags(QByteArrayView theme) {
-  platform::TextLines lines(theme);
-  while (const auto line = lines.next()) {
-    if (line->startsWith('[')) heads_.push_back(*line);
-  }
+ScreenTags::ScreenTags(const platform::IniText& theme) {
+  std::copy_if(theme.lines().begin(), theme.lines().end(), std::back_inserter(heads_),
+               [](QByteArrayView line) { return line.startsWith('['); });
 }
 
 QStringList ScreenTags::of(const ModuleState& state, const QString& screenName) const {

@@ -6,6 +6,7 @@
 #include <QByteArrayView>
 #include <QStringList>
 
+#include "platform/ini_text.h"
 #include "platform/status_line.h"
 #include "themefiles/module_state.h"
 
@@ -55,8 +56,8 @@ int listScreenTags(ModuleState& state, const QString& screenName, TagList& tags,
 /// The tags of any screen, as listScreenTags lists them. For many screens of one theme.
 class ScreenTags {
  public:
-  /// Refers to the bytes of `theme`.
-  explicit ScreenTags(QByteArrayView theme);
+  /// Refers to the text of `theme`.
+  explicit ScreenTags(const platform::IniText& theme);
   QStringList of(const ModuleState& state, const QString& screenName) const;
 
  private:

@@ -71,18 +71,17 @@ std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platfo
   return rows;
 }
 
-QHash<QString, std::vector<ValueRow>> allTags(QByteArrayView theme) {
+QHash<QString, std::vector<ValueRow>> allTags(const platform::IniText& theme) {
   QHash<QString, std::vector<ValueRow>> tags;
   std::vector<ValueRow>* rows = nullptr;
-  platform::TextLines lines(theme);
-  while (const auto line = lines.next()) {
-    if (line->startsWith('[')) {
+  for (const QByteArrayView line : theme.lines()) {
+    if (line.startsWith('[')) {
       rows = nullptr;
-      if (line->size() < 2 || !line->endsWith(']')) continue;
-      const QString name = platform::upperCase(platform::fromAnsi(line->sliced(1).chopped(1)));
+      if (line.size() < 2 || !line.endsWith(']')) continue;
+      const QString name = platform::upperCase(platform::fromAnsi(line.sliced(1).chopped(1)));
       if (!tags.contains(name)) rows = &tags[name];
-    } else if (rows != nullptr && isKeyLine(*line)) {
-      rows->push_back(rowOf(platform::fromAnsi(*line).split(u'=')));
+    } else if (rows != nullptr && isKeyLine(line)) {
+      rows->push_back(rowOf(platform::fromAnsi(line).split(u'=')));
     }
   }
   return tags;

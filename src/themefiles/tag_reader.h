@@ -2,10 +2,10 @@
 
 #include <vector>
 
-#include <QByteArrayView>
 #include <QHash>
 #include <QString>
 
+#include "platform/ini_text.h"
 #include "platform/status_line.h"
 #include "themefiles/module_state.h"
 
@@ -23,6 +23,6 @@ struct ValueRow {
 std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platform::StatusLine& status);
 
 /// The rows of all sections of a theme, by the section's name in upper case.
-QHash<QString, std::vector<ValueRow>> allTags(QByteArrayView theme);
+QHash<QString, std::vector<ValueRow>> allTags(const platform::IniText& theme);
 
 }  // namespace themefiles

@@ -32,12 +32,11 @@ bool ThemeSearch::has(const Line& line, const QString& word) {
 class ThemeSearch::Reading {
  public:
   explicit Reading(const ModuleState& state)
-      : theme_(platform::readFile(state.paths.ThemeFile)),
-        language_(platform::readFile(state.paths.LanguageFile)),
-        tags_(theme_),
-        rows_(allTags(theme_)),
-        sections_(theme_),
-        words_(platform::iniKeys(platform::IniSections(language_).lines("Text"))) {}
+      : theme_(platform::IniText(platform::readFile(state.paths.ThemeFile))),
+        language_(platform::IniText(platform::readFile(state.paths.LanguageFile))),
+        tags_(theme_.text()),
+        rows_(allTags(theme_.text())),
+        words_(platform::iniKeys(language_.lines("Text"))) {}
 
   const ScreenTags& tags() const { return tags_; }
   /// The lines of an object. Screens share them.
@@ -70,15 +69,14 @@ class ThemeSearch::Reading {
   /// The object's words in the language file, by its Text key or else by its name.
   QString wordsOf(const QString& object) const {
     const QByteArray name = platform::toAnsi(object).value_or(QByteArray());
-    const QByteArray key = platform::findIniValue(sections_.lines(name), "Text").value_or(name);
+    const QByteArray key = platform::findIniValue(theme_.lines(name), "Text").value_or(name);
     const platform::IniLine* line = key.isEmpty() ? nullptr : platform::lineOf(words_, key);
     return line == nullptr ? QString() : platform::fromAnsi(platform::unquoted(line->value));
   }
 
-  QByteArray theme_, language_;
+  platform::IniSections theme_, language_;
   ScreenTags tags_;
   QHash<QString, std::vector<ValueRow>> rows_;
-  platform::IniSections sections_;
   platform::IniKeys words_;
   QHash<QString, std::shared_ptr<const Lines>> lines_;
 };

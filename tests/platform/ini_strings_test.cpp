@@ -85,7 +85,7 @@ class IniStringsTest : public QObject {
 
   void sectionsAndLines() {
     const QByteArray file("k=0\n [ a\t]x\nk= \"v\" \nK=w\n[b\nj=1\n[A]\nk=2\n[\xE4nd \xFFmany More\xB5]\n[]\ne=");
-    const IniSections sections(file);
+    const IniSections sections{IniText(file)};
     for (const char* name : {"A", " b", "", "a\t", "c", "\xC4ND \x9FMany mORE\xB5", "\xC4ND \x9FMany"}) {
       const auto found = findIniSection(file, name);
       QCOMPARE(sections.lines(name).data(), found ? found->data() : nullptr);
