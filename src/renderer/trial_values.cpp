@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "platform/code_page.h"
+#include "platform/files.h"
 #include "platform/numbers.h"
+#include "platform/status_line.h"
 
 namespace renderer {
 
@@ -27,9 +29,11 @@ TrialFiles::SeenFile& TrialFiles::seen(const QString& file) {
   const auto identity = platform::identityIfSeen(file);
   if (!seen || !identity || seen->kept != identity) {
     const bool settled = identity && platform::isSettled(*identity);
-    QByteArray bytes = themefiles::bytesOrNone(file);
+    QByteArray bytes;
+    const bool isRead = platform::guardedSilently([&] { bytes = platform::readFile(file); });
     if (!seen || seen->file.text().bytes() != bytes) seen = std::make_unique<SeenFile>(std::move(bytes));
-    seen->kept = settled && platform::identityIfSeen(file) == identity ? identity : std::nullopt;
+    // What couldn't be read may be the next time, and the file is still the same.
+    seen->kept = isRead && settled && platform::identityIfSeen(file) == identity ? identity : std::nullopt;
   }
   seen->isOfThisFrame = true;
   return *seen;

@@ -60,8 +60,7 @@ std::optional<QByteArray> givenBack(const QByteArray& value) {
   return platform::findIniValue("[s]\nk=" + value, "s", "k");
 }
 
-}  // namespace
-
+/// The bytes of a file; empty if it can't be read.
 QByteArray bytesOrNone(const QString& fileName) {
   try {
     return platform::readFile(fileName);
@@ -69,6 +68,8 @@ QByteArray bytesOrNone(const QString& fileName) {
     return {};
   }
 }
+
+}  // namespace
 
 QString GetINI(const QString& Section, const std::optional<QString>& Key, const QString& Default,
                const QString& FileName, qint16 BufferSize) {

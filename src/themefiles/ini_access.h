@@ -18,9 +18,6 @@ namespace themefiles {
 inline constexpr qint16 ListBufferSize = 32000;
 inline constexpr qint16 ValueBufferSize = 256;
 
-/// The bytes of a file; empty if it can't be read.
-QByteArray bytesOrNone(const QString& fileName);
-
 /// The value of a key, cut to BufferSize - 1 characters. If file, section or key is missing, it is the Default without
 /// blanks at its end. Without a Key it is all keys of the section, each followed by a NUL, cut to BufferSize - 2
 /// characters. Reports no failure.

@@ -1,7 +1,13 @@
 #include "renderer/trial_drawing.h"
 
 #include <QTest>
+#include <QtGlobal>
 
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
+#include "platform/paths.h"
 #include "support/stage.h"
 #include "themefiles/ini_access.h"
 
@@ -85,6 +91,23 @@ class TrialDrawingTest : public QObject {
                        stage.account.objects.end(),
                        [](const auto& a, const auto& b) { return a.section == b.section && a.place == b.place; }));
   }
+
+#ifdef Q_OS_UNIX
+  /// A file that one frame can't read, for a want of descriptors, is read by the next, though it is the same.
+  void unreadForAFrame() {
+    const QString theme = platform::programPath(QStringLiteral(SAMPLE_FOLDER "/Themes/Stagelight.ini"));
+    QTRY_VERIFY(platform::isSettled(*platform::identityOf(theme)));
+    renderer::TrialFiles files;
+    rlimit usual{};
+    QVERIFY(::getrlimit(RLIMIT_NOFILE, &usual) == 0);
+    for (const rlim_t most : {rlim_t(0), usual.rlim_cur}) {
+      const rlimit now{most, usual.rlim_max};
+      QVERIFY(::setrlimit(RLIMIT_NOFILE, &now) == 0);
+      files.beginFrame();
+      QCOMPARE(files.section(u"Colors"_s, theme).isThere(), most != 0);
+    }
+  }
+#endif
 };
 
 QTEST_MAIN(TrialDrawingTest)
