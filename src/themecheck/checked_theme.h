@@ -75,39 +75,4 @@ class HeardReports : public platform::StatusLine {
   void showReport(const QString& /*text*/) override { heard = true; }
 };
 
-// The checks that draw nothing. Those further down go by what the ones before have found.
-
-/// Letters of another code than the game's. `table` is the section in which names are looked up.
-void checkLetters(const IniFile& file, const QString& table, Findings& findings);
-
-/// Lines of sections that the preview doesn't take for such. Blanks at their ends matter in a theme only.
-void checkHeads(const IniFile& file, bool isTheme, Findings& findings);
-
-/// Sections and keys that a file has more than once. `only` limits the keys to these names, in upper case.
-void checkDoubles(const IniFile& file, Findings& findings, const std::optional<QSet<QString>>& only = std::nullopt);
-
-/// Sections that no screen lists or that nothing draws.
-void checkSections(const CheckedTheme& theme, Findings& findings);
-
-/// The theme's colours: what is no colour, what no object uses, and more than there is room for.
-void checkColors(CheckedTheme& theme, Findings& findings);
-
-/// Textures of the skins, and the pictures in the folder.
-void checkSkins(CheckedTheme& theme, Findings& findings);
-
-/// Words that a language lacks.
-void checkWords(CheckedTheme& theme, Findings& findings);
-
-/// Names of colours and textures that the preview doesn't look up, and that are in no table. After the drawing.
-void checkGameNames(const CheckedTheme& theme, Findings& findings);
-
-/// Values that the editor of their key couldn't enter. After the drawing.
-void checkValues(const CheckedTheme& theme, Findings& findings);
-
-/// The keys of all words that the theme uses, in upper case.
-QSet<QString> wordsOf(const IniFile& theme);
-
-/// Words of a language that none of the themes uses.
-void checkUnusedWords(const IniFile& language, const QSet<QString>& used, Findings& findings);
-
 }  // namespace themecheck

@@ -1,8 +1,9 @@
+#include "themecheck/colours.h"
+
 #include <algorithm>
 
 #include "platform/code_page.h"
 #include "platform/numbers.h"
-#include "themecheck/checked_theme.h"
 #include "themefiles/colour_tables.h"
 
 namespace themecheck {

@@ -9,7 +9,9 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/paths.h"
+#include "themecheck/sections.h"
 #include "themecheck/theme_check.h"
+#include "themecheck/words.h"
 #include "themefiles/theme_paths.h"
 
 namespace themecheck {

@@ -1,5 +1,6 @@
+#include "themecheck/letters.h"
+
 #include "platform/code_page.h"
-#include "themecheck/checked_theme.h"
 
 namespace themecheck {
 namespace {

@@ -1,3 +1,5 @@
+#include "themecheck/sections.h"
+
 #include <map>
 
 #include <QRegularExpression>
@@ -6,7 +8,6 @@
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "renderer/object_passes.h"
-#include "themecheck/checked_theme.h"
 #include "themefiles/screen_table.h"
 #include "themefiles/tag_listing.h"
 

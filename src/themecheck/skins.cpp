@@ -1,3 +1,5 @@
+#include "themecheck/skins.h"
+
 #include <algorithm>
 #include <array>
 
@@ -9,7 +11,6 @@
 #include "platform/file_bytes.h"
 #include "platform/files.h"
 #include "platform/paths.h"
-#include "themecheck/checked_theme.h"
 
 namespace themecheck {
 namespace {
@@ -24,12 +25,12 @@ struct Picture {
   QString found;
 };
 
-/// All textures, each at its place in the first skin that has it.
 bool hasFile(const IniFile& skin, const QString& texture) {
   const IniSection* const textures = skin.find(Textures);
   return textures && !textures->value(texture).isEmpty();
 }
 
+/// All textures, each at its place in the first skin that has it.
 void checkLacking(const CheckedTheme& theme, Findings& findings) {
   QSet<QString> seen;
   for (const IniFile& skin : theme.skins) {

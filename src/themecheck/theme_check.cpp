@@ -4,6 +4,12 @@
 #include <utility>
 
 #include "platform/failure.h"
+#include "themecheck/colours.h"
+#include "themecheck/letters.h"
+#include "themecheck/sections.h"
+#include "themecheck/skins.h"
+#include "themecheck/values.h"
+#include "themecheck/words.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/screen_table.h"
 
@@ -58,7 +64,8 @@ void ThemeCheck::readTheme() {
   steps_.push_back({theme_.files.theme.name, [this] { checkFiles(); }});
 }
 
-/// A step for each check, as each may have to go through a long file.
+/// A step for each check, as each may have to go through a long file. Those further down go by what the ones before
+/// have found.
 void ThemeCheck::checkFiles() {
   themefiles::InitScreenTable(theme_.state);
   theme_.state = openState(theme_, {}, {});

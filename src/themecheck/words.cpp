@@ -1,7 +1,8 @@
+#include "themecheck/words.h"
+
 #include <algorithm>
 
 #include "platform/code_page.h"
-#include "themecheck/checked_theme.h"
 
 namespace themecheck {
 namespace {
