@@ -1,12 +1,9 @@
 #include "toolwindow/tool_window.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <QCloseEvent>
-#include <QGroupBox>
 #include <QKeyEvent>
-#include <QPushButton>
 
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
@@ -17,13 +14,10 @@
 #include "platform/failure.h"
 #include "themefiles/module_state.h"
 #include "themefiles/screen_table.h"
-#include "toolwindow/colour_frame.h"
-#include "toolwindow/number_frames.h"
 #include "toolwindow/object_menu.h"
-#include "toolwindow/reference_frame.h"
 #include "toolwindow/saved_marking.h"
 #include "toolwindow/saved_menus.h"
-#include "toolwindow/selection_frame.h"
+#include "toolwindow/value_frame.h"
 
 namespace toolwindow {
 namespace {
@@ -52,7 +46,7 @@ Form2::Form2(ToolServices given, QWidget* owner)
       Combo1(new controls::ComboBox(this)),
       List1(new controls::ListBox(controls::ListBox::Order::Sorted, this)),
       ListView1(new controls::ListView(this)),
-      Frame1(new QGroupBox(QStringLiteral("Edit Value"), this)),
+      area_(services, placed_, this),
       tags_(*List1),
       markPlacing_(services) {
   build();
@@ -72,21 +66,7 @@ void Form2::build() {
   placed_.add(*Combo1, &ToolLayout::Combo1, "Combo1", "Screen");
   placed_.add(*List1, &ToolLayout::List1, "List1", "Objects of the screen");
   placed_.add(*ListView1, &ToolLayout::ListView1, "ListView1", "Keys of the object");
-  placed_.add(*Frame1, &ToolLayout::Frame1, "Frame1");
-  // In the order of EditorFrame, which is also that of the Tab key: Update comes behind every editor.
-  using editing::ReferenceKind;
-  frames_ = {new NumberFrame(services, placed_, Frame1),
-             new DecimalFrame(services, placed_, Frame1),
-             new SelectionFrame(services, placed_, Frame1),
-             new ColorFrame(services, placed_, Frame1),
-             new ReferenceFrame(ReferenceKind::Texture, services, placed_, Frame1),
-             new ReferenceFrame(ReferenceKind::Text, services, placed_, Frame1)};
-  Command1 = new QPushButton(QStringLiteral("&Update"), this);
-  placed_.add(*Command1, &ToolLayout::Command1, "Command1");
   for (QWidget* control : std::initializer_list<QWidget*>{Combo1, List1, ListView1}) control->setEnabled(false);
-  HideEditorFrames();
-  Frame1->hide();
-  Command1->hide();
   themefiles::ModuleState& state = services.session.state();
   themefiles::InitScreenTable(state);
   for (const themefiles::ScreenRow& row : state.ScreenTable) {
@@ -117,8 +97,8 @@ void Form2::connectLists() {
     const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
     return group && isNumber(themefiles::rowOf(*group).frame);
   });
-  connect(Command1, &QPushButton::clicked, this, &Form2::Command1_Click);
-  for (const ValueFrame* frame : frames_) connect(frame, &ValueFrame::enterPressed, this, &Form2::enterPressed);
+  connect(&area_, &EditorArea::updateWanted, this, &Form2::Command1_Click);
+  connect(&area_, &EditorArea::leaveWanted, ListView1, [this] { ListView1->setFocus(); });
 }
 
 void Form2::connectSession() {
@@ -160,27 +140,9 @@ void Form2::goTo(const themefiles::Hit& hit) {
   services.session.goTo(hit);
 }
 
-QString Form2::untaken() const {
-  for (const ValueFrame* frame : frames_) {
-    const QString changes = frame->untaken();
-    if (!changes.isEmpty()) return QStringLiteral("not taken over: ") + changes;
-  }
-  return {};
-}
-
-/// What the user has changed in an editor is lost: says so behind all that the running work has to report.
-void Form2::dropChanges() {
-  const QString lost = untaken();
-  for (ValueFrame* frame : frames_) frame->settleChanges();
-  if (lost.isEmpty()) return;
-  const auto scope = std::make_shared<platform::ReportScope>(services.session.status());
-  services.session.status().note(lost);
-  services.queue.runOutside([scope] {});
-}
-
 /// Shows the values of another object. An open editor was that of a row that is gone.
 void Form2::showValues(const std::vector<themefiles::ValueRow>& rows) {
-  dropChanges();
+  area_.dropChanges();
   ListView1->clearRows();
   for (const themefiles::ValueRow& row : rows) ListView1->addRow(row.Item, row.Value);
   if (services.session.state().EditorShown) closeEditorFrame();
@@ -210,14 +172,14 @@ void Form2::chooseRow(const themefiles::Hit& hit) {
 /// editor fits. A value that the editor can't show is reported, and all frames stay hidden.
 void Form2::ListView1_ItemClick(int row) {
   platform::guarded(services.session.status(), editing::ReadStep.toString(), [&] {
-    dropChanges();
+    area_.dropChanges();
     HideEditorFrames();
     const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
     if (group) {
       const QString value = ListView1->subItem(row);
       if (value.size() > editing::LongestValue) throw platform::Failure(editing::tooLongText(ListView1->rowText(row)));
       const themefiles::GroupRow& groupRow = themefiles::rowOf(*group);
-      frameOf(groupRow.frame)->open(groupRow, ListView1->rowText(row), value);
+      area_.frameOf(groupRow.frame).open(groupRow, ListView1->rowText(row), value);
       ShowEditorFrame(groupRow.frame);
     } else if (services.session.state().EditorShown) {
       closeEditorFrame();
@@ -229,15 +191,8 @@ void Form2::ListView1_ItemClick(int row) {
 void Form2::enterEditor(int row, const QString& typed) {
   const auto group = themefiles::groupOf(themefiles::keyIdentity(ListView1->rowText(row)));
   if (!group) return;
-  ValueFrame* const frame = frameOf(themefiles::rowOf(*group).frame);
-  if (frame->isVisible()) frame->enter(typed);
-}
-
-/// Enter in an editor is Update. If the user hasn't changed anything there, it only goes back to the grid.
-void Form2::enterPressed() {
-  const auto touched = [](const ValueFrame* frame) { return frame->touched(); };
-  if (std::any_of(frames_.begin(), frames_.end(), touched)) return Command1_Click();
-  ListView1->setFocus();
+  ValueFrame& frame = area_.frameOf(themefiles::rowOf(*group).frame);
+  if (frame.isVisible()) frame.enter(typed);
 }
 
 editing::EditedRow Form2::editedRow(int row) const {
@@ -247,11 +202,9 @@ editing::EditedRow Form2::editedRow(int row) const {
 /// Update. The editor is the one of the selected row's key, whatever frame is open.
 void Form2::Command1_Click() {
   services.session.settle();
-  const bool done = editing::commitRow(services.session, editedRow(services.session.row()), [this](EditorFrame frame) {
-    proposing_ = frameOf(frame);
-    return proposing_->proposal();
-  });
-  proposing_ = nullptr;
+  const bool done = editing::commitRow(services.session, editedRow(services.session.row()),
+                                       [this](EditorFrame frame) { return area_.propose(frame); });
+  area_.proposalEnded();
   if (done) ListView1->setFocus();
 }
 
@@ -259,7 +212,7 @@ void Form2::Command1_Click() {
 /// stays.
 void Form2::showWritten(int row, const QString& key, const QString& value) {
   if (row >= 0) {
-    if (ValueFrame* const frame = std::exchange(proposing_, nullptr)) frame->settleChanges();
+    area_.proposalWritten();
     return ListView1->setSubItem(row, value);
   }
   const int first = firstRowOf(*ListView1, key);
@@ -280,11 +233,9 @@ void Form2::showPutBack(int row) {
 
 /// Opens the editor area with the frame, or moves on to another frame: the window grows at the bottom.
 void Form2::ShowEditorFrame(EditorFrame frame) {
-  frameOf(frame)->show();
+  area_.show(frame);
   services.session.state().EditorShown = true;
-  layOutOpening(layout_, placed_.placeOf(*frameOf(frame), layout_));
-  Frame1->show();
-  Command1->show();
+  layOutOpening(layout_, placed_.placeOf(area_.frameOf(frame), layout_));
   fitWindow();
 }
 
@@ -293,20 +244,15 @@ void Form2::closeEditorFrame() {
   services.session.state().EditorShown = false;
   layOutClosing(layout_);
   HideEditorFrames();
-  Frame1->hide();
-  Command1->hide();
+  area_.hide();
   fitWindow();
-}
-
-bool Form2::inEditorArea(const QWidget* control) const {
-  return control != nullptr && (control == Command1 || Frame1->isAncestorOf(control));
 }
 
 /// Hides the six frames. If a control of the editor area has the focus, the grid gets it.
 void Form2::HideEditorFrames() {
   // Otherwise the toolkit would give the focus to the next control.
-  if (inEditorArea(focusWidget())) ListView1->setFocus();
-  for (ValueFrame* frame : frames_) frame->hide();
+  if (area_.has(focusWidget())) ListView1->setFocus();
+  area_.hideFrames();
 }
 
 /// Gives the window the layout's size, and the controls their places.
@@ -339,14 +285,8 @@ void Form2::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) return services.session.endGroup();
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   QWidget* const focus = focusWidget();
-  if (!enter || !inEditorArea(focus)) return QWidget::keyPressEvent(event);
-  if (event->isAutoRepeat()) return;
-  auto* const button = qobject_cast<QPushButton*>(focus);
-  if (button != nullptr) {
-    button->click();
-  } else {
-    enterPressed();
-  }
+  if (!enter || !area_.has(focus)) return QWidget::keyPressEvent(event);
+  if (!event->isAutoRepeat()) area_.pressEnter(focus);
 }
 
 }  // namespace toolwindow

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <memory>
 
 #include <QWidget>
@@ -8,15 +7,13 @@
 #include "editing/commit.h"
 #include "editing/session.h"
 #include "themefiles/key_table.h"
+#include "toolwindow/editor_area.h"
 #include "toolwindow/listed_tags.h"
 #include "toolwindow/mark_placing.h"
 #include "toolwindow/own_sizes.h"
 #include "toolwindow/placed_controls.h"
 #include "toolwindow/tool_layout.h"
 #include "toolwindow/tool_services.h"
-
-class QGroupBox;
-class QPushButton;
 
 namespace controls {
 class ComboBox;
@@ -27,7 +24,6 @@ class ListView;
 namespace toolwindow {
 
 class SavedMarking;
-class ValueFrame;
 
 /// The tool window: the choice of screen and object, the values of the object, and the editor of one value. It shows
 /// what the session tells and passes on what the user does. It floats over the main window while a theme is open; its
@@ -52,7 +48,7 @@ class Form2 : public QWidget {
   /// Goes to a search hit, with the focus on what it has found.
   void goTo(const themefiles::Hit& hit);
   /// What the user has changed in an editor and not taken over: "not taken over: X = 450"; empty for nothing.
-  QString untaken() const;
+  QString untaken() const { return area_.untaken(); }
 
   const ToolLayout& layout() const { return layout_; }
 
@@ -70,8 +66,6 @@ class Form2 : public QWidget {
   void Command1_Click();
   void ListView1_ItemClick(int row);
   void enterEditor(int row, const QString& typed);
-  void enterPressed();
-  void dropChanges();
   editing::EditedRow editedRow(int row) const;
   void showValues(const std::vector<themefiles::ValueRow>& rows);
   void showWritten(int row, const QString& key, const QString& value);
@@ -79,24 +73,19 @@ class Form2 : public QWidget {
   void chooseRow(const themefiles::Hit& hit);
   void showPutBack(int row);
 
-  ValueFrame* frameOf(themefiles::EditorFrame frame) const { return frames_.at(static_cast<size_t>(frame)); }
   void ShowEditorFrame(themefiles::EditorFrame frame);
   void closeEditorFrame();
   void HideEditorFrames();
-  bool inEditorArea(const QWidget* control) const;
   void applyLayout() { placed_.place(layout_); }
   void fitWindow();
 
   controls::ComboBox* const Combo1;     ///< the screens
   controls::ListBox* const List1;       ///< the screen's objects
   controls::ListView* const ListView1;  ///< the object's keys and values
-  QGroupBox* const Frame1;              ///< the editor area
-  QPushButton* Command1 = nullptr;      ///< Update
 
   PlacedControls placed_;
-  std::array<ValueFrame*, static_cast<size_t>(themefiles::EditorFrame::Texts) + 1> frames_{};  ///< by EditorFrame
-  ValueFrame* proposing_ = nullptr;  ///< what it proposes is being written
-  ListedTags tags_;                  ///< List1, as the session and the renderer see it
+  EditorArea area_;
+  ListedTags tags_;  ///< List1, as the session and the renderer see it
   MarkPlacing markPlacing_;
   std::unique_ptr<SavedMarking> marking_;
   ToolLayout layout_ = loadedLayout();
