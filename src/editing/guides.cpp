@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include <QStringList>
+
 namespace editing {
 namespace {
 
@@ -44,6 +46,13 @@ struct Meeting {
 };
 
 }  // namespace
+
+QString metText(const std::vector<GuideLine>& lines) {
+  QStringList names;
+  for (const GuideLine& line : lines) names += line.name;
+  names.removeDuplicates();
+  return names.isEmpty() ? QString() : QStringLiteral(", at ") + names.join(QStringLiteral(" and "));
+}
 
 Guides::Guides(std::vector<Guide> guides, const QRect& held, Grip grip)
     : guides_(std::move(guides)), held_(held), grip_(grip) {}

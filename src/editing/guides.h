@@ -33,6 +33,9 @@ struct MetMovement {
   std::vector<GuideLine> lines;
 };
 
+/// What the lines meet, as the label beside the hand goes on: ", at MainStatic and the picture". Empty without any.
+QString metText(const std::vector<GuideLine>& lines);
+
 /// One drag and its guides.
 class Guides {
  public:

@@ -1,8 +1,6 @@
 #include "mainwindows/preview_hand.h"
 
 #include <algorithm>
-#include <array>
-#include <chrono>
 #include <cmath>
 
 #include <QApplication>
@@ -20,35 +18,13 @@
 
 namespace mainwindows {
 
-using editing::Grip;
-
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr int DragDistance = 4;  // pixels either way
-constexpr auto KeysRestTime = 333ms;
-constexpr int LongStep = 10;
-constexpr Grip SizingKeys{1, 1};  // Ctrl and an arrow
-
-struct Arrow {
-  int key;
-  QPoint step;
-};
-constexpr auto Arrows = std::to_array<Arrow>(
-    {{Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}});
 
 QPoint pixelOf(const QMouseEvent& event) {
   const QPointF place = event.position();
   return {static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y()))};
-}
-
-/// Whether the selected object, or another one of its group, lies under a pixel.
-bool isHeld(const Form1& form, const QPoint& pixel) {
-  const QStringList& members = form.session().members();
-  return selectedAt(form, pixel).under || std::any_of(members.begin(), members.end(), [&](const QString& member) {
-           return drawnPlace(form, member).value_or(QRect()).contains(pixel);
-         });
 }
 
 }  // namespace
@@ -62,14 +38,9 @@ PreviewHand::PreviewHand(Form1& form)
                 mouse_ += by;
                 drag(keys_);
               }),
+      arrows_(this, [this] { settle(); }),
       pacer_([this] { showFrame(); }) {
   qApp->installEventFilter(this);
-  rest_.setObjectName(QStringLiteral("KeysAtRest"));
-  rest_.setSingleShot(true);
-  rest_.setInterval(KeysRestTime);
-  rest_.callOnTimeout([this] {
-    if (heldKeys_.isEmpty()) settle();
-  });
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (state != Qt::ApplicationActive) settle();
   });
@@ -105,7 +76,7 @@ void PreviewHand::letGo() {
   end();
   naming_.stop();
   held_.letGo();
-  heldKeys_.clear();
+  arrows_.forget();
   form_.Workspace->unsetCursor();
   form_.Workspace->setFocusPolicy(Qt::NoFocus);
   form_.Workspace->clearFocus();
@@ -138,7 +109,7 @@ bool PreviewHand::eventFilter(QObject* watched, QEvent* event) {
       return false;
     case QEvent::FocusOut:
     case QEvent::WindowDeactivate:
-      heldKeys_.clear();
+      arrows_.forget();
       settle();
       return false;
     default:
@@ -165,7 +136,7 @@ bool PreviewHand::press(const QMouseEvent& event) {
   pressed_ = mouse_ = pixelOf(event);
   const bool free = event.buttons() == Qt::LeftButton && !form_.queue().busy();
   joins_ = event.modifiers() == Qt::ShiftModifier;
-  onHeld_ = free && isHeld(form_, pressed_);
+  onHeld_ = free && isGroupAt(form_, pressed_);
   if ((joins_ || onHeld_ || pick(pressed_)) && free) stage_ = Stage::Pressed;
   return true;
 }
@@ -251,7 +222,7 @@ bool PreviewHand::release(const QMouseEvent& event) {
 void PreviewHand::hover(const QPoint& place, bool free) {
   if (!free) return;
   if (stage_ == Stage::None) naming_.pointerAt(place);
-  const bool onHeld = !form_.queue().busy() && isHeld(form_, place);
+  const bool onHeld = !form_.queue().busy() && isGroupAt(form_, place);
   const Qt::CursorShape shape =
       onHeld ? editing::shapeOf(editing::gripAt(selectedAt(form_, place).place, place)) : Qt::ArrowCursor;
   if (form_.Workspace->cursor().shape() != shape) form_.Workspace->setCursor(shape);
@@ -268,33 +239,30 @@ bool PreviewHand::keyPress(const QKeyEvent& event) {
     }
     return true;
   }
-  const auto* const found =
-      std::find_if(Arrows.begin(), Arrows.end(), [&](const Arrow& arrow) { return arrow.key == event.key(); });
-  if (found == Arrows.end() || (event.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
-  if (stage_ == Stage::None || stage_ == Stage::Keys) arrow(event, found->step);
+  const auto step = ArrowKeys::stepOf(event);
+  if (!step) return false;
+  if (stage_ == Stage::None || stage_ == Stage::Keys) arrow(event, *step);
   return true;
 }
 
-void PreviewHand::arrow(const QKeyEvent& event, const QPoint& step) {
-  const Grip grip = (event.modifiers() & Qt::ControlModifier) != 0 ? SizingKeys : Grip();
+void PreviewHand::arrow(const QKeyEvent& event, const ArrowStep& step) {
   // Committing serves events: a key among them may have begun anew, or the mouse taken over.
-  while (stage_ == Stage::Keys && grip != held_.grip()) settle();
+  while (stage_ == Stage::Keys && step.grip != held_.grip()) settle();
   const bool free = stage_ == Stage::None || stage_ == Stage::Keys;
   if (!free || !form_.session().isOpen()) return;
   // What height a button is drawn with is known when it has been drawn.
-  if (stage_ == Stage::None && grip.sizes() && form_.queue().busy()) return;
-  if (stage_ == Stage::None && !held_.take(grip, !event.isAutoRepeat())) return;
+  if (stage_ == Stage::None && step.grip.sizes() && form_.queue().busy()) return;
+  if (stage_ == Stage::None && !held_.take(step.grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
-  heldKeys_.insert(event.key());
-  held_.moveOn((event.modifiers() & Qt::ShiftModifier) != 0 ? step * LongStep : step);
-  rest_.start();
+  arrows_.press(event.key());
+  held_.moveOn(step.by);
   pacer_.request();
 }
 
 void PreviewHand::keyRelease(const QKeyEvent& event) {
   if (event.isAutoRepeat()) return;
-  heldKeys_.remove(event.key());
-  if (stage_ == Stage::Keys && heldKeys_.isEmpty() && !rest_.isActive()) settle();
+  arrows_.release(event.key());
+  if (stage_ == Stage::Keys && arrows_.areAtRest()) settle();
 }
 
 /// Draws a frame with the values on trial. If a drawing is running, it comes after that.
@@ -304,12 +272,8 @@ void PreviewHand::showFrame() {
   held_.showFrame();
   const bool drags = stage_ == Stage::Dragging;
   const QRect mark = form_.Workspace->markRect();
-  QStringList names;
-  for (const editing::GuideLine& line : met_) names += line.name;
-  names.removeDuplicates();
-  const QString at = names.isEmpty() ? QString() : QStringLiteral(", at ") + names.join(QStringLiteral(" and "));
   form_.Workspace->setGuideLines(met_);
-  form_.Workspace->setHandLabel(held_.label() + at, drags ? mouse_ : mark.bottomRight());
+  form_.Workspace->setHandLabel(held_.label() + editing::metText(met_), drags ? mouse_ : mark.bottomRight());
   if (!drags) Q_EMIT form_.Workspace->watched(held_.grip().sizes() ? mark.bottomRight() : mark.topLeft());
 }
 

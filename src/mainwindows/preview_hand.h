@@ -2,10 +2,9 @@
 
 #include <QMouseEvent>
 #include <QObject>
-#include <QSet>
-#include <QTimer>
 
 #include "controls/frame_pacer.h"
+#include "mainwindows/arrow_keys.h"
 #include "mainwindows/held_objects.h"
 #include "mainwindows/preview_naming.h"
 #include "mainwindows/preview_picking.h"
@@ -57,7 +56,7 @@ class PreviewHand : public QObject {
   bool release(const QMouseEvent& event);
   bool keyPress(const QKeyEvent& event);
   void keyRelease(const QKeyEvent& event);
-  void arrow(const QKeyEvent& event, const QPoint& step);
+  void arrow(const QKeyEvent& event, const ArrowStep& step);
   void drag(Qt::KeyboardModifiers keys);
   void hover(const QPoint& place, bool free);
   bool pick(const QPoint& place);
@@ -85,8 +84,7 @@ class PreviewHand : public QObject {
   editing::Guides guides_;
   std::vector<editing::GuideLine> met_;
   PreviewScroll scroll_;
-  QSet<int> heldKeys_;
-  QTimer rest_{this};  ///< runs out when the keys have rested
+  ArrowKeys arrows_;
   controls::FramePacer pacer_;
 };
 

@@ -50,6 +50,13 @@ SelectedObject selectedAt(const Form1& form, const QPoint& pixel) {
   return selected;
 }
 
+bool isGroupAt(const Form1& form, const QPoint& pixel) {
+  const QStringList& members = form.session().members();
+  return selectedAt(form, pixel).under || std::any_of(members.begin(), members.end(), [&](const QString& member) {
+           return drawnPlace(form, member).value_or(QRect()).contains(pixel);
+         });
+}
+
 std::optional<QRect> drawnPlace(const Form1& form, const QString& name) {
   const renderer::DrawnObject* const drawn = drawnObject(form, name);
   return drawn == nullptr ? std::nullopt : std::optional(drawn->place);

@@ -25,6 +25,9 @@ struct SelectedObject {
 /// theme open.
 SelectedObject selectedAt(const Form1& form, const QPoint& pixel);
 
+/// Whether the selected object, or another one of its group, lies under a pixel. Only with a theme open.
+bool isGroupAt(const Form1& form, const QPoint& pixel);
+
 /// An object of the screen, by its name.
 SelectedObject objectNamed(const Form1& form, const QString& name);
 
