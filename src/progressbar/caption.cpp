@@ -33,6 +33,7 @@ constexpr std::array<Copy, 4> Effects[] = {
     {{{Copy::Effect, 1, 0}, {Copy::Effect, -1, 0}, {Copy::Effect, 0, -1}, {Copy::Effect, 0, 1}}},
     {{{Copy::Effect, 1, 1}}},
 };
+static_assert(std::size(Effects) == 5, "an effect was added or lost");
 
 constexpr int Rows = 3;
 constexpr int LastAlignment = 9;

@@ -72,6 +72,7 @@ constexpr Palette Palettes[] = {
      {rgb(26, 228, 26), rgb(217, 244, 217)},
      rgb(188, 184, 188)},
 };
+static_assert(std::size(Palettes) == CustomTheme - 1);
 
 quint32 lighter(quint32 color, quint32 by) {
   const auto channel = [&](int shift) { return std::min((color >> shift & 0xFF) + by, Brightest); };
