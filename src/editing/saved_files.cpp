@@ -10,9 +10,9 @@ using themefiles::ThemePaths;
 
 /// The text that the next edit would change.
 platform::IniText presentText(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
-  const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
-  return platform::IniText(standing && !standing->isEmpty() ? *standing
-                                                            : state.ownCopies.at(themefiles::copyNumber(copy)));
+  const auto present = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
+  return platform::IniText(present && !present->isEmpty() ? *present
+                                                          : state.ownCopies.at(themefiles::copyNumber(copy)));
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ void Session::chooseObject(Chooser chooser) {
   if (!isOpen()) return;  // what came to its end may have served events
   endGroup();
   row_ = -1;
-  const platform::ReportScope telling(status_);
+  const platform::ReportScope scope(status_);
   Q_EMIT valuesRead(themefiles::ReadTag(state_, object(), status_));
   Q_EMIT markWanted(chooser == Chooser::User ? MarkReason::Picked : MarkReason::Listed);
   Q_EMIT objectChosen();

@@ -124,7 +124,7 @@ std::optional<QString> addColor(Session& session, const QString& name) {
   QString replaced;
   const bool read = platform::guarded(
       status, AddStep.toString(), [&] { replaced = themefiles::wholeValue(section(), name, state.paths.ThemeFile); });
-  const platform::ReportScope telling(status);
+  const platform::ReportScope scope(status);
   if (!read || !write(session, AddStep, name, newColor())) return std::nullopt;
   if (row->Name.isEmpty()) row->Name = name;
   setRowsLike(session, name, newColor());

@@ -68,7 +68,7 @@ void spread(std::vector<Arranged>& group, bool across) {
   }
 }
 
-void wish(std::vector<Arranged>& group, Arrangement arrangement) {
+void setWanted(std::vector<Arranged>& group, Arrangement arrangement) {
   if (arrangement == Arrangement::GapsAcross || arrangement == Arrangement::GapsDown) {
     return spread(group, arrangement == Arrangement::GapsAcross);
   }
@@ -111,7 +111,7 @@ std::vector<std::pair<QString, QString>> valuesOf(const editing::Session& sessio
 void arrange(Form1& form, Arrangement arrangement) {
   editing::Session& session = form.session();
   if (!session.isOpen() || session.members().isEmpty()) return;
-  const platform::ReportScope telling(form);
+  const platform::ReportScope scope(form);
   const auto stays = [&](const QString& section, const QString& cause) {
     form.note(platform::reportText(QStringLiteral("%1 stays as it is").arg(section), cause));
   };
@@ -130,7 +130,7 @@ void arrange(Form1& form, Arrangement arrangement) {
   }
   std::vector<renderer::TrialValues> changes;
   platform::guarded(form, QStringLiteral("All stays as it is"), [&] {
-    wish(group, arrangement);
+    setWanted(group, arrangement);
     for (const Arranged& one : group) {
       // The texts of a button that moves come along.
       if (one.object.section != names.front() && goesAlong(form, one.object.section, names.mid(1))) continue;

@@ -52,7 +52,7 @@ void Editor::connectSession() {
   QObject::connect(&session, &Session::settling, &form, [this] { hand_.settle(); });
   QObject::connect(&session, &Session::objectChosen, &form, [this] { hand_.showChosen(); });
   QObject::connect(&session, &Session::membersChanged, &form, [this] {
-    if (form.session().isOpen()) hand_.settle();
+    if (form.session().isOpen()) form.session().settle();
     showGroupFrames(form, form.account());
     groupReport_.tell();
   });

@@ -17,7 +17,7 @@ bool HeldObjects::take(editing::Grip grip, bool tells) {
   held_.clear();
   grip_ = grip;
   names_ = groupOf(session);
-  telling_ = std::make_unique<platform::ReportScope>(form_);
+  scope_ = std::make_unique<platform::ReportScope>(form_);
   for (const QString& name : grip.sizes() ? names_.mid(0, 1) : names_) {
     if (goesAlong(form_, name, names_)) continue;
     const SelectedObject object = objectNamed(form_, name);
@@ -31,7 +31,7 @@ bool HeldObjects::take(editing::Grip grip, bool tells) {
       stays(held.section, *cause);
     }
   }
-  if (held_.empty()) telling_.reset();
+  if (held_.empty()) scope_.reset();
   return !held_.empty();
 }
 
@@ -80,7 +80,7 @@ void HeldObjects::showFrame() {
 }
 
 void HeldObjects::commit() {
-  const auto telling = std::exchange(telling_, nullptr);
+  const auto scope = std::exchange(scope_, nullptr);
   std::vector<renderer::TrialValues> changes;
   for (const Held& held : held_) {
     const auto values = editing::changedValues(held.start, held.now);
@@ -100,13 +100,13 @@ void HeldObjects::commit() {
 
 void HeldObjects::giveUp() {
   held_.clear();
-  telling_.reset();
+  scope_.reset();
   trial_.putBack();
 }
 
 void HeldObjects::letGo() {
   held_.clear();
-  telling_.reset();
+  scope_.reset();
   trial_.forget();
 }
 

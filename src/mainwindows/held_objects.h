@@ -60,8 +60,8 @@ class HeldObjects {
   Form1& form_;
   editing::Grip grip_;
   std::vector<Held> held_;
-  QStringList names_;                               ///< of the selected object and the group when they were taken
-  std::unique_ptr<platform::ReportScope> telling_;  ///< keeps what is noted meanwhile for the commit
+  QStringList names_;                             ///< of the selected object and the group when they were taken
+  std::unique_ptr<platform::ReportScope> scope_;  ///< keeps what is noted meanwhile for the commit
   TrialPicture trial_;
 };
 

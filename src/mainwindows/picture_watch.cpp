@@ -101,8 +101,8 @@ void PictureWatch::watchAnew() {
   addPlaces(places, skinFolder(form_));
   for (const auto& [picture, found] : pictures_) addPlaces(places, platform::nativePath(picture));
   const QStringList left = watch(places.values());
-  const auto stands = [](const QString& place) { return QFileInfo::exists(place); };
-  if (toldOfLack_ || std::none_of(left.begin(), left.end(), stands)) return;
+  const auto exists = [](const QString& place) { return QFileInfo::exists(place); };
+  if (toldOfLack_ || std::none_of(left.begin(), left.end(), exists)) return;
   toldOfLack_ = true;
   form_.note(QStringLiteral("The system can't watch all pictures; F5 reads them again"));
 }

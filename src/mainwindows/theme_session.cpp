@@ -142,10 +142,10 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
       form.ShowStatus(QStringLiteral("Ctrl+Shift+O asks for another game folder"));
       return;
     }
-    std::optional<platform::ReportScope> telling;
+    std::optional<platform::ReportScope> scope;
     const auto open = [&](const themefiles::ThemePaths& chosen) {
-      telling.reset();  // drops the notes of an attempt that failed
-      telling.emplace(form);
+      scope.reset();  // drops the notes of an attempt that failed
+      scope.emplace(form);
       return openCopies(form, chosen);
     };
     Form3 dialog(gameFolder.path, themes, open, &form);
@@ -158,7 +158,7 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
     form.enableCommand(Command::BackgroundColor, true);
     form.schemes().show();
     const QStringList opened{dialog.themes().Text(), dialog.skins().Text(), dialog.languages().Text()};
-    telling->success(gameFolder.problem.isEmpty() ? opened.join(QStringLiteral(", ")) : gameFolder.problem);
+    scope->success(gameFolder.problem.isEmpty() ? opened.join(QStringLiteral(", ")) : gameFolder.problem);
     noteUntaken(form, untaken);
   });
 }
@@ -175,12 +175,12 @@ void openAnotherFolder(Form1& form) {
 
 void SaveTheme(Form1& form) {
   platform::guarded(form, QStringLiteral("Error while saving files"), [&] {
-    platform::ReportScope telling(form);
+    platform::ReportScope scope(form);
     int values = 0;
     platform::guardedSilently([&] { values = editing::countDifferences(form.services.state); });
     themefiles::saveWorkingCopies(form.services.state, form);
     form.enableCommand(Command::Save, false);
-    telling.success(values == 0 ? QStringLiteral("Saved") : QStringLiteral("Saved, ") + editing::countOf(values));
+    scope.success(values == 0 ? QStringLiteral("Saved") : QStringLiteral("Saved, ") + editing::countOf(values));
     noteUntaken(form, untakenIn(form));
   });
   // A Save that failed may have copied some of the files.
@@ -188,7 +188,7 @@ void SaveTheme(Form1& form) {
 }
 
 void CloseTheme(Form1& form) {
-  platform::ReportScope telling(form);
+  platform::ReportScope scope(form);
   if (!mayDropChanges(form)) return;
   const QString untaken = untakenIn(form);
   form.queue().forget();
@@ -202,7 +202,7 @@ void CloseTheme(Form1& form) {
   for (const Command command : {Command::Save, Command::Close, Command::BackgroundColor}) {
     form.enableCommand(command, false);
   }
-  telling.success(QStringLiteral("Closed"));
+  scope.success(QStringLiteral("Closed"));
   noteUntaken(form, untaken);
 }
 

@@ -14,7 +14,7 @@ namespace platform {
 
 /// What is at a path.
 struct Look {
-  bool stands = false;  ///< there is something
+  bool exists = false;  ///< there is something
   bool isFile = false;  ///< a regular file
 };
 

@@ -25,7 +25,7 @@ FileResult<OpenFile> opened(const QString& path, AtLink atLink) {
 Look look(const QString& path, AtLink atLink, QString& native) {
   auto found = atFoundPath(path, [&](const QString& at) -> FileResult<Look> {
     auto there = lookAt(native = at, atLink);
-    if (there && !there->stands) return FileError{QString(), true};
+    if (there && !there->exists) return FileError{QString(), true};
     return there;
   });
   return found.isMissing() ? Look() : valueOf(std::move(found), path);

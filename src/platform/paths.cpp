@@ -27,10 +27,10 @@ void check(const QString& path, const FileError& error) {
   if (!error.missing) throw Failure(path.section(Slash, -1) + QStringLiteral(": ") + error.description);
 }
 
-bool stands(const QString& path) {
+bool exists(const QString& path) {
   const auto found = lookAt(path, AtLink::Replace);
   if (!found) check(path, found.error());
-  return found && found->stands;
+  return found && found->exists;
 }
 
 /// The entry of `folder` that equals `name` regardless of case, the first in byte order; else `name` itself.
@@ -67,7 +67,7 @@ QString findPath(const QString& plain) {
     if (i > 0) found += Slash;
     const QString& name = components[i];
     found +=
-        name.isEmpty() || stands(found + name) ? name : entryLike(found.isEmpty() ? QStringLiteral("./") : found, name);
+        name.isEmpty() || exists(found + name) ? name : entryLike(found.isEmpty() ? QStringLiteral("./") : found, name);
   }
   return found;
 }
@@ -75,7 +75,7 @@ QString findPath(const QString& plain) {
 QString nativePath(const QString& path) {
   const QString plain = plainPath(path);
   try {
-    return stands(plain) ? plain : findPath(plain);
+    return exists(plain) ? plain : findPath(plain);
   } catch (const Failure&) {
     return plain;
   }

@@ -80,7 +80,7 @@ FileResult<FileHandle> make(const std::wstring& path) {
 FileError withoutTurn(const QString& temporary, const FileError& error) {
   if (isHeld(error)) return {QStringLiteral("Another program is writing this file")};
   const auto left = lookAt(temporary, AtLink::Replace);
-  if (!left || !left->stands) return error;
+  if (!left || !left->exists) return error;
   return {
       QStringLiteral("%1 is left from an earlier write and can't be removed: %2").arg(temporary, error.description)};
 }

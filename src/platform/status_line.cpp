@@ -76,7 +76,7 @@ std::optional<QString> failureIn(const std::function<void()>& work) {
 }
 
 bool guarded(StatusLine& status, const QString& step, const std::function<void()>& work) {
-  const ReportScope telling(status);
+  const ReportScope scope(status);
   const auto description = failureIn(work);
   if (description) status.ShowStatus(reportText(step, *description));
   return !description;

@@ -22,14 +22,14 @@ const QString Ini = QStringLiteral(".ini");
 /// The names that were asked for, as the game spells them; all of them when none was.
 QStringList chosen(const QStringList& names, const QStringList& asked, const QString& what) {
   QStringList found;
-  for (const QString& wish : asked) {
-    const auto name =
-        std::find_if(names.begin(), names.end(), [&](const QString& known) { return platform::sameName(known, wish); });
-    if (name == names.end()) {
+  for (const QString& name : asked) {
+    const auto known =
+        std::find_if(names.begin(), names.end(), [&](const QString& each) { return platform::sameName(each, name); });
+    if (known == names.end()) {
       throw platform::Failure(
-          QStringLiteral("no %1 '%2'; there are: %3").arg(what, wish, names.join(QStringLiteral(", "))));
+          QStringLiteral("no %1 '%2'; there are: %3").arg(what, name, names.join(QStringLiteral(", "))));
     }
-    if (!found.contains(*name)) found += *name;
+    if (!found.contains(*known)) found += *known;
   }
   return asked.isEmpty() ? names : found;
 }

@@ -26,7 +26,7 @@ QByteArray digest(const QByteArray& bytes) {
 }
 
 /// Runs the work, and passes its notes to `status` even if it throws.
-void telling(platform::StatusLine& status, const std::function<void(QStringList& notes)>& work) {
+void withNotes(platform::StatusLine& status, const std::function<void(QStringList& notes)>& work) {
   QStringList notes;
   const auto tell = qScopeGuard([&] {
     if (!notes.isEmpty()) status.note(notes.join(QStringLiteral("; ")));
@@ -82,22 +82,22 @@ struct Start {
 /// program wrote last.
 Start startFrom(const platform::FileTurn& turn, const ModuleState& state, size_t file, QStringList& notes) {
   const QString& copy = state.paths.*CopiedFiles.at(file);
-  const auto& standing = turn.text();
-  if (!state.ThemeOpened) return {standing.value_or(QByteArray()), standing.has_value()};
+  const auto& present = turn.text();
+  if (!state.ThemeOpened) return {present.value_or(QByteArray()), present.has_value()};
   const QByteArray& own = state.ownCopies.at(file);
   // Another program that rewrites the file may have emptied it for a moment.
-  const bool emptied = standing && standing->isEmpty() && !own.isEmpty();
-  if (!standing || emptied) {
+  const bool emptied = present && present->isEmpty() && !own.isEmpty();
+  if (!present || emptied) {
     const QString note =
         emptied ? QStringLiteral("%1 was empty and is made anew") : QStringLiteral("%1 was gone and is made anew");
     notes += note.arg(copy);
     return {own, false};
   }
-  if (standing != own && !own.isEmpty()) {
+  if (present != own && !own.isEmpty()) {
     notes += QStringLiteral("%1 was changed by another program; what this one wrote is kept as %2")
                  .arg(copy, keepBeside(copy, own, u".old", *turn.present()));
   }
-  return {*standing};
+  return {*present};
 }
 
 /// Whether a file has that text; false if it can't be read.
@@ -112,7 +112,7 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
               const std::vector<KeyValue>& edited, const std::function<QByteArray(const QByteArray& text)>& change) {
   const size_t file = copyNumber(copy);
   const QString& path = state.paths.*copy;
-  telling(status, [&](QStringList& notes) {
+  withNotes(status, [&](QStringList& notes) {
     auto turn = turnAtCopy(path);
     const Start start = startFrom(turn, state, file, notes);
     const QByteArray changed = change(start.text);
@@ -149,7 +149,7 @@ void putBack(const std::vector<MadeCopy>& copies) {
 
 void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::StatusLine& status) {
   std::vector<MadeCopy> copies;
-  telling(status, [&](QStringList& notes) {
+  withNotes(status, [&](QStringList& notes) {
     try {
       for (const auto file : CopiedFiles) copies.push_back(makeCopy(chosen.*file, notes));
     } catch (const platform::Failure&) {
@@ -194,13 +194,13 @@ void putLinesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::ve
 }
 
 void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status) {
-  const auto standing = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
-  if (standing && (!standing->isEmpty() || state.ownCopies.at(copyNumber(copy)).isEmpty())) return;
+  const auto present = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
+  if (present && (!present->isEmpty() || state.ownCopies.at(copyNumber(copy)).isEmpty())) return;
   editCopy(state, copy, status, {}, [](const QByteArray& text) { return text; });
 }
 
 void saveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
-  telling(status, [&](QStringList& notes) {
+  withNotes(status, [&](QStringList& notes) {
     for (size_t i = 0; i < CopiedFiles.size(); ++i) {
       const QString& copy = state.paths.*CopiedFiles.at(i);
       auto turn = turnAtCopy(copy);
