@@ -17,7 +17,6 @@
 #include "toolwindow/tool_window.h"
 
 namespace mainwindows {
-
 namespace {
 
 constexpr int DragDistance = 4;  // pixels either way
@@ -38,7 +37,7 @@ PreviewHand::PreviewHand(Form1& form)
                 mouse_ += by;
                 drag(keys_);
               }),
-      arrows_(this, [this] { settle(); }),
+      arrows_(this, [this] { commitKeys(); }),
       pacer_([this] { showFrame(); }) {
   qApp->installEventFilter(this);
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
@@ -59,10 +58,6 @@ void PreviewHand::giveUpDrag() {
   if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
   held_.forgetPicture();
   if (stage_ == Stage::Keys) pacer_.request();
-}
-
-void PreviewHand::forgetPlaces() {
-  picking_ = {};
 }
 
 void PreviewHand::showChosen() {
@@ -262,7 +257,12 @@ void PreviewHand::arrow(const QKeyEvent& event, const ArrowStep& step) {
 void PreviewHand::keyRelease(const QKeyEvent& event) {
   if (event.isAutoRepeat()) return;
   arrows_.release(event.key());
-  if (stage_ == Stage::Keys && arrows_.areAtRest()) settle();
+  if (arrows_.areAtRest()) commitKeys();
+}
+
+/// The mouse may have taken over from the keys before they came to rest.
+void PreviewHand::commitKeys() {
+  if (stage_ == Stage::Keys) commit();
 }
 
 /// Draws a frame with the values on trial. If a drawing is running, it comes after that.

@@ -29,7 +29,7 @@ class PreviewHand : public QObject {
   /// Gives up a drag: all is as before. To be called before a drawing, which paints over what the arrow keys show.
   void giveUpDrag();
   /// The next click picks the topmost object under it. To be called when another screen is listed.
-  void forgetPlaces();
+  void forgetPlaces() { picking_ = {}; }
   /// Another object has been chosen: scrolls to it, unless it was clicked on the preview. Tells where it is if that is
   /// out of sight.
   void showChosen();
@@ -56,6 +56,7 @@ class PreviewHand : public QObject {
   bool release(const QMouseEvent& event);
   bool keyPress(const QKeyEvent& event);
   void keyRelease(const QKeyEvent& event);
+  void commitKeys();
   void arrow(const QKeyEvent& event, const ArrowStep& step);
   void drag(Qt::KeyboardModifiers keys);
   void hover(const QPoint& place, bool free);

@@ -237,6 +237,13 @@ class PreviewHandTest : public HandTest {
     QTest::keyClick(&preview(), Qt::Key_Escape);
     program->form.session().settle();  // commits what waits
     QCOMPARE(differences(saved, snapshot(*program, *game)), QStringList());
+    // A press takes over from the keys, and nothing is left of them that ends its drag.
+    QTest::keyClick(&preview(), Qt::Key_Down);
+    hold(Inside + QPoint(15, 2), {30, 20});
+    QTRY_VERIFY(!program->form.findChild<QTimer*>(u"KeysAtRest"_s)->isActive());
+    drop(Inside + QPoint(45, 22));
+    QCOMPARE(program->value(u"X"_s), QString::number(x + 45));
+    QCOMPARE(program->value(u"Y"_s), QString::number(y + 23));
   }
 
   void refusals() {
