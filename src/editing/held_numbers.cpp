@@ -112,10 +112,13 @@ QPoint straight(const QPoint& movement) {
   return std::abs(movement.x()) >= std::abs(movement.y()) ? QPoint(movement.x(), 0) : QPoint(0, movement.y());
 }
 
-HeldNumbers readHeld(const Session& session, const QString& object, Grip grip, const QString& heightKey) {
+QByteArray readTheme(const Session& session) {
   themefiles::restoreCopy(session.state(), &themefiles::ThemePaths::ThemeFile, session.status());
-  const themefiles::SectionReader section(object,
-                                          platform::IniText(platform::readFile(session.state().paths.ThemeFile)));
+  return platform::readFile(session.state().paths.ThemeFile);
+}
+
+HeldNumbers heldIn(const QByteArray& theme, const QString& object, Grip grip, const QString& heightKey) {
+  const themefiles::SectionReader section(object, platform::IniText(theme));
   if (!section.isThere()) throw platform::Failure(QStringLiteral("its section is gone"));
   HeldNumbers numbers;
   numbers.heightKey = heightKey;

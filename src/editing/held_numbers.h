@@ -37,10 +37,13 @@ struct HeldNumbers {
   bool passedOver = false;  ///< the last movement has passed over a place that would mean another one
 };
 
-/// Reads the numbers of an object as they stand in the theme, fractions rounded. `heightKey` is empty for a text. A
-/// working copy that is gone is made anew first. Throws platform::Failure with the reason why the object can't be moved
-/// or sized.
-HeldNumbers readHeld(const Session& session, const QString& object, Grip grip, const QString& heightKey);
+/// The theme as it stands, for the numbers of all that is in hand. A working copy that is gone is made anew first.
+/// Throws platform::Failure if it can't be read.
+QByteArray readTheme(const Session& session);
+
+/// The numbers of an object as they stand in the theme, fractions rounded. `heightKey` is empty for a text. Throws
+/// platform::Failure with the reason why the object can't be moved or sized.
+HeldNumbers heldIn(const QByteArray& theme, const QString& object, Grip grip, const QString& heightKey);
 
 /// The movement along its longer direction.
 QPoint straight(const QPoint& movement);

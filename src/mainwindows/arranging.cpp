@@ -96,11 +96,11 @@ void setWanted(std::vector<Arranged>& group, Arrangement arrangement) {
 }
 
 /// The keys of an object that change on the way to its wanted place.
-std::vector<std::pair<QString, QString>> valuesOf(const editing::Session& session, const Arranged& one) {
+std::vector<std::pair<QString, QString>> valuesOf(const QByteArray& theme, const Arranged& one) {
   const bool sizes = one.wanted.size() != one.place.size();
   if (!sizes && one.wanted == one.place) return {};
   const editing::Grip grip = sizes ? SizingGrip : editing::Grip();
-  const auto start = editing::readHeld(session, one.object.section, grip, one.object.heightKey);
+  const auto start = editing::heldIn(theme, one.object.section, grip, one.object.heightKey);
   const QSize more = one.wanted.size() - one.place.size();
   const QPoint by = sizes ? QPoint(more.width(), more.height()) : one.wanted.topLeft() - one.place.topLeft();
   return editing::changedValues(start, editing::moved(start, grip, by));
@@ -131,11 +131,12 @@ void arrange(Form1& form, Arrangement arrangement) {
   std::vector<renderer::TrialValues> changes;
   platform::guarded(form, QStringLiteral("All stays as it is"), [&] {
     setWanted(group, arrangement);
+    const QByteArray theme = editing::readTheme(session);
     for (const Arranged& one : group) {
       // The texts of a button that moves come along.
       if (one.object.section != names.front() && goesAlong(form, one.object.section, names.mid(1))) continue;
       std::vector<std::pair<QString, QString>> values;
-      const auto cause = platform::failureIn([&] { values = valuesOf(session, one); });
+      const auto cause = platform::failureIn([&] { values = valuesOf(theme, one); });
       if (cause) stays(one.object.section, *cause);
       if (!values.empty()) changes.push_back({one.object.section, values});
     }

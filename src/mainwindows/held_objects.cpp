@@ -18,12 +18,15 @@ bool HeldObjects::take(editing::Grip grip, bool tells) {
   grip_ = grip;
   names_ = groupOf(session);
   scope_ = std::make_unique<platform::ReportScope>(form_);
+  QByteArray theme;
+  const auto unread = platform::failureIn([&] { theme = editing::readTheme(session); });
   for (const QString& name : grip.sizes() ? names_.mid(0, 1) : names_) {
     if (goesAlong(form_, name, names_)) continue;
     const SelectedObject object = objectNamed(form_, name);
     Held held{name, object.section, object.heightKey, {}, {}};
     const auto cause =
-        platform::failureIn([&] { held.start = editing::readHeld(session, held.section, grip, held.heightKey); });
+        unread ? unread
+               : platform::failureIn([&] { held.start = editing::heldIn(theme, held.section, grip, held.heightKey); });
     held.now = held.start;
     if (!cause) {
       held_.push_back(held);
@@ -81,21 +84,28 @@ void HeldObjects::showFrame() {
 
 void HeldObjects::commit() {
   const auto scope = std::exchange(scope_, nullptr);
+  const std::vector<renderer::TrialValues> changes = changesToWrite();
+  held_.clear();
+  if (changes.empty() || !editing::commitValues(form_.session(), changes)) trial_.putBack();
+}
+
+/// Of objects whose section another program has taken away meanwhile there are none.
+std::vector<renderer::TrialValues> HeldObjects::changesToWrite() {
+  std::erase_if(held_, [](const Held& held) { return editing::changedValues(held.start, held.now).empty(); });
+  if (held_.empty()) return {};
+  QByteArray theme;
+  const auto unread = platform::failureIn([&] { theme = editing::readTheme(form_.session()); });
   std::vector<renderer::TrialValues> changes;
   for (const Held& held : held_) {
-    const auto values = editing::changedValues(held.start, held.now);
-    if (values.empty()) continue;
-    // Another program may have taken the section away meanwhile.
     const auto cause =
-        platform::failureIn([&] { editing::readHeld(form_.session(), held.section, grip_, held.heightKey); });
+        unread ? unread : platform::failureIn([&] { editing::heldIn(theme, held.section, grip_, held.heightKey); });
     if (cause) {
       stays(held.section, *cause);
     } else {
-      changes.push_back({held.section, values});
+      changes.push_back({held.section, editing::changedValues(held.start, held.now)});
     }
   }
-  held_.clear();
-  if (changes.empty() || !editing::commitValues(form_.session(), changes)) trial_.putBack();
+  return changes;
 }
 
 void HeldObjects::giveUp() {

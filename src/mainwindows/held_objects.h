@@ -55,6 +55,7 @@ class HeldObjects {
   };
 
   bool isOfHand(const QString& section, const QString& owner) const;
+  std::vector<renderer::TrialValues> changesToWrite();
   void stays(const QString& section, const QString& cause);
 
   Form1& form_;

@@ -118,7 +118,7 @@ class HeldNumbersTest : public QObject {
                 {"[MainStaticA]", "[MainStaticB]", Move, "H", u"its section is gone"_s}};
     OpenTheme theme(section);
     const auto read = [&](Grip grip, const char* heightKey) {
-      return editing::readHeld(theme.session, u"MainStaticA"_s, grip, QLatin1StringView(heightKey));
+      return editing::heldIn(editing::readTheme(theme.session), u"MainStaticA"_s, grip, QLatin1StringView(heightKey));
     };
     for (const auto& [line, instead, grip, heightKey, why] : rows) {
       const RowName name(instead + ' ' + heightKey);

@@ -71,7 +71,7 @@ void open(Program& program, const std::function<void()>& armed) {
   settle();
 }
 
-/// Two numbers of an object, by the arrow keys.
+/// Two numbers of each object in the hand, by the arrow keys.
 void moveByHand(Program& program, const std::function<void()>& armed) {
   for (const auto arrow : {Qt::Key_Right, Qt::Key_Down}) QTest::keyClick(program.form.Workspace, arrow);
   armed();
@@ -160,6 +160,13 @@ class FileFailuresTest : public QObject {
     add("number", writing, editor("LoadingStaticA", "X"), press("Command1"));
     add("text", writing, editor("LoadingTextFree", "Text"), press("Command1"));
     add("move by hand", writing, editor("LoadingStaticA", "X"), moveByHand);
+    const auto grouped = [](Program& program, const GameFolder& game) {
+      editor("LoadingStaticA", "X")(program, game);
+      for (const QString& name : {u"LoadingButtonGo"_s, u"LoadingButtonGoText1"_s, u"LoadingTextFree"_s}) {
+        program.form.session().toggleMember(name);
+      }
+    };
+    add("move several by hand", writing, grouped, moveByHand);
     add("put back", writing, edited, putSavedValueBack);
     add("add a colour", "Error while adding colors [", editor("LoadingStaticA", "Color"), press("Command3"));
     add("change a colour", writing, editor("LoadingStaticA", "Color"), press("Command2"));
@@ -212,7 +219,7 @@ class FileFailuresTest : public QObject {
           const QStringList changed = differences(now.shown, stage.before.shown);
           QVERIFY2(changed.isEmpty(), where + qPrintable(changed.join(u' ')));
           // A move counts from where a failed one has left the object.
-          const bool done = QTest::currentDataTag() == QByteArrayView("move by hand") && now.files == after.files;
+          const bool done = QByteArrayView(QTest::currentDataTag()).startsWith("move ") && now.files == after.files;
           if (!done) stage.run(operation, Fault::None, 0);
           now = standing(stage.program, stage.game);
         }
