@@ -11,6 +11,7 @@
 #include "platform/files.h"
 #include "platform/ini_reading.h"
 #include "platform/numbers.h"
+#include "renderer/object_passes.h"
 #include "themefiles/ini_access.h"
 #include "themefiles/mark_record.h"
 #include "themefiles/tag_reader.h"
@@ -252,6 +253,7 @@ bool commitValues(Session& session, const std::vector<renderer::TrialValues>& ob
   run(session, [&] {
     std::vector<themefiles::KeyValue> all;
     QStringList sections;
+    const QString button = renderer::buttonOfText(session.section());
     QStringList told;
     for (const auto& [section, values] : objects) {
       checkSection(section);
@@ -261,6 +263,7 @@ bool commitValues(Session& session, const std::vector<renderer::TrialValues>& ob
         assignments += assignment(key, value);
       }
       sections += section;
+      if (platform::sameName(section, button)) sections += session.section();  // which goes along
       told += toldOf(section, assignments);
     }
     themefiles::putValuesInCopy(session.state(), &ThemePaths::ThemeFile, all, session.status());

@@ -188,8 +188,12 @@ void Form1::ShowMousePosition(qint16 X, qint16 Y) {
 }
 
 renderer::RenderContext Form1::renderContext() {
+  return renderContext(session_.objects());
+}
+
+renderer::RenderContext Form1::renderContext(const themefiles::TagList& objects) {
   return {.state = services.state,
-          .tags = session_.objects(),
+          .tags = objects,
           .Workspace = Workspace->surface(),
           .host = *host_,
           .status = *this,

@@ -93,6 +93,7 @@ class Form1 : public QWidget, public platform::StatusLine {
   const renderer::RenderAccount& account() const { return account_; }
   /// What a drawing of the chosen screen works on; only with a theme open.
   renderer::RenderContext renderContext();
+  renderer::RenderContext renderContext(const themefiles::TagList& objects);
   /// Makes the next drawing read all pictures from their files.
   void forgetPictures() { pictures_.clear(); }
   /// Draws the chosen screen; called by the work queue.

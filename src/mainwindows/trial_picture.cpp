@@ -1,7 +1,5 @@
 #include "mainwindows/trial_picture.h"
 
-#include <algorithm>
-
 #include "mainwindows/group_frames.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/workspace.h"
@@ -13,15 +11,17 @@ namespace mainwindows {
 
 void TrialPicture::show(const std::vector<renderer::TrialValues>& objects) {
   Workspace& preview = *form_.Workspace;
-  if (!shown_) shown_ = Shown{preview.surface().image(), {}};
+  if (!shown_) {
+    shown_ = Shown{preview.surface().image(), {}, {}};
+    const themefiles::TagList& listed = form_.session().objects();
+    for (int row = 0; row < listed.ListCount(); ++row) shown_->objects.AddItem(listed.List(row));
+  }
+  std::optional<renderer::RenderAccount> account;
   platform::guardedSilently(
-      [&] { showGroupFrames(form_, renderer::drawTrial(form_.renderContext(), objects, shown_->files)); });
-  const auto selected = std::find_if(objects.begin(), objects.end(), [this](const renderer::TrialValues& object) {
-    return object.areOf(form_.session().section());
-  });
-  renderer::drawTrialCursor(form_.services.state, form_.session().objects(), preview.surface(), preview,
-                            selected == objects.end() ? renderer::TrialValues() : *selected);
-  preview.Refresh();
+      [&] { account = renderer::drawTrial(form_.renderContext(shown_->objects), objects, shown_->files); });
+  preview.Refresh();  // first of all: what is updated below lies in it
+  if (account) showGroupFrames(form_, *account);
+  renderer::drawTrialCursor(form_.services.state, form_.session().objects(), preview.surface(), preview, objects);
 }
 
 void TrialPicture::putBack() {

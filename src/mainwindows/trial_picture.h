@@ -5,6 +5,7 @@
 #include <QImage>
 
 #include "renderer/trial_values.h"
+#include "themefiles/tag_listing.h"
 
 namespace mainwindows {
 
@@ -24,7 +25,8 @@ class TrialPicture {
 
  private:
   struct Shown {
-    QImage before;  ///< the picture without the values
+    QImage before;                   ///< the picture without the values
+    themefiles::SortedTags objects;  ///< the list's own rows take longer to be asked
     renderer::TrialFiles files;
   };
 

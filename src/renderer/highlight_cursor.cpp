@@ -60,7 +60,7 @@ void setMeasuringFont(const themefiles::CursorRecord& record, drawing::Surface& 
 }
 
 void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
-                  CursorMark& mark) {
+                  CursorMark& mark, const std::vector<TrialValues>& trial) {
   const themefiles::CursorRecord& record = state.CursorRect;
   double x = measureOf(MarkX, record.X);
   double y = measureOf(MarkY, record.Y);
@@ -69,8 +69,13 @@ void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagLis
   if (upper.contains(u"BUTTON") || upper.contains(u"NAME")) {
     const QString parent = tag.chopped(std::min<qsizetype>(tag.size(), ChildEnding));
     const themefiles::SectionReader owner(parent, state.paths.ThemeFile);
-    x += measureOf(MarkX, owner.Value(MarkX.key.toString()));
-    y += measureOf(MarkY, owner.Value(MarkY.key.toString()));
+    const TrialValues* const tried = valuesOf(parent, trial);
+    const auto measure = [&](const MarkKey& key) {
+      const QString* const value = tried ? tried->find(key.key.toString()) : nullptr;
+      return measureOf(key, value ? *value : owner.Value(key.key.toString()));
+    };
+    x += measure(MarkX);
+    y += measure(MarkY);
   }
   setMeasuringFont(record, workspace);
   mark.SetWidth(0);
@@ -83,7 +88,7 @@ void drawTextLine(const themefiles::ModuleState& state, const themefiles::TagLis
 }  // namespace
 
 void placeCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
-                 CursorMark& mark) {
+                 CursorMark& mark, const std::vector<TrialValues>& trial) {
   const themefiles::CursorRecord& record = state.CursorRect;
   const auto isGiven = [&](const Side& side) { return !(record.*side.key.measure).isEmpty(); };
   if (std::all_of(Sides.begin(), Sides.end(), isGiven)) {
@@ -92,13 +97,13 @@ void placeCursor(const themefiles::ModuleState& state, const themefiles::TagList
     mark.setBlinking(false);
     mark.SetVisible(false);
   } else {
-    drawTextLine(state, tags, workspace, mark);
+    drawTextLine(state, tags, workspace, mark, trial);
   }
 }
 
 void DrawCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
-                CursorMark& mark, platform::StatusLine& status) {
-  platform::guarded(status, CursorStep.toString(), [&] { placeCursor(state, tags, workspace, mark); });
+                CursorMark& mark, platform::StatusLine& status, const std::vector<TrialValues>& trial) {
+  platform::guarded(status, CursorStep.toString(), [&] { placeCursor(state, tags, workspace, mark, trial); });
 }
 
 }  // namespace renderer

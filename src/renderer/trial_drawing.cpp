@@ -50,15 +50,16 @@ RenderAccount drawTrial(const RenderContext& context, const std::vector<TrialVal
 }
 
 void drawTrialCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
-                     CursorMark& mark, const TrialValues& values) {
+                     CursorMark& mark, const std::vector<TrialValues>& objects) {
   const PenKeeper pen(workspace);
   QuietStatus status;
   themefiles::ModuleState tried = state;
+  const TrialValues* const values = tags.ListIndex() < 0 ? nullptr : valuesOf(tags.List(tags.ListIndex()), objects);
   for (const themefiles::MarkKey& row : themefiles::MarkKeys) {
-    const QString* const value = values.find(row.key.toString());
+    const QString* const value = values ? values->find(row.key.toString()) : nullptr;
     if (value != nullptr) themefiles::followCommit(tried.CursorRect, row.key.toString(), *value);
   }
-  DrawCursor(tried, tags, workspace, mark, status);
+  DrawCursor(tried, tags, workspace, mark, status, objects);
 }
 
 }  // namespace renderer

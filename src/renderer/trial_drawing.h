@@ -12,8 +12,8 @@ namespace renderer {
 /// started from (the context's account knows it). Looks at each file once. Gives an account of its own.
 RenderAccount drawTrial(const RenderContext& context, const std::vector<TrialValues>& objects, TrialFiles& files);
 
-/// Places the mark as DrawCursor would if the record of the selected object held the values.
+/// Places the mark as DrawCursor would if the files, and the record of the selected object, held the values.
 void drawTrialCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
-                     CursorMark& mark, const TrialValues& values);
+                     CursorMark& mark, const std::vector<TrialValues>& objects);
 
 }  // namespace renderer

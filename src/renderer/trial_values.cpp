@@ -9,10 +9,6 @@
 
 namespace renderer {
 
-bool TrialValues::areOf(const QString& name) const {
-  return platform::sameName(platform::trimBlanks(name), section);
-}
-
 const QString* TrialValues::find(const QString& key) const {
   const auto found = std::find_if(values.begin(), values.end(),
                                   [&](const auto& value) { return platform::sameName(value.first, key); });
@@ -46,11 +42,11 @@ const themefiles::SectionReader& TrialFiles::section(const QString& name, const 
   return all.readers.try_emplace(name, name, all.file).first->second;
 }
 
-const TrialValues* TrialFrame::valuesOf(const QString& section) const {
-  for (const TrialValues& object : objects_) {
-    if (object.areOf(section)) return &object;
-  }
-  return nullptr;
+const TrialValues* valuesOf(const QString& section, const std::vector<TrialValues>& objects) {
+  const QString name = platform::trimBlanks(section);
+  const auto found = std::find_if(objects.begin(), objects.end(),
+                                  [&](const TrialValues& object) { return platform::sameName(name, object.section); });
+  return found == objects.end() ? nullptr : &*found;
 }
 
 std::optional<platform::FileIdentity> TrialFrame::pictureAt(const QString& path) {

@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -21,11 +22,12 @@ struct TrialValues {
   QString section;
   std::vector<std::pair<QString, QString>> values;
 
-  /// Whether they are those of the section. Names are compared as the ini files do.
-  bool areOf(const QString& name) const;
   /// The value on trial for a key; null without one.
   const QString* find(const QString& key) const;
 };
+
+/// The values of a section among those of several objects; null without any. Names are compared as the ini files do.
+const TrialValues* valuesOf(const QString& section, const std::vector<TrialValues>& objects);
 
 /// The files that the frames of one trial look into. Each frame looks at them anew; what was found in a file stays
 /// found as long as the file is the same, or its bytes are.
@@ -42,7 +44,7 @@ class TrialFiles {
     Q_DISABLE_COPY_MOVE(SeenFile)
 
     platform::IniSections file;
-    std::map<QString, themefiles::SectionReader> readers;
+    std::unordered_map<QString, themefiles::SectionReader> readers;
     std::optional<platform::FileIdentity>
         kept;  ///< the file is the same as long as this is; none if that isn't certain
     bool isOfThisFrame = true;
@@ -62,7 +64,7 @@ class TrialFrame {
   }
 
   /// The values on trial in a section; null without any.
-  const TrialValues* valuesOf(const QString& section) const;
+  const TrialValues* valuesOf(const QString& section) const { return renderer::valuesOf(section, objects_); }
   const themefiles::SectionReader& section(const QString& name, const QString& file) const {
     return files_.section(name, file);
   }

@@ -1,9 +1,22 @@
+#include <algorithm>
+#include <random>
+
 #include "mainwindows/arranging.h"
+#include "mainwindows/selected_object.h"
 #include "support/hand.h"
+#include "support/row_name.h"
+#include "themefiles/working_copies.h"
 
 using namespace support;
 
 const QPoint Inside(50, 60);  // of LoadingStaticA
+
+/// Objects that the theme has in addition, two of them texts of buttons that have others already.
+constexpr const char* More = R"([LoadingButtonGoText2]|X=20|Y=22|Font=0|Size=7|Text=HELLO|Color=Red
+[LoadingButtonWide]|Tex=Plate|X=15|Y=500|W=90|H=40|Color=Blue|DColor=Red|INT=1|DINT=1|Type=Colorized|Texts=1
+[LoadingButtonWideText1]|X=5|Y=6|Font=1|Size=8|Text=GO|Color=Red
+[LoadingStaticB]|Tex=Plate|X=25|Y=400|W=120|H=30|Color=Blue|Type=Colorized
+)";
 
 /// Several objects in the hand, their arranging, and the guides that a drag meets.
 class GroupHandTest : public HandTest {
@@ -16,6 +29,36 @@ class GroupHandTest : public HandTest {
     for (const QPoint& place : {QPoint(340, 320), QPoint(370, 250), QPoint(340, 230)}) {
       QTest::mouseClick(&preview(), Qt::LeftButton, Qt::ShiftModifier, place);
     }
+  }
+
+  void openCrowded() {
+    program = nullptr;
+    game = std::make_unique<GameFolder>();
+    const QByteArray theme =
+        QByteArray(AlphaTheme).replace("Texts=1", "Texts=2").replace("[Main]", QByteArray(More) + "[Main]");
+    game->put(ThemeFile, QByteArray(theme).replace("|", "\n").replace("\n", "\r\n"));
+    program = std::make_unique<Program>(*game);
+    program->open();
+  }
+  /// The steps of a way, by the mouse or by arrow keys with and without Shift.
+  static std::vector<int> steps(int by, bool byKeys) {
+    if (!byKeys) return {by};
+    std::vector<int> all(std::abs(by) / 10, by < 0 ? -10 : 10);
+    all.insert(all.end(), std::abs(by) % 10, by < 0 ? -1 : 1);
+    return all;
+  }
+  void pressArrows(Qt::Key back, Qt::Key on, int by) const {
+    for (const int step : steps(by, true)) {
+      QTest::keyClick(&preview(), step < 0 ? back : on, std::abs(step) == 10 ? Qt::ShiftModifier : Qt::NoModifier);
+    }
+  }
+  /// Where a number comes to lie. -1 would mean a picture's own place.
+  static int whereTo(int number, const std::vector<int>& way, bool isText) {
+    for (const int step : way) {
+      number += step;
+      if (number == -1 && !isText) number = step < 0 ? -2 : 0;
+    }
+    return number;
   }
 
  private Q_SLOTS:
@@ -40,13 +83,9 @@ class GroupHandTest : public HandTest {
     QTest::keyClick(&preview(), Qt::Key_Escape);
     drop({360, 345});
     QCOMPARE(game->get(ThemeCopy), before);
-    hold({370, 345}, {-10, 0});
-    const QByteArray without = game->get(ThemeCopy).replace("[LoadingButtonGo]", "[Elsewhere]");
-    game->put(ThemeCopy, without);
-    drop({360, 345});
-    QCOMPARE(newLines(without).join(u' '), u"X=320"_s);
+    drag({370, 345}, {-10, 0});
+    QCOMPARE(newLines(before).join(u' '), u"X=320 X=320"_s);
     QVERIFY(program->status().contains(u"LoadingStaticA stays as it is [Y is -1]"));
-    QVERIFY(program->status().contains(u"LoadingButtonGo stays as it is [its section is gone]"));
     QCOMPARE(program->form.session().members(), members);
     QTest::keyClick(&preview(), Qt::Key_Escape);
     QCOMPARE(program->form.session().members(), QStringList());
@@ -61,6 +100,97 @@ class GroupHandTest : public HandTest {
     }
     QTest::keyClick(&list, Qt::Key_Escape);
     QCOMPARE(program->form.session().members(), QStringList());
+  }
+
+  /// Random hands leave what typing the same numbers leaves; what can't be typed, below 0, is written into the file.
+  void randomHands() {
+    std::mt19937 chance(1);
+    const auto oneOf = [&](int least, int most) { return least + static_cast<int>(chance() % (most - least + 1U)); };
+    int below = 0;
+    int along = 0;
+    for (int hand = 0; hand < 10; ++hand) {
+      openCrowded();
+      const RowName rowName(QByteArray::number(hand));
+      QStringList names = entries(program->tools().objects());
+      names.removeIf([](const QString& name) { return name == u"Loading" || name == u"LoadingBackground"; });
+      std::shuffle(names.begin(), names.end(), chance);
+      names.resize(oneOf(3, 8));
+      const QPoint by(oneOf(5, 60) * (oneOf(0, 1) * 2 - 1), oneOf(5, 60) * (oneOf(0, 1) * 2 - 1));
+      const bool byKeys = hand % 2 == 1;
+      std::vector<themefiles::KeyValue> numbers;
+      for (const QString& name : names) {
+        const bool goesAlong = name.contains(u"Text") && names.contains(name.section(u"Text"_s, 0, 0));
+        along += goesAlong ? 1 : 0;
+        for (const auto& [key, way] : {std::pair{u"X"_s, by.x()}, {u"Y"_s, by.y()}}) {
+          if (goesAlong) continue;
+          const QString start = themefiles::GetINI(name, key, {}, program->state.paths.ThemeFile);
+          const int number = whereTo(start.toInt(), steps(way, byKeys), name.contains(u"Text"));
+          numbers.push_back({name, key, QString::number(number)});
+        }
+      }
+      const auto take = [&] {
+        program->tag(names.front());
+        for (const QString& name : names.mid(1)) program->form.session().toggleMember(name);
+      };
+      take();
+      if (byKeys) {
+        pressArrows(Qt::Key_Left, Qt::Key_Right, by.x());
+        pressArrows(Qt::Key_Up, Qt::Key_Down, by.y());
+        program->form.session().settle();
+      } else {
+        drag(mainwindows::drawnPlace(program->form, names.front())->center(), by);
+      }
+      const QVariantMap moved = snapshot(*program, *game);
+      openCrowded();
+      std::stable_partition(numbers.begin(), numbers.end(), [](const auto& number) { return number.value[0] != u'-'; });
+      for (const auto& [name, key, value] : numbers) {
+        program->tag(name);
+        if (value[0] != u'-') {
+          program->change(key, value);
+        } else {
+          themefiles::PutINI(name, key, value, program->state.paths.ThemeFile);
+          ++below;
+        }
+      }
+      program->form.queue().draw();
+      program->tag(u"LoadingBackground"_s);
+      take();
+      QStringList differing = differences(moved, snapshot(*program, *game));
+      differing.removeAll(u"height"_s);  // an editor is open
+      differing.removeAll(u"editor"_s);
+      QCOMPARE(differing.join(u' '), QString());
+    }
+    QVERIFY2(below >= 5 && along >= 3, qPrintable(u"%1 %2"_s.arg(below).arg(along)));
+  }
+
+  /// What another program does to the working copy while several objects are in the hand.
+  void meanwhile() {
+    const struct {
+      const char *before, *after;
+      QString lines, told;
+    } rows[] = {{"X=400", "X=410", u"X=310 X=310 X=50"_s, u"was changed by another program"_s},
+                {"X=40\r", "X=45\r", u"X=310 X=310 X=50"_s, u"was changed by another program"_s},
+                {"[LoadingButtonLast]", "[Elsewhere]", u"X=310 X=50"_s,
+                 u"LoadingButtonLast stays as it is [its section is gone]"_s},
+                {nullptr, nullptr, u"X=310 X=310 X=50"_s, u"was gone and is made anew"_s}};
+    for (const auto& [before, after, lines, told] : rows) {
+      const RowName rowName(before);
+      program = nullptr;
+      init();
+      group();
+      program->edit(u"W"_s, u"110"_s);
+      const QByteArray own = game->get(ThemeCopy);
+      group();
+      hold({340, 320}, {10, 0});
+      QTRY_COMPARE(preview().accessibleDescription(), u"X 50, Y 50 and 2 more"_s);
+      const QByteArray meddled = before == nullptr ? own : QByteArray(own).replace(before, after);
+      game->put(ThemeCopy, meddled);
+      if (before == nullptr) QFile::remove(game->native(ThemeCopy));
+      drop({350, 320});
+      QCOMPARE(newLines(meddled).join(u' '), lines);
+      QVERIFY2(program->status().contains(told), qPrintable(program->status()));
+      QCOMPARE(game->files().value(ThemeCopy + u".old"_s), before == nullptr ? QByteArray() : own);
+    }
   }
 
   void arrangements() {

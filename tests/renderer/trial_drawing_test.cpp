@@ -30,18 +30,21 @@ class TrialDrawingTest : public QObject {
   void trialFrames_data() {
     QTest::addColumn<QString>("section");
     QTest::addColumn<QString>("values");
-    QTest::addRow("static moved") << u"MainStatic"_s << u"X=50|Y=70"_s;
-    QTest::addRow("static sized, names in another case") << u"mainStatic"_s << u"w=77|H=5"_s;
-    QTest::addRow("over the edge") << u"MainStatic"_s << u"X=790|W=900"_s;
-    QTest::addRow("selected button") << u"MainButton1"_s << u"X=400|SelectH=90"_s;
-    QTest::addRow("child text") << u"MainButton1TEXT1"_s << u"X=30|Y=8"_s;
-    QTest::addRow("text without a face") << u"MainText"_s << u"X=0"_s;
+    QTest::addColumn<QString>("selected");
+    QTest::addRow("static moved") << u"MainStatic"_s << u"X=50|Y=70"_s << u"MainStatic"_s;
+    QTest::addRow("static sized, names in another case") << u"mainStatic"_s << u"w=77|H=5"_s << u"MainStatic"_s;
+    QTest::addRow("over the edge") << u"MainStatic"_s << u"X=790|W=900"_s << u"MainStatic"_s;
+    QTest::addRow("selected button, its text has the mark")
+        << u"MainButton1"_s << u"X=400|SelectH=90"_s << u"MainButton1Text1"_s;
+    QTest::addRow("child text") << u"MainButton1TEXT1"_s << u"X=30|Y=8"_s << u"MainButton1Text1"_s;
+    QTest::addRow("text without a face") << u"MainText"_s << u"X=0"_s << u"MainText"_s;
   }
 
   /// A frame with values on trial shows what a drawing shows once they are written, and leaves all else as found.
   void trialFrames() {
     QFETCH(QString, section);
     QFETCH(QString, values);
+    QFETCH(QString, selected);
     renderer::TrialValues tried{section, {}};
     for (const QString& value : values.split(u'|')) {
       tried.values.emplace_back(value.section(u'=', 0, 0), value.section(u'=', 1));
@@ -51,7 +54,8 @@ class TrialDrawingTest : public QObject {
     stage.pictures = &pictures;
     stage.setTheme(AllKinds);
     stage.addToTheme("[MainButton1Text1]|X=5|Y=5|Size=12|");
-    stage.tags.SetListIndex(int(stage.tags.rows().indexOf(u"MainText"_s)));
+    stage.tags.AddItem(u"MainButton1Text1"_s);
+    stage.tags.SetListIndex(int(stage.tags.rows().indexOf(selected)));
     stage.state.CursorRect = {u"300"_s, u"300"_s, {}, {}, {}, 9, 0};
     stage.draw();
     const QImage before = stage.surface.image();
@@ -63,7 +67,7 @@ class TrialDrawingTest : public QObject {
     Mark inTrial, real;
     renderer::TrialFiles files;
     const renderer::RenderAccount account = renderer::drawTrial(stage.context(), {tried}, files);
-    renderer::drawTrialCursor(stage.state, stage.tags, stage.surface, inTrial, tried);
+    renderer::drawTrialCursor(stage.state, stage.tags, stage.surface, inTrial, {tried});
     const QImage trial = stage.surface.image();
     QVERIFY(trial != before && stage.folder.get(u"theme.ini"_s) == theme);
     QCOMPARE(stage.host.percents + stage.host.buttons + stage.panel.texts + stage.dialogs.asked, shown);
@@ -75,6 +79,7 @@ class TrialDrawingTest : public QObject {
     stage.host.yielded = nullptr;
     for (const auto& [key, value] : tried.values) {
       themefiles::PutINI(section, key, value, stage.state.paths.ThemeFile);
+      if (renderer::valuesOf(selected, {tried}) == nullptr) continue;
       if (key == u"X") stage.state.CursorRect.X = value;
       if (key == u"Y") stage.state.CursorRect.Y = value;
       if (key == u"W" || key == u"w") stage.state.CursorRect.W = value;
