@@ -89,8 +89,13 @@ Surface::Face& Surface::face() const {
   if (face_ != nullptr) return *face_;
   if (faces_.size() >= MostFaces) faces_.clear();
   const auto [place, isNew] = faces_.try_emplace({fontName_, fontSize_});
-  if (isNew) place->second.font = fontOf(fontName_, fontSize_);
   face_ = &place->second;
+  if (isNew) {
+    face_->font = fontOf(fontName_, fontSize_);
+    const QFontMetricsF metrics(face_->font, &image_);
+    face_->ascent = metrics.ascent();
+    face_->height = metrics.height();
+  }
   return *face_;
 }
 
@@ -112,12 +117,11 @@ double Surface::TextWidth(const QString& text) const {
 }
 
 double Surface::TextHeight(const QString&) const {
-  return QFontMetricsF(face().font, &image_).height();
+  return face().height;
 }
 
 void Surface::Print(const QString& text) {
-  const double ascent = QFontMetricsF(face().font, &image_).ascent();
-  const QPointF baseline(CurrentX, static_cast<double>(CurrentY) + ascent);
+  const QPointF baseline(CurrentX, static_cast<double>(CurrentY) + face().ascent);
   // Antialiasing may reach one pixel further on each side.
   const QRectF ink = layoutOf(text).ink.translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
   if (ink.isEmpty()) return;

@@ -68,9 +68,11 @@ class Surface {
     double width = 0;
     QRectF ink;
   };
-  /// A font, and the texts that were laid out in it.
+  /// A font with its measures, and the texts that were laid out in it.
   struct Face {
     QFont font;
+    double ascent = 0;
+    double height = 0;  ///< of a line
     QHash<QString, Layout> texts;
   };
 

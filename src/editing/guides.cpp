@@ -22,28 +22,9 @@ Span spanOf(const QRect& place, bool across) {
   return {place.top(), place.top() + place.height()};
 }
 
-/// Where something can be met, and the pixel that shows it.
-struct Stop {
-  int at;
-  int pixel;
-};
-
-/// The stops of a span: its ends and its centre, or only the end that a grip holds.
-std::vector<Stop> stopsOf(const Span& span, int heldEnd = 0) {
-  const int centre = (span.first + span.behind) / 2;
-  std::vector<Stop> stops;
-  if (heldEnd <= 0) stops.push_back({span.first, span.first});
-  if (heldEnd == 0) stops.push_back({centre, centre});
-  if (heldEnd >= 0) stops.push_back({span.behind, span.behind - 1});
-  return stops;
+int centreOf(const Span& span) {
+  return (span.first + span.behind) / 2;
 }
-
-/// A stop of a guide that is near one of what is dragged.
-struct Meeting {
-  int by = 0;  ///< the movement that brings both together
-  int pixel = 0;
-  const Guide* guide = nullptr;
-};
 
 }  // namespace
 
@@ -55,12 +36,33 @@ QString metText(const std::vector<GuideLine>& lines) {
 }
 
 Guides::Guides(std::vector<Guide> guides, const QRect& held, Grip grip)
-    : guides_(std::move(guides)), held_(held), grip_(grip) {}
+    : guides_(std::move(guides)),
+      held_(held),
+      grip_(grip),
+      across_(axisOf(true, grip.across)),
+      down_(axisOf(false, grip.down)) {}
+
+/// The ends and centres of the guides, and those of what is held, or only the end that a grip holds.
+Guides::Axis Guides::axisOf(bool across, int heldEnd) const {
+  Axis axis;
+  if (grip_.sizes() && heldEnd == 0) return axis;
+  for (size_t guide = 0; guide < guides_.size(); ++guide) {
+    const Span span = spanOf(guides_[guide].place, across);
+    axis.stops.push_back({span.first, span.first, guide});
+    axis.stops.push_back({centreOf(span), centreOf(span), guide});
+    axis.stops.push_back({span.behind, span.behind - 1, guide});
+  }
+  const Span span = spanOf(held_, across);
+  if (heldEnd <= 0) axis.held.push_back(span.first);
+  if (heldEnd == 0) axis.held.push_back(centreOf(span));
+  if (heldEnd >= 0) axis.held.push_back(span.behind);
+  return axis;
+}
 
 MetMovement Guides::met(const QPoint& movement, bool across, bool down) {
   MetMovement met{movement, {}};
-  if (across && (!grip_.sizes() || grip_.across != 0)) meet(true, grip_.across, met.by.rx(), awayAcross_, met.lines);
-  if (down && (!grip_.sizes() || grip_.down != 0)) meet(false, grip_.down, met.by.ry(), awayDown_, met.lines);
+  if (across) meet(across_, true, met.by.rx(), met.lines);
+  if (down) meet(down_, false, met.by.ry(), met.lines);
   // Each line reaches over both, where they come to lie.
   const QRect now = held_.translated(grip_.sizes() ? QPoint() : met.by);
   for (GuideLine& line : met.lines) {
@@ -71,24 +73,25 @@ MetMovement Guides::met(const QPoint& movement, bool across, bool down) {
   return met;
 }
 
-void Guides::meet(bool across, int heldEnd, int& by, bool& away, std::vector<GuideLine>& lines) const {
-  away = away || std::abs(by) > Reach;
-  Meeting nearest;
-  for (const Guide& guide : guides_) {
-    for (const Stop& stop : stopsOf(spanOf(guide.place, across))) {
-      for (const Stop& held : stopsOf(spanOf(held_, across), heldEnd)) {
-        const int needed = stop.at - held.at;
-        const int off = std::abs(needed - by);
-        if (off > Reach || (needed == 0 && !away)) continue;
-        if (nearest.guide != nullptr && off >= std::abs(nearest.by - by)) continue;
-        nearest = {needed, stop.pixel, &guide};
-      }
+void Guides::meet(Axis& axis, bool across, int& by, std::vector<GuideLine>& lines) const {
+  axis.away = axis.away || std::abs(by) > Reach;
+  const Stop* nearest = nullptr;
+  int needed = 0;
+  for (const Stop& stop : axis.stops) {
+    for (const int held : axis.held) {
+      const int way = stop.at - held;
+      const int off = std::abs(way - by);
+      if (off > Reach || (way == 0 && !axis.away)) continue;
+      if (nearest != nullptr && off >= std::abs(needed - by)) continue;
+      nearest = &stop;
+      needed = way;
     }
   }
-  if (nearest.guide == nullptr) return;
-  by = nearest.by;
-  const Span other = spanOf(nearest.guide->place, !across);
-  lines.push_back({across, nearest.pixel, other.first, other.behind - 1, nearest.guide->name});
+  if (nearest == nullptr) return;
+  by = needed;
+  const Guide& guide = guides_[nearest->guide];
+  const Span other = spanOf(guide.place, !across);
+  lines.push_back({across, nearest->pixel, other.first, other.behind - 1, guide.name});
 }
 
 }  // namespace editing

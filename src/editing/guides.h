@@ -48,13 +48,27 @@ class Guides {
   MetMovement met(const QPoint& movement, bool across, bool down);
 
  private:
-  void meet(bool across, int heldEnd, int& by, bool& away, std::vector<GuideLine>& lines) const;
+  /// Where a guide can be met along one axis.
+  struct Stop {
+    int at = 0;
+    int pixel = 0;  ///< that shows it
+    size_t guide = 0;
+  };
+  /// One axis of the drag.
+  struct Axis {
+    std::vector<Stop> stops;
+    std::vector<int> held;  ///< what may meet one, before the drag
+    bool away = false;      ///< the drag has left where it began
+  };
+
+  Axis axisOf(bool across, int heldEnd) const;
+  void meet(Axis& axis, bool across, int& by, std::vector<GuideLine>& lines) const;
 
   std::vector<Guide> guides_;
   QRect held_;
   Grip grip_;
-  bool awayAcross_ = false;  ///< the drag has left where it began
-  bool awayDown_ = false;
+  Axis across_;
+  Axis down_;
 };
 
 }  // namespace editing

@@ -54,6 +54,7 @@ Workspace::Workspace(QWidget* parent)
   QAccessible::installFactory(makeInterface);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
+  handLabel_.setTextFormat(Qt::PlainText);
   timer1_.setObjectName(QStringLiteral("Timer1"));
   timer1_.setInterval(BlinkInterval);
   connect(&timer1_, &QTimer::timeout, this, &Workspace::Timer1_Timer);
@@ -118,8 +119,7 @@ QRect Workspace::markRect() const {
 /// Where the label of a place stands: below it on its right, above it where there is no room below, and inside the
 /// preview.
 QRect Workspace::labelRect(const QPoint& place) const {
-  const QFontMetrics letters = fontMetrics();
-  QRect label({}, QSize(letters.horizontalAdvance(handLabel_), letters.height()) + LabelMargin);
+  QRect label({}, handLabel_.size().toSize() + LabelMargin);
   label.moveTopLeft(place + LabelOffset);
   if (label.bottom() > rect().bottom()) label.moveBottom(place.y() - LabelOffset.y() / 4);
   label.moveLeft(std::clamp(label.left(), 0, std::max(0, width() - label.width())));
@@ -129,7 +129,10 @@ QRect Workspace::labelRect(const QPoint& place) const {
 
 void Workspace::setHandLabel(const QString& text, const QPoint& place) {
   update(label_);
-  handLabel_ = text;
+  if (handLabel_.text() != text) {
+    handLabel_.setText(text);
+    handLabel_.prepare({}, font());
+  }
   label_ = text.isEmpty() ? QRect() : labelRect(place);
   update(label_);
   if (accessibleDescription() != text) setAccessibleDescription(text);
@@ -164,7 +167,7 @@ void Workspace::paintEvent(QPaintEvent* event) {
   paintGroup(painter);
   if (markVisible_) paintMark(painter);
   paintLines(painter);
-  if (!handLabel_.isEmpty()) paintLabel(painter);
+  if (!label_.isEmpty()) paintLabel(painter);
   if (hasFocus()) paintFocus(painter);
 }
 
@@ -179,11 +182,9 @@ void Workspace::paintMark(QPainter& painter) const {
 
 /// Dashes of two colours show on any picture.
 void Workspace::paintGroup(QPainter& painter) const {
-  for (const QRect& frame : groupFrames_) {
-    for (const QPen& pen : {QPen(Qt::white), QPen(Qt::black, 1, Qt::DashLine)}) {
-      painter.setPen(pen);
-      painter.drawRect(frame.adjusted(0, 0, -1, -1));
-    }
+  for (const QPen& pen : {QPen(Qt::white), QPen(Qt::black, 1, Qt::DashLine)}) {
+    painter.setPen(pen);
+    for (const QRect& frame : groupFrames_) painter.drawRect(frame.adjusted(0, 0, -1, -1));
   }
 }
 
@@ -202,8 +203,7 @@ void Workspace::paintLabel(QPainter& painter) const {
   painter.fillRect(label_, Qt::black);
   painter.fillRect(label_.adjusted(1, 1, -1, -1), drawing::colorOf(LabelColor));
   painter.setPen(Qt::black);
-  const QPoint corner(LabelMargin.width() / 2, LabelMargin.height() / 2 + fontMetrics().ascent());
-  painter.drawText(label_.topLeft() + corner, handLabel_);
+  painter.drawStaticText(label_.topLeft() + QPoint(LabelMargin.width(), LabelMargin.height()) / 2, handLabel_);
 }
 
 /// Dots of two colours show on any picture.

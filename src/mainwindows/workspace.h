@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include <QStaticText>
 #include <QTimer>
 #include <QWidget>
 
@@ -82,8 +83,8 @@ class Workspace : public QWidget, public renderer::CursorMark {
   QColor borderColor_;
   std::vector<QRect> groupFrames_;
   std::vector<editing::GuideLine> guideLines_;
-  QString handLabel_;
-  QRect label_;  ///< where that stands
+  QStaticText handLabel_;  ///< laid out when it is set: a frame of a drag has no time for that when it is painted
+  QRect label_;            ///< where that stands
 };
 
 }  // namespace mainwindows

@@ -1,6 +1,7 @@
 #include "renderer/prepared_pictures.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 #include "drawing/fitted_picture.h"
@@ -54,8 +55,8 @@ PreparedPicture PreparedPictures::get(const PictureRequest& request, bool inHand
   if (!file) return fitted(sourceOf(request), request);
   const Key key{*file, request.recoloring, request.ownSize ? QSize() : request.place.size(), partOf(request)};
   if (const PreparedPicture* const kept = kept_.object(key)) return *kept;
-  if (inHand && unscaled_ && unscaled_->file == *file && unscaled_->recoloring == request.recoloring) {
-    return fitted(unscaled_->source, request);
+  if (inHand) {
+    if (const Unscaled* const held = unscaledOf(*file, request.recoloring)) return fitted(held->source, request);
   }
   const bool settled = platform::isSettled(*file);
   Source source = sourceOf(request);
@@ -74,14 +75,27 @@ PreparedPicture PreparedPictures::get(const PictureRequest& request, bool inHand
   return prepared;
 }
 
+qsizetype PreparedPictures::unscaledBytes() const {
+  return std::accumulate(unscaled_.begin(), unscaled_.end(), qsizetype(0),
+                         [](qsizetype sum, const Unscaled& held) { return sum + held.source.picture.sizeInBytes(); });
+}
+
+const PreparedPictures::Unscaled* PreparedPictures::unscaledOf(const platform::FileIdentity& file,
+                                                               const Recoloring& recoloring) const {
+  const auto found = std::find_if(unscaled_.begin(), unscaled_.end(), [&](const Unscaled& held) {
+    return held.file == file && held.recoloring == recoloring;
+  });
+  return found == unscaled_.end() ? nullptr : &*found;
+}
+
 void PreparedPictures::holdUnscaled(Unscaled unscaled) {
-  unscaled_ = std::move(unscaled);
-  if (unscaledBytes() > mostBytes_) unscaled_.reset();
+  if (unscaledBytes() + unscaled.source.picture.sizeInBytes() > mostBytes_) return;
+  unscaled_.push_back(std::move(unscaled));
   kept_.setMaxCost(mostBytes_ - unscaledBytes());
 }
 
 void PreparedPictures::letGo() {
-  unscaled_.reset();
+  unscaled_.clear();
   kept_.setMaxCost(mostBytes_);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include <QCache>
 #include <QImage>
@@ -47,8 +48,8 @@ class PreparedPictures {
 
   explicit PreparedPictures(qsizetype mostBytes = MostBytes) : mostBytes_(mostBytes), kept_(mostBytes) {}
 
-  /// Returns the picture from the cache, or prepares it. For the object in hand, whose size changes with each frame,
-  /// the unscaled picture is kept instead of the scaled ones. Throws std::bad_alloc.
+  /// Returns the picture from the cache, or prepares it. For the objects in hand, of which another part or size may
+  /// show in each frame, the unscaled pictures are kept instead of the scaled ones. Throws std::bad_alloc.
   PreparedPicture get(const PictureRequest& request, bool inHand);
   /// Has to be called when no object is in hand any more.
   void letGo();
@@ -84,12 +85,13 @@ class PreparedPictures {
   static Source sourceOf(const PictureRequest& request);
   static QRect partOf(const PictureRequest& request);
   static PreparedPicture fitted(Source source, const PictureRequest& request);
-  qsizetype unscaledBytes() const { return unscaled_ ? unscaled_->source.picture.sizeInBytes() : 0; }
+  qsizetype unscaledBytes() const;
+  const Unscaled* unscaledOf(const platform::FileIdentity& file, const Recoloring& recoloring) const;
   void holdUnscaled(Unscaled unscaled);
 
   qsizetype mostBytes_;
   QCache<Key, PreparedPicture> kept_;
-  std::optional<Unscaled> unscaled_;
+  std::vector<Unscaled> unscaled_;  ///< as many as there is room for
 };
 
 /// Gets the picture from the store, or prepares it if `store` is null. Throws std::bad_alloc.

@@ -147,6 +147,16 @@ class PreparedPicturesTest : public QObject {
       QCOMPARE(store.get(request(width), true).picture, renderer::prepare(nullptr, request(width)).picture);
       QVERIFY(store.bytes() >= 64 * 48 * 4 && store.bytes() <= 64 * 48 * 4 + 9000);
     }
+    // As many of them as there is room for.
+    renderer::PreparedPictures roomy(3 * 64 * 48 * 4);
+    const renderer::Recoloring other{renderer::Recoloring::Type::Colorized, {10, 20, 30}};
+    for (auto* const one : {&store, &roomy}) {
+      for (const auto& recoloring : {renderer::Recoloring(), other}) {
+        const renderer::PictureRequest inHand{folder_.path(u"big.bmp"_s), recoloring, QRect(0, 0, 53, 40)};
+        QCOMPARE(one->get(inHand, true).picture, renderer::prepare(nullptr, inHand).picture);
+      }
+    }
+    QVERIFY(roomy.bytes() == 2 * 64 * 48 * 4 && store.bytes() <= 64 * 48 * 4 + 9000);
     store.letGo();
     QVERIFY(store.bytes() < 64 * 48 * 4);
     // A file that has just changed may change again unseen.
