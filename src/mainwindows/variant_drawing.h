@@ -40,7 +40,10 @@ class VariantDrawing {
   renderer::TrialFiles files_;
   renderer::TrialFrame frame_{noValues_, files_};
   std::optional<renderer::ChosenScreen> chosen_;
-  int next_ = 0;
+  bool hasBackground_ = false;
+  size_t pass_ = 0;  ///< what comes next
+  int row_ = 0;
+  int textShift_ = 0;  ///< of the buttons so far
 };
 
 }  // namespace mainwindows

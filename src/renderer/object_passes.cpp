@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include <QHash>
 #include <QRegularExpression>
@@ -104,13 +105,12 @@ bool countButton(themefiles::ModuleState& state) {
 }
 
 /// Draws the child texts 1 to `count` relative to the button. The first one drawn is moved by the shift, and clears it.
-void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, int count, int& textShift) {
+void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, int count) {
   for (int number = 1; number <= count; ++number) {
     const ObjectSection child(context, tag + QStringLiteral("TEXT") + QString::number(number));
     const QString x = QStringLiteral("X");
     if (!child.Value(x).isEmpty()) {
-      DrawTextObject(context, child, box.X, box.Y + textShift, tag);
-      textShift = 0;
+      DrawTextObject(context, child, box.X, box.Y + std::exchange(context.textShift, 0), tag);
     } else if (child.isThere()) {
       leaveOut(context, child.Name(), Reason::NoPlace, x, {});
     }
@@ -118,9 +118,9 @@ void drawChildTexts(RenderContext& context, const QString& tag, const Box& box, 
   }
 }
 
-/// A button that grows sets `textShift`. The next child text is moved by it, even if it belongs to another button.
-/// Returns the reason for its texts if they are left out, too.
-std::optional<Reason> drawButton(RenderContext& context, const QString& tag, int& textShift) {
+/// A button that grows sets the context's `textShift`. The next child text is moved by it, even if it belongs to
+/// another button. Returns the reason for its texts if they are left out, too.
+std::optional<Reason> drawButton(RenderContext& context, const QString& tag) {
   const ObjectSection section(context, tag);
   const QString visible = section.Value(QStringLiteral("Visible"));
   if (visible == u"0") {
@@ -140,7 +140,7 @@ std::optional<Reason> drawButton(RenderContext& context, const QString& tag, int
     const auto selectedHeight = themeInt16(context, section, QStringLiteral("SelectH"), screenStep());
     if (!selectedHeight) return Reason::WithButton;
     if (*selectedHeight != 0) {
-      if (!platform::upperCase(tag).contains(u"COLLECTION")) textShift = *selectedHeight - box->H;
+      if (!platform::upperCase(tag).contains(u"COLLECTION")) context.textShift = *selectedHeight - box->H;
       box->H = *selectedHeight;
       look.heightKey = QStringLiteral("SelectH");
     }
@@ -148,7 +148,7 @@ std::optional<Reason> drawButton(RenderContext& context, const QString& tag, int
   drawObject(context, section, file, *box, look);
   const auto texts = themeInt16(context, section, QStringLiteral("TEXTS"), screenStep());
   if (!texts) return Reason::WithButton;
-  if (context.parts != Parts::Pictures) drawChildTexts(context, tag, *box, *texts, textShift);
+  if (context.parts != Parts::Pictures) drawChildTexts(context, tag, *box, *texts);
   showObject(context);
   return std::nullopt;
 }
@@ -237,14 +237,13 @@ void DrawTexts(RenderContext& context) {
 void DrawButtons(RenderContext& context) {
   const QString stem = platform::upperCase(themefiles::stemOf(context.state, context.host.screenName()));
   QHash<QString, Reason> withoutTexts;
-  int textShift = 0;
   for (int row = 0; row < context.tags.ListCount(); ++row) {
     const QString tag = context.tags.List(row);
     if (!isButton(tag)) continue;
     const QString upper = platform::upperCase(tag);
     const bool isMereButton = !isDrawnElsewhere(upper, stem);
     context.notMissed = isMereButton ? QString() : tag;
-    const std::optional<Reason> withoutText = drawButton(context, tag, textShift);
+    const std::optional<Reason> withoutText = drawButton(context, tag);
     if (isMereButton && withoutText) withoutTexts.insert(upper, *withoutText);
   }
   context.notMissed.clear();

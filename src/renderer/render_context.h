@@ -30,6 +30,7 @@ struct RenderContext {
   TrialFrame* trial = nullptr;           ///< the values on trial; null for none
   QString notMissed = {};                ///< a section drawn once more that isn't entered as left out
   Parts parts = Parts::All;
+  int textShift = 0;  ///< how far the next child text of a button moves down
 };
 
 /// Advances the progress bar by `step` per cent and yields.

@@ -10,6 +10,7 @@ namespace {
 void drawButtonsWithList(RenderContext& context) {
   themefiles::ModuleState& state = context.state;
   state.ButtonCount = 0;
+  context.textShift = 0;
   if (state.ButtonListFilled) {
     DrawButtons(context);
     return;
