@@ -33,8 +33,9 @@ void registerScreen(const std::shared_ptr<SampleScreen>& screen);
 /// A drag on a screen of many large pictures. Prints the share of its frames that a display of 60 a second would miss;
 /// whether that is little enough.
 bool drawHeavyDrag();
-/// The steps in which the editor goes over the whole theme. Prints the longest ones; whether they are short enough.
-bool stepsAreShort();
+/// With the windows open that go over the whole theme. Prints the longest times in which no event is served; whether
+/// they are short enough.
+bool gapsAreShort(const SampleScreen& screen);
 void registerThemeCheck();
 void registerFinding();
 void registerShownScreen(const std::shared_ptr<SampleScreen>& screen);

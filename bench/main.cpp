@@ -129,7 +129,7 @@ int main(int argc, char** argv) {
   benchmark::RunSpecifiedBenchmarks(&medians);
   bool reached = bench::printTable(medians, {screen, large});
   reached = bench::drawHeavyDrag() && reached;
-  reached = bench::stepsAreShort() && reached;
+  reached = bench::gapsAreShort(*screen) && reached;
   benchmark::ClearRegisteredBenchmarks();  // they hold windows, which go before the application
   return reached && !medians.failed() ? 0 : 1;
 }

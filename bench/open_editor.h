@@ -3,6 +3,7 @@
 #include <functional>
 
 #include <QApplication>
+#include <QShortcut>
 #include <QTimer>
 
 #include "mainwindows/editor.h"
@@ -37,6 +38,15 @@ struct OpenEditor {
   void choose(const QString& screen) const {
     form.toolWindow()->screens().SetText(screen);
     QApplication::processEvents();
+  }
+
+  /// Opens the windows that go over the whole theme: what is wrong, and the screen side by side.
+  void showWholeTheme() const {
+    const QList<QKeySequence> keys{QKeySequence(QStringLiteral("Ctrl+Shift+K")),
+                                   QKeySequence(QStringLiteral("Ctrl+B"))};
+    for (QShortcut* shortcut : form.findChildren<QShortcut*>()) {
+      if (keys.contains(shortcut->key())) Q_EMIT shortcut->activated();
+    }
   }
 
   CopiedSample game;

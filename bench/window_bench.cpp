@@ -6,10 +6,12 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include "controls/list_box.h"
 #include "figures.h"
 #include "mainwindows/workspace.h"
 #include "open_editor.h"
 #include "progressbar/progress_bar.h"
+#include "toolwindow/tool_window.h"
 
 namespace bench {
 namespace {
@@ -39,16 +41,27 @@ void awaitFrame(benchmark::State& state) {
   state.ResumeTiming();
 }
 
-/// Drags an object of the preview's middle, and gives it up when the last frame has been measured.
+/// Drags so many objects, the first one from the preview's middle, and gives them up when the last frame has been
+/// measured.
 class Drag : public QObject {
  public:
-  explicit Drag(OpenEditor& editor) : form_(editor.form) {
+  Drag(OpenEditor& editor, size_t count) : form_(editor.form) {
     const auto& objects = form_.account().objects;
-    from_ = objects[objects.size() / 2].place.center();
+    const size_t middle = objects.size() / 2;
+    from_ = objects[middle].place.center();
     form_.Workspace->installEventFilter(this);
+    controls::ListBox& list = form_.toolWindow()->objects();
+    list.SetListIndex(list.row(list.findItems(objects[middle].section, Qt::MatchExactly).first()));
+    for (size_t i = 0; static_cast<size_t>(form_.session().members().size()) + 1 < count; ++i) {
+      const renderer::DrawnObject& object = objects.at((middle + i) % objects.size());
+      if (object.owner.isEmpty()) form_.session().toggleMember(object.section);
+    }
     send(QEvent::MouseButtonPress, from_);
   }
-  ~Drag() override { form_.session().settle(); }
+  ~Drag() override {
+    form_.session().settle();
+    form_.session().endGroup();
+  }
   Q_DISABLE_COPY_MOVE(Drag)
 
   /// From the mouse move to the presented window.
@@ -82,6 +95,24 @@ class Drag : public QObject {
   bool shown_ = false;
 };
 
+void registerDrag(const char* name, const std::shared_ptr<OpenEditor>& editor, size_t objects,
+                  const std::shared_ptr<PlainPreview>& preview, const SampleScreen& screen) {
+  registerBenchmark(
+      {name, 1.5, Held::AtMost},
+      [editor, objects](benchmark::State& state) {
+        editor->form.queue().draw();
+        Drag drag(*editor, objects);
+        for ([[maybe_unused]] auto turn : state) drag.frame(state);
+      },
+      [preview, blend = blending(screen)](benchmark::State& state) {
+        for ([[maybe_unused]] auto turn : state) {
+          awaitFrame(state);
+          blend(preview->surface);
+          preview->repaint(preview->surface.takeDirty());
+        }
+      });
+}
+
 }  // namespace
 
 void registerShownScreen(const std::shared_ptr<SampleScreen>& screen) {
@@ -108,20 +139,12 @@ void registerShownScreen(const std::shared_ptr<SampleScreen>& screen) {
                         preview->repaint(preview->surface.takeDirty());
                       }
                     });
-  registerBenchmark(
-      {"ShownDrag", 1.5, Held::AtMost},
-      [editor](benchmark::State& state) {
-        editor->form.queue().draw();
-        Drag drag(*editor);
-        for ([[maybe_unused]] auto turn : state) drag.frame(state);
-      },
-      [preview, blend = blending(*screen)](benchmark::State& state) {
-        for ([[maybe_unused]] auto turn : state) {
-          awaitFrame(state);
-          blend(preview->surface);
-          preview->repaint(preview->surface.takeDirty());
-        }
-      });
+  constexpr size_t Several = 10;
+  registerDrag("ShownDrag", editor, 1, preview, *screen);
+  registerDrag("DragOfTen", editor, Several, preview, *screen);
+  const auto whole = std::make_shared<OpenEditor>(screen->theme(), screen->name());
+  whole->showWholeTheme();
+  registerDrag("DragBeside", whole, Several, preview, *screen);
 }
 
 }  // namespace bench
