@@ -57,6 +57,9 @@ class Drag : public QObject {
       if (object.owner.isEmpty()) form_.session().toggleMember(object.section);
     }
     send(QEvent::MouseButtonPress, from_);
+    // Once in a drag the pictures that come to lie over an edge are decoded.
+    moveTo(Places);
+    awaitPaint();
   }
   ~Drag() override {
     form_.session().settle();
@@ -66,12 +69,10 @@ class Drag : public QObject {
 
   /// From the mouse move to the presented window.
   void frame(benchmark::State& state) {
-    constexpr int Places = 100;
-    shown_ = false;
     place_ = (place_ + 1) % Places;
-    send(QEvent::MouseMove, from_ + QPoint(DragDistance + place_, 0));
+    moveTo(place_);
     awaitFrame(state);
-    while (!shown_) QApplication::processEvents();
+    awaitPaint();
   }
 
  protected:
@@ -82,7 +83,15 @@ class Drag : public QObject {
 
  private:
   static constexpr int DragDistance = 4;
+  static constexpr int Places = 100;
 
+  void moveTo(int place) {
+    shown_ = false;
+    send(QEvent::MouseMove, from_ + QPoint(DragDistance + place, 0));
+  }
+  void awaitPaint() const {
+    while (!shown_) QApplication::processEvents();
+  }
   void send(QEvent::Type type, const QPoint& place) {
     const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
     QMouseEvent event(type, place, form_.Workspace->mapToGlobal(place), button, Qt::LeftButton, Qt::NoModifier);
