@@ -6,12 +6,12 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "controls/combo_box.h"
+#include "controls/look.h"
 #include "controls/work_queue.h"
 #include "drawing/surface.h"
 #include "mainwindows/main_window.h"
@@ -40,7 +40,7 @@ QIcon smallPicture(const QImage& picture, qreal scale) {
 }  // namespace
 
 SideBySide::SideBySide(Form1& form)
-    : QWidget(form.toolWindow(), Qt::Tool),
+    : ThemeWindow(*form.toolWindow()),
       form_(form),
       pages_(new QStackedWidget(this)),
       list_(new QListWidget(this)),
@@ -50,7 +50,6 @@ SideBySide::SideBySide(Form1& form)
       steps_(
           form.queue(), [this] { return step(); }, QuietTime) {
   setObjectName(QStringLiteral("SideBySide"));
-  setAttribute(Qt::WA_MacAlwaysShowToolWindow);
   list_->setObjectName(QStringLiteral("List"));
   list_->setAccessibleName(QStringLiteral("The screen in each skin and language"));
   list_->setViewMode(QListView::IconMode);
@@ -67,23 +66,18 @@ SideBySide::SideBySide(Form1& form)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addWidget(pages_);
-  const QRect room = form.screen()->availableGeometry();
+  const QRect room = this->room();
   resize(Whole.boundedTo(room.size()));
   move(room.topLeft());
   connect(list_, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) { enlarge(list_->row(item)); });
   large_->installEventFilter(this);
-  form.toolWindow()->installEventFilter(this);
 }
 
 SideBySide::~SideBySide() = default;
 
 void SideBySide::open() {
-  former_.remember(*this);
-  QWidget::show();
-  activateWindow();
-  raise();
+  bringUp();
   showSmall();
-  listVariants();
   renew();
 }
 
@@ -102,19 +96,22 @@ void SideBySide::listVariants() {
     return a.name == b.name && a.skinFile == b.skinFile && a.languageFile == b.languageFile;
   };
   if (std::equal(variants.begin(), variants.end(), variants_.begin(), variants_.end(), same)) return;
+  if (enlarged_ >= 0) showSmall();
   variants_ = std::move(variants);
   pictures_.assign(variants_.size(), {});
   list_->clear();
   for (const Variant& variant : variants_) {
-    list_->addItem(variant.name);
-    list_->item(list_->count() - 1)->setSizeHint(list_->gridSize());
+    auto* item = new QListWidgetItem(variant.name, list_);
+    item->setSizeHint(list_->gridSize());
+    item->setToolTip(controls::plainToolTip(variant.name));
   }
   list_->setCurrentRow(0);
 }
 
 void SideBySide::renew() {
   if (!isVisible() || form_.toolWindow() == nullptr) return;
-  setWindowTitle(form_.session().screen() + QStringLiteral(" in each skin and language"));
+  listVariants();  // another program may have added some, or taken some away
+  tell();
   drawing_.reset();
   waiting_.clear();
   for (int variant = 0; variant < static_cast<int>(variants_.size()); ++variant) waiting_.push_back(variant);
@@ -158,12 +155,21 @@ void SideBySide::enlarge(int variant) {
   area_->setAccessibleName(large_->accessibleName());
   pages_->setCurrentWidget(area_);
   area_->setFocus();
+  tell();
 }
 
 void SideBySide::showSmall() {
   enlarged_ = -1;
   pages_->setCurrentWidget(list_);
   list_->setFocus();
+  tell();
+}
+
+/// Tells in the title what is seen.
+void SideBySide::tell() {
+  const QString& screen = form_.session().screen();
+  setWindowTitle(enlarged_ < 0 ? screen + QStringLiteral(" in each skin and language")
+                               : screen + QStringLiteral(": ") + variants_.at(static_cast<size_t>(enlarged_)).name);
 }
 
 void SideBySide::keyPressEvent(QKeyEvent* event) {
@@ -171,14 +177,13 @@ void SideBySide::keyPressEvent(QKeyEvent* event) {
   if (isEnter && !event->isAutoRepeat()) {
     enlarged_ < 0 ? enlarge(list_->currentRow()) : showSmall();
   } else if (event->key() == Qt::Key_Escape) {
-    enlarged_ < 0 ? former_.giveBack(*this) : showSmall();
+    enlarged_ < 0 ? goBack() : showSmall();
   } else {
     QWidget::keyPressEvent(event);
   }
 }
 
-void SideBySide::hideEvent(QHideEvent* event) {
-  QWidget::hideEvent(event);
+void SideBySide::left() {
   steps_.stop();
   drawing_.reset();
   waiting_.clear();
@@ -189,8 +194,7 @@ bool SideBySide::eventFilter(QObject* watched, QEvent* event) {
     showSmall();
     return true;
   }
-  if (event->type() == QEvent::Hide && form_.toolWindow() != nullptr && !form_.toolWindow()->isVisible()) hide();
-  return QWidget::eventFilter(watched, event);
+  return ThemeWindow::eventFilter(watched, event);
 }
 
 void showSideBySide(Form1& form) {

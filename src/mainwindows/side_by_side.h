@@ -4,11 +4,9 @@
 #include <memory>
 #include <vector>
 
-#include <QWidget>
-
 #include "controls/idle_steps.h"
 #include "renderer/prepared_pictures.h"
-#include "toolwindow/former_focus.h"
+#include "toolwindow/theme_window.h"
 
 class QLabel;
 class QListWidget;
@@ -22,8 +20,8 @@ class VariantDrawing;
 
 /// The present screen as each skin and each language of the theme would draw it, small, with the button and the scheme
 /// in force. A click or Enter shows one at its own size. The pictures are drawn when the program is idle, and anew
-/// after each drawing of the preview; until then the last ones stay. It goes with the tool window.
-class SideBySide : public QWidget {
+/// after each drawing of the preview; until then the last ones stay.
+class SideBySide : public toolwindow::ThemeWindow {
   Q_OBJECT
 
  public:
@@ -36,8 +34,8 @@ class SideBySide : public QWidget {
   void renew();
 
  protected:
+  void left() override;
   void keyPressEvent(QKeyEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -53,9 +51,9 @@ class SideBySide : public QWidget {
   void show(int variant);
   void enlarge(int variant);
   void showSmall();
+  void tell();
 
   Form1& form_;
-  toolwindow::FormerFocus former_;
   QStackedWidget* pages_;
   QListWidget* list_;  ///< the small pictures
   QScrollArea* area_;  ///< has the large one

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPushButton>
-#include <QScreen>
 #include <QVBoxLayout>
 
 #include "controls/popup_menu.h"
@@ -21,7 +20,7 @@ constexpr QSize Size(460, 320);
 }  // namespace
 
 ListWindow::ListWindow(Form2& form, ListSource* source)
-    : QWidget(&form, Qt::Tool),
+    : ThemeWindow(form),
       Line(new controls::TextBox(this)),
       List(new controls::ListBox(controls::ListBox::Order::AsAdded, this)),
       form_(form),
@@ -29,7 +28,6 @@ ListWindow::ListWindow(Form2& form, ListSource* source)
   source->setParent(this);
   const ListNames names = source->names();
   setObjectName(names.window);
-  setAttribute(Qt::WA_MacAlwaysShowToolWindow);
   Line->setObjectName(QStringLiteral("Line"));
   Line->setAccessibleName(names.line);
   Line->setPlaceholderText(names.hint);
@@ -39,7 +37,7 @@ ListWindow::ListWindow(Form2& form, ListSource* source)
   column->addWidget(Line);
   column->addWidget(List);
   if (!source->actionOn({}).isEmpty()) addAction();
-  const QRect room = form.screen()->availableGeometry();
+  const QRect room = this->room();
   resize(Size.boundedTo(room.size()));
   const QPoint place = form.parentWidget()->geometry().center() - rect().center();
   const QPoint last = room.bottomRight() - rect().bottomRight();
@@ -49,7 +47,6 @@ ListWindow::ListWindow(Form2& form, ListSource* source)
   connect(Line, &controls::TextBox::enter, this, &ListWindow::accept);
   connect(List, &QAbstractItemView::doubleClicked, this, &ListWindow::accept);
   connect(source, &ListSource::renewed, this, &ListWindow::renew);
-  form.installEventFilter(this);
 }
 
 /// The button and the menu for the chosen rows.
@@ -66,11 +63,8 @@ void ListWindow::addAction() {
 }
 
 void ListWindow::open() {
-  former_.remember(*this);
   source_.begin();
-  show();
-  activateWindow();
-  raise();
+  bringUp();
   Line->setFocus();
   Line->selectAll();
   source_.keepsPlace() ? renew() : search();
@@ -108,7 +102,7 @@ void ListWindow::accept() {
   const int row = List->ListIndex();
   const auto goal = row < 0 ? std::nullopt : source_.goalOf(row);
   if (!goal) return;
-  hideFor(*this, &form_);
+  hideFor(&form_);
   form_.goTo(*goal);
 }
 
@@ -135,7 +129,7 @@ void ListWindow::updateAction() {
 void ListWindow::keyPressEvent(QKeyEvent* event) {
   const int page = std::max(1, List->viewport()->height() / std::max(1, List->sizeHintForRow(0)));
   const bool extends = action_ != nullptr && event->modifiers().testFlag(Qt::ShiftModifier);
-  if (event->key() == Qt::Key_Escape) return former_.giveBack(*this);
+  if (event->key() == Qt::Key_Escape) return goBack();
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     if (event->isAutoRepeat()) return;
     action_ != nullptr&& focusWidget() == action_ ? action_->click() : accept();
@@ -144,16 +138,6 @@ void ListWindow::keyPressEvent(QKeyEvent* event) {
   } else {
     QWidget::keyPressEvent(event);
   }
-}
-
-void ListWindow::hideEvent(QHideEvent* event) {
-  QWidget::hideEvent(event);
-  source_.end();
-}
-
-bool ListWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Hide && !form_.isVisible()) hide();
-  return QWidget::eventFilter(watched, event);
 }
 
 void showListWindow(Form2& form, const QString& name, const std::function<ListSource*()>& source) {

@@ -3,12 +3,10 @@
 #include <functional>
 #include <vector>
 
-#include <QWidget>
-
 #include "controls/list_box.h"
 #include "controls/text_box.h"
-#include "toolwindow/former_focus.h"
 #include "toolwindow/list_source.h"
+#include "toolwindow/theme_window.h"
 
 class QPushButton;
 
@@ -17,9 +15,9 @@ namespace toolwindow {
 class Form2;
 
 /// The window in which a question about the whole theme is answered by a list. A line narrows the list. It stays until
-/// the user has gone to a row, presses Esc or closes it, and goes with the tool window. With a source that does
+/// the user has gone to a row, presses Esc or closes it. With a source that does
 /// something with rows, several can be chosen, and it has a button and a menu for that.
-class ListWindow : public QWidget {
+class ListWindow : public ThemeWindow {
   Q_OBJECT
 
  public:
@@ -35,9 +33,8 @@ class ListWindow : public QWidget {
   void open();
 
  protected:
+  void left() override { source_.end(); }
   void keyPressEvent(QKeyEvent* event) override;
-  void hideEvent(QHideEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void addAction();
@@ -51,7 +48,6 @@ class ListWindow : public QWidget {
 
   Form2& form_;
   ListSource& source_;
-  FormerFocus former_;
   QPushButton* action_ = nullptr;
 };
 
