@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include <QPointer>
+
+#include "controls/work_queue.h"
 #include "editing/goals.h"
 #include "editing/reports.h"
 #include "editing/session.h"
@@ -40,6 +43,7 @@ QString ThemePaths::*copyOf(const Finding& finding) {
 
 ThemeReview::ThemeReview(editing::Session& session, controls::WorkQueue& queue)
     : session_(session),
+      queue_(queue),
       steps_(
           queue, [this] { return step(); }, QuietTime) {
   connect(&session, &editing::Session::differencesDue, this, [this] {
@@ -87,7 +91,9 @@ bool ThemeReview::step() {
   } else if (!check_->isDone()) {
     check_->step();
   } else if (!places_) {
-    theme_ = platform::IniText(platform::readFile(state.paths.ThemeFile));
+    // A working copy that is gone has its finding, and no places.
+    theme_ = platform::IniText();
+    platform::guardedSilently([&] { theme_ = platform::IniText(platform::readFile(state.paths.ThemeFile)); });
     places_.emplace(state, theme_);
   } else if (!places_->step()) {
     publish();
@@ -114,7 +120,10 @@ void ThemeReview::publish() {
     present_ = static_cast<int>(again - items_.begin());
   }
   Q_EMIT renewed();
-  if (std::exchange(isGoing_, false)) goToNext();
+  // Not under a dialog.
+  queue_.runOutside([open = QPointer<ThemeReview>(this)] {
+    if (open && std::exchange(open->isGoing_, false)) open->goToNext();
+  });
 }
 
 ThemeReview::Item ThemeReview::itemOf(const Finding& finding) const {
@@ -143,19 +152,20 @@ void ThemeReview::goToNext() {
     return;
   }
   if (!isWanted_) begin();  // what this one mends is to be seen
+  std::optional<editing::Goals> goals;
+  platform::guarded(session_.status(), editing::FindStep.toString(), [&] { goals.emplace(session_.state()); });
+  if (!goals) return;
   const auto count = static_cast<int>(items_.size());
   for (int step = 1; step <= count; ++step) {
     const int next = (present_ + step) % count;
-    const Item item = items_.at(static_cast<size_t>(next));
-    if (!item.leadsThere) continue;
-    std::optional<themefiles::Hit> goal;
+    const Item& item = items_.at(static_cast<size_t>(next));
     // What nothing uses, or what was mended meanwhile, leads nowhere.
-    platform::guardedSilently([&] { goal = editing::goalOf(session_.state(), session_.screen(), item.place); });
+    const auto goal = item.leadsThere ? goals->of(session_.screen(), item.place) : std::nullopt;
     if (!goal) continue;
     present_ = next;
+    const QString told = QStringLiteral("%1 of %2: %3").arg(next + 1).arg(count).arg(item.told);
     Q_EMIT goalChosen(*goal);
-    session_.status().ShowStatus(QStringLiteral("%1 of %2: %3").arg(next + 1).arg(count).arg(item.told));
-    return;
+    return session_.status().ShowStatus(told);
   }
   session_.status().ShowStatus(QStringLiteral("Nothing to go to: the check has found %1").arg(count));
 }

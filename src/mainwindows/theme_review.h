@@ -64,6 +64,7 @@ class ThemeReview : public QObject {
   Item itemOf(const themecheck::Finding& finding) const;
 
   editing::Session& session_;
+  controls::WorkQueue& queue_;
   bool isWanted_ = false;
   bool isKnown_ = false;
   bool isGoing_ = false;  ///< to the first finding, when the check is done

@@ -149,6 +149,11 @@ class DifferencesTest : public QObject {
     QVERIFY(editing::putBack(theme.session, differing));
     QCOMPARE(theme.copy("theme"), text(false));
     QVERIFY(theme.report().startsWith(u"Put back: 3000 values"_s));
+    editing::Goals goals(theme.state);
+    const auto isNamed = [&](int texture) {
+      return goals.of({}, {&ThemePaths::SkinFile, u"Textures"_s, u"No%1"_s.arg(texture)}).has_value();
+    };
+    for (int texture = 0; texture < 20'000; ++texture) QVERIFY(!isNamed(texture));
   }
 };
 

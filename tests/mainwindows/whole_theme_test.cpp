@@ -11,10 +11,11 @@ class WholeThemeTest : public ProgramTest {
   Q_OBJECT
 
  private:
-  toolwindow::ListWindow& faults() const {
-    key(program->tools(), Qt::Key_K, Qt::ControlModifier | Qt::ShiftModifier);
-    return *program->tools().findChild<toolwindow::ListWindow*>(u"Faults"_s);
+  toolwindow::ListWindow& list(Qt::Key letter, const QString& name) const {
+    key(program->tools(), letter, Qt::ControlModifier | Qt::ShiftModifier);
+    return *program->tools().findChild<toolwindow::ListWindow*>(name);
   }
+  toolwindow::ListWindow& faults() const { return list(Qt::Key_K, u"Faults"_s); }
   mainwindows::SideBySide& sideBySide() const {
     key(program->tools(), Qt::Key_B, Qt::ControlModifier);
     return *program->tools().findChild<mainwindows::SideBySide*>();
@@ -75,8 +76,34 @@ class WholeThemeTest : public ProgramTest {
       program->open();
       QVERIFY(faults().List->ListCount() == 0);
     }
+    // Nothing is chosen under a dialog.
     toolwindow::ListWindow& window = faults();
-    QTRY_VERIFY_WITH_TIMEOUT(window.List->ListCount() > 0, 20000);
+    key(program->form, Qt::Key_F8);
+    const QString before = place();
+    program->openDialog([&](mainwindows::Form3& dialog) {
+      const auto cancel = qScopeGuard([&] { dialog.reject(); });
+      QTRY_VERIFY_WITH_TIMEOUT(window.List->ListCount() > 0, 20000);
+      settle();
+      QCOMPARE(place(), before);
+    });
+    QVERIFY2(program->status().contains(u" of "_s), qPrintable(program->status()));
+  }
+
+  /// What is minimized comes back as it was, and a close box is like Esc. A working copy that is gone is a finding.
+  void comesBackAsItWas() {
+    program->tools().values().setFocus();
+    toolwindow::ListWindow& changes = list(Qt::Key_E, u"Changes"_s);
+    changes.showMinimized();
+    changes.showNormal();
+    program->edit(u"W"_s, u"0"_s);
+    QTRY_COMPARE(changes.List->ListCount(), 1);
+    program->tools().activateWindow();
+    list(Qt::Key_E, u"Changes"_s).close();
+    QVERIFY(QTest::qWaitForWindowActive(&program->tools()) && program->tools().values().hasFocus());
+    QFile::remove(game->native(ThemeCopy));
+    toolwindow::ListWindow& window = faults();
+    QTRY_COMPARE_WITH_TIMEOUT(window.windowTitle(), u"What is wrong: 1"_s, 20000);
+    QVERIFY2(window.List->List(0).contains(u"can't be read"_s), qPrintable(window.List->List(0)));
   }
 
   /// Each picture is what the preview would draw; the open one as it stands now.
@@ -92,6 +119,7 @@ class WholeThemeTest : public ProgramTest {
     QCOMPARE(names(), u"One, English|Two, English|One, Deutsch"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!list.item(2)->icon().isNull(), 20000);
     key(window, Qt::Key_Return);
+    QCOMPARE(window.windowTitle(), u"Loading Screen: One, English"_s);
     QCOMPARE(picture(window), program->picture().convertToFormat(QImage::Format_RGB32));
     QCOMPARE(game->files(), before);
     program->tag(u"LoadingStaticA"_s);
@@ -102,7 +130,10 @@ class WholeThemeTest : public ProgramTest {
     list.setCurrentRow(2);
     key(window, Qt::Key_Return);
     QVERIFY(picture(window) != program->picture().convertToFormat(QImage::Format_RGB32));
-    key(window, Qt::Key_Escape);
+    game->put(u"Skins/Alpha/Three.ini"_s, "[Textures]");  // by another program
+    key(program->form, Qt::Key_F5);
+    QCOMPARE(names(), u"One, English|Three, English|Two, English|One, Deutsch"_s);
+    QVERIFY(list.hasFocus());
     key(window, Qt::Key_Escape);
     QVERIFY(!window.isVisible());
   }
