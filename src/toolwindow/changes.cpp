@@ -106,7 +106,10 @@ class ChangesSource : public ListSource {
 
   /// The rows stay until all the new ones are there.
   bool step() {
-    if (!pass_) pass_.emplace(session_.state());
+    if (!pass_) {
+      const auto read = [this] { pass_.emplace(session_.state()); };
+      return platform::guarded(session_.status(), editing::FindStep.toString(), read);
+    }
     if (pass_->step()) return true;
     rows_.clear();
     for (const editing::Difference& each : pass_->found()) {
