@@ -278,7 +278,8 @@ class FormsTest : public ProgramTest {
       QTest::keyClick(&dialog, Qt::Key_Escape);
       QVERIFY(!dialog.isVisible());
     });
-    compareText(u"Form3.txt"_s, states.lines.replaceInStrings(game->path(), u"GAME"_s));
+    const QRegularExpression folder(u"\\["_s + QRegularExpression::escape(game->path()) + u"\\] +"_s);
+    compareText(u"Form3.txt"_s, states.lines.replaceInStrings(folder, u"[GAME]  "_s));
   }
 };
 
