@@ -28,6 +28,10 @@ std::vector<const IniSection*> objectsOf(const IniFile& theme) {
   return objects;
 }
 
+QString namesOfTheme(qsizetype count) {
+  return count == 1 ? QStringLiteral("1 name of the theme is") : QStringLiteral("%1 names of the theme are").arg(count);
+}
+
 QString wordsKeyOf(const IniSection& object) {
   if (const IniKey* key = object.find(QStringLiteral("Text"))) return key->value;
   return platform::upperCase(object.name).contains(u"TEXT") ? object.name : QString();

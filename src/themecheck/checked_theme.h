@@ -59,6 +59,9 @@ QString wordsKeyOf(const IniSection& object);
 /// The values, but empty ones, of all keys of that group in the theme.
 QSet<QString> valuesOf(const IniFile& theme, themefiles::KeyGroup group);
 
+/// As in "1 name of the theme is" and "3 names of the theme are".
+QString namesOfTheme(qsizetype count);
+
 /// Whether a colour is one of the program's or the players'. Those are looked up before the theme's.
 bool isBuiltInColor(const CheckedTheme& theme, const QString& name);
 

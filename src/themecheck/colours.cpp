@@ -30,11 +30,10 @@ void checkTable(CheckedTheme& theme, QSet<QString> used, Findings& findings) {
   if (used.size() < least || std::any_of(used.begin(), used.end(), isThere)) return;
   theme.colorsLost = true;
   if (platform::sameName(file.sectionBehindMark(), Colors)) return;  // told already
-  const QString count = QString::number(used.size());
   if (table) {
-    findings.add(Kind::EmptyTable, file.place(Colors), {count});
+    findings.add(Kind::EmptyTable, file.place(Colors), {QString::number(used.size())});
   } else {
-    findings.add(Kind::NoTable, file.wholeFile(), {Colors, count});
+    findings.add(Kind::NoTable, file.wholeFile(), {Colors, namesOfTheme(used.size())});
   }
 }
 

@@ -71,11 +71,10 @@ void checkWhole(CheckedTheme& theme, const IniFile& skin, const QSet<QString>& u
       std::any_of(used.begin(), used.end(), [&](const QString& name) { return skin.has(Textures, name); });
   if (!hasSome && used.size() >= (hasTable ? 2 : 1)) {
     theme.lostSkins += skin.name();
-    const QString count = QString::number(used.size());
     if (hasTable) {
-      findings.add(Kind::EmptyTable, skin.place(Textures), {count});
+      findings.add(Kind::EmptyTable, skin.place(Textures), {QString::number(used.size())});
     } else if (!platform::sameName(skin.sectionBehindMark(), Textures)) {
-      findings.add(Kind::NoTable, skin.wholeFile(), {Textures, count});
+      findings.add(Kind::NoTable, skin.wholeFile(), {Textures, namesOfTheme(used.size())});
     }
   }
   QSet<QString> files;

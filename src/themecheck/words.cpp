@@ -47,11 +47,10 @@ void checkTable(CheckedTheme& theme, const IniFile& language, const QSet<QString
   }
   theme.lostLanguages += language.name();
   if (!language.isChecked()) return;
-  const QString count = QString::number(used.size());
   if (hasTable) {
-    findings.add(Kind::EmptyWordsTable, language.place(Text), {count});
+    findings.add(Kind::EmptyWordsTable, language.place(Text), {QString::number(used.size())});
   } else if (!platform::sameName(language.sectionBehindMark(), Text)) {
-    findings.add(Kind::NoWordsTable, language.wholeFile(), {Text, count});
+    findings.add(Kind::NoWordsTable, language.wholeFile(), {Text, namesOfTheme(used.size())});
   }
 }
 

@@ -80,7 +80,7 @@ class Monkey {
   void arrowKeys();
   void drag();
   void shortcut();
-  void putBack();
+  void review();
   void resize();
   void loseFolder();
   void protectFiles();

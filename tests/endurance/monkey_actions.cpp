@@ -16,7 +16,7 @@ void Monkey::act() {
     click(*form().ToolBar, {16, 16});
   } else if (chance_.one(70)) {
     const std::array actions{&Monkey::shortcut,     &Monkey::resize,     &Monkey::protectFiles,
-                             &Monkey::protectFiles, &Monkey::loseFolder, &Monkey::putBack};
+                             &Monkey::protectFiles, &Monkey::loseFolder, &Monkey::review};
     (this->*chance_.of(actions))();
   } else if (chance_.one(900)) {
     form().close();
@@ -167,17 +167,28 @@ void Monkey::shortcut() {
   key(*window, chance_.of(std::array{Qt::Key_O, Qt::Key_S, Qt::Key_S, Qt::Key_W}), Qt::ControlModifier);
 }
 
-/// Something in the list of what differs.
-void Monkey::putBack() {
+/// Something in the list of what differs, in that of what is wrong, and with the screen in each skin and language.
+void Monkey::review() {
   if (form().toolWindow() == nullptr) return;
-  key(form(), Qt::Key_E, Qt::ControlModifier | Qt::ShiftModifier);
+  if (chance_.one(3)) return key(form(), Qt::Key_F8);
+  if (chance_.one(4)) {
+    key(form(), Qt::Key_B, Qt::ControlModifier);
+    QTest::qWait(chance_.below(40));
+    auto* pictures = form().findChild<QWidget*>(u"SideBySide"_s);
+    if (pictures != nullptr && chance_.one(2)) key(*pictures, chance_.one(2) ? Qt::Key_Return : Qt::Key_Escape);
+    return;
+  }
+  const bool changes = chance_.one(2);
+  key(form(), changes ? Qt::Key_E : Qt::Key_K, Qt::ControlModifier | Qt::ShiftModifier);
   QTest::qWait(20);
-  auto* list = form().toolWindow()->findChild<toolwindow::ListWindow*>(u"Changes"_s);
+  if (form().toolWindow() == nullptr) return;
+  auto* list = form().toolWindow()->findChild<toolwindow::ListWindow*>(changes ? u"Changes"_s : u"Faults"_s);
   if (list == nullptr) return;
   if (chance_.one(2)) key(*list->Line, chance_.of(std::array{Qt::Key_X, Qt::Key_T, Qt::Key_Backspace}));
   if (chance_.one(2)) key(*list->List, Qt::Key_A, Qt::ControlModifier);
-  counts_[u"put back"_s] += list->action()->isEnabled();
-  chance_.one(2) ? list->action()->click() : key(*list->Line, chance_.one(2) ? Qt::Key_Return : Qt::Key_Escape);
+  if (changes) counts_[u"put back"_s] += list->action()->isEnabled();
+  if (changes && chance_.one(2)) return list->action()->click();
+  key(*list->Line, chance_.one(2) ? Qt::Key_Return : Qt::Key_Escape);
 }
 
 void Monkey::resize() {
