@@ -15,8 +15,8 @@ file(COPY ${CANTORAMA_FONT_FILES} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/
 
 get_target_property(core Qt6::Core IMPORTED_LOCATION_RELEASE)
 get_filename_component(libraries ${core} DIRECTORY)
-file(GLOB libraries ${libraries}/Qt6*.dll ${libraries}/lib*.dll)
-file(COPY ${libraries} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+file(GLOB CANTORAMA_LIBRARIES ${libraries}/Qt6*.dll ${libraries}/lib*.dll)
+file(COPY ${CANTORAMA_LIBRARIES} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
 foreach(kind platforms imageformats)
   file(COPY ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_PLUGINS}/${kind} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}
        FILES_MATCHING PATTERN "*.dll")
@@ -27,13 +27,13 @@ if(NOT CMAKE_HOST_WIN32)
   set(CANTORAMA_DRIVE Z:)
 endif()
 
-# What the programs ask of Windows: cantorama_manifest(TARGET...)
+# What Windows shows of a program: cantorama_program(TARGET "description")
 enable_language(RC)
-file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/program.rc CONTENT "1 24 \"@CMAKE_SOURCE_DIR@/packaging/windows/program.manifest\"\n" @ONLY)
-function(cantorama_manifest)
-  foreach(program ${ARGN})
-    target_sources(${program} PRIVATE ${CMAKE_BINARY_DIR}/program.rc)
-    set_property(SOURCE ${CMAKE_BINARY_DIR}/program.rc TARGET_DIRECTORY ${program} PROPERTY
-                 OBJECT_DEPENDS ${CMAKE_SOURCE_DIR}/packaging/windows/program.manifest)
-  endforeach()
+function(cantorama_program program description)
+  string(REPLACE "." "," version_numbers ${PROJECT_VERSION},0,0)
+  set(resources ${CMAKE_CURRENT_BINARY_DIR}/${program}.rc)
+  configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/program.rc.in ${resources} @ONLY)
+  target_sources(${program} PRIVATE ${resources})
+  set_property(SOURCE ${resources} TARGET_DIRECTORY ${program} PROPERTY
+               OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/packaging/windows/program.manifest;${CMAKE_SOURCE_DIR}/packaging/icons/cantorama-theme-edit.ico")
 endfunction()

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 
+#include "mainwindows/sample_game.h"
 #include "platform/failure.h"
 #include "platform/paths.h"
 
@@ -10,18 +11,21 @@ namespace mainwindows {
 namespace {
 
 constexpr QStringView Usage =
-    u"Usage: cantorama-theme-edit [GAME_FOLDER]\n"
+    u"Usage: cantorama-theme-edit [GAME_FOLDER | --sample]\n"
     u"Edits the themes of the game. GAME_FOLDER, the folder of the game's program file, counts for this run only.\n"
+    u"  --sample     take the sample game, from a copy in the user's documents\n"
     u"  -h, --help   print this and end\n"
     u"  --version    print the version and end";
 
 const QString Help = QStringLiteral("help");
 const QString VersionOption = QStringLiteral("version");
+const QString Sample = QStringLiteral("sample");
 
 void addOptions(QCommandLineParser& parser) {
   parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
   parser.addOption(QCommandLineOption(QStringList{QStringLiteral("h"), Help}));
   parser.addOption(QCommandLineOption(VersionOption));
+  parser.addOption(QCommandLineOption(Sample));
 }
 
 }  // namespace
@@ -40,7 +44,8 @@ CommandLine parseCommandLine(const QStringList& words) {
   QCommandLineParser parser;
   addOptions(parser);
   if (!parser.parse(words)) throw platform::Failure(parser.errorText());
-  const QStringList names = parser.positionalArguments();
+  QStringList names = parser.positionalArguments();
+  if (parser.isSet(Sample)) names += ownSampleGame();
   if (names.isEmpty()) return {};
   if (names.size() > 1) throw platform::Failure(QStringLiteral("more than one game folder is named"));
   const QString& folder = names.constFirst();

@@ -118,7 +118,7 @@ class OpenThemeTest : public QObject {
     const auto answer = [](const QStringList& words) {
       return mainwindows::commandLineAnswer(QStringList{u"program"_s} + words);
     };
-    QVERIFY(answer({u"--help"_s}).startsWith(u"Usage: cantorama-theme-edit [GAME_FOLDER]"_s));
+    QVERIFY(answer({u"--help"_s}).startsWith(u"Usage: cantorama-theme-edit [GAME_FOLDER | --sample]"_s));
     QVERIFY(answer({u"--version"_s}).endsWith(QStringLiteral(" " CANTORAMA_VERSION)) &&
             answer({u"-platform"_s}).isEmpty());
     const QTemporaryDir folder;

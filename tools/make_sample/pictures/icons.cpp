@@ -1,3 +1,8 @@
+#include <iterator>
+
+#include <QDataStream>
+#include <QIODevice>
+
 #include "drawing/canvas.h"
 #include "pictures/assets.h"
 
@@ -103,12 +108,33 @@ void writeIcons(const Output& output) {
   output.writePicture("app.png", programIcon(64));
 }
 
+constexpr int IconSizes[] = {16, 32, 48, 64, 128, 256};
+
+/// All sizes of the program's icon in one file, as Windows has them: a table, then the pictures as PNG.
+QByteArray iconFile() {
+  constexpr qsizetype HeadSize = 6;
+  constexpr qsizetype RowSize = 16;
+  constexpr int Count = std::size(IconSizes);
+  QByteArray pictures;
+  QByteArray file;
+  QDataStream table(&file, QIODevice::WriteOnly);
+  table.setByteOrder(QDataStream::LittleEndian);
+  table << quint16(0) << quint16(1) << quint16(Count);
+  for (const int pixels : IconSizes) {
+    const QByteArray picture = encodePicture(programIcon(pixels), "png");
+    const auto side = static_cast<quint8>(pixels);  // 256 is 0 there
+    table << side << side << quint8(0) << quint8(0) << quint16(1) << quint16(32) << quint32(picture.size())
+          << quint32(HeadSize + Count * RowSize + pictures.size());
+    pictures += picture;
+  }
+  return file + pictures;
+}
+
 }  // namespace
 
 void writeProgramIcons(const Output& output) {
-  for (const int pixels : {16, 32, 48, 64, 128, 256}) {
-    output.writePicture(std::to_string(pixels) + ".png", programIcon(pixels));
-  }
+  for (const int pixels : IconSizes) output.writePicture(std::to_string(pixels) + ".png", programIcon(pixels));
+  output.write("cantorama-theme-edit.ico", iconFile());
 }
 
 void writeAssets(const Output& output) {
