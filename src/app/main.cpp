@@ -20,7 +20,7 @@ constexpr int WrongCommandLine = 2;
 void choosePlatform() {
 #ifdef Q_OS_WIN
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-    qputenv("QT_QPA_PLATFORM", "windows:fontengine=freetype,darkmode=0");
+    qputenv("QT_QPA_PLATFORM", "windows:fontengine=freetype:darkmode=0");
   }
 #endif
 }
