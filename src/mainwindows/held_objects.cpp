@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <QHash>
+
 #include "editing/commit.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/selected_object.h"
@@ -63,10 +65,18 @@ bool HeldObjects::isOfHand(const QString& section, const QString& owner) const {
 }
 
 std::vector<editing::Guide> HeldObjects::guides() const {
+  // As the list has them: the drawing names the texts of a button in its own way.
+  QHash<QString, QString> names;
+  const themefiles::TagList& listed = form_.session().objects();
+  for (int row = 0; row < listed.ListCount(); ++row) {
+    names.insert(platform::upperCase(platform::trimBlanks(listed.List(row))), listed.List(row));
+  }
   std::vector<editing::Guide> guides{{QStringLiteral("the picture"), form_.Workspace->rect()}};
   for (const renderer::DrawnObject& object : form_.account().objects) {
     const bool seen = object.place.intersects(form_.Workspace->rect());
-    if (seen && !isOfHand(object.section, object.owner)) guides.push_back({object.section, object.place});
+    if (seen && !isOfHand(object.section, object.owner)) {
+      guides.push_back({names.value(platform::upperCase(object.section), object.section), object.place});
+    }
   }
   return guides;
 }

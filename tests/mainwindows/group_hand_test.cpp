@@ -230,6 +230,19 @@ class GroupHandTest : public HandTest {
     QTRY_COMPARE(preview().accessibleDescription(), u"X 200, Y 50, at LoadingButtonGo"_s);
     QTest::mouseRelease(&preview(), Qt::LeftButton, Qt::ControlModifier, Inside + QPoint(158, 5));
     QCOMPARE(newLines(file).join(u' '), u"X=200"_s);
+    // A text of a button, by the name that it has in the list.
+    const auto& objects = program->form.account().objects;
+    const auto text = std::find_if(objects.begin(), objects.end(), [](const renderer::DrawnObject& object) {
+      return object.section.compare(u"LoadingButtonGoText1", Qt::CaseInsensitive) == 0;
+    });
+    QVERIFY(text != objects.end());
+    const QRect mark = preview().markRect();
+    const QPoint by(text->place.left() - mark.left() + 1, 0);
+    QTest::mousePress(&preview(), Qt::LeftButton, {}, mark.center());
+    moveMouse(preview(), mark.center() + by, Qt::LeftButton, Qt::ControlModifier);
+    QTRY_VERIFY2(preview().accessibleDescription().endsWith(u", at LoadingButtonGoText1"),
+                 qPrintable(preview().accessibleDescription()));
+    QTest::keyClick(&preview(), Qt::Key_Escape);
   }
 };
 
