@@ -150,7 +150,9 @@ class PictureWatchTest : public ProgramTest {
       QTest::qWait(5);
     }
     QVERIFY2(clock.elapsed() < 2500 + 5 * longestGap, QByteArray::number(clock.elapsed()));
+#ifndef Q_OS_WIN  // Wine tells of several changes at once, and so late that the file seems to rest
     QVERIFY2(clock.elapsed() >= 1900 || longestGap > 90, QByteArray::number(clock.elapsed()));
+#endif
   }
 
   void ownWrites() {
