@@ -4,6 +4,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QPointer>
 
 #include "controls/combo_box.h"
 #include "controls/list_box.h"
@@ -201,9 +202,13 @@ editing::EditedRow Form2::editedRow(int row) const {
 
 /// Update. The editor is the one of the selected row's key, whatever frame is open.
 void Form2::Command1_Click() {
+  // Moving and committing draw, and serve events: the window may be gone by then.
+  const QPointer<Form2> open(this);
   services.session.settle();
+  if (!open) return;
   const bool done = editing::commitRow(services.session, editedRow(services.session.row()),
                                        [this](EditorFrame frame) { return area_.propose(frame); });
+  if (!open) return;
   area_.proposalEnded();
   if (done) ListView1->setFocus();
 }
