@@ -86,7 +86,7 @@ bool isGapShort(const OpenEditor& editor, const char* what) {
 }  // namespace
 
 bool gapsAreShort(const SampleScreen& screen) {
-  const QString theme = screen.theme();
+  const QString& theme = screen.theme();
   const QString huge = QStringLiteral("Huge");
   constexpr int HugeCount = 500;
   const OpenEditor plain(theme, screen.name());
