@@ -58,6 +58,7 @@ SideBySide::SideBySide(Form1& form)
   list_->setIconSize(Small);
   list_->setGridSize(Small + QSize(PictureGap, PictureGap + LabelHeight));
   large_->setObjectName(QStringLiteral("Large"));
+  large_->setAlignment(Qt::AlignCenter);
   area_->setWidget(large_);
   area_->setFocusPolicy(Qt::StrongFocus);
   area_->setFrameShape(QFrame::NoFrame);
@@ -115,9 +116,17 @@ void SideBySide::renew() {
   drawing_.reset();
   waiting_.clear();
   for (int variant = 0; variant < static_cast<int>(variants_.size()); ++variant) waiting_.push_back(variant);
-  // The one that is looked at comes first.
-  if (enlarged_ >= 0) std::swap(waiting_.front(), waiting_.at(static_cast<size_t>(enlarged_)));
+  drawFirst(enlarged_);
   steps_.begin();
+}
+
+/// Has the picture drawn before all others that wait.
+void SideBySide::drawFirst(int variant) {
+  const auto found = std::find(waiting_.begin(), waiting_.end(), variant);
+  if (found == waiting_.begin() || found == waiting_.end()) return;
+  drawing_.reset();
+  waiting_.erase(found);
+  waiting_.push_front(variant);
 }
 
 bool SideBySide::step() {
@@ -146,10 +155,14 @@ void SideBySide::show(int variant) {
   if (variant == enlarged_) large_->setPixmap(QPixmap::fromImage(picture));
 }
 
+/// Shows a picture at its own size. One that isn't drawn yet is the next that is.
 void SideBySide::enlarge(int variant) {
-  if (variant < 0 || pictures_.at(static_cast<size_t>(variant)).isNull()) return;
+  if (variant < 0) return;
   enlarged_ = variant;
-  large_->setPixmap(QPixmap::fromImage(pictures_.at(static_cast<size_t>(variant))));
+  const QImage& picture = pictures_.at(static_cast<size_t>(variant));
+  large_->setText(QStringLiteral("Not drawn yet"));
+  if (!picture.isNull()) large_->setPixmap(QPixmap::fromImage(picture));
+  drawFirst(variant);
   large_->resize(Whole);
   large_->setAccessibleName(variants_.at(static_cast<size_t>(variant)).name);
   area_->setAccessibleName(large_->accessibleName());

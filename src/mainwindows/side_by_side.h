@@ -47,6 +47,7 @@ class SideBySide : public toolwindow::ThemeWindow {
   };
 
   void listVariants();
+  void drawFirst(int variant);
   bool step();
   void show(int variant);
   void enlarge(int variant);

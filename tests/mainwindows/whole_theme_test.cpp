@@ -134,6 +134,16 @@ class WholeThemeTest : public ProgramTest {
     key(program->form, Qt::Key_F5);
     QCOMPARE(names(), u"One, English|Three, English|Two, English|One, Deutsch"_s);
     QVERIFY(list.hasFocus());
+    // What is wanted before it is drawn comes before the others.
+    QList<int> drawn;
+    connect(list.model(), &QAbstractItemModel::dataChanged, this,
+            [&](const QModelIndex& item) { drawn += item.row(); });
+    list.setCurrentRow(3);
+    key(window, Qt::Key_Return);
+    QVERIFY(picture(window).isNull() && window.windowTitle() == u"Loading Screen: One, Deutsch"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(!picture(window).isNull(), 20000);
+    QCOMPARE(drawn.first(), 3);
+    key(window, Qt::Key_Escape);
     key(window, Qt::Key_Escape);
     QVERIFY(!window.isVisible());
   }
