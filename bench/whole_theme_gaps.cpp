@@ -55,6 +55,25 @@ void addHugeScreen(const QString& game, const QString& name, const QString& mode
   platform::writeFile(platform::programPath(game) + QStringLiteral("\\Themes\\%1.ini").arg(name), text);
 }
 
+/// A theme with two skins that name so many textures each, of which only one has a file.
+void addLongSkins(const QString& game, const QString& name, int textures) {
+  const QString folder = QStringLiteral("\\Skins\\") + name;
+  fs::create_directory(fs::path(game.toStdString()) / "Skins" / name.toStdString());
+  QByteArray skin = "[Textures]\r\nButton=button.png\r\n";
+  for (int i = 0; i < textures; ++i) {
+    const QByteArray number = QByteArray::number(i);
+    skin += "Texture" + number + "=pictures\\missing" + number + ".png\r\n";
+  }
+  const QString program = platform::programPath(game);
+  for (const QString& file : {QStringLiteral("\\One.ini"), QStringLiteral("\\Two.ini")}) {
+    platform::writeFile(program + folder + file, skin);
+  }
+  platform::writeFile(program + folder + QStringLiteral("\\button.png"), "no picture");
+  platform::writeFile(
+      program + QStringLiteral("\\Themes\\%1.ini").arg(name),
+      "[Theme]\r\nName=Long\r\n[Loading]\r\n[LoadingStaticA]\r\nTex=Texture1\r\nX=1\r\nY=1\r\nW=9\r\nH=9\r\n");
+}
+
 /// Opens both windows that go over the whole theme. Prints the longest time in which no event is served until they have
 /// all that they show; whether that is short enough.
 bool isGapShort(const OpenEditor& editor, const char* what) {
@@ -93,9 +112,14 @@ bool gapsAreShort(const SampleScreen& screen) {
   const OpenEditor ten(theme, screen.name(), [&](const QString& game) { addVariants(game, theme); });
   const OpenEditor crowded(huge, QStringLiteral("Loading Screen"),
                            [&](const QString& game) { addHugeScreen(game, huge, theme, HugeCount); });
+  const QString longSkins = QStringLiteral("Long");
+  constexpr int TextureCount = 20000;
+  const OpenEditor missing(longSkins, QStringLiteral("Loading Screen"),
+                           [&](const QString& game) { addLongSkins(game, longSkins, TextureCount); });
+  const bool isMissingShort = isGapShort(missing, "two skins of 20,000 textures without files");
   const bool isPlainShort = isGapShort(plain, "the fullest screen");
   const bool isTenShort = isGapShort(ten, "it in 10 skins and 10 languages");
-  return isGapShort(crowded, "a screen of 2,500 objects") && isPlainShort && isTenShort;
+  return isGapShort(crowded, "a screen of 2,500 objects") && isPlainShort && isTenShort && isMissingShort;
 }
 
 }  // namespace bench

@@ -62,7 +62,7 @@ void ThemeReview::begin() {
 void ThemeReview::stop() {
   isWanted_ = false;
   steps_.stop();
-  check_.reset();
+  dropCheck();
 }
 
 void ThemeReview::renew() {
@@ -79,13 +79,26 @@ void ThemeReview::forget() {
 
 void ThemeReview::restart() {
   checked_ = session_.state().ownCopies;
-  check_.reset();
+  dropCheck();
   steps_.begin();
+}
+
+void ThemeReview::dropCheck() {
+  check_.reset();
+  found_.reset();
+  coming_.clear();
 }
 
 bool ThemeReview::step() {
   const themefiles::ModuleState& state = session_.state();
-  if (!check_) {
+  if (found_) {
+    check_.reset();  // by itself: it may have much
+    if (coming_.size() == found_->size()) {
+      publish();
+      return false;
+    }
+    coming_.push_back(itemOf((*found_)[coming_.size()]));
+  } else if (!check_) {
     check_ = std::make_unique<themecheck::ThemeCheck>(filesOf(state.paths), WholeThemePictures);
     places_.reset();
   } else if (!check_->isDone()) {
@@ -96,20 +109,22 @@ bool ThemeReview::step() {
     platform::guardedSilently([&] { theme_ = platform::IniText(platform::readFile(state.paths.ThemeFile)); });
     places_.emplace(state, theme_);
   } else if (!places_->step()) {
-    publish();
-    return false;
+    take();
   }
   return true;
 }
 
-void ThemeReview::publish() {
-  std::vector<Finding> findings = check_->findings();
-  check_.reset();
-  std::stable_sort(findings.begin(), findings.end(),
+/// What was found, in the order of the list.
+void ThemeReview::take() {
+  found_ = check_->findings();
+  std::stable_sort(found_->begin(), found_->end(),
                    [](const Finding& a, const Finding& b) { return a.level < b.level; });
+}
+
+void ThemeReview::publish() {
   const QString present = present_ < 0 ? QString() : items_.at(static_cast<size_t>(present_)).told;
-  items_.clear();
-  for (const Finding& finding : findings) items_.push_back(itemOf(finding));
+  items_ = std::exchange(coming_, {});
+  found_.reset();
   places_.reset();
   isKnown_ = true;
   // What was mended is gone: the one that stands in its place comes next.

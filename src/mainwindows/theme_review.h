@@ -58,7 +58,9 @@ class ThemeReview : public QObject {
 
  private:
   void restart();
+  void dropCheck();
   bool step();
+  void take();
   void publish();
   void forget();
   Item itemOf(const themecheck::Finding& finding) const;
@@ -73,7 +75,9 @@ class ThemeReview : public QObject {
   std::array<QByteArray, 3> checked_;  ///< the working copies that were checked last
   std::unique_ptr<themecheck::ThemeCheck> check_;
   platform::IniText theme_;
-  std::optional<editing::ObjectPlaces> places_;  ///< in it
+  std::optional<editing::ObjectPlaces> places_;            ///< in it
+  std::optional<std::vector<themecheck::Finding>> found_;  ///< when the check is done: what it has found
+  std::vector<Item> coming_;                               ///< the items of that, as far as they are made
   controls::IdleSteps steps_;
 };
 

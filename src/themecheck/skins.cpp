@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <memory>
+#include <vector>
 
 #include <QDir>
 #include <QSet>
@@ -19,103 +22,14 @@ using platform::upperCase;
 
 constexpr auto PictureEndings = std::to_array<QStringView>({u".bmp", u".gif", u".jpg", u".jpeg", u".png"});
 
-/// Where a picture is looked for, and where it is found without regard to case. Empty without a picture.
-struct Picture {
-  QString wanted;
-  QString found;
-};
-
-bool hasFile(const IniFile& skin, const QString& texture) {
-  const IniSection* const textures = skin.find(Textures);
-  return textures && !textures->value(texture).isEmpty();
-}
-
-/// All textures, each at its place in the first skin that has it.
-void checkLacking(const CheckedTheme& theme, Findings& findings) {
-  QSet<QString> seen;
-  for (const IniFile& skin : theme.skins) {
-    for (const IniKey* key : skin.keysOf(Textures)) {
-      if (key->value.isEmpty() || seen.contains(upperCase(key->name))) continue;
-      seen += upperCase(key->name);
-      for (const IniFile& other : theme.skins) {
-        if (!other.isChecked() || hasFile(other, key->name) || theme.lostSkins.contains(other.name())) continue;
-        findings.add(Kind::LackingTexture, skin.placeOf(*skin.find(Textures), *key), {}, {other.name(), {}, {}});
-      }
-    }
-  }
-}
-
-/// The folder as it is called on the disk.
-QString folderOf(const CheckedTheme& theme) {
-  return platform::nativePath(theme.files.pictures);
-}
-
 bool isThere(const QString& file) {
   const auto look = platform::lookAt(file, platform::AtLink::Follow);
   return look && look->isFile;
 }
 
-Picture pictureOf(const QString& folder, const QString& value) {
-  if (value.isEmpty()) return {};
-  const QString wanted = platform::plainPath(folder + u'/' + value);
-  QString found = wanted;
-  // What can't be looked at is a finding of the drawing.
-  if (!isThere(wanted)) platform::guardedSilently([&] { found = platform::findPath(wanted); });
-  return {wanted, found};
-}
-
-/// A skin without any of the textures in use is one fault, and so is one without any of its pictures.
-void checkWhole(CheckedTheme& theme, const IniFile& skin, const QSet<QString>& used, Findings& findings) {
-  const bool hasTable = skin.find(Textures);
-  const bool hasSome =
-      std::any_of(used.begin(), used.end(), [&](const QString& name) { return skin.has(Textures, name); });
-  if (!hasSome && used.size() >= (hasTable ? 2 : 1)) {
-    theme.lostSkins += skin.name();
-    if (hasTable) {
-      findings.add(Kind::EmptyTable, skin.place(Textures), {QString::number(used.size())});
-    } else if (!platform::sameName(skin.sectionBehindMark(), Textures)) {
-      findings.add(Kind::NoTable, skin.wholeFile(), {Textures, namesOfTheme(used.size())});
-    }
-  }
-  QSet<QString> files;
-  for (const IniKey* key : skin.keysOf(Textures)) {
-    const Picture picture = pictureOf(folderOf(theme), key->value);
-    if (!picture.found.isEmpty()) files += picture.found;
-  }
-  if (files.size() < 2 || std::any_of(files.begin(), files.end(), isThere)) return;
-  theme.picturelessSkins += skin.name();
-  findings.add(Kind::NoPictures, skin.place(Textures), {QString::number(files.size())});
-}
-
-void checkTextures(const CheckedTheme& theme, const IniFile& skin, const QSet<QString>& used, Findings& findings) {
-  const QString folder = folderOf(theme);
-  for (const IniKey* key : skin.keysOf(Textures)) {
-    if (!used.contains(upperCase(key->name))) {
-      findings.add(Kind::UnusedTexture, skin.placeOf(*skin.find(Textures), *key));
-    }
-    const Picture picture = pictureOf(folder, key->value);
-    if (picture.found == picture.wanted || !isThere(picture.found)) continue;
-    findings.add(Kind::OtherCase, skin.valueOf(Textures, key->name),
-                 {key->value, picture.found.sliced(folder.size() + 1)});
-  }
-}
-
-void checkPictures(const CheckedTheme& theme, Findings& findings) {
-  const QString folder = folderOf(theme);
-  QSet<QString> named;
-  for (const IniFile& skin : theme.skins) {
-    for (const IniKey* key : skin.keysOf(Textures)) named += QDir::cleanPath(pictureOf(folder, key->value).found);
-  }
-  try {
-    for (const QStringView ending : PictureEndings) {
-      for (const QString& picture : platform::listFiles(theme.files.pictures, ending.toString())) {
-        if (named.contains(QDir::cleanPath(folder + u'/' + picture))) continue;
-        findings.add(Kind::UnusedPicture, {theme.files.shownPictures + u'/' + picture, 1, 0, {}, {}});
-      }
-    }
-  } catch (const platform::Failure& failure) {
-    findings.add(Kind::CantBeRead, {theme.files.shownPictures, 1, 0, {}, {}}, {failure.description()});
-  }
+bool hasFile(const IniFile& skin, const QString& texture) {
+  const IniSection* const textures = skin.find(Textures);
+  return textures && !textures->value(texture).isEmpty();
 }
 
 QSet<QString> upperCase(const QSet<QString>& names) {
@@ -124,18 +38,143 @@ QSet<QString> upperCase(const QSet<QString>& names) {
   return upper;
 }
 
+/// The check of all skins of a theme. Each texture is looked for on the disk once.
+class SkinCheck {
+ public:
+  SkinCheck(CheckedTheme& theme, Findings& findings);
+
+  size_t count(size_t skin) const { return textures_[skin].size(); }
+  void look(size_t skin, size_t texture);
+  void checkWhole(size_t skin);
+  void checkTexture(size_t skin, size_t texture);
+  void checkLacking(size_t skin, size_t texture);
+  void checkPictures();
+
+ private:
+  /// A key of a skin's Textures. Its picture is looked for in one place, and found in another if case is left out of
+  /// account. Both are empty without a picture.
+  struct Texture {
+    const IniKey* key = nullptr;
+    QString wanted;
+    QString found;
+    bool isThere = false;
+  };
+
+  CheckedTheme& theme_;
+  Findings& findings_;
+  QString folder_;  ///< of the pictures, as it is called on the disk
+  QSet<QString> used_;
+  std::vector<std::vector<Texture>> textures_;  ///< by skin
+  QSet<QString> seen_;                          ///< names of the textures that were compared with all skins
+};
+
+SkinCheck::SkinCheck(CheckedTheme& theme, Findings& findings)
+    : theme_(theme),
+      findings_(findings),
+      folder_(platform::nativePath(theme.files.pictures)),
+      used_(upperCase(valuesOf(theme.theme(), themefiles::KeyGroup::Texture))) {
+  for (const IniFile& skin : theme.skins) {
+    std::vector<Texture>& textures = textures_.emplace_back();
+    for (const IniKey* key : skin.keysOf(Textures)) textures.push_back({key, {}, {}, false});
+  }
+}
+
+void SkinCheck::look(size_t skin, size_t texture) {
+  Texture& present = textures_[skin][texture];
+  if (present.key->value.isEmpty()) return;
+  present.wanted = platform::plainPath(folder_ + u'/' + present.key->value);
+  present.found = present.wanted;
+  present.isThere = isThere(present.wanted);
+  if (present.isThere) return;
+  // What can't be looked at is a finding of the drawing.
+  platform::guardedSilently([&] { present.found = platform::findPath(present.wanted); });
+  present.isThere = present.found != present.wanted && isThere(present.found);
+}
+
+/// A skin without any of the textures in use is one fault, and so is one without any of its pictures.
+void SkinCheck::checkWhole(size_t number) {
+  const IniFile& skin = theme_.skins[number];
+  const bool hasTable = skin.find(Textures);
+  const bool hasSome =
+      std::any_of(used_.begin(), used_.end(), [&](const QString& name) { return skin.has(Textures, name); });
+  if (!hasSome && used_.size() >= (hasTable ? 2 : 1)) {
+    theme_.lostSkins += skin.name();
+    if (hasTable) {
+      findings_.add(Kind::EmptyTable, skin.place(Textures), {QString::number(used_.size())});
+    } else if (!platform::sameName(skin.sectionBehindMark(), Textures)) {
+      findings_.add(Kind::NoTable, skin.wholeFile(), {Textures, namesOfTheme(used_.size())});
+    }
+  }
+  QSet<QString> files;
+  for (const Texture& texture : textures_[number]) {
+    if (texture.isThere) return;
+    if (!texture.found.isEmpty()) files += texture.found;
+  }
+  if (files.size() < 2) return;
+  theme_.picturelessSkins += skin.name();
+  findings_.add(Kind::NoPictures, skin.place(Textures), {QString::number(files.size())});
+}
+
+void SkinCheck::checkTexture(size_t number, size_t texture) {
+  const IniFile& skin = theme_.skins[number];
+  const Texture& present = textures_[number][texture];
+  const IniKey& key = *present.key;
+  if (!used_.contains(upperCase(key.name))) {
+    findings_.add(Kind::UnusedTexture, skin.placeOf(*skin.find(Textures), key));
+  }
+  if (present.found == present.wanted || !present.isThere) return;
+  findings_.add(Kind::OtherCase, skin.valueOf(Textures, key.name),
+                {key.value, present.found.sliced(folder_.size() + 1)});
+}
+
+/// Each texture stands at its place in the first skin that has it.
+void SkinCheck::checkLacking(size_t number, size_t texture) {
+  const IniFile& skin = theme_.skins[number];
+  const IniKey& key = *textures_[number][texture].key;
+  const QString name = upperCase(key.name);
+  if (key.value.isEmpty() || seen_.contains(name)) return;
+  seen_ += name;
+  for (const IniFile& other : theme_.skins) {
+    if (!other.isChecked() || hasFile(other, key.name) || theme_.lostSkins.contains(other.name())) continue;
+    findings_.add(Kind::LackingTexture, skin.placeOf(*skin.find(Textures), key), {}, {other.name(), {}, {}});
+  }
+}
+
+void SkinCheck::checkPictures() {
+  QSet<QString> named;
+  for (const std::vector<Texture>& skin : textures_) {
+    for (const Texture& texture : skin) named += QDir::cleanPath(texture.found);
+  }
+  const ThemeFiles& files = theme_.files;
+  try {
+    for (const QStringView ending : PictureEndings) {
+      for (const QString& picture : platform::listFiles(files.pictures, ending.toString())) {
+        if (named.contains(QDir::cleanPath(folder_ + u'/' + picture))) continue;
+        findings_.add(Kind::UnusedPicture, {files.shownPictures + u'/' + picture, 1, 0, {}, {}});
+      }
+    }
+  } catch (const platform::Failure& failure) {
+    findings_.add(Kind::CantBeRead, {files.shownPictures, 1, 0, {}, {}}, {failure.description()});
+  }
+}
+
 }  // namespace
 
-void checkSkins(CheckedTheme& theme, Findings& findings) {
-  const QSet<QString> used = upperCase(valuesOf(theme.theme(), themefiles::KeyGroup::Texture));
-  for (const IniFile& skin : theme.skins) {
-    if (!skin.isChecked()) continue;
-    checkWhole(theme, skin, used, findings);
-    checkTextures(theme, skin, used, findings);
+void addSkinSteps(CheckedTheme& theme, Findings& findings, Steps& steps) {
+  const auto check = std::make_shared<SkinCheck>(theme, findings);
+  const QString& about = theme.files.theme.name;
+  const auto forEach = [&](size_t skin, void (SkinCheck::*work)(size_t, size_t)) {
+    steps.addEach(about, check->count(skin), [=](size_t texture) { std::invoke(work, *check, skin, texture); });
+  };
+  for (size_t skin = 0; skin < theme.skins.size(); ++skin) {
+    forEach(skin, &SkinCheck::look);
+    if (!theme.skins[skin].isChecked()) continue;
+    steps.add(about, [=] { check->checkWhole(skin); });
+    forEach(skin, &SkinCheck::checkTexture);
   }
   if (!theme.allSkins) return;
-  checkLacking(theme, findings);
-  checkPictures(theme, findings);
+  for (size_t skin = 0; skin < theme.skins.size(); ++skin) forEach(skin, &SkinCheck::checkLacking);
+  steps.add(about, [=] { check->checkPictures(); });
 }
 
 }  // namespace themecheck

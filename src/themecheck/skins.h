@@ -1,10 +1,12 @@
 #pragma once
 
 #include "themecheck/checked_theme.h"
+#include "themecheck/steps.h"
 
 namespace themecheck {
 
-/// Textures of the skins, and the pictures in the folder.
-void checkSkins(CheckedTheme& theme, Findings& findings);
+/// Adds the check of the skins' textures, and of the pictures in the folder. The skins stay as they are until it is
+/// done.
+void addSkinSteps(CheckedTheme& theme, Findings& findings, Steps& steps);
 
 }  // namespace themecheck

@@ -26,13 +26,7 @@ qsizetype scopeOf(const std::vector<CheckedFile>& files) {
 
 ThemeCheck::ThemeCheck(ThemeFiles files, qsizetype pictureBytes)
     : theme_(std::move(files)), tools_{renderer::PreparedPictures(pictureBytes)} {
-  steps_.push_back({theme_.files.theme.name, [this] { readTheme(); }});
-}
-
-void ThemeCheck::step() {
-  const Step step = std::move(steps_.front());
-  steps_.pop_front();
-  step.work();
+  steps_.add(theme_.files.theme.name, [this] { readTheme(); });
 }
 
 /// Reads a file. If that fails, the result is empty and there is a finding.
@@ -49,19 +43,19 @@ void ThemeCheck::readTheme() {
   theme_.file = read(theme_.files.theme);
   if (!theme_.file) return;
   const auto readLater = [this](const CheckedFile& file, std::vector<IniFile>& files, bool& all, const QString& table) {
-    steps_.push_back({file.name, [this, &file, &files, &all, table] {
-                        auto found = read(file);
-                        all = all && found;
-                        if (!found) return;
-                        files.push_back(std::move(*found));
-                        if (!file.isChecked) return;
-                        checkLetters(files.back(), table, findings_);
-                        checkHeads(files.back(), false, findings_);
-                      }});
+    steps_.add(file.name, [this, &file, &files, &all, table] {
+      auto found = read(file);
+      all = all && found;
+      if (!found) return;
+      files.push_back(std::move(*found));
+      if (!file.isChecked) return;
+      checkLetters(files.back(), table, findings_);
+      checkHeads(files.back(), false, findings_);
+    });
   };
   for (const CheckedFile& skin : theme_.files.skins) readLater(skin, theme_.skins, theme_.allSkins, Textures);
   for (const CheckedFile& file : theme_.files.languages) readLater(file, theme_.languages, theme_.allLanguages, Text);
-  steps_.push_back({theme_.files.theme.name, [this] { checkFiles(); }});
+  steps_.add(theme_.files.theme.name, [this] { checkFiles(); });
 }
 
 /// A step for each check, as each may have to go through a long file. Those further down go by what the ones before
@@ -69,25 +63,22 @@ void ThemeCheck::readTheme() {
 void ThemeCheck::checkFiles() {
   themefiles::InitScreenTable(theme_.state);
   theme_.state = openState(theme_, {}, {});
-  const auto later = [this](const std::function<void()>& work) { steps_.push_back({theme_.files.theme.name, work}); };
+  const QString& name = theme_.files.theme.name;
+  const auto later = [&](const std::function<void()>& work) { steps_.add(name, work); };
   later([this] {
     checkLetters(theme_.theme(), QStringLiteral("Colors"), findings_);
     checkHeads(theme_.theme(), true, findings_);
   });
   later([this] { checkDoubles(theme_.theme(), findings_); });
-  later([this] {
-    for (const IniFile& skin : theme_.skins) {
-      if (skin.isChecked()) checkDoubles(skin, findings_);
-    }
+  steps_.addEach(name, theme_.skins.size(), [this](size_t skin) {
+    if (theme_.skins[skin].isChecked()) checkDoubles(theme_.skins[skin], findings_);
   });
-  later([this] {
-    for (const IniFile& language : theme_.languages) {
-      if (language.isChecked()) checkDoubles(language, findings_, usedWords());
-    }
+  steps_.addEach(name, theme_.languages.size(), [this](size_t language) {
+    if (theme_.languages[language].isChecked()) checkDoubles(theme_.languages[language], findings_, usedWords());
   });
   later([this] { checkSections(theme_, findings_); });
   later([this] { checkColors(theme_, findings_); });
-  later([this] { checkSkins(theme_, findings_); });
+  addSkinSteps(theme_, findings_, steps_);
   later([this] { checkWords(theme_, findings_); });
   later([this] { addScreens(); });
 }
@@ -102,18 +93,16 @@ void ThemeCheck::addScreens() {
     const QString name = screen.Name;
     for (const IniFile& skin : theme_.skins) {
       if (!skin.isChecked() || theme_.lostSkins.contains(skin.name())) continue;
-      steps_.push_back({QStringList{name, skin.name()}.join(QStringLiteral(", ")),
-                        [this, name, skin = skin.name()] { checkPicturesOf(theme_, name, skin, tools_, findings_); }});
+      steps_.add(QStringList{name, skin.name()}.join(QStringLiteral(", ")),
+                 [this, name, skin = skin.name()] { checkPicturesOf(theme_, name, skin, tools_, findings_); });
     }
     for (const QString& language : languages) {
-      steps_.push_back({QStringList{name, language}.join(QStringLiteral(", ")),
-                        [this, name, language] { checkTextsOf(theme_, name, language, tools_, findings_); }});
+      steps_.add(QStringList{name, language}.join(QStringLiteral(", ")),
+                 [this, name, language] { checkTextsOf(theme_, name, language, tools_, findings_); });
     }
   }
-  steps_.push_back({theme_.files.theme.name, [this] {
-                      checkGameNames(theme_, findings_);
-                      checkValues(theme_, findings_);
-                    }});
+  steps_.add(theme_.files.theme.name, [this] { checkGameNames(theme_, findings_); });
+  steps_.add(theme_.files.theme.name, [this] { checkValues(theme_, findings_); });
 }
 
 std::vector<Finding> ThemeCheck::findings() const {
