@@ -1,7 +1,5 @@
 #include "arguments.h"
 
-#include <algorithm>
-
 #include <QCommandLineParser>
 #include <QDir>
 #include <QFileInfo>
@@ -37,9 +35,7 @@ quint8 buttonNumber(const QString& text) {
 QString resolved(const QString& path) {
   const QFileInfo info(QDir().absoluteFilePath(path));
   if (info.exists() || info.isRoot()) return info.canonicalFilePath();
-  const QString& whole = info.filePath();
-  const qsizetype slash = whole.lastIndexOf(u'/');
-  return QDir::cleanPath(resolved(whole.first(std::max<qsizetype>(slash, 1))) + whole.sliced(slash));
+  return QDir::cleanPath(resolved(info.path()) + u'/' + info.fileName());
 }
 
 void refuseOutputInGame(const Arguments& arguments) {
