@@ -31,7 +31,7 @@ int run(const QStringList& words) {
   themechecktool::Counts counts = themechecktool::countsOf(findings);
   counts.ignored = takenOut;
   if (arguments.json) {
-    std::fputs(themechecktool::jsonOf(findings).constData(), stdout);
+    platform::write(stdout, QString::fromUtf8(themechecktool::jsonOf(findings)));
     if (counts.ignored > 0) print(stderr, themechecktool::ignoredText(counts));
   } else {
     for (const themecheck::Finding& finding : findings) print(stdout, themechecktool::lineOf(finding));
