@@ -4,6 +4,7 @@
 #include <QTest>
 
 #include "mainwindows/main_window_progress_bar.h"
+#include "progressbar/gradients.h"
 #include "progressbar/stored_form.h"
 #include "propertybag/stored_bytes.h"
 
@@ -46,6 +47,24 @@ class ProgressBarTest : public QObject {
     QCOMPARE(after(20, 100, 20, &ProgressBar::SetMax, 10), QStringLiteral("20 21 20 Max"));
     QCOMPARE(after(0, 100, 50, &ProgressBar::SetMax, 40), QStringLiteral("0 40 40 Value Max"));
     QCOMPARE(after(0, 100, 50, &ProgressBar::SetMin, 200), QStringLiteral("99 100 99 Value Min"));
+    QCOMPARE(after(5, 100, 50, &ProgressBar::SetMin, -5), QStringLiteral("0 100 50 Min"));
+  }
+
+  // What is shown only for a moment isn't seen at all.
+  void shownWithTheNextFrame() {
+    ProgressBar bar;
+    bar.show();
+    QVERIFY(!bar.updatesEnabled());
+    QTRY_VERIFY(bar.updatesEnabled());
+  }
+
+  // From the corners on; no step reaches the far ones.
+  void fourColours() {
+    drawing::Raster sheet(QSize(8, 8));
+    DrawGradientFourColour(sheet, 2, 3, 4, 4, 0, 0x0000F0, 0x00F000, 0xF0F000);
+    QCOMPARE(sheet.pixelRow(3)[2], qRgb(0, 0, 0));
+    QCOMPARE(sheet.pixelRow(4)[4], qRgb(90, 60, 30));
+    QCOMPARE(sheet.pixelRow(7)[4], qRgb(0, 0, 0));
   }
 
   void bags() {

@@ -12,11 +12,30 @@ using propertybag::storedBytes;
 
 namespace {
 
-QVariant fontOf(const QString& face) {
+QVariant fontOf(const QString& face, bool inPixels = false) {
   QFont font;
   font.setFamilies({face});
-  font.setPointSizeF(8.25);
+  inPixels ? font.setPixelSize(11) : font.setPointSizeF(8.25);
   return font;
+}
+
+/// What stands before the first of so many bytes of records.
+QByteArray head(qsizetype records) {
+  const QByteArray count = QByteArray(1, static_cast<char>(records + 8)) + QByteArray(3, '\0');
+  return QByteArray::fromHex("2d4c420900") + count + QByteArray::fromHex("93b20000") + count;
+}
+
+/// How many of the bytes may be any: the bag is taken all the same, and has the same values.
+int passedOver(const QByteArray& bytes) {
+  int count = 0;
+  for (qsizetype i = 0; i < bytes.size(); ++i) {
+    QByteArray damaged = bytes;
+    damaged[i] = static_cast<char>(damaged[i] ^ 0x41);
+    const auto read = bagOfBytes(damaged);
+    if (read && storedBytes(*read) == bytes) ++count;
+    if (bagOfBytes(bytes.first(i)) || (read && storedBytes(*read) != bytes && storedBytes(*read) != damaged)) return -1;
+  }
+  return count;
 }
 
 }  // namespace
@@ -37,9 +56,17 @@ class PropertyBagTest : public QObject {
     QCOMPARE(propertybag::storedSize(bag), QSize(800, 32));
     write("_ExtentY", 7);
     QVERIFY(!propertybag::storedSize(bag));
+    // They keep the order in which they came first.
+    write("Size", 1);
+    write("Another", 1);
+    write("size", 2);
+    QString keys;
+    for (const PropertyBag::Record& record : bag.records()) keys += record.key + u' ';
+    QCOMPARE(keys, QStringLiteral("_extentx Size Another "));
   }
 
-  // Whatever single byte is wrong, nothing of the bag is taken, or the bag says what the bytes say.
+  // Whatever single byte is wrong, nothing of the bag is taken, or the bag says what the bytes say. A font's character
+  // set and flags are passed over.
   void bytesSoundAndDamaged() {
     const auto fromHex = &QByteArray::fromHex;
     const struct {
@@ -53,6 +80,8 @@ class PropertyBagTest : public QObject {
         {QStringLiteral("\u20ac"), "0800", "01000000 ac200000"},
         {fontOf(QStringLiteral("Ab")), "0d00",
          "0352e30b918fce119de300aa004bb851 01 0000 00 9001 44420100 02 4162 000000"},
+        {fontOf(QStringLiteral("Ab"), true), "0d00",
+         "0352e30b918fce119de300aa004bb851 01 0000 00 9001 44420100 02 4162 000000"},
         {QVariant::fromValue(propertybag::StoredPicture{"xyz"}), "0d00",
          "0452e30b918fce119de300aa004bb851 6c740000 03000000 78797a 00"},
     };
@@ -60,26 +89,36 @@ class PropertyBagTest : public QObject {
       PropertyBag bag;
       bag.WriteProperty(QStringLiteral("aB"), value, {});
       const QByteArray record = fromHex(tag) + fromHex("0200 62200c00 00000000 61006200") + fromHex(stored);
-      const QByteArray count = QByteArray(1, static_cast<char>(record.size() + 8)) + QByteArray(3, '\0');
-      const QByteArray bytes = fromHex("2d4c420900") + count + fromHex("93b20000") + count + record;
+      const QByteArray bytes = head(record.size()) + record;
       QCOMPARE(storedBytes(bag).toHex(' '), bytes.toHex(' '));
       QCOMPARE(storedBytes(*bagOfBytes(bytes)), bytes);
-      for (qsizetype i = 0; i < bytes.size(); ++i) {
-        QVERIFY(!bagOfBytes(bytes.first(i)));
-        QByteArray damaged = bytes;
-        damaged[i] = static_cast<char>(damaged[i] ^ 0x41);
-        const auto read = bagOfBytes(damaged);
-        const QByteArray again = read ? storedBytes(*read) : damaged;
-        // A font's character set and flags are passed over.
-        if (again != damaged) QCOMPARE(again, bytes);
-      }
+      QCOMPARE(passedOver(bytes), value.typeId() == QMetaType::QFont ? 3 : 0);
     }
   }
 
+  void severalRecords() {
+    const auto records = [](const char* firstKey, const char* last) {
+      return QByteArray::fromHex(QByteArray("0200 0100 ") + firstKey + "000000 10000000 " + firstKey + "00 0500" +
+                                 "0200 0100 61000000 " + last + " 6100 0700");
+    };
+    const QByteArray sound = records("62", "f0ffffff");
+    QCOMPARE(storedBytes(*bagOfBytes(head(32) + sound)).toHex(' '), (head(32) + sound).toHex(' '));
+    QCOMPARE(passedOver(head(32) + sound), 0);
+    QVERIFY(bagOfBytes(head(0)));
+    QVERIFY(!bagOfBytes(head(32) + records("61", "f0ffffff")));  // one key twice
+    QVERIFY(!bagOfBytes(head(36) + sound + QByteArray(4, '\0')));
+    QVERIFY(!bagOfBytes(head(32) + records("62", "00000000")));
+  }
+
   void whatCantBeStored() {
-    PropertyBag bag;
-    bag.WriteProperty(QStringLiteral("key"), fontOf(QString(300, u'a')), {});
-    QVERIFY_THROWS_EXCEPTION(platform::Failure, storedBytes(bag));
+    for (const auto& [key, value] : {std::pair(QStringLiteral("key"), fontOf(QString(300, u'a'))),
+                                     {QString(0x10000, u'a'), QVariant(1)},
+                                     {QString(), QVariant(1)},
+                                     {QStringLiteral("key"), QVariant(0.5)}}) {
+      PropertyBag bag;
+      bag.WriteProperty(key, value, {});
+      QVERIFY_THROWS_EXCEPTION(platform::Failure, storedBytes(bag));
+    }
   }
 
   void iconsGoRound() {

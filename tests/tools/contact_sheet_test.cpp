@@ -25,7 +25,7 @@ constexpr const char* SmallTheme =
     "[LoadingButtonOne]|Tex=Block|X=300|Y=9|W=30|H=9|Color=Ink|DColor=Ink|TEXTS=1|"
     "[LoadingButtonOneText1]|Text=A|X=1|Y=1|Size=10|[LoadingButtonOneText2]|Text=B|X=1|Y=1|Size=10|"
     "[LoadingButtonOff]|Visible=0|[LoadingButtonOffText1]|X=1|"
-    "[LoadingTextHalf]|Text=A|X=5|Y=5|Size=0|[LoadingStatic\tTab]|Tex=a\tb|[Main]|Loop=1|"
+    "[LoadingTextHalf]|Text=A|X=5|Y=5|Size=0|[LoadingStatic\tTab]|Tex=a\tb|[loadingstatic\ttab]|[Main]|Loop=1|"
     "[Name]|Visible=0|[NameBackground]|Tex=Block|Visible=0|[NameStaticBar]|Tex=Block|W=9|H=9|Color=Ink|Visible=0|";
 
 }  // namespace
@@ -42,7 +42,15 @@ class ContactSheetTest : public QObject {
       pictures += readFile(pictureOf(sheet_, screen));
     }
     QCOMPARE(pictures.size(), 32);
-    QVERIFY(!QImage(sheet_ + u"/overview.png"_s).isNull());
+    // Four in a row, each with its own name below it.
+    const QImage overview(sheet_ + u"/overview.png"_s);
+    QCOMPARE(overview.size(), QSize(1340, 2204));
+    QSet<QByteArray> names;
+    for (int screen = 0; screen < 32; ++screen) {
+      const QImage name = overview.copy(12 + screen % 4 * 332, 252 + screen / 4 * 274, 320, 22);
+      names += QByteArray(reinterpret_cast<const char*>(name.constBits()), name.sizeInBytes());
+    }
+    QCOMPARE(names.size(), 32);
   }
 
   void cleanupTestCase() { QCOMPARE(support::contentsOf(Sample), before_); }
@@ -81,7 +89,8 @@ class ContactSheetTest : public QObject {
     game.put(SmallTheme);
     game.put("Skins/T/Dusk.ini: [Textures]|Block=a.png|Gone=gone.png|");
     const QString output = folder_.filePath(u"small"_s);
-    draw(0, {game.path(), u"T"_s, u"Dusk"_s, u"English"_s, output});
+    const QByteArray told = draw(0, {game.path(), u"T"_s, u"Dusk"_s, u"English"_s, output});
+    QVERIFY2(told.contains("01/32 Loading Screen: 3 drawn, 6 left out\n"), told);
     const QByteArrayList lines = readFile(output + u"/report.tsv"_s).split('\n');
     for (const char* line :
          {"screen\tsection\tresult\treason", "1\tLoadingBackground\tdrawn\tno file 'gone.png'",
@@ -110,6 +119,7 @@ class ContactSheetTest : public QObject {
     };
     for (const auto& [arguments, message] : {
              std::pair(QStringList(), "Usage"),
+             {with(2, u"Nix"_s), "Skins/Stagelight/Nix.ini"},
              {with(3, u"Nix"_s), "Languages/Nix.ini"},
              {with(4, Sample + u"/../Cantorama/Themes/sheet"_s), "lies in the game folder"},
 #ifdef Q_OS_UNIX
@@ -121,6 +131,7 @@ class ContactSheetTest : public QObject {
              {plain + QStringList{u"-platform"_s, u"xcb"_s}, "'platform'"},
              {plain + QStringList{u"--scheme=Mauve"_s}, "no colour scheme 'Mauve'; there are: Blue, Green"},
              {plain + QStringList{u"--selected=256"_s}, "--selected takes a number from 1 to 255"},
+             {plain + QStringList{u"--selected=0"_s}, "--selected takes a number from 1 to 255, not '0'"},
          }) {
       const QByteArray errors = draw(2, arguments, {u"-uXDG_RUNTIME_DIR"_s});
       QVERIFY2(errors.startsWith("cantorama-contact-sheet: "), errors);  // and no word of the toolkit

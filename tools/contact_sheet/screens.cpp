@@ -12,7 +12,6 @@ Screen DrawScreen(const Theme& theme, const themefiles::ScreenRow& screen, const
   renderer::RenderContext context = chosen.context();
   renderer::DrawScreen(context);
   if (selected) {
-    chosen.state.ButtonListFilled = true;
     chosen.state.SelectedButton = *selected;
     renderer::DrawScreen(context);
   }
