@@ -5,6 +5,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QScopeGuard>
 
 #include "drawing/fonts.h"
 
@@ -14,11 +15,21 @@ namespace {
 
 constexpr int DotsPerMeter = 3780;  // 96 per inch
 constexpr float StartPoints = 8.25F;
+constexpr qsizetype MostNotedBytes = qsizetype(128) * 1024 * 1024;
 
 QFont fontOf(const QString& face, float points) {
   QFont font = faceFont(face);
   font.setPointSizeF(points);
   return font;
+}
+
+void drawStep(QPainter& painter, const DrawnStep& step, const QImage& picture) {
+  if (step.picture != 0) return painter.drawImage(step.corner, picture);
+  if (!step.font) return painter.fillRect(step.place, step.color);
+  painter.setFont(*step.font);
+  painter.setPen(step.color);
+  painter.setRenderHint(QPainter::TextAntialiasing);
+  painter.drawText(step.corner, step.words);
 }
 
 }  // namespace
@@ -37,8 +48,7 @@ void Surface::putBack(const QImage& picture) {
 }
 
 void Surface::wipe(const QColor& color) {
-  image_.fill(color);
-  mark(image_.rect());
+  add({image_.rect(), color, {}, {}, {}, 0});
 }
 
 void Surface::drawImageRect(const QImage& picture, int x, int y, int w, int h) {
@@ -49,14 +59,12 @@ void Surface::drawImageRect(const QImage& picture, int x, int y, int w, int h) {
   const bool isCopied = asItIs && picture.format() == QImage::Format_RGB32;
   QImage source = isCopied ? picture : picture.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   source.setDevicePixelRatio(1);
+  if (asItIs) return add({shown.toRect(), {}, target.topLeft(), {}, {}, source.cacheKey()}, source);
+  endNoting();
   QPainter painter(&image_);
-  if (asItIs) {
-    painter.drawImage(x, y, source);
-  } else {
-    painter.setClipRect(image_.rect());
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(target, source);
-  }
+  painter.setClipRect(image_.rect());
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawImage(target, source);
   mark(shown.toRect());
 }
 
@@ -125,12 +133,55 @@ void Surface::Print(const QString& text) {
   // Antialiasing may reach one pixel further on each side.
   const QRectF ink = layoutOf(text).ink.translated(baseline).adjusted(-1, -1, 1, 1) & QRectF(image_.rect());
   if (ink.isEmpty()) return;
+  add({ink.toAlignedRect(), ForeColor, baseline, text, face().font, 0});
+}
+
+void Surface::drawFrame(DrawnFrame& last, const std::function<void()>& draw) {
+  noted_.emplace();
+  const auto end = qScopeGuard([this] { noted_.reset(); });
+  draw();
+  if (noted_) drawNoted(changedSince(last));
+  last = noted_ ? DrawnFrame{std::move(noted_->steps), image_.cacheKey()} : DrawnFrame();
+}
+
+/// Does a step, now or at the end of the frame.
+void Surface::add(DrawnStep step, const QImage& picture) {
+  if (noted_) {
+    noted_->bytes += picture.sizeInBytes();
+    noted_->steps.push_back(std::move(step));
+    noted_->pictures.push_back(picture);
+    if (noted_->bytes > MostNotedBytes) endNoting();
+    return;
+  }
   QPainter painter(&image_);
-  painter.setFont(face().font);
-  painter.setPen(ForeColor);
-  painter.setRenderHint(QPainter::TextAntialiasing);
-  painter.drawText(baseline, text);
-  mark(ink.toAlignedRect());
+  drawStep(painter, step, picture);
+  mark(step.place);
+}
+
+/// A pixel is the same if all steps that touch it are.
+QRegion Surface::changedSince(const DrawnFrame& last) const {
+  const std::vector<DrawnStep>& steps = noted_->steps;
+  if (last.picture != image_.cacheKey() || last.steps.size() != steps.size()) return image_.rect();
+  QRegion changed;
+  for (size_t i = 0; i < steps.size(); ++i) {
+    if (steps[i] != last.steps[i]) changed += QRegion(steps[i].place) + last.steps[i].place;
+  }
+  return changed & image_.rect();
+}
+
+void Surface::drawNoted(const QRegion& where) {
+  if (where.isEmpty()) return;
+  QPainter painter(&image_);
+  painter.setClipRegion(where);
+  for (size_t i = 0; i < noted_->steps.size(); ++i) {
+    if (where.intersects(noted_->steps[i].place)) drawStep(painter, noted_->steps[i], noted_->pictures[i]);
+  }
+  mark(where.boundingRect());
+}
+
+void Surface::endNoting() {
+  if (noted_) drawNoted(image_.rect());
+  noted_.reset();
 }
 
 QRect Surface::takeDirty() {

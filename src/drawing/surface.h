@@ -1,14 +1,20 @@
 #pragma once
 
+#include <functional>
 #include <map>
+#include <optional>
 #include <utility>
+#include <vector>
 
 #include <QColor>
 #include <QFont>
 #include <QHash>
 #include <QImage>
 #include <QRect>
+#include <QRegion>
 #include <QString>
+
+#include "drawing/drawn_frame.h"
 
 namespace drawing {
 
@@ -59,6 +65,10 @@ class Surface {
   /// Draws the text in ForeColor with its top left corner at the pen's place.
   void Print(const QString& text);
 
+  /// Draws by `draw`, which draws a whole picture: only what is different from the frame before, which `last` has. All
+  /// of it if something else was drawn since.
+  void drawFrame(DrawnFrame& last, const std::function<void()>& draw);
+
   /// Returns the area drawn on since the last call.
   QRect takeDirty();
 
@@ -76,6 +86,18 @@ class Surface {
     QHash<QString, Layout> texts;
   };
 
+  /// The steps of a frame, which are drawn when all are known.
+  struct Noted {
+    std::vector<DrawnStep> steps;
+    std::vector<QImage> pictures;  ///< one for each step
+    qsizetype bytes = 0;           ///< of these
+  };
+
+  void add(DrawnStep step, const QImage& picture = {});
+  QRegion changedSince(const DrawnFrame& last) const;
+  void drawNoted(const QRegion& where);
+  /// What was noted of a frame is drawn now, and the rest of the frame as it comes.
+  void endNoting();
   void mark(const QRect& rectangle);
   /// The font of the pen's name and size.
   Face& face() const;
@@ -88,6 +110,7 @@ class Surface {
   mutable std::map<std::pair<QString, float>, Face> faces_;
   mutable Face* face_ = nullptr;  ///< that of name and size, once it was needed
   QRect dirty_;
+  std::optional<Noted> noted_;  ///< during a frame
 };
 
 }  // namespace drawing

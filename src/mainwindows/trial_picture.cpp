@@ -12,14 +12,16 @@ namespace mainwindows {
 void TrialPicture::show(const std::vector<renderer::TrialValues>& objects) {
   Workspace& preview = *form_.Workspace;
   if (!shown_) {
-    shown_ = Shown{preview.surface().image(), {}, {}};
+    shown_ = Shown{preview.surface().image(), {}, {}, {}};
     const themefiles::TagList& listed = form_.session().objects();
     for (int row = 0; row < listed.ListCount(); ++row) shown_->objects.AddItem(listed.List(row));
   }
   std::optional<renderer::RenderAccount> account;
-  platform::guardedSilently(
-      [&] { account = renderer::drawTrial(form_.renderContext(shown_->objects), objects, shown_->files); });
-  preview.Refresh();  // first of all: what is updated below lies in it
+  preview.surface().drawFrame(shown_->frame, [&] {
+    platform::guardedSilently(
+        [&] { account = renderer::drawTrial(form_.renderContext(shown_->objects), objects, shown_->files); });
+  });
+  preview.Refresh();
   if (account) showGroupFrames(form_, *account);
   renderer::drawTrialCursor(form_.services.state, form_.session().objects(), preview.surface(), preview, objects);
 }

@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+#include "drawing/drawn_frame.h"
 #include "renderer/trial_values.h"
 #include "themefiles/tag_listing.h"
 
@@ -28,6 +29,7 @@ class TrialPicture {
     QImage before;                   ///< the picture without the values
     themefiles::SortedTags objects;  ///< the list's own rows take longer to be asked
     renderer::TrialFiles files;
+    drawing::DrawnFrame frame;  ///< the last one
   };
 
   Form1& form_;

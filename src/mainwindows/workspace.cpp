@@ -63,7 +63,7 @@ Workspace::Workspace(QWidget* parent)
 void Workspace::Refresh() {
   const QRect dirty = surface_.takeDirty();
   if (dirty.isEmpty()) return;
-  update(dirty);
+  update(dirty.adjusted(-1, -1, 1, 1));  // scaled smoothly, a pixel reaches into its neighbours
   Q_EMIT refreshed();
 }
 

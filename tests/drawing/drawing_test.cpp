@@ -117,6 +117,41 @@ class DrawingTest : public QObject {
     for (int x = ink.left(); x <= ink.right(); ++x) QVERIFY(qIsGray(surface.image().pixel(x, ink.center().y())));
   }
 
+  /// A frame draws only what is different, and is the same picture as one that draws all.
+  void framesOfADrag() {
+    Sheet framed;
+    DrawnFrame last;
+    const auto prepared = [](const QImage& image) {
+      return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    };
+    const QImage ground = prepared(pictureOf(800, 600, [](int x, int y) { return qRgb(x, y, x + y); }));
+    const QImage glass = prepared(pictureOf(90, 60, [](int x, int) { return qRgba(250, 9, x, 100); }));
+    const auto draw = [&](Surface& surface, int frame) {
+      frame % 7 == 6 ? surface.wipe(Qt::darkBlue) : surface.drawImage(ground, 0, 0);
+      for (int i = 0; i < 4; ++i) surface.drawImage(glass, 70 * i + (i == 1 ? 9 * frame : 0), 40 + 9 * i);
+      if (frame % 5 == 4) surface.drawImageRect(glass, 300, 200, 333, 222);
+      for (const auto& [points, x] : {std::pair{12.F, 30}, std::pair{300.F, 400}}) {
+        surface.setPen(
+            {x + (frame % 3 == 2 ? -44.5F : 0), 70, frame == 8 ? Qt::red : Qt::white, u"Eurostar Black"_s, points});
+        surface.Print(frame == 9 ? u"Wag"_s : u"Tag"_s);
+      }
+      if (frame % 4 == 3) surface.drawImage(glass, 770, -20);
+    };
+    for (int frame = 0; frame < 25; ++frame) {
+      if (frame == 13) framed.wipe(Qt::green);  // by somebody else
+      Sheet whole;
+      draw(whole, frame);
+      framed.drawFrame(last, [&] { draw(framed, frame); });
+      QCOMPARE(framed.image(), whole.image());
+      const QRect dirty = framed.takeDirty();
+      if (frame == 1) QCOMPARE(dirty, QRect(70, 49, 99, 60));
+    }
+    framed.drawFrame(last, [&] { draw(framed, 22); });
+    framed.takeDirty();
+    framed.drawFrame(last, [&] { draw(framed, 22); });
+    QVERIFY(framed.takeDirty().isNull());
+  }
+
   void sizesInWholePixels() {
     Surface surface;
     const auto widthAt = [&](float points) {
