@@ -71,6 +71,11 @@ class CommitTest : public QObject {
     QObject::connect(&theme->session, &editing::Session::drawWanted, [&] { theme->session.pickObject(0); });
     QVERIFY(commit({0, u"X"_s, u"7"_s}, {u"8"_s, {}}));
     QCOMPARE(theme->told(), u"0 X=8, Save, draws, settles, Loading(), mark"_s);
+    // A failure doesn't stand beside the success before.
+    const platform::ReportScope scope(theme->panel);
+    choose(u"LoadingStaticA"_s);
+    QVERIFY(commit({0, u"X"_s, u"8"_s}, {u"9"_s, {}}) && !commit({}, {u"9"_s, {}}));
+    QCOMPARE(theme->report(), u"Error while writing tempfile [no row is selected]"_s);
   }
 
   void references() {
@@ -92,9 +97,12 @@ class CommitTest : public QObject {
       QVERIFY(!commit(refusal.row, refusal.proposal));
       QCOMPARE(theme->report(), u"Error while writing tempfile [%1]"_s.arg(QString::fromUtf8(refusal.cause)));
     }
-    choose(u"Loading]x"_s);
-    QVERIFY(!commit({0, u"X"_s, u"4"_s}, {u"2"_s, {}}));
-    QVERIFY(theme->report().contains(u"the section Loading]x can't be found again"));
+    theme->tags.AddItem(u"LoadingTab\t"_s);
+    for (const QString& section : {u"Loading]x"_s, u"LoadingTab\t"_s}) {
+      choose(section);
+      QVERIFY(!commit({0, u"X"_s, u"4"_s}, {u"2"_s, {}}));
+      QVERIFY(theme->report().contains(u"the section %1 can't be found again"_s.arg(section)));
+    }
     theme->tags.SetListIndex(-1);
     QVERIFY(!commit({0, u"X"_s, u"4"_s}, {u"2"_s, {}}));
     QVERIFY(theme->report().contains(u"no object is selected"));

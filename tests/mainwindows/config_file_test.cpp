@@ -65,15 +65,16 @@ class ConfigFileTest : public QObject {
     QCOMPARE(ConfigFile(folders).path(), folders[0] + u"\\config.ini"_s);
   }
 
-  void folderOutsideTheCodePage() {
-    for (const auto& [name, stored] :
-         {std::pair{u"M\u00fcller"_s, "M\xfcller"}, {u"\u6b4c \u00fc"_s, "\xe6\xad\x8c \xc3\xbc"}}) {
+  void longFoldersAndThoseOutsideTheCodePage() {
+    for (const auto& [name, stored] : {std::pair{u"M\u00fcller"_s, "M\xfcller"},
+                                       {u"\u6b4c \u00fc"_s, "\xe6\xad\x8c \xc3\xbc"},
+                                       {QString(200, u'a') + u'/' + QString(99, u'b'), "bbb"}}) {
       const Folder place;
-      QVERIFY(QDir(place.native({})).mkdir(name));
+      QVERIFY(QDir(place.native({})).mkpath(name));
       place.put(name + u"/Vocora.exe"_s, "program");
-      const QString folder = place.path(name) + u'\\';
+      const QString folder = place.path(QString(name).replace(u'/', u'\\')) + u'\\';
       ConfigFile({place.path({})}).setGameFolder(folder);
-      QVERIFY2(place.get(File).contains('\\' + QByteArray(stored) + "\\\r\n"), place.get(File).constData());
+      QVERIFY2(place.get(File).contains(QByteArray(stored) + "\\\r\n"), place.get(File).constData());
       QCOMPARE(ConfigFile({place.path({})}).gameFolder(), folder);
     }
   }

@@ -124,8 +124,9 @@ class OpenThemeTest : public QObject {
     const QTemporaryDir folder;
     const QStringList named{u"program"_s, folder.path()};
     QCOMPARE(mainwindows::parseCommandLine(named).gameFolder, platform::programPath(folder.path()) + u'\\');
-    for (const QString& wrong : {u"/no/such/folder"_s, u"--unknown"_s}) {
-      QVERIFY_THROWS_EXCEPTION(platform::Failure, mainwindows::parseCommandLine({u"program"_s, wrong}));
+    for (const QStringList& wrong :
+         {QStringList{u"/no/such/folder"_s}, {u"--unknown"_s}, {QString()}, {folder.path(), folder.path()}}) {
+      QVERIFY_THROWS_EXCEPTION(platform::Failure, mainwindows::parseCommandLine(QStringList{u"program"_s} + wrong));
     }
   }
 };

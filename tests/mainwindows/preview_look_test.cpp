@@ -29,6 +29,18 @@ class PreviewLookTest : public HandTest {
     QTRY_COMPARE(preview().accessibleDescription(), u"LoadingButtonLast, 1 more below"_s);
     program->form.queue().draw();
     QCOMPARE(preview().accessibleDescription(), QString());
+    moveMouse(preview(), {341, 320}, Qt::NoButton);
+    QTRY_VERIFY(!preview().accessibleDescription().isEmpty());
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(&preview(), &leave);
+    QCOMPARE(preview().accessibleDescription(), QString());
+    // The start picture has nothing to size.
+    program->tag(u"LoadingTextLater"_s);
+    program->tag(u"LoadingStaticA"_s);
+    moveMouse(preview(), {42, 52}, Qt::NoButton);
+    QVERIFY(preview().cursor().shape() != Qt::ArrowCursor);
+    program->click(3);
+    QCOMPARE(preview().cursor().shape(), Qt::ArrowCursor);
   }
 
   /// An object out of sight says where it is, and comes back by the keys.
@@ -37,6 +49,9 @@ class PreviewLookTest : public HandTest {
     program->form.queue().draw();
     program->tag(u"LoadingStaticA"_s);
     QCOMPARE(program->status(), u"LoadingStaticA lies outside the picture, at X = -105, Y = 50"_s);
+    program->tag(u"LoadingButtonGo"_s);
+    QCOMPARE(program->status(), QString());
+    program->tag(u"LoadingStaticA"_s);
     QTest::keyClick(&preview(), Qt::Key_Right, Qt::ShiftModifier);
     program->form.session().settle();
     QCOMPARE(program->value(u"X"_s), u"-95"_s);

@@ -44,6 +44,11 @@ class SessionTest : public ProgramTest {
     QVERIFY2(program->state.ProgressStep == 77, "drawn anew");
   }
 
+  void toolWindowStaysWithItsTheme() {
+    program->tools().close();
+    QVERIFY(program->tools().isVisible());
+  }
+
   void timeOfAReport() {
     const int before = QTime::currentTime().msecsSinceStartOfDay() / 1000;
     program->form.ShowStatus(u"what happened"_s);

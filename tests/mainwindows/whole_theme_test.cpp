@@ -37,10 +37,16 @@ class WholeThemeTest : public ProgramTest {
   void mendsFromTheList() {
     program->edit(u"W"_s, u"0"_s);
     const auto before = game->files();
+    key(program->form, Qt::Key_F8);
+    QTRY_VERIFY_WITH_TIMEOUT(program->status().contains(u" of "_s), 20000);
     toolwindow::ListWindow& window = faults();
     const QString fault = u"error: Loading Screen, LoadingStaticA, W x H: '0 x 60' leaves no area"_s;
     QTRY_COMPARE_WITH_TIMEOUT(rowsWith(window, u"no area"_s), QStringList(fault), 20000);
     QCOMPARE(window.windowTitle(), u"What is wrong: %1"_s.arg(window.List->ListCount()));
+    const QStringList worstFirst =
+        rowsWith(window, u"error:"_s) + rowsWith(window, u"warning:"_s) + rowsWith(window, u"note:"_s);
+    QCOMPARE(entries(*window.List), worstFirst);
+    QVERIFY(!rowsWith(window, u"note:"_s).isEmpty());
     program->screen(u"Main Screen"_s);
     window.Line->SetText(u"area error"_s);
     key(window, Qt::Key_Return);
@@ -52,6 +58,7 @@ class WholeThemeTest : public ProgramTest {
     window.Line->SetText({});
     QTRY_COMPARE_WITH_TIMEOUT(rowsWith(window, u"no area"_s), QStringList(), 20000);
     QVERIFY(window.List->ListCount() > 0);
+    QCOMPARE(place(), u"Loading Screen/LoadingStaticA/W"_s);  // only a key goes on
     window.hide();
     program->screen(u"Main Screen"_s);
     key(program->form, Qt::Key_F8);
@@ -65,6 +72,17 @@ class WholeThemeTest : public ProgramTest {
     QCOMPARE(program->status(), u"The theme is being checked"_s);
     QTRY_VERIFY_WITH_TIMEOUT(program->status().contains(u" of "_s), 20000);
     program->dialogs.boxes.assign(9, platform::BoxAnswer::Yes);
+    // One that still waits ends with its theme.
+    for (int times = 0; times < 2; ++times) {
+      program->click(3);
+      program->open();
+      if (times == 0) key(program->form, Qt::Key_F8);
+    }
+    const QString opened = place();
+    const toolwindow::ListWindow& next = faults();
+    QTRY_VERIFY_WITH_TIMEOUT(next.List->ListCount() > 0, 20000);
+    settle();
+    QCOMPARE(place(), opened);
     for (const int wait : {350, 400, 600}) {
       faults();
       sideBySide();
@@ -97,6 +115,14 @@ class WholeThemeTest : public ProgramTest {
     changes.showNormal();
     program->edit(u"W"_s, u"0"_s);
     QTRY_COMPARE(changes.List->ListCount(), 1);
+    // What is new has nothing to put back.
+    auto& putBack = *named<QPushButton>(changes, "Action");
+    QVERIFY(putBack.isEnabled() && putBack.text() == u"Put back 1 value");
+    game->put(ThemeCopy,
+              game->get(ThemeCopy).replace("[LoadingStaticA]\r\n", "[LoadingStaticA]\r\nNew=1\r\nW=100\r\n"));
+    program->tag(u"LoadingTextFree"_s);
+    QTRY_COMPARE(rowsWith(changes, u"New"_s), QStringList(u"Loading Screen, LoadingStaticA: New = 1 (new)"_s));
+    QVERIFY(!putBack.isEnabled() && putBack.text() == u"Put back");
     program->tools().activateWindow();
     list(Qt::Key_E, u"Changes"_s).close();
     QVERIFY(QTest::qWaitForWindowActive(&program->tools()) && program->tools().values().hasFocus());

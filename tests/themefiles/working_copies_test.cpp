@@ -85,6 +85,22 @@ class WorkingCopiesTest : public QObject {
     QVERIFY_THROWS_EXCEPTION(platform::Failure, edit());
   }
 
+  /// A copy that is gone, or that another program has just emptied, is made of what stood there.
+  void missingAndEmptied() {
+    Game game;
+    game.folder.put(Theme, "[S]\nk=v\n");
+    QVERIFY(game.open());
+    for (const bool emptied : {true, false}) {
+      if (emptied) game.folder.put(Theme + Copy, {});
+      if (!emptied) QFile::remove(game.folder.native(Theme + Copy));
+      putInCopy(game.state, &ThemePaths::ThemeFile, u"S"_s, u"l"_s, u"w"_s, game.panel);
+      QCOMPARE(game.folder.get(Theme + Copy), "[S]\nk=v\nl=w\n");
+      QVERIFY(
+          game.panel.texts.last().endsWith(emptied ? u"was empty and is made anew"_s : u"was gone and is made anew"_s));
+    }
+    QVERIFY(!game.folder.has(Theme + u".tmp.old"_s));
+  }
+
   void keepsWhatOthersWrote() {
     Game game;
     game.folder.put(Theme + Copy, Bytes);

@@ -42,6 +42,29 @@ class FinderTest : public ProgramTest {
     }
   }
 
+  /// A key that is held down, as it was when the window came up, does nothing there.
+  void heldEnter() {
+    Form2& tools = program->tools();
+    const auto hold = [](QWidget& control) {
+      QKeyEvent again(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+      QApplication::sendEvent(&control, &again);
+    };
+    program->tag(u"LoadingStaticA"_s);
+    program->row(u"X"_s);
+    tools.values().setFocus();
+    hold(tools.values());
+    QVERIFY(tools.values().hasFocus());
+    const Editors editors(tools);
+    editors.Text1->SetText(u"9"_s);
+    editors.Command1->setFocus();
+    hold(*editors.Command1);
+    QCOMPARE(program->value(u"X"_s), u"40"_s);
+    ListWindow& finder = find("mainstatica x=10");
+    hold(finder);
+    hold(*finder.Line);
+    QVERIFY(finder.isVisible());
+  }
+
   void comesAndGoes() {
     Form2& tools = program->tools();
     tools.values().setFocus();
