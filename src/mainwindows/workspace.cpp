@@ -141,7 +141,8 @@ void Workspace::setHandLabel(const QString& text, const QPoint& place) {
 void Workspace::setGroupFrames(const std::vector<QRect>& frames) {
   if (frames == groupFrames_) return;
   for (const auto& shown : {groupFrames_, frames}) {
-    for (const QRect& frame : shown) update(frame);
+    // Between two pixels of the screen a line reaches over the place's edge.
+    for (const QRect& frame : shown) update(frame.adjusted(-1, -1, 1, 1));
   }
   groupFrames_ = frames;
 }
