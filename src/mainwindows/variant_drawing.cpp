@@ -54,7 +54,6 @@ bool VariantDrawing::step() {
 void VariantDrawing::choose() {
   chosen_.emplace(std::move(state_), screen_, scheme_, status_);
   chosen_->pictures = &pictures_;
-  chosen_->state.ButtonListFilled = true;
   chosen_->state.ButtonCount = 0;
 }
 

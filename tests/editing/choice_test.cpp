@@ -62,7 +62,7 @@ class ChoiceTest : public QObject {
     theme.session.toggleMember(u"LoadingStaticA"_s);  // nothing is chosen to be beside
     theme.screen(Loading);
     theme.told();
-    for (const char* name : {"LoadingTextC", "loading", "Gone", "LoadingStaticA", "LoadingStaticB", "LoadingStaticA"}) {
+    for (const char* name : {"LoadingTextC", "Loading", "Gone", "LoadingStaticA", "LoadingStaticB", "LoadingStaticA"}) {
       theme.session.toggleMember(QLatin1StringView(name));
     }
     QCOMPARE(theme.told(),

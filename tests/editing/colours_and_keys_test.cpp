@@ -54,6 +54,9 @@ class ColoursAndKeysTest : public QObject {
     QVERIFY(!editing::changeColor(session, u"Blue"_s, u"7 7 7"_s) && !editing::addColor(session, u"More"_s));
     QVERIFY(*value("Blue") == u"0 0 9" && !value("More") && theme.told().isEmpty());
     QVERIFY(theme.report().startsWith(u"Error while adding colors ["));
+    for (themefiles::NamedColor& row : theme.state.ThemeColors) row.Name = u"used"_s;
+    QVERIFY(!editing::addColor(session, u"More"_s));
+    QCOMPARE(theme.report(), u"Error while adding colors []"_s);
   }
 
   void colourGroups() {

@@ -25,7 +25,7 @@ const Refusal Refusals[] = {
     {"no row", {}, {u"2"_s, {}}, "no row is selected"},
     {"nothing in the list", {1, u"Tex"_s, u"Plate"_s}, {std::nullopt, u"a.png"_s}, "nothing is selected"},
     {"too long", {2, u"Z"_s, QString(32001, u'1')}, {u"2"_s, {}}, "Z is too long to be edited here"},
-    {"a line end", {1, u"Tex"_s, u"Plate"_s}, {u"Plate"_s, u"a\nb"_s}, "the text holds a line end: a\nb"},
+    {"a line end", {1, u"Tex"_s, u"Plate"_s}, {u"Lost"_s, u"a\nb"_s}, "the text holds a line end: a\nb"},
     {"not in the code page",
      {0, u"X"_s, u"1"_s},
      {u"\u4e2d"_s, {}},

@@ -71,14 +71,15 @@ class DifferencesTest : public QObject {
     theme.screen(u"Main Screen"_s);
     theme.session.pickObject(1);
     theme.told();
-    QVERIFY(editing::putBack(theme.session, places(theme)));
+    const auto differing = places(theme);
+    QVERIFY(editing::putBack(theme.session, differing));
     QCOMPARE(told(theme), QStringList(u"Main Screen, MainStaticB: New = 1 (new)"_s));
     QVERIFY(theme.copy("theme").endsWith("|[Song]|[Lost]|X=8|[SongStaticC]|X=7|"));
     QVERIFY(theme.copy("theme").contains("[MainStaticA]|X = 5|x=7|;d|Text=GO|"));
     QCOMPARE(theme.report().section(u"; "_s, 0, 0), u"Put back: 9 values"_s);
     QCOMPARE(theme.told(), u"colours, -1 TEXT=GO, -1 TEXT=GO, Save, draws, mark again"_s);
     QVERIFY(theme.state.Changed);
-    QVERIFY(editing::putBack(theme.session, places(theme)));
+    QVERIFY(editing::putBack(theme.session, differing));
     QCOMPARE(theme.report(), u"Nothing to put back"_s);
   }
 

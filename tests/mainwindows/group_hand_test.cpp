@@ -15,7 +15,7 @@ const QPoint Inside(50, 60);  // of LoadingStaticA
 constexpr const char* More = R"([LoadingButtonGoText2]|X=20|Y=22|Font=0|Size=7|Text=HELLO|Color=Red
 [LoadingButtonWide]|Tex=Plate|X=15|Y=500|W=90|H=40|Color=Blue|DColor=Red|INT=1|DINT=1|Type=Colorized|Texts=1
 [LoadingButtonWideText1]|X=5|Y=6|Font=1|Size=8|Text=GO|Color=Red
-[LoadingStaticB]|Tex=Plate|X=25|Y=400|W=120|H=30|Color=Blue|Type=Colorized
+[LoadingStaticB]|Tex=Plate|X=5|Y=400|W=121|H=31|Color=Blue|Type=Colorized
 )";
 
 /// Several objects in the hand, their arranging, and the guides that a drag meets.
@@ -68,6 +68,17 @@ class GroupHandTest : public HandTest {
     const QStringList members = program->form.session().members();
     QCOMPARE(members.join(u' '), u"LoadingButtonLast LoadingButtonGo LoadingButtonGoText1"_s);
     const QByteArray file = game->get(ThemeCopy);
+    hold({340, 320}, {10, 0});
+    drop({340, 320});  // where it was
+    QVERIFY(game->get(ThemeCopy) == file && !program->state.Changed);
+    const QImage picture = program->picture();
+    game->protect(ThemeCopy);
+    hold({340, 320}, {40, 25});
+    QTRY_VERIFY(program->picture() != picture);
+    drop({380, 345});
+    QVERIFY2(program->status().startsWith(u"Error while writing tempfile ["), qPrintable(program->status()));
+    QCOMPARE(program->picture(), picture);
+    game->protect(ThemeCopy, false);
     drag({340, 320}, {40, 25});
     QCOMPARE(newLines(file).join(u' '), u"X=340 Y=225 X=340 Y=325 X=80 Y=75"_s);
     QCOMPARE(program->status(),
@@ -76,6 +87,9 @@ class GroupHandTest : public HandTest {
     QTest::keyClick(&preview(), Qt::Key_Left, Qt::ShiftModifier);
     program->form.session().settle();
     QCOMPARE(newLines(file).join(u' '), u"X=330 Y=225 X=330 Y=325 X=70 Y=75"_s);
+    QTest::keyClick(&preview(), Qt::Key_Right, Qt::ControlModifier);  // sizes the chosen one
+    program->form.session().settle();
+    QCOMPARE(newLines(file).join(u' '), u"X=330 Y=225 X=330 Y=325 X=70 Y=75 W=101"_s);
     put("Y", "-1");
     const QByteArray before = game->get(ThemeCopy);
     hold({370, 345}, {-10, 0});
@@ -98,8 +112,10 @@ class GroupHandTest : public HandTest {
       QCOMPARE(list.Text(), chosen);
       QCOMPARE(list.told(list.ListIndex() - 1).contains(u"together with "_s + chosen), times % 2 == 1);
     }
+    QVERIFY2(program->status().startsWith(u"together: "_s + chosen), qPrintable(program->status()));
     QTest::keyClick(&list, Qt::Key_Escape);
     QCOMPARE(program->form.session().members(), QStringList());
+    QVERIFY2(!program->status().contains(u"together"), qPrintable(program->status()));
   }
 
   /// Random hands leave what typing the same numbers leaves; what can't be typed, below 0, is written into the file.
@@ -220,6 +236,20 @@ class GroupHandTest : public HandTest {
       QCOMPARE(program->status(), told);
     }
     QCOMPARE(game->get(ThemeCopy), file);
+    // Odd sizes, one whose left edge comes before that of one that lies further left, and a text beside its own button.
+    for (const auto& [arrangement, names, lines] :
+         {std::tuple{Arrangement::RightEdges, u"StaticA StaticB ButtonWide"_s, u"X=50 X=19"_s},
+          {Arrangement::GapsAcross, u"StaticA StaticB ButtonWide"_s, u"X=12"_s},
+          {Arrangement::GapsDown, u"StaticA StaticB ButtonWide"_s, u"Y=290"_s},
+          {Arrangement::LeftEdges, u"ButtonGo ButtonGoText1"_s, u"X=0"_s}}) {
+      openCrowded();
+      const QStringList group = names.split(u' ');
+      program->tag(u"Loading"_s + group.front());
+      for (const QString& name : group.mid(1)) program->form.session().toggleMember(u"Loading"_s + name);
+      const QByteArray before = game->get(ThemeCopy);
+      mainwindows::arrange(program->form, arrangement);
+      QCOMPARE(newLines(before).join(u' '), lines);
+    }
   }
 
   void guides() {

@@ -83,6 +83,13 @@ class PreviewLookTest : public HandTest {
     QTest::keyRelease(&preview(), Qt::Key_Right);
     QTest::keyClick(&form, Qt::Key_F7);
     QVERIFY(!loupe.isVisible());
+    // Opened away from the pointer it shows the mark, and what is drawn there anew.
+    QTest::keyClick(&form, Qt::Key_F7);
+    QVERIFY2(loupe.accessibleDescription().startsWith(u"X 41, Y 50 "), qPrintable(loupe.accessibleDescription()));
+    const QString before = loupe.accessibleDescription();
+    put("X", "300");
+    program->form.queue().draw();
+    QVERIFY(loupe.accessibleDescription() != before);
   }
 };
 

@@ -63,6 +63,14 @@ class WholeThemeTest : public ProgramTest {
     program->screen(u"Main Screen"_s);
     key(program->form, Qt::Key_F8);
     QVERIFY2(program->status().contains(u" of %1: "_s.arg(window.List->ListCount())), qPrintable(program->status()));
+    // What the list went to counts as the last one.
+    const int present = program->status().section(u' ', 0, 0).toInt();
+    key(program->form, Qt::Key_F8);
+    const QString next = program->status();
+    faults().List->SetListIndex(present - 1);
+    key(window, Qt::Key_Return);
+    key(program->form, Qt::Key_F8);
+    QCOMPARE(program->status(), next);
   }
 
   /// The first F8 waits for the check. Close and another Open end it, wherever it is.
@@ -126,8 +134,10 @@ class WholeThemeTest : public ProgramTest {
     program->tools().activateWindow();
     list(Qt::Key_E, u"Changes"_s).close();
     QVERIFY(QTest::qWaitForWindowActive(&program->tools()) && program->tools().values().hasFocus());
-    QFile::remove(game->native(ThemeCopy));
     toolwindow::ListWindow& window = faults();
+    QTRY_VERIFY_WITH_TIMEOUT(window.List->ListCount() > 1, 20000);
+    QFile::remove(game->native(ThemeCopy));
+    faults();
     QTRY_COMPARE_WITH_TIMEOUT(window.windowTitle(), u"What is wrong: 1"_s, 20000);
     QVERIFY2(window.List->List(0).contains(u"can't be read"_s), qPrintable(window.List->List(0)));
   }
@@ -169,9 +179,34 @@ class WholeThemeTest : public ProgramTest {
     QVERIFY(picture(window).isNull() && window.windowTitle() == u"Loading Screen: One, Deutsch"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!picture(window).isNull(), 20000);
     QCOMPARE(drawn.first(), 3);
+    QFile::remove(game->native(SkinFile));  // what is open is there all the same
+    key(program->form, Qt::Key_F5);
+    QCOMPARE(names(), u"Three, English|Two, English|One, English|One, Deutsch"_s);
     key(window, Qt::Key_Escape);
     key(window, Qt::Key_Escape);
     QVERIFY(!window.isVisible());
+  }
+
+  /// In the chosen scheme, and with the texts that a selected button without a text leaves to the next one to move.
+  void drawsAsThePreviewStands() {
+    const QByteArray moved = game->get(ThemeFile)
+                                 .replace("Texts=1\r\n", "")
+                                 .replace("[LoadingButtonLast]\r\n", "[LoadingButtonLast]\r\nTexts=1\r\n")
+                                 .replace("GoText1", "LastText1")
+                                 .replace("Color=Blue", "Color=ColorDark");
+    game->put(ThemeFile, moved);
+    program->click(3);
+    program->open();
+    program->form.schemes().SetListIndex(3);
+    program->form.queue().draw();
+    mainwindows::SideBySide& window = sideBySide();
+    const QListWidgetItem& first = *named<QListWidget>(window, "List")->item(0);
+    QTRY_VERIFY_WITH_TIMEOUT(!first.icon().isNull(), 20000);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+    QApplication::sendEvent(&window, &held);
+    QCOMPARE(window.windowTitle(), u"Loading Screen in each skin and language"_s);
+    key(window, Qt::Key_Return);
+    QCOMPARE(picture(window), program->picture().convertToFormat(QImage::Format_RGB32));
   }
 };
 
