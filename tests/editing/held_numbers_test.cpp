@@ -2,7 +2,6 @@
 
 #include <QTest>
 
-#include "editing/guides.h"
 #include "support/editing.h"
 #include "support/row_name.h"
 
@@ -35,36 +34,6 @@ class HeldNumbersTest : public QObject {
     for (const auto& [pixel, expected] : rows) {
       const Grip grip = editing::gripAt({10, 20, 100, 80}, pixel);
       QCOMPARE(changed({10, 20, 100, 80, u"H"_s}, grip, {5, 7}), expected);
-    }
-  }
-
-  /// An edge or the centre meets another one within 4 pixels, but not where the drag began.
-  void guides() {
-    const QRect free(100, 100, 40, 20);
-    const QRect aligned(200, 100, 50, 20);
-    const struct {
-      QRect held;
-      Grip grip;
-      std::vector<QPoint> way;
-      QPoint by;
-      QString lines;
-    } rows[] = {{free, Move, {{57, 0}}, {60, 0}, u"|200 of A"_s},
-                {free, Move, {{55, 0}}, {55, 0}, QString()},
-                {free, Move, {{102, 188}}, {100, 190}, u"|200 of A -300 of A"_s},
-                {aligned, Move, {{3, 0}}, {3, 0}, QString()},
-                {aligned, Move, {{9, 0}, {3, 0}}, {0, 0}, u"|200 of A"_s},
-                {free, Right, {{57, 188}}, {60, 188}, u"|200 of A"_s},
-                {free, Left, {{-97, 0}}, {-100, 0}, u"|0 of B"_s}};
-    for (const auto& [held, grip, way, by, lines] : rows) {
-      editing::Guides guides({{u"A"_s, {200, 300, 50, 50}}, {u"B"_s, {0, 0, 800, 600}}}, held, grip);
-      editing::MetMovement met;
-      for (const QPoint& step : way) met = guides.met(step, true, true);
-      QCOMPARE(met.by, by);
-      QStringList told;
-      for (const editing::GuideLine& line : met.lines) {
-        told += (line.upright ? u'|' : u'-') + QString::number(line.at) + u" of "_s + line.name;
-      }
-      QCOMPARE(told.join(u' '), lines);
     }
   }
 
