@@ -1,10 +1,8 @@
 #include <cstring>
-#include <fcntl.h>
 #include <memory>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "figures.h"
+#include "plain_files.h"
 #include "support/panel.h"
 #include "themefiles/ini_access.h"
 
@@ -30,28 +28,6 @@ QByteArray themeOfSections() {
   return text;
 }
 
-/// The file read with one system call.
-QByteArray readPlainly(const char* path) {
-  const int file = ::open(path, O_RDONLY | O_CLOEXEC);
-  struct stat status {};
-  ::fstat(file, &status);
-  QByteArray bytes(status.st_size, Qt::Uninitialized);
-  if (::read(file, bytes.data(), static_cast<std::size_t>(bytes.size())) != bytes.size())
-    qFatal("can't read the theme");
-  ::close(file);
-  return bytes;
-}
-
-/// The bytes written, flushed and renamed over the file.
-void writePlainly(const QByteArray& path, const QByteArray& bytes) {
-  const QByteArray fresh = path + ".new";
-  const int file = ::open(fresh.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-  const bool written = ::write(file, bytes.constData(), static_cast<std::size_t>(bytes.size())) == bytes.size();
-  if (!written || ::fsync(file) != 0 || ::close(file) != 0 || ::rename(fresh.constData(), path.constData()) != 0) {
-    qFatal("can't write the theme");
-  }
-}
-
 std::size_t countBrackets(const QByteArray& bytes) {
   std::size_t count = 0;
   const char* const end = bytes.constEnd();
@@ -67,7 +43,7 @@ std::size_t countBrackets(const QByteArray& bytes) {
 void registerIniAccess() {
   const auto folder = std::make_shared<support::Folder>();
   folder->put(Name, themeOfSections());
-  const QByteArray native = QFile::encodeName(folder->native(Name));
+  const QString native = folder->native(Name);
   registerBenchmark(
       {"GetINI", 2, Held::AtMost},
       [folder](benchmark::State& state) {

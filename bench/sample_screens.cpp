@@ -7,7 +7,7 @@
 #include <QDir>
 
 #include "drawing/pictures.h"
-#include "file_readings.h"
+#include "plain_files.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"

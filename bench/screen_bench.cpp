@@ -1,5 +1,6 @@
 #include "figures.h"
-#include "file_readings.h"
+#include "plain_files.h"
+#include "platform/files.h"
 #include "sample_screens.h"
 
 namespace bench {
@@ -30,7 +31,7 @@ void registerScreen(const std::shared_ptr<SampleScreen>& screen) {
                     [blend = blending(*screen), read = screen->readings()](benchmark::State& state) {
                       drawing::Surface surface;
                       for ([[maybe_unused]] auto turn : state) {
-                        readAll(read);
+                        for (const QString& file : read) benchmark::DoNotOptimize(platform::readFile(file));
                         blend(surface);
                       }
                     });

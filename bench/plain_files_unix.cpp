@@ -1,13 +1,14 @@
-#include "file_readings.h"
-
 #include <array>
-#include <benchmark/benchmark.h>
 #include <cstring>
+#include <fcntl.h>
 #include <map>
 #include <sys/inotify.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/files.h"
+#include <QFile>
+
+#include "plain_files.h"
 #include "platform/paths.h"
 
 namespace bench {
@@ -34,8 +35,24 @@ std::vector<QString> readingsOf(const QStringList& files, const std::function<vo
   return opened;
 }
 
-void readAll(const std::vector<QString>& files) {
-  for (const QString& file : files) benchmark::DoNotOptimize(platform::readFile(file));
+QByteArray readPlainly(const QString& native) {
+  const int file = ::open(QFile::encodeName(native).constData(), O_RDONLY | O_CLOEXEC);
+  struct stat status {};
+  ::fstat(file, &status);
+  QByteArray bytes(status.st_size, Qt::Uninitialized);
+  if (::read(file, bytes.data(), static_cast<std::size_t>(bytes.size())) != bytes.size()) qFatal("can't read the file");
+  ::close(file);
+  return bytes;
+}
+
+void writePlainly(const QString& native, const QByteArray& bytes) {
+  const QByteArray path = QFile::encodeName(native);
+  const QByteArray fresh = path + ".new";
+  const int file = ::open(fresh.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  const bool written = ::write(file, bytes.constData(), static_cast<std::size_t>(bytes.size())) == bytes.size();
+  if (!written || ::fsync(file) != 0 || ::close(file) != 0 || ::rename(fresh.constData(), path.constData()) != 0) {
+    qFatal("can't write the file");
+  }
 }
 
 }  // namespace bench
