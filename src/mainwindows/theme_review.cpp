@@ -97,7 +97,8 @@ bool ThemeReview::step() {
       publish();
       return false;
     }
-    coming_.push_back(itemOf((*found_)[coming_.size()]));
+    // All at once would take long to be let go.
+    coming_.push_back(itemOf(std::exchange((*found_)[coming_.size()], {})));
   } else if (!check_) {
     check_ = std::make_unique<themecheck::ThemeCheck>(filesOf(state.paths), WholeThemePictures);
     places_.reset();

@@ -1,6 +1,8 @@
 #include "themecheck/sections.h"
 
 #include <map>
+#include <memory>
+#include <vector>
 
 #include <QRegularExpression>
 #include <QSet>
@@ -60,8 +62,9 @@ Listing::Listing(const CheckedTheme& theme) {
 void Listing::findEnds(const IniFile& theme) {
   for (const IniSection& section : theme.sections()) {
     const QString name = upperCase(section.name);
+    const bool isOfScreen = runs_.contains(name);
     for (auto& [screen, run] : runs_) {
-      if (name != screen && isScreen(name)) {
+      if (name != screen && isOfScreen) {
         if (run.began && !run.end) run.end = &section;
       } else if (name.startsWith(screen)) {
         run.began = run.began || isListed(name);
@@ -71,10 +74,11 @@ void Listing::findEnds(const IniFile& theme) {
 }
 
 QString Listing::screenBefore(const IniSection& section) const {
+  const QString name = upperCase(section.name);
   const Run* own = nullptr;
   qsizetype longest = 0;
   for (const auto& [screen, run] : runs_) {
-    if (screen.size() <= longest || !upperCase(section.name).startsWith(screen)) continue;
+    if (screen.size() <= longest || !name.startsWith(screen)) continue;
     longest = screen.size();
     own = &run;
   }
@@ -121,6 +125,16 @@ bool isOfSomeKind(const QString& name) {
   return renderer::isStatic(name) || renderer::isButton(name) || upperCase(name).contains(u"TEXT");
 }
 
+void checkObject(const CheckedTheme& theme, const Listing& listing, const IniSection& object, Findings& findings) {
+  if (object.head != Head::Right && object.head != Head::Indented) return;
+  if (!listing.isListed(object.name)) return tellStray(theme, listing, object, findings);
+  checkButtonText(theme, listing, object, findings);
+  if (drawsSomething(object) && !isOfSomeKind(object.name) && !listing.isScreen(object.name) &&
+      !listing.isKnown(object.name)) {
+    findings.add(Kind::NoKind, theme.theme().placeOf(object));
+  }
+}
+
 template <typename Named>
 bool isDouble(const Named& named) {
   return named.line != named.counted;
@@ -152,20 +166,14 @@ void checkDoubles(const IniFile& file, Findings& findings, const std::optional<Q
   }
 }
 
-void checkSections(const CheckedTheme& theme, Findings& findings) {
-  const Listing listing(theme);
-  for (const IniSection* object : objectsOf(theme.theme())) {
-    if (object->head != Head::Right && object->head != Head::Indented) continue;
-    if (!listing.isListed(object->name)) {
-      tellStray(theme, listing, *object, findings);
-      continue;
-    }
-    checkButtonText(theme, listing, *object, findings);
-    if (drawsSomething(*object) && !isOfSomeKind(object->name) && !listing.isScreen(object->name) &&
-        !listing.isKnown(object->name)) {
-      findings.add(Kind::NoKind, theme.theme().placeOf(*object));
-    }
-  }
+void addSectionSteps(const CheckedTheme& theme, Findings& findings, Steps& steps) {
+  const auto listing = std::make_shared<std::optional<Listing>>();
+  const QString& about = theme.files.theme.name;
+  steps.add(about, [&theme, listing] { listing->emplace(theme); });
+  const std::vector<const IniSection*> objects = objectsOf(theme.theme());
+  steps.addEach(about, objects.size(), [&theme, &findings, listing, objects](size_t number) {
+    checkObject(theme, **listing, *objects[number], findings);
+  });
 }
 
 }  // namespace themecheck

@@ -76,7 +76,7 @@ void ThemeCheck::checkFiles() {
   steps_.addEach(name, theme_.languages.size(), [this](size_t language) {
     if (theme_.languages[language].isChecked()) checkDoubles(theme_.languages[language], findings_, usedWords());
   });
-  later([this] { checkSections(theme_, findings_); });
+  addSectionSteps(theme_, findings_, steps_);
   later([this] { checkColors(theme_, findings_); });
   addSkinSteps(theme_, findings_, steps_);
   later([this] { checkWords(theme_, findings_); });
@@ -101,8 +101,13 @@ void ThemeCheck::addScreens() {
                  [this, name, language] { checkTextsOf(theme_, name, language, tools_, findings_); });
     }
   }
-  steps_.add(theme_.files.theme.name, [this] { checkGameNames(theme_, findings_); });
-  steps_.add(theme_.files.theme.name, [this] { checkValues(theme_, findings_); });
+  const auto forObjects = [&](void (*check)(const CheckedTheme&, const IniSection&, Findings&)) {
+    const std::vector<const IniSection*> objects = objectsOf(theme_.theme());
+    steps_.addEach(theme_.files.theme.name, objects.size(),
+                   [this, objects, check](size_t number) { check(theme_, *objects[number], findings_); });
+  };
+  forObjects(checkGameNames);
+  forObjects(checkValues);
 }
 
 std::vector<Finding> ThemeCheck::findings() const {

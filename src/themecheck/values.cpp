@@ -75,25 +75,21 @@ bool isBackground(const CheckedTheme& theme, const QString& name) {
 
 }  // namespace
 
-void checkGameNames(const CheckedTheme& theme, Findings& findings) {
-  for (const IniSection* object : objectsOf(theme.theme())) {
-    const bool hasColors = !isBackground(theme, object->name);
-    for (const IniKey& key : object->keys) {
-      if (key.line != key.counted || key.value.isEmpty() || findings.isTold(object->name, key.name)) continue;
-      const auto group = themefiles::groupOf(themefiles::keyIdentity(key.name));
-      const Place place = theme.theme().valueOf(object->name, key.name);
-      if (group == KeyGroup::Color && hasColors) checkColor(theme, key, place, findings);
-      if (group == KeyGroup::Texture) checkTexture(theme, key, place, findings);
-    }
+void checkGameNames(const CheckedTheme& theme, const IniSection& object, Findings& findings) {
+  const bool hasColors = !isBackground(theme, object.name);
+  for (const IniKey& key : object.keys) {
+    if (key.line != key.counted || key.value.isEmpty() || findings.isTold(object.name, key.name)) continue;
+    const auto group = themefiles::groupOf(themefiles::keyIdentity(key.name));
+    const Place place = theme.theme().valueOf(object.name, key.name);
+    if (group == KeyGroup::Color && hasColors) checkColor(theme, key, place, findings);
+    if (group == KeyGroup::Texture) checkTexture(theme, key, place, findings);
   }
 }
 
-void checkValues(const CheckedTheme& theme, Findings& findings) {
-  for (const IniSection* object : objectsOf(theme.theme())) {
-    for (const IniKey& key : object->keys) {
-      if (key.line != key.counted || findings.isTold(object->name, key.name)) continue;
-      checkValue(theme.theme(), *object, key, findings);
-    }
+void checkValues(const CheckedTheme& theme, const IniSection& object, Findings& findings) {
+  for (const IniKey& key : object.keys) {
+    if (key.line != key.counted || findings.isTold(object.name, key.name)) continue;
+    checkValue(theme.theme(), object, key, findings);
   }
 }
 

@@ -4,10 +4,11 @@
 
 namespace themecheck {
 
-/// Names of colours and textures that the preview doesn't look up, and that are in no table. After the drawing.
-void checkGameNames(const CheckedTheme& theme, Findings& findings);
+/// Names of colours and textures of an object that the preview doesn't look up, and that are in no table. After the
+/// drawing.
+void checkGameNames(const CheckedTheme& theme, const IniSection& object, Findings& findings);
 
-/// Values that the editor of their key couldn't enter. After the drawing.
-void checkValues(const CheckedTheme& theme, Findings& findings);
+/// Values of an object that the editor of their key couldn't enter. After the names of all.
+void checkValues(const CheckedTheme& theme, const IniSection& object, Findings& findings);
 
 }  // namespace themecheck
