@@ -87,6 +87,7 @@ class GroupHandTest : public HandTest {
     QTest::keyClick(&preview(), Qt::Key_Left, Qt::ShiftModifier);
     program->form.session().settle();
     QCOMPARE(newLines(file).join(u' '), u"X=330 Y=225 X=330 Y=325 X=70 Y=75"_s);
+    QTest::keyClick(&preview(), Qt::Key_Right, Qt::AltModifier);      // a desktop's key
     QTest::keyClick(&preview(), Qt::Key_Right, Qt::ControlModifier);  // sizes the chosen one
     program->form.session().settle();
     QCOMPARE(newLines(file).join(u' '), u"X=330 Y=225 X=330 Y=325 X=70 Y=75 W=101"_s);

@@ -104,6 +104,9 @@ class OpenThemeTest : public QObject {
     // On a screen that is coming up the selected button is still that of the screen before.
     program.form.buttons().setCurrentIndex(1);
     Q_EMIT program.form.buttons().Click(controls::Cause::User);
+    QTest::keyClick(&program.form, Qt::Key_F5);
+    settle();
+    QVERIFY(program.form.buttons().ListIndex() == 1 && program.state.SelectedButton == 2);
     program.screen(u"Main Screen"_s);
     bool pressed = false;
     connect(&program.form.queue(), &controls::WorkQueue::yielding, this, [&] {

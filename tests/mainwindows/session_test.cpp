@@ -81,6 +81,8 @@ class SessionTest : public ProgramTest {
       QTest::mouseClick(program->form.Workspace, Qt::LeftButton, {}, {340, 320});
       QCOMPARE(program->tools().objects().Text(), QLatin1StringView(object));
     }
+    QTest::mouseClick(program->form.Workspace, Qt::LeftButton, {}, {345, 320});  // another place
+    QCOMPARE(program->tools().objects().Text(), u"LoadingButtonLast"_s);
   }
 
   void theWindowsEndUnderTheOpenDialog() {
