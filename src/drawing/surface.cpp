@@ -137,7 +137,7 @@ void Surface::Print(const QString& text) {
 }
 
 void Surface::drawFrame(DrawnFrame& last, const std::function<void()>& draw) {
-  noted_.emplace();
+  noted_ = Noted();
   const auto end = qScopeGuard([this] { noted_.reset(); });
   draw();
   if (noted_) drawNoted(changedSince(last));

@@ -45,9 +45,9 @@ class SkinCheck {
 
   size_t count(size_t skin) const { return textures_[skin].size(); }
   void look(size_t skin, size_t texture);
-  void checkWhole(size_t skin);
-  void checkTexture(size_t skin, size_t texture);
-  void checkLacking(size_t skin, size_t texture);
+  void checkWhole(size_t number);
+  void checkTexture(size_t number, size_t texture);
+  void checkLacking(size_t number, size_t texture);
   void checkPictures();
 
  private:
