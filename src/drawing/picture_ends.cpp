@@ -106,7 +106,7 @@ bool codesFill(const QByteArray& data, int rootBits, qint64 wanted) {
     while (buffered >= table.bits()) {
       const int bits = table.bits();
       const auto pixels = table.pixelsOf(static_cast<int>(buffer & ((1U << bits) - 1)));
-      if (!pixels) return false;
+      if (!pixels) return wanted <= 0;
       buffer >>= bits;
       buffered -= bits;
       wanted -= *pixels;

@@ -59,6 +59,10 @@ class PicturesTest : public QObject {
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_Mono), "bmp")));
     QVERIFY(onlyWhole(runs("0301 0300 0000 0600 0001")));
     QVERIFY(onlyWhole(Gif, 25));  // the second frame may be cut
+    // The end code in the last pixel's byte: 1 x 2 pixels.
+    const QByteArray small =
+        "474946383961 0100020081 0000 000000000000000000000000 2c000000000100020000 02 02040a00 3b";
+    QVERIFY(onlyWhole(QByteArray::fromHex(small), 1));
   }
 
   void pixels() {
