@@ -72,6 +72,7 @@ QFont drawnFont(const QFont& font) {
   if (drawn.weight() == QFont::Normal) drawn.setWeight(font.weight());
   drawn.setItalic(font.italic());
   drawn.setUnderline(font.underline());
+  drawn.setStrikeOut(font.strikeOut());
   if (font.pointSizeF() > 0) drawn.setPointSizeF(std::min(font.pointSizeF(), LargestPoints));
   if (font.pixelSize() > 0) drawn.setPixelSize(font.pixelSize());
   return drawn;
