@@ -50,6 +50,7 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
     }
     const ButtonPlace& place = model().placeOf(number());
     const QWidget* const surface = place.InChevron ? source_.popupWindow() : bar_.data();
+    if (surface == nullptr) return {};
     const int width = of->ButtonType == 0 ? values.ButtonsWidth : values.ButtonsSeperatorWidth;
     return {surface->mapToGlobal(QPoint(place.PosX, place.PosY)), QSize(width, values.ButtonsHeight)};
   }
@@ -64,8 +65,9 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
     state.invalid = !isValid();
     state.disabled = of != nullptr && !of->Enabled;
     state.pressed = of != nullptr && of->Pressed;
-    state.invisible = of != nullptr && model().placeOf(number()).InChevron && !source_.popupWindow()->isVisible();
-    state.focusable = !state.disabled;
+    const QWidget* const popup = source_.popupWindow();
+    state.invisible = of != nullptr && model().placeOf(number()).InChevron && (popup == nullptr || !popup->isVisible());
+    state.focusable = canBePressed();
     state.focused = bar_ && bar_->hasFocus() && model().Button_Index() == number();
     return state;
   }
@@ -74,10 +76,10 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
     return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
   }
   QStringList actionNames() const override {
-    return isValid() && !state().disabled ? QStringList{pressAction()} : QStringList();
+    return isValid() && canBePressed() ? QStringList{pressAction()} : QStringList();
   }
   void doAction(const QString& name) override {
-    if (name == pressAction() && isValid() && !state().disabled) source_.press(number());
+    if (name == pressAction() && isValid() && canBePressed()) source_.press(number());
   }
   QStringList keyBindingsForAction(const QString& /*name*/) const override { return {}; }
 
@@ -86,6 +88,11 @@ class AccessibleButton : public QAccessibleInterface, public QAccessibleActionIn
   bool isChevron() const { return place_ == model().Button_Count() && hasChevron(source_.inner()); }
   const ToolbarButton* button() const {
     return bar_ && place_ < model().Button_Count() ? &model().Button(place_ + 1) : nullptr;
+  }
+  /// The chevron can, and what is no separator.
+  bool canBePressed() const {
+    const ToolbarButton* const of = button();
+    return of == nullptr || (of->Enabled && of->ButtonType == 0);
   }
   int number() const { return isChevron() ? 0 : place_ + 1; }
 

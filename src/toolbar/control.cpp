@@ -271,6 +271,7 @@ void Control::leaveByKey() {
 
 void Control::pointByKey(int index) {
   byKey_ = true;
+  buttonHeld_ = false;  // else a chevron that the mouse has pressed would open its popup again
   if (!windows_.isPopupVisible()) picDraw_ = SurfaceName::Main;
   pointAt(index);
 }
@@ -278,6 +279,7 @@ void Control::pointByKey(int index) {
 void Control::pressByKey() {
   if (!windows_.isPopupVisible()) picDraw_ = SurfaceName::Main;
   if (model_.Button_Index() > 0) {
+    if (!model_.Button(model_.Button_Index()).Enabled) return;
     picDraw_Click(picDraw_);
     return;
   }
