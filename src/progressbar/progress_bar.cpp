@@ -40,7 +40,7 @@ void ProgressBar::SetMax(int value) {
   if (value <= state_.min) value = state_.min + 1;
   state_.max = value;
   if (state_.Value > value) SetValue(value);
-  write(&Properties::max, value);
+  written(&Properties::max);
 }
 
 void ProgressBar::SetMin(int value) {
@@ -48,7 +48,7 @@ void ProgressBar::SetMin(int value) {
   value = std::max(value, 0);
   state_.min = value;
   if (state_.Value < value) SetValue(value);
-  write(&Properties::min, value);
+  written(&Properties::min);
 }
 
 void ProgressBar::set(int Properties::*property, int value) {
