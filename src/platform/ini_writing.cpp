@@ -108,6 +108,9 @@ QByteArray setIniLines(const QByteArray& file, const std::vector<IniSetting>& se
     if (!bySection.contains(name)) order.push_back(name);
     bySection[name].push_back(&each);
   }
+  // A key at the end of the file's last section comes before a new section.
+  std::stable_partition(order.begin(), order.end(),
+                        [&](const IniName& name) { return !sections.lines(name.letters).isNull(); });
   std::vector<Change> changes;
   for (const IniName& name : order) {
     const QByteArrayView lines = sections.lines(name.letters);

@@ -107,8 +107,9 @@ class IniStringsTest : public QObject {
                                                          {"S", "a=b", "a=b"},
                                                          {"new", "b", "b=2"},
                                                          {"S", "o", "o=4"},
-                                                         {"Other", "c", "c=3"}}),
-             QByteArray("[S]\rK =2\rn=3\ro=4\r;c\r[T]\rm=\r[U]\rj=1\rk=5\r[New]\ra=1\rb=2\r[Other]\rc=3\r"));
+                                                         {"Other", "c", "c=3"},
+                                                         {"U", "l", "l=6"}}),
+             QByteArray("[S]\rK =2\rn=3\ro=4\r;c\r[T]\rm=\r[U]\rj=1\rk=5\rl=6\r[New]\ra=1\rb=2\r[Other]\rc=3\r"));
     QCOMPARE(iniSectionNames(file), std::vector<QByteArrayView>({"a", "b", "\xE4nd \xFFmany More\xB5", ""}));
   }
 
