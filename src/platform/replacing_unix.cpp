@@ -74,10 +74,14 @@ FileResult<> lock(const FileHandle& file, const QByteArray& name) {
 /// Removes a temporary file that a killed program left, or a link at its name. Gives EAGAIN if it makes sense to try
 /// the name again. On a file system without locks the file stays, since another program may be writing it.
 FileError clearAway(const QByteArray& name) {
-  const FileHandle file(::open(name.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  constexpr int Flags = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+  FileHandle file(::open(name.constData(), O_RDWR | Flags));  // some file systems lock only what can be written
+  if (!file.isOpen()) file = FileHandle(::open(name.constData(), O_RDONLY | Flags));
   auto cleared = file.isOpen() ? lock(file, name) : systemError();
   if (cleared || cleared.error().number == ELOOP) cleared = called(::unlink(name.constData()));
   if (cleared || cleared.error().number == ENOENT) return systemError(EAGAIN);
+  // Another user's may be in use, too.
+  if (cleared.error().number == EACCES) return {cleared.error().description, false, EEXIST};
   return lacksLocks(cleared.error().number) ? systemError(EEXIST) : cleared.error();
 }
 
@@ -145,7 +149,10 @@ FileResult<> Turn::replace(QByteArrayView bytes, const OpenFile* like) {
   if (done) done = flush(lock_);
   // The file is renamed while it is open, so that it stays locked. Closing can't fail to write: all is flushed.
   if (done) done = called(::rename(encodedName(temporary_).constData(), encodedName(target_).constData()));
-  if (done) temporary_.clear();
+  if (!done) return done;
+  temporary_.clear();
+  // There are servers that let nobody read a locked file, this program included.
+  lock_ = FileHandle();
   return done;
 }
 
