@@ -8,7 +8,6 @@
 #include "editing/theme_colours.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
-#include "platform/files.h"
 #include "platform/ini_reading.h"
 #include "platform/numbers.h"
 #include "renderer/object_passes.h"
@@ -46,6 +45,15 @@ void put(const Session& session, QString ThemePaths::*copy, const QString& secti
   themefiles::putInCopy(session.state(), copy, section, key, value, session.status());
 }
 
+/// The value before an edit; none if there is none, or if it can't be read.
+std::optional<QString> presentValue(const Session& session, QString ThemePaths::*copy, const QString& section,
+                                    const QString& key) {
+  std::optional<QString> value;
+  platform::guardedSilently(
+      [&] { value = themefiles::wholeValue(themefiles::presentText(session.state(), copy), section, key); });
+  return value;
+}
+
 /// A row that is edited: the section and the key that it stands for.
 struct Target {
   QString section;
@@ -59,13 +67,9 @@ void writeReference(const Session& session, const Target& target, ReferenceKind 
                     QStringList& told) {
   const QString& name = *proposal.value;
   const ReferenceFile file = fileOf(kind);
-  const themefiles::ThemePaths& paths = session.state().paths;
   themefiles::checkLineText(proposal.content);
-  const bool renamed = themefiles::GetINI(target.section, target.key, QString(), paths.ThemeFile) != name;
-  QString content;
-  const bool read =
-      platform::guardedSilently([&] { content = themefiles::wholeValue(file.section, name, paths.*file.copy); });
-  const bool refilled = !read || content != proposal.content;
+  const bool renamed = presentValue(session, &ThemePaths::ThemeFile, target.section, target.key) != name;
+  const bool refilled = presentValue(session, file.copy, file.section, name) != proposal.content;
   put(session, &ThemePaths::ThemeFile, target.section, target.key, name);
   put(session, file.copy, file.section, name, proposal.content);
   if (!refilled) return;
@@ -98,10 +102,6 @@ void finish(Session& session, const QStringList& sections, const QString& told) 
   Q_EMIT session.drawWanted();
   // If another object was picked during the drawing, it has its mark already.
   if (sections.contains(session.section())) Q_EMIT session.markWanted(MarkReason::Committed);
-}
-
-QString valueIn(const SavedLine& saved) {
-  return platform::trimBlanks(platform::fromAnsi(saved.line).section(u'=', 1));
 }
 
 KeyPlace placeOf(const SavedLine& saved) {
@@ -138,18 +138,28 @@ bool runInRow(Session& session, const EditedRow& row,
   });
 }
 
+/// Whether a value of that group stands for what the line has.
+bool refersTo(std::optional<themefiles::KeyGroup> group, const QString& value, const SavedLine& line) {
+  if (!platform::sameName(value, line.key)) return false;
+  if (group == themefiles::KeyGroup::Color) return isColor(placeOf(line));
+  const auto kind = group ? referenceOf(themefiles::rowOf(*group).frame) : std::nullopt;
+  return kind && fileOf(*kind).copy == line.copy;
+}
+
 /// What the chosen object's references and colours stand for has been put back: an open editor of one shows it.
-void showContents(Session& session) {
-  const auto file = platform::readIfThere(session.state().paths.ThemeFile).value_or(QByteArray());
+void showContents(Session& session, const std::vector<SavedLine>& written) {
+  QByteArray file;
+  platform::guardedSilently([&] { file = themefiles::presentText(session.state(), &ThemePaths::ThemeFile); });
   const auto section = platform::toAnsi(session.section()).value_or(QByteArray());
-  for (const platform::IniLine& line :
-       platform::iniLines(platform::findIniSection(file, section).value_or(QByteArrayView()))) {
+  const auto lines = platform::iniLines(platform::findIniSection(file, section).value_or(QByteArrayView()));
+  for (const platform::IniLine& line : lines) {
+    if (platform::lineOf(lines, line.key) != &line) continue;  // the first of a key counts
     const QString key = themefiles::keyIdentity(platform::fromAnsi(line.key));
-    const auto group = themefiles::groupOf(key);
-    if (group == themefiles::KeyGroup::Color || group == themefiles::KeyGroup::Texture ||
-        group == themefiles::KeyGroup::Text) {
-      Q_EMIT session.valueWritten(-1, key, platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1)));
-    }
+    const QString value = platform::fromAnsi(platform::unquoted(line.value));
+    const bool shows = std::any_of(written.begin(), written.end(), [&](const SavedLine& each) {
+      return refersTo(themefiles::groupOf(key), value, each);
+    });
+    if (shows) Q_EMIT session.valueWritten(-1, key, themefiles::rowValue(line.line));
   }
 }
 
@@ -173,11 +183,11 @@ void followPutBack(Session& session, const std::vector<SavedLine>& written) {
   } else {
     for (const SavedLine& line : written) {
       if (line.copy != &ThemePaths::ThemeFile || !platform::sameName(line.section, session.section())) continue;
-      show(session, -1, themefiles::keyIdentity(line.key), valueIn(line));
+      show(session, -1, themefiles::keyIdentity(line.key), themefiles::rowValue(line.line));
     }
   }
   if (!isReadAnew && (!colors.isEmpty() || written.size() > static_cast<size_t>(sections.size())))
-    showContents(session);
+    showContents(session, written);
   const QString told = QStringLiteral("Put back: ") + countOf(static_cast<int>(written.size()));
   if (static_cast<qsizetype>(written.size()) > colors.size()) {
     const bool isChosen = std::any_of(sections.begin(), sections.end(), [&](const QString& section) {
@@ -219,7 +229,8 @@ bool putSavedBack(Session& session, const EditedRow& row, const SavedValue& save
     putLinesBack(session.state(), saved.lines, session.status());
     for (const SavedLine& line : saved.lines) {
       const bool isReferred = line.copy != &ThemePaths::ThemeFile;
-      told += isReferred ? contentAssignment(line.copy, line.key, valueIn(line)) : assignment(target.name, saved.value);
+      const QString content = platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1));
+      told += isReferred ? contentAssignment(line.copy, line.key, content) : assignment(target.name, saved.value);
     }
     return std::optional(saved.value);
   });

@@ -8,11 +8,12 @@
 namespace editing {
 
 bool writeAtOnce(Session& session, QStringView step, const std::function<void()>& write) {
-  Q_EMIT session.differencesDue();
-  return platform::guarded(session.status(), step.toString(), [&] {
+  const bool done = platform::guarded(session.status(), step.toString(), [&] {
     write();
     session.status().ShowStatus(KeptInCopy.toString());
   });
+  Q_EMIT session.differencesDue();
+  return done;
 }
 
 bool writeAtOnce(Session& session, QStringView step, QString themefiles::ThemePaths::*copy, const QString& section,

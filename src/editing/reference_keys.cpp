@@ -4,6 +4,7 @@
 #include "editing/reports.h"
 #include "platform/failure.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/working_copies.h"
 
 namespace editing {
 namespace {
@@ -13,6 +14,12 @@ using themefiles::ThemePaths;
 bool write(Session& session, ReferenceKind kind, const QString& key, const std::optional<QString>& value) {
   const ReferenceFile file = fileOf(kind);
   return writeAtOnce(session, WriteStep, file.copy, file.section, key, value);
+}
+
+/// What the key stands for in the text that an edit would start from.
+std::optional<QString> valueOf(const Session& session, ReferenceKind kind, const QString& key) {
+  const ReferenceFile file = fileOf(kind);
+  return themefiles::wholeValue(themefiles::presentText(session.state(), file.copy), file.section, key);
 }
 
 }  // namespace
@@ -34,21 +41,18 @@ QStringList referenceKeys(const themefiles::ModuleState& state, ReferenceKind ki
 }
 
 std::optional<QString> referenceContent(const Session& session, ReferenceKind kind, const QString& key) {
-  const ReferenceFile file = fileOf(kind);
   QString content;
   const bool read = platform::guarded(session.status(), ReadStep.toString(), [&] {
-    content = themefiles::wholeValue(file.section, key, session.state().paths.*file.copy);
+    content = valueOf(session, kind, key).value_or(QString());
     if (content.size() > LongestValue) throw platform::Failure(tooLongText(key));
   });
   return read ? std::optional(content) : std::nullopt;
 }
 
 KeyAdding addReferenceKey(Session& session, ReferenceKind kind, const QString& key) {
-  const ReferenceFile file = fileOf(kind);
   bool exists = false;
-  const bool read = platform::guarded(session.status(), WriteStep.toString(), [&] {
-    exists = themefiles::holdsKey(file.section, key, session.state().paths.*file.copy);
-  });
+  const bool read = platform::guarded(session.status(), WriteStep.toString(),
+                                      [&] { exists = valueOf(session, kind, key).has_value(); });
   if (read && exists) return KeyAdding::Exists;
   return read && write(session, kind, key, QString()) ? KeyAdding::Done : KeyAdding::Failed;
 }

@@ -1,6 +1,5 @@
 #include "editing/saved_files.h"
 
-#include "platform/files.h"
 #include "themefiles/working_copies.h"
 
 namespace editing {
@@ -8,18 +7,11 @@ namespace {
 
 using themefiles::ThemePaths;
 
-/// The text that the next edit would change.
-platform::IniText presentText(const themefiles::ModuleState& state, QString ThemePaths::*copy) {
-  const auto present = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
-  return platform::IniText(present && !present->isEmpty() ? *present
-                                                          : state.ownCopies.at(themefiles::copyNumber(copy)));
-}
-
 }  // namespace
 
 ComparedFile::ComparedFile(const themefiles::ModuleState& state, QString ThemePaths::*of)
     : copy(of),
-      now(presentText(state, of)),
+      now(platform::IniText(themefiles::presentText(state, of))),
       saved(platform::IniText(state.savedCopies.at(themefiles::copyNumber(of)))) {}
 
 ComparedFiles::ComparedFiles(const themefiles::ModuleState& state)

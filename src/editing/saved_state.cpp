@@ -4,6 +4,7 @@
 
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "themefiles/tag_reader.h"
 #include "themefiles/working_copies.h"
 
 namespace editing {
@@ -19,10 +20,6 @@ IniKeys keysOf(const platform::IniSections& sections, const QString& section) {
 
 QByteArray nameIn(const IniLine& reference) {
   return platform::unquoted(reference.value).toByteArray();
-}
-
-QString shownValue(const IniLine& line) {
-  return platform::trimBlanks(platform::fromAnsi(line.line).section(u'=', 1, 1));
 }
 
 }  // namespace
@@ -101,7 +98,8 @@ std::optional<SavedValue> SavedObject::of(const QString& key, std::optional<them
   const bool valueDiffers = differ(now, saved);
   if (!valueDiffers && !SavedState::differsIn(target, *now)) return std::nullopt;
   if (saved == nullptr) return SavedValue{{}, QStringLiteral("nothing"), {}};
-  SavedValue result{shownValue(*saved), shownValue(*saved), {}};
+  const QString value = themefiles::rowValue(saved->line);
+  SavedValue result{value, value, {}};
   if (valueDiffers) result.lines.push_back({&ThemePaths::ThemeFile, section_, key, saved->line.toByteArray()});
   if (SavedState::differsIn(target, *saved)) SavedState::addTarget(result, *target, *saved);
   return result;
@@ -121,7 +119,7 @@ std::optional<SavedValue> SavedObject::colorOf(const QString& key, std::optional
   const QString shown = platform::fromAnsi(name);
   const IniLine* saved = platform::lineOf(files_.colors_.saved, name);
   if (saved == nullptr) return SavedValue{{}, QStringLiteral("colour '%1' is new").arg(shown), {}};
-  const QString value = shownValue(*saved);
+  const QString value = themefiles::rowValue(saved->line);
   return SavedValue{value,
                     QStringLiteral("colour '%1' saved: %2").arg(shown, value),
                     {{&ThemePaths::ThemeFile, QStringLiteral("Colors"), shown, saved->line.toByteArray()}}};

@@ -7,6 +7,7 @@
 #include "platform/code_page.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/working_copies.h"
 
 namespace editing {
 namespace {
@@ -122,8 +123,10 @@ std::optional<QString> addColor(Session& session, const QString& name) {
   }
   // The file may have a colour of the name that the table had no room for, or that another program has added.
   QString replaced;
-  const bool read = platform::guarded(
-      status, AddStep.toString(), [&] { replaced = themefiles::wholeValue(section(), name, state.paths.ThemeFile); });
+  const bool read = platform::guarded(status, AddStep.toString(), [&] {
+    const QByteArray theme = themefiles::presentText(state, &themefiles::ThemePaths::ThemeFile);
+    replaced = themefiles::wholeValue(theme, section(), name).value_or(QString());
+  });
   const platform::ReportScope scope(status);
   if (!read || !write(session, AddStep, name, newColor())) return std::nullopt;
   if (row->Name.isEmpty()) row->Name = name;

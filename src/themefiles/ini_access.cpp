@@ -158,15 +158,9 @@ QByteArray changedLine(const QByteArray& text, const QString& section, const QSt
   return changed;
 }
 
-QString wholeValue(const QString& section, const QString& key, const QString& fileName) {
-  const auto file = platform::readIfThere(fileName);
-  const auto value = file ? platform::findIniValue(*file, lineBytes(section), lineBytes(key)) : std::nullopt;
-  return platform::fromAnsi(value.value_or(QByteArray()));
-}
-
-bool holdsKey(const QString& Section, const QString& Key, const QString& FileName) {
-  const auto file = platform::readIfThere(FileName);
-  return file && platform::findIniValue(*file, lineBytes(Section), lineBytes(Key));
+std::optional<QString> wholeValue(const QByteArray& text, const QString& section, const QString& key) {
+  const auto value = platform::findIniValue(text, lineBytes(section), lineBytes(key));
+  return value ? std::optional(platform::fromAnsi(*value)) : std::nullopt;
 }
 
 void checkLineText(const QString& text) {

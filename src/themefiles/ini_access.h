@@ -59,12 +59,9 @@ QByteArray changedText(const QByteArray& text, const QString& Section, const QSt
 /// Throws platform::Failure unless the file now has the same value for the key as the text `written`.
 void checkReadsBack(const QByteArray& written, const QString& Section, const QString& Key, const QString& FileName);
 
-/// The value of a key at any length; empty without the key. Unlike GetINI it throws platform::Failure if the file can't
-/// be read.
-QString wholeValue(const QString& section, const QString& key, const QString& fileName);
-
-/// Whether the file has the key. Throws platform::Failure if the file can't be read.
-bool holdsKey(const QString& Section, const QString& Key, const QString& FileName);
+/// The value of a key in a file's text, at any length; none without the key. Throws platform::Failure for names that an
+/// ini file can't hold.
+std::optional<QString> wholeValue(const QByteArray& text, const QString& section, const QString& key);
 
 /// Like changedText, but replaces the key's whole line. `line` has the key and the "=", but no line end.
 QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line);

@@ -71,6 +71,10 @@ std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platfo
   return rows;
 }
 
+QString rowValue(QByteArrayView line) {
+  return rowOf(platform::fromAnsi(line).split(u'=')).Value;
+}
+
 QHash<QString, std::vector<ValueRow>> allTags(const platform::IniText& theme) {
   QHash<QString, std::vector<ValueRow>> tags;
   std::vector<ValueRow>* rows = nullptr;

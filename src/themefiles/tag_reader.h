@@ -22,6 +22,9 @@ struct ValueRow {
 /// stays. Reports a file that can't be read, and a SIZE or FONT that is out of range; such a field stays as it was.
 std::vector<ValueRow> ReadTag(ModuleState& state, const QString& Section, platform::StatusLine& status);
 
+/// The value that a key line of a theme gives its row: what stands between its first two "=".
+QString rowValue(QByteArrayView line);
+
 /// The rows of all sections of a theme, by the section's name in upper case.
 QHash<QString, std::vector<ValueRow>> allTags(const platform::IniText& theme);
 

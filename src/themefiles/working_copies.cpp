@@ -65,16 +65,10 @@ MadeCopy makeCopy(const QString& file, QStringList& notes) {
   return {copy, bytes, older};
 }
 
-/// Writes a working copy that is missing or empty. Nobody may read it who may not read the game's file.
-void makeAnew(platform::FileTurn& turn, const QString& copy, const QByteArray& text) {
-  const auto original = platform::openIfThere(gameFileOf(copy));
-  turn.replace(text, original ? &*original : nullptr);
-}
-
 /// The text that an edit or a Save starts from.
 struct Start {
   QByteArray text;
-  bool isThere = true;  ///< the working copy has this text
+  QString lost = {};  ///< why the working copy, which doesn't have this text, is made anew; else empty
 };
 
 /// Reads a working copy, in the turn at it. If another program has changed it, what this program wrote last is kept:
@@ -83,21 +77,25 @@ struct Start {
 Start startFrom(const platform::FileTurn& turn, const ModuleState& state, size_t file, QStringList& notes) {
   const QString& copy = state.paths.*CopiedFiles.at(file);
   const auto& present = turn.text();
-  if (!state.ThemeOpened) return {present.value_or(QByteArray()), present.has_value()};
+  if (!state.ThemeOpened) return {present.value_or(QByteArray())};
   const QByteArray& own = state.ownCopies.at(file);
   // Another program that rewrites the file may have emptied it for a moment.
   const bool emptied = present && present->isEmpty() && !own.isEmpty();
-  if (!present || emptied) {
-    const QString note =
-        emptied ? QStringLiteral("%1 was empty and is made anew") : QStringLiteral("%1 was gone and is made anew");
-    notes += note.arg(copy);
-    return {own, false};
-  }
+  if (!present) return {own, QStringLiteral("%1 was gone and is made anew").arg(copy)};
+  if (emptied) return {own, QStringLiteral("%1 was empty and is made anew").arg(copy)};
   if (present != own && !own.isEmpty()) {
     notes += QStringLiteral("%1 was changed by another program; what this one wrote is kept as %2")
                  .arg(copy, keepBeside(copy, own, u".old", *turn.present()));
   }
   return {*present};
+}
+
+/// Writes a working copy that is missing or empty. Nobody may read it who may not read the game's file.
+void makeAnew(platform::FileTurn& turn, const QString& lost, const QString& copy, const QByteArray& text,
+              QStringList& notes) {
+  const auto original = platform::openIfThere(gameFileOf(copy));
+  turn.replace(text, original ? &*original : nullptr);
+  notes += lost;
 }
 
 /// Whether a file has that text; false if it can't be read.
@@ -117,7 +115,7 @@ void editCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLin
     const Start start = startFrom(turn, state, file, notes);
     const QByteArray changed = change(start.text);
     // A value that stands there already is written again.
-    start.isThere ? turn.replace(changed) : makeAnew(turn, path, changed);
+    start.lost.isEmpty() ? turn.replace(changed) : makeAnew(turn, start.lost, path, changed, notes);
     state.ownCopies.at(file) = changed;
     if (edited.size() > 1 && holdsText(path, changed)) return;
     for (const KeyValue& each : edited) checkReadsBack(changed, each.section, each.key, path);
@@ -136,12 +134,16 @@ void saveCopy(const QString& file, const QByteArray& bytes, const QByteArray& kn
   turn.replace(bytes, present ? nullptr : copy);
 }
 
-/// Gives the working copies their former texts, except those that another program has changed since.
-void putBack(const std::vector<MadeCopy>& copies) {
+/// Gives the working copies their former texts, except those that another program has changed since. One that fails is
+/// told and holds up no other.
+void putBack(const std::vector<MadeCopy>& copies, QStringList& notes) {
   for (const MadeCopy& copy : copies) {
     if (!copy.older || copy.older == copy.text) continue;
-    auto turn = turnAtCopy(copy.path);
-    if (turn.text() == copy.text) turn.replace(*copy.older);
+    const auto failure = platform::failureIn([&] {
+      auto turn = turnAtCopy(copy.path);
+      if (turn.text() == copy.text) turn.replace(*copy.older);
+    });
+    if (failure) notes += *failure;
   }
 }
 
@@ -152,8 +154,8 @@ void MakeWorkingCopies(ModuleState& state, const ThemePaths& chosen, platform::S
   withNotes(status, [&](QStringList& notes) {
     try {
       for (const auto file : CopiedFiles) copies.push_back(makeCopy(chosen.*file, notes));
-    } catch (const platform::Failure&) {
-      if (state.ThemeOpened) putBack(copies);
+    } catch (...) {
+      if (state.ThemeOpened) putBack(copies, notes);
       throw;
     }
   });
@@ -193,6 +195,11 @@ void putLinesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::ve
   editCopy(state, copy, status, edited, [&](const QByteArray& text) { return changedLines(text, lines); });
 }
 
+QByteArray presentText(const ModuleState& state, QString ThemePaths::*copy) {
+  const auto present = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
+  return present && !present->isEmpty() ? *present : state.ownCopies.at(copyNumber(copy));
+}
+
 void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status) {
   const auto present = platform::readIfThere(state.paths.*copy, platform::AtLink::Replace);
   if (present && (!present->isEmpty() || state.ownCopies.at(copyNumber(copy)).isEmpty())) return;
@@ -205,7 +212,7 @@ void saveWorkingCopies(ModuleState& state, platform::StatusLine& status) {
       const QString& copy = state.paths.*CopiedFiles.at(i);
       auto turn = turnAtCopy(copy);
       const Start start = startFrom(turn, state, i, notes);
-      if (!start.isThere) makeAnew(turn, copy, start.text);
+      if (!start.lost.isEmpty()) makeAnew(turn, start.lost, copy, start.text, notes);
       saveCopy(gameFileOf(copy), start.text, state.fileDigests.at(i), turn.present(), notes);
       state.ownCopies.at(i) = start.text;
       state.fileDigests.at(i) = digest(start.text);

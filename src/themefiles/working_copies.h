@@ -43,6 +43,10 @@ void putValuesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::v
 void putLinesInCopy(ModuleState& state, QString ThemePaths::*copy, const std::vector<KeyedLine>& lines,
                     platform::StatusLine& status);
 
+/// The text of a working copy that the next edit starts from: where the file is missing or empty, what this program
+/// wrote last. Throws platform::Failure if the file can't be read.
+QByteArray presentText(const ModuleState& state, QString ThemePaths::*copy);
+
 /// Makes a working copy of the open theme anew if it is missing or empty, as an edit would, with a note to `status`.
 void restoreCopy(ModuleState& state, QString ThemePaths::*copy, platform::StatusLine& status);
 

@@ -145,11 +145,13 @@ void ReferenceFrame::removeKey() {
 /// Proposes another image for the texture key; it must lie in the skin's own folder.
 void ReferenceFrame::Command4_Click() {
   const QString& skinFolder = services.session.state().paths.SkinDirectory;
+  // Any other name would lead the dialog into another folder.
+  const bool isInFolder = !box_->Text().contains(u'/') && !box_->Text().contains(u'\\');
   const QString path = services.dialogs.openFile(
       window(),
       {.title = QStringLiteral("Change Filename"),
        .filter = QStringLiteral("All supported image files (*.bmp,*.gif,*.jpg,*.png)|*.bmp;*.gif;*.jpg;*.png"),
-       .fileName = box_->Text(),
+       .fileName = isInFolder ? box_->Text() : QString(),
        .folder = skinFolder,
        .pictures = true});
   if (path.isEmpty()) return;

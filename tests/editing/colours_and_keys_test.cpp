@@ -47,6 +47,9 @@ class ColoursAndKeysTest : public QObject {
     theme.putCopy("theme", theme.copy("theme") + "Green=1 2 3|");
     QCOMPARE(editing::addColor(session, u"green"_s), u"green"_s);
     QVERIFY(theme.report().contains(u"green was 1 2 3 and is a new colour now"));
+    theme.putCopy("theme", {});
+    QCOMPARE(editing::addColor(session, u"red"_s), u"red"_s);
+    QVERIFY(theme.report().contains(u"red was 1 1 1 and is a new colour now"));
     const auto saved = editing::savedColor(theme.state, u"Blue"_s);
     QVERIFY(saved && editing::putSavedColorBack(session, u"Blue"_s, *saved) && *value("Blue") == u"0 0 9");
     theme.told();
@@ -82,6 +85,10 @@ class ColoursAndKeysTest : public QObject {
       QVERIFY(editing::removeReferenceKey(theme.session, kind, key));
       QCOMPARE(theme.copy(file), section + QByteArray("New=|"));
       QVERIFY(theme.report() == Kept && !theme.state.Changed);
+      // What the next edit makes anew counts where the copy is empty.
+      theme.putCopy(file, {});
+      QCOMPARE(editing::referenceContent(theme.session, kind, u"New"_s), QString());
+      QVERIFY(editing::addReferenceKey(theme.session, kind, u"new"_s) == KeyAdding::Exists);
       theme.putCopy(file, section + QByteArray("Long=") + QByteArray(32001, 'w') + '|');
       QVERIFY(!editing::referenceContent(theme.session, kind, u"Long"_s));
       QCOMPARE(theme.report(), u"Error while reading Value [Long is too long to be edited here]"_s);

@@ -96,6 +96,17 @@ class DifferencesTest : public QObject {
     QVERIFY(!theme.state.Changed);
     QCOMPARE(themefiles::ResolveColor(theme.state, u"Red"_s, {}), u"200 0 0"_s);
     QCOMPARE(themefiles::ResolveColor(theme.state, u"Blue"_s, {}), u"0 0 200"_s);
+    // Only rows that name one of these show it again: the first of a key, up to a second "=".
+    OpenTheme other("[Colors]|Red=1 1 1|[Main]|[MainStaticA]|Color=Red|Tex=a=b|Color=Blue|", "Plate=a.png|");
+    other.putCopy("theme", other.copy("theme").replace("1 1 1", "2 2 2"));
+    other.screen(u"Main Screen"_s);
+    other.session.pickObject(1);
+    other.told();
+    QVERIFY(editing::putBack(other.session, places(other)));
+    QCOMPARE(other.told(), u"colours, -1 COLOR=Red"_s);
+    other.putCopy("theme", other.copy("theme").replace("Tex=a=b", "Tex=c"));
+    QVERIFY(editing::putBack(other.session, places(other)));
+    QCOMPARE(other.told(), u"-1 TEX=a, Save, draws, mark again"_s);
   }
 
   /// A file that can't be written: those before it are, and the report tells both.
