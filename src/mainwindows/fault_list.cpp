@@ -1,5 +1,6 @@
 #include "mainwindows/fault_list.h"
 
+#include "editing/differences.h"
 #include "editing/goals.h"
 #include "editing/reports.h"
 #include "editing/session.h"
@@ -54,7 +55,10 @@ class FaultSource : public toolwindow::ListSource {
     const ThemeReview::Item& item = review_.items().at(static_cast<size_t>(number));
     std::optional<themefiles::Hit> goal;
     platform::guarded(session_.status(), editing::FindStep.toString(), [&] {
-      if (item.place.section.isEmpty()) throw platform::Failure(QStringLiteral("that is about no object"));
+      const editing::KeyPlace& place = item.place;
+      const bool isOfObject = place.copy == &themefiles::ThemePaths::ThemeFile && !editing::isColor(place);
+      if (place.section.isEmpty() || (place.key.isEmpty() && !isOfObject))
+        throw platform::Failure(QStringLiteral("that is about no object"));
       goal = editing::goalOf(session_.state(), session_.screen(), item.place);
       review_.setPresent(number);
     });

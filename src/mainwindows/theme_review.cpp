@@ -153,7 +153,7 @@ ThemeReview::Item ThemeReview::itemOf(const Finding& finding) const {
   where.removeAll(QString());
   const QString settings = finding.where.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(finding.where);
   item.told = themecheck::nameOf(finding.level) + QStringLiteral(": ") + where.join(QStringLiteral(", ")) +
-              QStringLiteral(": ") + finding.text + settings;
+              QStringLiteral(": ") + finding.text + themecheck::furtherSections(finding) + settings;
   item.searchable = toolwindow::searchable(item.told, place.key);
   item.leadsThere = !screen.isEmpty() || (!place.key.isEmpty() && (!isOfTheme || editing::isColor(item.place)));
   return item;
@@ -180,8 +180,10 @@ void ThemeReview::goToNext() {
     if (!goal) continue;
     present_ = next;
     const QString told = QStringLiteral("%1 of %2: %3").arg(next + 1).arg(count).arg(item.told);
+    // What choosing reports stands first: a value that wasn't taken over, a mark that can't be placed.
+    const platform::ReportScope scope(session_.status());
     Q_EMIT goalChosen(*goal);
-    return session_.status().ShowStatus(told);
+    return session_.status().note(told);
   }
   session_.status().ShowStatus(QStringLiteral("Nothing to go to: the check has found %1").arg(count));
 }

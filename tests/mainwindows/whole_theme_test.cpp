@@ -1,5 +1,6 @@
 #include <QListWidget>
 
+#include "editing/theme_colours.h"
 #include "mainwindows/side_by_side.h"
 #include "support/real_input.h"
 #include "toolwindow/list_window.h"
@@ -58,6 +59,9 @@ class WholeThemeTest : public ProgramTest {
     window.Line->SetText({});
     QTRY_COMPARE_WITH_TIMEOUT(rowsWith(window, u"no area"_s), QStringList(), 20000);
     QVERIFY(window.List->ListCount() > 0);
+    // That of a colour, too, which is written at once.
+    QVERIFY(editing::changeColor(program->form.session(), u"Red"_s, u"1"_s));
+    QTRY_VERIFY_WITH_TIMEOUT(!rowsWith(window, u"Colors, Red"_s).isEmpty(), 20000);
     QCOMPARE(place(), u"Loading Screen/LoadingStaticA/W"_s);  // only a key goes on
     window.hide();
     program->screen(u"Main Screen"_s);
@@ -71,6 +75,14 @@ class WholeThemeTest : public ProgramTest {
     key(window, Qt::Key_Return);
     key(program->form, Qt::Key_F8);
     QCOMPARE(program->status(), next);
+    // What it drops stands first.
+    program->screen(u"Loading Screen"_s);
+    program->tag(u"LoadingStaticA"_s);
+    program->row(u"X"_s);
+    QTest::keyClicks(Editors(program->tools()).Text1, u"5"_s);
+    key(program->form, Qt::Key_F8);
+    QVERIFY2(program->status().startsWith(u"not taken over: X = "), qPrintable(program->status()));
+    QVERIFY2(program->status().contains(u" of %1: "_s.arg(faults().List->ListCount())), qPrintable(program->status()));
   }
 
   /// The first F8 waits for the check. Close and another Open end it, wherever it is.
