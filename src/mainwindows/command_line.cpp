@@ -44,11 +44,13 @@ CommandLine parseCommandLine(const QStringList& words) {
   QCommandLineParser parser;
   addOptions(parser);
   if (!parser.parse(words)) throw platform::Failure(parser.errorText());
-  QStringList names = parser.positionalArguments();
-  if (parser.isSet(Sample)) names += ownSampleGame();
-  if (names.isEmpty()) return {};
-  if (names.size() > 1) throw platform::Failure(QStringLiteral("more than one game folder is named"));
-  const QString& folder = names.constFirst();
+  const QStringList names = parser.positionalArguments();
+  const bool takesSample = parser.isSet(Sample);
+  if (names.isEmpty() && !takesSample) return {};
+  if (names.size() + (takesSample ? 1 : 0) > 1) {
+    throw platform::Failure(QStringLiteral("more than one game folder is named"));
+  }
+  const QString folder = takesSample ? ownSampleGame() : names.constFirst();
   if (folder.isEmpty() || !QDir(folder).exists()) throw platform::Failure(QStringLiteral("no folder '%1'").arg(folder));
   return {platform::programPath(QDir(folder).absolutePath()) + u'\\'};
 }

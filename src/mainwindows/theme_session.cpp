@@ -136,9 +136,14 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
     const GameFolder gameFolder = folderOf(form);
     if (gameFolder.path.isEmpty()) return;
     const QStringList themes = themefiles::themesOf(gameFolder.path);
+    const auto noteProblem = [&] {
+      if (!gameFolder.problem.isEmpty()) form.note(gameFolder.problem);
+    };
     if (themes.isEmpty()) {
       form.services.dialogs.messageBox(&form, QStringLiteral("No Themes Found"), QStringLiteral("Error"),
                                        platform::BoxKind::Error);
+      const platform::ReportScope ending(form);
+      noteProblem();
       form.ShowStatus(QStringLiteral("Ctrl+Shift+O asks for another game folder"));
       return;
     }
@@ -158,7 +163,8 @@ void openFrom(Form1& form, GameFolder (*folderOf)(Form1& form)) {
     form.enableCommand(Command::BackgroundColor, true);
     form.schemes().show();
     const QStringList opened{dialog.themes().Text(), dialog.skins().Text(), dialog.languages().Text()};
-    scope->success(gameFolder.problem.isEmpty() ? opened.join(QStringLiteral(", ")) : gameFolder.problem);
+    noteProblem();
+    scope->success(opened.join(QStringLiteral(", ")));
     noteUntaken(form, untaken);
   });
 }
