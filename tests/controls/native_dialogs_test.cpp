@@ -1,10 +1,8 @@
 #include "controls/native_dialogs.h"
 
 #include <QApplication>
-#include <QColorDialog>
 #include <QFileDialog>
 #include <QHeaderView>
-#include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -19,8 +17,6 @@
 #include "support/pictures.h"
 
 using controls::NativeDialogs;
-using platform::BoxAnswer;
-using platform::BoxKind;
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -48,19 +44,6 @@ class NativeDialogsTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void boxAnswers() {
-    const auto answer = [](Qt::Key key) {
-      whenShown<QMessageBox>([key](QMessageBox& box) {
-        QCOMPARE(box.textFormat(), Qt::PlainText);
-        if (key == Qt::Key_Y) return box.button(QMessageBox::Yes)->click();
-        QTest::keyClick(&box, key);
-      });
-      return NativeDialogs().messageBox(nullptr, u"text"_s, QString(), BoxKind::YesNoDefaultNo);
-    };
-    QCOMPARE(answer(Qt::Key_Return), BoxAnswer::No);
-    QCOMPARE(answer(Qt::Key_Y), BoxAnswer::Yes);
-  }
-
   void fileDialogOpensInItsFolder() {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     const support::Folder folder;
@@ -161,23 +144,6 @@ class NativeDialogsTest : public QObject {
     });
     QCOMPARE(NativeDialogs().openFile(nullptr, {{}, u"Pictures|*.png"_s, {}, folder.path({}), true}), QString());
     QCOMPARE(narrow.join(u","_s), QString());
-  }
-
-  void inputBoxGivesWhatWasTyped() {
-    whenShown<QInputDialog>([](QInputDialog& dialog) {
-      QTest::keyClicks(dialog.findChild<QLineEdit*>(), u"  A &b "_s);
-      QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    QCOMPARE(NativeDialogs().inputBox(nullptr, u"Name:"_s, u"Title"_s), u"  A &b "_s);
-  }
-
-  void colorOpensOnThePresentOne() {
-    const QColor present(150, 20, 3);
-    whenShown<QColorDialog>([present](QColorDialog& dialog) {
-      QCOMPARE(dialog.currentColor(), present);
-      dialog.reject();
-    });
-    QVERIFY(!NativeDialogs().chooseColor(nullptr, present));
   }
 };
 

@@ -41,13 +41,6 @@ class DrawingTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void roundedBox() {
-    Raster raster(QSize(12, 7), Ground);
-    raster.RoundRect(0, 0, 12, 7, 100, Edge, Inside);
-    QCOMPARE(letters(raster), (QByteArrayList{"....####....", ".###oooo###.", ".#oooooooo#.", "#oooooooooo#",
-                                              ".#oooooooo#.", ".###oooo###.", "....####...."}));
-  }
-
   void shortRamps() {
     const QRgb from = qRgb(10, 20, 30), to = qRgb(30, 40, 50);
     Raster raster(QSize(2, 2), Ground);
@@ -100,21 +93,6 @@ class DrawingTest : public QObject {
       QCOMPARE(inkOf(surface.image()), shown);
       if (!shown.isEmpty()) QVERIFY(inkOf(surface.image().copy(shown), Inside).isNull());
     }
-  }
-
-  void textStandsAtThePen() {
-    Sheet surface;
-    surface.SetFontName(u"Eurostar Black"_s);
-    surface.SetFontSize(48);
-    surface.CurrentX = 100;
-    surface.CurrentY = 50;
-    surface.Print(u"Hg"_s);
-    const QRect ink = inkOf(surface.image());
-    QVERIFY(surface.takeDirty().contains(ink));
-    const QRectF cell(100, 50, surface.TextWidth(u"Hg"_s), surface.TextHeight(u"Hg"_s));
-    QVERIFY(cell.adjusted(-3, -3, 3, 3).contains(QRectF(ink)) && ink.height() > cell.height() / 2);
-    // No colour fringes.
-    for (int x = ink.left(); x <= ink.right(); ++x) QVERIFY(qIsGray(surface.image().pixel(x, ink.center().y())));
   }
 
   /// A frame draws only what is different, and is the same picture as one that draws all.

@@ -52,49 +52,25 @@ class WholeSessionTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void initTestCase() {
-    game.copySample();
-    program = std::make_unique<Program>(game);
-    QVERIFY(QTest::qWaitForWindowExposed(&program->form));
-  }
-  void cleanupTestCase() { program.reset(); }
-
-  void everyScreen() {
-    open(*program, "Stagelight", "Neon", Qt::Key_Home);
-    QCOMPARE(program->state.paths.LanguageFile.section(u'\\', -1), u"Deutsch.ini.tmp"_s);
-    QCOMPARE(program->state.paths.SkinFile.section(u'\\', -1), u"Neon.ini.tmp"_s);
-    toolwindow::Form2& tools = program->tools();
-    QStringList before;
-    QImage pictureBefore;
-    for (int screen = 0; screen < 32; ++screen) {
-      const QString name = tools.screens().Text();
-      QCOMPARE(tools.screens().ListIndex(), screen);
-      const QStringList objects = entries(tools.objects());
-      const QImage picture = program->picture();
-      // The views of one screen for one or more players, too, show other objects each.
-      QVERIFY2(!objects.isEmpty() && objects != std::exchange(before, objects), qPrintable(name));
-      QVERIFY2(picture != std::exchange(pictureBefore, picture), qPrintable(name));
-      QVERIFY2(!program->status().startsWith(u"Error"), qPrintable(name + program->status()));
-      QCOMPARE(program->form.buttons().isVisible(), program->state.ButtonCount > 0);
-      key(tools, Qt::Key_Down);
-    }
-    QVERIFY(program->state.ThemeOpened && !program->state.Changed);
-  }
-
   void editSaveAnotherThemeReopen() {
+    const GameFolder game;
+    game.copySample();
+    Program program(game);
+    QVERIFY(QTest::qWaitForWindowExposed(&program.form));
+    open(program, "Stagelight", "Neon", Qt::Key_Home);
     auto expected = game.files();
-    toolwindow::Form2& tools = program->tools();
-    chooseMainScreen(*program);
+    toolwindow::Form2& tools = program.tools();
+    chooseMainScreen(program);
     for (const EditRow& row : Edits) {
       pickNamed(tools.objects(), row.object);
       pickNamed(tools.values(), row.key);
-      QVERIFY2(program->state.EditorShown && Editors(tools).Command1->isVisible(), row.key);
+      QVERIFY2(program.state.EditorShown && Editors(tools).Command1->isVisible(), row.key);
       settle();
       enter(tools, row.text);
       press(*Editors(tools).Command1);
-      QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
-      QVERIFY2(!program->status().contains(u"Error"), qPrintable(program->status()));
-      QVERIFY(program->enabled(2));
+      QCOMPARE(program.value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
+      QVERIFY2(!program.status().contains(u"Error"), qPrintable(program.status()));
+      QVERIFY(program.enabled(2));
       QByteArray& file = expected[QLatin1StringView(row.file)];
       const bool words = row.file == Language;
       file = platform::setIniValue(file, words ? "Text" : row.object, words ? row.value : row.key,
@@ -105,33 +81,29 @@ class WholeSessionTest : public QObject {
       const QString name = QLatin1StringView(file);
       expected[name + u".tmp"_s] = expected[name];
     }
-    toolBar(*program, 2);
-    QVERIFY(!program->enabled(2));
+    toolBar(program, 2);
+    QVERIFY(!program.enabled(2));
     const auto files = game.files();
     for (const auto& [name, bytes] : files.asKeyValueRange()) QVERIFY2(bytes == expected[name], qPrintable(name));
     QCOMPARE(files.size(), expected.size());
 
-    toolBar(*program, 3);
+    toolBar(program, 3);
     settle();
-    QVERIFY(program->form.toolWindow() == nullptr && named<QLabel>(program->form, "Label1")->isVisible());
-    QVERIFY(program->dialogs.asked.isEmpty());
-    open(*program, "Workbench", "Grey", Qt::Key_End);
-    QCOMPARE(program->state.paths.ThemeFile.section(u'\\', -1), u"Workbench.ini.tmp"_s);
-    QVERIFY(named<QLabel>(program->form, "Label1")->isHidden());
-    open(*program, "Stagelight", "Neon", Qt::Key_Home);
-    chooseMainScreen(*program);
+    QVERIFY(program.form.toolWindow() == nullptr && named<QLabel>(program.form, "Label1")->isVisible());
+    QVERIFY(program.dialogs.asked.isEmpty());
+    open(program, "Workbench", "Grey", Qt::Key_End);
+    QCOMPARE(program.state.paths.ThemeFile.section(u'\\', -1), u"Workbench.ini.tmp"_s);
+    QVERIFY(named<QLabel>(program.form, "Label1")->isHidden());
+    open(program, "Stagelight", "Neon", Qt::Key_Home);
+    chooseMainScreen(program);
     for (const EditRow& row : Edits) {
-      pickNamed(program->tools().objects(), row.object);
-      QCOMPARE(program->value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
+      pickNamed(program.tools().objects(), row.object);
+      QCOMPARE(program.value(QLatin1StringView(row.key)), QLatin1StringView(row.value));
     }
-    pickNamed(program->tools().objects(), "MainTextHelp");
-    pickNamed(program->tools().values(), "Text");
-    QCOMPARE(Editors(program->tools()).Text2->Text(), u"Los! = [Enter];"_s);
+    pickNamed(program.tools().objects(), "MainTextHelp");
+    pickNamed(program.tools().values(), "Text");
+    QCOMPARE(Editors(program.tools()).Text2->Text(), u"Los! = [Enter];"_s);
   }
-
- private:
-  GameFolder game;
-  std::unique_ptr<Program> program;
 };
 
 QTEST_MAIN(WholeSessionTest)

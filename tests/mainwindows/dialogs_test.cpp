@@ -110,10 +110,11 @@ class DialogsTest : public QObject {
     watch.when(u"background colour"_s, [&] { program.click(4); });
     program.soleRow(u"Color"_s, u"Red"_s);
     watch.when(u"change a colour"_s, [&] { Editors(tools).Command2->click(); });
-    watch.names = QStringList{u"red"_s, u"a=b"_s};
+    watch.names = QStringList{u"red"_s, u" a "_s};
     watch.when(u"add a colour that is there"_s, [&] { Editors(tools).Command3->click(); });
     watch.when(u"add a colour of a name that no file holds"_s, [&] { Editors(tools).Command3->click(); });
     watch.when(u"remove a colour"_s, [&] { Editors(tools).Command5->click(); });
+    QVERIFY(program.colors().filter(u"Red"_s).isEmpty());
     program.soleRow(u"Tex"_s, u"Plate"_s);
     watch.when(u"choose an image"_s, [&] { Editors(tools).Command4->click(); });
     watch.names = QStringList{u"plate"_s, u"[x"_s};

@@ -77,7 +77,7 @@ inline void open(Program& program, const char* theme, const char* skin, Qt::Key 
     key(dialog, language);
     press(dialog.openButton());
   });
-  if (program.form.toolWindow() == nullptr || !QTest::qWaitForWindowExposed(program.form.toolWindow()))
+  if (program.form.toolWindow() == nullptr || !QTest::qWaitForWindowActive(program.form.toolWindow()))
     qFatal("not open");
 }
 

@@ -1,12 +1,10 @@
 #include <algorithm>
 #include <random>
 
-#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "support/results.h"
@@ -63,51 +61,6 @@ class ThemeCheckTest : public QObject {
                                {u"languages"_s, QJsonArray()},
                                {u"schemes"_s, QJsonArray()}};
     QVERIFY(array.contains(plate));
-  }
-
-  /// What the contact sheet leaves out of a theme, and why, is what the check says of it, or of the cause.
-  void agreesWithContactSheet() {
-    const QTemporaryDir sheet;
-    support::runTool(QStringLiteral(CONTACT_SHEET), 0, {Sample, u"Workbench"_s, u"Grey"_s, u"English"_s, sheet.path()});
-    const QStringList findings =
-        QString::fromUtf8(check(1, {Sample, u"workbench"_s, u"--skin=Grey"_s, u"--language=English"_s}).output)
-            .split(u'\n');
-    QVERIFY(!findings.filter(u" (Grey)"_s).isEmpty());
-    int reasons = 0;
-    for (const QString& line : QString::fromUtf8(readFile(sheet.filePath(u"report.tsv"_s))).split(u'\n').sliced(1)) {
-      const QStringList fields = line.split(u'\t');
-      if (fields.size() != 4 || fields[3].isEmpty() || fields[3] == u"not part of the preview" ||
-          fields[3].contains(u" with its button ") || fields[1].contains(u']') ||
-          (fields[1].endsWith(u"ackground") && fields[3].startsWith(u"texture ''"))) {
-        continue;
-      }
-      for (const QString& reason : fields[3].split(u"; "_s)) {
-        const bool isHidden = reason.startsWith(u"hidden");
-        const bool isBadColor = !findings.filter(u": Colors: %1: "_s.arg(reason.section(u'\'', 1, 1))).isEmpty();
-        const QString words = isHidden ? u"the button is hidden"_s : reason.section(u": "_s, -1);
-        QVERIFY2(isBadColor || std::any_of(findings.begin(), findings.end(),
-                                           [&](const QString& found) {
-                                             return found.contains(u": "_s + words) &&
-                                                    (found.contains(u": %1: "_s.arg(fields[1])) ||
-                                                     found.contains(u"; the same in "));
-                                           }),
-                 qPrintable(line));
-        ++reasons;
-      }
-    }
-    QVERIFY(reasons > 20);
-  }
-
-  void asManyColorsAsThereIsRoomFor() {
-    const Game game;
-    for (const auto& [count, status, notes] :
-         {std::tuple(99, 0, "\n0 errors, 0 warnings, 97 notes"), {100, 1, "\n1 error, 0 warnings, 98 notes"}}) {
-      game.put("Themes/T.ini: " + support::manyColors(count) +
-               "[Main]|[MainButtonA]|Tex=A|W=9|H=9|Color=C1|DColor=C99|");
-      const QByteArray output = check(status, {game.path()}).output;
-      QVERIFY2(output.contains(notes), output);
-      QCOMPARE(output.contains("Themes/T.ini:101:1: error: Colors: C100: more than 99 colours\n"), count == 100);
-    }
   }
 
   void statuses() {
