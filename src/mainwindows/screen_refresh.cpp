@@ -35,7 +35,8 @@ void ScreenRefresh::refresh() {
   if (!kept_ || kept_->screen != screen) {
     // Until a screen's list of buttons is filled, the selected one is that of the screen before.
     const themefiles::ModuleState& state = form_.services.state;
-    kept_ = {screen, session.object(), state.ButtonListFilled ? state.SelectedButton : FirstButton};
+    const bool isOfScreen = session.listIsComplete() && state.ButtonListFilled;
+    kept_ = {screen, session.object(), isOfScreen ? state.SelectedButton : FirstButton};
   }
   form_.queue().choose();
 }

@@ -96,7 +96,7 @@ QString GameCheck::shown(const QString& path) const {
   const QString native = platform::nativePath(path);
   const QString game = platform::nativePath(folder_);
   QString head = request_.gameFolder;
-  while (head.size() > 1 && head.endsWith(u'/')) head.chop(1);
+  while (head.size() > 1 && (head.endsWith(u'/') || head.endsWith(QDir::separator()))) head.chop(1);
   return head + (head.endsWith(u'/') ? QString() : QStringLiteral("/")) + native.sliced(game.size());
 }
 
