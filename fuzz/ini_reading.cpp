@@ -60,6 +60,10 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
 
   QSet<QString> counted;
   const IniText text(file.toByteArray());
+  const IniSections sections(text);
+  const QByteArray& bytes = text.bytes();
+  fuzz::require(sections.lines(section).data() == findIniSection(bytes, section).value_or(QByteArrayView()).data(),
+                "the index has the section that is found");
   for (const OutlineSection& found : iniOutline(text)) {
     const QString name = upperCase(fromAnsi(found.name));
     const bool isFirst = !counted.contains(name);

@@ -2,8 +2,13 @@
 
 #include <algorithm>
 
+#include <QSet>
+
 #include "input.h"
+#include "platform/code_page.h"
+#include "platform/ini_outline.h"
 #include "platform/ini_reading.h"
+#include "platform/numbers.h"
 
 using namespace platform;
 
@@ -28,6 +33,25 @@ void requireOnePlace(QByteArrayView before, QByteArrayView after, bool replaced)
   fuzz::require(replaced ? !hasLineEnd(gone) : gone.isEmpty(), "all other bytes stay");
 }
 
+/// Sets a line in that section, then one in each section of the file: at once, and one after the other.
+void requireSameTogether(const QByteArray& file, const IniSetting& first) {
+  // A line that ends in CR grows together with an LF behind it.
+  if (QByteArray(file).replace("\r\n", {}).contains('\r') && file.contains('\n')) return;
+  std::vector<IniSetting> settings{first};
+  QSet<QString> names;
+  for (const OutlineSection& section : iniOutline(IniText(file))) {
+    const QString name = upperCase(fromAnsi(section.name));
+    if (names.contains(name)) continue;
+    names += name;
+    settings.push_back({section.name.toByteArray(), "a key of its own", "a key of its own=1"});
+  }
+  QByteArray each = file;
+  for (const IniSetting& setting : settings) {
+    each = setIniLine(each, setting.section, setting.key, setting.line).value_or(each);
+  }
+  fuzz::require(setIniLines(file, settings) == each, "lines that are set together come where each alone would");
+}
+
 }  // namespace
 
 /// Section, key, value, then the file.
@@ -47,6 +71,8 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     fuzz::require(removed.has_value(), "a written key can be removed");
     requireOnePlace(*removed, *changed, false);
   }
+  const QByteArray line = key.toByteArray() + '=' + value.toByteArray();
+  requireSameTogether(file.toByteArray(), {section.toByteArray(), key.toByteArray(), line});
   fuzz::require(removeIniKey(file, section, key).has_value() == old.has_value(), "what is found can be removed");
   return 0;
 }
