@@ -132,7 +132,13 @@ bool PreviewHand::press(const QMouseEvent& event) {
   const bool free = event.buttons() == Qt::LeftButton && !form_.queue().busy();
   joins_ = event.modifiers() == Qt::ShiftModifier;
   onHeld_ = free && isGroupAt(form_, pressed_);
-  if ((joins_ || onHeld_ || pick(pressed_)) && free) stage_ = Stage::Pressed;
+  if (joins_ && !free) {
+    join(pressed_);
+  } else if (!joins_ && !onHeld_ && !pick(pressed_)) {
+    form_.session().endGroup();
+  } else if (free) {
+    stage_ = Stage::Pressed;
+  }
   return true;
 }
 
@@ -234,6 +240,7 @@ bool PreviewHand::keyPress(const QKeyEvent& event) {
     }
     return true;
   }
+  if (stage_ == Stage::Dragging) drag(event.modifiers());
   const auto step = ArrowKeys::stepOf(event);
   if (!step) return false;
   if (stage_ == Stage::None || stage_ == Stage::Keys) arrow(event, *step);
@@ -245,8 +252,9 @@ void PreviewHand::arrow(const QKeyEvent& event, const ArrowStep& step) {
   while (stage_ == Stage::Keys && step.grip != held_.grip()) settle();
   const bool free = stage_ == Stage::None || stage_ == Stage::Keys;
   if (!free || !form_.session().isOpen()) return;
-  // What height a button is drawn with is known when it has been drawn.
-  if (stage_ == Stage::None && step.grip.sizes() && form_.queue().busy()) return;
+  // What height a button is drawn with, and which texts are its own, is known when it has been drawn.
+  const bool needsDrawn = step.grip.sizes() || !form_.session().members().isEmpty();
+  if (stage_ == Stage::None && needsDrawn && form_.queue().busy()) return;
   if (stage_ == Stage::None && !held_.take(step.grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
   arrows_.press(event.key());
@@ -256,6 +264,7 @@ void PreviewHand::arrow(const QKeyEvent& event, const ArrowStep& step) {
 
 void PreviewHand::keyRelease(const QKeyEvent& event) {
   if (event.isAutoRepeat()) return;
+  if (stage_ == Stage::Dragging) drag(event.modifiers());
   arrows_.release(event.key());
   if (arrows_.areAtRest()) commitKeys();
 }
