@@ -18,6 +18,7 @@ constexpr int FewestForGaps = 3;
 
 /// One of the group: where it is drawn, and what it is to become.
 struct Arranged {
+  QString name;
   SelectedObject object;
   QRect place;
   QRect wanted;
@@ -68,10 +69,12 @@ void spread(std::vector<Arranged>& group, bool across) {
   }
 }
 
+bool spreads(Arrangement arrangement) {
+  return arrangement == Arrangement::GapsAcross || arrangement == Arrangement::GapsDown;
+}
+
 void setWanted(std::vector<Arranged>& group, Arrangement arrangement) {
-  if (arrangement == Arrangement::GapsAcross || arrangement == Arrangement::GapsDown) {
-    return spread(group, arrangement == Arrangement::GapsAcross);
-  }
+  if (spreads(arrangement)) return spread(group, arrangement == Arrangement::GapsAcross);
   const QRect first = group.front().place;
   for (Arranged& one : group) {
     switch (arrangement) {
@@ -106,38 +109,47 @@ std::vector<std::pair<QString, QString>> valuesOf(const QByteArray& theme, const
   return editing::changedValues(start, editing::moved(start, grip, by));
 }
 
+/// Leaves out the texts of buttons that can be moved or sized: they go along. The selected object stays where the
+/// others are brought to it, and its texts are among these.
+void leaveOutTexts(const Form1& form, const QByteArray& theme, Arrangement arrangement, std::vector<Arranged>& group) {
+  const bool sizes = arrangement == Arrangement::Widths || arrangement == Arrangement::Heights;
+  const auto others = group.begin() + (spreads(arrangement) ? 0 : 1);
+  QStringList movable;
+  std::for_each(others, group.end(), [&](const Arranged& one) {
+    const auto cause = platform::failureIn([&] {
+      editing::heldIn(theme, one.object.section, sizes ? SizingGrip : editing::Grip(), one.object.heightKey);
+    });
+    if (!cause) movable += one.name;
+  });
+  const auto goes = [&](const Arranged& one) { return goesAlong(form, one.name, movable); };
+  group.erase(std::remove_if(others, group.end(), goes), group.end());
+}
+
 }  // namespace
 
 void arrange(Form1& form, Arrangement arrangement) {
   editing::Session& session = form.session();
   if (!session.isOpen() || session.members().isEmpty()) return;
   const platform::ReportScope scope(form);
-  const auto stays = [&](const QString& section, const QString& cause) {
-    form.note(platform::reportText(QStringLiteral("%1 stays as it is").arg(section), cause));
-  };
-  const QStringList names = groupOf(session);
   std::vector<Arranged> group;
-  for (const QString& name : names) {
-    const SelectedObject object = objectNamed(form, name);
+  for (const QString& name : groupOf(session)) {
     const auto place = drawnPlace(form, name);
     if (place) {
-      group.push_back({object, *place, *place});
-    } else if (name == names.front()) {
-      return stays(object.section, QStringLiteral("it isn't drawn"));
+      group.push_back({name, objectNamed(form, name), *place, *place});
     } else {
-      stays(object.section, QStringLiteral("it isn't drawn"));
+      noteStays(form, name, QStringLiteral("it isn't drawn"));
+      if (name == session.object()) return;
     }
   }
   std::vector<renderer::TrialValues> changes;
   platform::guarded(form, QStringLiteral("All stays as it is"), [&] {
-    setWanted(group, arrangement);
     const QByteArray theme = editing::readTheme(session);
+    leaveOutTexts(form, theme, arrangement, group);
+    setWanted(group, arrangement);
     for (const Arranged& one : group) {
-      // The texts of a button that moves come along.
-      if (one.object.section != names.front() && goesAlong(form, one.object.section, names.mid(1))) continue;
       std::vector<std::pair<QString, QString>> values;
       const auto cause = platform::failureIn([&] { values = valuesOf(theme, one); });
-      if (cause) stays(one.object.section, *cause);
+      if (cause) noteStays(form, one.name, *cause);
       if (!values.empty()) changes.push_back({one.object.section, values});
     }
   });

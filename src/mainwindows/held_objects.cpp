@@ -14,7 +14,7 @@
 
 namespace mainwindows {
 
-bool HeldObjects::take(editing::Grip grip, bool tells) {
+bool HeldObjects::take(editing::Grip grip, bool reports) {
   const editing::Session& session = form_.session();
   held_.clear();
   grip_ = grip;
@@ -22,26 +22,28 @@ bool HeldObjects::take(editing::Grip grip, bool tells) {
   scope_ = std::make_unique<platform::ReportScope>(form_);
   QByteArray theme;
   const auto unread = platform::failureIn([&] { theme = editing::readTheme(session); });
+  QStringList movable;
+  std::vector<std::pair<QString, QString>> staying;  // with their causes
   for (const QString& name : grip.sizes() ? names_.mid(0, 1) : names_) {
-    if (goesAlong(form_, name, names_)) continue;
     const SelectedObject object = objectNamed(form_, name);
-    Held held{name, object.section, object.heightKey, {}, {}};
+    Held held{.name = name, .section = object.section, .heightKey = object.heightKey, .start = {}, .now = {}};
     const auto cause =
         unread ? unread
                : platform::failureIn([&] { held.start = editing::heldIn(theme, held.section, grip, held.heightKey); });
     held.now = held.start;
-    if (!cause) {
+    if (cause) {
+      staying.emplace_back(name, *cause);
+    } else {
+      movable += name;
       held_.push_back(held);
-    } else if (tells) {
-      stays(held.section, *cause);
     }
+  }
+  std::erase_if(held_, [&](const Held& held) { return goesAlong(form_, held.name, movable); });
+  for (const auto& [name, cause] : staying) {
+    if (reports && !goesAlong(form_, name, movable)) noteStays(form_, name, cause);
   }
   if (held_.empty()) scope_.reset();
   return !held_.empty();
-}
-
-void HeldObjects::stays(const QString& section, const QString& cause) {
-  form_.note(platform::reportText(QStringLiteral("%1 stays as it is").arg(section), cause));
 }
 
 void HeldObjects::moveFromStart(const QPoint& movement) {
@@ -110,7 +112,7 @@ std::vector<renderer::TrialValues> HeldObjects::changesToWrite() {
     const auto cause =
         unread ? unread : platform::failureIn([&] { editing::heldIn(theme, held.section, grip_, held.heightKey); });
     if (cause) {
-      stays(held.section, *cause);
+      noteStays(form_, held.section, *cause);
     } else {
       changes.push_back({held.section, editing::changedValues(held.start, held.now)});
     }

@@ -19,9 +19,9 @@ class HeldObjects {
  public:
   explicit HeldObjects(Form1& form) : form_(form), trial_(form) {}
 
-  /// Takes the objects. Of one that can't be moved or sized `tells` has the reason reported. Returns whether any is
-  /// held now.
-  bool take(editing::Grip grip, bool tells);
+  /// Takes the objects. A button takes its texts along. Of what can't be moved or sized, `reports` has the reason
+  /// reported. Returns whether any is held now.
+  bool take(editing::Grip grip, bool reports);
   editing::Grip grip() const { return grip_; }
   /// Moves the grip on, from where it was taken or from where it is.
   void moveFromStart(const QPoint& movement);
@@ -56,7 +56,6 @@ class HeldObjects {
 
   bool isOfHand(const QString& section, const QString& owner) const;
   std::vector<renderer::TrialValues> changesToWrite();
-  void stays(const QString& section, const QString& cause);
 
   Form1& form_;
   editing::Grip grip_;

@@ -79,6 +79,10 @@ bool goesAlong(const Form1& form, const QString& name, const QStringList& with) 
                                          [&](const QString& other) { return platform::sameName(other, drawn->owner); });
 }
 
+void noteStays(Form1& form, const QString& name, const QString& cause) {
+  form.note(platform::reportText(QStringLiteral("%1 stays as it is").arg(platform::trimBlanks(name)), cause));
+}
+
 QString outsideText(const Form1& form) {
   const QString name = form.session().object();
   const bool isSeen = drawnPlace(form, name) || form.Workspace->markVisible();

@@ -43,6 +43,9 @@ QStringList groupOf(const editing::Session& session);
 /// Whether an object is the text of a button among these, and goes along with that.
 bool goesAlong(const Form1& form, const QString& name, const QStringList& with);
 
+/// Reports why an object of the group can't be moved or sized.
+void noteStays(Form1& form, const QString& name, const QString& cause);
+
 /// Tells where the selected object is if it lies wholly outside the picture; else empty. Only with a theme open.
 QString outsideText(const Form1& form);
 

@@ -85,13 +85,12 @@ class GroupHandTest : public HandTest {
              u"LoadingStaticA: X = 80, Y = 75; LoadingButtonLast: X = 340, Y = 325; "
              "LoadingButtonGo: X = 340, Y = 225"_s);
     QTest::keyClick(&preview(), Qt::Key_Left, Qt::ShiftModifier);
-    program->form.session().settle();
-    QCOMPARE(newLines(file).join(u' '), u"X=330 Y=225 X=330 Y=325 X=70 Y=75"_s);
     QTest::keyClick(&preview(), Qt::Key_Right, Qt::AltModifier);      // a desktop's key
     QTest::keyClick(&preview(), Qt::Key_Right, Qt::ControlModifier);  // sizes the chosen one
     program->form.session().settle();
     QCOMPARE(newLines(file).join(u' '), u"X=330 Y=225 X=330 Y=325 X=70 Y=75 W=101"_s);
     put("Y", "-1");
+    themefiles::PutINI(u"LoadingButtonGo"_s, u"X"_s, u"-1"_s, program->state.paths.ThemeFile);
     const QByteArray before = game->get(ThemeCopy);
     hold({370, 345}, {-10, 0});
     QTRY_COMPARE(preview().accessibleDescription(), u"X 320, Y 325 and 1 more"_s);
@@ -99,10 +98,12 @@ class GroupHandTest : public HandTest {
     drop({360, 345});
     QCOMPARE(game->get(ThemeCopy), before);
     drag({370, 345}, {-10, 0});
-    QCOMPARE(newLines(before).join(u' '), u"X=320 X=320"_s);
-    QVERIFY(program->status().contains(u"LoadingStaticA stays as it is [Y is -1]"));
+    QCOMPARE(newLines(before).join(u' '), u"X=0 X=320"_s);  // the text, whose button stays
+    QVERIFY(program->status().contains(u"StaticA stays as it is [Y is -1]; LoadingButtonGo stays as it is [X is -1]"));
     QCOMPARE(program->form.session().members(), members);
-    QTest::keyClick(&preview(), Qt::Key_Escape);
+    mainwindows::arrange(program->form, mainwindows::Arrangement::UpperEdges);
+    QCOMPARE(newLines(before).size(), 4);  // both have come up
+    QTest::mouseClick(&preview(), Qt::LeftButton, {}, {700, 500});
     QCOMPARE(program->form.session().members(), QStringList());
     // By the keys of the list: Ctrl leads the focus on, Space joins.
     controls::ListBox& list = program->tools().objects();
@@ -180,6 +181,22 @@ class GroupHandTest : public HandTest {
     QVERIFY2(below >= 5 && along >= 3, qPrintable(u"%1 %2"_s.arg(below).arg(along)));
   }
 
+  /// While a drawing runs, a press with Shift joins what is drawn by then, and the keys don't move a group.
+  void duringADrawing() {
+    program->tag(u"LoadingStaticA"_s);
+    const QByteArray file = game->get(ThemeCopy);
+    const QStringList& members = program->form.session().members();
+    const auto atYield = connect(&program->form.queue(), &controls::WorkQueue::yielding, this, [&] {
+      if (!members.isEmpty()) return QTest::keyClick(&preview(), Qt::Key_Right);
+      QTest::mouseClick(&preview(), Qt::LeftButton, Qt::ShiftModifier, {340, 320});
+    });
+    program->form.queue().draw();
+    disconnect(atYield);
+    program->form.session().settle();
+    QCOMPARE(members.join(u' '), u"LoadingButtonLast"_s);
+    QCOMPARE(game->get(ThemeCopy), file);
+  }
+
   /// What another program does to the working copy while several objects are in the hand.
   void meanwhile() {
     const struct {
@@ -240,8 +257,8 @@ class GroupHandTest : public HandTest {
     // Odd sizes, one whose left edge comes before that of one that lies further left, and a text beside its own button.
     for (const auto& [arrangement, names, lines] :
          {std::tuple{Arrangement::RightEdges, u"StaticA StaticB ButtonWide"_s, u"X=50 X=19"_s},
-          {Arrangement::GapsAcross, u"StaticA StaticB ButtonWide"_s, u"X=12"_s},
-          {Arrangement::GapsDown, u"StaticA StaticB ButtonWide"_s, u"Y=290"_s},
+          {Arrangement::GapsAcross, u"StaticA StaticB ButtonWide ButtonWideText1"_s, u"X=12"_s},
+          {Arrangement::GapsDown, u"ButtonGo ButtonGoText1 StaticA ButtonWide"_s, u"Y=275"_s},
           {Arrangement::LeftEdges, u"ButtonGo ButtonGoText1"_s, u"X=0"_s}}) {
       openCrowded();
       const QStringList group = names.split(u' ');
@@ -259,16 +276,15 @@ class GroupHandTest : public HandTest {
     QTest::mousePress(&preview(), Qt::LeftButton, {}, Inside);
     moveMouse(preview(), Inside + QPoint(158, 5), Qt::LeftButton, Qt::ControlModifier);
     QTRY_COMPARE(preview().accessibleDescription(), u"X 200, Y 50, at LoadingButtonGo"_s);
+    QTest::keyPress(&preview(), Qt::Key_Shift, Qt::ControlModifier);
+    QTRY_COMPARE(preview().accessibleDescription(), u"X 198, Y 50"_s);
     QTest::mouseRelease(&preview(), Qt::LeftButton, Qt::ControlModifier, Inside + QPoint(158, 5));
     QCOMPARE(newLines(file).join(u' '), u"X=200"_s);
     // A text of a button, by the name that it has in the list.
-    const auto& objects = program->form.account().objects;
-    const auto text = std::find_if(objects.begin(), objects.end(), [](const renderer::DrawnObject& object) {
-      return object.section.compare(u"LoadingButtonGoText1", Qt::CaseInsensitive) == 0;
-    });
-    QVERIFY(text != objects.end());
+    const auto text = mainwindows::drawnPlace(program->form, u"LoadingButtonGoText1"_s);
+    QVERIFY(text);
     const QRect mark = preview().markRect();
-    const QPoint by(text->place.left() - mark.left() + 1, 0);
+    const QPoint by(text->left() - mark.left() + 1, 0);
     QTest::mousePress(&preview(), Qt::LeftButton, {}, mark.center());
     moveMouse(preview(), mark.center() + by, Qt::LeftButton, Qt::ControlModifier);
     QTRY_VERIFY2(preview().accessibleDescription().endsWith(u", at LoadingButtonGoText1"),
