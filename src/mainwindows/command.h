@@ -41,6 +41,13 @@ enum class Command {
   SameHeights
 };
 
+/// When a command runs.
+enum class CommandTime {
+  Waits,   ///< for the end of a drawing
+  AtOnce,  ///< in the middle of a drawing, too
+  Beside,  ///< the same, and what is in the hand stays there
+};
+
 /// What a command works on.
 struct CommandTargets {
   Form1& form;
@@ -54,7 +61,7 @@ struct CommandTargets {
 struct CommandRow {
   Command command;
   void (*run)(const CommandTargets& targets);
-  bool atOnce;                ///< runs in the middle of a drawing, too; others wait for its end
+  CommandTime time;
   bool needsTheme;            ///< does nothing without an open theme
   QStringView keys;           ///< empty for none
   QStringView menu = u"";     ///< its entry in the preview's menu; empty for none

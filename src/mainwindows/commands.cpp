@@ -40,8 +40,9 @@ void arrangeGroup(const Targets& to) {
   arrange(to.form, How);
 }
 
-constexpr bool AtOnce = true;
-constexpr bool Waits = false;
+constexpr auto Waits = CommandTime::Waits;
+constexpr auto AtOnce = CommandTime::AtOnce;
+constexpr auto Beside = CommandTime::Beside;
 
 constexpr bool NeedsTheme = true;
 constexpr bool Always = false;
@@ -59,8 +60,8 @@ constexpr auto Rows = std::to_array<CommandRow>({
     {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, Always, u"F6"},
     {Command::Find, [](const Targets& to) { toolwindow::showFinder(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
      u"Ctrl+F", u"Find..."},
-    {Command::Loupe, [](const Targets& to) { to.loupe.toggle(); }, AtOnce, Always, u"F7", u"Loupe"},
-    {Command::LargerLoupe, [](const Targets& to) { to.loupe.enlarge(); }, AtOnce, Always, u"Shift+F7"},
+    {Command::Loupe, [](const Targets& to) { to.loupe.toggle(); }, Beside, Always, u"F7", u"Loupe"},
+    {Command::LargerLoupe, [](const Targets& to) { to.loupe.enlarge(); }, Beside, Always, u"Shift+F7"},
     {Command::Changes, [](const Targets& to) { toolwindow::showChanges(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
      u"Ctrl+Shift+E", u"What differs..."},
     {Command::Faults, [](const Targets& to) { showFaults(*to.form.toolWindow(), to.review); }, AtOnce, NeedsTheme,
@@ -102,10 +103,10 @@ bool canRun(const Form1& form, const CommandRow& row) {
 void runCommand(const CommandTargets& targets, const CommandRow& row) {
   const auto ifEnabled = [targets, &row] {
     if (!targets.form.isVisible()) return;  // the program has ended while the command waited
-    targets.form.session().settle();
+    if (row.time != Beside) targets.form.session().settle();
     if (canRun(targets.form, row)) row.run(targets);
   };
-  if (row.atOnce) return ifEnabled();
+  if (row.time != Waits) return ifEnabled();
   targets.form.session().settle();
   if (!canRun(targets.form, row)) return;
   using controls::RunningWork;

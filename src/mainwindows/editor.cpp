@@ -76,7 +76,8 @@ void Editor::connectCommands() {
     if (row.keys.isEmpty()) continue;
     auto* shortcut = new QShortcut(QKeySequence(row.keys.toString()), &form);
     shortcut->setContext(Qt::ApplicationShortcut);
-    shortcut->setAutoRepeat(row.atOnce);  // what waits would come up once for each time a held key repeats
+    // What waits would come up once for each time a held key repeats.
+    shortcut->setAutoRepeat(row.time != CommandTime::Waits);
     QObject::connect(shortcut, &QShortcut::activated, &form, [this, &row] { run(row); });
   }
   QObject::connect(form.ToolBar, &toolbar::McToolBar::Click, &form, [this](int button) {

@@ -87,9 +87,14 @@ class PreviewLookTest : public HandTest {
     QTest::keyClick(&form, Qt::Key_F7);
     QVERIFY2(loupe.accessibleDescription().startsWith(u"X 41, Y 50 "), qPrintable(loupe.accessibleDescription()));
     const QString before = loupe.accessibleDescription();
+    program->form.session().settle();
     put("X", "300");
     program->form.queue().draw();
     QVERIFY(loupe.accessibleDescription() != before);
+    hold({310, 60}, {30, 20});
+    QTest::keyClick(&form, Qt::Key_F7, Qt::ShiftModifier);
+    drop({340, 80});
+    QVERIFY(program->status().startsWith(u"LoadingStaticA: X = 330, Y = 70"));
   }
 };
 
