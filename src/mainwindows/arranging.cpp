@@ -8,7 +8,9 @@
 #include "editing/held_numbers.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/selected_object.h"
+#include "platform/code_page.h"
 #include "platform/failure.h"
+#include "renderer/object_passes.h"
 
 namespace mainwindows {
 namespace {
@@ -73,6 +75,10 @@ bool spreads(Arrangement arrangement) {
   return arrangement == Arrangement::GapsAcross || arrangement == Arrangement::GapsDown;
 }
 
+bool sizes(Arrangement arrangement) {
+  return arrangement == Arrangement::Widths || arrangement == Arrangement::Heights;
+}
+
 void setWanted(std::vector<Arranged>& group, Arrangement arrangement) {
   if (spreads(arrangement)) return spread(group, arrangement == Arrangement::GapsAcross);
   const QRect first = group.front().place;
@@ -100,24 +106,34 @@ void setWanted(std::vector<Arranged>& group, Arrangement arrangement) {
 
 /// The keys of an object that change on the way to its wanted place.
 std::vector<std::pair<QString, QString>> valuesOf(const QByteArray& theme, const Arranged& one) {
-  const bool sizes = one.wanted.size() != one.place.size();
-  if (!sizes && one.wanted == one.place) return {};
-  const editing::Grip grip = sizes ? SizingGrip : editing::Grip();
+  const bool isSized = one.wanted.size() != one.place.size();
+  if (!isSized && one.wanted == one.place) return {};
+  const editing::Grip grip = isSized ? SizingGrip : editing::Grip();
   const auto start = editing::heldIn(theme, one.object.section, grip, one.object.heightKey);
   const QSize more = one.wanted.size() - one.place.size();
-  const QPoint by = sizes ? QPoint(more.width(), more.height()) : one.wanted.topLeft() - one.place.topLeft();
+  const QPoint by = isSized ? QPoint(more.width(), more.height()) : one.wanted.topLeft() - one.place.topLeft();
   return editing::changedValues(start, editing::moved(start, grip, by));
+}
+
+/// Leaves out the button whose text the selected object is, since that would be moved along.
+void leaveOutItsButton(Form1& form, std::vector<Arranged>& group) {
+  const QString button = renderer::buttonOfText(group.front().object.section);
+  std::erase_if(group, [&](const Arranged& one) {
+    if (!platform::sameName(one.object.section, button)) return false;
+    noteStays(form, one.name, QStringLiteral("the first one is its text"));
+    return true;
+  });
 }
 
 /// Leaves out the texts of buttons that can be moved or sized: they go along. The selected object stays where the
 /// others are brought to it, and its texts are among these.
 void leaveOutTexts(const Form1& form, const QByteArray& theme, Arrangement arrangement, std::vector<Arranged>& group) {
-  const bool sizes = arrangement == Arrangement::Widths || arrangement == Arrangement::Heights;
   const auto others = group.begin() + (spreads(arrangement) ? 0 : 1);
   QStringList movable;
   std::for_each(others, group.end(), [&](const Arranged& one) {
     const auto cause = platform::failureIn([&] {
-      editing::heldIn(theme, one.object.section, sizes ? SizingGrip : editing::Grip(), one.object.heightKey);
+      editing::heldIn(theme, one.object.section, sizes(arrangement) ? SizingGrip : editing::Grip(),
+                      one.object.heightKey);
     });
     if (!cause) movable += one.name;
   });
@@ -134,7 +150,8 @@ void arrange(Form1& form, Arrangement arrangement) {
   std::vector<Arranged> group;
   for (const QString& name : groupOf(session)) {
     const auto place = drawnPlace(form, name);
-    if (place) {
+    // Nothing of it shows: a text without words, or outside the picture.
+    if (place && !place->isEmpty()) {
       group.push_back({name, objectNamed(form, name), *place, *place});
     } else {
       noteStays(form, name, QStringLiteral("it isn't drawn"));
@@ -144,6 +161,7 @@ void arrange(Form1& form, Arrangement arrangement) {
   std::vector<renderer::TrialValues> changes;
   platform::guarded(form, QStringLiteral("All stays as it is"), [&] {
     const QByteArray theme = editing::readTheme(session);
+    if (!spreads(arrangement) && !sizes(arrangement)) leaveOutItsButton(form, group);
     leaveOutTexts(form, theme, arrangement, group);
     setWanted(group, arrangement);
     for (const Arranged& one : group) {

@@ -19,6 +19,7 @@ bool HeldObjects::take(editing::Grip grip, bool reports) {
   held_.clear();
   grip_ = grip;
   names_ = groupOf(session);
+  if (session.object().isEmpty()) return false;
   scope_ = std::make_unique<platform::ReportScope>(form_);
   QByteArray theme;
   const auto unread = platform::failureIn([&] { theme = editing::readTheme(session); });
