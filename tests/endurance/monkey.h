@@ -80,6 +80,7 @@ class Monkey {
   void arrowKeys();
   void drag();
   void shortcut();
+  void command();
   void review();
   void resize();
   void loseFolder();
