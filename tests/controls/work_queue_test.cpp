@@ -1,9 +1,11 @@
 #include "controls/work_queue.h"
 
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include "controls/frame_pacer.h"
+#include "controls/idle_steps.h"
 
 using controls::WorkQueue;
 using namespace Qt::StringLiterals;
@@ -77,6 +79,25 @@ class WorkQueueTest : public QObject {
     QCOMPARE(logOf(u"c"_s, 6, u"l"_s), u"c...Cdxd...D"_s);
     QCOMPARE(logOf(u"c"_s, 2, u"f"_s), u"c.x"_s);
     QCOMPARE(logOf(u"d"_s, 2, u"n"_s), u"d...Dxd...DXx"_s);
+  }
+
+  /// Steps in idle time wait for the work that runs, and serve events after each hundredth of a second.
+  void idleSteps() {
+    Bench bench;
+    int left = 40;
+    controls::IdleSteps steps(bench.queue, [&] {
+      bench.log += u's';
+      QThread::msleep(1);
+      return --left > 0;
+    });
+    QTimer events;
+    events.callOnTimeout([&] { bench.log += u' '; });
+    events.start(0);
+    steps.begin();
+    bench.queue.draw();
+    QVERIFY2(!bench.log.contains(u's'), qPrintable(bench.log));
+    QTRY_COMPARE(left, 0);
+    for (const QString& part : bench.log.split(u' ')) QVERIFY2(part.size() < 15, qPrintable(part));
   }
 
   void aBurstShowsItsLastStepInTheNextFrame() {

@@ -273,6 +273,10 @@ class FormsTest : public ProgramTest {
       QTest::keyClick(&dialog, Qt::Key_Return);
       Q_EMIT dialog.themes().doubleClicked(dialog.themes().currentIndex());
       QVERIFY(dialog.isVisible());
+      QShowEvent again;  // as after it was minimized
+      QSpontaneKeyEvent::setSpontaneous(&again);
+      QCoreApplication::instance()->notify(&dialog, &again);
+      QCOMPARE(dialog.themes().ListIndex(), 1);
       dialog.themes().SetListIndex(0);
       states.add(u"the first theme again"_s, dialog);
       QTest::keyClick(&dialog, Qt::Key_Escape);

@@ -127,6 +127,7 @@ class KeysAndMouseTest : public DiaryTest {
       for (const auto key : {Qt::Key_Right, Qt::Key_Right}) QTest::keyClick(&preview, key);
       QTest::keyPress(&preview, Qt::Key_Down);
       QTRY_VERIFY(!preview.accessibleDescription().isEmpty());
+      QTest::qWait(400);  // longer than keys are waited for
     });
     d.step(u"no key is held"_s, [&] {
       QTest::keyRelease(&preview, Qt::Key_Down);

@@ -102,8 +102,11 @@ class OpenThemeTest : public QObject {
     QCOMPARE(program.tools().objects().Text(), u"LoadingTextFree"_s);
     QCOMPARE(program.picture().pixelColor(90, 80), QColor(Qt::green));
     // On a screen that is coming up the selected button is still that of the screen before.
-    program.form.buttons().setCurrentIndex(1);
-    Q_EMIT program.form.buttons().Click(controls::Cause::User);
+    const auto selectTheSecond = [&] {
+      program.form.buttons().setCurrentIndex(1);
+      Q_EMIT program.form.buttons().Click(controls::Cause::User);
+    };
+    selectTheSecond();
     QTest::keyClick(&program.form, Qt::Key_F5);
     settle();
     QVERIFY(program.form.buttons().ListIndex() == 1 && program.state.SelectedButton == 2);
@@ -114,6 +117,17 @@ class OpenThemeTest : public QObject {
     });
     program.screen(u"Loading Screen"_s);
     QVERIFY(pressed);
+    QCOMPARE(program.state.SelectedButton, 1);
+    // Another screen that is chosen meanwhile begins with its own first button.
+    game.put(ThemeCopy, game.get(ThemeCopy).replace("[Main]\r\n", "[Main]\r\n[MainButtonA]\r\n[MainButtonB]\r\n"));
+    selectTheSecond();
+    bool chosen = false;
+    connect(&program.form.queue(), &controls::WorkQueue::yielding, this, [&] {
+      if (!std::exchange(chosen, true)) program.screen(u"Main Screen"_s);
+    });
+    QTest::keyClick(&program.form, Qt::Key_F5);
+    settle();
+    QVERIFY(chosen && program.form.buttons().ListCount() == 2);
     QCOMPARE(program.state.SelectedButton, 1);
   }
 

@@ -81,8 +81,15 @@ class SessionTest : public ProgramTest {
       QTest::mouseClick(program->form.Workspace, Qt::LeftButton, {}, {340, 320});
       QCOMPARE(program->tools().objects().Text(), QLatin1StringView(object));
     }
-    QTest::mouseClick(program->form.Workspace, Qt::LeftButton, {}, {345, 320});  // another place
-    QCOMPARE(program->tools().objects().Text(), u"LoadingButtonLast"_s);
+    const auto pick = [&] {
+      QTest::mouseClick(program->form.Workspace, Qt::LeftButton, {}, {345, 320});
+      return program->tools().objects().Text();
+    };
+    QCOMPARE(pick(), u"LoadingButtonLast"_s);  // another place
+    // The same place, where something else has come.
+    game->put(ThemeCopy, game->get(ThemeCopy).replace("X=300\r\nY=200", "X=300\r\nY=290"));
+    program->form.queue().draw();
+    QVERIFY(pick().startsWith(u"LoadingButton"));
   }
 
   void theWindowsEndUnderTheOpenDialog() {
