@@ -1,6 +1,7 @@
 #include "editing/differences.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <map>
 
@@ -8,7 +9,6 @@
 
 #include "editing/reference_keys.h"
 #include "platform/code_page.h"
-#include "platform/ini_section_names.h"
 #include "platform/numbers.h"
 #include "themefiles/key_table.h"
 #include "themefiles/tag_listing.h"
@@ -56,8 +56,8 @@ void compareSection(const ComparedFile& file, QByteArrayView section, std::vecto
 /// The sections in which a file may differ: those of now in their order, then those that are gone.
 std::vector<QByteArrayView> sectionsOf(const ComparedFile& file) {
   if (!file.differs()) return {};
-  std::vector<QByteArrayView> names = platform::iniSectionNames(file.now.text().bytes());
-  for (const QByteArrayView name : platform::iniSectionNames(file.saved.text().bytes())) {
+  std::vector<QByteArrayView> names = file.now.names();
+  for (const QByteArrayView name : file.saved.names()) {
     if (file.now.lines(name).isNull()) names.push_back(name);
   }
   std::reverse(names.begin(), names.end());  // they are taken from the end

@@ -115,7 +115,9 @@ IniSections::IniSections(IniText text) : text_(std::move(text)) {
   const auto endSection = [&](const char* sectionEnd) {
     if (!lines) return;
     QByteArrayView& known = sections_[name];
-    if (known.isNull()) known = QByteArrayView(lines, sectionEnd);
+    if (!known.isNull()) return;
+    known = QByteArrayView(lines, sectionEnd);
+    names_.push_back(name.letters);
   };
   sections_.reserve(std::count(file.begin(), file.end(), '['));
   for (const char* at = file.begin(); at != end;) {

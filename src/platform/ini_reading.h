@@ -65,10 +65,13 @@ class IniSections {
   const IniText& text() const { return text_; }
   /// The lines of that section up to the next one; a null view without it.
   QByteArrayView lines(QByteArrayView name) const;
+  /// The names of the sections in file order, each once.
+  const std::vector<QByteArrayView>& names() const { return names_; }
 
  private:
   IniText text_;
-  QHash<IniName, QByteArrayView> sections_;  ///< in the text
+  QHash<IniName, QByteArrayView> sections_;  ///< in the text, as the names
+  std::vector<QByteArrayView> names_;
 };
 
 }  // namespace platform

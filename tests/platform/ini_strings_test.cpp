@@ -1,7 +1,6 @@
 #include <QTest>
 
 #include "platform/ini_reading.h"
-#include "platform/ini_section_names.h"
 #include "platform/ini_writing.h"
 #include "support/folder.h"
 
@@ -110,7 +109,7 @@ class IniStringsTest : public QObject {
                                                          {"Other", "c", "c=3"},
                                                          {"U", "l", "l=6"}}),
              QByteArray("[S]\rK =2\rn=3\ro=4\r;c\r[T]\rm=\r[U]\rj=1\rk=5\rl=6\r[New]\ra=1\rb=2\r[Other]\rc=3\r"));
-    QCOMPARE(iniSectionNames(file), std::vector<QByteArrayView>({"a", "b", "\xE4nd \xFFmany More\xB5", ""}));
+    QCOMPARE(sections.names(), std::vector<QByteArrayView>({"a", "b", "\xE4nd \xFFmany More\xB5", ""}));
   }
 
   void remove() {
