@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <QHash>
+
 #include "platform/code_page.h"
 #include "platform/failure.h"
 #include "platform/files.h"
@@ -58,6 +60,20 @@ QByteArray put(const QString& Section, const QString& Key, const std::optional<Q
 /// The value as it reads back from an ini file.
 std::optional<QByteArray> givenBack(const QByteArray& value) {
   return platform::findIniValue("[s]\nk=" + value, "s", "k");
+}
+
+platform::Failure notWritten(const QString& section, const QString& key) {
+  return platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(key, section));
+}
+
+/// The text with another line of one key, which goes without an index of all sections.
+QByteArray changedLine(const QByteArray& text, const KeyedLine& line) {
+  const QByteArray section = lineBytes(line.section);
+  const QByteArray key = lineBytes(line.key);
+  const QByteArray changed = platform::setIniLine(text, section, key, line.line).value_or(text);
+  const QByteArray value = line.line.sliced(line.line.indexOf('=') + 1);
+  if (platform::findIniValue(changed, section, key) != givenBack(value)) throw notWritten(line.section, line.key);
+  return changed;
 }
 
 /// The bytes of a file; empty if it can't be read.
@@ -125,9 +141,7 @@ QByteArray changedText(const QByteArray& text, const QString& Section, const QSt
   const QByteArray value = lineBytes(Value.value_or(QString()));
   if (!Value) return platform::removeIniKey(text, section, key).value_or(text);
   const QByteArray changed = platform::setIniValue(text, section, key, value).value_or(text);
-  if (platform::findIniValue(changed, section, key) != givenBack(value)) {
-    throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(Key, Section));
-  }
+  if (platform::findIniValue(changed, section, key) != givenBack(value)) throw notWritten(Section, Key);
   return changed;
 }
 
@@ -148,12 +162,19 @@ void checkReadsBack(const QByteArray& written, const QString& Section, const QSt
       QStringLiteral("%1 in [%2] was written, but another program has changed the file since").arg(Key, Section));
 }
 
-QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line) {
-  const QByteArray sectionBytes = lineBytes(section);
-  const QByteArray keyBytes = lineBytes(key);
-  const QByteArray changed = platform::setIniLine(text, sectionBytes, keyBytes, line).value_or(text);
-  if (platform::findIniValue(changed, sectionBytes, keyBytes) != givenBack(line.sliced(line.indexOf('=') + 1))) {
-    throw platform::Failure(QStringLiteral("%1 in [%2] was not written").arg(key, section));
+QByteArray changedLines(const QByteArray& text, const std::vector<KeyedLine>& lines) {
+  if (lines.size() == 1) return changedLine(text, lines.front());
+  std::vector<platform::IniSetting> settings;
+  settings.reserve(lines.size());
+  for (const auto& [section, key, line] : lines) settings.push_back({lineBytes(section), lineBytes(key), line});
+  const QByteArray changed = platform::setIniLines(text, settings);
+  const platform::IniSections written{platform::IniText(changed)};
+  QHash<QByteArray, platform::IniKeys> keysOf;
+  for (size_t i = 0; i < lines.size(); ++i) {
+    const auto& [section, key, line] = settings.at(i);
+    if (!keysOf.contains(section)) keysOf[section] = platform::iniKeys(written.lines(section));
+    const auto* const found = platform::lineOf(keysOf[section], key);
+    if (found == nullptr || found->line != line) throw notWritten(lines.at(i).section, lines.at(i).key);
   }
   return changed;
 }

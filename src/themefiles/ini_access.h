@@ -1,7 +1,6 @@
 #pragma once
 
 #include <optional>
-#include <utility>
 #include <vector>
 
 #include <QByteArray>
@@ -63,8 +62,15 @@ void checkReadsBack(const QByteArray& written, const QString& Section, const QSt
 /// ini file can't hold.
 std::optional<QString> wholeValue(const QByteArray& text, const QString& section, const QString& key);
 
-/// Like changedText, but replaces the key's whole line. `line` has the key and the "=", but no line end.
-QByteArray changedLine(const QByteArray& text, const QString& section, const QString& key, const QByteArray& line);
+/// A key's whole line, with the key and the "=", but no line end.
+struct KeyedLine {
+  QString section;
+  QString key;
+  QByteArray line;
+};
+
+/// Like changedText, but replaces whole lines, of which no two are of the same key.
+QByteArray changedLines(const QByteArray& text, const std::vector<KeyedLine>& lines);
 
 /// Throws platform::Failure if the text contains a line end, a NUL or a letter outside the code page.
 void checkLineText(const QString& text);

@@ -6,7 +6,7 @@
 #include <QString>
 
 #include "platform/status_line.h"
-#include "themefiles/changed_lines.h"
+#include "themefiles/ini_access.h"
 #include "themefiles/module_state.h"
 
 /// The working copies of a theme's three files, which take all edits until Save.
