@@ -21,7 +21,6 @@ class IdleSteps : public QObject {
   /// Has the steps done, as soon as nothing else is to be done.
   void begin() { idle_.start(0); }
   void stop() { idle_.stop(); }
-  bool isWaiting() const { return idle_.isActive(); }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

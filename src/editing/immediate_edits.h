@@ -5,7 +5,6 @@
 
 #include <QString>
 
-#include "editing/saved_state.h"
 #include "editing/session.h"
 
 /// Edits of colours and keys don't wait for Update: they are written at once, draw nothing, and leave the theme as

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <array>
-
 #include "platform/ini_reading.h"
 #include "themefiles/module_state.h"
 

@@ -27,7 +27,6 @@ class Form3 : public QDialog {
   controls::ListBox& skins() const { return *List2; }
   controls::ComboBox& languages() const { return *Combo1; }
   QPushButton& openButton() const { return *Command1; }
-  QPushButton& cancelButton() const { return *Command2; }
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -5,7 +5,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QScrollArea>
 #include <QStackedWidget>
 #include <QVBoxLayout>

@@ -21,7 +21,7 @@ struct Look {
 /// Looks up what is at the path. With Replace that is the link itself. Nothing there is no error.
 FileResult<Look> lookAt(const QString& native, AtLink atLink);
 
-/// The names in a folder without "." and "..", in any order.
+/// The names in a folder without "." and "..", on Windows without hidden ones too, in any order.
 FileResult<QStringList> listNames(const QString& native);
 
 /// A regular file that is open for reading. All that it tells comes from this one opening.

@@ -8,12 +8,13 @@
 
 namespace platform {
 
-// A section and a key line of an ini file. They refer to its text. Lines count from 1.
+/// A key line of an ini file. It refers to its text. Lines count from 1.
 struct OutlineKey {
   QByteArrayView name;
   QByteArrayView value;  ///< as findIniValue gives it
   int line = 0;
 };
+/// A section with its keys, the same way.
 struct OutlineSection {
   QByteArrayView name;
   int line = 0;

@@ -44,7 +44,7 @@ void StatusLine::showAll() {
   shown_ = QStringList{done_, report_} + notes_;
   shown_.removeAll(QString());
   showReport(shown_.join(Separator));
-  if (tellings_ == 0) endOperation();
+  if (scopes_ == 0) endOperation();
 }
 
 void StatusLine::endOperation() {
@@ -53,7 +53,7 @@ void StatusLine::endOperation() {
 }
 
 ReportScope::~ReportScope() {
-  if (--status_.tellings_ == 0) status_.endOperation();
+  if (--status_.scopes_ == 0) status_.endOperation();
 }
 
 void ReportScope::success(const QString& text) {

@@ -22,8 +22,6 @@ class StatusLine {
   void withdraw(const QString& text);
   /// Another operation begins inside the running one: what that has done and reported is shown no more.
   void startAnew();
-  /// The number of reports and notes so far.
-  int told() const { return told_; }
 
  protected:
   virtual void showReport(const QString& text) = 0;
@@ -37,15 +35,15 @@ class StatusLine {
   QString report_;     ///< its last report
   QStringList notes_;  ///< its notes
   QStringList shown_;  ///< the parts of the text that is shown
-  int tellings_ = 0;
-  int told_ = 0;
+  int scopes_ = 0;     ///< that are there now
+  int told_ = 0;       ///< reports and notes so far
 };
 
 /// Brackets an operation: the status line shows its last report and all its notes together. An operation inside another
 /// one belongs to that.
 class ReportScope {
  public:
-  explicit ReportScope(StatusLine& status) : status_(status), before_(status.told_) { ++status_.tellings_; }
+  explicit ReportScope(StatusLine& status) : status_(status), before_(status.told_) { ++status_.scopes_; }
   ~ReportScope();
   ReportScope(const ReportScope&) = delete;
   ReportScope& operator=(const ReportScope&) = delete;

@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/ini_lines.h"
+
 namespace platform {
 
 std::optional<QByteArrayView> TextLines::next() {
   if (rest_.isEmpty()) return std::nullopt;
-  const auto end = std::find_if(rest_.begin(), rest_.end(), [](char c) { return c == '\n' || c == '\r'; });
+  const auto end = std::find_if(rest_.begin(), rest_.end(), ini::isLineEnd);
   const QByteArrayView line = rest_.first(end - rest_.begin());
   rest_ = rest_.sliced(line.size());
   if (rest_.startsWith("\r\n")) {

@@ -11,8 +11,8 @@
 
 namespace progressbar {
 
-/// A progress bar with a caption. Every write of a property raises PropertyChanged
-/// with the property's key, and repaints the bar in the next frame of the screen.
+/// A progress bar with a caption. Every write of a property raises PropertyChanged with the property's key, and
+/// repaints the bar in the next frame of the screen.
 class ProgressBar : public QWidget, public AccessibleBarSource {
   Q_OBJECT
 

@@ -4,7 +4,6 @@
 
 #include "platform/code_page.h"
 #include "themefiles/colour_tables.h"
-#include "themefiles/screen_table.h"
 
 namespace themecheck {
 namespace {

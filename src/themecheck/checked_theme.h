@@ -4,7 +4,7 @@
 #include <utility>
 
 #include <QSet>
-#include <QStringList>
+#include <QString>
 
 #include "platform/status_line.h"
 #include "themecheck/findings.h"

@@ -7,7 +7,7 @@
 
 #include "themefiles/module_state.h"
 
-/// The keys of a section that its mark is placed by, and their fields of the state's CursorRect.
+/// The numeric keys of a section that its mark is placed by, and their fields of the state's CursorRect.
 namespace themefiles {
 
 struct MarkKey {

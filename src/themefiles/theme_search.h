@@ -3,7 +3,6 @@
 #include <memory>
 #include <vector>
 
-#include <QHash>
 #include <QString>
 
 #include "themefiles/module_state.h"

@@ -7,7 +7,6 @@
 
 #include "propertybag/stored_bytes.h"
 #include "propertybag/stored_values.h"
-#include "toolbar/stored_form.h"
 
 namespace toolbar {
 

@@ -1,7 +1,6 @@
 #include "toolwindow/changes.h"
 
 #include <optional>
-#include <utility>
 
 #include "controls/idle_steps.h"
 #include "controls/work_queue.h"

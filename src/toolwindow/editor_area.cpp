@@ -83,7 +83,7 @@ QString EditorArea::untaken() const {
 
 void EditorArea::dropChanges() {
   const QString lost = untaken();
-  for (ValueFrame* frame : frames_) frame->settleChanges();
+  for (ValueFrame* frame : frames_) frame->forgetChanges();
   if (lost.isEmpty()) return;
   const auto scope = std::make_shared<platform::ReportScope>(services_.session.status());
   services_.session.status().note(lost);
@@ -96,7 +96,7 @@ editing::Proposal EditorArea::propose(EditorFrame frame) {
 }
 
 void EditorArea::proposalWritten() {
-  if (ValueFrame* const frame = std::exchange(proposing_, nullptr)) frame->settleChanges();
+  if (ValueFrame* const frame = std::exchange(proposing_, nullptr)) frame->forgetChanges();
 }
 
 }  // namespace toolwindow

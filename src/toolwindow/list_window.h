@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <vector>
 
 #include "controls/list_box.h"
 #include "controls/text_box.h"
@@ -15,8 +14,8 @@ namespace toolwindow {
 class Form2;
 
 /// The window in which a question about the whole theme is answered by a list. A line narrows the list. It stays until
-/// the user has gone to a row, presses Esc or closes it. With a source that does
-/// something with rows, several can be chosen, and it has a button and a menu for that.
+/// the user has gone to a row, presses Esc or closes it. With a source that does something with rows, several can be
+/// chosen, and it has a button and a menu for that.
 class ListWindow : public ThemeWindow {
   Q_OBJECT
 

@@ -8,7 +8,6 @@
 #include "controls/work_queue.h"
 #include "editing/saved_state.h"
 #include "editing/session.h"
-#include "platform/failure.h"
 #include "platform/status_line.h"
 
 namespace toolwindow {

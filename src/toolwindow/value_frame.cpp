@@ -37,7 +37,7 @@ QString ValueFrame::untaken() const {
   return touched_ ? editing::changeText(frame_, key_, {value_, content_}, proposal()) : QString();
 }
 
-void ValueFrame::settleChanges() {
+void ValueFrame::forgetChanges() {
   const editing::Proposal taken = proposal();
   value_ = taken.value.value_or(value_);
   content_ = taken.content;

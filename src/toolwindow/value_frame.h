@@ -34,8 +34,8 @@ class ValueFrame : public QWidget {
   bool touched() const { return touched_; }
   /// What that is, as a commit would tell it; empty for nothing.
   QString untaken() const;
-  /// What the frame proposes has been written, or dropped.
-  void settleChanges();
+  /// From here on what the frame shows counts as unchanged: it has been written, or dropped.
+  void forgetChanges();
 
  Q_SIGNALS:
   /// Enter was pressed in a text box of the frame.

@@ -4,7 +4,6 @@
 #include "ignored.h"
 #include "output.h"
 #include "platform/console.h"
-#include "platform/failure.h"
 #include "progress.h"
 #include "windowless_tool.h"
 
