@@ -11,6 +11,7 @@
 #include "platform/code_page.h"
 #include "platform/numbers.h"
 #include "themefiles/key_table.h"
+#include "themefiles/section_names.h"
 #include "themefiles/tag_listing.h"
 
 namespace editing {
@@ -84,7 +85,7 @@ QString subject(const Difference& difference) {
 }  // namespace
 
 bool isColor(const KeyPlace& place) {
-  return place.copy == &ThemePaths::ThemeFile && platform::sameName(place.section, u"Colors");
+  return place.copy == &ThemePaths::ThemeFile && platform::sameName(place.section, themefiles::ColorsSection);
 }
 
 QString Difference::told() const {

@@ -4,6 +4,7 @@
 #include "editing/reports.h"
 #include "platform/failure.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/section_names.h"
 #include "themefiles/working_copies.h"
 
 namespace editing {
@@ -25,8 +26,8 @@ std::optional<QString> valueOf(const Session& session, ReferenceKind kind, const
 }  // namespace
 
 ReferenceFile fileOf(ReferenceKind kind) {
-  if (kind == ReferenceKind::Text) return {&ThemePaths::LanguageFile, QStringLiteral("Text")};
-  return {&ThemePaths::SkinFile, QStringLiteral("Textures")};
+  if (kind == ReferenceKind::Text) return {&ThemePaths::LanguageFile, themefiles::TextSection};
+  return {&ThemePaths::SkinFile, themefiles::TexturesSection};
 }
 
 std::optional<ReferenceKind> referenceOf(themefiles::EditorFrame frame) {

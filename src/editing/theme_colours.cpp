@@ -7,19 +7,17 @@
 #include "platform/code_page.h"
 #include "themefiles/colour_tables.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/section_names.h"
 #include "themefiles/working_copies.h"
 
 namespace editing {
 namespace {
 
+using themefiles::ColorsSection;
 using themefiles::ModuleState;
 using themefiles::NamedColor;
 
 constexpr QStringView AddStep = u"Error while adding colors";
-
-QString section() {
-  return QStringLiteral("Colors");
-}
 
 template <typename Table>
 auto rowNamed(Table& table, const QString& name) {
@@ -54,7 +52,7 @@ void setRowsLike(Session& session, const QString& name, const QString& value) {
 }
 
 bool write(Session& session, QStringView step, const QString& name, const std::optional<QString>& value) {
-  return writeAtOnce(session, step, &themefiles::ThemePaths::ThemeFile, section(), name, value);
+  return writeAtOnce(session, step, &themefiles::ThemePaths::ThemeFile, ColorsSection, name, value);
 }
 
 }  // namespace
@@ -90,13 +88,13 @@ bool changeColor(Session& session, const QString& name, const QString& color) {
 
 std::optional<SavedValue> savedColor(const ModuleState& state, const QString& name) {
   const SavedState saved(state);
-  return SavedObject(saved, section()).of(name, std::nullopt);
+  return SavedObject(saved, ColorsSection).of(name, std::nullopt);
 }
 
 bool putSavedColorBack(Session& session, const QString& name, const SavedValue& saved) {
   if (!writeAtOnce(session, WriteStep, [&] { putLinesBack(session.state(), saved.lines, session.status()); }))
     return false;
-  setRowsLike(session, name, themefiles::GetINI(section(), name, newColor(), session.state().paths.ThemeFile));
+  setRowsLike(session, name, themefiles::GetINI(ColorsSection, name, newColor(), session.state().paths.ThemeFile));
   return true;
 }
 
@@ -106,7 +104,7 @@ void followColors(Session& session, const QStringList& names) {
     auto row = rowLike(state, name);
     if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
     if (row != state.ThemeColors.end() && row->Name.isEmpty()) row->Name = name;
-    setRowsLike(session, name, themefiles::GetINI(section(), name, newColor(), state.paths.ThemeFile));
+    setRowsLike(session, name, themefiles::GetINI(ColorsSection, name, newColor(), state.paths.ThemeFile));
   }
 }
 
@@ -125,7 +123,7 @@ std::optional<QString> addColor(Session& session, const QString& name) {
   QString replaced;
   const bool read = platform::guarded(status, AddStep.toString(), [&] {
     const QByteArray theme = themefiles::presentText(state, &themefiles::ThemePaths::ThemeFile);
-    replaced = themefiles::wholeValue(theme, section(), name).value_or(QString());
+    replaced = themefiles::wholeValue(theme, ColorsSection, name).value_or(QString());
   });
   const platform::ReportScope scope(status);
   if (!read || !write(session, AddStep, name, newColor())) return std::nullopt;
@@ -142,7 +140,7 @@ std::optional<QString> removeColor(Session& session, const QString& name) {
   NamedColor& row = *rowLike(state, name);
   const QString removed = row.Name;
   row = {};
-  setRowsLike(session, name, themefiles::GetINI(section(), name, QStringLiteral("0 0 0"), state.paths.ThemeFile));
+  setRowsLike(session, name, themefiles::GetINI(ColorsSection, name, QStringLiteral("0 0 0"), state.paths.ThemeFile));
   return removed;
 }
 

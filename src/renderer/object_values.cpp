@@ -7,6 +7,7 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/numbers.h"
+#include "themefiles/section_names.h"
 
 namespace renderer {
 namespace {
@@ -78,11 +79,11 @@ std::optional<Box> themeBox(RenderContext& context, const ObjectSection& section
 
 PictureFile texturePath(RenderContext& context, const ObjectSection& section) {
   const QString name = section.Value(QStringLiteral("Tex"));
-  const QString file = readValue(context, QStringLiteral("Textures"), context.state.paths.SkinFile, name);
+  const QString file = readValue(context, themefiles::TexturesSection, context.state.paths.SkinFile, name);
   if (file.isEmpty()) {
     const QString none = QStringLiteral("-");
     const bool isThere =
-        readValue(context, QStringLiteral("Textures"), context.state.paths.SkinFile, name, none).isEmpty();
+        readValue(context, themefiles::TexturesSection, context.state.paths.SkinFile, name, none).isEmpty();
     leaveOut(context, section.Name(), isThere ? Reason::EmptyTexture : Reason::NoTexture, QStringLiteral("Tex"), name);
     return {};
   }

@@ -6,6 +6,7 @@
 #include "drawing/system_colours.h"
 #include "platform/numbers.h"
 #include "themefiles/colour_tables.h"
+#include "themefiles/section_names.h"
 
 namespace renderer {
 namespace {
@@ -57,7 +58,7 @@ bool setFont(RenderContext& context, const ObjectSection& section) {
 QString wordsOf(const RenderContext& context, const ObjectSection& section) {
   const QString key = section.Value(QStringLiteral("Text"), section.Name());
   if (key.isEmpty()) return section.Name();
-  return readValue(context, QStringLiteral("Text"), context.state.paths.LanguageFile, key, key);
+  return readValue(context, themefiles::TextSection, context.state.paths.LanguageFile, key, key);
 }
 
 void printAligned(RenderContext& context, const ObjectSection& section, const QString& words, const QString& owner) {

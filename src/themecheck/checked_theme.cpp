@@ -19,7 +19,7 @@ std::vector<const IniSection*> objectsOf(const IniFile& theme) {
   std::vector<const IniSection*> objects;
   for (const IniSection& section : theme.sections()) {
     if (section.line != section.counted || platform::sameName(section.name, u"Theme") ||
-        platform::sameName(section.name, u"Colors")) {
+        platform::sameName(section.name, themefiles::ColorsSection)) {
       continue;
     }
     objects.push_back(&section);

@@ -11,12 +11,9 @@
 #include "themecheck/ini_file.h"
 #include "themefiles/key_table.h"
 #include "themefiles/module_state.h"
+#include "themefiles/section_names.h"
 
 namespace themecheck {
-
-/// The sections that the names of textures and texts are looked up in, of a skin and of a language.
-inline const QString Textures = QStringLiteral("Textures");
-inline const QString Text = QStringLiteral("Text");
 
 /// The files of a theme, each where it is to be read: the game's own, or working copies.
 struct ThemeFiles {

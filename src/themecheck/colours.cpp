@@ -9,7 +9,8 @@
 namespace themecheck {
 namespace {
 
-const QString Colors = QStringLiteral("Colors");
+using themefiles::ColorsSection;
+
 constexpr qsizetype MostColors = 99;
 
 bool isColor(const QString& value) {
@@ -24,16 +25,16 @@ bool isColor(const QString& value) {
 void checkTable(CheckedTheme& theme, QSet<QString> used, Findings& findings) {
   used.removeIf([&](const QString& name) { return isBuiltInColor(theme, name); });
   const IniFile& file = theme.theme();
-  const IniSection* table = file.find(Colors);
+  const IniSection* table = file.find(ColorsSection);
   const auto isThere = [&](const QString& name) { return table && table->find(name); };
   const qsizetype least = table ? 2 : 1;
   if (used.size() < least || std::any_of(used.begin(), used.end(), isThere)) return;
   theme.colorsLost = true;
-  if (platform::sameName(file.sectionBehindMark(), Colors)) return;  // told already
+  if (platform::sameName(file.sectionBehindMark(), ColorsSection)) return;  // told already
   if (table) {
-    findings.add(Kind::EmptyTable, file.place(Colors), {QString::number(used.size())});
+    findings.add(Kind::EmptyTable, file.place(ColorsSection), {QString::number(used.size())});
   } else {
-    findings.add(Kind::NoTable, file.wholeFile(), {Colors, namesOfTheme(used.size())});
+    findings.add(Kind::NoTable, file.wholeFile(), {ColorsSection, namesOfTheme(used.size())});
   }
 }
 
@@ -45,17 +46,17 @@ void checkColors(CheckedTheme& theme, Findings& findings) {
   HeardReports reports;
   themefiles::ModuleState read = theme.state;
   themefiles::ReadColors(read, reports);
-  const IniSection* table = file.find(Colors);
+  const IniSection* table = file.find(ColorsSection);
   if (reports.heard && table && std::ssize(table->keys) > MostColors) {
     theme.colorsLost = true;
     findings.add(Kind::TooManyColors, file.placeOf(*table, table->keys[MostColors]));
   }
   theme.state = read;
   if (!theme.colorsLost) checkTable(theme, used, findings);
-  for (const IniKey* key : file.keysOf(Colors)) {
+  for (const IniKey* key : file.keysOf(ColorsSection)) {
     if (!isColor(key->value)) {
       theme.badColors += key->name;
-      findings.add(Kind::BadColor, file.valueOf(Colors, key->name), {key->value});
+      findings.add(Kind::BadColor, file.valueOf(ColorsSection, key->name), {key->value});
     }
     if (isBuiltInColor(theme, key->name) || !used.contains(key->name)) {
       findings.add(Kind::UnusedColor, file.placeOf(*table, *key));

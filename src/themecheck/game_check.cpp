@@ -17,8 +17,6 @@
 namespace themecheck {
 namespace {
 
-const QString Ini = QStringLiteral(".ini");
-
 /// The names that were asked for, as the game spells them; all of them when none was.
 QStringList chosen(const QStringList& names, const QStringList& asked, const QString& what) {
   QStringList found;
@@ -74,7 +72,7 @@ GameCheck::GameCheck(const Request& request, const Progress& progress) : request
   folder_ = platform::programPath(game.absolutePath()) + u'\\';
   const QString themes = folder_ + QStringLiteral("Themes");
   try {
-    themeNames_ = platform::listFiles(themes, Ini);
+    themeNames_ = platform::listFiles(themes, themefiles::IniEnding);
   } catch (const platform::Failure& failure) {
     throw platform::Failure(QStringLiteral("'%1' can't be listed: %2").arg(shown(themes), failure.description()));
   }
@@ -105,12 +103,12 @@ QString GameCheck::shown(const QString& path) const {
 std::optional<QStringList> GameCheck::namesIn(const QString& folder) {
   QStringList names;
   try {
-    names = platform::listFiles(folder, Ini);
+    names = platform::listFiles(folder, themefiles::IniEnding);
   } catch (const platform::Failure& failure) {
     own_.add(Kind::CantBeRead, {shown(folder), 1, 0, {}, {}}, {failure.description()});
     return std::nullopt;
   }
-  for (QString& name : names) name.chop(Ini.size());
+  for (QString& name : names) name.chop(themefiles::IniEnding.size());
   names.removeDuplicates();
   return names;
 }

@@ -1,6 +1,7 @@
 #include "themecheck/letters.h"
 
 #include "platform/code_page.h"
+#include "themefiles/section_names.h"
 
 namespace themecheck {
 namespace {
@@ -41,7 +42,8 @@ void checkMark(const IniFile& file, const QString& table, Findings& findings) {
   if (isAboutFile) {
     findings.add(Kind::Mark, file.wholeFile());
   } else {
-    findings.add(table == u"Text" ? Kind::WordsHidingMark : Kind::HidingMark, file.wholeFile(), {hidden});
+    findings.add(table == themefiles::TextSection ? Kind::WordsHidingMark : Kind::HidingMark, file.wholeFile(),
+                 {hidden});
   }
 }
 

@@ -19,6 +19,7 @@ namespace themecheck {
 namespace {
 
 using platform::upperCase;
+using themefiles::TexturesSection;
 
 constexpr auto PictureEndings = std::to_array<QStringView>({u".bmp", u".gif", u".jpg", u".jpeg", u".png"});
 
@@ -28,7 +29,7 @@ bool isThere(const QString& file) {
 }
 
 bool hasFile(const IniFile& skin, const QString& texture) {
-  const IniSection* const textures = skin.find(Textures);
+  const IniSection* const textures = skin.find(TexturesSection);
   return textures && !textures->value(texture).isEmpty();
 }
 
@@ -75,7 +76,7 @@ SkinCheck::SkinCheck(CheckedTheme& theme, Findings& findings)
       used_(upperCase(valuesOf(theme.theme(), themefiles::KeyGroup::Texture))) {
   for (const IniFile& skin : theme.skins) {
     std::vector<Texture>& textures = textures_.emplace_back();
-    for (const IniKey* key : skin.keysOf(Textures)) textures.push_back({key, {}, {}, false});
+    for (const IniKey* key : skin.keysOf(TexturesSection)) textures.push_back({key, {}, {}, false});
   }
 }
 
@@ -94,15 +95,15 @@ void SkinCheck::look(size_t skin, size_t texture) {
 /// A skin without any of the textures in use is one fault, and so is one without any of its pictures.
 void SkinCheck::checkWhole(size_t number) {
   const IniFile& skin = theme_.skins[number];
-  const bool hasTable = skin.find(Textures);
+  const bool hasTable = skin.find(TexturesSection);
   const bool hasSome =
-      std::any_of(used_.begin(), used_.end(), [&](const QString& name) { return skin.has(Textures, name); });
+      std::any_of(used_.begin(), used_.end(), [&](const QString& name) { return skin.has(TexturesSection, name); });
   if (!hasSome && used_.size() >= (hasTable ? 2 : 1)) {
     theme_.lostSkins += skin.name();
     if (hasTable) {
-      findings_.add(Kind::EmptyTable, skin.place(Textures), {QString::number(used_.size())});
-    } else if (!platform::sameName(skin.sectionBehindMark(), Textures)) {
-      findings_.add(Kind::NoTable, skin.wholeFile(), {Textures, namesOfTheme(used_.size())});
+      findings_.add(Kind::EmptyTable, skin.place(TexturesSection), {QString::number(used_.size())});
+    } else if (!platform::sameName(skin.sectionBehindMark(), TexturesSection)) {
+      findings_.add(Kind::NoTable, skin.wholeFile(), {TexturesSection, namesOfTheme(used_.size())});
     }
   }
   QSet<QString> files;
@@ -112,7 +113,7 @@ void SkinCheck::checkWhole(size_t number) {
   }
   if (files.size() < 2) return;
   theme_.picturelessSkins += skin.name();
-  findings_.add(Kind::NoPictures, skin.place(Textures), {QString::number(files.size())});
+  findings_.add(Kind::NoPictures, skin.place(TexturesSection), {QString::number(files.size())});
 }
 
 void SkinCheck::checkTexture(size_t number, size_t texture) {
@@ -120,10 +121,10 @@ void SkinCheck::checkTexture(size_t number, size_t texture) {
   const Texture& present = textures_[number][texture];
   const IniKey& key = *present.key;
   if (!used_.contains(upperCase(key.name))) {
-    findings_.add(Kind::UnusedTexture, skin.placeOf(*skin.find(Textures), key));
+    findings_.add(Kind::UnusedTexture, skin.placeOf(*skin.find(TexturesSection), key));
   }
   if (present.found == present.wanted || !present.isThere) return;
-  findings_.add(Kind::OtherCase, skin.valueOf(Textures, key.name),
+  findings_.add(Kind::OtherCase, skin.valueOf(TexturesSection, key.name),
                 {key.value, present.found.sliced(folder_.size() + 1)});
 }
 
@@ -136,7 +137,7 @@ void SkinCheck::checkLacking(size_t number, size_t texture) {
   seen_ += name;
   for (const IniFile& other : theme_.skins) {
     if (!other.isChecked() || hasFile(other, key.name) || theme_.lostSkins.contains(other.name())) continue;
-    findings_.add(Kind::LackingTexture, skin.placeOf(*skin.find(Textures), key), {}, {other.name(), {}, {}});
+    findings_.add(Kind::LackingTexture, skin.placeOf(*skin.find(TexturesSection), key), {}, {other.name(), {}, {}});
   }
 }
 

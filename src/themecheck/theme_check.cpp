@@ -53,8 +53,10 @@ void ThemeCheck::readTheme() {
       checkHeads(files.back(), false, findings_);
     });
   };
-  for (const CheckedFile& skin : theme_.files.skins) readLater(skin, theme_.skins, theme_.allSkins, Textures);
-  for (const CheckedFile& file : theme_.files.languages) readLater(file, theme_.languages, theme_.allLanguages, Text);
+  for (const CheckedFile& skin : theme_.files.skins)
+    readLater(skin, theme_.skins, theme_.allSkins, themefiles::TexturesSection);
+  for (const CheckedFile& file : theme_.files.languages)
+    readLater(file, theme_.languages, theme_.allLanguages, themefiles::TextSection);
   steps_.add(theme_.files.theme.name, [this] { checkFiles(); });
 }
 
@@ -66,7 +68,7 @@ void ThemeCheck::checkFiles() {
   const QString& name = theme_.files.theme.name;
   const auto later = [&](const std::function<void()>& work) { steps_.add(name, work); };
   later([this] {
-    checkLetters(theme_.theme(), QStringLiteral("Colors"), findings_);
+    checkLetters(theme_.theme(), themefiles::ColorsSection, findings_);
     checkHeads(theme_.theme(), true, findings_);
   });
   later([this] { checkDoubles(theme_.theme(), findings_); });

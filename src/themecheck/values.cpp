@@ -12,6 +12,7 @@ namespace {
 using themefiles::EditorFrame;
 using themefiles::GroupRow;
 using themefiles::KeyGroup;
+using themefiles::TexturesSection;
 
 /// The colour of a text that names none.
 constexpr auto ChannelsOfTexts = std::to_array<QStringView>({u"COLR", u"COLG", u"COLB"});
@@ -58,9 +59,9 @@ void checkColor(const CheckedTheme& theme, const IniKey& key, const Place& place
 void checkTexture(const CheckedTheme& theme, const IniKey& key, const Place& place, Findings& findings) {
   for (const IniFile& skin : theme.skins) {
     if (!skin.isChecked() || theme.lostSkins.contains(skin.name())) continue;
-    const IniSection* const textures = skin.find(QStringLiteral("Textures"));
+    const IniSection* const textures = skin.find(TexturesSection);
     if (textures && !textures->value(key.value).isEmpty()) continue;
-    const bool isEmpty = skin.has(QStringLiteral("Textures"), key.value);
+    const bool isEmpty = skin.has(TexturesSection, key.value);
     findings.add(isEmpty ? Kind::GameEmptyTexture : Kind::GameTexture, place, {key.value}, {skin.name(), {}, {}});
   }
 }

@@ -7,8 +7,10 @@
 namespace themecheck {
 namespace {
 
+using themefiles::TextSection;
+
 bool hasWords(const IniFile& language, const QString& key) {
-  return language.has(Text, key);
+  return language.has(TextSection, key);
 }
 
 bool isKnown(const CheckedTheme& theme, const QString& key) {
@@ -25,7 +27,7 @@ QChar kindOf(QChar letter) {
 QSet<QChar> lettersOfNames(const CheckedTheme& theme) {
   QSet<QChar> kinds{u'A', u'_'};
   for (const IniFile& language : theme.languages) {
-    for (const IniKey* key : language.keysOf(Text)) {
+    for (const IniKey* key : language.keysOf(TextSection)) {
       for (const QChar letter : key->name) kinds += kindOf(letter);
     }
   }
@@ -40,7 +42,7 @@ bool looksLikeName(const QString& text, const QSet<QChar>& letters) {
 
 /// A language without any of the words in use is one fault.
 void checkTable(CheckedTheme& theme, const IniFile& language, const QSet<QString>& used, Findings& findings) {
-  const bool hasTable = language.find(Text);
+  const bool hasTable = language.find(TextSection);
   if (used.size() < (hasTable ? 2 : 1) ||
       std::any_of(used.begin(), used.end(), [&](const QString& key) { return hasWords(language, key); })) {
     return;
@@ -48,9 +50,9 @@ void checkTable(CheckedTheme& theme, const IniFile& language, const QSet<QString
   theme.lostLanguages += language.name();
   if (!language.isChecked()) return;
   if (hasTable) {
-    findings.add(Kind::EmptyWordsTable, language.place(Text), {QString::number(used.size())});
-  } else if (!platform::sameName(language.sectionBehindMark(), Text)) {
-    findings.add(Kind::NoWordsTable, language.wholeFile(), {Text, namesOfTheme(used.size())});
+    findings.add(Kind::EmptyWordsTable, language.place(TextSection), {QString::number(used.size())});
+  } else if (!platform::sameName(language.sectionBehindMark(), TextSection)) {
+    findings.add(Kind::NoWordsTable, language.wholeFile(), {TextSection, namesOfTheme(used.size())});
   }
 }
 
@@ -65,7 +67,7 @@ void checkWords(CheckedTheme& theme, Findings& findings) {
   for (const IniSection* object : objectsOf(file)) {
     const QString key = wordsKeyOf(*object);
     if (key.isEmpty()) continue;
-    const Place place = file.valueOf(object->name, Text);
+    const Place place = file.valueOf(object->name, QStringLiteral("Text"));
     if (!isKnown(theme, key)) {
       const bool isTold = !theme.allLanguages || !theme.lostLanguages.isEmpty() || theme.languages.empty();
       if (!isTold && used.contains(key)) findings.add(Kind::NoLanguage, place, {key});
@@ -85,9 +87,9 @@ QSet<QString> wordsOf(const IniFile& theme) {
 }
 
 void checkUnusedWords(const IniFile& language, const QSet<QString>& used, Findings& findings) {
-  for (const IniKey* key : language.keysOf(Text)) {
+  for (const IniKey* key : language.keysOf(TextSection)) {
     if (used.contains(platform::upperCase(key->name))) continue;
-    findings.add(Kind::UnusedWords, language.placeOf(*language.find(Text), *key));
+    findings.add(Kind::UnusedWords, language.placeOf(*language.find(TextSection), *key));
   }
 }
 

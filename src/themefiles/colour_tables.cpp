@@ -9,6 +9,7 @@
 #include "platform/failure.h"
 #include "platform/numbers.h"
 #include "themefiles/ini_access.h"
+#include "themefiles/section_names.h"
 
 namespace themefiles {
 namespace {
@@ -76,13 +77,13 @@ void fillBuiltInColors(ModuleState& state) {
 
 void fillThemeColors(ModuleState& state) {
   const QString& file = state.paths.ThemeFile;
-  const QString list = GetINI(QStringLiteral("Colors"), std::nullopt, QString(), file, ListBufferSize);
+  const QString list = GetINI(ColorsSection, std::nullopt, QString(), file, ListBufferSize);
   if (list.isEmpty()) return;
   auto row = state.ThemeColors.begin();
   // The last element is empty, and takes a row as well.
   for (const QString& name : list.split(QChar(0))) {
     if (row == state.ThemeColors.end()) throw platform::Failure(QStringLiteral("more than 99 colours"));
-    *row++ = {name, GetINI(QStringLiteral("Colors"), name, QStringLiteral("0 0 0"), file)};
+    *row++ = {name, GetINI(ColorsSection, name, QStringLiteral("0 0 0"), file)};
   }
 }
 

@@ -6,16 +6,14 @@
 namespace themefiles {
 namespace {
 
-const QString Ending = QStringLiteral(".ini");
-
 QStringList namesIn(const QString& folder) {
   QStringList names;
   try {
-    names = platform::listFiles(folder, Ending);
+    names = platform::listFiles(folder, IniEnding);
   } catch (const platform::Failure&) {
     // The list stays empty.
   }
-  for (QString& name : names) name.chop(Ending.size());
+  for (QString& name : names) name.chop(IniEnding.size());
   return names;
 }
 
@@ -37,10 +35,10 @@ ThemePaths pathsOf(const QString& gameFolder, const QString& theme, const QStrin
   ThemePaths paths;
   paths.ExeDirectory = gameFolder;
   paths.LanguagesDirectory = gameFolder + QStringLiteral("\\Languages");
-  paths.ThemeFile = gameFolder + QStringLiteral("Themes\\") + theme + Ending;
+  paths.ThemeFile = gameFolder + QStringLiteral("Themes\\") + theme + IniEnding;
   paths.SkinDirectory = gameFolder + QStringLiteral("Skins\\") + theme;
-  paths.SkinFile = paths.SkinDirectory + u'\\' + skin + Ending;
-  paths.LanguageFile = paths.LanguagesDirectory + u'\\' + language + Ending;
+  paths.SkinFile = paths.SkinDirectory + u'\\' + skin + IniEnding;
+  paths.LanguageFile = paths.LanguagesDirectory + u'\\' + language + IniEnding;
   return paths;
 }
 

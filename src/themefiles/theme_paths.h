@@ -8,6 +8,8 @@
 /// its file without ".ini".
 namespace themefiles {
 
+inline const QString IniEnding = QStringLiteral(".ini");
+
 /// The names in the order of platform::listFiles; none if the folder can't be read.
 QStringList themesOf(const QString& gameFolder);
 QStringList skinsOf(const QString& gameFolder, const QString& theme);

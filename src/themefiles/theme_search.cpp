@@ -7,6 +7,7 @@
 #include "platform/files.h"
 #include "platform/ini_reading.h"
 #include "themefiles/key_table.h"
+#include "themefiles/section_names.h"
 #include "themefiles/tag_listing.h"
 #include "themefiles/tag_reader.h"
 
@@ -36,7 +37,7 @@ class ThemeSearch::Reading {
         language_(platform::IniText(platform::readFile(state.paths.LanguageFile))),
         tags_(theme_.text()),
         rows_(allTags(theme_.text())),
-        words_(platform::iniKeys(language_.lines("Text"))) {}
+        words_(platform::iniKeys(language_.lines(TextSection.toLatin1()))) {}
 
   const ScreenTags& tags() const { return tags_; }
   /// The lines of an object. Screens share them.
