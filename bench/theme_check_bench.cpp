@@ -79,7 +79,7 @@ class Drawings {
   }
 
   void draw(renderer::Parts parts, const themefiles::ThemePaths& paths) {
-    renderer::TrialFrame frame(noValues_, files_);
+    renderer::TrialFrame frame(files_);
     for (const auto& screen : screens_) {
       screen->state.paths = paths;
       renderer::RenderContext context = contextOf(*screen, screen->tags, parts, frame);
@@ -117,7 +117,6 @@ class Drawings {
   }
 
   Unread status_;
-  std::vector<renderer::TrialValues> noValues_;
   renderer::TrialFiles files_;
   std::vector<std::unique_ptr<renderer::ChosenScreen>> screens_;
 };

@@ -14,7 +14,7 @@
 #include "controls/work_queue.h"
 #include "drawing/surface.h"
 #include "mainwindows/main_window.h"
-#include "mainwindows/theme_variants.h"
+#include "mainwindows/open_files.h"
 #include "mainwindows/variant_drawing.h"
 #include "themefiles/module_state.h"
 #include "toolwindow/tool_window.h"
@@ -85,10 +85,10 @@ void SideBySide::open() {
 void SideBySide::listVariants() {
   const OpenFiles files(form_.services.state.paths);
   std::vector<Variant> variants;
-  for (const ReadFile& skin : files.skins) {
+  for (const themecheck::CheckedFile& skin : files.skins) {
     variants.push_back({skin.name + QStringLiteral(", ") + files.language.name, skin.path, files.language.path});
   }
-  for (const ReadFile& language : files.languages) {
+  for (const themecheck::CheckedFile& language : files.languages) {
     if (language.path == files.language.path) continue;
     variants.push_back({files.skin.name + QStringLiteral(", ") + language.name, files.skin.path, language.path});
   }

@@ -9,7 +9,7 @@
 #include "editing/goals.h"
 #include "editing/reports.h"
 #include "editing/session.h"
-#include "mainwindows/theme_variants.h"
+#include "mainwindows/open_files.h"
 #include "platform/code_page.h"
 #include "platform/files.h"
 #include "toolwindow/row_words.h"
@@ -20,17 +20,9 @@ namespace {
 using themecheck::Finding;
 using themefiles::ThemePaths;
 
-themecheck::CheckedFile checkedFile(const ReadFile& file) {
-  return {file.name, file.path, file.shown, true};
-}
-
 themecheck::ThemeFiles filesOf(const ThemePaths& paths) {
   const OpenFiles open(paths);
-  themecheck::ThemeFiles files{
-      checkedFile(open.theme), paths.SkinDirectory, QStringLiteral("Skins/") + open.theme.name, {}, {}};
-  for (const ReadFile& skin : open.skins) files.skins.push_back(checkedFile(skin));
-  for (const ReadFile& language : open.languages) files.languages.push_back(checkedFile(language));
-  return files;
+  return {open.theme, paths.SkinDirectory, QStringLiteral("Skins/") + open.theme.name, open.skins, open.languages};
 }
 
 /// The working copy, or the kind of file, that a finding is about.

@@ -4,8 +4,8 @@
 
 #include <QImage>
 
-#include "platform/status_line.h"
 #include "renderer/chosen_screen.h"
+#include "renderer/plain_host.h"
 #include "renderer/trial_values.h"
 #include "themefiles/module_state.h"
 
@@ -24,21 +24,15 @@ class VariantDrawing {
   const QImage& picture() const { return chosen_->workspace.image(); }
 
  private:
-  class NoStatus : public platform::StatusLine {
-   protected:
-    void showReport(const QString& /*text*/) override {}
-  };
-
   void choose();
   void draw(const themefiles::TagList& tags, void (*pass)(renderer::RenderContext&));
 
   themefiles::ModuleState state_;
   QString screen_, scheme_;
   renderer::PreparedPictures& pictures_;
-  NoStatus status_;
-  std::vector<renderer::TrialValues> noValues_;  ///< a frame without values on trial reads each file only once
+  renderer::NoStatus status_;
   renderer::TrialFiles files_;
-  renderer::TrialFrame frame_{noValues_, files_};
+  renderer::TrialFrame frame_{files_};
   std::optional<renderer::ChosenScreen> chosen_;
   bool hasBackground_ = false;
   size_t pass_ = 0;  ///< what comes next

@@ -14,6 +14,12 @@
 
 namespace renderer {
 
+/// Shows no report.
+class NoStatus : public platform::StatusLine {
+ protected:
+  void showReport(const QString& /*text*/) override {}
+};
+
 /// Reports message boxes to the status line, and answers no question.
 class NoDialogs : public platform::Dialogs {
  public:

@@ -7,11 +7,6 @@
 namespace renderer {
 namespace {
 
-class QuietStatus : public platform::StatusLine {
- protected:
-  void showReport(const QString& /*text*/) override {}
-};
-
 /// Gives a surface its pen back.
 class PenKeeper {
  public:
@@ -31,7 +26,7 @@ RenderAccount drawTrial(const RenderContext& context, const std::vector<TrialVal
   if (context.account.startPen) context.Workspace.setPen(*context.account.startPen);
   themefiles::ModuleState state = context.state;
   PlainHost host(context.host.screenName(), context.host.schemeName());
-  QuietStatus status;
+  NoStatus status;
   NoDialogs dialogs(status);
   TrialFrame frame(objects, files);
   RenderAccount account;
@@ -52,7 +47,7 @@ RenderAccount drawTrial(const RenderContext& context, const std::vector<TrialVal
 void drawTrialCursor(const themefiles::ModuleState& state, const themefiles::TagList& tags, drawing::Surface& workspace,
                      CursorMark& mark, const std::vector<TrialValues>& objects) {
   const PenKeeper pen(workspace);
-  QuietStatus status;
+  NoStatus status;
   themefiles::ModuleState tried = state;
   const TrialValues* const values = tags.ListIndex() < 0 ? nullptr : valuesOf(tags.List(tags.ListIndex()), objects);
   for (const themefiles::MarkKey& row : themefiles::MarkKeys) {

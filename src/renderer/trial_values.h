@@ -59,12 +59,14 @@ class TrialFiles {
 /// looked into it.
 class TrialFrame {
  public:
-  TrialFrame(const std::vector<TrialValues>& objects, TrialFiles& files) : objects_(objects), files_(files) {
-    files_.beginFrame();
-  }
+  TrialFrame(const std::vector<TrialValues>& objects, TrialFiles& files) : TrialFrame(files) { objects_ = &objects; }
+  /// Without values on trial: only each file is read once.
+  explicit TrialFrame(TrialFiles& files) : files_(files) { files_.beginFrame(); }
 
   /// The values on trial in a section; null without any.
-  const TrialValues* valuesOf(const QString& section) const { return renderer::valuesOf(section, objects_); }
+  const TrialValues* valuesOf(const QString& section) const {
+    return objects_ == nullptr ? nullptr : renderer::valuesOf(section, *objects_);
+  }
   const themefiles::SectionReader& section(const QString& name, const QString& file) const {
     return files_.section(name, file);
   }
@@ -72,7 +74,7 @@ class TrialFrame {
   std::optional<platform::FileIdentity> pictureAt(const QString& path);
 
  private:
-  const std::vector<TrialValues>& objects_;
+  const std::vector<TrialValues>* objects_ = nullptr;
   TrialFiles& files_;
   QHash<QString, std::optional<platform::FileIdentity>> pictures_;
 };

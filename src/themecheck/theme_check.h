@@ -7,7 +7,7 @@
 
 #include "renderer/prepared_pictures.h"
 #include "themecheck/checked_theme.h"
-#include "themecheck/drawing.h"
+#include "themecheck/drawn_screens.h"
 #include "themecheck/findings.h"
 #include "themecheck/steps.h"
 

@@ -1,4 +1,4 @@
-#include "mainwindows/theme_variants.h"
+#include "mainwindows/open_files.h"
 
 #include <algorithm>
 
@@ -9,32 +9,33 @@
 namespace mainwindows {
 namespace {
 
-const QString Ini = QStringLiteral(".ini");
+using themecheck::CheckedFile;
+using themefiles::IniEnding;
 
-ReadFile openFile(const themefiles::ThemePaths& paths, const QString& copy) {
+CheckedFile openFile(const themefiles::ThemePaths& paths, const QString& copy) {
   const QString file = copy.chopped(themefiles::WorkingEnding.size());
-  const QString name = file.sliced(file.lastIndexOf(u'\\') + 1).chopped(Ini.size());
+  const QString name = file.sliced(file.lastIndexOf(u'\\') + 1).chopped(IniEnding.size());
   QString shown = file.sliced(paths.ExeDirectory.size());
   while (shown.startsWith(u'\\')) shown.remove(0, 1);
   return {name, copy, shown.replace(u'\\', u'/')};
 }
 
 /// The files of these names, the open one among them in any case.
-std::vector<ReadFile> withOpen(const ReadFile& open, const QStringList& names) {
-  std::vector<ReadFile> files;
+std::vector<CheckedFile> withOpen(const CheckedFile& open, const QStringList& names) {
+  std::vector<CheckedFile> files;
   bool found = false;
   for (const QString& name : names) {
     const bool isOpen = !found && platform::sameName(name, open.name);
     found = found || isOpen;
-    files.push_back(isOpen ? open : ReadFile{name, {}, {}});
+    files.push_back(isOpen ? open : CheckedFile{name, {}, {}});
   }
   if (!found) files.push_back(open);
   const QString folder = open.path.first(open.path.lastIndexOf(u'\\') + 1);
   const QString shownFolder = open.shown.first(open.shown.lastIndexOf(u'/') + 1);
-  for (ReadFile& file : files) {
+  for (CheckedFile& file : files) {
     if (!file.path.isEmpty()) continue;
-    file.path = folder + file.name + Ini;
-    file.shown = shownFolder + file.name + Ini;
+    file.path = folder + file.name + IniEnding;
+    file.shown = shownFolder + file.name + IniEnding;
   }
   return files;
 }

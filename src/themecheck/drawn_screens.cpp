@@ -1,4 +1,4 @@
-#include "themecheck/drawing.h"
+#include "themecheck/drawn_screens.h"
 
 #include <algorithm>
 #include <array>
@@ -70,7 +70,7 @@ class ScreenCheck {
         tags_(chosenScreen(theme, screen, tools).tags),
         tools_(tools),
         findings_(findings),
-        frame_(tools.noValues, tools.files),
+        frame_(tools.files),
         state_(openState(theme, setting_.skin, setting_.language)),
         host_(screen, themefiles::schemeNames(theme.state).value(0)) {
     tools.surface.setPen(chosenScreen(theme, screen, tools).pen);
@@ -245,7 +245,7 @@ bool ScreenCheck::isUnseen(const renderer::DrawnObject& object) const {
   const IniSection* section = theme_.theme().find(object.section);
   const QString key = section ? wordsKeyOf(*section) : object.section;
   // A text without a key is drawn by the object's name.
-  const QString words = frame_.section(QStringLiteral("Text"), state_.paths.LanguageFile).Value(key, key);
+  const QString words = frame_.section(themefiles::TextSection, state_.paths.LanguageFile).Value(key, key);
   return key.isEmpty() || !words.isEmpty();
 }
 

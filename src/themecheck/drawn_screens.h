@@ -22,7 +22,6 @@ struct DrawingTools {
   };
 
   renderer::PreparedPictures pictures;
-  std::vector<renderer::TrialValues> noValues = {};  ///< a frame without values on trial reads each file only once
   renderer::TrialFiles files = {};
   drawing::Surface surface = {};
   std::map<QString, Screen> screens = {};  ///< those that were chosen already
