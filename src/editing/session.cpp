@@ -18,7 +18,7 @@ void Session::begin(themefiles::TagList& objects) {
   screen_.clear();
   listed_.reset();
   row_ = -1;
-  awaited_.reset();
+  pendingHit_.reset();
 }
 
 void Session::end() {
@@ -39,8 +39,8 @@ void Session::listObjects(const QString& kept, const std::function<void()>& yiel
   // What the user has picked while the list was filling outranks what is waited for.
   const int again = picked >= 0 ? -1 : rowOf(kept);
   const int row = again >= 0 ? again : picked;
-  if (row >= 0 && !awaited_) pickObject(row);
-  pickAwaited();
+  if (row >= 0 && !pendingHit_) pickObject(row);
+  pickPendingHit();
 }
 
 int Session::rowOf(const QString& object) const {
@@ -71,7 +71,7 @@ void Session::objectClicked(Chooser chooser) {
 }
 
 void Session::chooseObject(Chooser chooser) {
-  if (chooser == Chooser::User) awaited_.reset();
+  if (chooser == Chooser::User) pendingHit_.reset();
   settle();
   if (!isOpen()) return;  // what came to its end may have served events
   endGroup();
@@ -98,17 +98,17 @@ void Session::endGroup() {
 }
 
 void Session::goTo(const themefiles::Hit& hit) {
-  awaited_ = hit;
+  pendingHit_ = hit;
   if (screen_ != hit.screen) {
     Q_EMIT screenWanted(hit.screen);
   } else if (listIsComplete()) {
-    pickAwaited();
+    pickPendingHit();
   }
 }
 
 /// The list of the present screen is complete: picks the object and the row that are waited for.
-void Session::pickAwaited() {
-  const auto hit = std::exchange(awaited_, std::nullopt);
+void Session::pickPendingHit() {
+  const auto hit = std::exchange(pendingHit_, std::nullopt);
   if (!hit || hit->screen != screen_ || hit->object.isEmpty()) return;
   platform::guarded(status_, FindStep.toString(), [&] {
     const int row = rowOf(hit->object);

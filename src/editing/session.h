@@ -110,7 +110,7 @@ class Session : public QObject {
 
  private:
   void chooseObject(Chooser chooser);
-  void pickAwaited();
+  void pickPendingHit();
   int rowOf(const QString& object) const;
 
   themefiles::ModuleState& state_;
@@ -120,7 +120,7 @@ class Session : public QObject {
   std::optional<QString> listed_;  ///< the screen whose list is complete
   int row_ = -1;
   QStringList members_;
-  std::optional<themefiles::Hit> awaited_;
+  std::optional<themefiles::Hit> pendingHit_;
   bool picking_ = false;  ///< the list's Click isn't the user's
 };
 

@@ -61,9 +61,9 @@ struct CommandTargets {
 struct CommandRow {
   Command command;
   void (*run)(const CommandTargets& targets);
-  CommandTime time;
-  bool needsTheme;            ///< does nothing without an open theme
-  QStringView keys;           ///< empty for none
+  CommandTime time = CommandTime::Waits;
+  bool needsTheme = false;    ///< does nothing without an open theme
+  QStringView keys = u"";     ///< empty for none
   QStringView menu = u"";     ///< its entry in the preview's menu; empty for none
   int button = 0;             ///< its number on the toolbar, from 1; 0 for none
   QStringView icon = u"";     ///< the button's, by the name of the asset

@@ -36,52 +36,105 @@ void refresh(const Targets& to) {
 }
 
 template <Arrangement How>
-void arrangeGroup(const Targets& to) {
-  arrange(to.form, How);
+constexpr CommandRow arranging(Command command, QStringView menu) {
+  return {
+      .command = command,
+      .run = [](const Targets& to) { arrange(to.form, How); },
+      .needsTheme = true,
+      .menu = menu,
+  };
 }
 
-constexpr auto Waits = CommandTime::Waits;
-constexpr auto AtOnce = CommandTime::AtOnce;
-constexpr auto Beside = CommandTime::Beside;
-
-constexpr bool NeedsTheme = true;
-constexpr bool Always = false;
-
 constexpr auto Rows = std::to_array<CommandRow>({
-    {Command::Open, [](const Targets& to) { OpenTheme(to.form); }, Waits, Always, u"Ctrl+O", u"", 1, u"open", u"Open"},
-    {Command::Save, [](const Targets& to) { SaveTheme(to.form); }, AtOnce, Always, u"Ctrl+S", u"", 2, u"save", u"Save"},
-    {Command::Close, [](const Targets& to) { CloseTheme(to.form); }, Waits, Always, u"Ctrl+W", u"", 3, u"close",
-     u"Close"},
-    {Command::BackgroundColor, [](const Targets& to) { ChooseBackgroundColor(to.form); }, Waits, Always, u"", u"", 4,
-     u"background", u"Background Color"},
-    {Command::AnotherFolder, [](const Targets& to) { openAnotherFolder(to.form); }, Waits, Always, u"Ctrl+Shift+O",
-     u"Another game folder..."},
-    {Command::Refresh, [](const Targets& to) { refresh(to); }, AtOnce, Always, u"F5"},
-    {Command::OtherWindow, [](const Targets& to) { goToOtherWindow(to.form); }, AtOnce, Always, u"F6"},
-    {Command::Find, [](const Targets& to) { toolwindow::showFinder(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
-     u"Ctrl+F", u"Find..."},
-    {Command::Loupe, [](const Targets& to) { to.loupe.toggle(); }, Beside, Always, u"F7", u"Loupe"},
-    {Command::LargerLoupe, [](const Targets& to) { to.loupe.enlarge(); }, Beside, Always, u"Shift+F7"},
-    {Command::Changes, [](const Targets& to) { toolwindow::showChanges(*to.form.toolWindow()); }, AtOnce, NeedsTheme,
-     u"Ctrl+Shift+E", u"What differs..."},
-    {Command::Faults, [](const Targets& to) { showFaults(*to.form.toolWindow(), to.review); }, AtOnce, NeedsTheme,
-     u"Ctrl+Shift+K", u"What is wrong..."},
-    {Command::NextFault, [](const Targets& to) { to.review.goToNext(); }, AtOnce, NeedsTheme, u"F8",
-     u"Next that is wrong"},
-    {Command::SideBySide, [](const Targets& to) { showSideBySide(to.form); }, AtOnce, NeedsTheme, u"Ctrl+B",
-     u"Side by side..."},
-    {Command::Guides, [](const Targets& to) { to.hand.switchGuides(); }, AtOnce, Always, u"", u"Meet guides"},
-    {Command::AlignLeftEdges, arrangeGroup<Arrangement::LeftEdges>, Waits, NeedsTheme, u"", u"Align left edges"},
-    {Command::AlignCentresAcross, arrangeGroup<Arrangement::CentresAcross>, Waits, NeedsTheme, u"",
-     u"Align centres across"},
-    {Command::AlignRightEdges, arrangeGroup<Arrangement::RightEdges>, Waits, NeedsTheme, u"", u"Align right edges"},
-    {Command::AlignUpperEdges, arrangeGroup<Arrangement::UpperEdges>, Waits, NeedsTheme, u"", u"Align upper edges"},
-    {Command::AlignCentresDown, arrangeGroup<Arrangement::CentresDown>, Waits, NeedsTheme, u"", u"Align centres down"},
-    {Command::AlignLowerEdges, arrangeGroup<Arrangement::LowerEdges>, Waits, NeedsTheme, u"", u"Align lower edges"},
-    {Command::SpaceAcross, arrangeGroup<Arrangement::GapsAcross>, Waits, NeedsTheme, u"", u"Equal gaps across"},
-    {Command::SpaceDown, arrangeGroup<Arrangement::GapsDown>, Waits, NeedsTheme, u"", u"Equal gaps down"},
-    {Command::SameWidths, arrangeGroup<Arrangement::Widths>, Waits, NeedsTheme, u"", u"Same width"},
-    {Command::SameHeights, arrangeGroup<Arrangement::Heights>, Waits, NeedsTheme, u"", u"Same height"},
+    {.command = Command::Open,
+     .run = [](const Targets& to) { OpenTheme(to.form); },
+     .keys = u"Ctrl+O",
+     .button = 1,
+     .icon = u"open",
+     .toolTip = u"Open"},
+    {.command = Command::Save,
+     .run = [](const Targets& to) { SaveTheme(to.form); },
+     .time = CommandTime::AtOnce,
+     .keys = u"Ctrl+S",
+     .button = 2,
+     .icon = u"save",
+     .toolTip = u"Save"},
+    {.command = Command::Close,
+     .run = [](const Targets& to) { CloseTheme(to.form); },
+     .keys = u"Ctrl+W",
+     .button = 3,
+     .icon = u"close",
+     .toolTip = u"Close"},
+    {.command = Command::BackgroundColor,
+     .run = [](const Targets& to) { ChooseBackgroundColor(to.form); },
+     .button = 4,
+     .icon = u"background",
+     .toolTip = u"Background Color"},
+    {.command = Command::AnotherFolder,
+     .run = [](const Targets& to) { openAnotherFolder(to.form); },
+     .keys = u"Ctrl+Shift+O",
+     .menu = u"Another game folder..."},
+    {.command = Command::Refresh,
+     .run = [](const Targets& to) { refresh(to); },
+     .time = CommandTime::AtOnce,
+     .keys = u"F5"},
+    {.command = Command::OtherWindow,
+     .run = [](const Targets& to) { goToOtherWindow(to.form); },
+     .time = CommandTime::AtOnce,
+     .keys = u"F6"},
+    {.command = Command::Find,
+     .run = [](const Targets& to) { toolwindow::showFinder(*to.form.toolWindow()); },
+     .time = CommandTime::AtOnce,
+     .needsTheme = true,
+     .keys = u"Ctrl+F",
+     .menu = u"Find..."},
+    {.command = Command::Loupe,
+     .run = [](const Targets& to) { to.loupe.toggle(); },
+     .time = CommandTime::Beside,
+     .keys = u"F7",
+     .menu = u"Loupe"},
+    {.command = Command::LargerLoupe,
+     .run = [](const Targets& to) { to.loupe.enlarge(); },
+     .time = CommandTime::Beside,
+     .keys = u"Shift+F7"},
+    {.command = Command::Changes,
+     .run = [](const Targets& to) { toolwindow::showChanges(*to.form.toolWindow()); },
+     .time = CommandTime::AtOnce,
+     .needsTheme = true,
+     .keys = u"Ctrl+Shift+E",
+     .menu = u"What differs..."},
+    {.command = Command::Faults,
+     .run = [](const Targets& to) { showFaults(*to.form.toolWindow(), to.review); },
+     .time = CommandTime::AtOnce,
+     .needsTheme = true,
+     .keys = u"Ctrl+Shift+K",
+     .menu = u"What is wrong..."},
+    {.command = Command::NextFault,
+     .run = [](const Targets& to) { to.review.goToNext(); },
+     .time = CommandTime::AtOnce,
+     .needsTheme = true,
+     .keys = u"F8",
+     .menu = u"Next that is wrong"},
+    {.command = Command::SideBySide,
+     .run = [](const Targets& to) { showSideBySide(to.form); },
+     .time = CommandTime::AtOnce,
+     .needsTheme = true,
+     .keys = u"Ctrl+B",
+     .menu = u"Side by side..."},
+    {.command = Command::Guides,
+     .run = [](const Targets& to) { to.hand.switchGuides(); },
+     .time = CommandTime::AtOnce,
+     .menu = u"Meet guides"},
+    arranging<Arrangement::LeftEdges>(Command::AlignLeftEdges, u"Align left edges"),
+    arranging<Arrangement::CentresAcross>(Command::AlignCentresAcross, u"Align centres across"),
+    arranging<Arrangement::RightEdges>(Command::AlignRightEdges, u"Align right edges"),
+    arranging<Arrangement::UpperEdges>(Command::AlignUpperEdges, u"Align upper edges"),
+    arranging<Arrangement::CentresDown>(Command::AlignCentresDown, u"Align centres down"),
+    arranging<Arrangement::LowerEdges>(Command::AlignLowerEdges, u"Align lower edges"),
+    arranging<Arrangement::GapsAcross>(Command::SpaceAcross, u"Equal gaps across"),
+    arranging<Arrangement::GapsDown>(Command::SpaceDown, u"Equal gaps down"),
+    arranging<Arrangement::Widths>(Command::SameWidths, u"Same width"),
+    arranging<Arrangement::Heights>(Command::SameHeights, u"Same height"),
 });
 static_assert(platform::inOrder(Rows, &CommandRow::command, Command::SameHeights));
 
@@ -103,10 +156,10 @@ bool canRun(const Form1& form, const CommandRow& row) {
 void runCommand(const CommandTargets& targets, const CommandRow& row) {
   const auto ifEnabled = [targets, &row] {
     if (!targets.form.isVisible()) return;  // the program has ended while the command waited
-    if (row.time != Beside) targets.form.session().settle();
+    if (row.time != CommandTime::Beside) targets.form.session().settle();
     if (canRun(targets.form, row)) row.run(targets);
   };
-  if (row.time != Waits) return ifEnabled();
+  if (row.time != CommandTime::Waits) return ifEnabled();
   targets.form.session().settle();
   if (!canRun(targets.form, row)) return;
   using controls::RunningWork;

@@ -35,7 +35,7 @@ class Editor {
   ScreenRefresh refresh_{form};
   Loupe& loupe_ = *new Loupe(form);  ///< its parent is the main window
   ThemeReview review_{form.session(), form.queue()};
-  const CommandTargets targets_{form, refresh_, loupe_, review_, hand_};
+  const CommandTargets targets_{.form = form, .refresh = refresh_, .loupe = loupe_, .review = review_, .hand = hand_};
 };
 
 }  // namespace mainwindows

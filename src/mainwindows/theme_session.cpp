@@ -74,7 +74,7 @@ bool openCopies(Form1& form, const themefiles::ThemePaths& chosen) {
 
 /// What is lost of an editor, or left out by Save.
 QString untakenIn(const Form1& form) {
-  return form.toolWindow() == nullptr ? QString() : form.toolWindow()->untaken();
+  return form.toolWindow() == nullptr ? QString() : form.toolWindow()->pendingChanges();
 }
 
 void noteUntaken(Form1& form, const QString& untaken) {

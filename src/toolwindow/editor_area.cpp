@@ -1,6 +1,7 @@
 #include "toolwindow/editor_area.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -8,6 +9,7 @@
 #include <QPushButton>
 
 #include "controls/work_queue.h"
+#include "platform/row_order.h"
 #include "toolwindow/colour_frame.h"
 #include "toolwindow/number_frames.h"
 #include "toolwindow/reference_frame.h"
@@ -17,17 +19,37 @@ namespace toolwindow {
 
 using themefiles::EditorFrame;
 
+namespace {
+
+template <typename Frame>
+ValueFrame* madeFrame(const ToolServices& services, PlacedControls& placed, QWidget* parent) {
+  return new Frame(services, placed, parent);
+}
+template <editing::ReferenceKind Kind>
+ValueFrame* madeFrame(const ToolServices& services, PlacedControls& placed, QWidget* parent) {
+  return new ReferenceFrame(Kind, services, placed, parent);
+}
+
+struct FrameRow {
+  EditorFrame frame;
+  ValueFrame* (*made)(const ToolServices& services, PlacedControls& placed, QWidget* parent);
+};
+constexpr auto Frames = std::to_array<FrameRow>({{EditorFrame::Numbers, madeFrame<NumberFrame>},
+                                                 {EditorFrame::FloatNumbers, madeFrame<DecimalFrame>},
+                                                 {EditorFrame::Selection, madeFrame<SelectionFrame>},
+                                                 {EditorFrame::Color, madeFrame<ColorFrame>},
+                                                 {EditorFrame::Texture, madeFrame<editing::ReferenceKind::Texture>},
+                                                 {EditorFrame::Texts, madeFrame<editing::ReferenceKind::Text>}});
+static_assert(platform::inOrder(Frames, &FrameRow::frame, EditorFrame::Texts));
+
+}  // namespace
+
 EditorArea::EditorArea(const ToolServices& services, PlacedControls& placed, QWidget* window)
     : services_(services), Frame1(new QGroupBox(QStringLiteral("Edit Value"), window)) {
   placed.add(*Frame1, &ToolLayout::Frame1, "Frame1");
-  // In the order of EditorFrame, which is also that of the Tab key: Update comes behind every editor.
-  using editing::ReferenceKind;
-  frames_ = {new NumberFrame(services, placed, Frame1),
-             new DecimalFrame(services, placed, Frame1),
-             new SelectionFrame(services, placed, Frame1),
-             new ColorFrame(services, placed, Frame1),
-             new ReferenceFrame(ReferenceKind::Texture, services, placed, Frame1),
-             new ReferenceFrame(ReferenceKind::Text, services, placed, Frame1)};
+  // This is also the order of the Tab key: Update comes behind every editor.
+  frames_.reserve(Frames.size());
+  for (const FrameRow& row : Frames) frames_.push_back(row.made(services, placed, Frame1));
   Command1 = new QPushButton(QStringLiteral("&Update"), window);
   placed.add(*Command1, &ToolLayout::Command1, "Command1");
   hideFrames();
@@ -73,16 +95,16 @@ void EditorArea::enterPressed() {
   }
 }
 
-QString EditorArea::untaken() const {
+QString EditorArea::pendingChanges() const {
   for (const ValueFrame* frame : frames_) {
-    const QString changes = frame->untaken();
+    const QString changes = frame->pendingChanges();
     if (!changes.isEmpty()) return QStringLiteral("not taken over: ") + changes;
   }
   return {};
 }
 
 void EditorArea::dropChanges() {
-  const QString lost = untaken();
+  const QString lost = pendingChanges();
   for (ValueFrame* frame : frames_) frame->forgetChanges();
   if (lost.isEmpty()) return;
   const auto scope = std::make_shared<platform::ReportScope>(services_.session.status());

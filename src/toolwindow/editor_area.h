@@ -1,6 +1,6 @@
 #pragma once
 
-#include <array>
+#include <vector>
 
 #include <QObject>
 
@@ -36,7 +36,7 @@ class EditorArea : public QObject {
   void pressEnter(QWidget* focus);
 
   /// What the user has changed and not taken over: "not taken over: X = 450"; empty for nothing.
-  QString untaken() const;
+  QString pendingChanges() const;
   /// That is lost: says so behind all that the running work has to report.
   void dropChanges();
 
@@ -56,8 +56,8 @@ class EditorArea : public QObject {
 
   const ToolServices& services_;
   QGroupBox* const Frame1;
-  QPushButton* Command1 = nullptr;                                                             ///< Update
-  std::array<ValueFrame*, static_cast<size_t>(themefiles::EditorFrame::Texts) + 1> frames_{};  ///< by EditorFrame
+  QPushButton* Command1 = nullptr;   ///< Update
+  std::vector<ValueFrame*> frames_;  ///< by EditorFrame
   ValueFrame* proposing_ = nullptr;  ///< what it proposes is being written
 };
 

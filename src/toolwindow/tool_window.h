@@ -48,7 +48,7 @@ class Form2 : public QWidget {
   /// Goes to a search hit, with the focus on what it has found.
   void goTo(const themefiles::Hit& hit);
   /// What the user has changed in an editor and not taken over: "not taken over: X = 450"; empty for nothing.
-  QString untaken() const { return area_.untaken(); }
+  QString pendingChanges() const { return area_.pendingChanges(); }
 
   const ToolLayout& layout() const { return layout_; }
 

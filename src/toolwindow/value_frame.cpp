@@ -33,7 +33,7 @@ void ValueFrame::enter(const QString& typed) {
   touch();
 }
 
-QString ValueFrame::untaken() const {
+QString ValueFrame::pendingChanges() const {
   return touched_ ? editing::changeText(frame_, key_, {value_, content_}, proposal()) : QString();
 }
 

@@ -33,7 +33,7 @@ class ValueFrame : public QWidget {
   /// Whether the user has changed anything that isn't taken over.
   bool touched() const { return touched_; }
   /// What that is, as a commit would tell it; empty for nothing.
-  QString untaken() const;
+  QString pendingChanges() const;
   /// From here on what the frame shows counts as unchanged: it has been written, or dropped.
   void forgetChanges();
 

@@ -133,7 +133,7 @@ class EditorsTest : public ProgramTest {
       program->form.ShowStatus(QString());
       drop();
       QVERIFY2(program->status().endsWith(lost), qPrintable(program->status()));
-      if (program->form.toolWindow() != nullptr) QCOMPARE(program->tools().untaken(), QString());
+      if (program->form.toolWindow() != nullptr) QCOMPARE(program->tools().pendingChanges(), QString());
     }
     program = nullptr;
     init();
@@ -141,11 +141,11 @@ class EditorsTest : public ProgramTest {
     program->row(u"Text"_s);
     Editors editors(program->tools());
     QTest::keyClicks(editors.Text2, u"O "_s);
-    QCOMPARE(program->tools().untaken(), u"not taken over: words 'HELLO' = O Hello there"_s);
+    QCOMPARE(program->tools().pendingChanges(), u"not taken over: words 'HELLO' = O Hello there"_s);
     editors.Command1->click();
-    QCOMPARE(program->tools().untaken(), QString());
+    QCOMPARE(program->tools().pendingChanges(), QString());
     QTest::keyClick(editors.Combo5, Qt::Key_Down);
-    QCOMPARE(program->tools().untaken(), u"not taken over: Text = GO"_s);
+    QCOMPARE(program->tools().pendingChanges(), u"not taken over: Text = GO"_s);
   }
 };
 
