@@ -7,8 +7,8 @@ namespace platform {
 namespace {
 
 bool steers(QChar letter) {
-  constexpr std::array<QChar::Category, 4> Steering{QChar::Other_Control, QChar::Other_Format, QChar::Separator_Line,
-                                                    QChar::Separator_Paragraph};
+  constexpr std::array Steering{QChar::Other_Control, QChar::Other_Format, QChar::Separator_Line,
+                                QChar::Separator_Paragraph};
   return std::find(Steering.begin(), Steering.end(), letter.category()) != Steering.end();
 }
 

@@ -3,6 +3,7 @@
 #include <io.h>
 
 #include "platform/console.h"
+#include "platform/file_handle.h"
 #include "platform/windows_api.h"
 
 namespace platform {
@@ -36,11 +37,11 @@ void writeTo(HANDLE console, const QString& text) {
 /// The console is left again: Ctrl+C in it would end the program.
 void writeToConsoleOfCaller(const QString& text) {
   if (::AttachConsole(ATTACH_PARENT_PROCESS) == 0) return;
-  const HANDLE console = ::CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                       nullptr, OPEN_EXISTING, 0, nullptr);
-  if (console != INVALID_HANDLE_VALUE) {
-    writeTo(console, text);
-    ::CloseHandle(console);
+  {
+    const FileHandle console(reinterpret_cast<qintptr>(::CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
+                                                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                                                     OPEN_EXISTING, 0, nullptr)));
+    if (console.isOpen()) writeTo(reinterpret_cast<HANDLE>(console.value()), text);
   }
   ::FreeConsole();
 }

@@ -13,9 +13,9 @@ namespace {
 
 /// Passes over errors that tell that the system doesn't permit a change, or has no such thing.
 FileResult<> tried(const FileResult<>& change) {
-  constexpr std::array<DWORD, 8> Refusals{
-      ERROR_ACCESS_DENIED,          ERROR_PRIVILEGE_NOT_HELD, ERROR_INVALID_OWNER,    ERROR_INVALID_PRIMARY_GROUP,
-      ERROR_INVALID_SECURITY_DESCR, ERROR_NOT_SUPPORTED,      ERROR_INVALID_FUNCTION, ERROR_INVALID_PARAMETER};
+  constexpr auto Refusals = std::to_array<DWORD>(
+      {ERROR_ACCESS_DENIED, ERROR_PRIVILEGE_NOT_HELD, ERROR_INVALID_OWNER, ERROR_INVALID_PRIMARY_GROUP,
+       ERROR_INVALID_SECURITY_DESCR, ERROR_NOT_SUPPORTED, ERROR_INVALID_FUNCTION, ERROR_INVALID_PARAMETER});
   if (change) return change;
   const auto number = static_cast<DWORD>(change.error().number);
   if (std::find(Refusals.begin(), Refusals.end(), number) != Refusals.end()) return Done();
@@ -71,8 +71,8 @@ FileResult<> checkWritable(const std::wstring& path, const OpenFile& file) {
 }
 
 FileResult<> keepAttributes(const FileHandle& fresh, const OpenFile& old) {
-  constexpr std::array<SECURITY_INFORMATION, 3> Parts{OWNER_SECURITY_INFORMATION, GROUP_SECURITY_INFORMATION,
-                                                      DACL_SECURITY_INFORMATION};
+  constexpr auto Parts = std::to_array<SECURITY_INFORMATION>(
+      {OWNER_SECURITY_INFORMATION, GROUP_SECURITY_INFORMATION, DACL_SECURITY_INFORMATION});
   auto kept = tried(copyAttributes(fresh, old.handle()));
   for (const SECURITY_INFORMATION part : Parts) {
     if (kept) kept = tried(copySecurity(fresh, old.handle(), part));

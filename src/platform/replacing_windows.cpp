@@ -114,7 +114,7 @@ FileResult<> renameOver(const FileHandle& file, const std::wstring& target) {
   const DWORD flags = ReplaceIfExists | PosixSemantics;
   std::memcpy(info, &flags, sizeof(flags));
   const auto renamed = called(::SetFileInformationByHandle(handleOf(file), FileRenameInfoEx, info, size));
-  constexpr std::array<int, 3> Unknown{ERROR_INVALID_PARAMETER, ERROR_INVALID_FUNCTION, ERROR_NOT_SUPPORTED};
+  constexpr auto Unknown = std::to_array<int>({ERROR_INVALID_PARAMETER, ERROR_INVALID_FUNCTION, ERROR_NOT_SUPPORTED});
   if (renamed || std::find(Unknown.begin(), Unknown.end(), renamed.error().number) == Unknown.end()) return renamed;
   const DWORD older = TRUE;
   std::memcpy(info, &older, sizeof(older));

@@ -15,8 +15,8 @@ const QString DevicePath = QStringLiteral("\\\\.\\");
 
 /// Whether Windows takes the name for a device, whatever its ending.
 bool isDevice(QStringView name) {
-  constexpr std::array<QStringView, 6> Devices{u"CON", u"PRN", u"AUX", u"NUL", u"CONIN$", u"CONOUT$"};
-  constexpr std::array<QStringView, 2> Ports{u"COM", u"LPT"};
+  constexpr auto Devices = std::to_array<QStringView>({u"CON", u"PRN", u"AUX", u"NUL", u"CONIN$", u"CONOUT$"});
+  constexpr auto Ports = std::to_array<QStringView>({u"COM", u"LPT"});
   constexpr QStringView Numbers = u"123456789\u00B9\u00B2\u00B3";
   const qsizetype dot = name.indexOf(u'.');
   const QStringView stem = (dot < 0 ? name : name.first(dot)).trimmed();
@@ -38,8 +38,8 @@ bool namesNoFile(const QString& path) {
 
 bool isMissing(DWORD number) {
   // A name that can't be one, and a file where a folder is asked for, are missing as well.
-  constexpr std::array<DWORD, 5> Missing{ERROR_FILE_NOT_FOUND, ERROR_PATH_NOT_FOUND, ERROR_INVALID_NAME,
-                                         ERROR_BAD_PATHNAME, ERROR_DIRECTORY};
+  constexpr auto Missing = std::to_array<DWORD>(
+      {ERROR_FILE_NOT_FOUND, ERROR_PATH_NOT_FOUND, ERROR_INVALID_NAME, ERROR_BAD_PATHNAME, ERROR_DIRECTORY});
   return std::find(Missing.begin(), Missing.end(), number) != Missing.end();
 }
 

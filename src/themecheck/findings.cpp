@@ -69,8 +69,13 @@ constexpr auto Kinds = std::to_array<KindRow>({
 });
 static_assert(platform::inOrder(Kinds, &KindRow::kind, Kind::UnusedPicture));
 
-constexpr auto LevelNames = std::to_array<QStringView>({u"error", u"warning", u"note"});
-static_assert(LevelNames.size() == static_cast<size_t>(Level::Note) + 1);
+struct LevelRow {
+  Level level;
+  QStringView name;
+};
+constexpr auto Levels =
+    std::to_array<LevelRow>({{Level::Error, u"error"}, {Level::Warning, u"warning"}, {Level::Note, u"note"}});
+static_assert(platform::inOrder(Levels, &LevelRow::level, Level::Note));
 
 /// The words with `fill` in place of %1 and %2, whatever stands in it.
 QString wordsOf(const KindRow& row, const QStringList& fill) {
@@ -106,7 +111,7 @@ QString namedSettings(const Finding& finding, const Scope& scope) {
 }  // namespace
 
 QString nameOf(Level level) {
-  return LevelNames.at(static_cast<size_t>(level)).toString();
+  return Levels.at(static_cast<size_t>(level)).name.toString();
 }
 
 void Findings::add(Kind kind, const Place& place, const QStringList& fill, const Setting& setting) {

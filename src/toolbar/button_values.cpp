@@ -1,26 +1,30 @@
 #include "toolbar/button_values.h"
 
+#include <array>
+
+#include "platform/row_order.h"
+
 namespace toolbar {
 
 namespace {
 
 using Button = ToolbarButton;
 
-constexpr ButtonField Fields[] = {
-    {&Button::ButtonType, u"Button_Type", u"Button_Type", Effect::LayOut},
-    {&Button::Caption, u"ButtonCaption", u"ButtonCaption", Effect::Repaint},
-    {&Button::Enabled, u"ButtonEnabled", u"ButtonEnabled", Effect::Repaint},
-    {&Button::Icon, u"ButtonIcon", u"ButtonIcon", Effect::Repaint},
-    {&Button::IconAlignment, u"ButtonIconAllignment", u"ButtonIconAllignment", Effect::Repaint},
-    {&Button::Pressed, u"ButtonPressed", u"ButtonPressed", Effect::Repaint},
-    {&Button::ToolTipText, u"ButtonToolTip", u"ButtonToolTipText", Effect::None},
-    {&Button::ToolTipIcon, u"ButtonToolTipIcon", u"ButtonToolTipIcon", Effect::None},
-};
-static_assert(std::size(Fields) == ToolTipIconProperty + 1);
+constexpr auto Fields = std::to_array<ButtonField>({
+    {ButtonTypeProperty, &Button::ButtonType, u"Button_Type", u"Button_Type", Effect::LayOut},
+    {CaptionProperty, &Button::Caption, u"ButtonCaption", u"ButtonCaption", Effect::Repaint},
+    {EnabledProperty, &Button::Enabled, u"ButtonEnabled", u"ButtonEnabled", Effect::Repaint},
+    {IconProperty, &Button::Icon, u"ButtonIcon", u"ButtonIcon", Effect::Repaint},
+    {IconAlignmentProperty, &Button::IconAlignment, u"ButtonIconAllignment", u"ButtonIconAllignment", Effect::Repaint},
+    {PressedProperty, &Button::Pressed, u"ButtonPressed", u"ButtonPressed", Effect::Repaint},
+    {ToolTipTextProperty, &Button::ToolTipText, u"ButtonToolTip", u"ButtonToolTipText", Effect::None},
+    {ToolTipIconProperty, &Button::ToolTipIcon, u"ButtonToolTipIcon", u"ButtonToolTipIcon", Effect::None},
+});
+static_assert(platform::inOrder(Fields, &ButtonField::id, ToolTipIconProperty));
 
 /// The row of a field; null for an unknown number.
 const ButtonField* fieldOf(int propertyID) {
-  const bool known = propertyID >= 0 && propertyID < static_cast<int>(std::size(Fields));
+  const bool known = propertyID >= 0 && propertyID < std::ssize(Fields);
   return known ? &Fields[propertyID] : nullptr;
 }
 

@@ -24,6 +24,7 @@ enum PropertyID {
 };
 
 struct ButtonField {
+  PropertyID id;
   std::variant<int ToolbarButton::*, bool ToolbarButton::*, QString ToolbarButton::*, PictureReference ToolbarButton::*>
       member;
   QStringView property;  ///< its name as a property of the toolbar, whose current button it belongs to

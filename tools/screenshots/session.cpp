@@ -51,14 +51,14 @@ struct EditorRow {
   QStringView picture;
 };
 
-constexpr std::array<EditorRow, 6> Editors{{
+constexpr auto Editors = std::to_array<EditorRow>({
     {NumberRow, u"tool-numbers"},
     {{u"MainStaticIcon", u"Z"}, u"tool-floatnumbers"},
     {{u"MainStaticIcon", u"Type"}, u"tool-selection"},
     {ColorRow, u"tool-color"},
     {TextRow, u"tool-texts"},
     {TextureRow, u"tool-texture"},
-}};
+});
 
 /// Lets the windows come to rest.
 void settle() {
