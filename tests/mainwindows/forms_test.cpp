@@ -123,13 +123,15 @@ class Table {
     const QString text = textOf(control);
     const QString font = fontOf(control);
     const bool isWindow = control.isWindow();
+    const QString version(QStringLiteral("v." CANTORAMA_VERSION));
+    const QString width = text == version ? u"*"_s : QString::number(place.width());  // it follows the text
     addLine({indent + (control.objectName().isEmpty() ? u"-"_s : control.objectName()),
-             isWindow ? QString() : u"%1,%2"_s.arg(place.x()).arg(place.y()),
-             u"%1x%2"_s.arg(place.width()).arg(place.height()),
+             isWindow ? QString() : u"%1,%2"_s.arg(place.x()).arg(place.y()), u"%1x%2"_s.arg(width).arg(place.height()),
              isWindow || font != fontOf(*control.parentWidget()) ? font : QString(),
              (tabs_.contains(&control) ? QString::number(tabs_.indexOf(&control) + 1) : QString()) +
                  (control.window()->focusWidget() == &control ? u"*"_s : QString()),
-             state(control.isVisible(), control.isEnabled()), text, control.toolTip(), spoken(control, text)});
+             state(control.isVisible(), control.isEnabled()), QString(text).replace(version, u"v.X"_s),
+             control.toolTip(), spoken(control, text)});
     if (isWhole(control)) return;
     for (QObject* child : control.children()) {
       const QString name = child->objectName();
