@@ -55,7 +55,7 @@ void PreviewHand::settle() {
 
 void PreviewHand::giveUpDrag() {
   naming_.stop();
-  if (stage_ == Stage::Pressed || stage_ == Stage::Dragging) giveUp();
+  if (byMouse()) giveUp();
   held_.forgetPicture();
   if (stage_ == Stage::Keys) pacer_.request();
 }
@@ -124,7 +124,7 @@ bool PreviewHand::menuAsked(const QWidget& watched) {
 
 bool PreviewHand::press(const QMouseEvent& event) {
   naming_.stop();
-  endedDrag_ = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
+  endedDrag_ = byMouse();
   settle();
   // Committing has drawn the screen and served events: the theme may be closed by now.
   if (event.button() != Qt::LeftButton || !form_.session().isOpen()) return false;
@@ -163,8 +163,7 @@ bool PreviewHand::pick(const QPoint& place) {
 }
 
 void PreviewHand::move(const QMouseEvent& event) {
-  const bool byMouse = stage_ == Stage::Pressed || stage_ == Stage::Dragging;
-  if (!byMouse) return hover(pixelOf(event), event.buttons() == Qt::NoButton);
+  if (!byMouse()) return hover(pixelOf(event), event.buttons() == Qt::NoButton);
   if ((event.buttons() & Qt::LeftButton) == 0) return giveUp();
   mouse_ = pixelOf(event);
   const QPoint way = mouse_ - pressed_;
@@ -205,11 +204,8 @@ bool PreviewHand::release(const QMouseEvent& event) {
   if (event.button() != Qt::LeftButton) return false;
   if (stage_ == Stage::Pressed) {
     stage_ = Stage::None;
-    if (joins_) {
-      join(pressed_);
-    } else if (onHeld_) {
-      pick(pressed_);
-    }
+    if (joins_) join(pressed_);
+    if (!joins_ && onHeld_) pick(pressed_);
   } else if (stage_ == Stage::Dragging) {
     move(QMouseEvent(QEvent::MouseMove, event.position(), event.globalPosition(), Qt::NoButton, Qt::LeftButton,
                      event.modifiers()));
@@ -232,12 +228,9 @@ void PreviewHand::hover(const QPoint& place, bool free) {
 bool PreviewHand::keyPress(const QKeyEvent& event) {
   naming_.stop();
   if (event.key() == Qt::Key_Escape) {
-    if (stage_ == Stage::None && form_.session().members().isEmpty()) return false;
-    if (stage_ == Stage::None) {
-      form_.session().endGroup();
-    } else {
-      giveUp();
-    }
+    const bool holdsNone = stage_ == Stage::None;
+    if (holdsNone && form_.session().members().isEmpty()) return false;
+    holdsNone ? form_.session().endGroup() : giveUp();
     return true;
   }
   if (stage_ == Stage::Dragging) drag(event.modifiers());

@@ -50,6 +50,7 @@ class PreviewHand : public QObject {
     Keys,      ///< arrow keys that aren't committed yet
   };
 
+  bool byMouse() const { return stage_ == Stage::Pressed || stage_ == Stage::Dragging; }
   bool menuAsked(const QWidget& watched);
   bool press(const QMouseEvent& event);
   void move(const QMouseEvent& event);

@@ -278,12 +278,9 @@ void Control::pointByKey(int index) {
 
 void Control::pressByKey() {
   if (!windows_.isPopupVisible()) picDraw_ = SurfaceName::Main;
-  if (model_.Button_Index() > 0) {
-    if (!model_.Button(model_.Button_Index()).Enabled) return;
-    picDraw_Click(picDraw_);
-    return;
-  }
-  if (model_.Button_Index() != 0) return;
+  const int index = model_.Button_Index();
+  if (index > 0 && model_.Button(index).Enabled) picDraw_Click(picDraw_);
+  if (index != 0) return;
   buttonHeld_ = true;
   Repaint();
   buttonHeld_ = false;
