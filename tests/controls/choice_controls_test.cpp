@@ -91,13 +91,20 @@ class ChoiceControlsTest : public QObject {
     QCOMPARE(window.listClicks.first().first().value<Cause>(), Cause::Code);
     QVERIFY_THROWS_EXCEPTION(platform::Failure, window.list.SetListIndex(Rows));
 
-    window.combo.SetListIndex(1);
+    for (const int entry : {1, -1}) window.combo.SetListIndex(entry);
     window.combo.SetText(u"score"_s);
     QVERIFY_THROWS_EXCEPTION(platform::Failure, window.combo.SetText(u"SCORE"_s));
     QCOMPARE(window.combo.ListIndex(), 3);
     window.combo.RemoveItem(3);
     QCOMPARE(window.combo.ListIndex(), -1);
     QCOMPARE(window.comboClicks.size(), 2);
+    window.combo.setSwatches([](const QString& entry) { return QColor(entry); });
+    window.combo.AddItem(u"#010203"_s);
+    QCOMPARE(window.combo.itemIcon(3).pixmap(11).toImage().pixelColor(5, 5), QColor(1, 2, 3));
+    window.list.allowSeveral();
+    window.list.SetListIndex(5);
+    window.list.selectToo(2);
+    QCOMPARE(window.list.selectedRows(), (std::vector<int>{2, 5}));
   }
 
   void mousePicksOneRow() {
@@ -144,6 +151,10 @@ class ChoiceControlsTest : public QObject {
       QCOMPARE(window.combo.ListIndex(), row.entry);
       QCOMPARE(window.comboClicks.size(), row.entryClicks);
     }
+    Window window;
+    window.list.setCurrentRow(9);
+    for (const auto key : {Qt::Key_PageDown, Qt::Key_PageUp}) QTest::keyClick(&window.list, key);
+    QCOMPARE(window.list.ListIndex(), 9);
   }
 
   void cutValueShowsWholeAsPlainText() {

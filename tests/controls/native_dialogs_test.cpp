@@ -121,6 +121,7 @@ class NativeDialogsTest : public QObject {
     QCOMPARE(answer({}), folder.path(u"p150.png"_s));
     QCOMPARE(answer(folder.native(u"sub/other.png"_s)), folder.path(u"sub/other.png"_s));
     QCOMPARE(answer(folder.native(u"p7.png"_s)), folder.path(u"p7.png"_s));
+    QCOMPARE(answer(folder.native(u"sub"_s)), QString());  // goes there
   }
 
   void imageDialogShowsItsColumnsWhole() {

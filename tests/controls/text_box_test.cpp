@@ -127,6 +127,8 @@ class TextBoxTest : public QObject {
     QCOMPARE(window.changes.size(), 1);
     QCOMPARE(caretAfter(u"0123"_s, 2, u"123"_s), 1);  // a zero dropped at the head
     QCOMPARE(window.changes.size(), 3);
+    window.box.clearFocus();
+    QCOMPARE(caretAfter(u"123"_s, 3, u"4567"_s), 0);  // the beginning is in sight
   }
 };
 

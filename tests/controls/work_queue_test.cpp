@@ -77,6 +77,7 @@ class WorkQueueTest : public QObject {
     QCOMPARE(logOf(u"d"_s, 2, u"x"_s), u"d...Dx"_s);
     QCOMPARE(logOf(u"c"_s, 2, u"l"_s), u"c.xc...Cd...D"_s);
     QCOMPARE(logOf(u"c"_s, 6, u"l"_s), u"c...Cdxd...D"_s);
+    QCOMPARE(logOf(u"d"_s, 2, u"cl"_s), u"d.xc...Cd...D"_s);
     QCOMPARE(logOf(u"c"_s, 2, u"f"_s), u"c.x"_s);
     QCOMPARE(logOf(u"d"_s, 2, u"n"_s), u"d...Dxd...DXx"_s);
   }

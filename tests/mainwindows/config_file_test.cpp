@@ -50,7 +50,9 @@ class ConfigFileTest : public QObject {
       QVERIFY(config.path() == next.path(u"new\\config.ini"_s) && config.problem().isEmpty());
       ConfigFile none({folder});
       QVERIFY(none.path().isEmpty() && none.gameFolder().isEmpty());
+      none.setFolderOfThisRun(u"C:\\Named\\"_s);
       QVERIFY_THROWS_EXCEPTION(platform::Failure, none.setGameFolder(u"C:\\Games\\"_s));
+      QCOMPARE(none.gameFolder(), u"C:\\Games\\"_s);  // for this run, though it can't be stored
     }
     QVERIFY(!ConfigFile({Unfit.first()}).problem().isEmpty());
   }

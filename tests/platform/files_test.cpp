@@ -41,7 +41,7 @@ class FilesTest : public QObject {
   void foldersAndTheirFiles() {
     QDir(folder_->native({})).mkdir(u"sub.ini"_s);
     QVERIFY(!folderHoldsFiles(at({})));
-    for (const QString& name : {u"B.INI"_s, u"_.ini"_s, u"a.Ini"_s, u"c.ini.tmp"_s}) {
+    for (const QString& name : {u"B.INI"_s, u"_.ini"_s, u"a.Ini"_s, u".a.ini"_s, u"c.ini.tmp"_s}) {
       folder_->put(name, {});
     }
     QVERIFY(folderHoldsFiles(at({})));

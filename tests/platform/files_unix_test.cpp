@@ -92,6 +92,7 @@ class FilesUnixTest : public QObject {
     // The superuser's copy has owner, group and list as well; Someone isn't in the group and drops what it permits.
     for (const auto& [mode, list, supers, someones] : {std::tuple{0600, false, 0600, 0},
                                                        {0444, false, 0644, 0644},
+                                                       {0604, false, 0604, 0600},
                                                        {0664, false, 0664, 0644},
                                                        {0640, true, 0640, 0600}}) {
       folder_->put(u"a.ini"_s, "text");
