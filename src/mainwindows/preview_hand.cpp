@@ -245,9 +245,8 @@ void PreviewHand::arrow(const QKeyEvent& event, const ArrowStep& step) {
   while (stage_ == Stage::Keys && step.grip != held_.grip()) settle();
   const bool free = stage_ == Stage::None || stage_ == Stage::Keys;
   if (!free || !form_.session().isOpen()) return;
-  // What height a button is drawn with, and which texts are its own, is known when it has been drawn.
-  const bool needsDrawn = step.grip.sizes() || !form_.session().members().isEmpty();
-  if (stage_ == Stage::None && needsDrawn && form_.queue().busy()) return;
+  // What height a button is drawn with is known when it has been drawn.
+  if (stage_ == Stage::None && step.grip.sizes() && form_.queue().busy()) return;
   if (stage_ == Stage::None && !held_.take(step.grip, !event.isAutoRepeat())) return;
   stage_ = Stage::Keys;
   arrows_.press(event.key());

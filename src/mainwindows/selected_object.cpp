@@ -2,10 +2,12 @@
 
 #include <algorithm>
 
+#include "controls/work_queue.h"
 #include "mainwindows/main_window.h"
 #include "mainwindows/workspace.h"
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "renderer/object_passes.h"
 #include "themefiles/module_state.h"
 
 namespace mainwindows {
@@ -75,8 +77,11 @@ QStringList groupOf(const editing::Session& session) {
 
 bool goesAlong(const Form1& form, const QString& name, const QStringList& with) {
   const renderer::DrawnObject* const drawn = drawnObject(form, name);
-  return drawn != nullptr && std::any_of(with.begin(), with.end(),
-                                         [&](const QString& other) { return platform::sameName(other, drawn->owner); });
+  if (drawn == nullptr && !form.queue().busy()) return false;
+  // A running drawing may not have come to the text: then its name tells.
+  const QString owner = drawn != nullptr ? drawn->owner : renderer::buttonOfText(platform::trimBlanks(name));
+  return std::any_of(with.begin(), with.end(),
+                     [&](const QString& other) { return platform::sameName(platform::trimBlanks(other), owner); });
 }
 
 void noteStays(Form1& form, const QString& name, const QString& cause) {

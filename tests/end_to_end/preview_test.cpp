@@ -36,7 +36,7 @@ class PreviewTest : public QObject {
     drag(preview, {400, 200}, {40, 25});
     expect("X=310", "X=351");  // a guide takes it a pixel further
     expect("Y=110", "Y=135");
-    QCOMPARE(sample.get(file + u".tmp"_s), expected);
+    QVERIFY2(sample.get(file + u".tmp"_s) == expected, qPrintable(program.status()));
     for (int press = 0; press < 5; ++press) key(preview, Qt::Key_Right);
     for (int press = 0; press < 2; ++press) key(preview, Qt::Key_Down);
     expect("X=351", "X=356");

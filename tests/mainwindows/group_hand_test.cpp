@@ -179,20 +179,28 @@ class GroupHandTest : public HandTest {
     QVERIFY2(below >= 5 && along >= 3, qPrintable(u"%1 %2"_s.arg(below).arg(along)));
   }
 
-  /// While a drawing runs, a press with Shift joins what is drawn by then, and the keys don't move a group.
+  /// While a drawing runs, a press with Shift joins what is drawn by then, and a key moves the texts of a button once.
   void duringADrawing() {
     program->tag(u"LoadingStaticA"_s);
     const QByteArray file = game->get(ThemeCopy);
     const QStringList& members = program->form.session().members();
-    const auto atYield = connect(&program->form.queue(), &controls::WorkQueue::yielding, this, [&] {
-      if (!members.isEmpty()) return QTest::keyClick(&preview(), Qt::Key_Right);
-      QTest::mouseClick(&preview(), Qt::LeftButton, Qt::ShiftModifier, {340, 320});
+    const auto atYields = connect(&program->form.queue(), &controls::WorkQueue::yielding, this, [&] {
+      if (members.isEmpty()) QTest::mouseClick(&preview(), Qt::LeftButton, Qt::ShiftModifier, {340, 320});
     });
     program->form.queue().draw();
-    disconnect(atYield);
-    program->form.session().settle();
+    disconnect(atYields);
     QCOMPARE(members.join(u' '), u"LoadingButtonLast"_s);
-    QCOMPARE(game->get(ThemeCopy), file);
+    for (const QString& name : {u"LoadingButtonGo"_s, u"LoadingButtonGoText1"_s}) {
+      program->form.session().toggleMember(name);
+    }
+    bool isPressed = false;
+    const auto atFirst = connect(&program->form.queue(), &controls::WorkQueue::yielding, this, [&] {
+      if (!std::exchange(isPressed, true)) QTest::keyClick(&preview(), Qt::Key_Right);
+    });
+    program->form.queue().draw();
+    disconnect(atFirst);
+    program->form.session().settle();
+    QCOMPARE(newLines(file).join(u' '), u"X=301 X=301 X=41"_s);
   }
 
   /// What another program does to the working copy while several objects are in the hand.
