@@ -31,9 +31,13 @@ class PreviewTest : public QObject {
     };
     pickNamed(program.tools().objects(), "LoadingStaticRecord");
     QWidget& preview = *program.form.Workspace;
-    bringToFront(program.form);
-    QTRY_COMPARE(QApplication::activeWindow(), &program.form);
-    drag(preview, {400, 200}, {40, 25});
+    // The window manager may bring the tool window to the front in the middle of a drag, which gives that up.
+    const QByteArray before = sample.get(file + u".tmp"_s);
+    for (int times = 0; times < 3 && sample.get(file + u".tmp"_s) == before; ++times) {
+      bringToFront(program.form);
+      QTRY_COMPARE(QApplication::activeWindow(), &program.form);
+      drag(preview, {400, 200}, {40, 25});
+    }
     expect("X=310", "X=351");  // a guide takes it a pixel further
     expect("Y=110", "Y=135");
     QVERIFY2(sample.get(file + u".tmp"_s) == expected, qPrintable(program.status()));
