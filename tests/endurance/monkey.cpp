@@ -3,7 +3,6 @@
 #include <QScopeGuard>
 #include <QShortcut>
 
-#include "mainwindows/commands.h"
 #include "mainwindows/editor.h"
 #include "platform/paths.h"
 #include "themefiles/colour_tables.h"
@@ -79,11 +78,6 @@ std::optional<QColor> RandomDialogs::chooseColor(QWidget* /*parent*/, const QCol
 
 Monkey::Monkey(quint32 seed) : chance_(seed), dialogs_(chance_, counts_) {
   for (const QString& name : Refusals + Others) counts_[name] = 0;
-  for (const mainwindows::CommandRow& row : mainwindows::commandRows()) {
-    for (const QStringView name : {row.keys, row.menu}) {
-      if (!name.isEmpty()) counts_[name.toString()] = 0;
-    }
-  }
   game_.copySample();
   QDir(game_.native(u"Skins"_s)).mkdir(u"A crowd"_s);
   game_.put(u"Skins/A crowd/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");

@@ -80,7 +80,6 @@ class Monkey {
   void arrowKeys();
   void drag();
   void shortcut();
-  void command();
   void review();
   void resize();
   void loseFolder();

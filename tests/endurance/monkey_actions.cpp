@@ -1,11 +1,9 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
-#include <QMenu>
 #include <QTest>
 
 #include "endurance/monkey.h"
-#include "mainwindows/commands.h"
 #include "platform/paths.h"
 #include "toolwindow/list_window.h"
 
@@ -24,8 +22,6 @@ void Monkey::act() {
     form().close();
   } else if (tools != nullptr && chance_.one(12)) {
     gesture();
-  } else if (tools != nullptr && chance_.one(30)) {
-    command();
   } else if (tools == nullptr || chance_.one(50)) {
     touch(form());
   } else if (chance_.one(4) || tools->objects().ListIndex() < 0) {
@@ -169,35 +165,6 @@ void Monkey::shortcut() {
   if (form().toolWindow() != nullptr && chance_.one(2)) window = form().toolWindow();
   if (chance_.one(4)) return key(*window, Qt::Key_F7, chance_.one(2) ? Qt::ShiftModifier : Qt::NoModifier);
   key(*window, chance_.of(std::array{Qt::Key_O, Qt::Key_S, Qt::Key_S, Qt::Key_W}), Qt::ControlModifier);
-}
-
-/// A command by its keys, or out of the preview's menu; some want several objects.
-void Monkey::command() {
-  if (chance_.one(3)) {
-    const mainwindows::CommandRow& row = chance_.of(mainwindows::commandRows());
-    if (row.keys.isEmpty()) return;
-    ++counts_[row.keys.toString()];
-    const QKeyCombination keys = QKeySequence(row.keys.toString())[0];
-    return key(form(), keys.key(), keys.keyboardModifiers());
-  }
-  const toolwindow::Form2& tools = *form().toolWindow();
-  for (int more = chance_.below(5); more > 0 && tools.objects().ListCount() > 0; --more) {
-    form().session().toggleMember(tools.objects().List(chance_.below(tools.objects().ListCount())));
-  }
-  key(*form().Workspace, Qt::Key_F10, Qt::ShiftModifier);
-  const QPointer<QMenu> menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-  if (!menu) return;
-  QList<QAction*> entries;
-  for (QAction* entry : menu->findChildren<QAction*>()) {
-    if (entry->isEnabled() && entry->menu() == nullptr) entries += entry;
-  }
-  if (!entries.isEmpty()) {
-    QAction* const entry = chance_.of(entries);
-    const auto counted = counts_.find(entry->text().section(u'\t', 0, 0));
-    if (counted != counts_.end()) ++*counted;  // else it is in the menu of a list
-    entry->trigger();
-  }
-  menu->close();
 }
 
 /// Something in the list of what differs, in that of what is wrong, and with the screen in each skin and language.
