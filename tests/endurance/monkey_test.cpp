@@ -9,7 +9,7 @@ class MonkeyTest : public QObject {
   /// The seed is that of the environment variable MONKEY_SEED, if given.
   void randomEvents() {
     constexpr int LeastEvents = 5000;
-    constexpr int MostEvents = 120000;
+    constexpr int MostEvents = 160000;
     constexpr int LeastCount = 20;
     bool given = false;
     const int environment = qEnvironmentVariableIntValue("MONKEY_SEED", &given);
