@@ -3,7 +3,7 @@
 
 #include "mainwindows/arranging.h"
 #include "mainwindows/selected_object.h"
-#include "support/hand.h"
+#include "support/group.h"
 #include "support/row_name.h"
 #include "themefiles/working_copies.h"
 
@@ -11,35 +11,11 @@ using namespace support;
 
 const QPoint Inside(50, 60);  // of LoadingStaticA
 
-/// Objects that the theme has in addition, two of them texts of buttons that have others already.
-constexpr const char* More = R"([LoadingButtonGoText2]|X=20|Y=22|Font=0|Size=7|Text=HELLO|Color=Red
-[LoadingButtonWide]|Tex=Plate|X=15|Y=500|W=90|H=40|Color=Blue|DColor=Red|INT=1|DINT=1|Type=Colorized|Texts=1
-[LoadingButtonWideText1]|X=5|Y=6|Font=1|Size=8|Text=GO|Color=Red
-[LoadingStaticB]|Tex=Plate|X=5|Y=400|W=121|H=31|Color=Blue|Type=Colorized
-)";
-
-/// Several objects in the hand, their arranging, and the guides that a drag meets.
-class GroupHandTest : public HandTest {
+/// Several objects in the hand, and the guides that a drag meets.
+class GroupHandTest : public GroupTest {
   Q_OBJECT
 
  private:
-  /// LoadingStaticA, and with it the two buttons and a text of one.
-  void group() const {
-    program->tag(u"LoadingStaticA"_s);
-    for (const QPoint& place : {QPoint(340, 320), QPoint(370, 250), QPoint(340, 230)}) {
-      QTest::mouseClick(&preview(), Qt::LeftButton, Qt::ShiftModifier, place);
-    }
-  }
-
-  void openCrowded() {
-    program = nullptr;
-    game = std::make_unique<GameFolder>();
-    QByteArray theme =
-        QByteArray(AlphaTheme).replace("Texts=1", "Texts=2").replace("[Main]", QByteArray(More) + "[Main]");
-    game->put(ThemeFile, theme.replace("|", "\n").replace("\n", "\r\n"));
-    program = std::make_unique<Program>(*game);
-    program->open();
-  }
   /// The steps of a way, by the mouse or by arrow keys with and without Shift.
   static std::vector<int> steps(int by, bool byKeys) {
     if (!byKeys) return {by};
@@ -227,54 +203,6 @@ class GroupHandTest : public HandTest {
       QCOMPARE(newLines(meddled).join(u' '), lines);
       QVERIFY2(program->status().contains(told), qPrintable(program->status()));
       QCOMPARE(game->files().value(ThemeCopy + u".old"_s), before == nullptr ? QByteArray() : own);
-    }
-  }
-
-  void arrangements() {
-    using mainwindows::Arrangement;
-    const std::pair<Arrangement, QString> rows[] = {
-        {Arrangement::LeftEdges, u"X=40 X=40"_s},   {Arrangement::CentresAcross, u"X=50 X=50"_s},
-        {Arrangement::RightEdges, u"X=60 X=60"_s},  {Arrangement::UpperEdges, u"Y=50 Y=50"_s},
-        {Arrangement::CentresDown, u"Y=50 Y=60"_s}, {Arrangement::LowerEdges, u"Y=50 Y=70"_s},
-        {Arrangement::GapsAcross, u"X=180"_s},      {Arrangement::GapsDown, u"Y=175"_s},
-        {Arrangement::Widths, u"W=100 W=100"_s},    {Arrangement::Heights, u"H=60"_s}};
-    for (const auto& [arrangement, lines] : rows) {
-      program = nullptr;
-      init();
-      group();
-      program->form.session().toggleMember(u"LoadingButtonGoText1"_s);
-      const QByteArray file = game->get(ThemeCopy);
-      mainwindows::arrange(program->form, arrangement);
-      QCOMPARE(newLines(file).join(u' '), lines);
-    }
-    program->form.session().endGroup();
-    program->form.session().toggleMember(u"LoadingTextFree"_s);
-    const QByteArray file = game->get(ThemeCopy);
-    for (const auto& [arrangement, told] :
-         {std::pair{Arrangement::Widths, u"LoadingTextFree stays as it is [a text can't be sized]"_s},
-          {Arrangement::GapsDown, u"All stays as it is [equal gaps need three objects]"_s}}) {
-      mainwindows::arrange(program->form, arrangement);
-      QVERIFY(program->status() == told && game->get(ThemeCopy) == file);
-    }
-    program->tag(u"LoadingTextFree"_s);
-    program->change(u"X"_s, u"900"_s);
-    program->form.session().toggleMember(u"LoadingStaticA"_s);
-    mainwindows::arrange(program->form, Arrangement::Widths);
-    QCOMPARE(program->status(), u"LoadingTextFree stays as it is [it isn't drawn]"_s);
-    // Odd sizes, one whose left edge comes before that of one that lies further left, and a text beside its own button.
-    for (const auto& [arrangement, names, lines] :
-         {std::tuple{Arrangement::RightEdges, u"StaticA StaticB ButtonWide"_s, u"X=50 X=19"_s},
-          {Arrangement::GapsAcross, u"StaticA StaticB ButtonWide ButtonWideText1"_s, u"X=12"_s},
-          {Arrangement::GapsDown, u"ButtonGo ButtonGoText1 StaticA ButtonWide"_s, u"Y=275"_s},
-          {Arrangement::LeftEdges, u"ButtonGoText1 ButtonGo StaticA"_s, u"X=310"_s},
-          {Arrangement::LeftEdges, u"ButtonGo ButtonGoText1"_s, u"X=0"_s}}) {
-      openCrowded();
-      const QStringList group = names.split(u' ');
-      program->tag(u"Loading"_s + group.front());
-      for (const QString& name : group.mid(1)) program->form.session().toggleMember(u"Loading"_s + name);
-      const QByteArray before = game->get(ThemeCopy);
-      mainwindows::arrange(program->form, arrangement);
-      QCOMPARE(newLines(before).join(u' '), lines);
     }
   }
 
