@@ -6,7 +6,7 @@
 
 #include "controls/assets.h"
 #include "controls/look.h"
-#include "support/results.h"
+#include "support/picture_results.h"
 #include "support/windows.h"
 
 using namespace support;

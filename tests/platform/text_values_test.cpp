@@ -4,6 +4,7 @@
 
 #include "platform/code_page.h"
 #include "platform/numbers.h"
+#include "support/results.h"
 
 using namespace platform;
 using namespace Qt::StringLiterals;
@@ -38,31 +39,21 @@ class TextValuesTest : public QObject {
   }
 
   void numberOfText() {
-    for (const char* row : {"  -12.5abc=-12.5", "+7=7", "-.25=-0.25", "5.=5", ".=0", "- 5=0", "1 2=1", "1.2.3=1.2",
-                            "1e3=1", "9999999999=9999999999", "inf=0", "\u00A0 5=0", "\u0663=0"}) {
-      const QStringList fields = QString::fromUtf8(row).split(u'=');
-      QVERIFY2(numberOf(fields[0]) == fields[1].toDouble(), row);
-    }
+    support::compareRows(u"numbers_of_texts.txt"_s,
+                         [](const QString& text) { return QString::number(numberOf(text), 'g', 17); });
     QCOMPARE(numberOf(u'-' + QString(400, u'9')), -std::numeric_limits<double>::infinity());
   }
 
   void rounding() {
-    // A number, and what 16 bits and a byte make of it; "-" where it doesn't fit.
-    for (const char* row : {"127.5 128 128", "0.49999999999999994 0 0", "-0.5 0 0", "-0.51 -1 -", "255.49 255 255",
-                            "255.5 256 -", "32767.49 32767 -", "32767.5 - -", "-32768.51 - -", "nan - -"}) {
-      const QStringList fields = QString::fromLatin1(row).split(u' ');
+    support::compareRows(u"rounded_numbers.txt"_s, [](const QString& number) {
       const auto shown = [](auto rounded) { return rounded ? QString::number(*rounded) : u"-"_s; };
-      const double number = fields[0].toDouble();
-      QVERIFY2(shown(roundToInt16(number)) == fields[1] && shown(roundToByte(number)) == fields[2], row);
-    }
+      return shown(roundToInt16(number.toDouble())) + u' ' + shown(roundToByte(number.toDouble()));
+    });
   }
 
   void textOfNumber() {
-    for (const char* row : {"-0=0", "66.66666666666667=66.6666666666667", "0.30000000000000004=0.3", "1e-7=0.0000001",
-                            "123456789012345678=123456789012346000"}) {
-      const QStringList fields = QString::fromLatin1(row).split(u'=');
-      QCOMPARE(numberText(fields[0].toDouble()), fields[1]);
-    }
+    support::compareRows(u"texts_of_numbers.txt"_s,
+                         [](const QString& number) { return numberText(number.toDouble()); });
   }
 
   void blanks() {

@@ -41,17 +41,13 @@ class TexturePipelineTest : public QObject {
       if (x < 256) return qRgba(max, min, middle, 255);
       return x < 512 ? qRgba(min, middle, max, 255 - min) : qRgba(middle, max, min, 1);
     });
-    QStringList sums;
-    for (const char* color : {"255 0 0", "0 255 0", "0 0 255", "71 175 247", "230 230 95", "1 0 2", "128 128 128",
-                              "300 -20 1000.5", "3 9 18", "255 127.5 0", "100000 50000.1 0", "0 255 255", "220 9 99"}) {
-      const QByteArrayList fields = QByteArray(color).split(' ');
+    compareRows(u"colorized.txt"_s, [&](const QString& color) {
+      const QStringList fields = color.split(u' ');
       QImage picture = before.copy();
       colorize(picture, {fields[0].toFloat(), fields[1].toFloat(), fields[2].toFloat()});
       const QByteArrayView pixels(picture.constBits(), picture.sizeInBytes());
-      sums += QLatin1StringView(color) + u": "_s +
-              QString::fromLatin1(QCryptographicHash::hash(pixels, QCryptographicHash::Sha1).toHex());
-    }
-    compareText(u"colorized.txt"_s, sums);
+      return QString::fromLatin1(QCryptographicHash::hash(pixels, QCryptographicHash::Sha1).toHex());
+    });
   }
 
   void failingSessions() {

@@ -5,7 +5,7 @@
 #include "renderer/plain_host.h"
 #include "renderer/render_driver.h"
 #include "renderer/trial_drawing.h"
-#include "support/results.h"
+#include "support/picture_results.h"
 #include "support/stage.h"
 #include "themefiles/tag_reader.h"
 

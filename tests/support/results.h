@@ -1,12 +1,9 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QImage>
-#include <QPainter>
 #include <QTest>
 
 // Whole results that are kept as data beside a test, in its folder RESULTS. `scripts/renew_results` writes them anew.
@@ -54,71 +51,38 @@ inline void compareText(const QString& name, const QStringList& got) {
   failResult(path, int(first) + 1, QStringLiteral("differs from here:") + report);
 }
 
-/// The expected picture, the one that came, and that one pale with the pixels that differ in magenta and framed.
-inline QImage markedDifference(const QImage& expected, const QImage& got, const QRect& place) {
-  constexpr int Gap = 8;
-  QImage all(got.width() * 2 + expected.width() + 2 * Gap, std::max(got.height(), expected.height()),
-             QImage::Format_RGB32);
-  all.fill(Qt::black);
-  QPainter painter(&all);
-  painter.drawImage(0, 0, expected);
-  painter.drawImage(expected.width() + Gap, 0, got);
-  painter.translate(expected.width() + got.width() + 2 * Gap, 0);
-  painter.drawImage(0, 0, got);
-  painter.fillRect(got.rect(), QColor(255, 255, 255, 160));
-  for (int y = place.top(); y <= place.bottom(); ++y) {
-    for (int x = place.left(); x <= place.right(); ++x) {
-      const bool both = expected.rect().contains(x, y) && got.rect().contains(x, y);
-      if (!both || expected.pixel(x, y) != got.pixel(x, y)) painter.fillRect(x, y, 1, 1, Qt::magenta);
-    }
+/// The bytes that a row tells: "|" ends a line, \x and two digits is a byte.
+inline QByteArray bytesOf(QByteArray told, const char* lineEnd = "\n") {
+  told.replace('|', lineEnd);
+  for (qsizetype at = told.indexOf("\\x"); at >= 0; at = told.indexOf("\\x", at + 1)) {
+    told.replace(at, 4, QByteArray::fromHex(told.mid(at + 2, 2)));
   }
-  painter.setPen(Qt::red);
-  painter.drawRect(place.adjusted(-4, -4, 3, 3));
-  return all;
+  return told;
 }
 
-/// Compares a picture, pixel by pixel, with the PNG of that name. One that differs is written, with the difference
-/// marked, into the folder `differences` where the test runs.
-inline void comparePicture(const QString& name, const QImage& given) {
-  const QString path = resultFile(name);
-  const QImage got = given.convertToFormat(QImage::Format_ARGB32);
-  const QImage expected = QImage(path).convertToFormat(QImage::Format_ARGB32);
-  if (got == expected) return;
-  QRect place;
-  int count = 0;
-  QPoint first;
-  const QSize all = got.size().expandedTo(expected.size());
-  for (int y = 0; y < all.height(); ++y) {
-    for (int x = 0; x < all.width(); ++x) {
-      const bool both = expected.rect().contains(x, y) && got.rect().contains(x, y);
-      if (both && expected.pixel(x, y) == got.pixel(x, y)) continue;
-      if (count++ == 0) first = {x, y};
-      place |= QRect(x, y, 1, 1);
-    }
+/// The other way round, with line ends of CR LF: what a row tells of bytes.
+inline QString rowOf(QByteArray bytes) {
+  QString row;
+  for (const char byte : std::as_const(bytes.replace("\r\n", "|"))) {
+    const bool plain = byte >= ' ' && byte <= '~';
+    row += plain ? QString(QLatin1Char(byte)) : QStringLiteral("\\x%1").arg(uchar(byte), 2, 16, QLatin1Char('0'));
   }
-  const QString folder = QDir::current().filePath(QStringLiteral("differences"));
-  const QString marked = folder + u'/' + QFileInfo(QStringLiteral(RESULTS)).fileName() + u' ' + name;
-  QDir().mkpath(folder);
-  if (!markedDifference(expected, got, place).save(marked)) qFatal("can't write");
-  if (renewsResults()) {
-    if (!given.save(path, "PNG", 0)) qFatal("can't write");
-    qInfo("look at %s", qPrintable(marked));
-    return;
+  return row.endsWith(u' ') ? row.chopped(1) + QStringLiteral("\\x20") : row;
+}
+
+/// Compares a text whose rows are "given -> told": what is told of each anew. Other lines stay.
+inline void compareRows(const QString& name, const std::function<QString(const QString& given)>& tell) {
+  QFile file(resultFile(name));
+  if (!file.open(QIODevice::ReadOnly)) return failResult(file.fileName(), 1, QStringLiteral("is missing"));
+  QStringList rows = QString::fromUtf8(file.readAll()).chopped(1).split(u'\n');
+  file.close();
+  for (QString& row : rows) {
+    const qsizetype arrow = row.indexOf(u" ->");
+    if (arrow < 0) continue;
+    const QString told = tell(row.first(arrow));
+    row = row.first(arrow + 3) + (told.isEmpty() ? told : u' ' + told);
   }
-  const auto colorAt = [&](const QImage& image) {
-    return image.rect().contains(first) ? image.pixelColor(first).name(QColor::HexArgb) : QStringLiteral("nothing");
-  };
-  failResult(path, 1,
-             QStringLiteral("%1 pixels differ within %2,%3 %4x%5, the first at %6,%7: expected %8, got %9\nlook at ")
-                     .arg(count)
-                     .arg(place.x())
-                     .arg(place.y())
-                     .arg(place.width())
-                     .arg(place.height())
-                     .arg(first.x())
-                     .arg(first.y())
-                     .arg(colorAt(expected), colorAt(got)) +
-                 marked);
+  compareText(name, rows);
 }
 
 }  // namespace support

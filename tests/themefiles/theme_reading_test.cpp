@@ -74,19 +74,10 @@ class ThemeReadingTest : public QObject {
   }
 
   void runsOfTags() {
-    // Screen, theme, tags.
-    for (const auto& [screen, theme, listed] : {
-             std::tuple(u"Main Screen"_s, "[Main]|[MainZ]|[Mainb]|[MainA]|[MainButton10]|[MainButton2]",
-                        u"Main/MainA/Mainb/MainButton10/MainButton2/MainZ"_s),
-             {u"Main Screen"_s, "[Theme]|[Song]|[MainA]|[SingX]|[Main]|[Sing] |[Sing]|[MainB]", u"Main/MainA"_s},
-             {u"Main Screen"_s, "[mainA]x|[MAINB] |X=[MainX]|;[MainY]| [MainZ]|[sing]|[MainC", u"Main/mainA]/MAINB]"_s},
-             {u"Song Screen (Party)"_s, "[SongMenu]|[SongStatic]|[SongMenu]|[SongText]", u"SongMenu/SongStatic"_s},
-             {u"Stats Detail"_s, "x|[StatDetail]|[StatDetailA]||[StatMain]|[StatDetailB]", u"StatDetail/StatDetailA"_s},
-             {u"Stat"_s, "[StatMain]|[StatA]|[StatDetail]|[StatB]", u"StatA/StatMain"_s},
-             {u"Check Popup"_s, "[Main]", QString()},
-         }) {
-      QCOMPARE(Theme(theme).tagsOf(screen), listed);
-    }
+    compareRows(u"tags.txt"_s, [](const QString& row) {
+      const qsizetype colon = row.indexOf(u": ");
+      return Theme(row.sliced(colon + 2).toLatin1()).tagsOf(row.first(colon));
+    });
   }
 
   void picksAndFailures() {
@@ -103,14 +94,8 @@ class ThemeReadingTest : public QObject {
   }
 
   void rowsOfATag() {
-    for (const auto& [theme, rows] : {
-             std::pair("[T]|a=0|[s]|Tex= b |x=1|Y=|[T]|z=1", u"Tex:b/x:1/Y:"_s),
-             {"[S]|#a=1||;b=2|no sign|c=3| #a=1| [T]=3|d =4", u"c:3/ #a:1/ [T]:3/d :4"_s},
-             {"[S]|\ta\t=\tb\t|a=b=c|d==e|=f", u"\ta\t:\tb\t/a:b/d:/:f"_s},
-             {"[S] |a=1|[S]|b=2|[S]|c=3", u"b:2"_s},
-         }) {
-      QCOMPARE(Theme(theme).rowsOfS(), rows);
-    }
+    compareRows(u"rows.txt"_s,
+                [](const QString& theme) { return rowOf(Theme(bytesOf(theme.toLatin1(), "|")).rowsOfS().toLatin1()); });
   }
 
   void finds() {
@@ -123,35 +108,12 @@ class ThemeReadingTest : public QObject {
                      linesOf("[Text]|GO='Los, gr\xFC\xDF Gott'|go=other|MAINTEXTOWN=own words|MAIN=Spare|SPARE=x|"));
     theme.state.paths.LanguageFile = theme.folder.path(u"l.ini"_s);
     const ThemeSearch search(theme.state);
-    // What is typed, and the hits with their rows.
-    QStringList lines;
-    for (const QString& typed : {u" "_s,
-                                 u"spare"_s,
-                                 u"stray"_s,
-                                 u"Y=1"_s,
-                                 u"main red nosuch"_s,
-                                 u" STATICBAR  x=120 "_s,
-                                 u"x=7"_s,
-                                 u"x=5"_s,
-                                 u"X="_s,
-                                 u"x"_s,
-                                 u"x m"_s,
-                                 u"bar x"_s,
-                                 u"text=los"_s,
-                                 u"120 red"_s,
-                                 u"red 120 color"_s,
-                                 u"GRÜß los"_s,
-                                 u"words"_s,
-                                 u"staticparty"_s,
-                                 u"errorpopup"_s,
-                                 u"song menu"_s,
-                                 u"single song"_s,
-                                 u"song"_s}) {
+    compareRows(u"searches.txt"_s, [&](const QString& typed) {
       const Hits hits = search.find(typed, 3);
-      lines += u"\"%1\": %2"_s.arg(typed).arg(hits.count);
-      for (const Hit& hit : hits.first) lines += u"  %1, row %2"_s.arg(hit.shown).arg(hit.row);
-    }
-    compareText(u"searches.txt"_s, lines);
+      QString told = QString::number(hits.count);
+      for (const Hit& hit : hits.first) told += u"; %1, row %2"_s.arg(hit.shown).arg(hit.row);
+      return told;
+    });
   }
 
   void recordOfATag() {

@@ -1,7 +1,6 @@
-#include <cstring>
-
 #include <QTest>
 
+#include "support/results.h"
 #include "toolbar/captions.h"
 #include "toolbar/control.h"
 #include "toolbar/layout.h"
@@ -14,6 +13,7 @@ using toolbar::Properties;
 using toolbar::SurfaceName;
 using toolbar::ToolbarButton;
 using toolbar::ToolBarEvents;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -82,27 +82,32 @@ struct Strip {
     record.words.clear();
   }
 
-  /// Words: mX,Y a move over the strip, pX,Y one over the popup; d, u, c, 2 press, release, click and double click on
-  /// the strip, D, U, C on the popup; l, f leave and loss of focus; t a message of the timer.
+  /// What is told of steps like "move 5 5, press, leave"; "popup 5 5" is a move over the popup.
   QString run(const QString& steps) {
-    for (const QString& step : steps.split(u' ', Qt::SkipEmptyParts)) take(step[0].toLatin1(), step.mid(1).split(u','));
+    SurfaceName surface = SurfaceName::Main;
+    MouseArguments place;
+    const QMap<QString, std::function<void()>> known{
+        {QStringLiteral("press"), [&] { control.picDraw_MouseDown(surface, place); }},
+        {QStringLiteral("release"), [&] { control.picDraw_MouseUp(surface, place); }},
+        {QStringLiteral("click"), [&] { control.picDraw_Click(surface); }},
+        {QStringLiteral("double click"), [&] { control.picDraw_DblClick(surface); }},
+        {QStringLiteral("leave"), [&] { control.zSubclass_Proc(675); }},
+        {QStringLiteral("lose focus"), [&] { control.zSubclass_Proc(8); }},
+        {QStringLiteral("tick"), [&] { control.zSubclass_Proc(275); }},
+    };
+    for (const QString& step : steps.split(QStringLiteral(", "))) {
+      if (known.contains(step)) {
+        known[step]();
+        continue;
+      }
+      const QStringList words = step.split(u' ');
+      const QPoint to(words.at(1).toInt(), words.at(2).toInt());
+      place = {0, 0, static_cast<float>(to.x()), static_cast<float>(to.y())};
+      surface = words[0] == u"popup" ? SurfaceName::Chevron : SurfaceName::Main;
+      surface == SurfaceName::Main ? control.picMain_MouseMove(place) : control.picChevron_MouseMove(place);
+      control.zSubclass_Proc(512, surface, to);
+    }
     return record.words.join(u' ');
-  }
-  void take(char kind, const QStringList& numbers) {
-    const auto surface = std::strchr("pDUC", kind) ? SurfaceName::Chevron : SurfaceName::Main;
-    const int x = numbers.first().toInt();
-    const int y = numbers.last().toInt();
-    const MouseArguments place{0, 0, static_cast<float>(x), static_cast<float>(y)};
-    if (kind == 'm') control.picMain_MouseMove(place);
-    if (kind == 'p') control.picChevron_MouseMove(place);
-    if (kind == 'm' || kind == 'p') control.zSubclass_Proc(512, surface, {x, y});
-    if (kind == 'd' || kind == 'D') control.picDraw_MouseDown(surface, place);
-    if (kind == 'u' || kind == 'U') control.picDraw_MouseUp(surface, place);
-    if (kind == 'c' || kind == 'C') control.picDraw_Click(surface);
-    if (kind == '2') control.picDraw_DblClick(surface);
-    if (kind == 'l') control.zSubclass_Proc(675);
-    if (kind == 'f') control.zSubclass_Proc(8);
-    if (kind == 't') control.zSubclass_Proc(275);
   }
 
   Record record;
@@ -139,22 +144,23 @@ struct Bar {
   Model model{told, QFont()};
 };
 
-/// Of every button its corner, behind an h when it is hidden; the height, and the size of the popup.
-QByteArray placesOf(const char* letters, qint16 border, int perRow, int width) {
-  Bar bar(QString::fromLatin1(letters));
-  bar.model.setValue(&Properties::BorderStyle, border);
-  bar.model.setValue(&Properties::ButtonsPerRow, perRow);
+/// Of every button its corner, behind an h when it is hidden; the height, and the size of the popup. Given are the
+/// buttons, BorderStyle, ButtonsPerRow and the width.
+QString placesOf(const QStringList& given) {
+  Bar bar(given[0]);
+  bar.model.setValue(&Properties::BorderStyle, given.at(1).toShort());
+  bar.model.setValue(&Properties::ButtonsPerRow, given.at(2).toInt());
   bar.model.setValue(&Properties::ShowChevron, true);
   toolbar::Layout layout;
-  toolbar::layOutButtons(bar.model, width, toolbar::Overflow::Hides, layout);
-  const auto pair = [](int x, int y) { return QByteArray::number(x) + ',' + QByteArray::number(y) + ' '; };
-  QByteArray text;
+  toolbar::layOutButtons(bar.model, given.at(3).toInt(), toolbar::Overflow::Hides, layout);
+  const auto pair = [](int x, int y) { return QStringLiteral("%1,%2 ").arg(x).arg(y); };
+  QString text;
   for (int i = 1; i <= bar.model.Button_Count(); ++i) {
     const toolbar::ButtonPlace& place = bar.model.placeOf(i);
-    text += (place.InChevron ? "h" : "") + pair(place.PosX, place.PosY);
+    text += QLatin1StringView(place.InChevron ? "h" : "") + pair(place.PosX, place.PosY);
   }
-  if (!layout.HiddenButtons.empty()) text += "popup " + pair(layout.popup.width(), layout.popup.height());
-  return text + "height " + QByteArray::number(toolbar::laidOutHeight(bar.model));
+  if (!layout.HiddenButtons.empty()) text += u"popup "_s + pair(layout.popup.width(), layout.popup.height());
+  return text + u"height "_s + QString::number(toolbar::laidOutHeight(bar.model));
 }
 
 }  // namespace
@@ -164,55 +170,40 @@ class ControlTest : public QObject {
 
  private Q_SLOTS:
   void eventsInOrder() {
-    const auto told = [](const char* steps) {
+    support::compareRows(u"events.txt"_s, [](const QString& steps) {
       Strip strip(149);
-      strip.control.buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("first"));
+      strip.control.buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, u"first"_s);
       strip.control.buttons().SetButtonValue(1, toolbar::ToolTipIconProperty, 2);
       strip.control.buttons().setValue(&Properties::TooTipStyle, 2);
       strip.record.words.clear();
-      return strip.run(QString::fromLatin1(steps)).toLatin1();
-    };
-    QCOMPARE(told("m5,5 t t t t m5,5 t"),
-             QByteArray("Hover1 Move1 Enter Move1 tip|B|first|2|1"));  // the same place twice
-    QCOMPARE(told("m5,5 d u c 2 u"), QByteArray("Hover1 Move1 Enter Down1 Up1 Click1 DblClick1 Up1"));  // double click
-    QCOMPARE(told("m40,5 d u c"), QByteArray("Enter"));                                                 // disabled
-    QCOMPARE(told("m5,5 m80,5"), QByteArray("Hover1 Move1 Enter Hover4 Move4"));               // straight to another
-    QCOMPARE(told("m5,5 d l u c"), QByteArray("Hover1 Move1 Enter Down1 Leave"));              // leave in a press
-    QCOMPARE(told("m5,5 l m6,5"), QByteArray("Hover1 Move1 Enter Leave Hover1 Move1 Enter"));  // enter again
-    QCOMPARE(told("m145,5 d u p5,5"), QByteArray("Enter open Hover5 Move5"));  // release on the strip isn't seen
-    QCOMPARE(told("m145,5 d p40,10 D U C"), QByteArray("Enter open Hover6 Move6 Down6 Up6 Click6"));  // popup
-    QCOMPARE(told("m145,5 d m5,5"), QByteArray("Enter open close Hover1 Move1"));  // shown button closes the popup
-    QCOMPARE(told("m145,5 d f"), QByteArray("Enter open close"));                  // focus closes the popup
-    QCOMPARE(told("m5,5 t t t t t t"), QByteArray("Hover1 Move1 Enter tip|B|first|2|1"));  // tip after five ticks
+      return strip.run(steps);
+    });
   }
 
   void popupHangsBelowTheControl() {
     Strip strip(149);
-    strip.run(QStringLiteral("m145,5 d"));
+    strip.run(u"move 145 5, press"_s);
     QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 68, 39));
-    strip.run(QStringLiteral("p5,5"));
+    strip.run(u"popup 5 5"_s);
     QCOMPARE(strip.record.lastButton, static_cast<qint16>(999));
     // While the pointer is back on the strip, the open popup takes the size of its new layout.
-    strip.run(QStringLiteral("m40,5"));
+    strip.run(u"move 40 5"_s);
     strip.control.buttons().setValue(&Properties::ButtonsPerRow_Chev, 1);
     QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 36, 71));
-    strip.run(QStringLiteral("p5,5"));
+    strip.run(u"popup 5 5"_s);
     // A layout moves the surface that is drawn on, and that one only.
     strip.control.UserControl_Resize();
     QCOMPARE(strip.record.popup, QRect(0, 0, 149, 32));
   }
 
-  // Each letter is ten wide.
+  /// Each letter is ten wide.
   void captionWrap() {
-    const auto lines = [](const char* caption, int width) {
+    support::compareRows(u"captions.txt"_s, [](const QString& row) {
       const auto tens = [](const QString& text) { return static_cast<int>(text.size()) * 10; };
-      return toolbar::WrapCaption(QString::fromLatin1(caption), width, tens).join(u'|').toLatin1();
-    };
-    QCOMPARE(lines("ab\r\ncd", 60), QByteArray("abcd"));                // line ends go
-    QCOMPARE(lines("open file now", 80), QByteArray("open|file|now"));  // at a blank
-    QCOMPARE(lines("part12 x", 50), QByteArray("part|12 x"));           // before a digit
-    QCOMPARE(lines("abcdefg", 40), QByteArray("abc|defg"));             // inside a word
-    QCOMPARE(lines("abcd ef -g", 60), QByteArray("abcd|ef -g"));        // blank before the joined piece
+      const qsizetype bar = row.indexOf(u'|');
+      const QString caption = row.first(bar).replace(u"\\n"_s, u"\r\n"_s);
+      return toolbar::WrapCaption(caption, row.sliced(bar + 1).toInt(), tens).join(u'|');
+    });
   }
 
   // From "abcd" with the second button current: letters, current button, what was told. After the range error all is
@@ -272,25 +263,17 @@ class ControlTest : public QObject {
   }
 
   void layout() {
-    QCOMPARE(placesOf("abc", 1, 10, 800), QByteArray("2,5 34,5 66,5 height 39"));              // framed
-    QCOMPARE(placesOf("aSbcd", 0, 3, 800), QByteArray("0,0 32,0 42,0 0,32 32,32 height 64"));  // separator in rows
-    QCOMPARE(placesOf("ab", 0, 10, 75), QByteArray("0,0 h2,5 popup 36,39 height 32"));         // one pixel short
-    QCOMPARE(placesOf("aSb", 0, 10, 44), QByteArray("0,0 32,0 h2,5 popup 36,39 height 32"));   // separators never hide
-    QCOMPARE(placesOf("abcde", 0, 10, 44),
-             QByteArray("0,0 h2,5 h34,5 h66,5 h2,37 popup 100,71 height 32"));  // four hidden
+    support::compareRows(u"places.txt"_s, [](const QString& row) { return placesOf(row.split(u' ')); });
   }
 
   void hits() {
-    const auto hit = [](const char* letters, qint16 border, int x, int y, bool inPopup = false) {
-      Bar bar(QString::fromLatin1(letters));
-      bar.model.setValue(&Properties::BorderStyle, border);
-      return toolbar::HitTest(bar.model, x, y, inPopup);
-    };
-    QCOMPARE(hit("abcd", 0, 32, 5), -1);
-    QCOMPARE(hit("abcd", 0, 1, 33), 4);       // the second row
-    QCOMPARE(hit("aSb", 0, 43, 5), 3);        // a separator is narrow
-    QCOMPARE(hit("abcd", 1, 1, 6), 1);        // framed rows begin at 0, below the frame
-    QCOMPARE(hit("abcd", 1, 1, 1, true), 1);  // a popup counts from its corner, and has no separators
+    support::compareRows(u"hits.txt"_s, [](const QString& row) {
+      const QStringList given = row.split(u' ');
+      Bar bar(given[0]);
+      bar.model.setValue(&Properties::BorderStyle, given.at(1).toShort());
+      const bool inPopup = given.size() > 4;
+      return QString::number(toolbar::HitTest(bar.model, given.at(2).toInt(), given.at(3).toInt(), inPopup));
+    });
   }
 };
 

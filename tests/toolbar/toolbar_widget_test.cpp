@@ -10,7 +10,7 @@
 #include "mainwindows/main_window_tool_bar.h"
 #include "propertybag/stored_bytes.h"
 #include "support/mouse.h"
-#include "support/results.h"
+#include "support/picture_results.h"
 #include "toolbar/mc_toolbar.h"
 #include "toolbar/tip_window.h"
 

@@ -1,4 +1,4 @@
-#include "support/results.h"
+#include "support/picture_results.h"
 #include "support/tool_runs.h"
 
 class GalleryTest : public QObject {

@@ -46,17 +46,8 @@ class RightGame {
   QTemporaryDir folder_;
 };
 
-/// The bytes that a line of the table tells: "|" ends a line, \x and two digits is a byte.
-QByteArray bytesOf(QByteArray told) {
-  told.replace('|', '\n');
-  for (qsizetype at = told.indexOf("\\x"); at >= 0; at = told.indexOf("\\x", at + 1)) {
-    told.replace(at, 4, QByteArray::fromHex(told.mid(at + 2, 2)));
-  }
-  return told;
-}
-
 QByteArray changed(const QByteArray& verb, const QByteArray& bytes, const QByteArray& told) {
-  if (verb == "append") return bytes + bytesOf(told);
+  if (verb == "append") return bytes + support::bytesOf(told);
   if (verb == "mark") return "\xEF\xBB\xBF" + bytes;
   if (verb == "cut") return bytes.chopped(bytes.size() / 2);
   if (verb == "wide") {
@@ -65,9 +56,9 @@ QByteArray changed(const QByteArray& verb, const QByteArray& bytes, const QByteA
     return wide;
   }
   const qsizetype arrow = told.indexOf(" ->");
-  const QByteArray old = bytesOf(told.first(arrow));
+  const QByteArray old = support::bytesOf(told.first(arrow));
   if (verb != "change" || !bytes.contains(old)) qFatal("can't %s %s", verb.constData(), told.constData());
-  return QByteArray(bytes).replace(old, bytesOf(told.sliced(arrow + 3).mid(1)));
+  return QByteArray(bytes).replace(old, support::bytesOf(told.sliced(arrow + 3).mid(1)));
 }
 
 /// Makes a change that a line of the table tells; gives the options of a call.
@@ -89,7 +80,7 @@ QStringList make(const QByteArray& line, const RightGame& game) {
   } else if (verb == "copy") {
     done = QFile::copy(game.path(other), file);
   } else {
-    writeFile(file, verb == "write" ? bytesOf(told) : changed(verb, readFile(file), told));
+    writeFile(file, verb == "write" ? support::bytesOf(told) : changed(verb, readFile(file), told));
   }
   if (!done) qFatal("can't %s", line.constData());
   return {};
