@@ -94,16 +94,19 @@ std::optional<SavedValue> savedColor(const ModuleState& state, const QString& na
 bool putSavedColorBack(Session& session, const QString& name, const SavedValue& saved) {
   if (!writeAtOnce(session, WriteStep, [&] { putLinesBack(session.state(), saved.lines, session.status()); }))
     return false;
-  setRowsLike(session, name, themefiles::GetINI(ColorsSection, name, newColor(), session.state().paths.ThemeFile));
+  followColors(session, {name});
   return true;
 }
 
 void followColors(Session& session, const QStringList& names) {
   ModuleState& state = session.state();
+  const QStringList inFile = themefiles::keyNames(ColorsSection, state.paths.ThemeFile);
   for (const QString& name : names) {
     auto row = rowLike(state, name);
     if (row == state.ThemeColors.end()) row = rowNamed(state.ThemeColors, QString());
-    if (row != state.ThemeColors.end() && row->Name.isEmpty()) row->Name = name;
+    const auto given =
+        std::find_if(inFile.begin(), inFile.end(), [&](const QString& key) { return platform::sameName(key, name); });
+    if (row != state.ThemeColors.end()) row->Name = given == inFile.end() ? name : *given;
     setRowsLike(session, name, themefiles::GetINI(ColorsSection, name, newColor(), state.paths.ThemeFile));
   }
 }

@@ -32,8 +32,8 @@ std::optional<SavedValue> savedColor(const themefiles::ModuleState& state, const
 /// changes nothing.
 bool changeColor(Session& session, const QString& name, const QString& color);
 bool putSavedColorBack(Session& session, const QString& name, const SavedValue& saved);
-/// The lines of these colours have been put back: the table has their values. One that was removed gets a row anew, if
-/// there is room.
+/// The lines of these colours have been put back: the table has their values, and their names in the case that the
+/// file has again. One that was removed gets a row anew, if there is room.
 void followColors(Session& session, const QStringList& names);
 /// Adds a colour, or makes the theme's colour of that name a new one. That there is no room for it is reported; so is
 /// what the file had under that name.

@@ -177,8 +177,11 @@ void ColorFrame::showMenu(const QPoint& place) {
 void ColorFrame::putBack() {
   platform::guarded(services.session.status(), editing::WriteStep.toString(), [&] {
     const auto now = savedColor();  // a Save that ran while the menu was open has changed it
-    if (!now || now->lines.empty() || !editing::putSavedColorBack(services.session, Combo3->Text(), *now)) return;
-    Combo3_Click();
+    const QString name = Combo3->Text();
+    if (!now || now->lines.empty() || !editing::putSavedColorBack(services.session, name, *now)) return;
+    if (editing::colorValue(services.session.state(), ColorGroup::Theme, name, {})) return Combo3_Click();
+    listNames(ColorGroup::Theme);  // the saved one's name is in another case
+    Combo3->SetListIndex(Combo3->entryLike(name));
   });
 }
 

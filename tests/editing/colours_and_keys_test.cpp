@@ -52,6 +52,11 @@ class ColoursAndKeysTest : public QObject {
     QVERIFY(theme.report().contains(u"red was 1 1 1 and is a new colour now"));
     const auto saved = editing::savedColor(theme.state, u"Blue"_s);
     QVERIFY(saved && editing::putSavedColorBack(session, u"Blue"_s, *saved) && *value("Blue") == u"0 0 9");
+    // Put back over one that is named in another case, it has its own name again.
+    QVERIFY(editing::removeColor(session, u"Blue"_s) && editing::addColor(session, u"BLUE"_s) == u"BLUE");
+    const auto again = editing::savedColor(theme.state, u"BLUE"_s);
+    QVERIFY(again && editing::putSavedColorBack(session, u"BLUE"_s, *again) && !value("BLUE"));
+    QCOMPARE(*value("Blue"), u"0 0 9"_s);
     theme.told();
     theme.state.paths.ThemeFile = theme.folder.path(u"none/theme.ini.tmp"_s);
     QVERIFY(!editing::changeColor(session, u"Blue"_s, u"7 7 7"_s) && !editing::addColor(session, u"More"_s));
