@@ -3,6 +3,7 @@
 #include <QScopeGuard>
 #include <QShortcut>
 
+#include "mainwindows/commands.h"
 #include "mainwindows/editor.h"
 #include "platform/paths.h"
 #include "themefiles/colour_tables.h"
@@ -36,6 +37,10 @@ QByteArray crowdedTheme() {
 }
 
 }  // namespace
+
+QString commandName(const mainwindows::CommandRow& row) {
+  return (row.menu.isEmpty() ? row.keys : row.menu).toString();
+}
 
 /// Whether the dialog gets an answer other than No or Cancel.
 bool RandomDialogs::answered(const char* answer) {
@@ -78,6 +83,9 @@ std::optional<QColor> RandomDialogs::chooseColor(QWidget* /*parent*/, const QCol
 
 Monkey::Monkey(quint32 seed) : chance_(seed), dialogs_(chance_, counts_) {
   for (const QString& name : Refusals + Others) counts_[name] = 0;
+  for (const mainwindows::CommandRow& row : mainwindows::commandRows()) {
+    if (row.button == 0) counts_[commandName(row)] = 0;
+  }
   game_.copySample();
   QDir(game_.native(u"Skins"_s)).mkdir(u"A crowd"_s);
   game_.put(u"Skins/A crowd/One.ini"_s, "[Skin]\r\n[Textures]\r\nPlate=plate.png\r\n");
@@ -173,7 +181,8 @@ void Monkey::checkColors() {
   }
   table.sort();
   section.sort();
-  require(table == section || section.size() > 100, u"the names of the colours"_s);
+  require(table == section || section.size() > 100,
+          u"the colours are "_s + table.join(u' ') + u", those of the file "_s + section.join(u' '));
 }
 
 /// What holds when all is at rest.

@@ -4,6 +4,7 @@
 
 #include <QTimer>
 
+#include "mainwindows/command.h"
 #include "support/windows.h"
 
 /// A user without sense: random events through the real windows, and what must hold whatever the user does.
@@ -13,6 +14,9 @@ using namespace Qt::StringLiterals;
 
 /// How often each thing has occurred that has to.
 using Counts = QMap<QString, int>;
+
+/// What a command without a button is counted by.
+QString commandName(const mainwindows::CommandRow& row);
 
 class Chance {
  public:
@@ -80,6 +84,7 @@ class Monkey {
   void arrowKeys();
   void drag();
   void shortcut();
+  void command();
   void review();
   void resize();
   void loseFolder();

@@ -1,9 +1,11 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QMenu>
 #include <QTest>
 
 #include "endurance/monkey.h"
+#include "mainwindows/commands.h"
 #include "platform/paths.h"
 #include "toolwindow/list_window.h"
 
@@ -11,6 +13,7 @@ namespace endurance {
 
 void Monkey::act() {
   form().ShowStatus(QString());
+  form().config().setGameFolder(game_.path());  // another one may have been opened
   toolwindow::Form2* const tools = form().toolWindow();
   if (tools == nullptr && !chance_.one(6)) {
     click(*form().ToolBar, {16, 16});
@@ -22,6 +25,8 @@ void Monkey::act() {
     form().close();
   } else if (tools != nullptr && chance_.one(12)) {
     gesture();
+  } else if (tools != nullptr && chance_.one(80)) {
+    command();
   } else if (tools == nullptr || chance_.one(50)) {
     touch(form());
   } else if (chance_.one(4) || tools->objects().ListIndex() < 0) {
@@ -163,14 +168,37 @@ void Monkey::drag() {
 void Monkey::shortcut() {
   QWidget* window = &form();
   if (form().toolWindow() != nullptr && chance_.one(2)) window = form().toolWindow();
-  if (chance_.one(4)) return key(*window, Qt::Key_F7, chance_.one(2) ? Qt::ShiftModifier : Qt::NoModifier);
   key(*window, chance_.of(std::array{Qt::Key_O, Qt::Key_S, Qt::Key_S, Qt::Key_W}), Qt::ControlModifier);
+}
+
+/// The command that came least, out of the preview's menu with several objects, or by its keys.
+void Monkey::command() {
+  const auto came = [this](const mainwindows::CommandRow& row) { return counts_.value(commandName(row), INT_MAX); };
+  const mainwindows::CommandRow& row = *std::ranges::min_element(mainwindows::commandRows(), {}, came);
+  if (row.menu.isEmpty()) {
+    ++counts_[commandName(row)];
+    const QKeyCombination keys = QKeySequence(row.keys.toString())[0];
+    return key(form(), keys.key(), keys.keyboardModifiers());
+  }
+  const controls::ListBox& objects = form().toolWindow()->objects();
+  for (int more = chance_.below(5); more > 0 && objects.ListCount() > 0; --more) {
+    form().session().toggleMember(objects.List(chance_.below(objects.ListCount())));
+  }
+  key(*form().Workspace, Qt::Key_F10, Qt::ShiftModifier);
+  const QPointer<QMenu> menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  if (!menu) return;
+  for (QAction* entry : menu->findChildren<QAction*>()) {
+    if (!entry->isEnabled() || entry->text().section(u'\t', 0, 0) != row.menu) continue;
+    ++counts_[commandName(row)];
+    entry->trigger();
+    break;
+  }
+  if (menu) menu->close();
 }
 
 /// Something in the list of what differs, in that of what is wrong, and with the screen in each skin and language.
 void Monkey::review() {
   if (form().toolWindow() == nullptr) return;
-  if (chance_.one(3)) return key(form(), Qt::Key_F8);
   if (chance_.one(4)) {
     key(form(), Qt::Key_B, Qt::ControlModifier);
     QTest::qWait(chance_.below(40));
