@@ -17,7 +17,11 @@ bool RowWords::areIn(const QString& searchable) const {
 }
 
 QString searchable(const QString& told, const QString& key, const QString& value) {
-  return platform::upperCase(told + u'\n' + platform::trimBlanks(key) + u'=' + value);
+  QString words = platform::upperCase(told + u'\n' + platform::trimBlanks(key) + u'=' + value);
+  // Keys and captions say "color", sentences "colour".
+  if (words.contains(u"COLOUR"))
+    words += u'\n' + QString(words).replace(QStringLiteral("COLOUR"), QStringLiteral("COLOR"));
+  return words;
 }
 
 }  // namespace toolwindow

@@ -115,6 +115,9 @@ class SavedStateTest : public ProgramTest {
                           u"colour 'Blue' = 1 2 3 (saved: 30 60 200)"_s, u"words 'HELLO' = Hi (saved: Hello there)"_s};
     QTRY_COMPARE(entries(*list.List), all);
     QCOMPARE(list.windowTitle(), u"Differs from the saved state: 3"_s);
+    list.Line->SetText(u"color blue"_s);
+    QCOMPARE(entries(*list.List), all.mid(1, 1));
+    list.Line->clear();
     QTest::keyClicks(list.Line, u"x=77 loading"_s);
     QCOMPARE(entries(*list.List), all.first(1));
     QTest::keyClick(list.Line, Qt::Key_Return);
