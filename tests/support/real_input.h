@@ -15,7 +15,10 @@ namespace support {
 /// A click of the mouse on the window at a place of one of its widgets: the window finds out what lies there.
 inline void clickAt(QWidget& widget, const QPoint& place) {
   const QPoint inWindow = widget.mapTo(widget.window(), place);
-  QTest::mouseClick(widget.window()->windowHandle(), Qt::LeftButton, {}, inWindow);
+  QWindow* const window = widget.window()->windowHandle();
+  // A window that has just grown for an editor may have to wait for the window manager.
+  if (!QTest::qWaitFor([&] { return QRect({}, window->size()).contains(inWindow); })) qFatal("a click beside a window");
+  QTest::mouseClick(window, Qt::LeftButton, {}, inWindow);
 }
 
 inline void press(QWidget& widget) {
