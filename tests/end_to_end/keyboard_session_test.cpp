@@ -13,6 +13,13 @@ namespace {
 /// The window that has the keyboard, once it has it.
 QWidget& activeWindow(const QWidget* expected) {
   const auto active = [&] { return QApplication::activeWindow() == expected; };
+  // On a busy machine the toolkit misses now and then that a window has the keyboard, if a dialog has just gone.
+  if (!QTest::qWaitFor(active) && QApplication::activeWindow() == nullptr) {
+    for (const QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->isVisible() && window != expected) bringToFront(*window);
+    }
+    bringToFront(*expected);
+  }
   if (!QTest::qWaitFor(active, 20000)) {
     const QWidget* other = QApplication::activeWindow();
     const QString name = other == nullptr ? u"none"_s : other->windowTitle();
