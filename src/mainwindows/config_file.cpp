@@ -45,8 +45,7 @@ ConfigFile::ConfigFile(const QStringList& folders) {
       if (!platform::readIfThere(path)) {
         if (isInSystemFolder(folder) || isInstalled(folder)) continue;
         QDir().mkpath(platform::nativePath(folder));  // the making of the file tells if that failed
-        platform::FileTurn turn(path);
-        if (!turn.text()) turn.replace(FirstContent);
+        platform::makeFile(path, FirstContent);
       }
     } catch (const platform::Failure& failure) {
       problem_ = failure.description();

@@ -77,6 +77,11 @@ void writeFile(const QString& path, QByteArrayView bytes, AtLink atLink) {
   valueOf(turn.replace(bytes, nullptr), path);
 }
 
+void makeFile(const QString& path, QByteArrayView bytes) {
+  FileTurn turn(path);
+  if (!turn.text()) turn.replace(bytes);
+}
+
 bool fileExists(const QString& path) {
   QString native;
   return look(path, AtLink::Follow, native).isFile;

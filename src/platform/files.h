@@ -54,6 +54,9 @@ class FileTurn {
 /// Replaces or creates the file, whatever stands in it.
 void writeFile(const QString& path, QByteArrayView bytes, AtLink atLink = AtLink::Follow);
 
+/// Creates the file unless it is there. What another program puts in it at the same moment stays.
+void makeFile(const QString& path, QByteArrayView bytes);
+
 /// Whether there is a file at the path.
 bool fileExists(const QString& path);
 

@@ -35,8 +35,8 @@ FileResult<> writeAll(const FileHandle& file, QByteArrayView bytes) {
 /// It is no error if the file system has no flush.
 FileResult<> flush(const FileHandle& file) {
   const auto flushed = called(::fsync(static_cast<int>(file.value())));
-  if (flushed || (flushed.error().number != EINVAL && flushed.error().number != ENOTSUP)) return Done();
-  return flushed;
+  const bool hasNone = !flushed && (flushed.error().number == EINVAL || flushed.error().number == ENOTSUP);
+  return hasNone ? Done() : flushed;
 }
 
 /// The final target of a symbolic link, whether that exists or not; else the path itself.

@@ -19,7 +19,8 @@ const QString Programs = qEnvironmentVariable("ProgramFiles");
 const QStringList Unfit{u"NUL\\at all"_s, u"NUL"_s, qEnvironmentVariable("windir"),
                         Programs.toUpper().replace(u'\\', u"\\\\"_s) + u"\\Game\\bin"_s};
 #else
-const QStringList Unfit{u"\\dev\\null\\at all"_s, u"\\dev\\null"_s, u"\\usr\\local"_s, u"\\usr\\\\local\\bin"_s};
+const QStringList Unfit{u"\\dev\\null\\at all"_s, u"\\dev\\null"_s, u"\\usr\\local"_s, u"\\usr\\\\local\\bin"_s,
+                        u"\\opt\\game"_s,         u"\\bin"_s,       u"\\sbin"_s,       u"\\Applications\\Game"_s};
 #endif
 
 class ConfigFileTest : public QObject {

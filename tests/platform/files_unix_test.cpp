@@ -19,13 +19,15 @@ using namespace platform;
 namespace {
 
 constexpr char AccessList[] = "system.posix_acl_access";
-/// The owner reads and writes, user 1234 reads, nobody else.
+/// The owner and user 1234 read and write, nobody else.
 constexpr char ForSomeone[] =
-    "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\4\0\xD2\4\0\0\4\0\0\0\xFF\xFF\xFF\xFF"
-    "\x10\0\4\0\xFF\xFF\xFF\xFF\x20\0\0\0\xFF\xFF\xFF\xFF";
+    "\2\0\0\0\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\xD2\4\0\0\4\0\0\0\xFF\xFF\xFF\xFF"
+    "\x10\0\6\0\xFF\xFF\xFF\xFF\x20\0\0\0\xFF\xFF\xFF\xFF";
 
 /// Runs between the making of a temporary file and its lock, once.
 std::function<void()> beforeLock;
+/// The errors of a file system that has no locks, or can't flush; 0 for none.
+int lockError = 0, flushError = 0;
 
 }  // namespace
 using namespace Qt::StringLiterals;
@@ -33,7 +35,12 @@ using namespace Qt::StringLiterals;
 /// The system's, behind what another program does at the worst moment.
 extern "C" int flock(int file, int operation) noexcept {
   if (const auto act = std::exchange(beforeLock, {})) act();
-  return static_cast<int>(::syscall(SYS_flock, file, operation));
+  errno = lockError;
+  return lockError == 0 ? static_cast<int>(::syscall(SYS_flock, file, operation)) : -1;
+}
+extern "C" int fsync(int file) {
+  errno = flushError;
+  return flushError == 0 ? static_cast<int>(::syscall(SYS_fsync, file)) : -1;
 }
 
 /// What files have on Unix alone; files_windows_test has what they have on Windows.
@@ -94,7 +101,7 @@ class FilesUnixTest : public QObject {
                                                        {0444, false, 0644, 0644},
                                                        {0604, false, 0604, 0600},
                                                        {0664, false, 0664, 0644},
-                                                       {0640, true, 0640, 0600}}) {
+                                                       {0640, true, 0660, 0600}}) {
       folder_->put(u"a.ini"_s, "text");
       QVERIFY(::chown(name, 1, 1) == 0 && ::chmod(name, mode_t(mode)) == 0 && ::chmod(folder, 0777) == 0);
       if (list && ::setxattr(name, AccessList, ForSomeone, sizeof(ForSomeone) - 1, 0) != 0) QSKIP("no lists here");
@@ -104,11 +111,14 @@ class FilesUnixTest : public QObject {
         QVERIFY(::setegid(user) == 0 && ::seteuid(user) == 0);
         const OpenFile model = openFile(at(u"a.ini"_s));
         FileTurn(at(u"a.ini.tmp"_s), AtLink::Replace).replace("copy", &model);
+        if (list) writeFile(at(u"a.ini"_s), "text");
         struct stat status;
         QVERIFY(::seteuid(0) == 0 && ::setegid(0) == 0 && ::stat(copy, &status) == 0);
         QCOMPARE(std::pair(int(status.st_mode & 07777), status.st_uid), std::pair(expected, user == 0 ? 1 : user));
         char there[sizeof(ForSomeone)];
-        QCOMPARE(::getxattr(copy, AccessList, there, sizeof(there)) > 0, list && user == 0);
+        for (const QByteArray& file : {copy, name}) {
+          QCOMPARE(::getxattr(file, AccessList, there, sizeof(there)) > 0, list && user == 0);
+        }
       }
     }
     FileTurn(at(u"b.ini.tmp"_s), AtLink::Replace).replace("of nothing");
@@ -169,6 +179,10 @@ class FilesUnixTest : public QObject {
     };
     writeFile(at(u"a.ini"_s), "text");
     QVERIFY(folder_->get(u"a.ini"_s) == "text" && !beforeLock);
+    // It makes the same file, and stores something in it.
+    beforeLock = [this] { folder_->put(u"b.ini"_s, "the other program's"); };
+    makeFile(at(u"b.ini"_s), "first");
+    QVERIFY(folder_->get(u"b.ini"_s) == "the other program's" && !beforeLock);
   }
 
   void leftOverTemporaryFiles() {
@@ -181,6 +195,26 @@ class FilesUnixTest : public QObject {
     ::close(other);
     writeFile(at(u"a.ini"_s), "new");
     QCOMPARE(entries(), QStringList{u"a.ini"_s});
+  }
+
+  /// What isn't on the disk replaces nothing, unless the file system knows no flush. Without locks whatever lies at the
+  /// temporary file's name may be another program's.
+  void withoutFlushOrLocks() {
+    for (const int none : {EINVAL, ENOTSUP}) {
+      lockError = flushError = none;
+      writeFile(at(u"a.ini"_s), QByteArray::number(none));
+      QCOMPARE(folder_->get(u"a.ini"_s), QByteArray::number(none));
+    }
+    flushError = EIO;
+    QVERIFY_THROWS_EXCEPTION(Failure, writeFile(at(u"a.ini"_s), "lost"));
+    QVERIFY(folder_->get(u"a.ini"_s) != "lost" && entries().size() == 1);
+    flushError = 0;
+    folder_->put(u"a.ini.unfinished"_s, "of another program");
+    QVERIFY_THROWS_EXCEPTION(Failure, writeFile(at(u"a.ini"_s), "new"));
+    QCOMPARE(folder_->get(u"a.ini.unfinished"_s), QByteArray("of another program"));
+    beforeLock = [this] { QFile::remove(folder_->native(u"a.ini.unfinished"_s)); };  // its turn is over
+    writeFile(at(u"a.ini"_s), "new");
+    lockError = 0;
   }
 
   void refusedBehindALink() {
