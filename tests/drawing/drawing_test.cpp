@@ -1,4 +1,5 @@
 #include <QFontInfo>
+#include <QPainter>
 #include <QTest>
 
 #include "drawing/fonts.h"
@@ -70,6 +71,20 @@ class DrawingTest : public QObject {
     QCOMPARE(letters(raster), (QByteArrayList{"oo#..", "ooo##", ".#o#."}));
   }
 
+  /// A control's pixels are squares at whole scale factors, and smoothed at others.
+  void shownOnAScaledScreen() {
+    Raster raster(QSize(4, 2), Edge);
+    raster.FillRect(1, 0, 2, 2, Inside);
+    for (const double scale : {1.0, 1.5, 2.0}) {
+      QImage screen = plainPicture(static_cast<int>(4 * scale), static_cast<int>(2 * scale), Ground);
+      screen.setDevicePixelRatio(scale);
+      QPainter painter(&screen);
+      Show(painter, raster);
+      const QByteArray row = lettersOf(screen, {{Edge, '#'}, {Inside, 'o'}}).constFirst();
+      QCOMPARE(row.contains('?'), scale == 1.5);
+    }
+  }
+
   void textStandsInItsRectangle() {
     const QFont font(QStringLiteral("Liberation Sans"), 9);
     const QString text = QStringLiteral("Hog");
@@ -128,6 +143,8 @@ class DrawingTest : public QObject {
     framed.takeDirty();
     framed.drawFrame(last, [&] { draw(framed, 22); });
     QVERIFY(framed.takeDirty().isNull());
+    framed.putBack(QImage(framed.image()));
+    QCOMPARE(framed.takeDirty(), framed.image().rect());
   }
 
   void sizesInWholePixels() {

@@ -63,6 +63,11 @@ class PicturesTest : public QObject {
     const QByteArray small =
         "474946383961 0100020081 0000 000000000000000000000000 2c000000000100020000 02 02040a00 3b";
     QVERIFY(onlyWhole(QByteArray::fromHex(small), 1));
+    // Heads of all lengths, runs of four bits, colours that only the frame has.
+    for (const QFileInfo& whole : QDir(QFINDTESTDATA("pictures/whole")).entryInfoList(QDir::Files)) {
+      QFile file(whole.filePath());
+      QVERIFY2(file.open(QIODevice::ReadOnly) && onlyWhole(file.readAll()), qPrintable(whole.fileName()));
+    }
   }
 
   void pixels() {
@@ -75,8 +80,9 @@ class PicturesTest : public QObject {
     folder.put(u"Picture.jpg"_s, encoded(image, "png"));
     QCOMPARE(LoadPicture(folder.path(u"Picture.jpg"_s)), sample(QImage::Format_ARGB32));
     QByteArray jpeg = encoded(image, "jpeg");
-    // Camera data that asks for a quarter turn.
-    jpeg.insert(2, QByteArray::fromHex("FFE10022457869660000 4D4D002A000000080001011200030000000100060000 00000000"));
+    // Camera data that asks for a quarter turn, and bytes of no use behind it.
+    jpeg.insert(2,
+                QByteArray::fromHex("FFE10022457869660000 4D4D002A000000080001011200030000000100060000 00000000 4711"));
     QCOMPARE(decodePicture(jpeg).size(), image.size());
     // A bitmap whose rows are stored from top to bottom.
     QByteArray bitmap = encoded(sample(QImage::Format_RGB32), "bmp");

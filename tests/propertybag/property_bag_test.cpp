@@ -135,7 +135,7 @@ class PropertyBagTest : public QObject {
     for (qsizetype i = 0; i < file->size(); ++i) QVERIFY(!drawing::readIcon(file->first(i)));
   }
 
-  // Red, green and a clear pixel.
+  // Red, green and a clear pixel; the directory has a second image.
   void iconDepths() {
     const std::pair<const char*, const char*> rows[] = {
         {"0100", "00000000 00000000 0000ff00 00ff0000 40000000 20000000"},
@@ -145,8 +145,9 @@ class PropertyBagTest : public QObject {
     };
     for (const auto& [depth, behind] : rows) {
       const auto icon = drawing::readIcon(QByteArray::fromHex(
-          QByteArray("0000 0100 0100 03010000 0100 0000 00000000 16000000 28000000 03000000 02000000 0100") + depth +
-          "00000000 00000000 00000000 00000000" + behind));
+          QByteArray("0000 0100 0200 03010000 0100 0000 00000000 26000000 00000000 00000000 00000000 00000000"
+                     "28000000 03000000 02000000 0100") +
+          depth + "00000000 00000000 00000000 00000000" + behind));
       QVERIFY2(icon, depth);
       QCOMPARE(icon->Color.pixel(1, 0), qRgb(0, 255, 0));
       QCOMPARE(icon->Color.pixel(2, 0), qRgb(0, 0, 0));  // under the mask
