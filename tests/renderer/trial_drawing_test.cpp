@@ -19,7 +19,7 @@ namespace {
 constexpr const char* AllKinds =
     "[MainBackground]|Tex=Blue|[MainStatic]|Tex=Red|Color=P1Dark|X=10|Y=20|W=30|H=40|X=99|"
     "[MainButton1]|Tex=Half|Color=P1Dark|DColor=P1Dark|X=100|Y=50|W=60|H=20|SelectH=30|TEXTS=1|"
-    "[MainButton2]|Tex=Torn|Color=P1Dark|DColor=P1Dark|X=40000|[MainText]|Font=7|X=300|Y=300|";
+    "[MainButton2]|Tex=Torn|Color=P1Dark|DColor=P1Dark|X=40000|[MainText ]|Font=7|X=300|Y=300|";
 
 }  // namespace
 
@@ -37,7 +37,7 @@ class TrialDrawingTest : public QObject {
     QTest::addRow("selected button, its text has the mark")
         << u"MainButton1"_s << u"X=400|SelectH=90"_s << u"MainButton1Text1"_s;
     QTest::addRow("child text") << u"MainButton1TEXT1"_s << u"X=30|Y=8"_s << u"MainButton1Text1"_s;
-    QTest::addRow("text without a face") << u"MainText"_s << u"X=0"_s << u"MainText"_s;
+    QTest::addRow("text without a face, a blank behind its name") << u"MainText"_s << u"X=0"_s << u"MainText "_s;
   }
 
   /// A frame with values on trial shows what a drawing shows once they are written, and leaves all else as found.
@@ -98,11 +98,14 @@ class TrialDrawingTest : public QObject {
   }
 
 #ifdef Q_OS_UNIX
-  /// A file that one frame can't read, for a want of descriptors, is read by the next, though it is the same.
+  /// A file that one frame can't read, for a want of descriptors, is read by the next, though it is the same. So is a
+  /// picture.
   void unreadForAFrame() {
     const QString theme = platform::programPath(QStringLiteral(SAMPLE_FOLDER "/Themes/Stagelight.ini"));
-    QTRY_VERIFY(platform::isSettled(*platform::identityOf(theme)));
+    const QString picture = platform::programPath(QStringLiteral(SAMPLE_FOLDER "/Skins/Stagelight/dusk_cap.png"));
+    for (const QString& file : {theme, picture}) QTRY_VERIFY(platform::isSettled(*platform::identityOf(file)));
     renderer::TrialFiles files;
+    renderer::PreparedPictures pictures;
     rlimit usual{};
     QVERIFY(::getrlimit(RLIMIT_NOFILE, &usual) == 0);
     for (const rlim_t most : {rlim_t(0), usual.rlim_cur}) {
@@ -110,6 +113,7 @@ class TrialDrawingTest : public QObject {
       QVERIFY(::setrlimit(RLIMIT_NOFILE, &now) == 0);
       files.beginFrame();
       QCOMPARE(files.section(u"Colors"_s, theme).isThere(), most != 0);
+      QCOMPARE(pictures.get({picture, {}, QRect(0, 0, 9, 9)}, false).picture.isNull(), most == 0);
     }
   }
 #endif
