@@ -16,9 +16,10 @@ const QString Plate = u"Skins/Alpha/plate.png"_s;
 class WithoutWatches : public PictureWatch {
  public:
   using PictureWatch::PictureWatch;
+  QStringList wanted;
 
  protected:
-  QStringList watch(const QStringList& paths) override { return paths; }
+  QStringList watch(const QStringList& paths) override { return wanted = paths; }
 };
 
 }  // namespace
@@ -98,18 +99,6 @@ class PictureWatchTest : public ProgramTest {
     QTest::newRow("its folder comes back") << "plate.png"_ba << Change([=, this] { makeFolderAnew(copyLast, seen); });
     QTest::newRow("behind the working copy")
         << "plate.png"_ba << Change([=, this] { makeFolderAnew(copyFirst, seen); });
-#ifdef Q_OS_UNIX
-    QTest::newRow("a link's target made anew") << "link.png"_ba << Change([this] {
-      const QString target = u"store/a.png"_s;
-      QDir().mkpath(game->native(u"store"_s));
-      put(target, Qt::blue);
-      QFile::link(game->native(target), game->native(u"Skins/Alpha/link.png"_s));
-      QTRY_VERIFY(shows(Qt::blue));
-      QFile::remove(game->native(target));
-      QTRY_VERIFY(!shows(Qt::blue));
-      put(target, Qt::green);
-    });
-#endif
   }
   /// Twice: the watch goes on with the file that is there now.
   void changes() {
@@ -225,6 +214,14 @@ class PictureWatchTest : public ProgramTest {
     put(Plate, Qt::green);
     QTest::keyClick(&form(), Qt::Key_F5);
     QVERIFY(shows(Qt::green));
+#ifdef Q_OS_UNIX
+    // Where a link's target may come back (a signal of /tmp would make the program look, too).
+    QDir().mkpath(game->native(u"store"_s));
+    QFile::link(game->native(u"store/a.png"_s), game->native(u"Skins/Alpha/link.png"_s));
+    use("link.png");
+    lacking.drawn();
+    QVERIFY(lacking.wanted.contains(game->native(u"store"_s)));
+#endif
   }
 };
 
