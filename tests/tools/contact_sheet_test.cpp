@@ -130,7 +130,7 @@ class ContactSheetTest : public QObject {
              {with(4, links.filePath(u"link/../sheet"_s)), "lies in the game folder"},
 #endif
              {with(4, Sample + u"\\sheet"_s), "lies in the game folder"},
-             {with(3, u"%1 %2\n\x1b[2J"_s), "Languages/%1 %2??[2J.ini [%1 %2??[2J.ini: "},
+             {with(3, u"%1 %2\n\x1b[2J\u202e"_s), "Languages/%1 %2??[2J?.ini [%1 %2??[2J?.ini: "},
              {plain + QStringList{u"-platform"_s, u"xcb"_s}, "'platform'"},
              {plain + QStringList{u"--scheme=Mauve"_s}, "no colour scheme 'Mauve'; there are: Blue, Green"},
              {plain + QStringList{u"--selected=256"_s}, "--selected takes a number from 1 to 255"},

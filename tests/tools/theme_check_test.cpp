@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <random>
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -8,10 +7,8 @@
 #include <QTest>
 
 #include "support/results.h"
-#include "support/row_name.h"
 #include "support/tool_runs.h"
 
-using platform::readFile;
 using platform::writeFile;
 using support::Game;
 using support::ToolRun;
@@ -50,17 +47,12 @@ class ThemeCheckTest : public QObject {
 
     const QJsonArray array = QJsonDocument::fromJson(check(1, {Sample, u"--format=json"_s}).output).array();
     QCOMPARE(array.size(), count);
-    const QJsonObject plate = {{u"file"_s, Sample + u"/Skins/Workbench/Grey.ini"_s},
-                               {u"line"_s, 8},
-                               {u"column"_s, 1},
-                               {u"level"_s, u"warning"_s},
-                               {u"section"_s, u"Textures"_s},
-                               {u"key"_s, u"CutBG"_s},
-                               {u"text"_s, u"texture that another skin lacks"_s},
-                               {u"skins"_s, QJsonArray{u"Spare"_s}},
-                               {u"languages"_s, QJsonArray()},
-                               {u"schemes"_s, QJsonArray()}};
-    QVERIFY(array.contains(plate));
+#ifndef Q_OS_WIN
+    QStringList objects;
+    for (const auto& each : array)
+      objects += QString::fromUtf8(QJsonDocument(each.toObject()).toJson(QJsonDocument::Compact));
+    support::compareText(u"json_of_sample.txt"_s, objects.replaceInStrings(Sample, u"sample/Cantorama"_s));
+#endif
   }
 
   void statuses() {
@@ -111,24 +103,6 @@ class ThemeCheckTest : public QObject {
     game.put("Themes/T.ini: [Main]|[MainThing]|Tex=A|Tex=A|");
     check(0, {game.path()});
     check(1, {game.path(), u"--strict"_s});
-  }
-
-  void survivesAnything() {
-    std::mt19937 random(4711);
-    for (int turn = 0; turn < 12; ++turn) {
-      const support::RowName row(QByteArray::number(turn));
-      const Game game;
-      for (const char* name : {"Themes/T.ini", "Skins/T/Dusk.ini", "Languages/English.ini"}) {
-        QByteArray bytes =
-            readFile(Sample + (name[0] == 'T' ? u"/Themes/Workbench.ini"_s : u"/Skins/Workbench/Grey.ini"_s));
-        for (char& byte : bytes) {
-          if (random() % (turn < 4 ? 1 : 40) == 0) byte = static_cast<char>(random());
-        }
-        writeFile(game.file(QString::fromLatin1(name)), bytes);
-      }
-      const QByteArray counts = check(support::Either, {game.path()}).output.trimmed().split('\n').last();
-      QVERIFY2(counts.contains(" error"), counts);
-    }
   }
 
   void survivesManySections() {
