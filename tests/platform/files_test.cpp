@@ -58,6 +58,11 @@ class FilesTest : public QObject {
     QVERIFY(!runGuarded([this] { readFile(at(u"Missing.ini"_s)); }));
     QVERIFY(panel.texts.first().startsWith(u"Error while reading Theme [Missing.ini: "_s));
     QVERIFY(!runGuarded([] { throw std::bad_alloc(); }));
+    const ReportScope scope(panel);
+    panel.ShowStatus(u"over"_s);
+    panel.withdraw(u"over"_s);
+    panel.note(u"note"_s);
+    QCOMPARE(panel.texts.last(), u"note"_s);
   }
 
  private:

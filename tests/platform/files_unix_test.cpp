@@ -257,6 +257,7 @@ class FilesUnixTest : public QObject {
     QVERIFY(sameFolder(root + u"\\Themes"_s, root + u"\\THEMES\\\\"_s));
     QVERIFY(sameFolder(root + u"\\link"_s, root + u"\\Twins\\..\\Themes"_s));
     QVERIFY(!sameFolder(root + u"\\Themes"_s, root + u"\\Twins"_s));
+    QVERIFY(!sameFolder(root + u"\\None"_s, root + u"\\Nowhere"_s));
   }
 
  private:
