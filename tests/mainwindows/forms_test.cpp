@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QMetaEnum>
 #include <QScreen>
+#include <QShortcut>
 
 #include "controls/assets.h"
 #include "controls/look.h"
@@ -88,6 +89,9 @@ class Table {
     addControl(window, {});
     for (const auto* timer : window.findChildren<QTimer*>()) {
       if (!timer->objectName().isEmpty()) addLine({u"  "_s + timer->objectName(), u"%1 ms"_s.arg(timer->interval())});
+    }
+    for (const auto* keys : window.findChildren<QShortcut*>(Qt::FindDirectChildrenOnly)) {
+      addLine({u"  keys "_s + keys->key().toString(), keys->autoRepeat() ? u"repeat"_s : u"once"_s});
     }
     const auto* bar = window.findChild<toolbar::McToolBar*>();
     for (int button = 1; bar != nullptr && button <= bar->Button_Count(); ++button) {
@@ -185,6 +189,8 @@ class FormsTest : public ProgramTest {
     states.add(u"at the start"_s, fresh.form);
     comparePicture(u"toolbar at the start.png"_s, fresh.form.ToolBar->grab().toImage());
     states.add(u"with a theme"_s, program->form);
+    const auto compare = [this] { comparePicture(u"progress.png"_s, program->form.ProgressBar1->grab().toImage()); };
+    connect(&program->form.queue(), &controls::WorkQueue::yielding, this, compare, Qt::SingleShotConnection);
     program->edit();
     states.add(u"after an edit"_s, program->form);
     comparePicture(u"toolbar after an edit.png"_s, program->form.ToolBar->grab().toImage());

@@ -97,6 +97,7 @@ class KeysAndMouseTest : public DiaryTest {
     press("ListView1", Qt::Key_F10, Qt::ShiftModifier);
     press("ListView1", Qt::Key_F, Qt::ControlModifier);
     press("ListView1", Qt::Key_W, Qt::ControlModifier);
+    d.menu(u"the preview"_s, *program->form.Workspace, {700, 500});
   }
 
   void hand() {
@@ -123,6 +124,10 @@ class KeysAndMouseTest : public DiaryTest {
     drag("size", {178, 133}, {12, 7});
     drag("move a button", {340, 230}, {-10, 20}, Qt::ControlModifier);
     drag("move its text", {305, 235}, {9, 9});
+    for (int times = 0; times < 2; ++times) {
+      d.menu(u"the preview"_s, preview, {700, 500}, 7);
+      drag("move beside a guide", {150 + 115 * times, 100}, {115 - 230 * times, 0});
+    }
     d.step(u"right, twice, and down, which stays held"_s, [&] {
       for (const auto key : {Qt::Key_Right, Qt::Key_Right}) QTest::keyClick(&preview, key);
       QTest::keyPress(&preview, Qt::Key_Down);

@@ -95,9 +95,11 @@ class Diary {
       auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
       if (menu == nullptr) return;
       for (const QAction* action : menu->actions()) {
-        lines += u"entry: "_s + (action->isSeparator() ? u"-"_s
-                                 : action->isEnabled() ? action->text()
-                                                       : u'(' + action->text() + u')');
+        lines += u"entry: "_s +
+                 (action->isSeparator() ? u"-"_s
+                  : action->isEnabled() ? action->text()
+                                        : u'(' + action->text() + u')') +
+                 (action->isChecked() ? u", on"_s : u""_s);
       }
       QAction* const taken = menu->actions().value(entry);
       menu->close();
