@@ -57,16 +57,6 @@ class PreviewHandTest : public HandTest {
     }
   }
 
-  void pickingGoesThroughWhatIsSelected() {
-    put("W", "800");
-    put("H", "600");
-    program->form.queue().draw();
-    program->tag(u"LoadingStaticA"_s);
-    QTest::mouseClick(&preview(), Qt::LeftButton, {}, {340, 320});
-    QCOMPARE(program->tools().objects().Text(), u"LoadingButtonLast"_s);
-    QVERIFY(program->tools().focusWidget() == &program->tools().objects());
-  }
-
   /// What gives a drag up leaves all as it was, or at least the files.
   void givenUp() {
     const struct {
@@ -106,6 +96,7 @@ class PreviewHandTest : public HandTest {
       QCOMPARE(differences(before, snapshot(*program, *game)), QStringList());
       hold(Inside, by);
       QTRY_VERIFY(program->picture() != before[u"picture"_s].value<QImage>());
+      QVERIFY(program->shownAt({0, 0}) != program->picture().pixelColor(0, 0));  // the focus shows
       ending(*program);
       drop(Inside + by);
       const QStringList differing = differences(before, snapshot(*program, *game));
@@ -124,29 +115,15 @@ class PreviewHandTest : public HandTest {
     const QImage before = program->picture();
     hold(Inside, {3, 0});
     QCOMPARE(program->picture(), before);
-    moveMouse(preview(), Inside + QPoint(5, 0));
-    drop(Inside + QPoint(5, 0));
-    QCOMPARE(newLines(left), QStringList{u"X=-15"_s});
+    moveMouse(preview(), Inside + QPoint(4, 0));
+    drop(Inside + QPoint(4, 0));
+    QCOMPARE(newLines(left), QStringList{u"X=-16"_s});
     const QByteArray fraction = draw("Y", "50.5");
     drag(Inside, {0, 6});
     QCOMPARE(newLines(fraction), QStringList{u"Y=56"_s});
-  }
-
-  /// As for an Update: what this program wrote last is the start.
-  void copyGoneOrEmptied() {
-    program->tag(u"LoadingStaticA"_s);
-    const QByteArray before = game->get(ThemeCopy);
-    const QString copy = program->state.paths.ThemeFile;
-    for (const bool gone : {true, false}) {
-      if (gone) QFile::remove(game->native(ThemeCopy));
-      hold(Inside, {30, 0});
-      if (!gone) game->put(ThemeCopy, {});
-      drop(Inside + QPoint(30, 0));
-      QCOMPARE(newLines(before), QStringList{u"X=70"_s});
-      const QString note = gone ? u"%1 was gone and is made anew"_s : u"%1 was empty and is made anew"_s;
-      QCOMPARE(program->status(), u"LoadingStaticA: X = 70; "_s + note.arg(copy));
-      program->change(u"X"_s, u"40"_s);
-    }
+    hold(Inside, {700, 530});
+    QTRY_VERIFY(!preview().accessibleDescription().isEmpty());
+    QCOMPARE(program->shownAt({750, 590}), program->picture().pixelColor(750, 590));  // the label leaves it free
   }
 
   void scrolls() {
@@ -160,26 +137,25 @@ class PreviewHandTest : public HandTest {
     program->tag(u"LoadingStaticA"_s);
     QVERIFY(sees({40, 50, 100, 60}));
     // A drag at the edge goes on while the mouse rests, by as much as is scrolled. A click scrolls nothing.
-    hold(Inside, {200, 0});
-    QTRY_VERIFY(area.horizontalScrollBar()->value() >= 24);
-    const int by = area.horizontalScrollBar()->value();
-    drop(Inside + QPoint(200 + by, 0));
-    QCOMPARE(program->value(u"X"_s), QString::number(240 + by));
+    QScrollBar& bar = *area.horizontalScrollBar();
+    preview().setFocus();
+    settle();
+    area.verticalScrollBar()->setValue(0);
+    bar.setValue(bar.maximum() - 60);
+    hold(Inside, {bar.value() + area.viewport()->width() - 5 - Inside.x(), 0});
+    QTRY_COMPARE(bar.value(), bar.maximum());
+    QTRY_COMPARE(preview().accessibleDescription(), u"X 785, Y 50"_s);
+    drop({795, 60});
+    QCOMPARE(program->value(u"X"_s), u"785"_s);
     QVERIFY(!program->form.findChild<QTimer*>(u"ScrollSteps"_s)->isActive());
     const QPoint before = preview().pos();
     QTest::mouseClick(&preview(), Qt::LeftButton, {}, {-before.x() + 280, 60});
     QCOMPARE(preview().pos(), before);
-  }
-
-  /// The mark of a text is a line; what is dragged lies over a picture.
-  void textOverAPicture() {
-    put("W", "600");
-    put("H", "200");
-    program->form.queue().draw();
-    program->tag(u"LoadingTextFree"_s);
-    const QByteArray file = game->get(ThemeCopy);
-    drag({400, 108}, {10, -4});
-    QCOMPARE(newLines(file).join(u' '), u"X=410 Y=96"_s);
+    // The menu that the keys bring up stands on what is seen.
+    program->form.activateWindow();
+    QTRY_VERIFY(program->form.isActiveWindow());
+    QTest::keyClick(&preview(), Qt::Key_F10, Qt::ShiftModifier);
+    QVERIFY(preview().visibleRegion().contains(preview().mapFromGlobal(QApplication::activePopupWidget()->pos())));
   }
 
   void sectionRemovedMeanwhile() {
@@ -204,6 +180,9 @@ class PreviewHandTest : public HandTest {
       moveMouse(preview(), place, Qt::NoButton);
       QCOMPARE(preview().cursor().shape(), shape);
     }
+    program->tag(u"LoadingBackground"_s);  // has no mark
+    moveMouse(preview(), Inside, Qt::NoButton);
+    QCOMPARE(preview().cursor().shape(), Qt::ArrowCursor);
   }
 
   void keysAreOneEdit() {
@@ -223,6 +202,10 @@ class PreviewHandTest : public HandTest {
     QCOMPARE(Editors(program->tools()).Text1->Text(), QString::number(x + 5));  // the open editor
     // A Save while a key is held saves the last place; Esc drops what isn't committed.
     QTest::keyPress(&preview(), Qt::Key_Right, Qt::ShiftModifier);
+    QTRY_VERIFY(!preview().accessibleDescription().isEmpty());
+    const QImage moved = program->picture();
+    program->form.queue().draw();
+    QTRY_COMPARE(program->picture(), moved);  // what isn't committed stays on show
     program->click(2);
     QVERIFY(game->get(u"Themes/Alpha.ini"_s).contains("X=" + QByteArray::number(x + 15)));
     QTest::keyRelease(&preview(), Qt::Key_Right, Qt::ShiftModifier);
@@ -241,27 +224,17 @@ class PreviewHandTest : public HandTest {
   }
 
   void refusals() {
-    const QString ownSize = u"a texture drawn at its own size can't be sized"_s;
-    const struct {
-      const char *key, *value;
-      Qt::KeyboardModifiers keys;
-      QString why;
-    } rows[] = {{"Y", "-1", {}, u"Y is -1"_s}, {"H", "-1", Qt::ControlModifier, ownSize}};
-    for (const auto& [key, value, keys, why] : rows) {
-      program->tag(u"LoadingStaticA"_s);
-      put(key, value);
-      const QByteArray file = game->get(ThemeCopy);
-      preview().setFocus();
-      program->form.ShowStatus(QString());
-      QTest::keyClick(&preview(), Qt::Key_Right, keys);
-      program->form.session().settle();
-      QCOMPARE(program->status(), u"LoadingStaticA stays as it is [%1]"_s.arg(why));
-      QCOMPARE(game->get(ThemeCopy), file);
-      put(key, "40");
+    put("H", "-1");
+    const QByteArray file = game->get(ThemeCopy);
+    for (const auto& [object, why] :
+         {std::pair(u"LoadingStaticA"_s, u"a texture drawn at its own size can't be sized"_s),
+          {u"LoadingTextFree"_s, u"a text can't be sized"_s}}) {
+      program->tag(object);
+      QTest::keyClick(&preview(), Qt::Key_Right, Qt::ControlModifier);
+      QCOMPARE(program->status(), u"%1 stays as it is [%2]"_s.arg(object, why));
     }
-    program->tag(u"LoadingTextFree"_s);
-    QTest::keyClick(&preview(), Qt::Key_Right, Qt::ControlModifier);
-    QCOMPARE(program->status(), u"LoadingTextFree stays as it is [a text can't be sized]"_s);
+    program->form.session().settle();
+    QCOMPARE(game->get(ThemeCopy), file);
   }
 };
 

@@ -146,6 +146,10 @@ class Program {
 
   toolwindow::Form2& tools() const { return *form.toolWindow(); }
   const QImage& picture() const { return form.Workspace->surface().image(); }
+  /// The colour that the preview has at a place, with all that is painted over the picture.
+  QColor shownAt(const QPoint& place) const {
+    return form.Workspace->grab({place, QSize(1, 1)}).toImage().pixelColor(0, 0);
+  }
   QString status() const { return form.StatusBar->panel(1).mid(11); }  ///< without the time
   bool enabled(int button) const { return form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool(); }
   /// Which of the toolbar's buttons are enabled: "+--+".
