@@ -39,6 +39,11 @@ class ChoiceTest : public QObject {
     });
     QCOMPARE(theme.session.object(), u"LoadingStaticA"_s);
     QVERIFY(theme.told().endsWith(u"LoadingStaticA(X Y), mark"_s));
+    // So does a hit, which may come later in the list.
+    theme.session.listObjects(u"LoadingStaticB"_s, [&] {
+      if (theme.tags.ListCount() == 2) theme.session.goTo({Loading, u"LoadingTextC"_s, 0, u"Size"_s, {}});
+    });
+    QCOMPARE(theme.session.object(), u"LoadingTextC"_s);
     theme.session.chooseScreen(Main);
     QVERIFY(!theme.session.listIsComplete());
   }

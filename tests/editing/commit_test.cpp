@@ -130,24 +130,6 @@ class CommitTest : public QObject {
     QCOMPARE(theme->copy("theme"), QByteArray("[Loading]|[LoadingStaticB]|X=-30|"));
     QCOMPARE(theme->told(), u"Save, draws"_s);
   }
-
-  void putBack() {
-    theme->putCopy("theme", QByteArray(Theme).replace("X=1", "X=8").replace("Plate", "Lost"));
-    theme->putCopy("skin", "[Textures]|Plate=new.png|");
-    choose(u"LoadingStaticA"_s);
-    const auto saved = [&](const QString& key) { return editing::savedValue(theme->state, u"LoadingStaticA"_s, key); };
-    const auto x = saved(u"X"_s);
-    const auto texture = saved(u"TEX"_s);
-    QVERIFY(x && texture && !saved(u"Z"_s));
-    QCOMPARE(x->told + u'|' + texture->told, u"1|Plate = plate.png"_s);
-    QVERIFY(editing::putSavedBack(theme->session, {0, u"X"_s, u"8"_s}, *x));
-    QCOMPARE(theme->told(), u"0 X=1, Save, draws, mark again"_s);
-    QCOMPARE(theme->state.CursorRect.X, u"1"_s);
-    QVERIFY(editing::putSavedBack(theme->session, {1, u"Tex"_s, u"Lost"_s}, *texture));
-    QVERIFY(theme->report().startsWith(u"LoadingStaticA: Tex = Plate, texture 'Plate' = plate.png"));
-    QCOMPARE(theme->copy("theme"), Theme);
-    QCOMPARE(theme->copy("skin"), QByteArray("[Textures]|Plate=plate.png|"));
-  }
 };
 
 QTEST_GUILESS_MAIN(CommitTest)

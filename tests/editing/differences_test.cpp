@@ -16,7 +16,7 @@ namespace {
 
 constexpr const char* Theme =
     "[Theme]|Name=N|[Colors]|Red=200 0 0|Blue=0 0 200|[Main]|[MainStaticB]|Tex=Plate|X=1|Y=2|Color=Red|"
-    "[MainStaticA]|X=5|x=6|;c|Text=GO|[Song]|[SongStaticC]|X=7|[Lost]|X=8|";
+    "[MainStaticA]|X=5|x=6|;c|Text=GO|[Song]|[SongStaticC]|X=7|x=9|[SongTextD]|Y=1|Tex=Plate|[Lost]|X=8|";
 
 std::vector<Difference> all(const OpenTheme& theme) {
   editing::Differences differences(theme.state);
@@ -50,13 +50,14 @@ class DifferencesTest : public QObject {
     theme.putCopy(
         "theme",
         "[Theme]|Name=M|[Colors]|Red=200 0 1|Blue=0 0 200|[Main]|[MainStaticB]|Tex=Plate|X=10|New=1|Color=Red|"
-        "[MainStaticA]|X = 5|x=7|;d|Text=\xFF|[Song]|[Lost]|X=9|");
+        "[MainStaticA]|X = 5|x=7|;d|Text=\xFF|[Song]|[SongTextD]|Y=2|Tex=Plate|[Lost]|X=9|");
     theme.putCopy("skin", "[Textures]|Plate=b.png|");
     theme.putCopy("language", "[Text]|");
     const QStringList expected{u"Main Screen, MainStaticA: Text = \u00FF (saved: GO)"_s,
                                u"Main Screen, MainStaticB: X = 10 (saved: 1)"_s,
                                u"Main Screen, MainStaticB: New = 1 (new)"_s,
                                u"Main Screen, MainStaticB: Y is gone (saved: 2)"_s,
+                               u"Song Screen (Single), SongTextD: Y = 2 (saved: 1)"_s,
                                u"[Theme]: Name = M (saved: N)"_s,
                                u"colour 'Red' = 200 0 1 (saved: 200 0 0)"_s,
                                u"[Lost]: X = 9 (saved: 8)"_s,
@@ -64,9 +65,10 @@ class DifferencesTest : public QObject {
                                u"texture 'Plate' = b.png (saved: a.png)"_s,
                                u"words 'GO' is gone (saved: Go)"_s};
     QCOMPARE(told(theme), expected);
-    QCOMPARE(editing::countDifferences(theme.state), 10);
+    QCOMPARE(editing::countDifferences(theme.state), 11);
     const auto inScreen = editing::differencesIn(theme.state, editing::objectsOfScreen(theme.state, u"Main Screen"_s));
     QCOMPARE(inScreen.size(), 5U);  // without what is new, with what the references stand for
+    QVERIFY(editing::objectsOfScreen(theme.state, u"Song Screen (Party)"_s).contains(u"SongStaticC"_s));  // is gone
     // All of it comes back, but what is new; a section that was gone stands at the end.
     theme.screen(u"Main Screen"_s);
     theme.session.pickObject(1);
@@ -74,9 +76,9 @@ class DifferencesTest : public QObject {
     const auto differing = places(theme);
     QVERIFY(editing::putBack(theme.session, differing));
     QCOMPARE(told(theme), QStringList(u"Main Screen, MainStaticB: New = 1 (new)"_s));
-    QVERIFY(theme.copy("theme").endsWith("|[Song]|[Lost]|X=8|[SongStaticC]|X=7|"));
+    QVERIFY(theme.copy("theme").endsWith("|[SongTextD]|Y=1|Tex=Plate|[Lost]|X=8|[SongStaticC]|X=7|"));
     QVERIFY(theme.copy("theme").contains("[MainStaticA]|X = 5|x=7|;d|Text=GO|"));
-    QCOMPARE(theme.report().section(u"; "_s, 0, 0), u"Put back: 9 values"_s);
+    QCOMPARE(theme.report().section(u"; "_s, 0, 0), u"Put back: 10 values"_s);
     QCOMPARE(theme.told(), u"colours, -1 TEXT=GO, -1 TEXT=GO, Save, draws, mark again"_s);
     QVERIFY(theme.state.Changed);
     QVERIFY(editing::putBack(theme.session, differing));
@@ -97,13 +99,13 @@ class DifferencesTest : public QObject {
     QCOMPARE(themefiles::ResolveColor(theme.state, u"Red"_s, {}), u"200 0 0"_s);
     QCOMPARE(themefiles::ResolveColor(theme.state, u"Blue"_s, {}), u"0 0 200"_s);
     // Only rows that name one of these show it again: the first of a key, up to a second "=".
-    OpenTheme other("[Colors]|Red=1 1 1|[Main]|[MainStaticA]|Color=Red|Tex=a=b|Color=Blue|", "Plate=a.png|");
+    OpenTheme other("[Colors]|Red=1 1 1|[Main]|[MainStaticA]|Color=\"Red\"|Tex=a=b|Color=Blue|", "Plate=a.png|");
     other.putCopy("theme", other.copy("theme").replace("1 1 1", "2 2 2"));
     other.screen(u"Main Screen"_s);
     other.session.pickObject(1);
     other.told();
     QVERIFY(editing::putBack(other.session, places(other)));
-    QCOMPARE(other.told(), u"colours, -1 COLOR=Red"_s);
+    QCOMPARE(other.told(), u"colours, -1 COLOR=\"Red\""_s);
     other.putCopy("theme", other.copy("theme").replace("Tex=a=b", "Tex=c"));
     QVERIFY(editing::putBack(other.session, places(other)));
     QCOMPARE(other.told(), u"-1 TEX=a, Save, draws, mark again"_s);
@@ -128,7 +130,7 @@ class DifferencesTest : public QObject {
     const auto goal = [&](QString ThemePaths::*copy, const QString& section, const QString& key) {
       QString told;
       const auto failure = platform::failureIn([&] {
-        const auto hit = editing::goalOf(theme.state, u"Song Screen"_s, {copy, section, key});
+        const auto hit = editing::goalOf(theme.state, u"Song Screen (Party)"_s, {copy, section, key});
         told = QStringList{hit.screen, hit.object, QString::number(hit.row), hit.key}.join(u'/');
       });
       return failure.value_or(told);
@@ -139,7 +141,8 @@ class DifferencesTest : public QObject {
     QCOMPARE(goal(themeFile, u"Lost"_s, u"X"_s), u"no screen shows Lost"_s);
     QCOMPARE(goal(themeFile, u"Colors"_s, u"Red"_s), u"Main Screen/MainStaticB/3/Color"_s);
     QCOMPARE(goal(themeFile, u"Colors"_s, u"red"_s), u"no object names red"_s);
-    QCOMPARE(goal(&ThemePaths::SkinFile, u"Textures"_s, u"PLATE"_s), u"Main Screen/MainStaticB/0/Tex"_s);
+    QCOMPARE(goal(themeFile, u"SongTextD"_s, u"Y"_s), u"Song Screen (Party)/SongTextD/0/Y"_s);  // the present screen
+    QCOMPARE(goal(&ThemePaths::SkinFile, u"Textures"_s, u"PLATE"_s), u"Song Screen (Party)/SongTextD/1/Tex"_s);
     QCOMPARE(goal(&ThemePaths::LanguageFile, u"Text"_s, u"GO"_s), u"Main Screen/MainStaticA/2/Text"_s);
   }
 

@@ -26,9 +26,9 @@ class HeldNumbersTest : public QObject {
 
  private Q_SLOTS:
   void grips() {
-    const std::pair<QPoint, QString> rows[] = {{{11, 50}, u"X=15 W=95"_s},        {{109, 50}, u"W=105"_s},
+    const std::pair<QPoint, QString> rows[] = {{{13, 50}, u"X=15 W=95"_s},        {{106, 50}, u"W=105"_s},
                                                {{60, 21}, u"Y=27 H=73"_s},        {{60, 99}, u"H=87"_s},
-                                               {{60, 50}, u"X=15 Y=27"_s},        {{10, 20}, u"X=15 Y=27 W=95 H=73"_s},
+                                               {{14, 95}, u"X=15 Y=27"_s},        {{10, 20}, u"X=15 Y=27 W=95 H=73"_s},
                                                {{109, 20}, u"Y=27 W=105 H=73"_s}, {{10, 99}, u"X=15 W=95 H=87"_s},
                                                {{109, 99}, u"W=105 H=87"_s}};
     for (const auto& [pixel, expected] : rows) {
@@ -81,6 +81,8 @@ class HeldNumbersTest : public QObject {
                 {"X=40.6", "X=-10001", Move, "H", u"X: -10001 is too large"_s},
                 {"X=40.6", "X=99999999999", Move, "H", u"X: 99999999999 is too large"_s},
                 {"X=40.6", "X=-1", Right, "H", ownSize},
+                {"Y=-50", "Y=-1", Right, "H", ownSize},
+                {"W=100", "W=-1", Right, "H", ownSize},
                 {"H=60", "H=-1", Right, "H", ownSize},
                 {"H=60", "H=-1", Right, "SelectH", QString()},
                 {"", "", Right, "", u"a text can't be sized"_s},

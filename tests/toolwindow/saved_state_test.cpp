@@ -57,7 +57,9 @@ class SavedStateTest : public ProgramTest {
   /// What bold and grey letters and tips show is told to a screen reader, too, and in the menus.
   void tells() {
     const Form2& tools = program->tools();
-    game->put(ThemeCopy, game->get(ThemeCopy).replace("ColR=0.5", "ColR=0.7\r\nNew=1\r\nColR=0.8"));
+    game->put(ThemeCopy, game->get(ThemeCopy)
+                             .replace("ColR=0.5", "ColR=0.7\r\nNew=1\r\nColR=0.8")
+                             .replace("Size=18", "Size=18\r\n#Size=9"));
     program->edit(u"H"_s, u"0"_s);
     program->tag(u"LoadingStaticA"_s);
     QCOMPARE(marked(), u"LoadingStaticA|H saved: 60|ColR saved: 0.5|New saved: nothing"_s);
