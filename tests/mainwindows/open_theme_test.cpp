@@ -102,14 +102,19 @@ class OpenThemeTest : public QObject {
     QCOMPARE(program.tools().objects().Text(), u"LoadingTextFree"_s);
     QCOMPARE(program.picture().pixelColor(90, 80), QColor(Qt::green));
     // On a screen that is coming up the selected button is still that of the screen before.
-    const auto selectTheSecond = [&] {
-      program.form.buttons().setCurrentIndex(1);
+    const auto select = [&](int index) {
+      program.form.buttons().setCurrentIndex(index);
       Q_EMIT program.form.buttons().Click(controls::Cause::User);
     };
-    selectTheSecond();
-    QTest::keyClick(&program.form, Qt::Key_F5);
-    settle();
-    QVERIFY(program.form.buttons().ListIndex() == 1 && program.state.SelectedButton == 2);
+    for (const int meanwhile : {1, 0}) {
+      select(1);
+      connect(
+          &program.form.queue(), &controls::WorkQueue::yielding, this, [&] { select(meanwhile); },
+          Qt::SingleShotConnection);
+      QTest::keyClick(&program.form, Qt::Key_F5);
+      settle();
+      QVERIFY(program.form.buttons().ListIndex() == meanwhile && program.state.SelectedButton == meanwhile + 1);
+    }
     program.screen(u"Main Screen"_s);
     bool pressed = false;
     connect(&program.form.queue(), &controls::WorkQueue::yielding, this, [&] {
@@ -120,7 +125,7 @@ class OpenThemeTest : public QObject {
     QCOMPARE(program.state.SelectedButton, 1);
     // Another screen that is chosen meanwhile begins with its own first button.
     game.put(ThemeCopy, game.get(ThemeCopy).replace("[Main]\r\n", "[Main]\r\n[MainButtonA]\r\n[MainButtonB]\r\n"));
-    selectTheSecond();
+    select(1);
     bool chosen = false;
     connect(&program.form.queue(), &controls::WorkQueue::yielding, this, [&] {
       if (!std::exchange(chosen, true)) program.screen(u"Main Screen"_s);
@@ -139,11 +144,20 @@ class OpenThemeTest : public QObject {
     QVERIFY(answer({u"--version"_s}).endsWith(QStringLiteral(" " CANTORAMA_VERSION)) &&
             answer({u"-platform"_s}).isEmpty());
     const QTemporaryDir folder;
-    const QStringList named{u"program"_s, folder.path()};
-    QCOMPARE(mainwindows::parseCommandLine(named).gameFolder, platform::programPath(folder.path()) + u'\\');
-    for (const QStringList& wrong :
-         {QStringList{u"/no/such/folder"_s}, {u"--unknown"_s}, {QString()}, {folder.path(), folder.path()}}) {
-      QVERIFY_THROWS_EXCEPTION(platform::Failure, mainwindows::parseCommandLine(QStringList{u"program"_s} + wrong));
+    QDir::setCurrent(folder.path());
+    for (const QString& name : {folder.path(), u"."_s}) {
+      QCOMPARE(mainwindows::parseCommandLine({u"program"_s, name}).gameFolder,
+               platform::programPath(folder.path()) + u'\\');
+    }
+    QDir::setCurrent(QDir::rootPath());
+    const QString two = u"more than one game folder is named"_s;
+    for (const auto& [words, told] : {std::pair(QStringList{u"/no/such/folder"_s}, u"no folder '/no/such/folder'"_s),
+                                      {{u"--unknown"_s}, u"Unknown option 'unknown'."_s},
+                                      {{QString()}, u"no folder ''"_s},
+                                      {{folder.path(), folder.path()}, two},
+                                      {{u"--sample"_s, folder.path()}, two}}) {
+      const auto parse = [&, words = words] { mainwindows::parseCommandLine(QStringList{u"program"_s} + words); };
+      QCOMPARE(platform::failureIn(parse).value_or(QString()), told);
     }
   }
 };
