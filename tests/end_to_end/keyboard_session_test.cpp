@@ -13,11 +13,12 @@ namespace {
 /// The window that has the keyboard, once it has it.
 QWidget& activeWindow(const QWidget* expected) {
   const auto active = [&] { return QApplication::activeWindow() == expected; };
-  // On a busy machine the toolkit misses now and then that a window has the keyboard, if a dialog has just gone.
+  // On a busy machine the toolkit misses now and then that a window has the keyboard: it goes away and comes back.
   if (!QTest::qWaitFor(active) && QApplication::activeWindow() == nullptr) {
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->isVisible() && window != expected) bringToFront(*window);
-    }
+    QWidget other;
+    other.show();
+    if (!QTest::qWaitForWindowExposed(&other)) qFatal("no other window");
+    bringToFront(other);
     bringToFront(*expected);
   }
   if (!QTest::qWaitFor(active, 20000)) {
