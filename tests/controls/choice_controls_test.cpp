@@ -1,5 +1,6 @@
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
@@ -100,7 +101,8 @@ class ChoiceControlsTest : public QObject {
     QCOMPARE(window.comboClicks.size(), 2);
     window.combo.setSwatches([](const QString& entry) { return QColor(entry); });
     window.combo.AddItem(u"#010203"_s);
-    QCOMPARE(window.combo.itemIcon(3).pixmap(11).toImage().pixelColor(5, 5), QColor(1, 2, 3));
+    QCOMPARE(window.combo.itemIcon(3).pixmap(QSize(11, 11), QIcon::Selected).toImage().pixelColor(5, 5),
+             QColor(1, 2, 3));
     window.list.allowSeveral();
     window.list.SetListIndex(5);
     window.list.selectToo(2);
@@ -113,6 +115,7 @@ class ChoiceControlsTest : public QObject {
       QTest::mouseClick(window.list.viewport(), Qt::LeftButton, {}, window.listPlace(2));
       QTest::mouseClick(window.view.viewport(), Qt::LeftButton, Qt::ControlModifier, window.viewPlace(2));
     }
+    QTest::mouseClick(window.view.viewport(), Qt::RightButton, {}, window.viewPlace(4));
     QCOMPARE(window.state(), (QList<qsizetype>{2, 2, 2, 2}));
     drag(window.list.viewport(), window.listPlace(1), window.listPlace(4));
     drag(window.view.viewport(), window.viewPlace(1), window.viewPlace(4));
@@ -205,8 +208,10 @@ class ChoiceControlsTest : public QObject {
     Window window;
     for (int i = 0; i < 30; ++i) window.combo.AddItem(QString(i, u'W'));
     window.combo.setCurrentIndex(1);
+    window.move(window.screen()->availableGeometry().topRight() - QPoint(95, 0));
     window.combo.showPopup();
     const QAbstractItemView& popup = *window.combo.view();
+    QVERIFY(window.screen()->availableGeometry().contains(popup.window()->geometry()));
     QVERIFY(popup.viewport()->width() >= popup.sizeHintForColumn(0));
     QCOMPARE(popup.viewport()->height() / popup.sizeHintForRow(0), 20);
     // The choice of the selected entry is one as well.

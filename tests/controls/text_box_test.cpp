@@ -8,6 +8,7 @@
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 using controls::TextBox;
 using namespace Qt::StringLiterals;
@@ -73,6 +74,7 @@ class TextBoxTest : public QObject {
       window.box.SetText(QString(31'999, u'1'));
       way(window.box, u"22"_s);
       QCOMPARE(window.box.Text(), QString(31'999, u'1') + QString(way == type ? 1 : 0, u'2'));
+      if (way == paste) QVERIFY(QToolTip::text().startsWith(u"Not pasted"_s));
       window.box.selectAll();
       if (way == paste) way(window.box, QString(32'000, u'3'));
       if (way == paste) QCOMPARE(window.box.Text(), QString(32'000, u'3'));

@@ -4,24 +4,13 @@
 using namespace support;
 using platform::BoxAnswer;
 
-namespace {
-
-QWidget& toolWindow(const Program& program) {
-  return program.tools();
-}
-QWidget& mainWindow(const Program& program) {
-  return program.form;
-}
-
-}  // namespace
-
 /// Sessions with finder, menus, keys and mouse, step by step, against the diaries kept.
 class KeysAndMouseTest : public DiaryTest {
   Q_OBJECT
 
  private Q_SLOTS:
   void finder() {
-    Diary& d = openedAt(toolWindow);
+    Diary& d = openedAt(false);
     QWidget& tools = program->tools();
     const auto find = [&](const char* words) {
       QTRY_COMPARE(QApplication::activeWindow(), &tools);
@@ -43,6 +32,7 @@ class KeysAndMouseTest : public DiaryTest {
     d.step(u"edit"_s, [&] { program->edit(); });
     d.menuOfRow(u"X"_s);
     d.menuOfRow(u"Y"_s);
+    d.row(u"Color"_s);
     d.menuOfRow(u"X"_s, 0);
     d.tag(u"LoadingTextFree"_s);
     d.change(u"Text"_s, "Text2", u"Hi"_s);
@@ -64,12 +54,26 @@ class KeysAndMouseTest : public DiaryTest {
     program->dialogs.colors = {QColor(1, 2, 3)};
     d.press("Command2");
     d.menu(u"the colour"_s, d.find<QWidget>("Command2"), {4, 4}, 0);
+    program->dialogs.colors = {QColor(1, 2, 3)};
+    d.press("Command2");
+    d.menuOfRow(u"Color"_s, 0);
+    program->dialogs.inputs = {u"Leaf"_s};
+    d.press("Command3");
+    d.menu(u"a new colour"_s, d.find<QWidget>("Command2"), {4, 4});
+    d.row(u"X"_s);
+    QGuiApplication::clipboard()->setText(u"1-2"_s);
+    for (const int entry : {0, 7, 5, 4, 0, 4, 7, 3, 2})
+      d.menu(u"the number"_s, d.find<QWidget>("Text1"), {5, 5}, entry);
+    auto& bar = d.find<QWidget>("VScroll1");
+    d.menu(u"the bar"_s, bar, {5, 5});
+    d.step(u"the bar's upper arrow"_s, [&] { QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 3}); });
+    d.row(u"Y"_s);
     d.menu(u"the list"_s, *d.find<QListWidget>("List1").viewport(), {20, 20});
     d.menu(u"the preview"_s, *program->form.Workspace, {700, 500});
   }
 
   void keys() {
-    Diary& d = openedAt(toolWindow);
+    Diary& d = openedAt(false);
     const auto press = [&](const char* control, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
       auto& widget = d.find<QWidget>(control);
       d.step(u"%1 gets %2"_s.arg(QLatin1StringView(control), QKeySequence(key | modifiers).toString()), [&] {
@@ -92,6 +96,7 @@ class KeysAndMouseTest : public DiaryTest {
     press("ListView1", Qt::Key_C);
     press("Combo3", Qt::Key_Return);
     press("Command1", Qt::Key_Space);
+    press("Command1", Qt::Key_Return);
     press("ListView1", Qt::Key_S, Qt::ControlModifier);
     press("ListView1", Qt::Key_F5);
     press("ListView1", Qt::Key_F10, Qt::ShiftModifier);
@@ -101,7 +106,7 @@ class KeysAndMouseTest : public DiaryTest {
   }
 
   void hand() {
-    Diary& d = openedAt(mainWindow);
+    Diary& d = openedAt(true);
     mainwindows::Workspace& preview = *program->form.Workspace;
     const auto drag = [&](const char* what, const QPoint& from, const QPoint& by, Qt::KeyboardModifiers keys = {}) {
       d.step(u"%1: press at %2,%3"_s.arg(QLatin1StringView(what)).arg(from.x()).arg(from.y()),
@@ -118,10 +123,12 @@ class KeysAndMouseTest : public DiaryTest {
     };
     drag("pick", {90, 80}, {});
     drag("pick again", {90, 80}, {});
-    drag("pick a text", {400, 110}, {});
-    drag("pick nothing", {700, 500}, {});
+    d.row(u"X"_s);
+    d.find<QWidget>("Text1").setFocus();  // the open editor follows
     drag("move", {90, 80}, {40, 25});
     drag("size", {178, 133}, {12, 7});
+    drag("pick a text", {400, 110}, {});
+    drag("pick nothing", {700, 500}, {});
     drag("move a button", {340, 230}, {-10, 20}, Qt::ControlModifier);
     drag("move its text", {305, 235}, {9, 9});
     for (int times = 0; times < 2; ++times) {

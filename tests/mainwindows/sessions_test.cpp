@@ -222,8 +222,9 @@ class SessionsTest : public DiaryTest {
     program->dialogs.files = {u""_s, folder + u"\\sub\\x.png"_s, folder + u"\\back.png"_s};
     for (int i = 0; i < 3; ++i) d.press("Command4");
     d.press("Command1");
-    program->dialogs.inputs = {u"plate"_s, u"Leaf"_s};
-    d.press("Command8", "Command8", "Command1");
+    game->put(SkinCopy, game->get(SkinCopy).replace("Other=", "More="));
+    program->dialogs.inputs = {u"plate"_s, u"other"_s, u"Leaf"_s};
+    d.press("Command8", "Command8", "Command8", "Command1");
     program->dialogs.boxes = {BoxAnswer::Yes};
     d.press("Command9", "Command1");
   }
@@ -271,6 +272,7 @@ class SessionsTest : public DiaryTest {
     d.tag(u"LoadingStaticA"_s);
     d.row(u"Tex"_s);
     d.row(u"Text"_s);
+    d.step(u"Enter"_s, [&] { QTest::keyClick(&program->tools().values(), Qt::Key_Return); });
     d.row(u"Color"_s);
     program->dialogs.inputs = {u"Full"_s, u"Fuller"_s};
     d.press("Command3", "Command3");

@@ -228,10 +228,10 @@ class DiaryTest : public QObject {
     program->open();
     return begun();
   }
-  /// The same with the keyboard in a window.
-  Diary& openedAt(QWidget& (*window)(const Program& program)) {
+  /// The same with the keyboard in the main window or in the tool window.
+  Diary& openedAt(bool mainWindow) {
     Diary& d = opened();
-    QWidget& active = window(*program);
+    QWidget& active = mainWindow ? static_cast<QWidget&>(program->form) : program->tools();
     active.activateWindow();
     if (!QTest::qWaitForWindowActive(&active)) qFatal("the window isn't active");
     return d;

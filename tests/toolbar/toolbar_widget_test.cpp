@@ -58,16 +58,13 @@ class WidgetTest : public QObject {
   void valuesOfAButtonByNumber() {
     McToolBar bar(toolbar::ambientOf(nullptr), nullptr);
     bar.UserControl_ReadProperties({});
-    const QVariant values[] = {1,    QStringLiteral("Go"),  false, QImage(3, 2, QImage::Format_RGB32), 2,
-                               true, QStringLiteral("tip"), 3};
+    const QImage icon(6, 2, QImage::Format_RGB32);
+    const QVariant values[] = {1, QStringLiteral("Go"), false, icon.width(), 2, true, QStringLiteral("tip"), 3};
     for (int number = 0; number < 8; ++number) {
-      bar.SetButtonValue(1, number, values[number]);
+      bar.SetButtonValue(1, number, number == toolbar::IconProperty ? icon : values[number]);
       const QVariant value = bar.GetButtonValue(1, number);
-      if (number == toolbar::IconProperty) {
-        QCOMPARE(value.value<toolbar::PictureReference>()->Width(), 3);
-      } else {
-        QCOMPARE(value, values[number]);
-      }
+      const auto picture = value.value<toolbar::PictureReference>();
+      QCOMPARE(picture ? picture->Width() : value, values[number]);
     }
     QVERIFY(!bar.GetButtonValue(1, 8).isValid());
   }
@@ -127,14 +124,20 @@ class WidgetTest : public QObject {
     QCOMPARE(button->text(QAccessible::Name), QStringLiteral("Save"));
     QVERIFY(bar->child(2)->state().disabled && bar->child(3)->state().invisible && !button->state().disabled);
     QTest::keyClick(&form.bar, Qt::Key_Return);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(&form.bar, &held);
     button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     QTest::keyClick(&form.bar, Qt::Key_End);
     QTest::keyClick(&form.bar, Qt::Key_Space);
-    QVERIFY(form.bar.popupWindow()->isVisible() && !bar->child(3)->state().invisible);
+    QVERIFY(form.bar.popupWindow()->geometry().contains(bar->child(3)->rect()) && !bar->child(3)->state().invisible);
+    QCOMPARE(bar->childAt(button->rect().x(), button->rect().y()), button);
     QTest::keyClick(&form.bar, Qt::Key_Space);
     QTest::keyClick(&form.bar, Qt::Key_Escape);
     QVERIFY(!form.bar.popupWindow()->isVisible());
-    QCOMPARE(numbers(form.hovers) + u' ' + numbers(form.clicks), QStringLiteral("124 224"));
+    for (const auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right}) QTest::keyClick(&form.bar, key);
+    QCOMPARE(numbers(form.hovers) + u' ' + numbers(form.clicks), QStringLiteral("12421 224"));
+    form.bar.clearFocus();
+    QCOMPARE(form.bar.buttons().Button_Index(), -1);
   }
 
   void mainWindowBarGoesRound() {
@@ -159,6 +162,9 @@ class WidgetTest : public QObject {
     QCOMPARE(tip()->grab().toImage().pixelColor(0, 0).alpha(), 0);  // a balloon needs no mask to have its shape
     QTest::mouseMove(&form.bar, {6, 5});
     QTRY_VERIFY(!tip());
+    QTRY_VERIFY(tip());
+    form.form.hide();
+    QVERIFY(!tip());
   }
 
   void looksOfTips_data() {

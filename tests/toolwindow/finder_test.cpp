@@ -30,7 +30,7 @@ class FinderTest : public ProgramTest {
  private Q_SLOTS:
   void tellsWhatIsGone() {
     for (const auto& [section, told] :
-         {std::pair{"[MainStaticA]\r\nY=1\r\n", u"X of MainStaticA"_s}, {"[Main]\r\n", u"MainStaticA"_s}}) {
+         {std::pair{"[MainStaticA]\r\nY=1\r\nY=2\r\n", u"X of MainStaticA"_s}, {"[Main]\r\n", u"MainStaticA"_s}}) {
       program->screen(u"Loading Screen"_s);
       ListWindow& finder = find("mainstatica x=10");
       const QByteArray before = game->get(ThemeCopy);
