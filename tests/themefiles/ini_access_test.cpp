@@ -50,6 +50,9 @@ class IniAccessTest : public QObject {
     }
     putINIChecked(Section, Key, std::nullopt, file);  // of doubles the first
     QCOMPARE(folder.get(Name), linesOf("[S]|k=w|"));
+    // Another program may change the file at once, but not the key.
+    checkReadsBack("[S]\nk=w\nj=1", Section, Key, file);
+    QVERIFY_THROWS_EXCEPTION(platform::Failure, checkReadsBack("[S]\nk=v", Section, Key, file));
     folder.protect(Name);
     QVERIFY_THROWS_EXCEPTION(platform::Failure, putINIChecked(Section, Key, u"x"_s, file));
   }

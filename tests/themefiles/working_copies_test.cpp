@@ -99,6 +99,8 @@ class WorkingCopiesTest : public QObject {
           game.panel.texts.last().endsWith(emptied ? u"was empty and is made anew"_s : u"was gone and is made anew"_s));
     }
     QVERIFY(!game.folder.has(Theme + u".tmp.old"_s));
+    QVERIFY(QFile::remove(game.folder.native(Theme + Copy)) && game.save());
+    QCOMPARE(game.folder.get(Theme + Copy), game.folder.get(Theme));
   }
 
   void keepsWhatOthersWrote() {
