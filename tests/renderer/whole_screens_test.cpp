@@ -1,8 +1,7 @@
 #include <QTest>
 
-#include "drawing/graphics.h"
 #include "platform/files.h"
-#include "renderer/plain_host.h"
+#include "renderer/chosen_screen.h"
 #include "renderer/render_driver.h"
 #include "renderer/trial_drawing.h"
 #include "support/picture_results.h"
@@ -146,14 +145,11 @@ class WholeScreensTest : public QObject {
       renderer::DrawCursor(state, tags, measuring, mark, record);
       record.lines += u"    "_s + QString::fromLatin1(mark.calls).trimmed();
     }
-    drawing::Surface surface;
+    renderer::NoStatus quiet;
+    renderer::ChosenScreen chosen(state_, screen.Name, scheme, quiet);
+    state = chosen.state;
+    drawing::Surface& surface = chosen.workspace;
     surface.wipe(Qt::magenta);
-    if (tags.ListCount() > 0) {
-      Mark mark;
-      tags.SetListIndex(0);
-      themefiles::ReadTag(state, tags.List(0), record);
-      renderer::DrawCursor(state, tags, surface, mark, record);
-    }
     Whole whole;
     drawing::Graphics graphics;
     renderer::NoDialogs dialogs(record);

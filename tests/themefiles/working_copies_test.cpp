@@ -101,6 +101,9 @@ class WorkingCopiesTest : public QObject {
     QVERIFY(!game.folder.has(Theme + u".tmp.old"_s));
     QVERIFY(QFile::remove(game.folder.native(Theme + Copy)) && game.save());
     QCOMPARE(game.folder.get(Theme + Copy), game.folder.get(Theme));
+    game.folder.put(Theme + Copy, {});
+    restoreCopy(game.state, &ThemePaths::ThemeFile, game.panel);
+    QCOMPARE(game.folder.get(Theme + Copy), game.folder.get(Theme));
   }
 
   void keepsWhatOthersWrote() {

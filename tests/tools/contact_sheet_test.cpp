@@ -92,8 +92,10 @@ class ContactSheetTest : public QObject {
     game.put(SmallTheme);
     game.put("Skins/T/Dusk.ini: [Textures]|Block=a.png|Gone=gone.png|");
     const QString output = folder_.filePath(u"small"_s);
+    QVERIFY(QDir().mkdir(output) && QFile::link(game.file(u"Themes/T.ini"_s), output + u"/01.png"_s));
     const QByteArray told = draw(0, {game.path(), u"T"_s, u"Dusk"_s, u"English"_s, output});
     QVERIFY2(told.contains("01/32 Loading Screen: 3 drawn, 6 left out\n"), told);
+    QVERIFY(readFile(game.file(u"Themes/T.ini"_s)).startsWith("[Colors]"));  // a link in the folder is replaced
     const QByteArrayList lines = readFile(output + u"/report.tsv"_s).split('\n');
     for (const char* line :
          {"screen\tsection\tresult\treason", "1\tLoadingBackground\tdrawn\tno file 'gone.png'",
@@ -130,7 +132,7 @@ class ContactSheetTest : public QObject {
              {with(4, links.filePath(u"link/../sheet"_s)), "lies in the game folder"},
 #endif
              {with(4, Sample + u"\\sheet"_s), "lies in the game folder"},
-             {with(3, u"%1 %2\n\x1b[2J\u202e"_s), "Languages/%1 %2??[2J?.ini [%1 %2??[2J?.ini: "},
+             {with(3, u"%1 %2\n\x1b[2J\u202e\u6b4c"_s), "Languages/%1 %2??[2J?\u6b4c.ini [%1 %2??[2J?\u6b4c.ini: "},
              {plain + QStringList{u"-platform"_s, u"xcb"_s}, "'platform'"},
              {plain + QStringList{u"--scheme=Mauve"_s}, "no colour scheme 'Mauve'; there are: Blue, Green"},
              {plain + QStringList{u"--selected=256"_s}, "--selected takes a number from 1 to 255"},
