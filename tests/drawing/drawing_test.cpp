@@ -166,6 +166,7 @@ class DrawingTest : public QObject {
     QVERIFY(stands(u"DejaVu Sans"_s, u"Eurostar Regular Extended"_s));
     QVERIFY(stands(u"Lato"_s, u"Eurostar Black"_s, true));
     QVERIFY(stands(u"Liberation Sans"_s, u"No such face at all"_s));
+    QCOMPARE(drawnFont(QFont(u"Liberation Sans"_s, 9, QFont::Bold)).weight(), QFont::Bold);
   }
 };
 
