@@ -99,8 +99,13 @@ class DifferencesTest : public QObject {
     QCOMPARE(themefiles::ResolveColor(theme.state, u"Red"_s, {}), u"200 0 0"_s);
     QCOMPARE(themefiles::ResolveColor(theme.state, u"Blue"_s, {}), u"0 0 200"_s);
     // Only rows that name one of these show it again: the first of a key, up to a second "=".
-    OpenTheme other("[Colors]|Red=1 1 1|[Main]|[MainStaticA]|Color=\"Red\"|Tex=a=b|Color=Blue|", "Plate=a.png|");
-    other.putCopy("theme", other.copy("theme").replace("1 1 1", "2 2 2"));
+    OpenTheme other(
+        "[Colors]|Red=1 1 "
+        "1|[Main]|[MainStaticA]|Color=\"Red\"|Tex=a=b|Color=Blue|[MainStaticB]|Color=red|[MainStaticC]|Color=New|",
+        "Plate=a.png|");
+    other.putCopy("theme", other.copy("theme").replace("1 1 1", "2 2 2|New=1 1 1"));
+    QVERIFY(!editing::SavedState(other.state).differsIn(u"MainStaticB"_s));  // another case
+    QCOMPARE(editing::savedColorOf(other.state, u"MainStaticC"_s, u"COLOR"_s)->told, u"colour 'New' is new"_s);
     other.screen(u"Main Screen"_s);
     other.session.pickObject(1);
     other.told();

@@ -192,6 +192,10 @@ class GroupHandTest : public GroupTest {
   }
 
   void guides() {
+    // Outside the picture nothing is met, and beside a straight way neither.
+    const QByteArray beside = game->get(ThemeCopy).replace("X=400\r\nY=100", "X=400\r\nY=94");
+    game->put(ThemeCopy, QByteArray(beside).replace("X=400\r\nY=150", "X=299\r\nY=700"));
+    program->form.queue().draw();
     program->tag(u"LoadingStaticA"_s);
     const QByteArray file = game->get(ThemeCopy);
     QTest::mousePress(&preview(), Qt::LeftButton, {}, Inside);
@@ -201,7 +205,7 @@ class GroupHandTest : public GroupTest {
     QTest::keyPress(&preview(), Qt::Key_Shift, Qt::ControlModifier);
     QTRY_COMPARE(preview().accessibleDescription(), u"X 198, Y 50"_s);
     QTest::keyRelease(&preview(), Qt::Key_Shift, Qt::ControlModifier);  // both
-    QTRY_COMPARE(preview().accessibleDescription(), u"X 200, Y 58, at LoadingButtonGo and LoadingTextFree"_s);
+    QTRY_COMPARE(preview().accessibleDescription(), u"X 200, Y 52, at LoadingButtonGo and LoadingTextFree"_s);
     QTest::mouseRelease(&preview(), Qt::LeftButton, Qt::ControlModifier, Inside + QPoint(158, 5));
     QCOMPARE(newLines(file).join(u' '), u"X=200"_s);
     // Several meet them as one.

@@ -115,6 +115,12 @@ class OpenThemeTest : public QObject {
       settle();
       QVERIFY(program.form.buttons().ListIndex() == meanwhile && program.state.SelectedButton == meanwhile + 1);
     }
+    select(1);
+    game.put(ThemeCopy, game.get(ThemeCopy).replace("[LoadingButtonLast]", "[Elsewhere]"));
+    QTest::keyClick(&program.form, Qt::Key_F5);
+    settle();
+    QCOMPARE(program.state.SelectedButton, 1);
+    game.put(ThemeCopy, game.get(ThemeFile));
     program.screen(u"Main Screen"_s);
     bool pressed = false;
     connect(&program.form.queue(), &controls::WorkQueue::yielding, this, [&] {

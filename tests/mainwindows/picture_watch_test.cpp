@@ -198,6 +198,7 @@ class PictureWatchTest : public ProgramTest {
       });
       form().queue().draw();
       QVERIFY2(draws_ == 1, "nothing nests, and the running one isn't begun again");
+      QVERIFY(form().findChild<QTimer*>(u"PicturesAtRest"_s)->isActive());
       QTRY_COMPARE(draws_, 2);
       QVERIFY(shows(color));
     }

@@ -53,6 +53,7 @@ class SessionsTest : public DiaryTest {
     d.press("Command1");
     game->protect(ThemeCopy, false);
     d.press("Command1");
+    d.step(u"7 typed"_s, [&] { QTest::keyClicks(&d.find<controls::TextBox>("Text1"), u"7"_s); });
     for (const QString& copy : {ThemeCopy, SkinCopy, LanguageCopy}) QFile::remove(game->native(copy));
     d.tool(2);
     program->dialogs.boxes = {BoxAnswer::Yes};
