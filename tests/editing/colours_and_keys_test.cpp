@@ -57,7 +57,6 @@ class ColoursAndKeysTest : public QObject {
     const auto again = editing::savedColor(theme.state, u"BLUE"_s);
     QVERIFY(again && editing::putSavedColorBack(session, u"BLUE"_s, *again) && !value("BLUE"));
     QCOMPARE(*value("Blue"), u"0 0 9"_s);
-    // Of two rows of one name the line of both is removed.
     theme.state.ThemeColors.back().Name = u"NEW"_s;
     QVERIFY(editing::removeColor(session, u"New"_s) && *value("NEW") == u"0 0 0");
     theme.told();

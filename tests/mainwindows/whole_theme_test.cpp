@@ -202,10 +202,11 @@ class WholeThemeTest : public ProgramTest {
     QVERIFY(picture(window).isNull() && window.windowTitle() == u"Loading Screen: One, Deutsch"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!picture(window).isNull(), 20000);
     QCOMPARE(drawn.first(), 3);
+    press(*named<QLabel>(window, "Large"));
+    QVERIFY(list.hasFocus());
     QFile::remove(game->native(SkinFile));  // what is open is there all the same
     key(program->form, Qt::Key_F5);
     QCOMPARE(names(), u"Three, English|Two, English|One, English|One, Deutsch"_s);
-    press(*named<QLabel>(window, "Large"));
     key(window, Qt::Key_Escape);
     QVERIFY(!window.isVisible());
   }
