@@ -169,6 +169,10 @@ class FilesUnixTest : public QObject {
       QCOMPARE(folder_->get(u"mine"_s), QByteArray("mine"));
       QCOMPARE(entries(), (QStringList{u"a.tmp"_s, u"mine"_s}));
     }
+    // A file of its own, for whoever may read a new one.
+    QFile::link(u"mine"_s, folder_->native(u"link"_s));
+    for (const char* name : {"link", "new"}) writeFile(at(QLatin1StringView(name)), "new", AtLink::Replace);
+    QCOMPARE(QFile::permissions(folder_->native(u"link"_s)), QFile::permissions(folder_->native(u"new"_s)));
   }
 
   /// Another program has taken the new temporary file for one that was left over, and has put its own there.
