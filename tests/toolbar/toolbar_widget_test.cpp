@@ -176,8 +176,9 @@ class WidgetTest : public QObject {
     QTest::addRow("balloon above") << QString() << 0 << true << QPoint(780, 795);
     QTest::addRow("rectangle") << QStringLiteral("Another & title") << 3 << false << QPoint(5, 100);
     QTest::addRow("rectangle above") << QStringLiteral("A title") << 0 << false << QPoint(100, 795);
-    QTest::addRow("wide title") << QStringLiteral("A title that is wider than any line of the text below it") << 1
-                                << false << QPoint(100, 100);
+    QTest::addRow("wide title")
+        << QStringLiteral("A title that is wider than any line of the text below it, which is wrapped at the width")
+        << 1 << false << QPoint(100, 100);
   }
 
   void looksOfTips() {
