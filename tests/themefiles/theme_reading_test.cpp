@@ -108,7 +108,7 @@ class ThemeReadingTest : public QObject {
         "[Main]|[MainStaticBar]|Tex=1|X=120|x=7|#Y=1|Color=Red=|[MainTextGo]|Size=9|Text=\"Go\"|Text=OWN|[MainTextOwn]|"
         "X=1|"
         "[MainStaticBar]|X=5|[MainSongs]|[Song]|[SongStaticParty]|X=1|[SongTextGo]|text= "
-        "GO|[SongMenu]|[ErrorPopup]|Text=|[Stray]|");
+        "GO|[SongMenu]|[ErrorPopup]|Text=|[ErrorPopupText]|Text=Nowhere|[Stray]|");
     theme.folder.put(u"l.ini"_s,
                      linesOf("[Text]|GO='Los, gr\xFC\xDF Gott'|go=other|MAINTEXTOWN=own words|MAIN=Spare|SPARE=x|"));
     theme.state.paths.LanguageFile = theme.folder.path(u"l.ini"_s);
