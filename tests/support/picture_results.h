@@ -76,4 +76,12 @@ inline void comparePicture(const QString& name, const QImage& given) {
                  marked);
 }
 
+/// The same of a window, once it has laid out all and its lists have shown their rows in the next frame.
+template <typename Window>
+void compareSettled(const QString& name, Window& window) {
+  const QImage kept = QImage(resultFile(name)).convertToFormat(QImage::Format_ARGB32);
+  const auto grabbed = [&] { return window.grab().toImage().convertToFormat(QImage::Format_ARGB32); };
+  if (!QTest::qWaitFor([&] { return grabbed() == kept; })) comparePicture(name, grabbed());
+}
+
 }  // namespace support
