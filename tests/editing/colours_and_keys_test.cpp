@@ -69,6 +69,21 @@ class ColoursAndKeysTest : public QObject {
     QCOMPARE(theme.report(), u"Error while adding colors []"_s);
   }
 
+  /// The theme's own colour of a name comes before those of the program and the players.
+  void colourGroups() {
+    const OpenTheme theme("[Colors]|Red=200 40 40|P1Dark=1 1 1|ColorLight=2 2 2|");
+    for (const auto& [name, group] : {std::pair{"Red", 0},
+                                      {"P1Dark", 0},
+                                      {"ColorLight", 0},
+                                      {"ColorDark", 1},
+                                      {"P2Dark", 2},
+                                      {"", 0},
+                                      {"red", -1}}) {
+      const auto found = editing::colorGroupOf(theme.state, QLatin1StringView(name));
+      QCOMPARE(found ? static_cast<int>(*found) : -1, group);
+    }
+  }
+
   void keys() {
     OpenTheme theme("[Main]|", "Plate=plate.png|", "HELLO=Hello there|");
     for (const auto& [kind, file, section, key, content] :
