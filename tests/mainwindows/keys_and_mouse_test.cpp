@@ -30,79 +30,25 @@ class KeysAndMouseTest : public DiaryTest {
   void putBack() {
     Diary& d = opened();
     d.step(u"edit"_s, [&] { program->edit(); });
-    d.menuOfRow(u"X"_s);
-    d.menuOfRow(u"Y"_s);
-    d.row(u"Color"_s);
-    d.menuOfRow(u"X"_s, 0);
-    d.tag(u"LoadingTextFree"_s);
-    d.change(u"Text"_s, "Text2", u"Hi"_s);
-    d.menuOfRow(u"Text"_s, 0);
+    d.run("menu of row X", "menu of row Y", "row Color", "menu of row X, entry 0", "object LoadingTextFree", "row Text",
+          "Text2 becomes 'Hi'", "press Command1", "menu of row Text, entry 0");
     program->dialogs.boxes = {BoxAnswer::Yes};
-    d.press("Command7");
-    d.choose("Combo5", 0);
-    d.type("Text2", u"Ho"_s);
-    d.press("Command1");
-    d.menuOfRow(u"Text"_s, 0);
-    d.type("Text2", u"Ha"_s);
-    d.press("Command1");
-    d.screen(u"Main Screen"_s);
-    d.tag(u"MainTextFree"_s);
-    d.menuOfRow(u"Text"_s, 0);
-    d.screen(u"Loading Screen"_s);
-    d.tag(u"LoadingStaticA"_s);
-    d.row(u"Color"_s);
+    d.run("press Command7", "Combo5 becomes entry 0", "Text2 becomes 'Ho'", "press Command1",
+          "menu of row Text, entry 0", "Text2 becomes 'Ha'", "press Command1", "screen Main Screen",
+          "object MainTextFree", "menu of row Text, entry 0", "screen Loading Screen", "object LoadingStaticA",
+          "row Color");
     program->dialogs.colors = {QColor(1, 2, 3)};
-    d.press("Command2");
-    d.menu(u"the colour"_s, d.find<QWidget>("Command2"), {4, 4}, 0);
+    d.run("press Command2", "menu of Command2, entry 0");
     program->dialogs.colors = {QColor(1, 2, 3)};
-    d.press("Command2");
-    d.menuOfRow(u"Color"_s, 0);
+    d.run("press Command2", "menu of row Color, entry 0");
     program->dialogs.inputs = {u"Leaf"_s};
-    d.press("Command3");
-    d.menu(u"a new colour"_s, d.find<QWidget>("Command2"), {4, 4});
-    d.row(u"X"_s);
+    d.run("press Command3", "menu of Command2", "row X");
     QGuiApplication::clipboard()->setText(u"1-2"_s);
-    for (const int entry : {0, 7, 5, 4, 0, 4, 7, 3, 2})
-      d.menu(u"the number"_s, d.find<QWidget>("Text1"), {5, 5}, entry);
+    for (const int entry : {0, 7, 5, 4, 0, 4, 7, 3, 2}) d.run(u"menu of Text1, entry %1"_s.arg(entry));
     auto& bar = d.find<QWidget>("VScroll1");
-    d.menu(u"the bar"_s, bar, {5, 5});
+    d.run("menu of VScroll1");
     d.step(u"the bar's upper arrow"_s, [&] { QTest::mouseClick(&bar, Qt::LeftButton, {}, {8, 3}); });
-    d.row(u"Y"_s);
-    d.menu(u"the list"_s, *d.find<QListWidget>("List1").viewport(), {20, 20});
-    d.menu(u"the preview"_s, *program->form.Workspace, {700, 500});
-  }
-
-  void keys() {
-    Diary& d = openedAt(false);
-    const auto press = [&](const char* control, Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-      auto& widget = d.find<QWidget>(control);
-      d.step(u"%1 gets %2"_s.arg(QLatin1StringView(control), QKeySequence(key | modifiers).toString()), [&] {
-        widget.setFocus();
-        QTest::keyClick(&widget, key, modifiers);
-      });
-    };
-    press("Combo1", Qt::Key_Down);
-    press("Combo1", Qt::Key_Up);
-    press("List1", Qt::Key_End);
-    press("List1", Qt::Key_L);
-    press("List1", Qt::Key_PageUp);
-    d.tag(u"LoadingStaticA"_s);
-    press("ListView1", Qt::Key_Down);
-    press("ListView1", Qt::Key_Down);
-    press("ListView1", Qt::Key_Return);
-    press("Text1", Qt::Key_Up);
-    press("Text1", Qt::Key_PageDown);
-    press("Text1", Qt::Key_Return);
-    press("ListView1", Qt::Key_C);
-    press("Combo3", Qt::Key_Return);
-    press("Command1", Qt::Key_Space);
-    press("Command1", Qt::Key_Return);
-    press("ListView1", Qt::Key_S, Qt::ControlModifier);
-    press("ListView1", Qt::Key_F5);
-    press("ListView1", Qt::Key_F10, Qt::ShiftModifier);
-    press("ListView1", Qt::Key_F, Qt::ControlModifier);
-    press("ListView1", Qt::Key_W, Qt::ControlModifier);
-    d.menu(u"the preview"_s, *program->form.Workspace, {700, 500});
+    d.run("row Y", "menu of List1", "menu of Form1.Workspace");
   }
 
   void hand() {
@@ -123,7 +69,7 @@ class KeysAndMouseTest : public DiaryTest {
     };
     drag("pick", {90, 80}, {});
     drag("pick again", {90, 80}, {});
-    d.row(u"X"_s);
+    d.run("row X");
     d.find<QWidget>("Text1").setFocus();  // the open editor follows
     drag("move", {90, 80}, {40, 25});
     drag("size", {178, 133}, {12, 7});
@@ -132,7 +78,7 @@ class KeysAndMouseTest : public DiaryTest {
     drag("move a button", {340, 230}, {-10, 20}, Qt::ControlModifier);
     drag("move its text", {305, 235}, {9, 9});
     for (int times = 0; times < 2; ++times) {
-      d.menu(u"the preview"_s, preview, {700, 500}, 7);
+      d.run("menu of Form1.Workspace, entry 7");
       drag("move beside a guide", {150 + 115 * times, 100}, {115 - 230 * times, 0});
     }
     d.step(u"right, twice, and down, which stays held"_s, [&] {

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QMenu>
-
 #include "controls/look.h"
 #include "platform/code_page.h"
 #include "platform/file_identity.h"
+#include "support/deeds.h"
 #include "support/results.h"
 #include "support/shown.h"
 
@@ -41,77 +40,8 @@ class Diary {
     lines.replaceInStrings(game_.path(), u"GAME\\"_s).replaceInStrings(u"\n"_s, u"|"_s);
   }
 
-  void tag(const QString& name) {
-    step(u"object "_s + name, [&] { program_.tag(name); });
-  }
-  void row(const QString& key) {
-    step(u"row "_s + key, [&] { program_.row(key); });
-  }
-  /// A grid of this one row, and a click on it.
-  void soleRow(const QString& key, const QString& value) {
-    step(u"row %1=%2"_s.arg(key, value), [&] { program_.soleRow(key, value); });
-  }
-  void screen(const QString& name) {
-    step(u"screen "_s + name, [&] { program_.screen(name); });
-  }
-  void type(const char* box, const QString& text) {
-    step(u"%1 becomes '%2'"_s.arg(QLatin1StringView(box), text), [&] { find<controls::TextBox>(box).SetText(text); });
-  }
-  /// Presses one button of the tool window after the other.
-  void press(auto... buttons) {
-    const auto one = [&](const char* button) {
-      step(u"press "_s + QLatin1StringView(button), [&] { find<QPushButton>(button).click(); });
-    };
-    (one(buttons), ...);
-  }
-  /// An entry of a list of the tool window, as the user chooses it.
-  void choose(const char* list, int entry) {
-    step(u"%1 becomes entry %2"_s.arg(QLatin1StringView(list)).arg(entry), [&] {
-      auto& combo = find<controls::ComboBox>(list);
-      combo.setCurrentIndex(entry);
-      Q_EMIT combo.Click(controls::Cause::User);
-    });
-  }
-  /// Chooses a row of the object, gives the control of its editor another text, or entry, and presses Update.
-  void change(const QString& key, const char* control, const QString& text) {
-    row(key);
-    type(control, text);
-    press("Command1");
-  }
-  void change(const QString& key, const char* list, int entry) {
-    row(key);
-    choose(list, entry);
-    press("Command1");
-  }
-  void tool(int button) {
-    constexpr const char* Names[] = {"Open", "Save", "Close", "Background Color"};
-    step(u"toolbar "_s + QLatin1StringView(Names[button - 1]), [&] { program_.click(button); });
-  }
-  /// The menu of a widget: tells its entries, those in brackets that can't be taken, and takes one of them.
-  void menu(const QString& of, QWidget& widget, const QPoint& place, int entry = -1) {
-    step(u"menu of %1"_s.arg(of) + (entry < 0 ? QString() : u", entry %1"_s.arg(entry)), [&] {
-      QContextMenuEvent asked(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
-      QApplication::sendEvent(&widget, &asked);
-      auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-      if (menu == nullptr) return;
-      for (const QAction* action : menu->actions()) {
-        lines += u"entry: "_s +
-                 (action->isSeparator() ? u"-"_s
-                  : action->isEnabled() ? action->text()
-                                        : u'(' + action->text() + u')') +
-                 (action->isChecked() ? u", on"_s : u""_s);
-      }
-      QAction* const taken = menu->actions().value(entry);
-      menu->close();
-      if (taken != nullptr) taken->trigger();
-    });
-  }
-  void menuOfRow(const QString& key, int entry = -1) {
-    auto& grid = find<QTreeWidget>("ListView1");
-    const auto rows = grid.findItems(key, Qt::MatchExactly);
-    if (rows.isEmpty()) qFatal("no row %s", qPrintable(key));
-    menu(u"row "_s + key, *grid.viewport(), grid.visualItemRect(rows.first()).center(), entry);
-  }
+  /// Does things one after the other, each a step.
+  void run(const auto&... deeds) { (one(deeds), ...); }
   /// A control of the tool window.
   template <typename Control>
   Control& find(const char* name) const {
@@ -121,6 +51,16 @@ class Diary {
   }
 
  private:
+  void one(const char* deed) { one(QString(QLatin1StringView(deed))); }
+  void one(const QString& deed) {
+    step(deed, [&] {
+      Deeds deeds(program_, game_);
+      const bool done = deeds.run(deed);
+      for (const QString& entry : deeds.menu) lines += u"entry: "_s + entry;
+      if (!done) lines += u"can't be done"_s;
+    });
+  }
+
   struct Drawings : QObject {
     bool eventFilter(QObject* /*bar*/, QEvent* event) override {
       count += event->type() == QEvent::Show;
@@ -142,11 +82,10 @@ class Diary {
     }
     if (!gone.isEmpty()) lines += u"no more: "_s + gone.join(u", "_s);
     shown_ = std::move(after);
-    const QImage& picture = program_.picture();
+    const QImage picture = program_.picture().copy();
+    if (picture == std::exchange(picture_, picture)) return;
     const QByteArrayView pixels(picture.constBits(), picture.sizeInBytes());
-    if (const quint16 sum = qChecksum(pixels); sum != std::exchange(picture_, sum)) {
-      lines += u"picture: %1"_s.arg(sum, 4, 16, QChar(u'0'));
-    }
+    lines += u"picture: %1"_s.arg(qChecksum(pixels), 4, 16, QChar(u'0'));
   }
 
   /// The lines that are gone ("-") and new ("+"), in their order: what is in the longest common sequence stays.
@@ -206,7 +145,7 @@ class Diary {
   const GameFolder& game_;
   Drawings drawings_;
   Shown shown_;
-  quint16 picture_ = 0;
+  QImage picture_;
   QMap<QString, Written> written_;
 };
 
@@ -247,7 +186,8 @@ class DiaryTest : public QObject {
     program = std::make_unique<Program>(*game);
   }
   void cleanup() {
-    compareText(QString::fromLatin1(QTest::currentTestFunction()) + u".txt"_s, diary->lines);
+    const char* const row = QTest::currentDataTag();
+    compareText(QString::fromLatin1(row != nullptr ? row : QTest::currentTestFunction()) + u".txt"_s, diary->lines);
     diary.reset();
     program.reset();
   }
