@@ -1,4 +1,5 @@
 #include <QAbstractItemView>
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QScreen>
 #include <QSignalSpy>
@@ -11,7 +12,9 @@
 #include "controls/look.h"
 #include "controls/number_bar.h"
 #include "platform/failure.h"
+#include "support/keys.h"
 #include "support/mouse.h"
+#include "support/results.h"
 
 using namespace controls;
 using namespace support;
@@ -46,23 +49,141 @@ struct Window : QWidget {
   ComboBox combo{this};
   NumberBar bar{10000, 5, this};
   QWidget neighbour{this};
-  QSignalSpy listClicks{&list, &ListBox::Click};
-  QSignalSpy viewClicks{&view, &ListView::ItemClick};
   QSignalSpy comboClicks{&combo, &ComboBox::Click};
-  QSignalSpy changes{&bar, &NumberBar::Change};
-  /// The selected row and the number of clicks so far, of the one list and of the other.
-  QList<qsizetype> state() const {
-    return {list.ListIndex(), listClicks.size(), view.selectedRow(), viewClicks.size()};
-  }
   QPoint listPlace(int row) const { return list.visualItemRect(list.item(row)).center(); }
-  QPoint viewPlace(int row) const { return view.visualItemRect(view.topLevelItem(row)).center(); }
 };
 
-void drag(QWidget* viewport, const QPoint& from, const QPoint& to) {
-  QTest::mousePress(viewport, Qt::LeftButton, {}, from);
-  moveMouse(*viewport, to);
-  QTest::mouseRelease(viewport, Qt::LeftButton, {}, to);
-}
+/// A user's steps on a control of the window, and what it tells of them.
+class Steps : Window {
+ public:
+  explicit Steps(const QString& name) {
+    const QMap<QString, QWidget*> controls{{u"view"_s, &view}, {u"combo"_s, &combo}, {u"bar"_s, &bar}};
+    control_ = controls.value(name, &list);
+    rows_ = qobject_cast<QAbstractItemView*>(control_);
+    area_ = rows_ == nullptr ? control_ : rows_->viewport();
+    if (name == u"several") list.allowSeveral();
+    list.setJoining(name == u"joining");
+    view.setTakesDigits([](int row) { return row % 2 == 0; });
+    combo.setCurrentIndex(1);
+    note(list, &ListBox::Click, "Click");
+    note(list, &ListBox::joinAsked, "join");
+    note(list, &ListBox::menuAsked, "menu");
+    note(view, &ListView::ItemClick, "ItemClick");
+    note(view, &ListView::opened, "opened");
+    note(view, &ListView::menuAsked, "menu");
+    note(combo, &ComboBox::Click, "Click");
+    note(bar, &NumberBar::Change, "Change");
+    control_->setFocus();
+  }
+
+  /// A key, or what the mouse does at a row: "Ctrl+End", "press 4", "Ctrl+press 2", "wheel -120"; or what code does.
+  void step(const QString& step) {
+    const QString what = step.section(u' ', 0, 0).section(u'+', -1);
+    const QString text = step.section(u' ', 1), behind = step.section(u' ', 2);
+    const int number = step.section(u' ', 1, 1).toInt();
+    const auto keys = step.startsWith(u"Ctrl+")    ? Qt::ControlModifier
+                      : step.startsWith(u"Shift+") ? Qt::ShiftModifier
+                                                   : Qt::NoModifier;
+    const QModelIndex cell = rows_ == nullptr ? QModelIndex() : rows_->model()->index(number, behind.toInt());
+    const QPoint place = rows_ == nullptr ? QPoint(8, number) : rows_->visualRect(cell).center();
+    const QMap<QString, std::function<void()>> known{
+        {u"press"_s, [&] { QTest::mousePress(area_, Qt::LeftButton, keys, place); }},
+        {u"release"_s, [&] { QTest::mouseRelease(area_, Qt::LeftButton, keys, place); }},
+        {u"double"_s, [&] { QTest::mouseDClick(area_, Qt::LeftButton, keys, place); }},
+        {u"right"_s, [&] { QTest::mouseClick(area_, Qt::RightButton, keys, place); }},
+        {u"move"_s, [&] { moveMouse(*area_, place); }},
+        {u"wheel"_s, [&] { turnWheel(*control_, number); }},
+        {u"menu"_s, [&] { askMenu(text.isEmpty() ? QContextMenuEvent::Keyboard : QContextMenuEvent::Mouse, place); }},
+        {u"elsewhere"_s, [&] { neighbour.setFocus(); }},
+        {u"set"_s, [&] { set(number); }},
+        {u"quietly"_s, [&] { bar.setValueQuietly(number); }},
+        {u"text"_s, [&] { combo.SetText(text); }},
+        {u"add"_s, [&] { combo.AddItem(text); }},
+        {u"remove"_s, [&] { combo.RemoveItem(number); }},
+        {u"like"_s, [&] { words_ += QString::number(combo.entryLike(text)); }},
+        {u"name"_s, [&] { list.item(number)->setText(behind); }},
+        {u"tip"_s, [&] { list.setRowToolTip(number, behind); }},
+        {u"bold"_s, [&] { list.setBold(number, behind); }},
+        {u"joined"_s, [&] { list.setJoined(number, behind); }},
+        {u"grey"_s, [&] { list.setGrey(number, !behind.isEmpty()); }},
+        {u"saved"_s, [&] { view.setSaved(number, behind); }},
+        {u"value"_s, [&] { view.setSubItem(number, behind); }},
+        {u"huge"_s, [&] { setHuge(QString(20'000'000, u'x')); }},
+        {u"look"_s, [&] { look(number); }},
+        {u"point"_s, [&] { point(place); }},
+    };
+    try {
+      known.contains(what) ? known[what]() : pressKey(*control_, step);
+    } catch (const platform::Failure&) {
+      words_ += u"failure"_s;
+    }
+  }
+
+  /// What was told, and what is chosen now.
+  QString told() const {
+    QStringList chosen;
+    for (const int row : list.selectedRows()) chosen += QString::number(row);
+    const QMap<const QWidget*, QString> states{{&list, u"%1 of %2"_s.arg(list.ListIndex()).arg(chosen.join(u' '))},
+                                               {&view, QString::number(view.selectedRow())},
+                                               {&combo, u"%1 %2"_s.arg(combo.ListIndex()).arg(combo.Text())},
+                                               {&bar, QString::number(bar.Value())}};
+    return (words_ + QStringList{u"at "_s + states[control_]}).join(u", "_s).trimmed();
+  }
+
+ private:
+  void note(auto& control, auto signal, const char* word) {
+    QObject::connect(&control, signal, [this, word](auto... told) {
+      words_ += (QStringList{QLatin1StringView(word)} << ... << textOf(told)).join(u' ');
+    });
+  }
+  static QString textOf(int row) { return QString::number(row); }
+  static QString textOf(Cause cause) { return cause == Cause::User ? u"user"_s : u"code"_s; }
+  static QString textOf(const QString& typed) { return u'"' + typed + u'"'; }
+  QString textOf(const QPoint& place) const {
+    const QPoint inside = area_->mapFromGlobal(place);
+    return u"%1,%2"_s.arg(inside.x()).arg(inside.y());
+  }
+  void set(int number) {
+    if (control_ == &list) list.SetListIndex(number);
+    if (control_ == &view) view.selectRow(number);
+    if (control_ == &combo) combo.SetListIndex(number);
+    if (control_ == &bar) bar.SetValue(number);
+  }
+  void askMenu(QContextMenuEvent::Reason reason, const QPoint& place) {
+    QContextMenuEvent event(reason, place, area_->mapToGlobal(place));
+    QApplication::sendEvent(area_, &event);
+  }
+  void point(const QPoint& place) {
+    QHelpEvent event(QEvent::ToolTip, place, area_->mapToGlobal(place));
+    QToolTip::hideText();
+    QApplication::sendEvent(area_, &event);
+    words_ += u"tip "_s + QToolTip::text().remove(QString(1000, u'x')).replace(u'\n', u'|');
+  }
+  void setHuge(const QString& text) {
+    view.setSubItem(0, text);
+    list.item(0)->setText(text);
+    list.setRowToolTip(1, text);
+    grab();
+  }
+  void look(int row) {
+    for (int column = 0; column < rows_->model()->columnCount(); ++column) {
+      const QModelIndex cell = rows_->model()->index(row, column);
+      words_ += cell.data().toString();
+      for (const auto role : {Qt::ToolTipRole, Qt::AccessibleDescriptionRole})
+        words_.last() += u'/' + cell.data(role).toString().replace(u'\n', u'|');
+      if (cell.data(Qt::FontRole).value<QFont>().bold()) words_.last() += u"/bold"_s;
+      for (const auto role : {Qt::ForegroundRole, Qt::BackgroundRole}) {
+        const QVariant brush = cell.data(role);
+        if (brush.isValid()) words_.last() += u'/' + brush.value<QBrush>().color().name();
+      }
+    }
+  }
+
+  QWidget* control_;
+  QWidget* area_;
+  QAbstractItemView* rows_;
+  QStringList words_;
+};
 
 }  // namespace
 
@@ -70,6 +191,15 @@ class ChoiceControlsTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  void steps() {
+    compareRows(u"steps.txt"_s, [](const QString& row) {
+      const qsizetype colon = row.indexOf(u": ");
+      Steps steps(row.first(colon));
+      for (const QString& step : row.sliced(colon + 2).split(u", "_s)) steps.step(step);
+      return steps.told();
+    });
+  }
+
   void sortedRowsKeepTheirSelection() {
     ListBox box(ListBox::Order::Sorted);
     for (const char* name : {"b", "Static2", "static1", "_x", "B"}) box.AddItem(QString::fromLatin1(name));
@@ -81,115 +211,12 @@ class ChoiceControlsTest : public QObject {
     QCOMPARE(box.ListIndex(), 2);
   }
 
-  void writtenIndexFiresEachTime() {
+  void swatches() {
     Window window;
-    window.list.setFocus(Qt::TabFocusReason);
-    window.view.setFocus(Qt::TabFocusReason);
-    QCOMPARE(window.state(), (QList<qsizetype>{-1, 0, -1, 0}));
-    for (const int row : {3, 3, -1}) window.list.SetListIndex(row);
-    window.view.selectRow(3);
-    QCOMPARE(window.state(), (QList<qsizetype>{-1, 2, 3, 0}));
-    QCOMPARE(window.listClicks.first().first().value<Cause>(), Cause::Code);
-    QVERIFY_THROWS_EXCEPTION(platform::Failure, window.list.SetListIndex(Rows));
-
-    for (const int entry : {1, -1}) window.combo.SetListIndex(entry);
-    window.combo.SetText(u"score"_s);
-    QVERIFY_THROWS_EXCEPTION(platform::Failure, window.combo.SetText(u"SCORE"_s));
-    QCOMPARE(window.combo.ListIndex(), 3);
-    window.combo.RemoveItem(3);
-    QCOMPARE(window.combo.ListIndex(), -1);
-    QCOMPARE(window.comboClicks.size(), 2);
     window.combo.setSwatches([](const QString& entry) { return QColor(entry); });
     window.combo.AddItem(u"#010203"_s);
-    QCOMPARE(window.combo.itemIcon(3).pixmap(QSize(11, 11), QIcon::Selected).toImage().pixelColor(5, 5),
+    QCOMPARE(window.combo.itemIcon(4).pixmap(QSize(11, 11), QIcon::Selected).toImage().pixelColor(5, 5),
              QColor(1, 2, 3));
-    window.list.allowSeveral();
-    window.list.SetListIndex(5);
-    window.list.selectToo(2);
-    QCOMPARE(window.list.selectedRows(), (std::vector<int>{2, 5}));
-  }
-
-  void mousePicksOneRow() {
-    Window window;
-    for (int i = 0; i < 2; ++i) {
-      QTest::mouseClick(window.list.viewport(), Qt::LeftButton, {}, window.listPlace(2));
-      QTest::mouseClick(window.view.viewport(), Qt::LeftButton, Qt::ControlModifier, window.viewPlace(2));
-    }
-    QTest::mouseClick(window.view.viewport(), Qt::RightButton, {}, window.viewPlace(4));
-    QCOMPARE(window.state(), (QList<qsizetype>{2, 2, 2, 2}));
-    drag(window.list.viewport(), window.listPlace(1), window.listPlace(4));
-    drag(window.view.viewport(), window.viewPlace(1), window.viewPlace(4));
-    QCOMPARE(window.state(), (QList<qsizetype>{1, 3, 1, 3}));
-    QCOMPARE(window.listClicks.last().first().value<Cause>(), Cause::User);
-    // The second press of a double click counts only on another row.
-    for (const int row : {1, 2}) {
-      QTest::mouseDClick(window.list.viewport(), Qt::LeftButton, {}, window.listPlace(row));
-      QTest::mouseDClick(window.view.viewport(), Qt::LeftButton, {}, window.viewPlace(row));
-      QCOMPARE(window.state(), (QList<qsizetype>{row, 2 + row, row, 2 + row}));
-    }
-  }
-
-  void keysPick() {
-    // The row before and behind the key, and the clicks; in both lists and in the combo box.
-    const struct {
-      int before;
-      Qt::Key key;
-      int row, clicks, entry, entryClicks;
-    } rows[] = {
-        {-1, Qt::Key_Down, 0, 1, 0, 1}, {0, Qt::Key_Up, 0, 0, 0, 0}, {0, Qt::Key_End, Rows - 1, 1, 3, 1},
-        {-1, Qt::Key_O, 0, 1, -1, 0},   {0, Qt::Key_M, 4, 1, 0, 0},  {0, Qt::Key_S, 0, 0, 1, 1},
-    };
-    for (const auto& row : rows) {
-      Window window;
-      if (row.before >= 0) window.list.setCurrentRow(row.before);
-      window.view.selectRow(row.before);
-      window.combo.setCurrentIndex(row.before);
-      for (QWidget* widget : {static_cast<QWidget*>(&window.list), static_cast<QWidget*>(&window.view),
-                              static_cast<QWidget*>(&window.combo)}) {
-        widget->setFocus();
-        QTest::keyClick(widget, row.key);
-        if (widget != &window.combo) QTest::keyClick(widget, Qt::Key_Space, Qt::ControlModifier);
-      }
-      QCOMPARE(window.state(), (QList<qsizetype>{row.row, row.clicks, row.row, row.clicks}));
-      QCOMPARE(window.combo.ListIndex(), row.entry);
-      QCOMPARE(window.comboClicks.size(), row.entryClicks);
-    }
-    Window window;
-    window.list.setCurrentRow(9);
-    for (const auto key : {Qt::Key_PageDown, Qt::Key_PageUp}) QTest::keyClick(&window.list, key);
-    QCOMPARE(window.list.ListIndex(), 9);
-  }
-
-  void cutValueShowsWholeAsPlainText() {
-    Window window;
-    const QPoint value = window.view.visualRect(window.view.model()->index(0, 1)).center();
-    QHelpEvent event(QEvent::ToolTip, value, window.view.viewport()->mapToGlobal(value));
-    QApplication::sendEvent(window.view.viewport(), &event);
-    QVERIFY(QToolTip::text().contains(u"&lt;b&gt;a long value&lt;/b&gt; 0"_s));
-    window.view.setSubItem(0, QString(20'000'000, u'x'));
-    const QString whole = window.list.List(0);
-    window.list.item(0)->setText(window.view.subItem(0));
-    window.grab();
-    QApplication::sendEvent(window.view.viewport(), &event);
-    QVERIFY(QToolTip::text().contains(u"xxx...<"_s));
-    window.list.item(0)->setText(whole);
-    // One tip holds a cut name and what is told of the row.
-    const QString name(40, u'W');
-    window.list.item(1)->setText(name);
-    const std::pair<int, QString> tips[] = {{0, u"told"_s}, {1, name + u"\ntold"_s}, {2, QString()}};
-    const auto ask = [&](int row) {
-      const QPoint place(10, window.listPlace(row).y());
-      QHelpEvent help(QEvent::ToolTip, place, window.list.viewport()->mapToGlobal(place));
-      QApplication::sendEvent(window.list.viewport(), &help);
-    };
-    for (const auto& [row, tip] : tips) {
-      if (row < 2) window.list.setRowToolTip(row, u"told"_s);
-      ask(row);
-      QTRY_COMPARE(QToolTip::text(), tip);
-    }
-    window.list.setRowToolTip(0, QString(20'000'000, u'y'));
-    ask(0);
-    QTRY_VERIFY(QToolTip::text().contains(u"yy..."));
   }
 
   void selectionIsGreyWithoutTheKeyboard() {
@@ -219,33 +246,6 @@ class ChoiceControlsTest : public QObject {
     QTest::mouseClick(popup.viewport(), Qt::LeftButton, {}, entry);
     QCOMPARE(window.comboClicks.size(), 1);
     QCOMPARE(window.comboClicks.first().first().value<Cause>(), Cause::User);
-  }
-
-  void wheelNeedsTheFocus() {
-    Window window;
-    window.combo.setCurrentIndex(1);
-    const auto turned = [&](QWidget& focused) {
-      focused.setFocus();
-      turnWheel(window.combo, -120);
-      turnWheel(window.bar, 120);
-      return QList<int>{window.combo.ListIndex(), window.bar.Value()};
-    };
-    QCOMPARE(turned(window.neighbour), (QList<int>{1, 5}));
-    QCOMPARE(turned(window.combo), (QList<int>{2, 5}));
-    QCOMPARE(turned(window.bar), (QList<int>{2, 6}));
-  }
-
-  void upRaisesTheNumber() {
-    Window window;
-    QTest::mouseClick(&window.bar, Qt::LeftButton, {}, {8, 3});
-    QTest::keyClick(&window.bar, Qt::Key_Up);
-    QCOMPARE(window.bar.Value(), 7);
-    QTest::mouseClick(&window.bar, Qt::LeftButton, {}, {8, 16});
-    QTest::keyClick(&window.bar, Qt::Key_Down);
-    QCOMPARE(window.bar.Value(), 5);
-    window.bar.setValueQuietly(32767);
-    QCOMPARE(window.bar.Value(), 10000);
-    QCOMPARE(window.changes.size(), 4);
   }
 };
 

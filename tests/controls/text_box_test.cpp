@@ -5,29 +5,19 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
+#include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
 
+#include "support/keys.h"
+#include "support/results.h"
+
 using controls::TextBox;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-const QString Digits = u"0123456789"_s;
-
-struct Window : QWidget {
-  Window() {
-    box.setGeometry(0, 0, 200, 19);
-    show();
-    activateWindow();
-    if (!QTest::qWaitForWindowActive(this)) qFatal("no active window");
-    box.setFocus();
-  }
-  TextBox box{this};
-  QSignalSpy changes{&box, &TextBox::Change};
-};
 
 void type(TextBox& box, const QString& text) {
   QTest::keyClicks(&box, text);
@@ -61,6 +51,56 @@ void commit(TextBox& box, const QString& text) {
   QApplication::sendEvent(&box, &event);
 }
 
+struct Window : QWidget {
+  Window() {
+    box.setGeometry(0, 0, 200, 19);
+    show();
+    activateWindow();
+    if (!QTest::qWaitForWindowActive(this)) qFatal("no active window");
+    box.setFocus();
+  }
+
+  /// A key, or a word and what belongs to it: "text 12", "select 0 2", "Ctrl+V".
+  void step(const QString& step) {
+    const QString what = step.section(u' ', 0, 0), with = step.section(u' ', 1);
+    const QMap<QString, void (*)(TextBox&, const QString&)> ways{
+        {u"type"_s, type}, {u"paste"_s, paste}, {u"drop"_s, drop}, {u"commit"_s, commit}};
+    if (ways.contains(what)) return ways[what](box, with);
+    if (what == u"text") return box.SetText(with);
+    if (what == u"caret") return box.setCursorPosition(with.toInt());
+    if (what == u"select") return box.setSelection(with.section(u' ', 0, 0).toInt(), with.section(u' ', 1).toInt());
+    if (what == u"letters") return box.setKeyFilter(with);
+    if (what == u"clipboard") return QGuiApplication::clipboard()->setText(with);
+    if (what == u"locked") return box.setReadOnly(true);
+    if (what == u"leave") return box.clearFocus();
+    if (what == u"menu") return menu(with);
+    support::pressKey(box, step);
+  }
+  /// Tells the entries of the menu, those in brackets that can't be taken, and takes one.
+  void menu(const QString& taken) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, box.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&box, &event);
+    auto& menu = *qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    for (QAction* entry : menu.actions()) {
+      const QString name = entry->isSeparator() ? u"-"_s : entry->text();
+      told += entry->isEnabled() || entry->isSeparator() ? name : u'(' + name + u')';
+      if (name == taken) entry->trigger();
+    }
+    menu.close();
+  }
+  QString stand() const {
+    QString text = box.Text();
+    const int from = box.selectionStart();
+    if (from >= 0) text.insert(box.selectionEnd(), u']').insert(from, u'[');
+    if (from < 0) text.insert(box.cursorPosition(), u'|');
+    return (QStringList{text, u"%1 changes"_s.arg(changes.size())} + told).join(u' ');
+  }
+
+  TextBox box{this};
+  QSignalSpy changes{&box, &TextBox::Change};
+  QStringList told;
+};
+
 }  // namespace
 
 class TextBoxTest : public QObject {
@@ -81,31 +121,16 @@ class TextBoxTest : public QObject {
     }
   }
 
-  void filterHoldsForEveryWayIn() {
-    for (const auto& way : {type, paste, pasteSelection, drop, commit}) {
-      const auto entered = [&](const QString& filter, const QString& text) {
-        Window window;
-        window.box.setKeyFilter(filter);
-        window.box.SetText(u"7"_s);
-        window.box.end(false);
-        way(window.box, text);
-        return window.box.Text();
-      };
-      QCOMPARE(entered(Digits, u"-1,2.5 x7"_s), u"71257"_s);
-      if (way != type) QCOMPARE(entered(QString(), u"a\r\nb\nc\rd"_s), u"7a b c d"_s);
-    }
-  }
-
-  void commandsPassTheFilter() {
-    Window window;
-    window.box.setKeyFilter(Digits);
-    window.box.SetText(u"-12"_s);
-    QTest::keyClick(&window.box, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(&window.box, Qt::Key_X, Qt::ControlModifier);
-    QTest::keyClick(&window.box, Qt::Key_7);
-    QTest::keyClick(&window.box, Qt::Key_Backspace);
-    QCOMPARE(window.box.Text(), QString());
-    QCOMPARE(QGuiApplication::clipboard()->text(), u"-12"_s);
+  /// What a box becomes of a user's steps, with "|" for the caret and "[" "]" round what is selected.
+  void steps() {
+    support::compareRows(u"steps.txt"_s, [](const QString& row) {
+      Window window;
+      QObject::connect(&window.box, &TextBox::enter, [&] { window.told += u"enter"_s; });
+      const QString given =
+          QString(row).replace(u"\\r"_s, u"\r"_s).replace(u"\\n"_s, u"\n"_s).replace(u"\\p"_s, QChar(0x2029));
+      for (const QString& step : given.split(u", "_s)) window.step(step);
+      return window.stand();
+    });
   }
 
   void theMenuGoesWithItsBox() {
@@ -115,22 +140,6 @@ class TextBoxTest : public QObject {
     QVERIFY(QApplication::activePopupWidget() != nullptr);
     window.reset();
     QVERIFY(QApplication::activePopupWidget() == nullptr);
-  }
-
-  void writtenTextKeepsThePlaceOfTyping() {
-    Window window;
-    const auto caretAfter = [&](const QString& before, int caret, const QString& written) {
-      window.box.SetText(before);
-      window.box.setCursorPosition(caret);
-      window.box.SetText(written);
-      return window.box.cursorPosition();
-    };
-    QCOMPARE(caretAfter(u"123"_s, 1, u"123"_s), 1);
-    QCOMPARE(window.changes.size(), 1);
-    QCOMPARE(caretAfter(u"0123"_s, 2, u"123"_s), 1);  // a zero dropped at the head
-    QCOMPARE(window.changes.size(), 3);
-    window.box.clearFocus();
-    QCOMPARE(caretAfter(u"123"_s, 3, u"4567"_s), 0);  // the beginning is in sight
   }
 };
 

@@ -1,53 +1,50 @@
 #include "progressbar/progress_bar.h"
 
 #include <QAccessible>
+#include <QPainter>
 #include <QTest>
 
+#include "controls/look.h"
 #include "mainwindows/main_window_progress_bar.h"
 #include "progressbar/gradients.h"
 #include "progressbar/stored_form.h"
 #include "propertybag/stored_bytes.h"
+#include "support/bags.h"
+#include "support/picture_results.h"
 
 using namespace progressbar;
 using propertybag::PropertyBag;
-
-namespace {
-
-PropertyBag bagOf(const std::vector<std::pair<const char*, QVariant>>& values) {
-  PropertyBag bag;
-  for (const auto& [key, value] : values) bag.WriteProperty(QString::fromLatin1(key), value, {});
-  return bag;
-}
-
-}  // namespace
+using support::bagOf;
+using namespace Qt::StringLiterals;
 
 class ProgressBarTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
+  void initTestCase() { controls::applyLook(*qApp); }
+
   void greyLevels() {
-    QCOMPARE(greyOf(0xFFFFFFU), 0xFFFFFFU);  // above the brightest
-    QCOMPARE(greyOf(0x4ACC3EU), 0x727272U);  // lower channels count in the higher ones
+    support::compareRows(u"greys.txt"_s, [](const QString& color) {
+      return u"%1"_s.arg(greyOf(color.toUInt(nullptr, 16)), 6, 16, QChar(u'0'));
+    });
   }
 
   // min, max and Value before and after a write, and what was told.
   void rangeRules() {
-    const auto after = [](int min, int max, int value, void (ProgressBar::*write)(int), int written) {
+    support::compareRows(u"ranges.txt"_s, [](const QString& row) {
+      const QStringList given = row.split(u' ');
+      const QMap<QString, void (ProgressBar::*)(int)> writes{{u"SetValue"_s, &ProgressBar::SetValue},
+                                                             {u"SetMax"_s, &ProgressBar::SetMax},
+                                                             {u"SetMin"_s, &ProgressBar::SetMin}};
       ProgressBar bar;
-      bar.SetMax(max);
-      bar.SetMin(min);
-      bar.SetValue(value);
+      bar.SetMax(given.at(1).toInt());
+      bar.SetMin(given.at(0).toInt());
+      bar.SetValue(given.at(2).toInt());
       QString told;
       connect(&bar, &ProgressBar::PropertyChanged, [&told](const QString& key) { told += u' ' + key; });
-      (bar.*write)(written);
-      return QStringLiteral("%1 %2 %3").arg(bar.min()).arg(bar.max()).arg(bar.Value()) + told;
-    };
-    QCOMPARE(after(0, 100, 50, &ProgressBar::SetValue, 150), QStringLiteral("0 100 100 Value"));
-    QCOMPARE(after(0, 100, 1, &ProgressBar::SetMax, 0), QStringLiteral("0 1 1 Max"));
-    QCOMPARE(after(20, 100, 20, &ProgressBar::SetMax, 10), QStringLiteral("20 21 20 Max"));
-    QCOMPARE(after(0, 100, 50, &ProgressBar::SetMax, 40), QStringLiteral("0 40 40 Value Max"));
-    QCOMPARE(after(0, 100, 50, &ProgressBar::SetMin, 200), QStringLiteral("99 100 99 Value Min"));
-    QCOMPARE(after(5, 100, 50, &ProgressBar::SetMin, -5), QStringLiteral("0 100 50 Min"));
+      (bar.*writes[given.at(3)])(given.at(4).toInt());
+      return u"%1 %2 %3"_s.arg(bar.min()).arg(bar.max()).arg(bar.Value()) + told;
+    });
   }
 
   // What is shown only for a moment isn't seen at all.
@@ -58,37 +55,54 @@ class ProgressBarTest : public QObject {
     QTRY_VERIFY(bar.updatesEnabled());
   }
 
-  // From the corners on; no step reaches the far ones.
+  // The place, the colours of the corners in the file's order, and the pixels from corner to corner of the sheet.
   void fourColours() {
-    drawing::Raster sheet(QSize(8, 8));
-    DrawGradientFourColour(sheet, 2, 3, 4, 4, 0, 0x0000F0, 0x00F000, 0xF0F000);
-    QCOMPARE(sheet.pixelRow(3)[2], qRgb(0, 0, 0));
-    QCOMPARE(sheet.pixelRow(4)[4], qRgb(90, 60, 30));
-    QCOMPARE(sheet.pixelRow(7)[4], qRgb(0, 0, 0));
+    support::compareRows(u"corners.txt"_s, [](const QString& row) {
+      QList<int> n;
+      for (const QString& number : row.split(u' ')) n += number.toInt(nullptr, n.size() < 4 ? 10 : 16);
+      drawing::Raster sheet(QSize(8, 8));
+      DrawGradientFourColour(sheet, n.at(0), n.at(1), n.at(2), n.at(3), n.at(4), n.at(5), n.at(6), n.at(7));
+      QStringList pixels;
+      for (int i = 0; i < 8; ++i) pixels += QColor(sheet.pixelRow(i)[i]).name().sliced(1);
+      return pixels.join(u' ');
+    });
+  }
+
+  // What a bag becomes when it is written again, and how such a bar looks.
+  void storedAndShown() {
+    constexpr int Columns = 8;
+    QImage sheet(Columns * 102, 12 * 32, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    QPainter painter(&sheet);
+    int cell = 0;
+    support::compareRows(u"stored.txt"_s, [&](const QString& row) {
+      ProgressBar bar;
+      bar.resize(100, 30);
+      readProperties(bar, bagOf(row));
+      painter.drawPixmap(cell % Columns * 102, cell / Columns * 32, bar.grab({0, 0, 100, 30}));
+      ++cell;
+      PropertyBag written;
+      writeProperties(bar, written);
+      return support::toldOf(written);
+    });
+    support::comparePicture(u"stored.png"_s, sheet);
   }
 
   void bags() {
     ProgressBar bar;
-    bar.setObjectName(QStringLiteral("ProgressBar1"));
-    bar.SetValue(3);
-    readProperties(bar, PropertyBag());  // gives the stored defaults
-    QCOMPARE(bar.Value(), 50);
-    QCOMPARE(bar.state().TextEffectColor, 0xC8C8C8U);
-    QCOMPARE(bar.state().Text, QStringLiteral("ProgressBar1"));
-    // The value is read behind its range, and a key that fails is passed over.
-    readProperties(bar, bagOf({{"value", 700}, {"MIN", 300}, {"Theme", QStringLiteral("blue")}, {"max", 900}}));
-    QCOMPARE((QList<int>{bar.min(), bar.max(), bar.Value()}), (QList<int>{300, 900, 700}));
+    bar.setObjectName(u"ProgressBar1"_s);
+    readProperties(bar, PropertyBag());
+    QCOMPARE(bar.state().Text, u"ProgressBar1"_s);
+    readProperties(bar, bagOf(u"value=700, MIN=300, max=900"_s));
     const QAccessibleValueInterface& seen = *QAccessible::queryAccessibleInterface(&bar)->valueInterface();
     QCOMPARE((QVariantList{seen.minimumValue(), seen.maximumValue(), seen.currentValue()}),
              (QVariantList{300, 900, 700}));
-    readProperties(bar, bagOf({{"Max", 3000000000U}, {"value", 7}}));
-    QCOMPARE(bar.Value(), 7);
   }
 
   // Colours come as negative numbers when they are the system's.
   void bytesGoRound() {
-    const QByteArray own = propertybag::storedBytes(bagOf(
-        {{"_extentx", 265}, {"_extenty", 529}, {"Text", QStringLiteral("bar")}, {"PBSCustomeColor2", -2147483633}}));
+    const QByteArray own =
+        propertybag::storedBytes(bagOf(u"_extentx=265, _extenty=529, Text=\"bar\", PBSCustomeColor2=-2147483633"_s));
     const struct {
       QByteArray stored;
       QSize size;

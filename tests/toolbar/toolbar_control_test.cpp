@@ -2,121 +2,15 @@
 
 #include "support/results.h"
 #include "toolbar/captions.h"
-#include "toolbar/control.h"
 #include "toolbar/layout.h"
-#include "toolbar/tool_bar_events.h"
+#include "toolbar/model.h"
 
-using toolbar::Control;
 using toolbar::Model;
-using toolbar::MouseArguments;
 using toolbar::Properties;
-using toolbar::SurfaceName;
 using toolbar::ToolbarButton;
-using toolbar::ToolBarEvents;
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Writes down what a control tells its client and asks of its windows.
-struct Record : toolbar::Windows {
-  Record() {
-    QObject::connect(&events, &ToolBarEvents::PropertyChanged, [this](const QString& name) { words += name; });
-    QObject::connect(&events, &ToolBarEvents::MouseEnter, [this] { note("Enter"); });
-    QObject::connect(&events, &ToolBarEvents::MouseLeave, [this] { note("Leave"); });
-    noteNumber(&ToolBarEvents::Hover, "Hover");
-    noteNumber(&ToolBarEvents::Click, "Click");
-    noteNumber(&ToolBarEvents::DblClick, "DblClick");
-    noteNumber(&ToolBarEvents::MouseUp, "Up");
-    noteNumber(&ToolBarEvents::MouseDown, "Down");
-    noteNumber(&ToolBarEvents::MouseMove, "Move");
-    QObject::connect(&events, &ToolBarEvents::MouseMove, [this](int, qint16 button) { lastButton = button; });
-  }
-  void note(const char* word) { words += QString::fromLatin1(word); }
-  void noteNumber(auto signal, const char* word) {
-    QObject::connect(&events, signal,
-                     [this, word](int number) { words += QString::fromLatin1(word) + QString::number(number); });
-  }
-
-  void SetHeight(int /*pixels*/) override {}
-  void present(SurfaceName /*surface*/) override {}
-  QRect controlOnScreen() const override { return {100, 200, width, 32}; }
-  void CreateChevronWindow() override {}
-  void movePopup(const QRect& onScreen) override { popup = onScreen; }
-  void resizePopup(const QSize& size) override { popup.setSize(size); }
-  void setPopupVisible(bool visible) override {
-    if (visible != popupVisible) note(visible ? "open" : "close");
-    popupVisible = visible;
-  }
-  bool isPopupVisible() const override { return popupVisible; }
-  void setHand(SurfaceName /*surface*/, bool isHand) override {
-    if (std::exchange(hand, isHand) != isHand) note(isHand ? "hand" : "arrow");
-  }
-  void SetTimer() override {}
-  void KillTimer() override {}
-  void StartLeaveTracking(SurfaceName /*surface*/) override {}
-  void ShowToolTip(const toolbar::ToolTip& tip) override {
-    words += QStringLiteral("tip|%1|%2|%3|%4").arg(tip.title, tip.Text).arg(tip.Icon).arg(tip.isBalloon);
-  }
-  void DestroyToolTip() override {}
-
-  ToolBarEvents events;
-  QStringList words;
-  QRect popup;
-  int width = 0;
-  qint16 lastButton = 0;
-  bool popupVisible = false;
-  bool hand = false;
-};
-
-/// Six buttons of 32 pixels in one row, the second disabled, the third a separator. In 149 pixels the last two hide.
-struct Strip {
-  explicit Strip(int width = 800) {
-    record.width = width;
-    control.UserControl_ReadProperties({});
-    control.resize(QSize(width, 32));
-    Model& model = control.buttons();
-    model.setValue(&Properties::ButtonsPerRow, 10);
-    model.setValue(&Properties::ShowChevron, true);
-    model.SetButton_Count(6);
-    model.SetButtonValue(2, toolbar::EnabledProperty, false);
-    model.SetButtonValue(3, toolbar::ButtonTypeProperty, 1);
-    model.pointAt(-1);
-    control.UserControl_Resize();
-    record.words.clear();
-  }
-
-  /// What is told of steps like "move 5 5, press, leave"; "popup 5 5" is a move over the popup.
-  QString run(const QString& steps) {
-    SurfaceName surface = SurfaceName::Main;
-    MouseArguments place;
-    const QMap<QString, std::function<void()>> known{
-        {QStringLiteral("press"), [&] { control.picDraw_MouseDown(surface, place); }},
-        {QStringLiteral("release"), [&] { control.picDraw_MouseUp(surface, place); }},
-        {QStringLiteral("click"), [&] { control.picDraw_Click(surface); }},
-        {QStringLiteral("double click"), [&] { control.picDraw_DblClick(surface); }},
-        {QStringLiteral("leave"), [&] { control.zSubclass_Proc(675); }},
-        {QStringLiteral("lose focus"), [&] { control.zSubclass_Proc(8); }},
-        {QStringLiteral("tick"), [&] { control.zSubclass_Proc(275); }},
-        {QStringLiteral("right"), [&] { control.stepByKey(1); }},
-    };
-    for (const QString& step : steps.split(QStringLiteral(", "))) {
-      if (known.contains(step)) {
-        known[step]();
-        continue;
-      }
-      const QStringList words = step.split(u' ');
-      const QPoint to(words.at(1).toInt(), words.at(2).toInt());
-      place = {0, 0, static_cast<float>(to.x()), static_cast<float>(to.y())};
-      surface = words[0] == u"popup" ? SurfaceName::Chevron : SurfaceName::Main;
-      surface == SurfaceName::Main ? control.picMain_MouseMove(place) : control.picChevron_MouseMove(place);
-      control.zSubclass_Proc(512, surface, to);
-    }
-    return record.words.join(u' ');
-  }
-
-  Record record;
-  Control control{record, record.events, {}};
-};
 
 /// Writes down what a model tells.
 struct Told : toolbar::ModelView {
@@ -148,6 +42,61 @@ struct Bar {
   Model model{told, QFont()};
 };
 
+/// The properties, as far as they are numbers.
+QStringList numbersOf(const Properties& values) {
+  QStringList all;
+  for (const toolbar::PropertyRow& row : toolbar::propertyRows()) {
+    const auto tell = [&](auto member) {
+      if constexpr (std::is_arithmetic_v<std::remove_cvref_t<decltype(values.*member)>>)
+        all += row.name.toString() + u'=' + QString::number(values.*member);
+    };
+    std::visit(tell, row.property);
+  }
+  return all;
+}
+
+/// Calls a method of the model, or sets a property, by its name, with numbers or a text.
+void change(Model& model, const QString& what, const QString& with) {
+  const QMap<QString, void (Model::*)(int)> methods{
+      {u"Button_Count"_s, &Model::SetButton_Count}, {u"Button_Index"_s, &Model::SetButton_Index},
+      {u"RemoveButton"_s, &Model::RemoveButton},    {u"ButtonRemove"_s, &Model::SetButtonRemove},
+      {u"ButtonMoveTo"_s, &Model::SetButtonMoveTo}, {u"ButtonInsertTo"_s, &Model::SetButtonInsertTo}};
+  const QMap<QString, void (Model::*)(int, int)> moves{{u"InsertButtonTo"_s, &Model::InsertButtonTo},
+                                                       {u"MoveButtonTo"_s, &Model::MoveButtonTo}};
+  if (methods.contains(what)) (model.*methods[what])(with.toInt());
+  if (what == u"value")
+    model.SetButtonValue(model.Button_Index(), with.section(u' ', 0, 0).toInt(), with.section(u' ', 1));
+  if (moves.contains(what)) (model.*moves[what])(with.section(u' ', 0, 0).toInt(), with.section(u' ', 1).toInt());
+  for (const toolbar::PropertyRow& row : toolbar::propertyRows()) {
+    const auto write = [&]<typename T>(T Properties::*member) { model.setValue(member, QVariant(with).value<T>()); };
+    if (what == row.name) std::visit(write, row.property);
+  }
+  for (const toolbar::ButtonField& field : toolbar::buttonFields())
+    if (what == field.property) model.setCurrentValue(field.id, with);
+}
+
+/// What a model tells of changes, and how it stands behind them. Given are its buttons, the current one, and the
+/// changes.
+QString changed(const QString& given) {
+  Bar bar(given.section(u' ', 0, 0));
+  Model& model = bar.model;
+  model.pointAt(given.section(u' ', 1, 1).toInt());
+  const QStringList before = numbersOf(model.values());
+  try {
+    for (const QString& step : given.section(u' ', 2).split(u", "_s))
+      change(model, step.section(u' ', 0, 0), step.section(u' ', 1));
+  } catch (const toolbar::RangeError& failure) {
+    bar.told.words += QString::number(toolbar::RangeError::Number) + failure.description();
+  }
+  QStringList after = numbersOf(model.values());
+  after.removeIf([&](const QString& value) { return before.contains(value); });
+  QStringList stand{bar.letters(), QString::number(model.Button_Index())};
+  for (const toolbar::ButtonField& field : toolbar::buttonFields()) stand += model.currentValue(field.id).toString();
+  if (const auto tip = model.toolTip())
+    stand += u"tip %1/%2/%3/%4"_s.arg(tip->Text, tip->title).arg(tip->Icon).arg(tip->isBalloon);
+  return (stand + bar.told.words + after).join(u' ').trimmed();
+}
+
 /// Of every button its corner, behind an h when it is hidden; the height, and the size of the popup. Given are the
 /// buttons, BorderStyle, ButtonsPerRow and the width.
 QString placesOf(const QStringList& given) {
@@ -155,6 +104,7 @@ QString placesOf(const QStringList& given) {
   bar.model.setValue(&Properties::BorderStyle, given.at(1).toShort());
   bar.model.setValue(&Properties::ButtonsPerRow, given.at(2).toInt());
   bar.model.setValue(&Properties::ShowChevron, true);
+  bar.model.setValue(&Properties::ButtonsPerRow_Chev, given.value(4, u"3"_s).toInt());
   toolbar::Layout layout;
   toolbar::layOutButtons(bar.model, given.at(3).toInt(), toolbar::Overflow::Hides, layout);
   const auto pair = [](int x, int y) { return QStringLiteral("%1,%2 ").arg(x).arg(y); };
@@ -173,33 +123,6 @@ class ControlTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void eventsInOrder() {
-    support::compareRows(u"events.txt"_s, [](const QString& steps) {
-      Strip strip(149);
-      strip.control.buttons().SetButtonValue(1, toolbar::ToolTipTextProperty, u"first"_s);
-      strip.control.buttons().SetButtonValue(1, toolbar::ToolTipIconProperty, 2);
-      strip.control.buttons().setValue(&Properties::TooTipStyle, 2);
-      strip.record.words.clear();
-      return strip.run(steps);
-    });
-  }
-
-  void popupHangsBelowTheControl() {
-    Strip strip(149);
-    strip.run(u"move 145 5, press"_s);
-    QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 68, 39));
-    strip.run(u"popup 5 5"_s);
-    QCOMPARE(strip.record.lastButton, static_cast<qint16>(999));
-    // While the pointer is back on the strip, the open popup takes the size of its new layout.
-    strip.run(u"move 40 5"_s);
-    strip.control.buttons().setValue(&Properties::ButtonsPerRow_Chev, 1);
-    QCOMPARE(strip.record.popup, QRect(249 - 68, 233, 36, 71));
-    strip.run(u"popup 5 5"_s);
-    // A layout moves the surface that is drawn on, and that one only.
-    strip.control.UserControl_Resize();
-    QCOMPARE(strip.record.popup, QRect(0, 0, 149, 32));
-  }
-
   /// Each letter is ten wide.
   void captionWrap() {
     support::compareRows(u"captions.txt"_s, [](const QString& row) {
@@ -210,59 +133,7 @@ class ControlTest : public QObject {
     });
   }
 
-  // From "abcd" with the second button current: letters, current button, what was told. After the range error all is
-  // as before.
-  void operations() {
-    const auto after = [](void (*run)(Model & model)) {
-      Bar bar(QStringLiteral("abcd"));
-      bar.model.pointAt(2);
-      QString error;
-      try {
-        run(bar.model);
-      } catch (const toolbar::RangeError& failure) {
-        error = QString::number(toolbar::RangeError::Number) + failure.description();
-      }
-      const QStringList state{bar.letters(), QString::number(bar.model.Button_Index())};
-      return (state + bar.told.words).join(u' ').append(error).toLatin1();
-    };
-    const QByteArray refused("abcd 233Index out or range!!");
-    QCOMPARE(after([](Model& m) { m.SetButton_Count(6); }), QByteArray("abcdBB 6 Button_Count L"));
-    QCOMPARE(after([](Model& m) { m.SetButton_Count(1); }), QByteArray("a 1 Button_Count L"));
-    QCOMPARE(after([](Model& m) { m.SetButton_Index(4); }), QByteArray("abcd 4 Button_Index R"));
-    QCOMPARE(after([](Model& m) { m.SetButton_Index(0); }), refused);
-    QCOMPARE(after([](Model& m) { m.RemoveButton(1); }), QByteArray("bcd 2 L"));
-    QCOMPARE(after([](Model& m) { m.RemoveButton(5); }), refused);
-    QCOMPARE(after([](Model& m) { m.InsertButtonTo(1, 3); }), QByteArray("bcad 2 L"));
-    QCOMPARE(after([](Model& m) { m.InsertButtonTo(1, 5); }), refused);
-    QCOMPARE(after([](Model& m) { m.MoveButtonTo(4, 1); }), QByteArray("dbca 2 L"));
-    QCOMPARE(after([](Model& m) { m.MoveButtonTo(0, 1); }), refused);
-    QCOMPARE(after([](Model& m) { m.SetButtonInsertTo(4); }), QByteArray("acdb 4 L R"));
-    QCOMPARE(after([](Model& m) { m.SetButtonMoveTo(4); }), QByteArray("adcb 4 L R"));
-    QCOMPARE(after([](Model& m) { m.SetButtonRemove(1); }), QByteArray("acd 2 L L"));
-    QCOMPARE(after([](Model& m) { m.setCurrentValue(toolbar::CaptionProperty, QLatin1String("x")); }),
-             QByteArray("axcd 2 ButtonCaption R"));
-    QCOMPARE(after([](Model& m) { m.setValue(&Properties::ButtonsMode, 2); }), QByteArray("abcd 2 ButtonsMode L"));
-    QCOMPARE(after([](Model& m) { m.setValue(&Properties::BackColor, 5U); }), QByteArray("abcd 2 BackColor B"));
-    const auto blank = [](Model& m) {
-      m.pointAt(0);  // no button
-      m.setCurrentValue(toolbar::CaptionProperty, m.currentValue(toolbar::EnabledProperty));
-      m.pointAt(3);
-      m.setCurrentValue(toolbar::CaptionProperty, m.currentValue(toolbar::CaptionProperty).toString().toUpper());
-    };
-    QCOMPARE(after(blank), QByteArray("abCd 3 ButtonCaption R"));
-  }
-
-  void looksOverwriteProperties() {
-    Bar bar(QStringLiteral("a"));
-    bar.model.setValue(&Properties::BackColor, 1U);
-    bar.model.setValue(&Properties::BackGradient, 4);
-    bar.model.setValue(&Properties::ButtonsMode, 6);
-    bar.model.setValue(&Properties::ButtonsMode, 4);
-    const Properties& values = bar.model.values();
-    QCOMPARE((QList<quint32>{values.BackColor, values.HoverColor, values.ButtonsBackColor, values.ButtonsGradientCol}),
-             (QList<quint32>{0x8000000F, 0xFF8080, 0x80000004, 0x8000000F}));
-    QCOMPARE(values.BackGradient, 0);
-  }
+  void operations() { support::compareRows(u"operations.txt"_s, changed); }
 
   void layout() {
     support::compareRows(u"places.txt"_s, [](const QString& row) { return placesOf(row.split(u' ')); });

@@ -1,51 +1,189 @@
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
-#include <QLineEdit>
-#include <QScreen>
-#include <QSignalSpy>
+#include <QPainter>
 #include <QTest>
 
 #include "controls/look.h"
 #include "mainwindows/commands.h"
 #include "mainwindows/main_window_tool_bar.h"
 #include "propertybag/stored_bytes.h"
-#include "support/mouse.h"
+#include "support/bags.h"
+#include "support/keys.h"
 #include "support/picture_results.h"
 #include "toolbar/mc_toolbar.h"
 #include "toolbar/tip_window.h"
 
 using toolbar::McToolBar;
-using toolbar::Properties;
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A form with four buttons, the third one disabled; in 80 pixels all but the first two hide.
-struct Form {
-  explicit Form(int width = 800) {
-    bar.UserControl_ReadProperties({});
-    bar.buttons().setValue(&Properties::ButtonsPerRow, 10);
-    bar.buttons().setValue(&Properties::ShowChevron, true);
-    bar.SetButton_Count(4);
-    bar.SetButtonValue(3, toolbar::EnabledProperty, false);
-    bar.buttons().pointAt(-1);
-    bar.move(0, 0);
-    bar.resize(width, 32);
-    form.resize(900, 200);
-    form.show();
-    form.activateWindow();
+/// A toolbar on a form, from a bag, and what all tell of a user's steps.
+class Session {
+ public:
+  explicit Session(const QString& bag, bool listens = false) {
+    const auto note = [this](auto signal, const char* word) {
+      QObject::connect(&bar_, signal, [this, word](auto... told) {
+        QString text = QLatin1StringView(word);
+        ((text += QString::number(told) + u','), ...);
+        words_ += sizeof...(told) == 0 ? text : text.chopped(1);
+      });
+    };
+    note(&McToolBar::MouseEnter, "Enter");
+    note(&McToolBar::MouseLeave, "Leave");
+    note(&McToolBar::Hover, "Hover");
+    note(&McToolBar::Click, "Click");
+    note(&McToolBar::DblClick, "DblClick");
+    note(&McToolBar::MouseUp, "Up");
+    note(&McToolBar::MouseDown, "Down");
+    note(&McToolBar::MouseMove, "Move");
+    hears_ = this;
+    if (listens) QAccessible::installFactory(makeEar);
+    isSound_ = bar_.UserControl_ReadProperties(propertybag::storedBytes(support::bagOf(bag)));
+    form_.resize(900, 200);
+    other_.setGeometry(800, 150, 50, 20);
+    other_.setFocusPolicy(Qt::StrongFocus);
+    form_.show();
+    form_.activateWindow();
+    if (!QTest::qWaitForWindowActive(&form_)) qFatal("no active window");
+    other_.setFocus();
+    shown();
   }
-  QWidget form;
-  McToolBar bar{toolbar::ambientOf(nullptr), &form};
-  QSignalSpy clicks{&bar, &McToolBar::Click};
-  QSignalSpy hovers{&bar, &McToolBar::Hover};
-  QSignalSpy leaves{&bar, &McToolBar::MouseLeave};
-};
+  ~Session() { QAccessible::removeFactory(makeEar); }
 
-QString numbers(const QSignalSpy& spy) {
-  QString text;
-  for (const QList<QVariant>& call : spy) text += call.first().toString();
-  return text;
-}
+  /// A key; the mouse, as in "move 5 5", "popup 5 5" (a move there) and what it does then: "press", "Ctrl+release
+  /// right"; or what comes to pass.
+  void step(const QString& step) {
+    const QMap<QString, std::function<void()>> known{
+        {u"leave"_s, [this] { send(QEvent::Leave); }},
+        {u"lose focus"_s, [this] { other_.setFocus(); }},
+        {u"tab in"_s, [this] { bar_.setFocus(Qt::TabFocusReason); }},
+        {u"click in"_s, [this] { bar_.setFocus(Qt::MouseFocusReason); }},
+        {u"hide"_s, [this] { form_.hide(); }},
+        {u"form moves"_s, [this] { form_.move(form_.pos() + QPoint(10, 10)); }},
+        {u"form grows"_s, [this] { form_.resize(901, 201); }},
+        {u"read"_s, [this] { read(); }},
+        {u"listen"_s, [] {}},
+        {u"tick"_s, [this] {
+           auto& ticks = *bar_.findChild<QTimer*>(u"TipTicks"_s);
+           QTimerEvent event(ticks.timerId());
+           if (ticks.isActive()) QApplication::sendEvent(&ticks, &event);
+         }}};
+    const QMap<QString, QEvent::Type> kinds{{u"move"_s, QEvent::MouseMove},
+                                            {u"popup"_s, QEvent::MouseMove},
+                                            {u"press"_s, QEvent::MouseButtonPress},
+                                            {u"release"_s, QEvent::MouseButtonRelease},
+                                            {u"double"_s, QEvent::MouseButtonDblClick}};
+    const QStringList words = step.split(u' ');
+    const QString what = words[0].section(u'+', -1);
+    if (known.contains(step)) {
+      known[step]();
+    } else if (what == u"act") {
+      if (QAccessibleInterface* button = reader().child(words.at(1).toInt()))
+        button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    } else if (kinds.contains(what)) {
+      if (words.size() > 2) place_ = QPointF(words[1].toInt(), words[2].toInt());
+      if (words.size() > 2) surface_ = what == u"popup" ? bar_.popupWindow() : &bar_;
+      const QMap<QString, Qt::MouseButton> buttons{{u"right"_s, Qt::RightButton}, {u"middle"_s, Qt::MiddleButton}};
+      const auto keys = QKeySequence(words[0].section(u'+', 0, -2) + u"+A"_s)[0].keyboardModifiers();
+      send(kinds[what], buttons.value(words.last(), Qt::LeftButton), words[0].contains(u'+') ? keys : Qt::NoModifier);
+    } else {
+      support::pressKey(*QApplication::focusWidget(), step);
+    }
+    shown();
+  }
+
+  /// Writes down what shows now, where that is another than before.
+  void shown() {
+    const QWidget& popup = *bar_.popupWindow();
+    const QPoint corner = popup.pos() - bar_.mapToGlobal(QPoint());
+    QStringList now{u"closed"_s, u"notip"_s};
+    if (popup.isVisible())
+      now[0] = u"open%1,%2,%3,%4"_s.arg(corner.x()).arg(corner.y()).arg(popup.width()).arg(popup.height());
+    for (const QWidget* window : bar_.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+      if (window != &popup && window->isVisible()) now[1] = u"tip"_s + window->accessibleName();
+    now += u"at%1"_s.arg(bar_.buttons().Button_Index());
+    now += bar_.hasFocus() ? u"focus"_s : u"nofocus"_s;
+    for (const QWidget* window : {static_cast<const QWidget*>(&bar_), &popup})
+      now += window->cursor().shape() == Qt::PointingHandCursor ? u"hand"_s : u"arrow"_s;
+    for (int i = 0; i < now.size(); ++i)
+      if (i < shown_.size() && now[i] != shown_[i]) words_ += now[i];
+    shown_ = now;
+  }
+  /// Writes down all that a screen reader reads.
+  void read() {
+    for (int i = 0; i < reader().childCount(); ++i) {
+      const QAccessibleInterface& button = *reader().child(i);
+      const QAccessible::State state = button.state();
+      const QRect place = button.rect().translated(-bar_.mapToGlobal(QPoint()));
+      QString text = u"%1/%2/%3,%4,%5,%6"_s.arg(button.text(QAccessible::Name), button.text(QAccessible::Description))
+                         .arg(place.x())
+                         .arg(place.y())
+                         .arg(place.width())
+                         .arg(place.height());
+      for (const auto& [is, word] : {std::pair<bool, const char*>(button.role() == QAccessible::Separator, "separator"),
+                                     {button.role() == QAccessible::ButtonMenu, "menu"},
+                                     {state.disabled, "disabled"},
+                                     {state.pressed, "pressed"},
+                                     {state.invisible, "hidden"},
+                                     {state.focusable, "reached"},
+                                     {state.focused, "focus"},
+                                     {reader().focusChild() == &button, "chosen"},
+                                     {reader().childAt(button.rect().x(), button.rect().y()) == &button, "found"}})
+        if (is) text += u'/' + QLatin1StringView(word);
+      words_ += text + u'/' + const_cast<QAccessibleInterface&>(button).actionInterface()->actionNames().join(u'+');
+    }
+  }
+  QAccessibleInterface& reader() { return *QAccessible::queryAccessibleInterface(&bar_); }
+  QString told() const { return words_.join(u' ').trimmed(); }
+  /// What it is when it is written again.
+  QString stored() const {
+    return (isSound_ ? QString() : u"refused "_s) +
+           support::toldOf(*propertybag::bagOfBytes(bar_.UserControl_WriteProperties()));
+  }
+  void paint(QPainter& painter) const {
+    const auto surface = [this](toolbar::SurfaceName name) { return bar_.inner().surfaceOf(name).raster().image(); };
+    painter.drawImage(0, 0, surface(toolbar::SurfaceName::Main), 0, 0, 160, 72);
+    painter.drawImage(0, 74, surface(toolbar::SurfaceName::Chevron), 0, 0, 160, 40);
+  }
+
+ private:
+  void send(QEvent::Type type, Qt::MouseButton button = Qt::LeftButton, Qt::KeyboardModifiers keys = {}) {
+    if (type == QEvent::Leave) {
+      QEvent leave(type);
+      QApplication::sendEvent(surface_, &leave);
+      return;
+    }
+    if (type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick) held_ |= button;
+    if (type == QEvent::MouseButtonRelease) held_ &= ~button;
+    QMouseEvent event(type, place_, surface_->mapToGlobal(place_), type == QEvent::MouseMove ? Qt::NoButton : button,
+                      held_, keys);
+    QApplication::sendEvent(surface_, &event);
+  }
+
+  /// In place of the bar's own interface: writes down which child is asked for, to tell of it.
+  struct Ear : QAccessibleWidget {
+    using QAccessibleWidget::QAccessibleWidget;
+    QAccessibleInterface* child(int index) const override {
+      hears_->words_ += u"heard%1"_s.arg(index);
+      return nullptr;
+    }
+  };
+  static QAccessibleInterface* makeEar(const QString& /*className*/, QObject* object) {
+    return object == &hears_->bar_ ? new Ear(&hears_->bar_) : nullptr;
+  }
+
+  static inline Session* hears_ = nullptr;
+  QWidget form_;
+  QWidget other_{&form_};
+  McToolBar bar_{toolbar::ambientOf(nullptr), &form_};
+  QWidget* surface_ = &bar_;
+  QPointF place_;
+  Qt::MouseButtons held_;
+  bool isSound_;
+  QStringList words_;
+  QStringList shown_;
+};
 
 }  // namespace
 
@@ -55,89 +193,33 @@ class WidgetTest : public QObject {
  private Q_SLOTS:
   void initTestCase() { controls::applyLook(*qApp); }
 
-  void valuesOfAButtonByNumber() {
-    McToolBar bar(toolbar::ambientOf(nullptr), nullptr);
-    bar.UserControl_ReadProperties({});
-    const QImage icon(6, 2, QImage::Format_RGB32);
-    const QVariant values[] = {1, QStringLiteral("Go"), false, icon.width(), 2, true, QStringLiteral("tip"), 3};
-    for (int number = 0; number < 8; ++number) {
-      bar.SetButtonValue(1, number, number == toolbar::IconProperty ? icon : values[number]);
-      const QVariant value = bar.GetButtonValue(1, number);
-      const auto picture = value.value<toolbar::PictureReference>();
-      QCOMPARE(picture ? picture->Width() : value, values[number]);
-    }
-    QVERIFY(!bar.GetButtonValue(1, 8).isValid());
+  void sessions() {
+    support::compareRows(u"sessions.txt"_s, [](const QString& row) {
+      Session session(
+          u"_extentx=3942, _extenty=847, Button_Count=6, ButtonsPerRow=10, ShowChevron=true, ButtonEnabled2=false, "
+          "Button_Type3=1, ButtonToolTipText1=\"first\", ButtonToolTipText4=\"fourth\", ButtonCaption4=\"\""_s,
+          row.startsWith(u"listen"));
+      for (const QString& step : row.split(u", "_s)) session.step(step);
+      return session.told();
+    });
   }
 
-  void doubleClickIsOneClickAndLeavingComesOnce() {
-    Form form;
-    const QSignalSpy doubles(&form.bar, &McToolBar::DblClick);
-    QTest::mouseClick(&form.bar, Qt::LeftButton, {}, {5, 5});
-    QTest::mouseDClick(&form.bar, Qt::LeftButton, {}, {5, 5});
-    QCOMPARE(numbers(form.clicks) + u' ' + numbers(doubles), QStringLiteral("1 1"));
-    // Leaving while the mouse is held.
-    QTest::mousePress(&form.bar, Qt::LeftButton, {}, {5, 5});
-    for (const int x : {-5, -6}) support::moveMouse(form.bar, {x, 5});
-    QTest::mouseRelease(&form.bar, Qt::LeftButton, {}, {-6, 5});
-    QCOMPARE(form.leaves.size(), 1);
-    QCOMPARE(form.bar.buttons().Button_Index(), -1);
-    QCOMPARE(form.clicks.size(), 1);
-  }
-
-  void popupLivesWithItsForm() {
-    for (const bool moved : {true, false}) {  // or the focus is lost
-      Form form(80);
-      QLineEdit other(&form.form);
-      other.show();
-      QVERIFY(QTest::qWaitForWindowActive(&form.form));
-      QTest::mousePress(&form.bar, Qt::LeftButton, {}, {75, 5});
-      QWidget& popup = *form.bar.popupWindow();
-      QVERIFY(popup.isVisible());
-      QCOMPARE(popup.geometry().topLeft(), form.bar.mapToGlobal(QPoint(80 - 68, 33)));
-      support::moveMouse(popup, {40, 5}, {});
-      support::comparePicture(QStringLiteral("popup.png"), popup.grab().toImage());
-      support::comparePicture(QStringLiteral("below the popup.png"), form.bar.grab().toImage());
-      QTest::mouseClick(&popup, Qt::LeftButton, {}, {5, 5});
-      QTest::mouseClick(&popup, Qt::LeftButton, {}, {40, 5});
-      QCOMPARE(numbers(form.clicks), QStringLiteral("4"));
-      QVERIFY(popup.isVisible());
-      if (moved) {
-        form.form.move(form.form.pos() + QPoint(10, 10));
-      } else {
-        other.setFocus();
-      }
-      QVERIFY2(QTest::qWaitFor([&popup] { return !popup.isVisible(); }), moved ? "moved" : "focus lost");
-    }
-  }
-
-  void keyboardAndScreenReader() {
-    Form form(80);
-    QVERIFY(QTest::qWaitForWindowActive(&form.form));
-    form.bar.SetButtonValue(2, toolbar::CaptionProperty, QString());
-    form.bar.SetButtonValue(2, toolbar::ToolTipTextProperty, QStringLiteral("Save"));
-    form.bar.clearFocus();
-    form.bar.setFocus(Qt::TabFocusReason);
-    QTest::keyClick(&form.bar, Qt::Key_Right);
-    QAccessibleInterface* const bar = QAccessible::queryAccessibleInterface(&form.bar);
-    QAccessibleInterface* const button = bar->child(1);
-    QCOMPARE(bar->focusChild(), button);
-    QCOMPARE(button->text(QAccessible::Name), QStringLiteral("Save"));
-    QVERIFY(bar->child(2)->state().disabled && bar->child(3)->state().invisible && !button->state().disabled);
-    QTest::keyClick(&form.bar, Qt::Key_Return);
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, {}, true);
-    QApplication::sendEvent(&form.bar, &held);
-    button->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    QTest::keyClick(&form.bar, Qt::Key_End);
-    QTest::keyClick(&form.bar, Qt::Key_Space);
-    QVERIFY(form.bar.popupWindow()->geometry().contains(bar->child(3)->rect()) && !bar->child(3)->state().invisible);
-    QCOMPARE(bar->childAt(button->rect().x(), button->rect().y()), button);
-    QTest::keyClick(&form.bar, Qt::Key_Space);
-    QTest::keyClick(&form.bar, Qt::Key_Escape);
-    QVERIFY(!form.bar.popupWindow()->isVisible());
-    for (const auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right}) QTest::keyClick(&form.bar, key);
-    QCOMPARE(numbers(form.hovers) + u' ' + numbers(form.clicks), QStringLiteral("12421 224"));
-    form.bar.clearFocus();
-    QCOMPARE(form.bar.buttons().Button_Index(), -1);
+  // What a bag becomes when it is written again, and how such a bar and its popup look.
+  void storedAndShown() {
+    constexpr int Columns = 6;
+    QImage sheet(Columns * 162, 13 * 116, QImage::Format_RGB32);
+    sheet.fill(Qt::white);
+    int cell = 0;
+    support::compareRows(u"stored.txt"_s, [&](const QString& row) {
+      Session session(row.section(u"; "_s, 0, 0));
+      for (const QString& step : row.section(u"; "_s, 1).split(u", "_s, Qt::SkipEmptyParts)) session.step(step);
+      QPainter painter(&sheet);
+      painter.translate(cell % Columns * 162, cell / Columns * 116);
+      session.paint(painter);
+      ++cell;
+      return session.stored();
+    });
+    support::comparePicture(u"stored.png"_s, sheet);
   }
 
   void mainWindowBarGoesRound() {
@@ -148,70 +230,48 @@ class WidgetTest : public QObject {
   }
 
   void tipsAreWindowsOfTheirOwn() {
-    Form form;
-    form.bar.SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("<b>first</b>"));
+    QWidget form;
+    McToolBar bar(&form);
+    bar.UserControl_ReadProperties({});
+    bar.SetButtonValue(1, toolbar::ToolTipTextProperty, QStringLiteral("<b>first</b>"));
     const auto tip = [] {
       for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible() && window->accessibleName() == QStringLiteral("<b>first</b>")) return window;
       }
       return static_cast<QWidget*>(nullptr);
     };
-    QVERIFY(QTest::qWaitForWindowActive(&form.form));
-    QTest::mouseMove(&form.bar, {5, 5});
+    form.show();
+    form.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&form));
+    QTest::mouseMove(&bar, {5, 5});
     QTRY_VERIFY(tip());
     QCOMPARE(tip()->grab().toImage().pixelColor(0, 0).alpha(), 0);  // a balloon needs no mask to have its shape
-    QTest::mouseMove(&form.bar, {6, 5});
+    QTest::mouseMove(&bar, {6, 5});
     QTRY_VERIFY(!tip());
     QTRY_VERIFY(tip());
-    form.form.hide();
+    form.hide();
     QVERIFY(!tip());
   }
 
-  void looksOfTips_data() {
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<int>("icon");
-    QTest::addColumn<bool>("balloon");
-    QTest::addColumn<QPoint>("pointer");
-    QTest::addRow("balloon") << QStringLiteral("A title") << 1 << true << QPoint(100, 100);
-    QTest::addRow("balloon above") << QString() << 0 << true << QPoint(780, 795);
-    QTest::addRow("rectangle") << QStringLiteral("Another & title") << 3 << false << QPoint(5, 100);
-    QTest::addRow("rectangle above") << QStringLiteral("A title") << 0 << false << QPoint(100, 795);
-    QTest::addRow("wide title")
-        << QStringLiteral("A title that is wider than any line of the text below it, which is wrapped at the width")
-        << 1 << false << QPoint(100, 100);
-  }
-
-  void looksOfTips() {
-    QFETCH(QString, title);
-    QFETCH(int, icon);
-    QFETCH(bool, balloon);
-    QFETCH(QPoint, pointer);
-    QWidget form;
-    const QString text = QStringLiteral(
-        "<b>words</b> in one line, or in two where there are more of them than fit into the width of a tip");
-    toolbar::TipWindow tip({text, title, icon, balloon, 0xE6FDFD, 0x800000}, &form);
-    tip.showAt(pointer);
-    support::comparePicture(QString::fromLatin1(QTest::currentDataTag()) + QStringLiteral(".png"),
-                            tip.grab().toImage());
-    const QPoint corner = tip.pos() - pointer;
-    QCOMPARE(corner.y() < 0, pointer.y() > 700);
-    QVERIFY(tip.screen()->availableGeometry().contains(tip.geometry()));
-  }
-
-  void damagedBagLeavesTheDefaults() {
-    const std::pair<const char*, QVariant> rows[] = {{"Button_Count", 0},
-                                                     {"Button_Count", 100000},
-                                                     {"ButtonsWidth", QStringLiteral("wide")},
-                                                     {"ButtonIcon1", 5},
-                                                     {"BorderStyle", 70000}};
-    for (const auto& [key, value] : rows) {
-      propertybag::PropertyBag bag;
-      bag.WriteProperty(QStringLiteral("ButtonsMode"), 5, {});
-      bag.WriteProperty(QString::fromLatin1(key), value, {});
-      McToolBar bar(toolbar::ambientOf(nullptr));
-      QVERIFY2(!bar.UserControl_ReadProperties(propertybag::storedBytes(bag)), key);
-      QVERIFY2(bar.buttons().values().ButtonsMode == 3 && bar.Button_Count() == 1, key);
-    }
+  // The kind of a tip, its icon, the mouse on a screen of 800 by 800, and the title: where the tip comes up, and its
+  // size.
+  void tips() {
+    QImage sheet(2 * 470, 6 * 90, QImage::Format_ARGB32);
+    sheet.fill(Qt::transparent);
+    int cell = 0;
+    support::compareRows(u"tips.txt"_s, [&](const QString& row) {
+      const QStringList given = row.section(u':', 0, 0).split(u' ');
+      QWidget form;
+      toolbar::TipWindow tip(
+          {u"<b>words</b> in one line, or in two where more of them come than fit into a tip's width"_s,
+           row.section(u':', 1).trimmed(), given.at(1).toInt(), given[0] == u"balloon", 0xE6FDFD, 0x800000},
+          &form);
+      tip.showAt({given.at(2).toInt(), given.at(3).toInt()});
+      QPainter(&sheet).drawPixmap(cell % 2 * 470, cell / 2 * 90, tip.grab());
+      ++cell;
+      return u"%1 %2, %3 %4"_s.arg(tip.x()).arg(tip.y()).arg(tip.width()).arg(tip.height());
+    });
+    support::comparePicture(u"tips.png"_s, sheet);
   }
 };
 
