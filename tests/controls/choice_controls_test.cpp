@@ -1,6 +1,7 @@
 #include <QAbstractItemView>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
+#include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
@@ -36,7 +37,7 @@ struct Window : QWidget {
     view.setColumns({u"Item"_s, u"Value"_s}, {63, 87});
     for (int i = 0; i < Rows; ++i) {
       list.AddItem(u"%1 row"_s.arg(QChar(u'O' - i / 2)));
-      view.addRow(list.List(i), u"<b>a long value</b> %1"_s.arg(i));
+      view.addRow(list.List(i), u" <b>a long value</b> %1"_s.arg(i));
     }
     for (const QString& entry : {u"Main"_s, u"Score"_s, u"Song"_s, u"score"_s}) combo.AddItem(entry);
     show();
@@ -209,6 +210,18 @@ class ChoiceControlsTest : public QObject {
     for (int i = 0; i < box.ListCount(); ++i) rows += box.List(i);
     QCOMPARE(rows.join(u' '), u"A a b B static1 Static10 Static2 _x"_s);
     QCOMPARE(box.ListIndex(), 2);
+  }
+
+  /// An entry may only tell something.
+  void keysReachDisabledEntries() {
+    QMenu menu;
+    menu.addAction(u"told"_s)->setEnabled(false);
+    menu.addAction(u"taken"_s);
+    menu.popup({});
+    for (const char* entry : {"told", "taken"}) {
+      QTest::keyClick(&menu, Qt::Key_Down);
+      QCOMPARE(menu.activeAction()->text(), QLatin1StringView(entry));
+    }
   }
 
   void swatches() {

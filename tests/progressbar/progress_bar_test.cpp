@@ -78,6 +78,7 @@ class ProgressBarTest : public QObject {
     support::compareRows(u"stored.txt"_s, [&](const QString& row) {
       ProgressBar bar;
       bar.resize(100, 30);
+      bar.setObjectName(u"name"_s);
       readProperties(bar, bagOf(row));
       painter.drawPixmap(cell % Columns * 102, cell / Columns * 32, bar.grab({0, 0, 100, 30}));
       ++cell;

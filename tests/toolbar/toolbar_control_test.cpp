@@ -139,6 +139,21 @@ class ControlTest : public QObject {
     support::compareRows(u"places.txt"_s, [](const QString& row) { return placesOf(row.split(u' ')); });
   }
 
+  // A picture made from pixels, an icon with a clear one: its file, and what is read from that.
+  void storedPictures() {
+    support::compareRows(u"pictures.txt"_s, [](const QString& row) {
+      const QStringList given = row.split(u' ');
+      QImage image(given.at(1).toInt(), given.at(2).toInt(), QImage::Format_ARGB32);
+      image.fill(qRgb(10, 20, 30));
+      if (given[0] == u"icon") image.setPixel(0, 0, 0);
+      const toolbar::PictureReference picture = toolbar::pictureOfImage(image);
+      const QByteArray file = toolbar::fileOf(*picture);
+      const toolbar::PictureReference again = toolbar::pictureOfFile(file);
+      return u"%1, %2 as %3"_s.arg(support::rowOf(file.first(3))).arg(picture->Type).arg(again->Type) +
+             QLatin1StringView(again->pixels == picture->pixels && again->mask == picture->mask ? "" : " another");
+    });
+  }
+
   void hits() {
     support::compareRows(u"hits.txt"_s, [](const QString& row) {
       const QStringList given = row.split(u' ');

@@ -64,6 +64,8 @@ class Session {
         {u"form grows"_s, [this] { form_.resize(901, 201); }},
         {u"read"_s, [this] { read(); }},
         {u"listen"_s, [] {}},
+        {u"wider"_s, [this] { bar_.resize(bar_.width() + 32, bar_.height()); }},
+        {u"one in a row"_s, [this] { bar_.buttons().setValue(&toolbar::Properties::ButtonsPerRow_Chev, 1); }},
         {u"tick"_s, [this] {
            auto& ticks = *bar_.findChild<QTimer*>(u"TipTicks"_s);
            QTimerEvent event(ticks.timerId());
