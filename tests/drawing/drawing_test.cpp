@@ -1,13 +1,15 @@
-#include <QFontInfo>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QTest>
 
 #include "drawing/fonts.h"
+#include "drawing/icons.h"
 #include "drawing/ramps.h"
 #include "drawing/raster_pictures.h"
 #include "drawing/raster_text.h"
 #include "drawing/surface.h"
 #include "support/pictures.h"
+#include "support/results.h"
 
 using namespace drawing;
 using namespace support;
@@ -19,13 +21,58 @@ constexpr QRgb Ground = qRgb(255, 255, 255);
 constexpr QRgb Edge = qRgb(10, 20, 30);
 constexpr QRgb Inside = qRgb(200, 150, 100);
 
-/// # edge, o inside, . untouched.
-QByteArrayList letters(const Raster& raster) {
-  return lettersOf(raster.image(), {{Ground, '.'}, {Edge, '#'}, {Inside, 'o'}});
+/// A picture of three by two: seen, half seen and unseen pixels.
+const QImage Tile = pictureOf(3, 2, [](int x, int y) {
+  return qRgba(0x30 + 0x22 * x + 0x40 * y, 90 * x, 200 - 99 * y, std::array{255, 127, 0, 255, 128, 255}.at(x + 3 * y));
+});
+
+const PixelRows Bits = GetDIBits(Tile);
+using Mode = RasterOperation;
+constexpr QRgb From = qRgb(10, 241, 99), To = qRgb(251, 20, 99);
+
+/// The raster's routines, by the names that rows call them, with their numbers.
+using Numbers = QList<int>;
+const QHash<QString, void (*)(Raster& to, const Numbers& n)> Routines{
+    {u"line"_s, [](Raster& to, const Numbers& n) { to.Line(n[0], n[1], n[2], n[3], Edge); }},
+    {u"fill"_s, [](Raster& to, const Numbers& n) { to.FillRect(n[0], n[1], n[2], n[3], Inside); }},
+    {u"outline"_s, [](Raster& to, const Numbers& n) { to.Rectangle(n[0], n[1], n[2], n[3], Edge); }},
+    {u"box"_s, [](Raster& to, const Numbers& n) { to.RoundRect(n[0], n[1], n[2], n[3], n[4], Edge, Inside); }},
+    {u"clip"_s, [](Raster& to, const Numbers& n) { to.clipToRoundRect(n[0], n[1], n[2], n[3], n[4]); }},
+    {u"tile"_s, [](Raster& to, const Numbers& n) { tileRect(to, n[0], n[1], n[2], n[3], Tile); }},
+    {u"paint"_s, [](Raster& to, const Numbers& n) { PaintPicture(to, Tile, n[0], n[1]); }},
+    {u"scale"_s, [](Raster& to, const Numbers& n) { PaintPicture(to, Tile, n[0], n[1], n[2], n[3]); }},
+    {u"shape"_s, [](Raster& to, const Numbers& n) { paintSilhouette(to, Tile, n[0], n[1], Edge); }},
+    {u"bits"_s, [](Raster& to, const Numbers& n) { StretchDIBits(to, n[0], n[1], n[2], n[3], Bits, Mode(n[4])); }},
+    {u"gradient"_s,
+     [](Raster& to, const Numbers& n) { GradientFill(to, n[0], n[1], n[2], n[3], From, To, Direction(n[4])); }},
+    {u"ramp"_s, [](Raster& to, const Numbers& n) { PaintRamp(to, n[0], n[1], n[2], n[3], From, To, n[4]); }},
+};
+
+QString sumOf(const QImage& image) {
+  return u'#' + QString::number(qChecksum({image.constBits(), image.sizeInBytes()}), 16);
 }
 
-QImage picture(const QList<QRgb>& pixels, int width) {
-  return pictureOf(width, static_cast<int>(pixels.size()) / width, [&](int x, int y) { return pixels[y * width + x]; });
+QString told(const QRect& box) {
+  return u" %1,%2,%3,%4"_s.arg(box.x()).arg(box.y()).arg(box.width()).arg(box.height());
+}
+
+/// The pixels row by row: "." the ground, "-" a clear one, else the red in sixteenths. Then the sum of all bits.
+QString told(const QImage& image) {
+  QString rows;
+  for (int i = 0; i < image.width() * image.height(); ++i) {
+    const QRgb pixel = image.pixel(i % image.width(), i / image.width());
+    if (i % image.width() == 0 && i > 0) rows += u'/';
+    rows += pixel == Ground ? u"."_s : qAlpha(pixel) == 0 ? u"-"_s : QString::number(qRed(pixel) / 16, 16);
+  }
+  return rows + sumOf(image);
+}
+
+/// An icon's picture and mask, and of how many cuts of its file there is one.
+QString iconOf(const QByteArray& file) {
+  const auto icon = readIcon(file);
+  int cuts = 0;
+  for (qsizetype size = 0; size < file.size(); ++size) cuts += readIcon(file.first(size)) ? 1 : 0;
+  return (icon ? told(icon->Color) + u' ' + told(icon->mask) : u"none"_s) + u", %1"_s.arg(cuts);
 }
 
 /// A white surface that nothing has been drawn on.
@@ -42,33 +89,37 @@ class DrawingTest : public QObject {
   Q_OBJECT
 
  private Q_SLOTS:
-  void shortRamps() {
-    const QRgb from = qRgb(10, 20, 30), to = qRgb(30, 40, 50);
-    Raster raster(QSize(2, 2), Ground);
-    PaintRamp(raster, 0, 0, 2, 1, from, to, 1);
-    PaintRamp(raster, 0, 1, 1, 1, from, to, 1);  // the middle of both
-    QVERIFY(raster.image().pixel(0, 0) == from && raster.image().pixel(1, 0) == to);
-    QCOMPARE(raster.image().pixel(0, 1), qRgb(20, 30, 40));
+  /// Routines one after the other on a raster of 12 x 7.
+  void shapes() {
+    compareRows(u"shapes.txt"_s, [](const QString& row) {
+      Raster raster(QSize(12, 7), Ground);
+      for (const QString& step : row.split(u", "_s)) {
+        Numbers numbers;
+        for (const QString& number : step.split(u' ').sliced(1)) numbers += number.toInt();
+        Routines[step.section(u' ', 0, 0)](raster, numbers);
+      }
+      return told(raster.image());
+    });
+    QCOMPARE(Bits.bytes.toHex(), "650070655a9265b4b4000000c80030c85a52000000000000");
   }
 
-  void pixelRowsKeepTheirBytes() {
-    const QImage bitmap = picture({qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(7, 8, 9), qRgba(9, 9, 9, 0)}, 2);
-    QCOMPARE(GetDIBits(bitmap).bytes, QByteArray("\x09\x08\x07\0\0\0\0\0\x03\x02\x01\x06\x05\x04\0\0", 16));
-    Raster raster(QSize(6, 4), qRgb(8, 8, 8));
-    StretchDIBits(raster, -1, 0, 4, 4, GetDIBits(bitmap));
-    const QList<QRgb> expected = {qRgb(1, 2, 3), qRgb(4, 5, 6), qRgb(4, 5, 6), qRgb(8, 8, 8)};
-    for (int x = 0; x < 4; ++x) QCOMPARE(raster.image().pixel(x, 1), expected[x]);
-  }
-
-  void shapesOfPictures() {
-    const QImage half = picture({qRgba(0, 0, 0, 255), qRgba(0, 0, 0, 128), qRgba(0, 0, 0, 0)}, 3);
-    Raster raster(QSize(5, 3), Ground);
-    paintSilhouette(raster, half, 3, 1, Edge);
-    paintSilhouette(raster, half.convertToFormat(QImage::Format_RGB32), 0, 1, Inside);
-    tileRect(raster, 1, 2, 4, 3, picture({Edge, Inside}, 2));
-    PaintPicture(raster, picture({Inside}, 1), 0, 0, 2, 1);
-    raster.Line(2, 0, 4, 2, Edge);  // without its end
-    QCOMPARE(letters(raster), (QByteArrayList{"oo#..", "ooo##", ".#o#."}));
+  /// The rows of a picture: a letter is a pixel of that colour, ".", "h" and "s" one that is clear, half clear and just
+  /// seen. The bytes of its icon, ".." being very many zeros, and what is read of it again.
+  void writtenIcons() {
+    compareRows(u"icons.txt"_s, [](const QString& row) {
+      const QStringList rows = row.split(u'/');
+      const auto colorAt = [&](int x, int y) {
+        const ushort letter = rows[y][x].unicode();
+        return letter == '.' ? 0
+                             : QRgb(letter) << 4 | (letter == 'h'   ? 0x7F000000
+                                                    : letter == 's' ? 0x80000000
+                                                                    : 0xFF000000);
+      };
+      const auto file = writeIcon(pictureOf(int(rows[0].size()), int(rows.size()), colorAt));
+      if (!file) return u"none"_s;
+      return QString::fromLatin1(file->toHex()).replace(QRegularExpression(u"(00){64,}"_s), u".."_s) + u' ' +
+             iconOf(*file);
+    });
   }
 
   /// A control's pixels are squares at whole scale factors, and smoothed at others.
@@ -85,16 +136,26 @@ class DrawingTest : public QObject {
     }
   }
 
-  void textStandsInItsRectangle() {
-    const QFont font(QStringLiteral("Liberation Sans"), 9);
-    const QString text = QStringLiteral("Hog");
-    Raster drawn(QSize(300, 40), Ground);
-    drawText(drawn, font, text, QRect(20, 10, 200 + TextWidth(font, text), 8), Edge);
-    Raster printed(QSize(300, 40), Ground);
-    Print(printed, font, text, 120, 10, Edge);
-    QVERIFY(printed.image() != drawn.image());  // it is cut at the lower edge
-    printed.FillRect(0, 18, 300, 40, Ground);
-    QCOMPARE(drawn.image(), printed.image());
+  /// "family|size x y width height|text", a size in pixels being negative: how wide and high the text is, and where its
+  /// ink is, with a sum of all bits: printed at the place, drawn in the rectangle, and printed on the surface there.
+  void texts() {
+    compareRows(u"texts.txt"_s, [](const QString& row) {
+      const QStringList parts = row.split(u'|');
+      QList<double> n;
+      for (const QString& number : parts[1].split(u' ')) n += number.toDouble();
+      QFont font = drawnFont(QFont(parts[0]));
+      n[0] < 0 ? font.setPixelSize(int(-n[0])) : font.setPointSizeF(n[0]);
+      Raster printed(QSize(120, 40), Ground), drawn(QSize(120, 40), Ground);
+      Print(printed, font, parts[2], int(n[1]), int(n[2]), Edge);
+      drawText(drawn, font, parts[2], QRectF(n[1], n[2], n[3], n[4]).toRect(), Edge);
+      Sheet sheet;
+      sheet.setPen({float(n[1]), float(n[2]), QColor(Edge), parts[0], float(n[0])});
+      sheet.Print(parts[2]);
+      QString all = u"%1x%2"_s.arg(TextWidth(font, parts[2])).arg(TextHeight(font));
+      for (const QImage& image : {printed.image(), drawn.image(), sheet.image()})
+        all += told(inkOf(image)) + sumOf(image);
+      return all + u" %1x%2"_s.arg(sheet.TextWidth(parts[2])).arg(sheet.TextHeight(parts[2])) + told(sheet.takeDirty());
+    });
   }
 
   void stretchedPicturesHaveCleanEdges() {
@@ -143,30 +204,15 @@ class DrawingTest : public QObject {
     framed.takeDirty();
     framed.drawFrame(last, [&] { draw(framed, 22); });
     QVERIFY(framed.takeDirty().isNull());
+    // A frame of more pictures than it may hold is drawn at once.
+    for (int i = 0; i < 2; ++i) {
+      framed.drawFrame(last, [&] {
+        for (int picture = 0; picture < 80; ++picture) framed.drawImage(ground, 0, 0);
+      });
+      QCOMPARE(framed.takeDirty(), framed.image().rect());
+    }
     framed.putBack(QImage(framed.image()));
     QCOMPARE(framed.takeDirty(), framed.image().rect());
-  }
-
-  void sizesInWholePixels() {
-    Surface surface;
-    const auto widthAt = [&](float points) {
-      surface.SetFontSize(points);
-      return surface.TextWidth(u"wide words"_s);
-    };
-    QCOMPARE(widthAt(14), widthAt(14.25F));  // 18.67 and 19 pixels
-    QVERIFY(widthAt(13.5F) < widthAt(14));
-  }
-
-  void facesOfTheTexts() {
-    const auto stands = [](const QString& family, const QString& face, bool black = false) {
-      const QFontInfo info(faceFont(face));
-      const bool machineHasIt = info.family().compare(face, Qt::CaseInsensitive) == 0;
-      return machineHasIt || (info.family() == family && (info.weight() >= QFont::Black) == black);
-    };
-    QVERIFY(stands(u"DejaVu Sans"_s, u"Eurostar Regular Extended"_s));
-    QVERIFY(stands(u"Lato"_s, u"Eurostar Black"_s, true));
-    QVERIFY(stands(u"Liberation Sans"_s, u"No such face at all"_s));
-    QCOMPARE(drawnFont(QFont(u"Liberation Sans"_s, 9, QFont::Bold)).weight(), QFont::Bold);
   }
 };
 

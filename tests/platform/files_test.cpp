@@ -8,6 +8,7 @@
 
 #include "platform/failure.h"
 #include "support/panel.h"
+#include "support/results.h"
 
 using namespace platform;
 using namespace Qt::StringLiterals;
@@ -58,11 +59,27 @@ class FilesTest : public QObject {
     QVERIFY(!runGuarded([this] { readFile(at(u"Missing.ini"_s)); }));
     QVERIFY(panel.texts.first().startsWith(u"Error while reading Theme [Missing.ini: "_s));
     QVERIFY(!runGuarded([] { throw std::bad_alloc(); }));
-    const ReportScope scope(panel);
-    panel.ShowStatus(u"over"_s);
-    panel.withdraw(u"over"_s);
-    panel.note(u"note"_s);
-    QCOMPARE(panel.texts.last(), u"note"_s);
+  }
+
+  /// What is told to the status line, "{" and "}" being operations: what it shows, one behind the other.
+  void reports() {
+    support::compareRows(u"reports.txt"_s, [](const QString& row) {
+      support::Panel panel;
+      std::vector<std::unique_ptr<ReportScope>> scopes;
+      for (const QString& step : row.split(u", "_s)) {
+        const QString text = step.section(u' ', 1);
+        if (step == u'{') scopes.push_back(std::make_unique<ReportScope>(panel));
+        if (step == u'}') scopes.pop_back();
+        if (step == u"anew") panel.startAnew();
+        if (step.startsWith(u"show")) panel.ShowStatus(text);
+        if (step.startsWith(u"done")) panel.showDone(text);
+        if (step.startsWith(u"note")) panel.note(text);
+        if (step.startsWith(u"withdraw")) panel.withdraw(text);
+        if (step.startsWith(u"success")) scopes.back()->success(text);
+        if (step.startsWith(u"fail")) guarded(panel, text, [] { throw Failure(u"why"_s); });
+      }
+      return panel.texts.join(u" | "_s);
+    });
   }
 
  private:

@@ -11,8 +11,10 @@
 #include "drawing/pictures.h"
 #include "platform/code_page.h"
 #include "platform/failure.h"
+#include "platform/file_names.h"
 #include "platform/files.h"
 #include "support/panel.h"
+#include "support/results.h"
 
 using namespace platform;
 
@@ -242,6 +244,15 @@ class FilesUnixTest : public QObject {
     QVERIFY(readFile(at(listed)) == "new" && ::unlink(old) == 0);
   }
 
+  void encodedNames() {
+    support::compareRows(u"names.txt"_s, [](const QString& bytes) {
+      const QString name = decodedName(QByteArray::fromHex(bytes.toLatin1()));
+      QString told;
+      for (const QChar letter : name) told += QString::number(letter.unicode(), 16) + u' ';
+      return told + QString::fromLatin1(encodedName(name).toHex());
+    });
+  }
+
   void nativePaths() {
     for (const QString& sub : {u"Themes/skins"_s, u"Twins"_s}) QDir().mkpath(folder_->native(sub));
     for (const QString& file :
@@ -249,14 +260,9 @@ class FilesUnixTest : public QObject {
       folder_->put(file, {});
     }
     const QString root = folder_->native(u"."_s).chopped(2);
-    // A path, and what it is on the disk; of twins the exact name is found first, else the first in byte order.
-    for (const char* row : {"\\\\Themes\\/\\skins\\\\ /Themes/skins/", "\\THEMES\\SKINS\\A.PNG /Themes/skins/a.png",
-                            "\\themes\\New.ini /Themes/New.ini", "\\Nowhere\\Themes\\blue.ini /Nowhere/Themes/blue.ini",
-                            "\\Themes\\..\\themes\\blue.ini /Themes/../Themes/Blue.INI",
-                            "\\twins\\Case.ini /Twins/Case.ini", "\\twins\\cAsE.ini /Twins/CASE.ini"}) {
-      const QStringList paths = QString::fromLatin1(row).split(u' ');
-      QCOMPARE(nativePath(programPath(root) + paths[0]), root + paths[1]);
-    }
+    support::compareRows(u"paths.txt"_s, [&](const QString& path) {
+      return nativePath(programPath(root) + path).replace(root, u"..."_s);
+    });
     QFile::link(folder_->native(u"Themes"_s), folder_->native(u"link"_s));
     QVERIFY(sameFolder(root + u"\\Themes"_s, root + u"\\THEMES\\\\"_s));
     QVERIFY(sameFolder(root + u"\\link"_s, root + u"\\Twins\\..\\Themes"_s));

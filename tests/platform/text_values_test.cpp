@@ -3,6 +3,7 @@
 #include <QTest>
 
 #include "platform/code_page.h"
+#include "platform/console.h"
 #include "platform/numbers.h"
 #include "support/results.h"
 
@@ -39,8 +40,9 @@ class TextValuesTest : public QObject {
   }
 
   void numberOfText() {
-    support::compareRows(u"numbers_of_texts.txt"_s,
-                         [](const QString& text) { return QString::number(numberOf(text), 'g', 17); });
+    support::compareRows(u"numbers_of_texts.txt"_s, [](const QString& text) {
+      return QString::number(numberOf(text), 'g', 17) + (isNumber(text) ? u""_s : u" (no number)"_s);
+    });
     QCOMPARE(numberOf(u'-' + QString(400, u'9')), -std::numeric_limits<double>::infinity());
   }
 
@@ -54,6 +56,15 @@ class TextValuesTest : public QObject {
   void textOfNumber() {
     support::compareRows(u"texts_of_numbers.txt"_s,
                          [](const QString& number) { return numberText(number.toDouble()); });
+  }
+
+  void oneLine() {
+    support::compareRows(u"one_line.txt"_s, [](const QString& row) {
+      QString text, told;
+      for (const QString& letter : row.split(u' ')) text += QChar(letter.toUShort(nullptr, 16));
+      for (const QChar letter : onOneLine(text)) told += u' ' + QString::number(letter.unicode(), 16);
+      return told.mid(1);
+    });
   }
 
   void blanks() {

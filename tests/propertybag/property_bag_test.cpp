@@ -2,7 +2,6 @@
 #include <QFont>
 #include <QTest>
 
-#include "drawing/icons.h"
 #include "platform/failure.h"
 #include "propertybag/stored_bytes.h"
 #include "propertybag/stored_values.h"
@@ -96,20 +95,6 @@ class PropertyBagTest : public QObject {
       bag.WriteProperty(key, value, {});
       QVERIFY_THROWS_EXCEPTION(platform::Failure, storedBytes(bag));
     }
-  }
-
-  void iconsGoRound() {
-    QImage picture(16, 16, QImage::Format_ARGB32);
-    for (int i = 0; i < 256; ++i) picture.setPixel(i % 16, i / 16, qRgba(i, 255 - i, i / 2, i % 3 == 0 ? 127 : 128));
-    const auto file = drawing::writeIcon(picture);
-    QCOMPARE(file->size(), 1406);
-    const auto icon = drawing::readIcon(*file);
-    for (int i = 0; i < 256; ++i) {
-      const bool isClear = i % 3 == 0;
-      QCOMPARE(icon->mask.pixel(i % 16, i / 16), isClear ? 0xFFFFFFFFU : 0xFF000000U);
-      QCOMPARE(icon->Color.pixel(i % 16, i / 16), isClear ? 0xFF000000U : qRgb(i, 255 - i, i / 2));
-    }
-    for (qsizetype i = 0; i < file->size(); ++i) QVERIFY(!drawing::readIcon(file->first(i)));
   }
 
   // Bytes of an icon, and the pixels that are read from them.

@@ -95,6 +95,8 @@ class TrialDrawingTest : public QObject {
     QVERIFY(std::equal(account.objects.begin(), account.objects.end(), stage.account.objects.begin(),
                        stage.account.objects.end(),
                        [](const auto& a, const auto& b) { return a.section == b.section && a.place == b.place; }));
+    QVERIFY(QFile::remove(stage.folder.native(u"theme.ini"_s)));  // however short a time ago it was written
+    QVERIFY(renderer::drawTrial(stage.context(), {}, files).objects.empty());
   }
 
 #ifdef Q_OS_UNIX

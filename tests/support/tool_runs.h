@@ -3,6 +3,7 @@
 #include <QCryptographicHash>
 #include <QDirIterator>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTest>
 
 #include "platform/files.h"
@@ -15,9 +16,10 @@ namespace support {
 
 struct ToolRun {
   QByteArray output, errors;
+  int status = 0;
 };
 
-/// Runs the program, as on a machine without a display, to its end with the status; gives what it tells.
+/// Runs the program, as on a machine without a display, to its end with the status, -1 for any; gives what it tells.
 inline ToolRun runTool(const QString& program, int status, const QStringList& arguments,
                        const QStringList& variables = {}) {
   using namespace Qt::StringLiterals;
@@ -30,9 +32,18 @@ inline ToolRun runTool(const QString& program, int status, const QStringList& ar
   tool.setProcessEnvironment(environment);
   tool.start(program, arguments);
   const bool ended = tool.waitForFinished(240'000) && tool.exitStatus() == QProcess::NormalExit;
-  const ToolRun run{tool.readAllStandardOutput(), tool.readAllStandardError()};
-  if (!ended || tool.exitCode() != status) QTest::qFail(run.errors, __FILE__, __LINE__);
+  const ToolRun run{tool.readAllStandardOutput(), tool.readAllStandardError(), tool.exitCode()};
+  if (!ended || (status >= 0 && run.status != status)) QTest::qFail(run.errors, __FILE__, __LINE__);
   return run;
+}
+
+/// What a run tells in short: its status, the last line of its output and the first of its errors, without the system's
+/// own words. The first place is called "SAMPLE", the others "GAME".
+inline QString shortly(const ToolRun& run, const QStringList& places) {
+  const QString output = QString::fromUtf8(run.output).trimmed().section(u'\n', -1);
+  QString told = u"%1 %2 | %3"_s.arg(run.status).arg(output, QString::fromUtf8(run.errors).section(u'\n', 0, 0));
+  for (const QString& place : places) told.replace(place, place == places[0] ? u"SAMPLE"_s : u"GAME"_s);
+  return told.section(u" ["_s, 0, 0).replace(QRegularExpression(u" 0[.]\\S+"_s), u" VERSION"_s);
 }
 
 /// Names, times and bytes of all that lies in the folder.
