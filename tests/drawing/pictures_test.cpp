@@ -44,7 +44,6 @@ class PicturesTest : public QObject {
       QVERIFY(onlyWhole(jpeg, QByteArray::fromHex("FFD9")));
     }
     QVERIFY(onlyWhole(encoded(sample(QImage::Format_RGB32), "bmp")));
-    QVERIFY(onlyWhole(encoded(sample(QImage::Format_Mono), "bmp")));
   }
 
   /// Files in hex: the picture's size, of how many cuts of the file it is one, and the sum of its pixels.
