@@ -2,6 +2,7 @@
 #include <QFont>
 #include <QTest>
 
+#include "drawing/icons.h"
 #include "platform/failure.h"
 #include "propertybag/stored_bytes.h"
 #include "propertybag/stored_values.h"
