@@ -158,19 +158,6 @@ class DrawingTest : public QObject {
     });
   }
 
-  void stretchedPicturesHaveCleanEdges() {
-    // Its own size; over the corner; the far end of an enormous one; none.
-    for (const QRect& target :
-         {QRect(5, 5, 7, 5), QRect(-50, -20, 300, 100), QRect(-32000, 0, 32767, 3), QRect(10, 10, -5, 20)}) {
-      Sheet surface;
-      surface.drawImageRect(plainPicture(7, 5, Inside), target.x(), target.y(), target.width(), target.height());
-      const QRect shown = target.isEmpty() ? QRect() : target & surface.image().rect();
-      QCOMPARE(surface.takeDirty(), shown);
-      QCOMPARE(inkOf(surface.image()), shown);
-      if (!shown.isEmpty()) QVERIFY(inkOf(surface.image().copy(shown), Inside).isNull());
-    }
-  }
-
   /// A frame draws only what is different, and is the same picture as one that draws all.
   void framesOfADrag() {
     Sheet framed;

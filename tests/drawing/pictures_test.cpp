@@ -93,8 +93,6 @@ class PicturesTest : public QObject {
 
   void refused() {
     QVERIFY(LoadPicture(u"\\None.png"_s).isNull());
-    QVERIFY(decodePicture("[Setup]\r\nEXEDirectory=\r\n").isNull());
-    QVERIFY(decodePicture(encoded(sample(QImage::Format_ARGB32), "ico")).isNull());
     // A picture inside the picture has an end marker of its own.
     QByteArray jpeg = encoded(sample(QImage::Format_RGB32), "jpeg");
     jpeg.insert(2, QByteArray::fromHex("FFE10006FFD8FFD9"));

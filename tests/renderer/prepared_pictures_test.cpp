@@ -50,7 +50,9 @@ class PreparedPicturesTest : public QObject {
       const QImage opaque = noise(64, 48).convertToFormat(QImage::Format_RGB32);
       for (const QImage& picture : {noise(64, 48), noise(512, 20), opaque.convertToFormat(QImage::Format_ARGB32)}) {
         drawing::Surface stretched, blended;
+        stretched.takeDirty();
         stretched.drawImageRect(picture, target.x(), target.y(), target.width(), target.height());
+        QCOMPARE(stretched.takeDirty(), target.isEmpty() ? QRect() : target & QRect(0, 0, 800, 600));
         const QRect part = drawing::partOnSurface(target);
         const QImage fitted = drawing::withoutUnusedAlpha(drawing::fittedPicture(picture, target.size(), part));
         QVERIFY(fitted.width() <= 800 && fitted.height() <= 600);
