@@ -36,9 +36,9 @@ class ConfigFileTest : public QObject {
     made.setGameFolder(u"C:\\Games\\"_s);
     QCOMPARE(first.get(File), "[Setup]\r\nEXEDirectory=C:\\Games\\\r\n");
 
-    const QByteArray foreign = "; mine\n[setup]\nexedirectory = \"D:\\x\\\"\nOther=1";
+    const QByteArray foreign = "; mine\n[setup]\nexedirectory = \"D:\\\xfc\\\"\nOther=1";
     first.put(File, foreign);
-    QCOMPARE(ConfigFile(folders).gameFolder(), u"D:\\x\\"_s);
+    QCOMPARE(ConfigFile(folders).gameFolder(), u"D:\\\u00fc\\"_s);
     QCOMPARE(first.get(File), foreign);
     QVERIFY(!first.has(u"second"_s));
   }
