@@ -8,14 +8,16 @@
 #include <QToolTip>
 
 #include "controls/combo_box.h"
+#include "controls/cut_label.h"
 #include "controls/list_box.h"
 #include "controls/list_view.h"
 #include "controls/look.h"
+#include "controls/native_dialogs.h"
 #include "controls/number_bar.h"
 #include "platform/failure.h"
 #include "support/keys.h"
 #include "support/mouse.h"
-#include "support/results.h"
+#include "support/picture_results.h"
 
 using namespace controls;
 using namespace support;
@@ -231,16 +233,26 @@ class ChoiceControlsTest : public QObject {
     }
   }
 
-  void selectionIsGreyWithoutTheKeyboard() {
+  /// Both lists with a selection, and one of them with the keyboard.
+  void looks() {
     Window window;
     window.list.setCurrentRow(1);
-    QTRY_VERIFY(window.list.updatesEnabled());  // new rows come with the next frame
-    const auto lightness = [&](QWidget& focused) {
-      focused.setFocus();
-      return window.list.grab().toImage().pixelColor(window.list.width() / 2, window.listPlace(1).y()).lightness();
-    };
-    QVERIFY(lightness(window.list) < 80);
-    QVERIFY(lightness(window.view) > 150 && lightness(window.view) < 230);
+    window.view.selectRow(2);
+    window.list.setFocus();
+    compareSettled(u"window.png"_s, window);
+  }
+
+  /// The filters of a dialog, a tip, or a text in a label of so many pixels: what is shown, its tip, and what is told.
+  void texts() {
+    compareRows(u"texts.txt"_s, [](const QString& row) {
+      const QString what = row.section(u": "_s, 0, 0), text = row.section(u": "_s, 1);
+      if (what == u"filters") return nameFilters(text).join(u", ");
+      if (what == u"tip") return plainToolTip(text);
+      CutLabel label(nullptr);
+      label.resize(what.toInt(), 20);
+      label.setWhole(text);
+      return QStringList{label.text(), label.toolTip(), label.accessibleName()}.join(u" / ").trimmed();
+    });
   }
 
   void popup() {

@@ -55,13 +55,14 @@ struct Bench {
   std::function<void()> wish;
 };
 
-/// What comes of a work begun and the wishes at a moment of it.
-QString logOf(const QString& begun, int at, const QString& wishes) {
+/// What comes of a work begun, the wishes at a moment of it, and those behind all.
+QString logOf(const QString& begun, int at, const QString& wishes, const QString& late) {
   Bench bench;
   bench.wishAt = at;
   bench.wish = [&] { bench.wishFor(wishes); };
   bench.wishFor(begun);
   QCoreApplication::processEvents();
+  bench.wishFor(late);
   return bench.log + (bench.queue.busy() ? u" busy"_s : QString());
 }
 
@@ -74,7 +75,7 @@ class WorkQueueTest : public QObject {
   void wishesDuringWork() {
     support::compareRows(u"wishes.txt"_s, [](const QString& row) {
       const QStringList given = row.split(u' ');
-      return logOf(given[0], given.at(1).toInt(), given.at(2));
+      return logOf(given[0], given.at(1).toInt(), given.at(2), given.value(3));
     });
   }
 

@@ -130,6 +130,8 @@ class DialogsTest : public QObject {
     watch.when(u"Open with changes"_s, [&] { program.click(1); });
     watch.when(u"Close with changes"_s, [&] { program.click(3); });
     QDir::setCurrent(QDir::rootPath());
+    watch.when(u"without a title or a window"_s,
+               [&] { native.messageBox(nullptr, u"<b>told</b>"_s, {}, platform::BoxKind::Error); });
     watch.lines.replaceInStrings(game.native({}), u"GAME"_s).replaceInStrings(game.path(), u"GAME\\"_s);
     compareText(u"dialogs.txt"_s, watch.lines);
   }

@@ -1,5 +1,6 @@
 #include <QTest>
 
+#include "drawing/icons.h"
 #include "support/results.h"
 #include "toolbar/captions.h"
 #include "toolbar/layout.h"
@@ -80,7 +81,7 @@ void change(Model& model, const QString& what, const QString& with) {
 QString changed(const QString& given) {
   Bar bar(given.section(u' ', 0, 0));
   Model& model = bar.model;
-  model.pointAt(given.section(u' ', 1, 1).toInt());
+  if (given.section(u' ', 1, 1) != u"new") model.pointAt(given.section(u' ', 1, 1).toInt());
   const QStringList before = numbersOf(model.values());
   try {
     for (const QString& step : given.section(u' ', 2).split(u", "_s))
@@ -147,7 +148,7 @@ class ControlTest : public QObject {
       image.fill(qRgb(10, 20, 30));
       if (given[0] == u"icon") image.setPixel(0, 0, 0);
       const toolbar::PictureReference picture = toolbar::pictureOfImage(image);
-      const QByteArray file = toolbar::fileOf(*picture);
+      const QByteArray file = given[0] == u"opaque" ? *drawing::writeIcon(image) : toolbar::fileOf(*picture);
       const toolbar::PictureReference again = toolbar::pictureOfFile(file);
       return u"%1, %2 as %3"_s.arg(support::rowOf(file.first(3))).arg(picture->Type).arg(again->Type) +
              QLatin1StringView(again->pixels == picture->pixels && again->mask == picture->mask ? "" : " another");

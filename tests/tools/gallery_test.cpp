@@ -10,6 +10,8 @@ class GalleryTest : public QObject {
     const QTemporaryDir folder;
     const QString picture = folder.filePath(QStringLiteral("gallery.png"));
     support::runTool(QStringLiteral(GALLERY), 0, {picture});
+    support::runTool(QStringLiteral(GALLERY), 1, {folder.filePath(QStringLiteral("none/gallery.png"))});
+    support::runTool(QStringLiteral(GALLERY), 2, {picture, picture});
     support::comparePicture(QStringLiteral("gallery.png"), QImage(picture));
   }
 };
