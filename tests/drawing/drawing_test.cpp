@@ -167,9 +167,11 @@ class DrawingTest : public QObject {
     };
     const QImage ground = prepared(pictureOf(800, 600, [](int x, int y) { return qRgb(x, y, x + y); }));
     const QImage glass = prepared(pictureOf(90, 60, [](int x, int) { return qRgba(250, 9, x, 100); }));
+    const QImage smoke = prepared(pictureOf(90, 60, [](int x, int) { return qRgba(9, x, 250, 100); }));
     const auto draw = [&](Surface& surface, int frame) {
       frame % 7 == 6 ? surface.wipe(Qt::darkBlue) : surface.drawImage(ground, 0, 0);
-      for (int i = 0; i < 4; ++i) surface.drawImage(glass, 70 * i + (i == 1 ? 9 * frame : 0), 40 + 9 * i);
+      for (int i = 0; i < 4; ++i)
+        surface.drawImage(i == 2 && frame % 6 == 5 ? smoke : glass, 70 * i + (i == 1 ? 9 * frame : 0), 40 + 9 * i);
       if (frame % 5 == 4) surface.drawImageRect(glass, 300, 200, 333, 222);
       for (const auto& [points, x] : {std::pair{12.F, 30}, std::pair{300.F, 400}}) {
         surface.setPen(

@@ -33,8 +33,8 @@ struct Theme {
   /// What is listed of the screen, joined by "/", and the reports.
   QString tagsOf(const QString& screen) {
     QString counts;  // as each of them lets events happen
-    ReadTags(state, screen, tags, panel, [&] { counts += u' ' + QString::number(tags.ListCount()); });
-    return tags.rows().join(u'/') + panel.texts.join(u' ') + counts;
+    listScreenTags(state, screen, tags, panel, [&] { counts += u' ' + QString::number(tags.ListCount()); });
+    return tags.rows().join(u'/') + panel.texts.join(u' ') + counts + state.Filter.SkipTagParts + state.Filter.OnlyTags;
   }
   /// "item:value" of each row of the section "S", joined by "/"; the record for the mark, and the reports. A text and a
   /// font were there before.
@@ -163,7 +163,7 @@ class ThemeReadingTest : public QObject {
     Theme theme(
         "[Main]|[MainStaticBar]|Tex=1|X=120|x=7|#Y=1|Color=Red=|[MainTextGo]|Size=9|Text=\"Go\"|Text=OWN|[MainTextOwn]|"
         "X=1|"
-        "[MainStaticBar]|X=5|[MainSongs]|[Song]|[SongStaticParty]|X=1|[SongTextGo]|text= "
+        "[MainStaticBar]|X=5|[MainSongs]|[Song]|[SongStaticParty]|X=1|[songstaticParty]|[SongTextGo]|text= "
         "GO|[SongMenu]|[ErrorPopup]|Text=|[ErrorPopupText]|Text=Nowhere|[Stray]|");
     theme.folder.put(u"l.ini"_s,
                      linesOf("[Text]|GO='Los, gr\xFC\xDF Gott'|go=other|MAINTEXTOWN=own words|MAIN=Spare|SPARE=x|"));

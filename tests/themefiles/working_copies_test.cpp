@@ -58,7 +58,7 @@ struct Game {
         {u"erase"_s, [&] { putInCopy(state, theme, u"S"_s, name, {}, panel); }},
         {u"values"_s,
          [&] {
-           putValuesInCopy(state, theme, {{u"S"_s, u"a"_s, name}, {u"T"_s, u"b"_s, name}}, panel);
+           putValuesInCopy(state, theme, {{u"S"_s, u"a"_s, name}, {u"T"_s, u"b"_s, name + u'b'}}, panel);
          }},
         {u"line"_s,
          [&] {

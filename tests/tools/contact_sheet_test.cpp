@@ -45,10 +45,7 @@ class ContactSheetTest : public QObject {
     QStringList lines;
     for (int screen = 1; screen <= 33; ++screen) {  // the last one is the overview
       const QString file = screen > 32 ? sheet_ + u"/overview.png"_s : pictureOf(sheet_, screen);
-      const QImage picture = QImage(file).convertToFormat(QImage::Format_ARGB32);
-      const QByteArrayView pixels(picture.constBits(), picture.sizeInBytes());
-      lines += u"%1 "_s.arg(screen, 2, 10, QChar(u'0')) +
-               QString::fromLatin1(QCryptographicHash::hash(pixels, QCryptographicHash::Sha1).toHex());
+      lines += u"%1 "_s.arg(screen, 2, 10, QChar(u'0')) + sumOf(file);
     }
     support::compareText(u"pixels_of_sample.txt"_s, lines);
   }
@@ -68,14 +65,6 @@ class ContactSheetTest : public QObject {
          {u"DISPLAY=:4711"_s, u"QT_QPA_PLATFORM=xcb"_s, u"QT_SCALE_FACTOR=2"_s, u"QT_FONT_DPI=192"_s});
     for (const QString& file : QDir(sheet_).entryList(QDir::Files)) {
       QVERIFY2(readFile(output.filePath(file)) == readFile(sheet_ + u'/' + file), qPrintable(file));
-    }
-  }
-
-  void optionsChangeThePicture() {
-    for (const QString& option : {u"--scheme Red"_s, u"--selected=3"_s}) {
-      const QTemporaryDir output;
-      draw(0, sampleTheme(output.path()) + option.split(u' '));
-      QVERIFY2(readFile(pictureOf(output.path(), 2)) != readFile(pictureOf(sheet_, 2)), qPrintable(option));
     }
   }
 
@@ -105,8 +94,10 @@ class ContactSheetTest : public QObject {
       row.replace(u"SAMPLE"_s, Sample).replace(u"LINKS"_s, links.path()).replace(u"OUT"_s, place.filePath(u"out"_s));
       const QStringList arguments = row.split(u'\n', Qt::SkipEmptyParts);
       const auto run = support::runTool(QStringLiteral(CONTACT_SHEET), -1, arguments, {u"-uXDG_RUNTIME_DIR"_s});
-      return support::shortly(run, {Sample, place.path(), links.path()}) +
-             (QDir(place.path()).isEmpty() ? u""_s : u" and draws"_s);
+      QDir drawn(place.filePath(u"out"_s));
+      const QString sum = drawn.exists() ? u" and draws "_s + sumOf(drawn.filePath(u"02.png"_s)) : QString();
+      drawn.removeRecursively();
+      return support::shortly(run, {Sample, place.path(), links.path()}) + sum;
     };
     support::compareRows(u"calls_of_sheet.txt"_s, told);
 #ifdef Q_OS_UNIX
@@ -117,6 +108,12 @@ class ContactSheetTest : public QObject {
  private:
   static QByteArray draw(int status, const QStringList& arguments, const QStringList& variables = {}) {
     return support::runTool(QStringLiteral(CONTACT_SHEET), status, arguments, variables).errors;
+  }
+
+  static QString sumOf(const QString& file) {
+    const QImage picture = QImage(file).convertToFormat(QImage::Format_ARGB32);
+    const QByteArrayView pixels(picture.constBits(), picture.sizeInBytes());
+    return QString::fromLatin1(QCryptographicHash::hash(pixels, QCryptographicHash::Sha1).toHex());
   }
 
   static QString pictureOf(const QString& output, int screen) {
