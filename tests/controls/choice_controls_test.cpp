@@ -238,6 +238,8 @@ class ChoiceControlsTest : public QObject {
     Window window;
     window.list.setCurrentRow(1);
     window.view.selectRow(2);
+    window.view.resize(170, 100);
+    window.view.setColumnWidth(0, 1);
     window.list.setFocus();
     compareSettled(u"window.png"_s, window);
   }

@@ -210,7 +210,7 @@ class WidgetTest : public QObject {
   // What a bag becomes when it is written again, and how such a bar and its popup look.
   void storedAndShown() {
     constexpr int Columns = 6;
-    QImage sheet(Columns * 162, 13 * 116, QImage::Format_RGB32);
+    QImage sheet(Columns * 162, 14 * 116, QImage::Format_RGB32);
     sheet.fill(Qt::white);
     int cell = 0;
     support::compareRows(u"stored.txt"_s, [&](const QString& row) {
