@@ -36,20 +36,6 @@ class IniStringsTest : public QObject {
     compareFiles(u"ini_set.txt"_s, [](const QByteArray& file) { return setIniValue(file, "S", "k", "v"); });
   }
 
-  void sectionsAndLines() {
-    const QByteArray file("k=0\n [ a\t]x\nk= \"v\" \nK=w\n[b\nj=1\n[A]\nk=2\n[\xE4nd \xFFmany More\xB5]\n[]\ne=");
-    const IniSections sections{IniText(file)};
-    for (const char* name : {"A", " b", "", "a\t", "c", "\xC4ND \x9FMany mORE\xB5", "\xC4ND \x9FMany"}) {
-      const auto found = findIniSection(file, name);
-      QCOMPARE(sections.lines(name).data(), found ? found->data() : nullptr);
-    }
-    const IniKeys keys = iniKeys(sections.lines("a"));
-    const IniLine* line = lineOf(keys, " K ");
-    QVERIFY(line != nullptr && lineOf(keys, "j") == nullptr);
-    QCOMPARE(line->value, QByteArrayView("\"v\""));
-    QCOMPARE(line->line, QByteArrayView("k= \"v\" "));
-  }
-
   void outlines() {
     compareFiles(u"ini_outline.txt"_s, [](const QByteArray& file) {
       QByteArray told;
@@ -79,7 +65,7 @@ class IniStringsTest : public QObject {
   void severalLines() {
     compareFiles(u"ini_lines.txt"_s, [](const QByteArray& file) {
       return setIniLines(
-          file, {{"S", "k", "k=2"}, {"s", "n", "n=3"}, {"T", "m", "m="}, {"New", "a", "a=1"}, {"T", "k", "k = 4"}});
+          file, {{"S", "k", "k=2"}, {" s ", " n ", "n=3"}, {"T", "m", "m="}, {"New", "a", "a=1"}, {"T", "k", "k = 4"}});
     });
   }
 

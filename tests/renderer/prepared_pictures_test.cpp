@@ -48,7 +48,8 @@ class PreparedPicturesTest : public QObject {
                                 QRect(9, 9, 1, 1), QRect(800, 0, 9, 9), QRect(9, 9, -9, 9), QRect(9, 9, 0, 9)}) {
       const RowName name(QByteArray::number(target.x()) + ' ' + QByteArray::number(target.width()));
       const QImage opaque = noise(64, 48).convertToFormat(QImage::Format_RGB32);
-      for (const QImage& picture : {noise(64, 48), noise(512, 20), opaque.convertToFormat(QImage::Format_ARGB32)}) {
+      for (const QImage& picture : {noise(64, 48), noise(512, 20), plainPicture(9, 9, qRgba(250, 1, 90, 254)),
+                                    opaque.convertToFormat(QImage::Format_ARGB32)}) {
         drawing::Surface stretched, blended;
         stretched.takeDirty();
         stretched.drawImageRect(picture, target.x(), target.y(), target.width(), target.height());
@@ -175,6 +176,8 @@ class PreparedPicturesTest : public QObject {
     folder_.put(u"fresh.bmp"_s, encoded(noise(64, 48), "bmp"));
     store.get({folder_.path(u"fresh.bmp"_s), {}, QRect(0, 0, 30, 40)}, true);
     QVERIFY(store.bytes() < 64 * 48 * 4 || clock.elapsed() > 1900);
+    copyTimes(folder_.native(u"big.bmp"_s).toStdString(), folder_.native(u"fresh.bmp"_s).toStdString());
+    QVERIFY(!isSettled(folder_.path(u"fresh.bmp"_s)) || clock.elapsed() > 1900);
   }
 };
 
