@@ -51,6 +51,7 @@ class PreparedPicturesTest : public QObject {
       for (const QImage& picture : {noise(64, 48), noise(512, 20), plainPicture(9, 9, qRgba(250, 1, 90, 254)),
                                     opaque.convertToFormat(QImage::Format_ARGB32)}) {
         drawing::Surface stretched, blended;
+        for (auto* const surface : {&stretched, &blended}) surface->wipe(Qt::white);
         stretched.takeDirty();
         stretched.drawImageRect(picture, target.x(), target.y(), target.width(), target.height());
         QCOMPARE(stretched.takeDirty(), target.isEmpty() ? QRect() : target & QRect(0, 0, 800, 600));
