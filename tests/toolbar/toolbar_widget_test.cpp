@@ -251,10 +251,12 @@ class WidgetTest : public QObject {
     support::compareRows(u"tips.txt"_s, [&](const QString& row) {
       const QStringList given = row.section(u':', 0, 0).split(u' ');
       QWidget form;
-      toolbar::TipWindow tip(
-          {u"<b>words</b> in one line, or in two where more of them come than fit into a tip's width"_s,
-           row.section(u':', 1).trimmed(), given.at(1).toInt(), given[0] == u"balloon", 0xE6FDFD, 0x800000},
-          &form);
+      const QString title = row.section(u':', 1).trimmed();
+      const QString text =
+          title.isEmpty() ? u"words in one line, or in two where more of them come than fit into the width of a tip"_s
+                          : u"<b>words</b>"_s;
+      const bool balloon = given[0] == u"balloon";
+      toolbar::TipWindow tip({text, title, given.at(1).toInt(), balloon, 0xE6FDFD, 0x800000}, &form);
       tip.showAt({given.at(2).toInt(), given.at(3).toInt()});
       QPainter(&sheet).drawPixmap(cell % 2 * 470, cell / 2 * 90, tip.grab());
       ++cell;
