@@ -45,10 +45,11 @@ function(cantorama_room name)
   list(TRANSFORM ROOM_QT PREPEND Qt6::)
   target_link_libraries(${name} PUBLIC cantorama_flags ${ROOM_QT} ${ROOM_USES})
   if(CANTORAMA_PCH)
-    # The rooms of the same libraries share the precompiled header of the first one.
+    # The rooms of the same libraries share the precompiled header of the first one. A fuzzer gives its rooms flags of
+    # their own.
     list(GET ROOM_QT -1 library)
     get_property(first GLOBAL PROPERTY CANTORAMA_PCH_OF_${library})
-    if(first)
+    if(first AND NOT CANTORAMA_FUZZ)
       target_precompile_headers(${name} REUSE_FROM ${first})
     else()
       string(REPLACE "Qt6::" "Qt" header ${library})
