@@ -96,23 +96,19 @@ class SessionsTest : public DiaryTest {
     game->put(ThemeFile, game->get(ThemeFile).replace("W=80", "W=-1"));
     Diary& d = opened();
     d.step(u"an old report"_s, [&] { program->form.ShowStatus(u"Error"_s); });
-    d.run("object LoadingButtonGo", "object LoadingStaticA");
-    const auto byAnother = [&](const QString& file) { game->put(file, game->get(file) + "; other\r\n"); };
-    byAnother(ThemeCopy);
+    d.run("object LoadingButtonGo", "object LoadingStaticA", "another program adds to Themes/Alpha.ini.tmp");
     d.step(u"a place that can't be drawn, in a copy that another program changed"_s,
            [&] { program->edit(u"Y"_s, u"99999"_s); });
     d.run("object LoadingButtonGo", "row X", "Text1 becomes '301'", "press Command1", "object LoadingTextFree",
           "row Text", "Text2 becomes 'Hi'");
     game->protect(LanguageCopy);
-    byAnother(ThemeCopy);
-    d.run("press Command1");
+    d.run("another program adds to Themes/Alpha.ini.tmp", "press Command1");
     game->protect(LanguageCopy, false);
     game->protect(ThemeCopy);
     d.run("press Command1");
     game->protect(ThemeCopy, false);
-    byAnother(ThemeCopy);
-    d.run("toolbar Save", "row Color");
-    byAnother(ThemeCopy);
+    d.run("another program adds to Themes/Alpha.ini.tmp", "toolbar Save", "row Color",
+          "another program adds to Themes/Alpha.ini.tmp");
     program->dialogs.inputs = {u"Fresh"_s};
     d.run("press Command3", "toolbar Close");
     game->put(ThemeFile, game->get(ThemeFile).replace("[Colors]\r\n", linesOf(manyColors(120))));
