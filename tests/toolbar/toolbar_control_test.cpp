@@ -1,6 +1,5 @@
-#include <QTest>
-
 #include "drawing/icons.h"
+#include "support/pictures.h"
 #include "support/results.h"
 #include "toolbar/captions.h"
 #include "toolbar/layout.h"
@@ -148,9 +147,12 @@ class ControlTest : public QObject {
       image.fill(qRgb(10, 20, 30));
       if (given[0] == u"icon") image.setPixel(0, 0, 0);
       const toolbar::PictureReference picture = toolbar::pictureOfImage(image);
-      const QByteArray file = given[0] == u"opaque" ? *drawing::writeIcon(image) : toolbar::fileOf(*picture);
+      const QByteArray file = given[0] == u"opaque" ? *drawing::writeIcon(image)
+                              : given[0] == u"png"  ? support::encoded(image, "png")
+                                                    : toolbar::fileOf(*picture);
       const toolbar::PictureReference again = toolbar::pictureOfFile(file);
       return u"%1, %2 as %3"_s.arg(support::rowOf(file.first(3))).arg(picture->Type).arg(again->Type) +
+             QLatin1StringView(toolbar::fileOf(*again) == file ? "" : " written anew") +
              QLatin1StringView(again->pixels == picture->pixels && again->mask == picture->mask ? "" : " another");
     });
   }
