@@ -10,7 +10,7 @@ class MonkeyTest : public QObject {
   void randomEvents() {
     constexpr int LeastEvents = 5000;
     constexpr int MostEvents = 160000;
-    constexpr int LeastCount = 20;
+    constexpr int LeastCount = 10;
     bool given = false;
     const int environment = qEnvironmentVariableIntValue("MONKEY_SEED", &given);
     const quint32 seed = given ? static_cast<quint32>(environment) : 1;
