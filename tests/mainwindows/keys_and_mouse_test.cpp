@@ -4,29 +4,11 @@
 using namespace support;
 using platform::BoxAnswer;
 
-/// Sessions with finder, menus, keys and mouse, step by step, against the diaries kept.
+/// Sessions with menus, keys and mouse, step by step, against the diaries kept.
 class KeysAndMouseTest : public DiaryTest {
   Q_OBJECT
 
  private Q_SLOTS:
-  void finder() {
-    Diary& d = openedAt(false);
-    QWidget& tools = program->tools();
-    const auto find = [&](const char* words) {
-      QTRY_COMPARE(QApplication::activeWindow(), &tools);
-      d.step(u"Ctrl+F"_s, [&] {
-        QTest::keyClick(&tools, Qt::Key_F, Qt::ControlModifier);
-        QTRY_VERIFY(QApplication::activeWindow() != &tools && QApplication::activeWindow() != nullptr);
-      });
-      QWidget& finder = *QApplication::activeWindow();
-      d.step(u"words: "_s + QLatin1StringView(words),
-             [&] { finder.findChild<QLineEdit*>()->setText(QLatin1StringView(words)); });
-      d.step(u"Enter"_s, [&] { QTest::keyClick(&finder, Qt::Key_Return); });
-      if (finder.isVisible()) d.step(u"Esc"_s, [&] { QTest::keyClick(&finder, Qt::Key_Escape); });
-    };
-    for (const char* words : {"hello", "x=10 static", "colr", "check pop", "nothing of this"}) find(words);
-  }
-
   void putBack() {
     Diary& d = opened();
     d.step(u"edit"_s, [&] { program->edit(); });

@@ -146,8 +146,12 @@ class Deeds {
     bool isNumber = false;
     QAction* taken = shown->actions().value(entry.toInt(&isNumber));
     if (!isNumber) taken = nullptr;
-    for (QAction* action : shown->actions()) menu += wordsOf(*action);
-    for (QAction* action : shown->findChildren<QAction*>()) {
+    QList<QAction*> entries = shown->actions();
+    for (const QAction* action : shown->actions()) {
+      menu += wordsOf(*action);
+      if (action->menu() != nullptr && action->isEnabled()) entries += action->menu()->actions();
+    }
+    for (QAction* action : entries) {
       if (action->isEnabled() && action->text().section(u'\t', 0, 0) == entry) taken = action;
     }
     shown->close();
