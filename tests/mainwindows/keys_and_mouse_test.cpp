@@ -1,5 +1,4 @@
 #include "support/diary.h"
-#include "support/real_input.h"
 
 using namespace support;
 using platform::BoxAnswer;
@@ -49,8 +48,7 @@ class KeysAndMouseTest : public DiaryTest {
       }
       d.step(u"release"_s, [&] {
         QTest::mouseRelease(&preview, Qt::LeftButton, keys, from + by);
-        QEvent leave(QEvent::Leave);  // a pointer that rests gets the name of what is there
-        QApplication::sendEvent(&preview, &leave);
+        takeMouseAway(preview);
       });
     };
     drag("pick", {90, 80}, {});

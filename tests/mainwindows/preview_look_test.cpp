@@ -31,8 +31,7 @@ class PreviewLookTest : public HandTest {
     QCOMPARE(preview().accessibleDescription(), QString());
     moveMouse(preview(), {341, 320}, Qt::NoButton);
     QTRY_VERIFY(!preview().accessibleDescription().isEmpty());
-    QEvent leave(QEvent::Leave);
-    QApplication::sendEvent(&preview(), &leave);
+    takeMouseAway(preview());
     QCOMPARE(preview().accessibleDescription(), QString());
     // The start picture has nothing to size.
     program->tag(u"LoadingTextLater"_s);

@@ -117,8 +117,7 @@ class Deeds {
     if (!by.isNull()) moveMouse(preview, from + by / 2, Qt::LeftButton, held);
     if (!by.isNull()) moveMouse(preview, from + by, Qt::LeftButton, held);
     QTest::mouseRelease(&preview, Qt::LeftButton, held, from + by);
-    QEvent leave(QEvent::Leave);  // a pointer that rests gets the name of what is there
-    return QApplication::sendEvent(&preview, &leave), true;
+    return takeMouseAway(preview), true;
   }
   /// The menu of a control, where the mouse is over what is chosen in it, and an entry of it by its number or words.
   bool menuOf(const Words& words) {

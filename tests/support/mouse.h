@@ -20,4 +20,10 @@ inline void moveMouse(QWidget& widget, const QPoint& place, Qt::MouseButtons but
   QCoreApplication::sendEvent(&widget, &move);
 }
 
+/// Takes the mouse away from a widget. Where it rests, the preview comes to name what is there.
+inline void takeMouseAway(QWidget& widget) {
+  QEvent leave(QEvent::Leave);
+  QCoreApplication::sendEvent(&widget, &leave);
+}
+
 }  // namespace support
