@@ -98,7 +98,8 @@ class CommitTest : public QObject {
       QCOMPARE(theme->report(), u"Error while writing tempfile [%1]"_s.arg(QString::fromUtf8(refusal.cause)));
     }
     theme->tags.AddItem(u"LoadingTab\t"_s);
-    for (const QString& section : {u"Loading]x"_s, u"LoadingTab\t"_s}) {
+    theme->tags.AddItem(u"\tLoadingTab"_s);
+    for (const QString& section : {u"Loading]x"_s, u"LoadingTab\t"_s, u"\tLoadingTab"_s}) {
       choose(section);
       QVERIFY(!commit({0, u"X"_s, u"4"_s}, {u"2"_s, {}}));
       QVERIFY(theme->report().contains(u"the section %1 can't be found again"_s.arg(section)));

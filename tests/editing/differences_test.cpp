@@ -1,11 +1,15 @@
 #include "editing/differences.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 #include "editing/commit.h"
 #include "editing/goals.h"
+#include "editing/reference_keys.h"
+#include "editing/theme_colours.h"
 #include "platform/failure.h"
 #include "support/editing.h"
+#include "support/results.h"
 
 using namespace support;
 using editing::Difference;
@@ -37,6 +41,47 @@ std::vector<KeyPlace> places(const OpenTheme& theme) {
   return all;
 }
 
+/// Does a step of a row; gives what came of it.
+QString done(OpenTheme& theme, const QString& what, const QString& with) {
+  const QString name = with.section(u' ', 0, 0);
+  const auto kind = what.endsWith(u"Text"_s) ? editing::ReferenceKind::Text : editing::ReferenceKind::Texture;
+  const auto truth = [](bool yes) { return yes ? u"yes"_s : u"no"_s; };
+  const auto told = [](const std::optional<QString>& value) { return value.value_or(u"none"_s); };
+  if (what == u"screen"_s) theme.screen(with);
+  if (what == u"object"_s && with.toInt() < theme.tags.ListCount()) theme.session.pickObject(with.toInt());
+  if (what == u"all"_s) return truth(editing::putBack(theme.session, places(theme)));
+  if (what == u"here"_s) {
+    const QStringList objects = editing::objectsOfScreen(theme.state, with);
+    return truth(editing::putBack(theme.session, editing::differencesIn(theme.state, objects)));
+  }
+  if (what == u"colour"_s) return truth(editing::changeColor(theme.session, name, with.section(u' ', 1)));
+  if (what == u"addColour"_s) return told(editing::addColor(theme.session, name));
+  if (what == u"colourBack"_s) {
+    const auto saved = editing::savedColor(theme.state, name);
+    return truth(saved && editing::putSavedColorBack(theme.session, name, *saved));
+  }
+  if (what == u"group"_s) {
+    const auto group = editing::colorGroupOf(theme.state, name);
+    return QString::number(group ? static_cast<int>(*group) : -1);
+  }
+  if (what == u"value"_s) return told(editing::colorValue(theme.state, editing::ColorGroup::Theme, name, {}));
+  if (what == u"lose"_s) theme.state.paths.ThemeFile += u"/none"_s;
+  for (themefiles::NamedColor& color : theme.state.ThemeColors) {
+    if (what == u"fill"_s && color.Name.isEmpty()) color.Name = u"used"_s;
+  }
+  if (what == u"removeColour"_s) return told(editing::removeColor(theme.session, name));
+  if (what.startsWith(u"add"_s)) {
+    return QString::number(static_cast<int>(editing::addReferenceKey(theme.session, kind, name)));
+  }
+  if (what.startsWith(u"remove"_s)) return truth(editing::removeReferenceKey(theme.session, kind, name));
+  if (what == u"theme"_s || what == u"skin"_s || what == u"language"_s) {
+    const QByteArray copy = what.toLatin1(), old = name.toLatin1(), instead = with.section(u' ', 1).toLatin1();
+    theme.putCopy(copy, theme.copy(copy).replace(old, instead));
+    themefiles::ReadColors(theme.state, theme.panel);
+  }
+  return what;
+}
+
 }  // namespace
 
 /// What differs from the saved state over a whole theme, and how it comes back.
@@ -46,7 +91,6 @@ class DifferencesTest : public QObject {
  private Q_SLOTS:
   void findsAll() {
     OpenTheme theme(Theme, "Plate=a.png|", "GO=Go|");
-    QCOMPARE(told(theme), QStringList());
     theme.putCopy(
         "theme",
         "[Theme]|Name=M|[Colors]|Red=200 0 1|Blue=0 0 200|[Main]|[MainStaticB]|Tex=Plate|X=10|New=1|Color=Red|"
@@ -66,9 +110,6 @@ class DifferencesTest : public QObject {
                                u"words 'GO' is gone (saved: Go)"_s};
     QCOMPARE(told(theme), expected);
     QCOMPARE(editing::countDifferences(theme.state), 11);
-    const auto inScreen = editing::differencesIn(theme.state, editing::objectsOfScreen(theme.state, u"Main Screen"_s));
-    QCOMPARE(inScreen.size(), 5U);  // without what is new, with what the references stand for
-    QVERIFY(editing::objectsOfScreen(theme.state, u"Song Screen (Party)"_s).contains(u"SongStaticC"_s));  // is gone
     // All of it comes back, but what is new; a section that was gone stands at the end.
     theme.screen(u"Main Screen"_s);
     theme.session.pickObject(1);
@@ -80,40 +121,40 @@ class DifferencesTest : public QObject {
     QVERIFY(theme.copy("theme").contains("[MainStaticA]|X = 5|x=7|;d|Text=GO|"));
     QCOMPARE(theme.report().section(u"; "_s, 0, 0), u"Put back: 10 values"_s);
     QCOMPARE(theme.told(), u"colours, -1 TEXT=GO, -1 TEXT=GO, Save, draws, mark again"_s);
-    QVERIFY(theme.state.Changed);
-    QVERIFY(editing::putBack(theme.session, differing));
-    QCOMPARE(theme.report(), u"Nothing to put back"_s);
   }
 
-  /// Colours alone go as through their button.
-  void coloursAlone() {
-    OpenTheme theme(Theme);
-    theme.putCopy("theme", QByteArray(Theme).replace("Red=200 0 0", "Green=1 1 1").replace("0 0 200", "9 9 9"));
-    themefiles::ReadColors(theme.state, theme.panel);
-    theme.told();
-    QVERIFY(editing::putBack(theme.session, places(theme)));
-    QCOMPARE(theme.told(), u"colours, colours"_s);
-    QVERIFY(theme.report().startsWith(
-        u"Put back: 2 values; Kept in the working copy; the next Update makes Save available"_s));
-    QVERIFY(!theme.state.Changed);
-    QCOMPARE(themefiles::ResolveColor(theme.state, u"Red"_s, {}), u"200 0 0"_s);
-    QCOMPARE(themefiles::ResolveColor(theme.state, u"Blue"_s, {}), u"0 0 200"_s);
-    // Only rows that name one of these show it again: the first of a key, up to a second "=".
-    OpenTheme other(
-        "[Colors]|Red=1 1 "
-        "1|[Main]|[MainStaticA]|Color=\"Red\"|Tex=a=b|Color=Blue|[MainStaticB]|Color=red|[MainStaticC]|Color=New|",
-        "Plate=a.png|");
-    other.putCopy("theme", other.copy("theme").replace("1 1 1", "2 2 2|New=1 1 1"));
-    QVERIFY(!editing::SavedState(other.state).differsIn(u"MainStaticB"_s));  // another case
-    QCOMPARE(editing::savedColorOf(other.state, u"MainStaticC"_s, u"COLOR"_s)->told, u"colour 'New' is new"_s);
-    other.screen(u"Main Screen"_s);
-    other.session.pickObject(1);
-    other.told();
-    QVERIFY(editing::putBack(other.session, places(other)));
-    QCOMPARE(other.told(), u"colours, -1 COLOR=\"Red\""_s);
-    other.putCopy("theme", other.copy("theme").replace("Tex=a=b", "Tex=c"));
-    QVERIFY(editing::putBack(other.session, places(other)));
-    QCOMPARE(other.told(), u"-1 TEX=a, Save, draws, mark again"_s);
+  /// Themes drawn by lot, and what is done with them: what the session tells of each step, what differs then and where
+  /// that leads, and the files that are others than before.
+  void edits() {
+    compareRows(u"edits.txt"_s, [](const QString& row) {
+      const QStringList files = row.section(u": "_s, 0, 0).split(u" + "_s);
+      OpenTheme theme(files[0].toLatin1(), files[1].toLatin1(), files[2].toLatin1());
+      constexpr const char* Copies[] = {"theme", "skin", "language"};
+      std::array<QByteArray, 3> before;
+      for (int i = 0; i < 3; ++i) before[i] = theme.copy(Copies[i]);
+      QStringList lines;
+      for (const QString& step : row.section(u": "_s, 1).split(u", "_s)) {
+        theme.told();
+        theme.panel.texts.clear();
+        const QString came = done(theme, step.section(u' ', 0, 0), step.section(u' ', 1));
+        lines += came + u" {"_s + theme.told() + u"} "_s + theme.report().remove(theme.folder.path({}));
+      }
+      for (const Difference& each : all(theme)) {
+        const auto goal = platform::failureIn([&] {
+          const auto hit = editing::goalOf(theme.state, u"Song Screen (Party)"_s, each.place);
+          lines += each.told() + u" at "_s + hit.screen + u'/' + hit.object + u'/' + QString::number(hit.row) + hit.key;
+        });
+        if (goal) lines += each.told() + u": "_s + *goal;
+      }
+      theme.state.paths.ThemeFile.remove(u"/none"_s);
+      for (const themefiles::NamedColor& color : theme.state.ThemeColors) {
+        if (!color.Name.isEmpty() && color.Name != u"used") lines += color.Name + u'=' + color.Value;
+      }
+      for (int i = 0; i < 3; ++i) {
+        if (theme.copy(Copies[i]) != before[i]) lines += QString::fromLatin1(theme.copy(Copies[i]));
+      }
+      return lines.replaceInStrings(QRegularExpression(u"none: [^\\]]*"_s), u"none"_s).join(u"; "_s);
+    });
   }
 
   /// A file that can't be written: those before it are, and the report tells both.
@@ -128,27 +169,6 @@ class DifferencesTest : public QObject {
              qPrintable(theme.report()));
     QVERIFY(theme.state.Changed);
     QCOMPARE(theme.copy("theme"), QByteArray(Theme));
-  }
-
-  void leadsThere() {
-    OpenTheme theme(Theme, "Plate=a.png|", "GO=Go|");
-    const auto goal = [&](QString ThemePaths::*copy, const QString& section, const QString& key) {
-      QString told;
-      const auto failure = platform::failureIn([&] {
-        const auto hit = editing::goalOf(theme.state, u"Song Screen (Party)"_s, {copy, section, key});
-        told = QStringList{hit.screen, hit.object, QString::number(hit.row), hit.key}.join(u'/');
-      });
-      return failure.value_or(told);
-    };
-    const auto themeFile = &ThemePaths::ThemeFile;
-    QCOMPARE(goal(themeFile, u"mainstaticb"_s, u"y"_s), u"Main Screen/MainStaticB/2/Y"_s);
-    QCOMPARE(goal(themeFile, u"MainStaticB"_s, u"Gone"_s), u"Main Screen/MainStaticB/-1/"_s);
-    QCOMPARE(goal(themeFile, u"Lost"_s, u"X"_s), u"no screen shows Lost"_s);
-    QCOMPARE(goal(themeFile, u"Colors"_s, u"Red"_s), u"Main Screen/MainStaticB/3/Color"_s);
-    QCOMPARE(goal(themeFile, u"Colors"_s, u"red"_s), u"no object names red"_s);
-    QCOMPARE(goal(themeFile, u"SongTextD"_s, u"Y"_s), u"Song Screen (Party)/SongTextD/0/Y"_s);  // the present screen
-    QCOMPARE(goal(&ThemePaths::SkinFile, u"Textures"_s, u"PLATE"_s), u"Song Screen (Party)/SongTextD/1/Tex"_s);
-    QCOMPARE(goal(&ThemePaths::LanguageFile, u"Text"_s, u"GO"_s), u"Main Screen/MainStaticA/2/Text"_s);
   }
 
   /// Nothing grows with the square of a theme's size.

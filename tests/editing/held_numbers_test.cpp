@@ -54,6 +54,7 @@ class HeldNumbersTest : public QObject {
                 {"X=40.6", "X=-10001", Move, "H", u"X: -10001 is too large"_s},
                 {"X=40.6", "X=99999999999", Move, "H", u"X: 99999999999 is too large"_s},
                 {"X=40.6", "X=-1", Right, "H", ownSize},
+                {"X=40.6", "X=wide", Right, "H", QString()},
                 {"Y=-50", "Y=-1", Right, "H", ownSize},
                 {"W=100", "W=-1", Right, "H", ownSize},
                 {"H=60", "H=-1", Right, "H", ownSize},
