@@ -100,11 +100,33 @@ class Deeds {
   bool keys(const Words& words) {
     QWidget* widget = control(words[0]);
     if (widget == nullptr) return false;
-    const QKeyCombination key = QKeySequence(words[1])[0];
     widget->setFocus();
-    QTest::keyClick(widget, key.key(), key.keyboardModifiers());
+    for (const QString& word : words[1].split(u' ')) {
+      const QKeyCombination key = QKeySequence(word)[0];
+      QTest::keyClick(widget, key.key(), key.keyboardModifiers());
+    }
     program_.form.session().settle();
     return true;
+  }
+  bool point(const Words& words) {
+    QWidget& preview = *program_.form.Workspace;
+    const QPointF at(words[0].toDouble(), words[1].toDouble());
+    QMouseEvent moved(QEvent::MouseMove, at, preview.mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    return QApplication::sendEvent(&preview, &moved);
+  }
+  /// Waits for the check of the theme, which goes on while the program is idle.
+  bool waitForCheck(const Words& /*words*/) {
+    return QTest::qWaitFor([this] {
+      const QWidgetList windows = QApplication::topLevelWidgets();
+      return !program_.status().contains(u"being checked") &&
+             std::none_of(windows.begin(), windows.end(), [](const QWidget* window) {
+               return window->isVisible() && window->windowTitle().contains(u"being checked");
+             });
+    });
+  }
+  bool doubleClick(const Words& words) {
+    QTest::mouseDClick(program_.form.Workspace, Qt::LeftButton, {}, QPoint(words[0].toInt(), words[1].toInt()));
+    return takeMouseAway(*program_.form.Workspace), true;
   }
   bool click(const Words& words) { return drag({words[0], words[1], u"0"_s, u"0"_s, words[2]}); }
   bool drag(const Words& words) {
@@ -195,7 +217,10 @@ inline const QList<Deeds::Kind> Deeds::Kinds{
     {"'(.*)' is typed in (\\S*)", &Deeds::type},
     {"press (\\S*)", &Deeds::press},
     {"(\\S*) becomes entry (.*)", &Deeds::choose},
-    {"(\\S*) gets (\\S*)", &Deeds::keys},
+    {"(\\S*) gets (.*)", &Deeds::keys},
+    {"point at (.*),(.*)", &Deeds::point},
+    {"the check ends", &Deeds::waitForCheck},
+    {"double click at (.*),(.*)", &Deeds::doubleClick},
     {"click at (.*),(\\S*)(.*)", &Deeds::click},
     {"drag from (.*),(.*) by (.*),(\\S*)(.*)", &Deeds::drag},
     {"menu of row (.*?)(?:, entry (.*))?", &Deeds::menuOfRow},

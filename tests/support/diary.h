@@ -84,8 +84,7 @@ class Diary {
     shown_ = std::move(after);
     const QImage picture = program_.picture().copy();
     if (picture == std::exchange(picture_, picture)) return;
-    const QByteArrayView pixels(picture.constBits(), picture.sizeInBytes());
-    lines += u"picture: %1"_s.arg(qChecksum(pixels), 4, 16, QChar(u'0'));
+    lines += u"picture: "_s + sumOf(picture);
   }
 
   /// The lines that are gone ("-") and new ("+"), in their order: what is in the longest common sequence stays.

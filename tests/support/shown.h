@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QLabel>
+
 #include "support/windows.h"
 
 namespace support {
@@ -15,6 +17,12 @@ inline QString marksOf(const QFont& font, const QVariant& foreground, const QStr
   if (!tip.isEmpty()) marks += u"tip '%1'"_s.arg(tip);
   if (!told.isEmpty() && told != tip) marks += u"told '%1'"_s.arg(told);
   return QString(marks.join(u", ")).replace(u'\n', u'|');
+}
+
+/// The sum of a picture's pixels.
+inline QString sumOf(const QImage& picture) {
+  const QImage pixels = picture.convertToFormat(QImage::Format_RGB32);
+  return u"%1"_s.arg(qChecksum(QByteArrayView(pixels.constBits(), pixels.sizeInBytes())), 4, 16, QChar(u'0'));
 }
 
 inline void addControl(Shown& all, const QWidget& control, const QString& name) {
@@ -33,6 +41,8 @@ inline void addControl(Shown& all, const QWidget& control, const QString& name) 
     for (int i = 0; i < list->count(); ++i) {
       const QListWidgetItem& row = *list->item(i);
       rows += row.text();
+      const QIcon picture = row.icon();
+      if (!picture.isNull()) rows.last() += u' ' + sumOf(picture.pixmap(list->iconSize()).toImage());
       const QString marks = marksOf(row.font(), row.data(Qt::ForegroundRole), row.toolTip(),
                                     row.data(Qt::AccessibleDescriptionRole).toString());
       if (!marks.isEmpty()) all.emplace_back(name + u' ' + row.text(), marks);
@@ -56,6 +66,8 @@ inline void addControl(Shown& all, const QWidget& control, const QString& name) 
         name, edit->text() + (edit->hasSelectedText() ? u" ['%1']"_s.arg(edit->selectedText()) : QString()) + state);
   } else if (const auto* swatch = qobject_cast<const controls::SwatchButton*>(&control)) {
     all.emplace_back(name, swatch->BackColor().name() + state);
+  } else if (const auto* label = qobject_cast<const QLabel*>(&control); label && !label->pixmap().isNull()) {
+    all.emplace_back(name, sumOf(label->pixmap().toImage()));
   } else {
     all.emplace_back(name, state.isEmpty() ? u"shown"_s : state);
   }
@@ -67,11 +79,14 @@ inline Shown shownNow(const Program& program) {
   QWidgetList windows = QApplication::topLevelWidgets();
   std::sort(windows.begin(), windows.end(),
             [](const QWidget* a, const QWidget* b) { return a->objectName() < b->objectName(); });
-  for (const QWidget* window : windows) {
+  for (QWidget* window : windows) {
     if (!window->isVisible() || window->windowType() == Qt::ToolTip || window->objectName().startsWith(u"qt_"))
       continue;
     const QString name = window->objectName().isEmpty() ? u"window"_s : window->objectName();
     all.emplace_back(name, window->windowTitle());
+    const QString tells = window->accessibleDescription();
+    if (!tells.isEmpty()) all.emplace_back(name + u" tells"_s, tells);
+    if (name == u"Loupe"_s) all.emplace_back(u"magnified"_s, sumOf(window->grab({0, 0, 208, 208}).toImage()));
     const QWidget* focus = window->focusWidget();
     all.emplace_back(name + u" focus"_s, focus == nullptr ? u"none"_s : focus->objectName());
     for (const QWidget* control : window->findChildren<QWidget*>()) {
