@@ -113,6 +113,11 @@ class NativeDialogsTest : public QObject {
     QCOMPARE(answer(folder.native(u"sub"_s)), QString());  // goes there
   }
 
+  void cancelledColorIsNone() {
+    whenShown<QDialog>([](QDialog& dialog) { dialog.reject(); });
+    QVERIFY(!NativeDialogs().chooseColor(nullptr, Qt::red));
+  }
+
   void imageDialogShowsItsColumnsWhole() {
     const support::Folder folder;
     folder.put(u"picture_with_a_long_name.png"_s, QByteArray(123456, 'x'));

@@ -73,6 +73,10 @@ struct Window : QWidget {
     if (what == u"clipboard") return QGuiApplication::clipboard()->setText(with);
     if (what == u"locked") return box.setReadOnly(true);
     if (what == u"leave") return box.clearFocus();
+    if (what == u"click") {
+      QGuiApplication::clipboard()->setText(with, QClipboard::Selection);
+      return QTest::mouseClick(&box, Qt::LeftButton, {}, {195, 9});
+    }
     if (what == u"menu") return menu(with);
     support::pressKey(box, step);
   }

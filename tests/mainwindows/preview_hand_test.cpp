@@ -144,6 +144,8 @@ class PreviewHandTest : public HandTest {
     const QPoint before = preview().pos();
     QTest::mouseClick(&preview(), Qt::LeftButton, {}, {-before.x() + 280, 60});
     QCOMPARE(preview().pos(), before);
+    program->tag(u"LoadingButtonGo"_s);
+    QVERIFY(preview().pos() != before);
     // The menu that the keys bring up stands on what is seen.
     program->form.activateWindow();
     QTRY_VERIFY(program->form.isActiveWindow());

@@ -41,6 +41,7 @@ class Session {
     hears_ = this;
     if (listens) QAccessible::installFactory(makeEar);
     isSound_ = bar_.UserControl_ReadProperties(propertybag::storedBytes(support::bagOf(bag)));
+    bar_.installEventFilter(&paintings_);
     form_.resize(900, 200);
     other_.setGeometry(800, 150, 50, 20);
     other_.setFocusPolicy(Qt::StrongFocus);
@@ -112,6 +113,11 @@ class Session {
     for (int i = 0; i < now.size(); ++i)
       if (i < shown_.size() && now[i] != shown_[i]) words_ += now[i];
     shown_ = now;
+    // What it looks like otherwise than before has to be painted.
+    QCoreApplication::sendPostedEvents(&form_, QEvent::UpdateRequest);
+    const QImage look = bar_.inner().surfaceOf(toolbar::SurfaceName::Main).raster().image().copy();
+    if (std::exchange(paintings_.count, 0) == 0 && look != look_ && bar_.isVisible()) words_ += u"unpainted"_s;
+    look_ = look;
   }
   /// Writes down all that a screen reader reads.
   void read() {
@@ -176,6 +182,14 @@ class Session {
     return object == &hears_->bar_ ? new Ear(&hears_->bar_) : nullptr;
   }
 
+  struct Paintings : QObject {
+    bool eventFilter(QObject* /*bar*/, QEvent* event) override {
+      count += event->type() == QEvent::Paint;
+      return false;
+    }
+    int count = 0;
+  };
+
   static inline Session* hears_ = nullptr;
   QWidget form_;
   QWidget other_{&form_};
@@ -186,6 +200,8 @@ class Session {
   bool isSound_;
   QStringList words_;
   QStringList shown_;
+  Paintings paintings_;
+  QImage look_;
 };
 
 }  // namespace
