@@ -135,6 +135,10 @@ class PreviewHandTest : public HandTest {
     preview().setFocus();
     settle();
     area.verticalScrollBar()->setValue(0);
+    hold(Inside, {area.viewport()->width() - 5 - Inside.x(), 0});
+    QTest::keyClick(&preview(), Qt::Key_Escape);
+    QVERIFY(!area.findChild<QTimer*>(u"ScrollSteps"_s)->isActive());
+    drop(Inside);
     bar.setValue(bar.maximum() - 60);
     hold(Inside, {bar.value() + area.viewport()->width() - 5 - Inside.x(), 0});
     QTRY_COMPARE(bar.value(), bar.maximum());
