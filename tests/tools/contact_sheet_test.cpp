@@ -74,11 +74,14 @@ class ContactSheetTest : public QObject {
     game.put("Skins/T/Dusk.ini: [Textures]|Block=a.png|Gone=gone.png|");
     const QString output = folder_.filePath(u"small"_s);
 #ifdef Q_OS_UNIX
-    QVERIFY(QDir().mkdir(output) && QFile::link(game.file(u"Themes/T.ini"_s), output + u"/01.png"_s));
+    QVERIFY(QDir().mkdir(output));
+    for (const auto& name : {u"/01.png"_s, u"/overview.png"_s, u"/report.tsv"_s}) {
+      QVERIFY(QFile::link(game.file(u"Themes/T.ini"_s), output + name));
+    }
 #endif
     const QByteArray told = draw(0, {game.path(), u"T"_s, u"Dusk"_s, u"English"_s, output});
     QVERIFY2(told.contains("01/32 Loading Screen: 5 drawn, 7 left out\n"), told);
-    QVERIFY(readFile(game.file(u"Themes/T.ini"_s)).startsWith("[Colors]"));  // a link in the folder is replaced
+    QVERIFY(readFile(game.file(u"Themes/T.ini"_s)).startsWith("[Colors]"));  // links in the folder are replaced
     const QString report = QString::fromUtf8(readFile(output + u"/report.tsv"_s));
     support::compareText(u"small_report.txt"_s, report.chopped(1).split(u'\n'));
   }
