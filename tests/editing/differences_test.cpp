@@ -65,7 +65,7 @@ QString done(OpenTheme& theme, const QString& what, const QString& with) {
     return QString::number(group ? static_cast<int>(*group) : -1);
   }
   if (what == u"value"_s) return told(editing::colorValue(theme.state, editing::ColorGroup::Theme, name, {}));
-  if (what == u"lose"_s) theme.state.paths.ThemeFile += u"/none"_s;
+  if (what == u"lose"_s) theme.state.paths.ThemeFile += u"\\none"_s;
   if (what == u"protectSkin"_s) theme.folder.protect(u"skin.ini.tmp"_s);
   if (what == u"again"_s) theme.screen(theme.session.screen(), theme.session.object());
   for (themefiles::NamedColor& color : theme.state.ThemeColors) {
@@ -148,7 +148,7 @@ class DifferencesTest : public QObject {
         });
         if (goal) lines += each.told() + u": "_s + *goal;
       }
-      theme.state.paths.ThemeFile.remove(u"/none"_s);
+      theme.state.paths.ThemeFile.remove(u"\\none"_s);
       theme.folder.protect(u"skin.ini.tmp"_s, false);
       for (const themefiles::NamedColor& color : theme.state.ThemeColors) {
         if (!color.Name.isEmpty() && color.Name != u"used") lines += color.Name + u'=' + color.Value;
