@@ -99,6 +99,7 @@ inline Shown shownNow(const Program& program) {
   const mainwindows::Workspace& preview = *form.Workspace;
   const QRectF mark = preview.mark();
   all.emplace_back(u"status"_s, program.status());
+  all.emplace_back(u"pointer"_s, form.StatusBar->panel(2));
   all.emplace_back(u"toolbar"_s, program.buttons());
   all.emplace_back(u"mark"_s, preview.markVisible()
                                   ? u"%1,%2 %3x%4"_s.arg(mark.x()).arg(mark.y()).arg(mark.width()).arg(mark.height()) +
