@@ -48,6 +48,8 @@ class PreviewTest : public QObject {
     QTRY_COMPARE(sample.get(file + u".tmp"_s), expected);
     QVERIFY(sample.get(file) != expected);
     // The menu comes up behind the keys, and what the user presses meanwhile is served in the drawing of these.
+    bringToFront(program.form);
+    QTRY_COMPARE(QApplication::activeWindow(), &program.form);
     clickAt(preview, {400, 200});
     realKeys({u"Right"_s, u"shift+F10"_s, u"Escape"_s});
     expect("X=356", "X=357");
