@@ -112,7 +112,8 @@ class Deeds {
     QWidget& preview = *program_.form.Workspace;
     const QPointF at(words[0].toDouble(), words[1].toDouble());
     QMouseEvent moved(QEvent::MouseMove, at, preview.mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    return QApplication::sendEvent(&preview, &moved);
+    QApplication::sendEvent(&preview, &moved);
+    return takeMouseAway(preview), true;
   }
   /// Waits for the check of the theme, which goes on while the program is idle.
   bool waitForCheck(const Words& /*words*/) {
