@@ -35,6 +35,10 @@ class Diary {
     }
     for (const QString& dialog : program_.dialogs.asked.sliced(asked)) lines += u"asked: "_s + dialog;
     if (drawings_.count > 0) lines += u"drawn: %1"_s.arg(drawings_.count);
+    if (isPainted_ && !QTest::qWaitFor([this] { return program_.isPainted(); }, 2000)) {
+      isPainted_ = false;
+      lines += u"the preview isn't painted anew"_s;
+    }
     tellShown();
     tellFiles();
     lines.replaceInStrings(game_.path(), u"GAME\\"_s).replaceInStrings(u"\n"_s, u"|"_s);
@@ -145,6 +149,7 @@ class Diary {
   Drawings drawings_;
   Shown shown_;
   QImage picture_;
+  bool isPainted_ = true;  ///< it was so far
   QMap<QString, Written> written_;
 };
 

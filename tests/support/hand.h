@@ -21,6 +21,7 @@ class HandTest : public ProgramTest {
   void drop(const QPoint& place, Qt::KeyboardModifiers keys = {}) const {
     QTest::mouseRelease(&preview(), Qt::LeftButton, keys | Qt::ShiftModifier, place);
     settle();
+    QTRY_VERIFY(program->isPainted());
   }
   void drag(const QPoint& from, const QPoint& by, Qt::KeyboardModifiers keys = {}) const {
     hold(from, by, keys);

@@ -150,6 +150,15 @@ class Program {
   QColor shownAt(const QPoint& place) const {
     return form.Workspace->grab({place, QSize(1, 1)}).toImage().pixelColor(0, 0);
   }
+  /// Whether the screen has of the preview what a painting of the whole would give.
+  bool isPainted() const {
+    const QRect seen = form.Workspace->visibleRegion().boundingRect();
+    const QPoint at = form.Workspace->mapTo(&form, seen.topLeft());
+    const QPixmap shown = form.screen()->grabWindow(form.winId(), at.x(), at.y(), seen.width(), seen.height());
+    const QPixmap whole = form.Workspace->grab(seen);
+    return !form.isVisible() ||
+           shown.toImage().convertedTo(QImage::Format_RGB32) == whole.toImage().convertedTo(QImage::Format_RGB32);
+  }
   QString status() const { return form.StatusBar->panel(1).mid(11); }  ///< without the time
   bool enabled(int button) const { return form.ToolBar->GetButtonValue(button, toolbar::EnabledProperty).toBool(); }
   /// Which of the toolbar's buttons are enabled: "+--+".
