@@ -176,6 +176,7 @@ class WholeThemeTest : public ProgramTest {
       for (int i = 0; i < list.count(); ++i) all += list.item(i)->text();
       return all.join(u'|');
     };
+    QCOMPARE(list.accessibleName(), u"The screen in each skin and language"_s);
     QCOMPARE(names(), u"One, English|Two, English|One, Deutsch"_s);
     QTRY_VERIFY_WITH_TIMEOUT(!list.item(2)->icon().isNull(), 20000);
     key(window, Qt::Key_Return);
