@@ -76,7 +76,8 @@ inline void comparePicture(const QString& name, const QImage& given) {
                  marked);
 }
 
-/// The same of a window, once it has laid out all and its lists have shown their rows in the next frame.
+/// The same of a window or a control, once it has laid out all, its lists have shown their rows in the next frame, and
+/// what blinks is in the phase that was kept.
 template <typename Window>
 void compareSettled(const QString& name, Window& window) {
   const QImage kept = QImage(resultFile(name)).convertToFormat(QImage::Format_ARGB32);
